@@ -1,0 +1,90 @@
+#pragma once
+
+#include "velmara/ArrayPtr.hpp"
+#include "velmara/Error.hpp"
+#include "velmara/Listing.hpp"
+#include "velmara/export.hpp"
+
+#include <filesystem>
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace velmara {
+
+class HvmState;
+
+/// One host virtual machine: its modules, packages, classes, objects, types and storage. Several may live at once;
+/// each is used on one thread at a time. Every operation makes its virtual machine current for its own length.
+///
+/// Every failure is a `velmara::Error`, whatever was thrown beneath; nothing is changed by a refused call.
+/// Inputs stay the caller's; results are the caller's.
+class VELMARA_API Hvm {
+public:
+    using Inputs = std::span<hvArray_tag* const>;
+
+    Hvm();
+    Hvm(Hvm const&) = delete;
+    Hvm& operator=(Hvm const&) = delete;
+
+    /// Ends the virtual machine: its objects become invalid and give up their native objects, then its modules
+    /// are terminated, then packages, storage and types go. Arrays and handles that are left stay safe to use and
+    /// to give back.
+    ~Hvm();
+
+    /// Makes a virtual machine current on this thread, and the one before current again at its end.
+    class VELMARA_API Scope {
+    public:
+        explicit Scope(Hvm& hvm);
+        Scope(Scope const&) = delete;
+        Scope& operator=(Scope const&) = delete;
+        ~Scope();
+
+    private:
+        HvmState* previous_;
+    };
+
+    /// Loads a module by its file and runs its `VXInitialize_NAME`, where NAME is the file's stem without a
+    /// leading "lib". Loading a loaded module again only initialises it again.
+    ModuleRecord loadModule(std::filesystem::path const& file);
+
+    /// Runs `VXTerminate_NAME`. The module's code stays mapped until the virtual machine has ended.
+    void unloadModule(std::string_view name);
+    std::vector<ModuleRecord> modules() const;
+
+    /// A new object of the class as a 1-by-1 array.
+    ArrayPtr construct(std::string_view className, Inputs inputs = {});
+
+    /// Calls a method of `object` (an object array; its first element is meant). A null result when there is none.
+    ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs = {});
+    ArrayPtr callStatic(std::string_view className, std::string_view method, Inputs inputs = {});
+    ArrayPtr callFunction(std::string_view fullName, Inputs inputs = {});
+
+    ArrayPtr get(hvArray_tag* object, std::string_view property);
+    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value);
+    ArrayPtr getStatic(std::string_view className, std::string_view property);
+    void setStatic(std::string_view className, std::string_view property, hvArray_tag* value);
+
+    /// Ends the objects of an object array now: they become invalid and give up their native objects.
+    void deleteObjects(hvArray_tag* objects);
+
+    NameKind lookUp(std::string_view fullName);
+    PackageRecord describePackage(std::string_view fullName); ///< "" for the top level
+    ClassRecord describeClass(std::string_view fullName);
+    MethodRecord describeFunction(std::string_view fullName);
+
+private:
+    friend class Scope;
+    std::unique_ptr<HvmState> state_;
+};
+
+/// True when `array` holds at least one object and none that is null or invalid.
+VELMARA_API bool isValid(hvArray_tag const* array);
+
+/// True when both are object arrays of one element that is the same host object.
+VELMARA_API bool isSameObject(hvArray_tag const* a, hvArray_tag const* b);
+
+/// The name of an array's class: "double", "char", "cell", a published class, ...
+VELMARA_API std::string className(hvArray_tag const* array);
+
+} // namespace velmara

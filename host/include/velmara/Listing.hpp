@@ -1,0 +1,75 @@
+#pragma once
+
+#include "orbis/access.hpp"
+
+#include <string>
+#include <vector>
+
+namespace velmara {
+
+/// What a dotted name stands for.
+enum class NameKind { None, Package, Class, Function };
+
+/// One input or output of a callable member.
+struct ParameterRecord {
+    std::string name;
+    std::string dataType;
+};
+
+struct MethodRecord {
+    enum class Kind { Constructor, Method, StaticMethod, Function };
+
+    std::string name;
+    Kind kind = Kind::Method;
+    orbis::MemberAccess access = orbis::MemberAccess::Public;
+    bool isVisible = true;
+    bool isSealed = false;
+    bool isAbstract = false;
+    std::string description;
+    std::vector<ParameterRecord> inputs; ///< the object first where the signature has it
+    std::vector<ParameterRecord> outputs;
+    std::string definingClass; ///< full name of the class that defines it; empty for a package function
+
+    /// One line: "result = getSum(this: orbis_factory.Adder, a: int32 scalar, b: int32 scalar) -> int32 scalar".
+    std::string signature;
+};
+
+struct PropertyRecord {
+    std::string name;
+    std::string dataType;
+    orbis::MemberAccess getAccess = orbis::MemberAccess::Public;
+    orbis::MemberAccess setAccess = orbis::MemberAccess::Public;
+    bool isStatic = false;
+    bool isVisible = true;
+    std::string description;
+    std::string definingClass;
+};
+
+struct ClassRecord {
+    std::string name;
+    std::string description;
+    bool isHandle = true;
+    bool isAbstract = false;
+    bool isHidden = false;
+    std::vector<std::string> superclasses; ///< direct ones
+    std::vector<MethodRecord> methods;     ///< constructors first, then in the order of description, inherited ones last
+    std::vector<PropertyRecord> properties;
+};
+
+struct PackageRecord {
+    std::string name;
+    std::string description;
+    std::vector<std::string> packages; ///< full names, in alphabetical order; as are the others
+    std::vector<std::string> classes;
+    std::vector<MethodRecord> functions;
+};
+
+struct ModuleRecord {
+    std::string name; ///< the name in its entry points, such as "orbis_factory"
+    std::string file;
+    std::string version;
+    std::string buildDate;
+    std::string relativePath;
+};
+
+} // namespace velmara

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "libhv/hvArray.hpp"
+#include "orbis/COSNameID.hpp"
+
+#include <span>
+
+namespace orbis {
+class COSClass;
+}
+
+/// What the host interface proper lacks. Whoever brings another host implements these few functions for it.
+namespace orbis::additions {
+
+/// A new m-by-n array of zeros of a numeric, logical or character class.
+ORBIS_HOST_API hvArray* createMatrix(std::size_t m, std::size_t n, hvClassID classID);
+
+/// The elements of a numeric, logical or character array, in column order; null for other classes. The elements
+/// are of the class's native type (`bool` for logical, `char16_t` for characters).
+ORBIS_HOST_API void const* getData(hvArray_tag const* array);
+
+/// The same for writing: data shared with other arrays is copied first.
+ORBIS_HOST_API void* getWritableData(hvArray_tag* array);
+
+/// The cell at a zero-based linear index, null when it is empty. It stays the cell array's.
+ORBIS_HOST_API hvArray_tag const* getCell(hvArray_tag const* cells, std::size_t index);
+
+/// Names the direct superclasses of a class while it is being initialised. They must be published; a class that
+/// would become its own superclass is refused.
+ORBIS_HOST_API void setSuperclasses(COSClass* cls, std::span<COSNameID const> superclasses);
+
+/// A key and its text, in which {0}, {1}, ... stand for the arguments.
+struct Message {
+    char const* key;
+    char const* text;
+};
+
+/// Adds texts to a message catalog ("component:catalog") of the current virtual machine, in place of texts of the
+/// same keys. The texts are copied.
+ORBIS_HOST_API void addMessages(char const* catalog, std::span<Message const> messages);
+
+} // namespace orbis::additions

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "orbis_host_export.hpp"
+
+#include "orbis/access.hpp"
+
+namespace orbis {
+
+class COSInterface;
+
+/// A counted handle to a host object; empty when built from null. Strong unless told otherwise.
+class ORBIS_HOST_API COSInterfacePtr {
+public:
+    COSInterfacePtr(COSInterface* object = nullptr);
+    COSInterfacePtr(COSInterfacePtr const&);
+    COSInterfacePtr& operator=(COSInterfacePtr const&);
+    ~COSInterfacePtr();
+
+    /// The raw object: null for an empty handle, and for a weak one whose object has ended.
+    operator COSInterface*() const;
+
+    COSInterface* operator->();
+    COSInterface const* operator->() const;
+    COSInterface& operator*();
+    COSInterface const& operator*() const;
+
+    /// Switches this handle's hold on the object.
+    void setReferenceType(COSReferenceType type);
+
+private:
+    COSInterface* object_;
+    COSReferenceType type_;
+};
+
+} // namespace orbis

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "libhv/hvArray.hpp"
+
+#include <concepts>
+#include <cstdint>
+#include <type_traits>
+
+namespace orbis {
+
+/// The kinds of native scalar that travel in a value record: `bool`, the floating types of 32 and 64 bits, and
+/// integers of 8 to 64 bits.
+template <class T>
+concept COSScalar = std::same_as<T, bool> || std::same_as<T, float> || std::same_as<T, double> ||
+                    (std::integral<T> && !std::same_as<T, char> && !std::same_as<T, wchar_t> &&
+                     !std::same_as<T, char8_t> && !std::same_as<T, char16_t> && !std::same_as<T, char32_t>);
+
+/// The host's tagged value record: empty, a native scalar, or a host array. The data type that goes with it says
+/// which of them it holds. It owns nothing: whoever hands a value over says who gives its array back.
+class COSValue {
+public:
+    COSValue() = default;
+    explicit COSValue(hvArray_tag* array) : class_(hvUNKNOWN_CLASS), isArray_(true) { payload_.array = array; }
+
+    template <COSScalar T>
+    explicit COSValue(T scalar) : class_(classOf<T>())
+    {
+        *reinterpretPayload<T>(&payload_) = scalar;
+    }
+
+    bool isEmpty() const { return !isArray_ && class_ == hvUNKNOWN_CLASS; }
+    bool isArray() const { return isArray_; }
+
+    /// The class of the scalar, `hvUNKNOWN_CLASS` when the record holds none.
+    hvClassID scalarClass() const { return class_; }
+
+    /// The array (null allowed); null when the record holds no array.
+    hvArray_tag* array() const { return isArray_ ? payload_.array : nullptr; }
+
+    /// The scalar. The record must hold one of exactly that kind; it is not tested here.
+    template <COSScalar T>
+    T scalar() const
+    {
+        return *reinterpretPayload<T>(&payload_);
+    }
+
+    /// The class of the scalars of a native type, by its width and signedness.
+    template <COSScalar T>
+    static constexpr hvClassID classOf();
+
+private:
+    union Payload {
+        hvArray_tag* array;
+        std::uint64_t bits;
+    };
+
+    template <class T>
+    struct Alias {
+        using Type [[gnu::may_alias]] = T;
+    };
+
+    template <class T>
+    static auto reinterpretPayload(Payload* payload)
+    {
+        return reinterpret_cast<typename Alias<T>::Type*>(payload);
+    }
+
+    template <class T>
+    static auto reinterpretPayload(Payload const* payload)
+    {
+        return reinterpret_cast<typename Alias<T>::Type const*>(payload);
+    }
+
+    Payload payload_{.bits = 0};
+    hvClassID class_ = hvUNKNOWN_CLASS;
+    bool isArray_ = false;
+};
+
+template <COSScalar T>
+constexpr hvClassID COSValue::classOf()
+{
+    if constexpr (std::same_as<T, bool>)
+        return hvLOGICAL_CLASS;
+    else if constexpr (std::same_as<T, double>)
+        return hvDOUBLE_CLASS;
+    else if constexpr (std::same_as<T, float>)
+        return hvSINGLE_CLASS;
+    else if constexpr (sizeof(T) == 1)
+        return std::is_signed_v<T> ? hvINT8_CLASS : hvUINT8_CLASS;
+    else if constexpr (sizeof(T) == 2)
+        return std::is_signed_v<T> ? hvINT16_CLASS : hvUINT16_CLASS;
+    else if constexpr (sizeof(T) == 4)
+        return std::is_signed_v<T> ? hvINT32_CLASS : hvUINT32_CLASS;
+    else
+        return std::is_signed_v<T> ? hvINT64_CLASS : hvUINT64_CLASS;
+}
+
+} // namespace orbis
