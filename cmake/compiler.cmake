@@ -1,0 +1,30 @@
+# What every target is compiled and linked with.
+option(ORBIS_BUILD_TESTS "Build the tests (needs GoogleTest)" ON)
+option(ORBIS_BUILD_BENCH "Build the measurements in bench/ (needs Google Benchmark)" OFF)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# Programs find the libraries, and the console and the tests find the modules, beside themselves.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+set(CMAKE_BUILD_RPATH "$ORIGIN")
+
+add_compile_options(-Wall -Wextra -Wshadow)
+
+if(WIN32)
+    # A module's file name is its module name: orbis_factory.dll.
+    set(CMAKE_SHARED_LIBRARY_PREFIX "")
+    set(CMAKE_SHARED_MODULE_PREFIX "")
+    add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
+else()
+    add_compile_options(-fno-plt -fno-semantic-interposition)
+    add_link_options(-Wl,-z,defs)
+endif()

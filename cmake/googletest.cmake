@@ -1,0 +1,12 @@
+# GTest::gtest_main, and gtest_discover_tests. For Windows GoogleTest is compiled from Debian's source folder.
+include(GoogleTest)
+if(CMAKE_CROSSCOMPILING)
+    set(INSTALL_GTEST OFF)
+    set(BUILD_GMOCK OFF)
+    add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+    if(NOT TARGET GTest::gtest_main)
+        add_library(GTest::gtest_main ALIAS gtest_main)
+    endif()
+else()
+    find_package(GTest REQUIRED)
+endif()

@@ -1,0 +1,20 @@
+# Lua::lua: Lua 5.4 compiled as C++, so that its errors unwind C++ frames.
+if(NOT CMAKE_CROSSCOMPILING)
+    find_package(PkgConfig REQUIRED)
+    pkg_check_modules(lua REQUIRED IMPORTED_TARGET lua5.4-c++)
+    add_library(Lua::lua ALIAS PkgConfig::lua)
+    return()
+endif()
+
+# Debian has no such build for Windows: it is made from Debian's source package.
+set(lua_folder ${PROJECT_BINARY_DIR}/lua)
+if(NOT EXISTS ${lua_folder}/source/src/lua.h)
+    execute_process(COMMAND ${PROJECT_SOURCE_DIR}/scripts/fetch-lua-source ${lua_folder} COMMAND_ERROR_IS_FATAL ANY)
+endif()
+file(GLOB lua_sources ${lua_folder}/source/src/*.c)
+list(FILTER lua_sources EXCLUDE REGEX "/(lua|luac)\\.c$")
+set_source_files_properties(${lua_sources} PROPERTIES LANGUAGE CXX)
+add_library(lua_cxx STATIC ${lua_sources})
+target_compile_options(lua_cxx PRIVATE -w)
+target_include_directories(lua_cxx SYSTEM INTERFACE ${lua_folder}/source/src)
+add_library(Lua::lua ALIAS lua_cxx)
