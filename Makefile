@@ -2,7 +2,7 @@
 .PHONY: help run test check sanitize windows bench clean
 
 help: ## list the targets
-	@sed -n 's/^\([a-z]*\):.*## \(.*\)/  make \1|\2/p' Makefile | column -t -s '|'
+	@awk -F ':.*## ' '/^[a-z]+:.*## / { printf "  make %-9s %s\n", $$1, $$2 }' Makefile
 run: ## build the optimised console and run the sample script
 	@scripts/run
 test: ## build for development and run every test
