@@ -5,6 +5,7 @@
 #include "orbis/COSInterface.hpp"
 
 #include <cstdint>
+#include <vector>
 
 namespace velmara {
 
@@ -16,34 +17,94 @@ class HvmState;
 /// storage goes when no handle, strong or weak, and no array is left.
 class Object final : public orbis::COSInterface {
 public:
+    /// A new object of `cls` with no reference yet, entered in the class's list. It has no instance data until
+    /// `initialize`.
+    explicit Object(Class& cls);
+
     void addExternal() { ++external_; }
     void addInternal() { ++internal_; }
+    void addWeak() { ++weak_; }
 
     void removeExternal()
     {
-        --external_;
-        if (external_ + internal_ == 0)
+        if (--external_ + internal_ == 0)
             lastReferenceGone();
     }
 
     void removeInternal()
     {
-        --internal_;
-        if (external_ + internal_ == 0)
+        if (external_ + --internal_ == 0)
             lastReferenceGone();
     }
 
+    void removeWeak()
+    {
+        if (--weak_ == 0)
+            freeIfUnreferenced();
+    }
+
+    /// The name of its class, also when the class is gone.
     Name className() const { return className_; }
 
-    // ... the rest is for the author of the object system: slots of instance data per class of the hierarchy,
-    // validity, weak count, virtual machine, list of live objects, the operations of COSInterface.
+    /// Null once the object has ended.
+    Class* classOf() const { return class_; }
+    HvmState* machine() const { return machine_; }
+
+    bool isValid() const { return state_ == State::Valid; }
+
+    /// True when the object's life is over: weak handles to it are null.
+    bool isEnded() const { return state_ >= State::Ending; }
+
+    /// Makes the instance data of the class and its superclasses, superclasses first. When one fails, what was
+    /// made is destroyed again and the object stays uninitialised.
+    void initialize();
+
+    /// Gives up the instance data, the most derived class's first, and leaves the object invalid, without class
+    /// and virtual machine. Nothing escapes; a second call does nothing.
+    void end() noexcept;
+
+    void setNativeObject(orbis::COSNameID const& className, void* object) override;
+    void* getNativeObject(orbis::COSNameID const& className) const override;
+    void setValid(bool valid) override;
+    void addReference() override { addExternal(); }
+    void removeReference() override { removeExternal(); }
+    int getExternalReferenceCount() const override { return external_; }
+    int getInternalReferenceCount() const override { return internal_; }
 
 private:
-    void lastReferenceGone();
+    friend class ObjectList;
+
+    enum class State : std::uint8_t { Valid, Invalid, Ending, Ended };
+
+    /// The native object for one class name; `made` when the class's `createInstanceData` ran for it.
+    struct Slot {
+        Name className = nullptr;
+        void* native = nullptr;
+        bool made = false;
+    };
+
+    ~Object();
+
+    void lastReferenceGone() noexcept;
+    void freeIfUnreferenced() noexcept;
+    Slot& slotOf(Name className);
+    Slot const* findFurther(Name className) const;
+    void createInstanceData(Class& cls);
+    void destroyInstanceData() noexcept;
+    void forgetNativeObjects() noexcept;
 
     std::int32_t external_ = 0;
     std::int32_t internal_ = 0;
-    Name className_ = nullptr;
+    std::int32_t weak_ = 0;
+    State state_ = State::Valid;
+    bool isInitialized_ = false;
+    Name className_;
+    Slot own_;
+    Class* class_;
+    HvmState* machine_;
+    std::vector<Slot> further_;
+    Object* previous_ = nullptr;
+    Object* next_ = nullptr;
 };
 
 } // namespace velmara
