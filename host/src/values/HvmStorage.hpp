@@ -1,0 +1,58 @@
+#pragma once
+
+#include "libkwfoundation_usm/Detail.hpp"
+
+#include <list>
+#include <vector>
+
+namespace velmara {
+
+/// The values that modules keep in one virtual machine, known by id and type. Values go in the reverse order in
+/// which they were stored; while one goes it is no longer found, and its deleter may use the storage.
+class HvmStorage {
+public:
+    using Holder = foundation::usm::Detail<foundation::usm::scope::Hvm>::Holder;
+
+    HvmStorage() = default;
+    HvmStorage(HvmStorage const&) = delete;
+    HvmStorage& operator=(HvmStorage const&) = delete;
+    ~HvmStorage() { clear(); }
+
+    Holder* find(std::uint64_t id, std::type_info const& type) const
+    {
+        Entry* const entry = findEntry(id, type);
+        return entry ? &entry->holder : nullptr;
+    }
+
+    Holder& findOrInsert(std::uint64_t id, std::type_info const& type, Holder&& value);
+    Holder& insert(std::uint64_t id, std::type_info const& type, Holder&& value);
+    bool erase(std::uint64_t id, std::type_info const& type);
+
+    /// Gives up everything, also what deleters store meanwhile.
+    void clear();
+
+private:
+    struct Entry {
+        std::uint64_t id;
+        std::type_info const* type;
+        Holder holder;
+        Entry* sameID = nullptr; ///< the next entry of this id, of another type
+        std::list<Entry>::iterator place = {};
+    };
+
+    Entry* findEntry(std::uint64_t id, std::type_info const& type) const
+    {
+        Entry* entry = id < byID_.size() ? byID_[id] : nullptr;
+        while (entry && entry->type != &type && *entry->type != type)
+            entry = entry->sameID;
+        return entry;
+    }
+
+    Holder& store(std::list<Entry>& made);
+    void remove(Entry& entry);
+
+    std::list<Entry> inOrder_;
+    std::vector<Entry*> byID_;
+};
+
+} // namespace velmara
