@@ -1,0 +1,36 @@
+#pragma once
+
+#include "orbis/factory/MemberRecord.hpp"
+#include "orbis/factory/export.hpp"
+
+#include "orbis/COSClass.hpp"
+
+#include <vector>
+
+namespace orbis::factory {
+
+/// A class as it is described: a value that can be looked at without a host.
+class ORBIS_FACTORY_API ClassDescription {
+public:
+    /// `hostName` is the class's full dotted name; a literal.
+    explicit ClassDescription(char const* hostName);
+    ClassDescription(ClassDescription const&);
+    ~ClassDescription();
+
+    char const* hostName() const;
+    std::vector<MemberRecord> const& members() const;
+
+protected:
+    void add(MemberRecord record);
+
+private:
+    char const* hostName_;
+    std::vector<MemberRecord> members_;
+};
+
+/// Gives the host class a descriptor for every member of the description, constructors first, each kind in the order
+/// of description. To be called by the class info's `initializeClass`. Errors of the host pass through; what was
+/// handed over before stays the host's.
+ORBIS_FACTORY_API void publish(COSClass* cls, ClassDescription const& description);
+
+} // namespace orbis::factory

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "orbis/factory/MemberRecord.hpp"
+#include "orbis/factory/export.hpp"
+
+#include "orbis/COSPackage.hpp"
+
+#include <vector>
+
+namespace orbis::factory {
+
+/// Package functions as they are described: a value that can be looked at without a host.
+class ORBIS_FACTORY_API FunctionDescription {
+public:
+    FunctionDescription();
+    FunctionDescription(FunctionDescription const&);
+    ~FunctionDescription();
+
+    std::vector<MemberRecord> const& functions() const;
+
+protected:
+    void add(MemberRecord record);
+
+private:
+    std::vector<MemberRecord> functions_;
+};
+
+/// Adds each function to the package, in the order of description. Errors of the host pass through.
+ORBIS_FACTORY_API void publish(COSPackage* package, FunctionDescription const& description);
+
+} // namespace orbis::factory

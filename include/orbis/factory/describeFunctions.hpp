@@ -1,0 +1,41 @@
+#pragma once
+
+#include "orbis/factory/FunctionDescription.hpp"
+#include "orbis/factory/ParameterNames.hpp"
+#include "orbis/factory/detail/makeRecord.hpp"
+#include "orbis/factory/overload.hpp"
+
+namespace orbis::factory {
+
+/// Describes package functions, one line each, in the grammar of `describe`:
+///
+///     publish(package, describeFunctions().function("add", &add, "a, b"));
+class FunctionDescriber : public FunctionDescription {
+    template <class F>
+    using Traits = detail::CallableTraits<std::decay_t<F>>;
+
+public:
+    /// A free function, static member function or captureless lambda.
+    template <class F>
+    FunctionDescriber& function(char const* name, F callable, ParameterNames<Traits<F>::arity> names = {})
+    {
+        constexpr bool isFree = Traits<F>::kind == detail::CallableKind::Free;
+        static_assert(isFree, "A package function is a free function, a static member function or a lambda that "
+                              "captures nothing; pick one of several overloads with overload<...>().");
+        if constexpr (isFree) {
+            using Result = typename Traits<F>::Result;
+            using Parameters = typename Traits<F>::Parameters;
+            if constexpr (detail::signatureCanCross<Result>(Parameters{}))
+                add(detail::freeFunctionRecord<typename Traits<F>::Pointer, Result, Parameters>(
+                    name, callable, names.text(), MethodAttributes::Static()));
+        }
+        return *this;
+    }
+};
+
+inline FunctionDescriber describeFunctions()
+{
+    return {};
+}
+
+} // namespace orbis::factory

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "orbis/factory/MarshalingPolicy.hpp"
+
+#include "orbis/COSValue.hpp"
+
+#include <cstddef>
+#include <utility>
+
+namespace orbis::factory::detail {
+
+/// Marshalers of native scalars work on the value slot itself, all others on the array in it.
+template <class T>
+concept TravelsInSlot = requires(COSValue const& slot) {
+    MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(slot);
+};
+
+template <class T>
+decltype(auto) convertFromHost(COSValue const& slot)
+{
+    if constexpr (TravelsInSlot<T>)
+        return MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(slot);
+    else
+        return MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(slot.array());
+}
+
+/// The native value of one input of type `T` for the length of a call. What the conversion allocated goes with it.
+template <class T>
+class Argument {
+public:
+    explicit Argument(COSValue const& slot) : held_(convertFromHost<T>(slot)) {}
+
+    decltype(auto) get()
+    {
+        if constexpr (requires { held_.value(); })
+            return held_.value();
+        else
+            return (held_);
+    }
+
+private:
+    decltype(convertFromHost<T>(std::declval<COSValue const&>())) held_;
+};
+
+/// The arguments of a call, converted from left to right.
+template <class Indices, class... T>
+class Arguments;
+
+template <std::size_t Index, class T>
+struct ArgumentAt : Argument<T> {
+    using Argument<T>::Argument;
+};
+
+template <std::size_t... Index, class... T>
+class Arguments<std::index_sequence<Index...>, T...> : ArgumentAt<Index, T>... {
+public:
+    explicit Arguments([[maybe_unused]] COSValue const* inputs) : ArgumentAt<Index, T>(inputs[Index])... {}
+
+    template <class F>
+    decltype(auto) apply(F&& function)
+    {
+        return std::forward<F>(function)(static_cast<ArgumentAt<Index, T>&>(*this).get()...);
+    }
+
+    decltype(auto) first()
+        requires(sizeof...(T) > 0)
+    {
+        return firstOf(*this);
+    }
+
+private:
+    template <class First>
+    static decltype(auto) firstOf(ArgumentAt<0, First>& argument)
+    {
+        return argument.get();
+    }
+};
+
+template <class... T>
+using ArgumentsOf = Arguments<std::index_sequence_for<T...>, T...>;
+
+/// Calls `function` and stores what it gives, if anything, as the one output.
+template <class Result, class F>
+void storeResult(int& outputCount, COSValue* outputs, F&& function)
+{
+    if constexpr (std::is_void_v<Result>) {
+        std::forward<F>(function)();
+    } else {
+        using Native = MarshaledTypeOf<Result>;
+        if constexpr (TravelsInSlot<Result>) {
+            MarshalerOf<Result>::template toHost<Native>(std::forward<F>(function)(), outputs);
+        } else {
+            hvArray* array = nullptr;
+            MarshalerOf<Result>::template toHost<Native>(std::forward<F>(function)(), &array);
+            *outputs = COSValue(array);
+        }
+        if (outputCount == 0)
+            outputCount = 1;
+    }
+}
+
+} // namespace orbis::factory::detail

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstddef>
+#include <type_traits>
+#include <utility>
+
+namespace orbis::factory::detail {
+
+template <class... T>
+struct TypeList {
+    static constexpr std::size_t size = sizeof...(T);
+};
+
+enum class CallableKind { None, Free, Member };
+
+/// What a description needs to know of a callable: its kind, result, parameters, and the pointer type to keep it as.
+template <class F>
+struct CallableTraits {
+    static constexpr CallableKind kind = CallableKind::None;
+    static constexpr std::size_t arity = 20;
+};
+
+template <class R, class... A>
+struct CallableTraits<R (*)(A...)> {
+    static constexpr CallableKind kind = CallableKind::Free;
+    static constexpr std::size_t arity = sizeof...(A);
+    using Result = R;
+    using Parameters = TypeList<A...>;
+    using Pointer = R (*)(A...);
+
+    template <class T>
+    static constexpr bool takesObject = false;
+};
+
+template <class R, class First, class... A>
+struct CallableTraits<R (*)(First, A...)> {
+    static constexpr CallableKind kind = CallableKind::Free;
+    static constexpr std::size_t arity = 1 + sizeof...(A);
+    using Result = R;
+    using Parameters = TypeList<First, A...>;
+    using Pointer = R (*)(First, A...);
+
+    template <class T>
+    static constexpr bool takesObject = std::is_same_v<First, T*> || std::is_same_v<First, T const*>;
+};
+
+template <class R, class... A>
+struct CallableTraits<R (*)(A...) noexcept> : CallableTraits<R (*)(A...)> {};
+
+template <class C, class R, bool IsConst, class... A>
+struct MemberTraits {
+    static constexpr CallableKind kind = CallableKind::Member;
+    static constexpr std::size_t arity = sizeof...(A);
+    using Result = R;
+    using Parameters = TypeList<A...>;
+    using Class = C;
+
+    /// The same function as a member of a class derived from its own.
+    template <class T>
+    using PointerIn = std::conditional_t<IsConst, R (T::*)(A...) const, R (T::*)(A...)>;
+};
+
+template <class C, class R, class... A>
+struct CallableTraits<R (C::*)(A...)> : MemberTraits<C, R, false, A...> {};
+template <class C, class R, class... A>
+struct CallableTraits<R (C::*)(A...) const> : MemberTraits<C, R, true, A...> {};
+template <class C, class R, class... A>
+struct CallableTraits<R (C::*)(A...) noexcept> : MemberTraits<C, R, false, A...> {};
+template <class C, class R, class... A>
+struct CallableTraits<R (C::*)(A...) const noexcept> : MemberTraits<C, R, true, A...> {};
+
+/// A lambda that captures nothing counts as the free function it converts to.
+template <class F>
+    requires std::is_class_v<F> && requires(F function) { +function; }
+struct CallableTraits<F> : CallableTraits<decltype(+std::declval<F>())> {};
+
+} // namespace orbis::factory::detail

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "orbis/factory/HostClass.hpp"
+#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/export.hpp"
+
+#include "libhv/hvArray.hpp"
+#include "orbis/COSNameID.hpp"
+
+#include <type_traits>
+
+namespace orbis::factory::detail {
+
+/// The native object recorded for `className` in the first object of `array`; null when the array is empty, its
+/// first element is null, or nothing is recorded.
+ORBIS_FACTORY_API void* nativeObject(hvArray_tag const* array, char const* className);
+
+/// What the policies for one object have in common. `Cast` goes between the address under which an object is bound
+/// and a pointer to its native class.
+template <class Cast>
+class ObjectPointerMarshaler {
+public:
+    /// The address under which the object is bound.
+    template <PublishedClass T>
+    static void* boundAddress(T* object)
+    {
+        return Cast::toBound(object);
+    }
+
+    /// The bound host object, made when there is none; 0-by-0 for null.
+    template <PublishedClass T>
+    static void toHost(T const* value, hvArray** out)
+    {
+        *out = basic::BindingRegistry::announce(boundAddress(const_cast<T*>(value)), dataTypeName<T>());
+    }
+
+    /// The native object of the array's first element, or null.
+    template <PublishedClass T>
+    static T* fromHost(hvArray_tag const* in)
+    {
+        return Cast::template fromBound<T>(nativeObject(in, HostClass<T>::name));
+    }
+
+    template <PublishedClass T>
+    static COSNameID dataTypeName()
+    {
+        return COSNameID(HostClass<T>::name);
+    }
+
+    template <PublishedClass T>
+    static char const* dataTypeText()
+    {
+        return HostClass<T>::name;
+    }
+};
+
+/// Bound as the root class, found by a static cast.
+struct StaticCast {
+    template <class T>
+    static void* toBound(T* object)
+    {
+        return static_cast<RootClass<T>*>(object);
+    }
+
+    template <class T>
+    static T* fromBound(void* object)
+    {
+        return static_cast<T*>(static_cast<RootClass<T>*>(object));
+    }
+};
+
+/// Bound as `Base`, found by a dynamic cast: null for an object of another class.
+template <class Base>
+struct DynamicCast {
+    template <class T>
+    static void* toBound(T* object)
+    {
+        return static_cast<Base*>(object);
+    }
+
+    template <class T>
+    static T* fromBound(void* object)
+    {
+        return dynamic_cast<T*>(static_cast<Base*>(object));
+    }
+};
+
+/// `DynamicCast` from the root class that each class names for itself.
+struct DynamicCastFromRoot {
+    template <class T>
+    static void* toBound(T* object)
+    {
+        return DynamicCast<RootClass<T>>::toBound(object);
+    }
+
+    template <class T>
+    static T* fromBound(void* object)
+    {
+        return DynamicCast<RootClass<T>>::template fromBound<T>(object);
+    }
+};
+
+} // namespace orbis::factory::detail

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/detail/Argument.hpp"
+#include "orbis/factory/detail/CallableTraits.hpp"
+#include "orbis/factory/impl/Invoker.hpp"
+#include "orbis/factory/impl/validateSelfPointer.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <memory>
+#include <type_traits>
+
+/// The routines behind `impl::Invoker::invokeFn`: one for each function type. The callable is read from the record,
+/// so functions of one type share their routine.
+namespace orbis::factory::detail {
+
+template <class Pointer, class Result, class Parameters>
+struct FreeFunctionRoutine;
+
+template <class Pointer, class Result, class... A>
+struct FreeFunctionRoutine<Pointer, Result, TypeList<A...>> {
+    static void invoke(impl::Invoker const* invoker, COSClient const*, int& outputCount, COSValue* outputs, int,
+                       COSValue const* inputs)
+    {
+        ArgumentsOf<A...> arguments(inputs);
+        // Only a pointer can fail the check: the address of a converted value is never null.
+        if constexpr (sizeof...(A) > 0) {
+            if constexpr (std::is_pointer_v<std::remove_cvref_t<decltype(arguments.first())>>)
+                impl::validateSelfPointer(arguments.first(), *invoker);
+        }
+        storeResult<Result>(outputCount, outputs, [&]() -> Result {
+            return arguments.apply(invoker->target.template as<Pointer>());
+        });
+    }
+};
+
+template <class T, class Pointer, class Result, class Parameters>
+struct MemberFunctionRoutine;
+
+template <class T, class Pointer, class Result, class... A>
+struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
+    static void invoke(impl::Invoker const* invoker, COSClient const*, int& outputCount, COSValue* outputs, int,
+                       COSValue const* inputs)
+    {
+        T* const self = convertFromHost<T*>(inputs[0]);
+        ArgumentsOf<A...> arguments(inputs + 1);
+        if (!self) [[unlikely]]
+            impl::validateSelfPointer(self);
+        storeResult<Result>(outputCount, outputs, [&]() -> Result {
+            return arguments.apply([&](auto&&... values) -> Result {
+                return (self->*invoker->target.template as<Pointer>())(static_cast<decltype(values)>(values)...);
+            });
+        });
+    }
+};
+
+/// Throws the error of a constructor that cannot give its arguments to the object that exists already.
+[[noreturn]] ORBIS_FACTORY_API void refuseReconstruction(char const* className);
+
+/// Constructs the native object of the host object in `outputs[0]`. Where the class info has made one already, that
+/// one is used, and takes the value of a new one when the constructor has arguments.
+template <class T, class... A>
+struct ConstructorRoutine {
+    static void invoke(impl::Invoker const*, COSClient const*, int& outputCount, COSValue* outputs, int,
+                       COSValue const* inputs)
+    {
+        hvArray* const constructed = outputs[0].array();
+        T* const existing = convertFromHost<T*>(outputs[0]);
+        ArgumentsOf<A...> arguments(inputs);
+        if (existing) {
+            assign(*existing, arguments);
+            announce(existing, constructed);
+        } else {
+            auto made = arguments.apply([](auto&&... values) {
+                return std::make_unique<T>(static_cast<decltype(values)>(values)...);
+            });
+            announce(made.get(), constructed);
+            made.release();
+        }
+        if (outputCount == 0)
+            outputCount = 1;
+    }
+
+private:
+    static void announce(T* object, hvArray* constructed)
+    {
+        using Bound = MarshalerOf<T*>;
+        basic::BindingRegistry::announceForConstructor(Bound::boundAddress(object),
+                                                       Bound::template dataTypeName<T>(), constructed, true);
+    }
+
+    static void assign([[maybe_unused]] T& existing, [[maybe_unused]] ArgumentsOf<A...>& arguments)
+    {
+        if constexpr (sizeof...(A) > 0) {
+            if constexpr (std::is_move_assignable_v<T>)
+                existing = arguments.apply([](auto&&... values) { return T(static_cast<decltype(values)>(values)...); });
+            else
+                refuseReconstruction(HostClass<T>::name);
+        }
+    }
+};
+
+} // namespace orbis::factory::detail

@@ -1,0 +1,12 @@
+#pragma once
+
+// Marks what the library exports. Its own build defines ORBIS_FACTORY_BUILD.
+#if defined(_WIN32)
+#if defined(ORBIS_FACTORY_BUILD)
+#define ORBIS_FACTORY_API __declspec(dllexport)
+#else
+#define ORBIS_FACTORY_API __declspec(dllimport)
+#endif
+#else
+#define ORBIS_FACTORY_API __attribute__((visibility("default")))
+#endif

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+#include <type_traits>
+
+namespace orbis::factory::impl {
+
+/// A pointer to a free function or to a member function, without its type. Null when default-made.
+class Callable {
+public:
+    Callable() = default;
+
+    template <class F>
+        requires std::is_pointer_v<F> || std::is_member_function_pointer_v<F>
+    Callable(F function)
+    {
+        static_assert(sizeof(F) <= sizeof(bytes_), "A pointer to a function takes two words at most.");
+        std::memcpy(bytes_, &function, sizeof(F));
+    }
+
+    /// The pointer; `F` must be the type it was made from.
+    template <class F>
+    F as() const
+    {
+        F function;
+        std::memcpy(&function, bytes_, sizeof(F));
+        return function;
+    }
+
+private:
+    alignas(void*) std::byte bytes_[2 * sizeof(void*)] = {};
+};
+
+} // namespace orbis::factory::impl

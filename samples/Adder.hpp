@@ -1,0 +1,42 @@
+#pragma once
+
+#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/HostClass.hpp"
+
+/// Adds numbers, and keeps the total of all that it added.
+class Adder {
+public:
+    Adder() = default;
+    explicit Adder(int start) : total_(start) {}
+
+    int getSum(int a, int b);
+    int getSumOfTen(int a, int b, int c, int d, int e, int f, int g, int h, int i, int j);
+    int getSumOfTwenty(int a, int b, int c, int d, int e, int f, int g, int h, int i, int j, int k, int l, int m, int n,
+                       int o, int p, int q, int r, int s, int t);
+    int getTotal() const;
+    void reset();
+
+    static int zero();
+
+private:
+    int total_ = 0;
+};
+
+template <>
+struct orbis::factory::HostClass<Adder> {
+    static constexpr char const* name = "orbis_factory.Adder";
+};
+
+namespace orbis::factory::samples {
+
+/// Keeps the native object in a block of four bytes that comes and goes with the host object.
+class CosAdder final : public HandleClassInfo<Adder, 0> {
+public:
+    CosAdder();
+
+    void initializeClass(COSClass* cls) override;
+    void* createInstanceData() override;
+    bool destroyInstanceData(COSInterface* object, void* data) override;
+};
+
+} // namespace orbis::factory::samples

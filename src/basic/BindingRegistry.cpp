@@ -1,0 +1,175 @@
+#include "orbis/factory/basic/BindingRegistry.hpp"
+
+#include "orbis/factory/CopyableSupport.hpp"
+#include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/errorIdentities.hpp"
+
+#include "libhv/libhv.hpp"
+#include "libkwfl/Exception.hpp"
+#include "libkwfoundation_usm/Detail.hpp"
+#include "orbis/COSClass.hpp"
+#include "orbis/COSInterface.hpp"
+#include "orbis/objectArrays.hpp"
+
+#include <memory>
+
+namespace orbis::factory::basic {
+
+namespace {
+
+using ArrayOwner = std::unique_ptr<hvArray, hvDestroy_deleter>;
+
+COSInterfacePtr newInitializedInstance(COSNameID const& className)
+{
+    COSClass* const cls = COSClass::getClass(className);
+    if (!cls) {
+        using orbis_factory::orbis_factory::no_such_class;
+        throw foundation::core::except::Exception<no_such_class, std::exception, void>(
+            no_such_class(static_cast<COSString>(className).c_str()));
+    }
+    COSInterfacePtr instance = cls->newInstance();
+    cls->initializeInstance(instance);
+    return instance;
+}
+
+/// An address that is a key already keeps its entry.
+void insert(void* object, COSInterface* host)
+{
+    auto entry = std::make_unique<RegistryEntry>(object, COSInterfacePtr(host));
+    if (registry().emplace(object, entry.get()).second)
+        entry.release();
+}
+
+/// Erases the mapping of `object`; an empty pointer when it is no key.
+std::unique_ptr<RegistryEntry> take(void const* object)
+{
+    FooRegistry& table = registry();
+    auto const found = table.find(object);
+    if (found == table.end())
+        return nullptr;
+    std::unique_ptr<RegistryEntry> entry(found->second);
+    table.erase(found);
+    return entry;
+}
+
+} // namespace
+
+BindingRegistry& BindingRegistry::operator=(BindingRegistry const&)
+{
+    return *this;
+}
+
+BindingRegistry& BindingRegistry::operator=(BindingRegistry&&)
+{
+    return *this;
+}
+
+hvArray* BindingRegistry::announce(void* object, COSNameID const& className)
+{
+    bool created;
+    return announce(object, className, created);
+}
+
+hvArray* BindingRegistry::announce(void* object, COSNameID const& className, bool& created)
+{
+    COSInterface* const bound = find(object);
+    std::size_t const size = object ? 1 : 0;
+    ArrayOwner result(omCreateORBISMatrix(size, size, className));
+    if (bound) {
+        omSetArrayElement(result.get(), 0, COSInterfacePtr(bound));
+    } else if (object) {
+        COSInterfacePtr instance = newInitializedInstance(className);
+        instance->setNativeObject(className, object);
+        omSetArrayElement(result.get(), 0, instance);
+        insert(object, instance);
+    }
+    created = object && !bound;
+    return result.release();
+}
+
+hvArray* BindingRegistry::announce(void const* object, COSNameID const& className)
+{
+    return announce(const_cast<void*>(object), className);
+}
+
+hvArray* BindingRegistry::announce(void const* object, COSNameID const& className, bool& created)
+{
+    return announce(const_cast<void*>(object), className, created);
+}
+
+COSInterfacePtr BindingRegistry::announceInternal(void* object, COSNameID const& className, bool& created)
+{
+    ArrayOwner const array(announce(object, className, created));
+    return object ? omGetArrayElement(array.get(), 0) : COSInterfacePtr();
+}
+
+void BindingRegistry::announceForConstructor(void* const object, COSNameID const& className, hvArray* constructed,
+                                             bool store)
+{
+    CopyableSupport::removeFromUnconstructedSet(object);
+    COSInterfacePtr instance = cosiGetArrayElement(constructed, 0);
+    instance->setNativeObject(className, object);
+    if (object && store)
+        insert(object, instance);
+}
+
+hvArray* BindingRegistry::announceWithoutStoring(void* source, COSNameID const& className,
+                                                 void (*copy)(void* destination, void* source))
+{
+    ArrayOwner result(omCreateORBISMatrix(1, 1, className));
+    COSInterfacePtr instance = newInitializedInstance(className);
+    void* const destination = instance->getNativeObject(className);
+    copy(destination, source);
+    CopyableSupport::removeFromUnconstructedSet(destination);
+    omSetArrayElement(result.get(), 0, instance);
+    return result.release();
+}
+
+bool BindingRegistry::contains(void const* const object)
+{
+    return registry().count(object) != 0;
+}
+
+COSInterface* BindingRegistry::find(void const* const object)
+{
+    FooRegistry const& table = registry();
+    auto const found = table.find(object);
+    return found == table.end() ? nullptr : found->second->host;
+}
+
+void BindingRegistry::hijack(void const* const oldObject, void* newObject, COSInterface* host,
+                             COSNameID const& className)
+{
+    // A binding of the old address to another host object is left in place on purpose.
+    bool const movesBinding = oldObject != newObject && find(oldObject) == host;
+    host->setNativeObject(className, newObject);
+    insert(newObject, host);
+    if (movesBinding)
+        take(oldObject);
+}
+
+bool BindingRegistry::release(void const* const object)
+{
+    return remove(object);
+}
+
+bool BindingRegistry::remove(void const* const object)
+{
+    return take(object) != nullptr;
+}
+
+bool BindingRegistry::retract(void const* const object)
+{
+    if (!foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())
+        return false;
+    std::unique_ptr<RegistryEntry> const entry = take(object);
+    if (!entry)
+        return false;
+    if (!entry->retracted) {
+        entry->retracted = true;
+        COSInterfacePtr(entry->host)->setValid(false);
+    }
+    return true;
+}
+
+} // namespace orbis::factory::basic

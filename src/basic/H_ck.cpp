@@ -1,0 +1,31 @@
+#include "orbis/factory/H_ck.hpp"
+
+#include "orbis/COSInterfacePtr.hpp"
+
+namespace orbis::factory {
+
+H_ck& H_ck::operator=(H_ck const&)
+{
+    return *this;
+}
+
+H_ck& H_ck::operator=(H_ck&&)
+{
+    return *this;
+}
+
+void H_ck::incrementRefCount(COSInterface* host)
+{
+    if (!host)
+        return;
+    host->addReference();
+    COSInterfacePtr(host).setReferenceType(COSReferenceType::Strong);
+}
+
+void H_ck::decrementRefCount(COSInterface* host)
+{
+    if (host)
+        host->removeReference();
+}
+
+} // namespace orbis::factory

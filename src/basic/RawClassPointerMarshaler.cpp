@@ -1,0 +1,23 @@
+#include "orbis/factory/RawClassPointerMarshaler.hpp"
+
+#include "orbis/factory/InterfaceEnumeration.hpp"
+#include "orbis/factory/basic/BindingRegistry.hpp"
+
+namespace orbis::factory {
+
+RawClassPointerMarshaler& RawClassPointerMarshaler::operator=(RawClassPointerMarshaler const&)
+{
+    return *this;
+}
+
+RawClassPointerMarshaler& RawClassPointerMarshaler::operator=(RawClassPointerMarshaler&&)
+{
+    return *this;
+}
+
+Enumeration<COSInterface*> RawClassPointerMarshaler::toCosi(void const* const object)
+{
+    return Enumeration<COSInterface*>(new InterfaceEnumeration(basic::BindingRegistry::find(object)));
+}
+
+} // namespace orbis::factory

@@ -1,0 +1,23 @@
+#include "orbis/factory/impl/MethodImpl.hpp"
+
+namespace orbis::factory::impl {
+
+MethodImpl::MethodImpl(char const* name, MethodAttributes attributes, char const* description)
+    : OrbisMethod(name, attributes, description)
+{
+}
+
+MethodImpl::~MethodImpl() = default;
+
+void MethodImpl::invoke(COSClient const* client, int& outputCount, COSValue* outputs, int inputCount,
+                        COSValue const* inputs) const
+{
+    invoker_.invokeFn(&invoker_, client, outputCount, outputs, inputCount, inputs);
+}
+
+Invoker& MethodImpl::invoker()
+{
+    return invoker_;
+}
+
+} // namespace orbis::factory::impl

@@ -1,0 +1,17 @@
+#include "orbis/factory/errorIdentities.hpp"
+
+namespace orbis_factory::orbis_factory {
+
+namespace {
+constexpr char const* catalog = "orbis_factory:orbis_factory";
+} // namespace
+
+null_self::null_self() : BaseMsgID(catalog, "null_self") {}
+
+null_self::~null_self() = default;
+
+no_such_class::no_such_class(char const* className) : BaseMsgID(catalog, "no_such_class", {className}) {}
+
+no_such_class::~no_such_class() = default;
+
+} // namespace orbis_factory::orbis_factory

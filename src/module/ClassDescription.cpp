@@ -1,0 +1,28 @@
+#include "orbis/factory/ClassDescription.hpp"
+
+#include <utility>
+
+namespace orbis::factory {
+
+ClassDescription::ClassDescription(char const* hostName) : hostName_(hostName) {}
+
+ClassDescription::ClassDescription(ClassDescription const&) = default;
+
+ClassDescription::~ClassDescription() = default;
+
+char const* ClassDescription::hostName() const
+{
+    return hostName_;
+}
+
+std::vector<MemberRecord> const& ClassDescription::members() const
+{
+    return members_;
+}
+
+void ClassDescription::add(MemberRecord record)
+{
+    members_.push_back(std::move(record));
+}
+
+} // namespace orbis::factory

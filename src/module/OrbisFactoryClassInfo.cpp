@@ -1,0 +1,32 @@
+#include "orbis/factory/OrbisFactoryClassInfo.hpp"
+
+namespace orbis::factory {
+
+OrbisFactoryClassInfo::OrbisFactoryClassInfo(std::string const& name, std::string const& description)
+    : name_(name), description_(description)
+{
+}
+
+OrbisFactoryClassInfo::~OrbisFactoryClassInfo() = default;
+
+char const* OrbisFactoryClassInfo::getName() const
+{
+    return name_.c_str();
+}
+
+char const* OrbisFactoryClassInfo::getDescription() const
+{
+    return description_.c_str();
+}
+
+char const* OrbisFactoryClassInfo::getDetailedDescription() const
+{
+    return getDescription();
+}
+
+bool OrbisFactoryClassInfo::slot10Flag() const
+{
+    return true;
+}
+
+} // namespace orbis::factory

@@ -1,0 +1,37 @@
+#include "orbis/factory/export.hpp"
+
+#include "module/PerHVMInitialization.hpp"
+#include "module/functionTable.hpp"
+#include "module/rootPackage.hpp"
+
+#include "orbis/COSNameID.hpp"
+#include "orbis/COSPackage.hpp"
+#include "orbis/COSPackageInfo.hpp"
+
+using namespace orbis::factory;
+
+extern "C" {
+
+ORBIS_FACTORY_API void VXInitialize_orbis_factory()
+{
+    if (!PerHVMInitialization<RootPackage>::set())
+        return;
+    try {
+        orbis::COSPackage::addPackage(makeRootPackage().release());
+    } catch (...) {
+        PerHVMInitialization<RootPackage>::clear();
+        throw;
+    }
+}
+
+ORBIS_FACTORY_API void VXTerminate_orbis_factory()
+{
+    if (PerHVMInitialization<RootPackage>::clear())
+        orbis::COSPackage::removePackage(orbis::COSNameID("orbis_factory"));
+}
+
+ORBIS_FACTORY_API void const* QueryVXFcnTable_orbis_factory()
+{
+    return functionTable();
+}
+}

@@ -1,0 +1,97 @@
+#include "orbis/factory/ClassDescription.hpp"
+#include "orbis/factory/FunctionDescription.hpp"
+#include "orbis/factory/FunctionInfo.hpp"
+#include "orbis/factory/impl/MethodImpl.hpp"
+#include "orbis/factory/impl/OrbisConstructor.hpp"
+
+#include <array>
+#include <memory>
+#include <utility>
+
+namespace orbis::factory {
+
+namespace {
+
+using Kind = MemberRecord::Kind;
+
+template <std::size_t... I>
+void createSignature(MemberRecord const& record, char const* selfType, COSMethodSignaturePtr& signature,
+                     std::index_sequence<I...>)
+{
+    impl::Invoker::createSignature(record.parameterNames, record.outputType, selfType, record.inputTypes[I]...,
+                                   signature);
+}
+
+using SignatureMaker = void (*)(MemberRecord const&, char const*, COSMethodSignaturePtr&);
+
+/// One entry for each number of inputs.
+template <std::size_t... N>
+constexpr std::array<SignatureMaker, sizeof...(N)> signatureMakers(std::index_sequence<N...>)
+{
+    return {[](MemberRecord const& record, char const* selfType, COSMethodSignaturePtr& signature) {
+        createSignature(record, selfType, signature, std::make_index_sequence<N>());
+    }...};
+}
+
+void createSignature(MemberRecord const& record, char const* selfType, COSMethodSignaturePtr& signature)
+{
+    static constexpr auto makers = signatureMakers(std::make_index_sequence<maximumInputs + 1>());
+    makers.at(record.inputTypes.size())(record, selfType, signature);
+}
+
+/// Membership by force is for free functions only; those that are not forced are static.
+MethodAttributes attributesOf(MemberRecord const& record)
+{
+    MethodAttributes const force = MethodAttributes::ForceMembership();
+    switch (record.kind) {
+    case Kind::MemberFunction:
+        return record.attributes - force;
+    case Kind::FreeFunction:
+        return record.attributes.forceMemberMethod() ? record.attributes
+                                                     : record.attributes + MethodAttributes::Static();
+    default:
+        return record.attributes;
+    }
+}
+
+template <class Descriptor>
+void bind(Descriptor& descriptor, MemberRecord const& record, char const* hostName)
+{
+    createSignature(record, record.kind == Kind::MemberFunction ? hostName : nullptr, descriptor.signature());
+    descriptor.invoker().invokeFn = record.invokeFn;
+    descriptor.invoker().setTarget(record.target);
+    descriptor.invoker().setForcedMember(record.kind == Kind::FreeFunction && record.attributes.forceMemberMethod());
+}
+
+template <class Descriptor>
+void add(COSClass* cls, char const* name, MemberRecord const& record, char const* hostName)
+{
+    auto descriptor = std::make_unique<Descriptor>(name, attributesOf(record), "");
+    bind(*descriptor, record, hostName);
+    cls->addMethod(descriptor.release());
+}
+
+} // namespace
+
+void publish(COSClass* cls, ClassDescription const& description)
+{
+    for (MemberRecord const& record : description.members()) {
+        if (record.kind == Kind::Constructor)
+            add<impl::OrbisConstructor>(cls, cls->getName(), record, description.hostName());
+    }
+    for (MemberRecord const& record : description.members()) {
+        if (record.kind != Kind::Constructor)
+            add<impl::MethodImpl>(cls, record.name, record, description.hostName());
+    }
+}
+
+void publish(COSPackage* package, FunctionDescription const& description)
+{
+    for (MemberRecord const& record : description.functions()) {
+        auto function = std::make_unique<FunctionInfo>(record.name, attributesOf(record));
+        bind(function->method(), record, nullptr);
+        package->addFunction(function.release());
+    }
+}
+
+} // namespace orbis::factory
