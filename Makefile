@@ -1,3 +1,6 @@
+export CMAKE_BUILD_PARALLEL_LEVEL ?= $(shell nproc)
+export CTEST_PARALLEL_LEVEL ?= $(shell nproc)
+
 .DEFAULT_GOAL := help
 .PHONY: help run test check sanitize windows bench clean
 
