@@ -20,7 +20,6 @@ std::mutex& writing()
     return mutex;
 }
 
-
 /// The record and its NUL-terminated text in one piece.
 Name makeName(std::string_view text, std::uint64_t hash)
 {

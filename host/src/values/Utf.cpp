@@ -27,8 +27,8 @@ std::size_t asciiRun(std::string_view text)
 }
 
 struct Utf8Lead {
-    int following;         ///< bytes that follow; -1 when no sequence starts so
-    unsigned char low;     ///< the range of the first of them
+    int following;     ///< bytes that follow; -1 when no sequence starts so
+    unsigned char low; ///< the range of the first of them
     unsigned char high;
 };
 
@@ -37,9 +37,11 @@ Utf8Lead classifyLead(unsigned char lead)
     if (lead >= 0xC2 && lead <= 0xDF)
         return {1, 0x80, 0xBF};
     if (lead >= 0xE0 && lead <= 0xEF) // neither overlong forms nor surrogates
-        return {2, static_cast<unsigned char>(lead == 0xE0 ? 0xA0 : 0x80), static_cast<unsigned char>(lead == 0xED ? 0x9F : 0xBF)};
+        return {2, static_cast<unsigned char>(lead == 0xE0 ? 0xA0 : 0x80),
+                static_cast<unsigned char>(lead == 0xED ? 0x9F : 0xBF)};
     if (lead >= 0xF0 && lead <= 0xF4) // neither overlong forms nor what lies above U+10FFFF
-        return {3, static_cast<unsigned char>(lead == 0xF0 ? 0x90 : 0x80), static_cast<unsigned char>(lead == 0xF4 ? 0x8F : 0xBF)};
+        return {3, static_cast<unsigned char>(lead == 0xF0 ? 0x90 : 0x80),
+                static_cast<unsigned char>(lead == 0xF4 ? 0x8F : 0xBF)};
     return {-1, 0, 0};
 }
 

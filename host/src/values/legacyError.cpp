@@ -1,5 +1,5 @@
-#include "libkwfl/Exception.hpp"
 #include "libhv/libhv.hpp"
+#include "libkwfl/Exception.hpp"
 
 namespace matrix::detail::noninlined::hv_array_api {
 

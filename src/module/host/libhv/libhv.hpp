@@ -43,7 +43,7 @@ ORBIS_HOST_API hvArray* hvCreateSharedCopyNotOnArrayList(hvArray_tag const* arra
 ORBIS_HOST_API void hvSetArrayScope(hvArray_tag* array, hvVariableScope scope);
 
 /// True when the array is of that class ("double", "cell", "string", a published class, ...) or, for objects,
-/// of a subclass of it.
+/// of a subclass of it. False for null.
 ORBIS_HOST_API bool hvIsA(hvArray_tag const* array, char const* className);
 
 /// Gives one reference back; the last one frees the array. Null is allowed.

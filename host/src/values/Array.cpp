@@ -1,0 +1,209 @@
+#include "values/Array.hpp"
+
+#include "system/Object.hpp"
+#include "values/CellNest.hpp"
+#include "values/DeepCopy.hpp"
+#include "values/LiveCounters.hpp"
+#include "values/hostError.hpp"
+
+#include "libkwfl/bad_alloc.hpp"
+
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <utility>
+
+namespace velmara {
+
+Array::Array(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+    : classID_(classID)
+    , dimensions_{rows, columns}
+    , objectClass_(objectClass)
+{
+}
+
+Array* Array::createAround(Payload* payload, hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+{
+    void* const memory = std::malloc(sizeof(Array));
+    if (!memory) [[unlikely]] {
+        if (payload)
+            payload->free();
+        throw foundation::core::except::bad_alloc();
+    }
+    auto* const array = new (memory) Array(classID, rows, columns, objectClass);
+    if (payload)
+        array->elements_ = payload->elements();
+    ++liveCountsOfThisThread().arrays;
+    return array;
+}
+
+Array* Array::createSameShape(Payload* payload) const
+{
+    return createAround(payload, classID_, rows(), columns(), objectClass_);
+}
+
+Array* Array::createSharing(Payload& payload) const
+{
+    Array* const array = createSameShape(nullptr);
+    payload.addReference();
+    array->elements_ = payload.elements();
+    return array;
+}
+
+Array* Array::createZeroed(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+{
+    std::size_t count;
+    if (__builtin_mul_overflow(rows, columns, &count)) [[unlikely]]
+        throw foundation::core::except::bad_alloc();
+    // Cells always have a payload: a copied nest knows by it what was shared.
+    bool const standsInArray = count == 0 || (count == 1 && classID != hvCELL_CLASS);
+    Payload* const payload = standsInArray ? nullptr : Payload::createZeroed(count, arrayClass(classID).elementSize);
+    return createAround(payload, classID, rows, columns, objectClass);
+}
+
+Array* Array::create(hvClassID classID, std::size_t rows, std::size_t columns)
+{
+    return createZeroed(classID, rows, columns, nullptr);
+}
+
+Array* Array::createObjects(Name className, std::size_t rows, std::size_t columns)
+{
+    return createZeroed(hvOBJECT_CLASS, rows, columns, className);
+}
+
+std::string_view Array::className() const
+{
+    return objectClass_ ? objectClass_->view() : arrayClass(classID_).name;
+}
+
+void* Array::writableElements()
+{
+    makeUnshared();
+    return elements_;
+}
+
+void Array::setCell(std::size_t index, Array* value)
+{
+    if (value && value->belongsToCells()) [[unlikely]] {
+        if (value == cellSlots()[index])
+            return;
+        throwHostError("VELMARA:array", "alreadyStored");
+    }
+    // Only an array that stands in a cell already, or the value itself, can be found inside the value.
+    if (value && (value == this || cellsAround_ > 0) && CellNest::contains(*value, *this)) [[unlikely]]
+        throwHostError("VELMARA:array", "cycle");
+    makeUnshared();
+    if (value) {
+        ++value->cellsAround_;
+        value->setTemporary(false);
+    }
+    if (Array* const old = std::exchange(cellSlots()[index], value)) {
+        --old->cellsAround_;
+        old->release();
+    }
+}
+
+void Array::setObject(std::size_t index, Object* object)
+{
+    makeUnshared();
+    if (object)
+        object->addInternal();
+    // Last, because an object that ends runs native code, which may use this array.
+    if (Object* const old = std::exchange(objectSlots()[index], object))
+        old->removeInternal();
+}
+
+Array* Array::shareData() const
+{
+    if (hasPayload())
+        return createSharing(*payload());
+    Array* const copy = createSameShape(nullptr);
+    std::memcpy(copy->inline_, inline_, sizeof inline_);
+    copy->retainElements();
+    return copy;
+}
+
+Array* Array::copyDeep() const
+{
+    return DeepCopy().make(*this);
+}
+
+void Array::setTemporary(bool isTemporary)
+{
+    flags_ = isTemporary ? flags_ | temporaryFlag : flags_ & ~temporaryFlag;
+}
+
+void Array::makeUnshared()
+{
+    if (!hasPayload() || !payload()->isShared())
+        return;
+    Payload* const own = Payload::createCopy(elements_, size(), elementSize());
+    payload()->removeReference();
+    elements_ = own->elements();
+    retainElements();
+}
+
+/// Takes references for elements that were copied byte by byte.
+void Array::retainElements() const noexcept
+{
+    if (classID_ == hvCELL_CLASS) {
+        for (Array* const cell : cells()) {
+            if (cell) {
+                ++cell->references_;
+                ++cell->cellsAround_;
+            }
+        }
+    } else if (classID_ == hvOBJECT_CLASS) {
+        for (Object* const object : objects()) {
+            if (object)
+                object->addInternal();
+        }
+    }
+}
+
+void Array::destroy() noexcept
+{
+    if (classID_ == hvOBJECT_CLASS)
+        destroyObjects();
+    else if (classID_ == hvCELL_CLASS)
+        CellNest::destroy(this);
+    else
+        destroyPlain();
+}
+
+// The array itself goes first: objects that end run native code.
+void Array::destroyObjects() noexcept
+{
+    if (!hasPayload()) {
+        Object* const object = *objectSlots();
+        freeHeader();
+        if (object)
+            object->removeInternal();
+        return;
+    }
+    Payload* const held = payload();
+    std::span const objects = this->objects();
+    freeHeader();
+    if (!held->removeReference())
+        return;
+    for (Object* const object : objects) {
+        if (object)
+            object->removeInternal();
+    }
+    held->free();
+}
+
+void Array::destroyPlain() noexcept
+{
+    if (hasPayload() && payload()->removeReference())
+        payload()->free();
+    freeHeader();
+}
+
+void Array::freeHeader() noexcept
+{
+    --liveCountsOfThisThread().arrays;
+    std::free(this);
+}
+
+} // namespace velmara

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "values/ArrayClass.hpp"
+#include "values/InternedName.hpp"
+#include "values/Payload.hpp"
+
+#include "libhv/hvArray.hpp"
+
+#include <span>
+#include <string_view>
+
+namespace velmara {
+
+class Object;
+
+/// What stands behind every `hvArray_tag`: class, sizes, and elements. A plain scalar and the one element of an
+/// object array stand in the array itself; other elements stand in a payload that copies share until one of them
+/// writes. Elements are numbers, characters, `Array*` (cells, null when empty) or `Object*` (null allowed).
+///
+/// It keeps one allocation in all for what calls pass around most. Functions that make, copy or write throw
+/// `bad_alloc` without memory, and leave everything as it was.
+class Array final : public hvArray_tag {
+public:
+    /// A new array of zeros or empty cells, of a plain class or of cells, with one reference.
+    static Array* create(hvClassID classID, std::size_t rows, std::size_t columns);
+
+    /// A new array of null objects, typed by a class name.
+    static Array* createObjects(Name className, std::size_t rows, std::size_t columns);
+
+    static Array* of(hvArray_tag* array) { return static_cast<Array*>(array); }
+    static Array const* of(hvArray_tag const* array) { return static_cast<Array const*>(array); }
+
+    hvClassID classID() const { return classID_; }
+    std::size_t rows() const { return dimensions_[0]; }
+    std::size_t columns() const { return dimensions_[1]; }
+    std::size_t size() const { return dimensions_[0] * dimensions_[1]; }
+    std::size_t const* dimensions() const { return dimensions_; }
+
+    /// The name of the class: "double", "cell", ..., a published class's full name.
+    std::string_view className() const;
+
+    /// The class name of an object array, null for others.
+    Name objectClass() const { return objectClass_; }
+    void setObjectClass(Name className) { objectClass_ = className; }
+
+    /// The elements in column order; valid until the array is written to or freed.
+    void const* elements() const { return elements_; }
+    std::u16string_view text() const { return {static_cast<char16_t const*>(elements_), size()}; }
+    std::span<Array* const> cells() const { return {static_cast<Array* const*>(elements_), size()}; }
+    std::span<Object* const> objects() const { return {static_cast<Object* const*>(elements_), size()}; }
+
+    /// The elements of numbers and characters for writing, shared with no other array.
+    void* writableElements();
+
+    /// Takes over the reference to `value`; null empties the cell.
+    void setCell(std::size_t index, Array* value);
+    void setObject(std::size_t index, Object* object);
+
+    /// A new array of the same elements: one that shares the payload, or one that owns copies of all that it holds.
+    /// What shares data inside the source shares it in a deep copy, too, so that a copy never outgrows its source.
+    Array* shareData() const;
+    Array* copyDeep() const;
+
+    void setTemporary(bool isTemporary);
+
+    /// Gives one reference back; the last one frees the array.
+    void release() noexcept
+    {
+        if (--references_ == 0)
+            destroy();
+    }
+
+private:
+    friend class CellNest;
+    friend class DeepCopy;
+
+    Array(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
+    ~Array() = default;
+
+    /// Takes over `payload`, also when it throws; null when the elements stand in the array itself.
+    static Array* createAround(Payload* payload, hvClassID classID, std::size_t rows, std::size_t columns,
+                               Name objectClass);
+    Array* createSameShape(Payload* payload) const;
+    Array* createSharing(Payload& payload) const;
+    static Array* createZeroed(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
+
+    bool hasPayload() const { return elements_ != inline_; }
+    Payload* payload() const { return Payload::of(elements_); }
+    std::size_t elementSize() const { return arrayClass(classID_).elementSize; }
+    Array** cellSlots() { return static_cast<Array**>(elements_); }
+    Object** objectSlots() const { return static_cast<Object**>(elements_); }
+
+    /// True when no one but cells holds the array.
+    bool belongsToCells() const { return references_ == cellsAround_; }
+
+    void makeUnshared();
+    void retainElements() const noexcept;
+    void destroy() noexcept;
+    void destroyObjects() noexcept;
+    void destroyPlain() noexcept;
+    void freeHeader() noexcept;
+
+    hvClassID classID_;
+    std::uint32_t cellsAround_ = 0; ///< how many of the references are held by cells
+    std::size_t dimensions_[2];
+    Name objectClass_;
+    void* elements_ = inline_;
+    alignas(8) std::byte inline_[8] = {}; ///< the one element that stands in the array itself
+};
+
+} // namespace velmara

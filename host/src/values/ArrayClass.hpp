@@ -1,0 +1,19 @@
+#pragma once
+
+#include "libhv/hvArray.hpp"
+
+#include <string_view>
+
+namespace velmara {
+
+/// What the host knows of one array class.
+struct ArrayClass {
+    std::string_view name;   ///< what `hvIsA` and error texts call it; objects have their class's name instead
+    std::size_t elementSize; ///< 0 when there are no arrays of it
+    bool isPlain;            ///< numeric, logical or character: the elements own nothing
+};
+
+/// Also answers for numbers that are no class id: as `hvUNKNOWN_CLASS`.
+ArrayClass const& arrayClass(hvClassID id);
+
+} // namespace velmara

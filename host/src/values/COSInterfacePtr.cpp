@@ -1,0 +1,92 @@
+#include "orbis/COSInterfacePtr.hpp"
+
+#include "system/Object.hpp"
+
+#include <utility>
+
+namespace orbis {
+
+namespace {
+
+using velmara::Object;
+
+void hold(COSInterface* object, COSReferenceType type)
+{
+    if (!object)
+        return;
+    if (type == COSReferenceType::Strong)
+        static_cast<Object*>(object)->addExternal();
+    else
+        static_cast<Object*>(object)->addWeak();
+}
+
+void letGo(COSInterface* object, COSReferenceType type)
+{
+    if (!object)
+        return;
+    if (type == COSReferenceType::Strong)
+        static_cast<Object*>(object)->removeExternal();
+    else
+        static_cast<Object*>(object)->removeWeak();
+}
+
+} // namespace
+
+COSInterfacePtr::COSInterfacePtr(COSInterface* object) : object_(object), type_(COSReferenceType::Strong)
+{
+    hold(object_, COSReferenceType::Strong);
+}
+
+COSInterfacePtr::COSInterfacePtr(COSInterfacePtr const& other) : object_(other.object_), type_(other.type_)
+{
+    hold(object_, type_);
+}
+
+COSInterfacePtr& COSInterfacePtr::operator=(COSInterfacePtr const& other)
+{
+    hold(other.object_, other.type_);
+    // The last step, because an object that ends runs native code, which may use this handle.
+    letGo(std::exchange(object_, other.object_), std::exchange(type_, other.type_));
+    return *this;
+}
+
+COSInterfacePtr::~COSInterfacePtr()
+{
+    letGo(object_, type_);
+}
+
+COSInterfacePtr::operator COSInterface*() const
+{
+    bool const isGone = type_ == COSReferenceType::Weak && object_ && static_cast<Object*>(object_)->isEnded();
+    return isGone ? nullptr : object_;
+}
+
+COSInterface* COSInterfacePtr::operator->()
+{
+    return *this;
+}
+
+COSInterface const* COSInterfacePtr::operator->() const
+{
+    return *this;
+}
+
+COSInterface& COSInterfacePtr::operator*()
+{
+    return *static_cast<COSInterface*>(*this);
+}
+
+COSInterface const& COSInterfacePtr::operator*() const
+{
+    return *static_cast<COSInterface*>(*this);
+}
+
+void COSInterfacePtr::setReferenceType(COSReferenceType type)
+{
+    // A weak handle whose object has ended becomes an empty strong one.
+    COSInterface* const held = *this;
+    hold(held, type);
+    letGo(std::exchange(object_, held), std::exchange(type_, type));
+}
+
+} // namespace orbis

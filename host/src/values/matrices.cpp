@@ -1,0 +1,29 @@
+#include "values/arrayArguments.hpp"
+#include "values/hostError.hpp"
+
+#include "additions/additions.hpp"
+
+namespace orbis::additions {
+
+using namespace velmara;
+
+hvArray* createMatrix(std::size_t m, std::size_t n, hvClassID classID)
+{
+    if (!arrayClass(classID).isPlain)
+        throwHostError("VELMARA:array", "notNumeric", {std::to_string(classID)});
+    return Array::create(classID, m, n);
+}
+
+void const* getData(hvArray_tag const* array)
+{
+    Array const& matrix = requireArray(array);
+    return arrayClass(matrix.classID()).isPlain ? matrix.elements() : nullptr;
+}
+
+void* getWritableData(hvArray_tag* array)
+{
+    Array& matrix = requireArray(array);
+    return arrayClass(matrix.classID()).isPlain ? matrix.writableElements() : nullptr;
+}
+
+} // namespace orbis::additions

@@ -1,0 +1,73 @@
+#include "orbis/objectArrays.hpp"
+
+#include "system/ClassTree.hpp"
+#include "system/Object.hpp"
+#include "values/arrayArguments.hpp"
+#include "values/hostError.hpp"
+
+namespace orbis {
+
+using namespace velmara;
+
+namespace {
+
+Object* objectOf(COSInterfacePtr const& handle)
+{
+    return static_cast<Object*>(static_cast<COSInterface*>(handle));
+}
+
+[[gnu::noinline]] void requireClass(Array const& array, Name className)
+{
+    if (!isSubclass(className, array.objectClass()))
+        throwHostError("VELMARA:array", "wrongClass", {std::string(className->view()), std::string(array.className())});
+}
+
+} // namespace
+
+hvArray* omCreateORBISScalar(COSInterfacePtr const& object)
+{
+    Object* const held = objectOf(object);
+    if (!held)
+        return Array::createObjects(intern(""), 0, 0);
+    Array* const array = Array::createObjects(held->className(), 1, 1);
+    array->setObject(0, held);
+    return array;
+}
+
+hvArray* omCreateORBISMatrix(std::size_t m, std::size_t n, COSNameID const& className)
+{
+    return Array::createObjects(className.interned(), m, n);
+}
+
+COSInterfacePtr omGetArrayElement(hvArray_tag const* array, std::size_t index)
+{
+    return requireObject(array, index).objects()[index];
+}
+
+COSInterfacePtr cosiGetArrayElement(hvArray_tag const* array, std::size_t index)
+{
+    return omGetArrayElement(array, index);
+}
+
+void omSetArrayElement(hvArray_tag* array, std::size_t index, COSInterfacePtr const& object)
+{
+    Array& objects = requireObject(array, index);
+    Object* const held = objectOf(object);
+    if (held && held->className() != objects.objectClass())
+        requireClass(objects, held->className());
+    objects.setObject(index, held);
+}
+
+bool omIsORBIS(hvArray_tag const* array)
+{
+    return array && Array::of(array)->classID() == hvOBJECT_CLASS;
+}
+
+void omSetClassOfHeterogeneousArray(hvArray_tag* array)
+{
+    Array& objects = requireObjects(array);
+    if (Name const common = commonClass(objects.objects()))
+        objects.setObjectClass(common);
+}
+
+} // namespace orbis

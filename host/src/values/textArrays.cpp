@@ -1,0 +1,89 @@
+#include "values/Array.hpp"
+#include "values/Utf.hpp"
+
+#include "libhv/libhv.hpp"
+#include "libkwfl/bad_alloc.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace matrix::detail::noninlined::hv_array_api {
+
+using velmara::Array;
+
+namespace {
+
+Array* createRow(std::size_t size)
+{
+    return Array::create(hvCHAR_CLASS, size == 0 ? 0 : 1, size);
+}
+
+template <class Char>
+Char* allocateText(std::size_t size)
+{
+    auto* const text = static_cast<Char*>(std::malloc((size + 1) * sizeof(Char)));
+    if (!text)
+        throw foundation::core::except::bad_alloc();
+    text[size] = Char();
+    return text;
+}
+
+bool isCharacters(hvArray_tag const* array)
+{
+    return array && Array::of(array)->classID() == hvCHAR_CLASS;
+}
+
+} // namespace
+
+hvArray* hvCreateString(char const* text)
+{
+    std::string_view const utf8 = text ? text : "";
+    Array* const array = createRow(velmara::sizeAsUtf16(utf8));
+    velmara::writeAsUtf16(utf8, static_cast<char16_t*>(array->writableElements()));
+    return array;
+}
+
+hvArray* hvCreateString_UTF16(char16_t const* text)
+{
+    std::u16string_view const utf16 = text ? text : u"";
+    Array* const array = createRow(utf16.size());
+    std::ranges::copy(utf16, static_cast<char16_t*>(array->writableElements()));
+    return array;
+}
+
+char* hvArrayToString(hvArray_tag const* array)
+{
+    if (!isCharacters(array))
+        return nullptr;
+    std::u16string_view const utf16 = Array::of(array)->text();
+    char* const text = allocateText<char>(velmara::sizeAsUtf8(utf16));
+    velmara::writeAsUtf8(utf16, text);
+    return text;
+}
+
+char* hvArray2String(hvArray_tag const* array)
+{
+    return hvArrayToString(array);
+}
+
+char16_t* hvArrayToString_UTF16(hvArray_tag const* array)
+{
+    if (!isCharacters(array))
+        return nullptr;
+    std::u16string_view const utf16 = Array::of(array)->text();
+    auto* const text = allocateText<char16_t>(utf16.size());
+    std::ranges::copy(utf16, text);
+    return text;
+}
+
+void hvFree(void* text)
+{
+    std::free(text);
+}
+
+void hvFreeEx(void* text)
+{
+    std::free(text);
+}
+
+} // namespace matrix::detail::noninlined::hv_array_api
