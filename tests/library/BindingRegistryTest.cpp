@@ -1,0 +1,296 @@
+#include "HvmTest.hpp"
+#include "library/Tally.hpp"
+
+#include "orbis/factory/CopyableSupport.hpp"
+#include "orbis/factory/H_ck.hpp"
+#include "orbis/factory/InterfaceEnumeration.hpp"
+#include "orbis/factory/RawClassPointerMarshaler.hpp"
+#include "orbis/factory/basic/registry.hpp"
+
+#include "libkwfl/IMsgIDException.hpp"
+#include "orbis/COSInterface.hpp"
+#include "orbis/objectArrays.hpp"
+
+using namespace orbis;
+using namespace orbis::factory;
+using basic::BindingRegistry;
+using velmara::ArrayPtr;
+
+namespace {
+
+/// Native objects here belong to the test, so the class info leaves them alone.
+struct Plain {
+    int value = 0;
+};
+
+class PlainInfo final : public HandleClassInfo<Plain, 0> {
+public:
+    PlainInfo() : HandleClassInfo("tests.Plain", "") {}
+    void initializeClass(COSClass*) override {}
+};
+
+/// A class info that makes its native object itself.
+class ValueInfo final : public HandleClassInfo<Plain, 0> {
+public:
+    ValueInfo() : HandleClassInfo("tests.Value", "") {}
+    void initializeClass(COSClass*) override {}
+    void* createInstanceData() override
+    {
+        auto* const made = new Plain;
+        CopyableSupport::addToUnconstructedSet(made);
+        return made;
+    }
+    bool destroyInstanceData(COSInterface*, void* data) override
+    {
+        delete static_cast<Plain*>(data);
+        return false;
+    }
+};
+
+class BindingRegistryTest : public HvmTest {
+protected:
+    BindingRegistryTest()
+    {
+        registerOrbisPackage("tests", [](COSPackage* package) {
+            package->addClass(new PlainInfo);
+            package->addClass(new ValueInfo);
+        });
+    }
+
+    static ArrayPtr announce(void* object, bool* created = nullptr)
+    {
+        bool made = false;
+        ArrayPtr array(BindingRegistry::announce(object, plain(), made));
+        if (created)
+            *created = made;
+        return array;
+    }
+
+    static COSInterface* hostOf(ArrayPtr const& array) { return omGetArrayElement(array.get(), 0); }
+    static COSNameID plain() { return COSNameID("tests.Plain"); }
+};
+
+TEST_F(BindingRegistryTest, AnAddressIsAlwaysTheSameHostObject)
+{
+    Plain object;
+    EXPECT_EQ(basic::registry().bucket_count(), 16u);
+    EXPECT_EQ(basic::registry().max_load_factor(), 1.0f);
+    bool created = false;
+    ArrayPtr const first = announce(&object, &created);
+    EXPECT_TRUE(created);
+    EXPECT_EQ(hostOf(first)->getNativeObject(plain()), &object);
+    ArrayPtr const second(BindingRegistry::announce(static_cast<void const*>(&object), plain(), created));
+    EXPECT_FALSE(created);
+    EXPECT_TRUE(velmara::isSameObject(first.get(), second.get()));
+    EXPECT_EQ(BindingRegistry::find(&object), hostOf(first));
+    EXPECT_EQ(static_cast<COSInterface*>(BindingRegistry::announceInternal(&object, plain(), created)), hostOf(first));
+    EXPECT_EQ(basic::registry().size(), 1u);
+}
+
+TEST_F(BindingRegistryTest, NullIsNoObject)
+{
+    bool created = true;
+    ArrayPtr const none = announce(nullptr, &created);
+    EXPECT_FALSE(created);
+    EXPECT_EQ(none->get_number_of_elements(), 0u);
+    EXPECT_EQ(velmara::className(none.get()), "tests.Plain");
+    EXPECT_EQ(static_cast<COSInterface*>(BindingRegistry::announceInternal(nullptr, plain(), created)), nullptr);
+    EXPECT_TRUE(basic::registry().empty());
+    EXPECT_FALSE(BindingRegistry::release(nullptr));
+    EXPECT_FALSE(RawClassPointerMarshaler::toCosi(nullptr).hasMoreElements());
+}
+
+TEST_F(BindingRegistryTest, RetractInvalidatesAndReleaseDoesNot)
+{
+    Plain object;
+    ArrayPtr array = announce(&object);
+    EXPECT_TRUE(BindingRegistry::release(&object));
+    EXPECT_FALSE(BindingRegistry::release(&object));
+    EXPECT_TRUE(velmara::isValid(array.get()));
+
+    array = announce(&object);
+    EXPECT_TRUE(BindingRegistry::retract(&object));
+    EXPECT_FALSE(BindingRegistry::retract(&object));
+    EXPECT_FALSE(velmara::isValid(array.get()));
+    EXPECT_FALSE(BindingRegistry::contains(&object));
+
+    ArrayPtr const again = announce(&object);
+    EXPECT_FALSE(velmara::isSameObject(array.get(), again.get()));
+    array.reset();
+    EXPECT_EQ(BindingRegistry::find(&object), hostOf(again)) << "the late end of the old one must not touch the new";
+}
+
+TEST_F(BindingRegistryTest, RetractOutsideAVirtualMachineIsQuiet)
+{
+    Plain object;
+    ArrayPtr array = announce(&object);
+    array.reset();
+    endHvm();
+    EXPECT_FALSE(BindingRegistry::retract(&object));
+}
+
+TEST_F(BindingRegistryTest, TheHostObjectForgetsItsBindingWhenItEnds)
+{
+    Plain object;
+    ArrayPtr array = announce(&object);
+    EXPECT_TRUE(BindingRegistry::contains(&object));
+    array.reset();
+    EXPECT_FALSE(BindingRegistry::contains(&object));
+}
+
+TEST_F(BindingRegistryTest, ConstructorsStoreOnlyHandles)
+{
+    Plain object;
+    for (bool const store : {false, true}) {
+        ArrayPtr const array(omCreateORBISMatrix(1, 1, plain()));
+        COSInterfacePtr instance = COSClass::getClass(plain())->newInstance();
+        omSetArrayElement(array.get(), 0, instance);
+        CopyableSupport::addToUnconstructedSet(&object);
+        BindingRegistry::announceForConstructor(&object, plain(), array.get(), store);
+        EXPECT_EQ(instance->getNativeObject(plain()), &object);
+        EXPECT_EQ(BindingRegistry::contains(&object), store);
+        EXPECT_FALSE(CopyableSupport::isInUnconstructedSet(&object));
+        BindingRegistry::announceForConstructor(nullptr, plain(), array.get(), store);
+        EXPECT_EQ(instance->getNativeObject(plain()), nullptr);
+        EXPECT_FALSE(BindingRegistry::contains(nullptr));
+        BindingRegistry::release(&object);
+    }
+}
+
+TEST_F(BindingRegistryTest, HijackMovesOnlyTheBindingOfTheSameHostObject)
+{
+    Plain p, q, other;
+    ArrayPtr const array = announce(&p);
+    COSInterface* const host = hostOf(array);
+    BindingRegistry::hijack(&p, &q, host, plain());
+    EXPECT_FALSE(BindingRegistry::contains(&p));
+    EXPECT_EQ(BindingRegistry::find(&q), host);
+    EXPECT_EQ(host->getNativeObject(plain()), &q);
+    EXPECT_TRUE(velmara::isValid(array.get()));
+
+    ArrayPtr const second = announce(&p);
+    BindingRegistry::hijack(&q, &other, hostOf(second), plain());
+    EXPECT_EQ(BindingRegistry::find(&q), host) << "a binding to another host object stays";
+    EXPECT_EQ(BindingRegistry::find(&other), hostOf(second));
+
+    BindingRegistry::hijack(&other, &q, hostOf(second), plain());
+    EXPECT_EQ(BindingRegistry::find(&q), host) << "a bound address keeps its entry";
+    EXPECT_FALSE(BindingRegistry::contains(&other));
+    BindingRegistry::hijack(&q, &q, host, plain());
+    EXPECT_EQ(BindingRegistry::find(&q), host);
+    for (Plain const* const object : {&p, &q})
+        BindingRegistry::release(object);
+}
+
+TEST_F(BindingRegistryTest, ValuesAreCopiedWithoutABinding)
+{
+    Plain source{42};
+    static void* filled = nullptr;
+    ArrayPtr const array(BindingRegistry::announceWithoutStoring(
+        &source, COSNameID("tests.Value"), [](void* destination, void* from) {
+            filled = destination;
+            EXPECT_TRUE(CopyableSupport::isInUnconstructedSet(destination));
+            *static_cast<Plain*>(destination) = *static_cast<Plain*>(from);
+        }));
+    EXPECT_EQ(static_cast<Plain*>(hostOf(array)->getNativeObject(COSNameID("tests.Value")))->value, 42);
+    EXPECT_FALSE(CopyableSupport::isInUnconstructedSet(filled));
+    EXPECT_TRUE(basic::registry().empty());
+}
+
+TEST_F(BindingRegistryTest, AClassThatIsNotPublishedIsRefused)
+{
+    Plain object;
+    try {
+        BindingRegistry::announce(&object, COSNameID("tests.Nobody"));
+        ADD_FAILURE();
+    } catch (foundation::core::except::IMsgIDException const& error) {
+        EXPECT_EQ(error.getErrorID(), "orbis_factory:orbis_factory:no_such_class");
+        EXPECT_EQ(error.getArguments().at(0), "tests.Nobody");
+    }
+    EXPECT_TRUE(basic::registry().empty());
+}
+
+TEST_F(BindingRegistryTest, TheDumpHasItsExactForm)
+{
+    auto const dump = [](COSInterface const* marked) {
+        testing::internal::CaptureStdout();
+        basic::dumpRegistry(marked);
+        std::fflush(stdout);
+        return testing::internal::GetCapturedStdout();
+    };
+    std::string const line(58, '=');
+    std::string const head = line + "\n             ptr \t   external \t   internal\n";
+    std::string const tail = line + "\n\n";
+    EXPECT_EQ(dump(nullptr), head + tail);
+
+    Plain object;
+    ArrayPtr const array = announce(&object);
+    COSInterfacePtr const held = omGetArrayElement(array.get(), 0);
+    char row[100];
+    std::snprintf(row, sizeof row, "%#15llx \t          1 \t          1 \n",
+                  static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(static_cast<COSInterface*>(held))));
+    EXPECT_EQ(dump(nullptr), head + " " + row + tail);
+    EXPECT_EQ(dump(held), head + "*" + row + tail);
+}
+
+struct Handle : H_ck {
+    using H_ck::decrementRefCount;
+    using H_ck::incrementRefCount;
+};
+
+TEST_F(BindingRegistryTest, HandlesCountAndEnumerationsYieldOnce)
+{
+    Handle::incrementRefCount(nullptr);
+    Handle::decrementRefCount(nullptr);
+    Plain object;
+    ArrayPtr array = announce(&object);
+    COSInterface* const host = hostOf(array);
+    Handle::incrementRefCount(host);
+    EXPECT_EQ(host->getExternalReferenceCount(), 1);
+    array.reset();
+    EXPECT_EQ(BindingRegistry::find(&object), host) << "the handle keeps the host object";
+    {
+        auto one = RawClassPointerMarshaler::toCosi(&object);
+        auto another = RawClassPointerMarshaler::toCosi(&object);
+        auto const copy = one;
+        EXPECT_EQ(InterfaceEnumeration::liveCount(), 2);
+        EXPECT_EQ(one.nextElement(), host);
+        EXPECT_FALSE(copy.hasMoreElements());
+        EXPECT_THROW(one.nextElement(), ENoElements);
+        EXPECT_TRUE(another.hasMoreElements());
+        EXPECT_THROW(Enumeration<COSInterface*>().nextElement(), ENoElements);
+    }
+    EXPECT_EQ(InterfaceEnumeration::liveCount(), 0);
+    Handle::decrementRefCount(host);
+    EXPECT_FALSE(BindingRegistry::contains(&object));
+}
+
+TEST_F(BindingRegistryTest, TheUnconstructedSetKeepsEachAddressOnce)
+{
+    int places[5];
+    for (int const i : {3, 0, 4, 1, 3})
+        CopyableSupport::addToUnconstructedSet(&places[i]);
+    CopyableSupport::addToUnconstructedSet(nullptr);
+    EXPECT_FALSE(CopyableSupport::isInUnconstructedSet(&places[2]));
+    CopyableSupport::removeFromUnconstructedSet(&places[2]);
+    for (int const i : {1, 3, 0, 4}) {
+        EXPECT_TRUE(CopyableSupport::isInUnconstructedSet(&places[i]));
+        CopyableSupport::removeFromUnconstructedSet(&places[i]);
+        EXPECT_FALSE(CopyableSupport::isInUnconstructedSet(&places[i]));
+    }
+    EXPECT_TRUE(CopyableSupport::isInUnconstructedSet(nullptr));
+}
+
+TEST(BindingRegistry, VirtualMachinesHaveTablesOfTheirOwn)
+{
+    velmara::Hvm first, second;
+    Plain object;
+    velmara::Hvm::Scope const scope(first);
+    registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new PlainInfo); });
+    ArrayPtr const array(BindingRegistry::announce(&object, COSNameID("tests.Plain")));
+    velmara::Hvm::Scope const inner(second);
+    EXPECT_FALSE(BindingRegistry::contains(&object));
+    EXPECT_FALSE(BindingRegistry::retract(&object));
+}
+
+} // namespace

@@ -1,0 +1,229 @@
+#include "HvmTest.hpp"
+#include "library/Tally.hpp"
+
+#include "orbis/factory/FunctionInfo.hpp"
+#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/describeFunctions.hpp"
+
+#include "orbis/COSMethodSignature.hpp"
+#include "orbis/objectArrays.hpp"
+
+#include <map>
+
+using namespace orbis;
+using namespace orbis::factory;
+using velmara::ArrayPtr;
+
+namespace {
+
+class InvocationTest : public HvmTest {
+protected:
+    InvocationTest() { TallyInfo::publishIn("tests"); }
+    ~InvocationTest() override
+    {
+        endHvm();
+        EXPECT_EQ(Tally::alive, 0);
+    }
+
+    ArrayPtr tally(int start)
+    {
+        ArrayPtr const arguments = number(start);
+        hvArray* const inputs[] = {arguments.get()};
+        return hvm().construct("tests.Tally", inputs);
+    }
+
+    ArrayPtr call(ArrayPtr const& object, char const* method, std::initializer_list<double> numbers = {})
+    {
+        std::vector<ArrayPtr> owners;
+        std::vector<hvArray*> inputs;
+        for (double const value : numbers)
+            inputs.push_back(owners.emplace_back(number(value)).get());
+        return hvm().call(object.get(), method, inputs);
+    }
+};
+
+TEST_F(InvocationTest, CallsFromTheHostReachTheNativeObject)
+{
+    ArrayPtr const object = tally(5);
+    EXPECT_EQ(scalar<std::int32_t>(call(object, "add", {1, 2})), 8);
+    EXPECT_EQ(scalar<std::int32_t>(call(object, "value")), 8);
+    EXPECT_EQ(call(object, "reset"), nullptr);
+    EXPECT_EQ(scalar<std::int32_t>(call(object, "value")), 0);
+    EXPECT_EQ(scalar<double>(call(object, "mean", {1, 2, 1})), 3.0);
+    EXPECT_EQ(scalar<std::int32_t>(call(object, "doubled", {3})), 0);
+    EXPECT_EQ(scalar<std::int32_t>(call(hvm().construct("tests.Tally"), "value")), 0);
+}
+
+TEST_F(InvocationTest, ObjectsKeepTheirIdentity)
+{
+    ArrayPtr const small = tally(1);
+    ArrayPtr const large = tally(2);
+    EXPECT_TRUE(velmara::isSameObject(call(small, "self").get(), small.get()));
+    hvArray* const inputs[] = {large.get()};
+    EXPECT_TRUE(velmara::isSameObject(hvm().call(small.get(), "larger", inputs).get(), large.get()));
+    ArrayPtr const none(omCreateORBISMatrix(0, 0, "tests.Tally"));
+    hvArray* const empty[] = {none.get()};
+    EXPECT_TRUE(scalar<bool>(hvm().call(small.get(), "isNull", empty)));
+    EXPECT_EQ(Tally::alive, 2);
+}
+
+TEST_F(InvocationTest, NullSelfIsRefusedWhereAnObjectIsRequired)
+{
+    ArrayPtr const none(omCreateORBISMatrix(0, 0, "tests.Tally"));
+    hvArray* const inputs[] = {none.get()};
+    auto const nullSelf = "orbis_factory:orbis_factory:null_self";
+    for (char const* const method : {"value", "forced"})
+        EXPECT_EQ(errorOf([&] { hvm().call(none.get(), method); }), nullSelf) << method;
+    EXPECT_EQ(scalar<std::int32_t>(hvm().callStatic("tests.Tally", "optional", inputs)), -1);
+}
+
+TEST_F(InvocationTest, OnlyTheFirstElementOfAnObjectArrayIsMeant)
+{
+    ArrayPtr const first = tally(1);
+    ArrayPtr const second = tally(2);
+    ArrayPtr const both(omCreateORBISMatrix(1, 2, "tests.Tally"));
+    omSetArrayElement(both.get(), 0, omGetArrayElement(first.get(), 0));
+    omSetArrayElement(both.get(), 1, omGetArrayElement(second.get(), 0));
+    call(both, "reset");
+    EXPECT_EQ(scalar<std::int32_t>(call(first, "value")), 0);
+    EXPECT_EQ(scalar<std::int32_t>(call(second, "value")), 2);
+}
+
+TEST_F(InvocationTest, NativeFailuresBecomeErrorsAndChangeNothing)
+{
+    ArrayPtr const object = tally(1);
+    try {
+        call(object, "fail", {1});
+        ADD_FAILURE();
+    } catch (velmara::Error const& error) {
+        EXPECT_EQ(error.text(), "failed inside");
+    }
+    EXPECT_EQ(scalar<std::int32_t>(call(object, "value")), 1);
+}
+
+TEST_F(InvocationTest, MembersAreDescribedToTheHost)
+{
+    auto const record = hvm().describeClass("tests.Tally");
+    std::map<std::string, velmara::MethodRecord> methods;
+    for (auto const& method : record.methods)
+        methods.emplace(method.name, method);
+    using Kind = velmara::MethodRecord::Kind;
+    EXPECT_EQ(methods.at("add").inputs.at(0).name, "this");
+    EXPECT_EQ(methods.at("add").inputs.at(0).dataType, "tests.Tally");
+    EXPECT_EQ(methods.at("add").inputs.at(2).name, "b");
+    EXPECT_EQ(methods.at("add").inputs.at(2).dataType, "int32 scalar");
+    EXPECT_EQ(methods.at("add").outputs.at(0).name, "result");
+    EXPECT_TRUE(methods.at("reset").outputs.empty());
+    EXPECT_TRUE(methods.at("value").isSealed);
+    EXPECT_EQ(methods.at("mean").inputs.at(1).dataType, "single scalar");
+    EXPECT_EQ(methods.at("mean").inputs.at(3).dataType, "logical scalar");
+    EXPECT_EQ(methods.at("forced").kind, Kind::Method);
+    EXPECT_EQ(methods.at("forced").inputs.at(0).name, "p0");
+    EXPECT_EQ(methods.at("doubled").inputs.at(0).name, "tally");
+    EXPECT_EQ(methods.at("plus").kind, Kind::StaticMethod);
+    EXPECT_EQ(methods.at("optional").kind, Kind::StaticMethod);
+    EXPECT_EQ(methods.at("self").outputs.at(0).dataType, "tests.Tally");
+}
+
+// The contract of invoke itself, without the host's dispatch in between.
+TEST_F(InvocationTest, OutputCountsAreRaisedOnlyForResults)
+{
+    impl::MethodImpl add("add", {}, "");
+    impl::MethodImpl reset("reset", {}, "");
+    auto const bind = [](impl::MethodImpl& method, MemberRecord const& record) {
+        method.invoker().invokeFn = record.invokeFn;
+        method.invoker().setTarget(record.target);
+    };
+    auto const description = describe<Tally>().method("add", &Tally::add).method("reset", &Tally::reset);
+    bind(add, description.members().at(0));
+    bind(reset, description.members().at(1));
+
+    ArrayPtr const object = tally(1);
+    COSValue const inputs[] = {COSValue(object.get()), COSValue(std::int32_t{2}), COSValue(std::int32_t{3})};
+    for (auto const& [given, after] : {std::pair(0, 1), std::pair(1, 1)}) {
+        int count = given;
+        COSValue output;
+        add.invoke(nullptr, count, &output, 3, inputs);
+        EXPECT_EQ(count, after);
+        EXPECT_EQ(output.scalarClass(), hvINT32_CLASS);
+    }
+    int count = 0;
+    COSValue output;
+    reset.invoke(nullptr, count, &output, 1, inputs);
+    EXPECT_EQ(count, 0);
+    EXPECT_TRUE(output.isEmpty());
+
+    ArrayPtr const none(omCreateORBISMatrix(0, 0, "tests.Tally"));
+    COSValue const null[] = {COSValue(none.get())};
+    EXPECT_THROW(reset.invoke(nullptr, count, &output, 1, null), std::exception);
+    EXPECT_EQ(count, 0);
+}
+
+TEST_F(InvocationTest, AFunctionInfoAnswersOnlyNameSignatureAndInvoke)
+{
+    FunctionInfo function("plus", MethodAttributes::Static() + MethodAttributes::Hidden() + MethodAttributes::Sealed());
+    impl::Invoker::createSignature("a, b", "int32 scalar", nullptr, "int32 scalar", "int32 scalar",
+                                   function.method().signature());
+    EXPECT_STREQ(function.getName(), "plus");
+    EXPECT_EQ(function.getMethodSignature(), function.method().getMethodSignature());
+    EXPECT_NE(function.getMethodSignature(), nullptr);
+    EXPECT_TRUE(function.isVisible());
+    EXPECT_FALSE(function.isStatic());
+    EXPECT_FALSE(function.isSealed());
+    EXPECT_FALSE(function.method().isVisible());
+    EXPECT_TRUE(function.method().isSealed());
+}
+
+TEST_F(InvocationTest, PackageFunctionsAreCalledByTheirFullName)
+{
+    registerOrbisPackage("tests.functions", [](COSPackage* package) {
+        publish(package, describeFunctions().function("plus", &plus, "a, b").function("none", [] {}));
+    });
+    ArrayPtr const a = number(3);
+    ArrayPtr const b = number(4);
+    hvArray* const inputs[] = {a.get(), b.get()};
+    EXPECT_EQ(scalar<std::int32_t>(hvm().callFunction("tests.functions.plus", inputs)), 7);
+    EXPECT_EQ(hvm().callFunction("tests.functions.none"), nullptr);
+}
+
+// A class info that makes the native object beforehand, and whose class cannot be assigned.
+struct Fixed {
+    explicit Fixed(int start = 0) : value(start) {}
+    int get() const { return value; }
+    int const value;
+};
+
+} // namespace
+
+template <>
+struct orbis::factory::HostClass<Fixed> {
+    static constexpr char const* name = "tests.Fixed";
+};
+
+namespace {
+
+class FixedInfo final : public HandleClassInfo<Fixed, 0> {
+public:
+    FixedInfo() : HandleClassInfo("tests.Fixed", "") {}
+    void initializeClass(COSClass* cls) override
+    {
+        publish(cls, describe<Fixed>().constructor().constructor<int>().method("get", &Fixed::get));
+    }
+    void* createInstanceData() override { return new Fixed(7); }
+    bool destroyInstanceData(COSInterface*, void* data) override
+    {
+        std::unique_ptr<Fixed> const owner(static_cast<Fixed*>(data));
+        return basic::BindingRegistry::release(data);
+    }
+};
+
+TEST_F(InvocationTest, ConstructorsUseTheNativeObjectThatIsThereAlready)
+{
+    registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new FixedInfo); });
+    EXPECT_EQ(scalar<std::int32_t>(call(hvm().construct("tests.Fixed"), "get")), 7);
+    ArrayPtr const start = number(1);
+    hvArray* const inputs[] = {start.get()};
+    EXPECT_NE(errorOf([&] { hvm().construct("tests.Fixed", inputs); }), "");
+}
+
+} // namespace

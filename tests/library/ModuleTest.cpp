@@ -1,0 +1,122 @@
+#include "HvmTest.hpp"
+
+#include "orbis/COSNameID.hpp"
+#include "orbis/COSPackage.hpp"
+
+#include <algorithm>
+#include <regex>
+
+extern "C" {
+void VXInitialize_orbis_factory();
+void VXTerminate_orbis_factory();
+void const* QueryVXFcnTable_orbis_factory();
+extern char const* orbis_factory_version;
+extern char const* orbis_factory_build_date;
+extern char const* orbis_factory_relative_path;
+}
+
+namespace {
+
+using ModuleTest = HvmTest;
+
+orbis::COSPackage* rootPackage()
+{
+    return orbis::COSPackage::getPackage(orbis::COSNameID("orbis_factory"));
+}
+
+TEST_F(ModuleTest, InitialisationCountsOncePerVirtualMachine)
+{
+    VXTerminate_orbis_factory();
+    VXInitialize_orbis_factory();
+    orbis::COSPackage* const root = rootPackage();
+    ASSERT_NE(root, nullptr);
+    VXInitialize_orbis_factory();
+    EXPECT_EQ(rootPackage(), root);
+    {
+        velmara::Hvm other;
+        velmara::Hvm::Scope const scope(other);
+        EXPECT_EQ(rootPackage(), nullptr);
+        VXInitialize_orbis_factory();
+        EXPECT_NE(rootPackage(), nullptr);
+    }
+    VXTerminate_orbis_factory();
+    EXPECT_EQ(rootPackage(), nullptr);
+    VXTerminate_orbis_factory();
+    VXInitialize_orbis_factory();
+    EXPECT_NE(rootPackage(), nullptr);
+}
+
+TEST_F(ModuleTest, AnInitialisationThatFailsIsNotRemembered)
+{
+    VXInitialize_orbis_factory();
+    VXTerminate_orbis_factory();
+    endHvm();
+    EXPECT_ANY_THROW(VXInitialize_orbis_factory()) << "there is no virtual machine to publish in";
+}
+
+TEST_F(ModuleTest, TheRootPackageOffersItsClassesAndFunctions)
+{
+    VXInitialize_orbis_factory();
+    auto const record = hvm().describePackage("orbis_factory");
+    EXPECT_EQ(record.classes, std::vector<std::string>{"orbis_factory.Adder"});
+    ASSERT_EQ(record.functions.size(), 2u);
+
+    auto const printed = [&](char const* function) {
+        testing::internal::CaptureStdout();
+        EXPECT_EQ(hvm().callFunction(function), nullptr);
+        std::fflush(stdout);
+        return testing::internal::GetCapturedStdout();
+    };
+    EXPECT_EQ(printed("orbis_factory.testPkgStuff"), "success!");
+    auto const adder = hvm().construct("orbis_factory.Adder");
+    std::string const dump = printed("orbis_factory.dumpReg");
+    EXPECT_EQ(std::count(dump.begin(), dump.end(), '\n'), 5);
+}
+
+TEST_F(ModuleTest, TheAdderAddsAndWrapsAround)
+{
+    VXInitialize_orbis_factory();
+    auto const start = number(2147483647);
+    auto const one = number(1);
+    hvArray* const first[] = {start.get()};
+    auto const adder = hvm().construct("orbis_factory.Adder", first);
+    hvArray* const both[] = {start.get(), one.get()};
+    EXPECT_EQ(scalar<std::int32_t>(hvm().call(adder.get(), "getSum", both)), INT32_MIN);
+    EXPECT_EQ(scalar<std::int32_t>(hvm().call(adder.get(), "getTotal")), -1);
+    std::vector<hvArray*> const twenty(20, one.get());
+    EXPECT_EQ(scalar<std::int32_t>(hvm().call(adder.get(), "getSumOfTwenty", twenty)), 20);
+    auto const record = hvm().describeClass("orbis_factory.Adder");
+    for (auto const& method : record.methods) {
+        if (method.name == "getSumOfTwenty") {
+            EXPECT_EQ(method.inputs.at(11).name, "rest");
+            EXPECT_EQ(method.inputs.at(20).name, "rest");
+        }
+    }
+}
+
+TEST_F(ModuleTest, TheVersionRecordIsThreeWordsInARow)
+{
+    EXPECT_EQ(&orbis_factory_version + 1, &orbis_factory_build_date);
+    EXPECT_EQ(&orbis_factory_build_date + 1, &orbis_factory_relative_path);
+    EXPECT_TRUE(std::regex_match(orbis_factory_version, std::regex("\\d+\\.\\d+\\.\\d+\\.\\d+")));
+    EXPECT_TRUE(std::regex_match(orbis_factory_build_date, std::regex("[A-Z][a-z]{2} [ 123]\\d \\d{4}")));
+    EXPECT_STREQ(orbis_factory_relative_path, "bin\\win64\\orbis_factory.dll");
+    char const* const kept = orbis_factory_version;
+    orbis_factory_version = "written"; // writable data
+    orbis_factory_version = kept;
+}
+
+TEST_F(ModuleTest, TheFunctionTableListsTwoPlaceholders)
+{
+    using Gateway = void (*)(int, hvArray_tag*, int, hvArray_tag*);
+    auto const* const functions = *static_cast<Gateway const* const*>(QueryVXFcnTable_orbis_factory());
+    ASSERT_NE(functions[0], nullptr);
+    EXPECT_EQ(functions[0], functions[1]);
+    EXPECT_EQ(functions[2], nullptr);
+    testing::internal::CaptureStdout();
+    functions[0](0, nullptr, 0, nullptr);
+    std::fflush(stdout);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "Internal Error!");
+}
+
+} // namespace

@@ -1,0 +1,101 @@
+#include "HvmTest.hpp"
+
+#include "orbis/factory/FunctionInfo.hpp"
+#include "orbis/factory/ParameterNamer.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
+
+using namespace orbis;
+using namespace orbis::factory;
+
+namespace {
+
+std::string namesOf(ParameterNamer const& namer, unsigned int count)
+{
+    std::string joined;
+    for (unsigned int i = 1; i <= count; ++i)
+        joined += std::string("[") + namer.getInputParameter(i).c_str() + "]";
+    return joined;
+}
+
+TEST(ParameterNamer, NamesFollowTheirList)
+{
+    struct Case {
+        char const* list;
+        char const* names;
+    };
+    for (auto const& [list, names] : {Case{nullptr, "[p0][p1][p2]"}, Case{"", "[p0][p1][p2]"}, Case{"a, b", "[a][b][p2]"},
+                                      Case{"a,,c", "[a][][c]"}, Case{" ", "[][p1][p2]"}, Case{"a b,\tc", "[ab][\tc][p2]"},
+                                      Case{",", "[][][p2]"}}) {
+        ParameterNamer const namer(list);
+        EXPECT_EQ(namesOf(namer, 3), names);
+        EXPECT_STREQ(namer.getOutputParameter(7).c_str(), "result");
+    }
+    EXPECT_EQ(namesOf(ParameterNamer(std::string()), 2), "[p0][p1]");
+}
+
+class SignatureTest : public HvmTest {
+protected:
+    /// What the host reads back from a signature.
+    template <class F>
+    velmara::MethodRecord made(F create)
+    {
+        static int number = 0;
+        std::string const name = "f" + std::to_string(number++);
+        registerOrbisPackage("signatures", {})
+            ->addFunction([&] {
+                auto function = std::make_unique<FunctionInfo>(name.c_str(), MethodAttributes());
+                create(function->method().signature());
+                create(function->method().signature()); // made once, later calls change nothing
+                return function.release();
+            }());
+        return hvm().describeFunction("signatures." + name);
+    }
+
+    SignatureTest() { registerOrbisPackage("signatures", {}); }
+};
+
+TEST_F(SignatureTest, OutputSelfAndInputsComeInOrder)
+{
+    using impl::Invoker;
+    auto const record = made([](COSMethodSignaturePtr& signature) {
+        Invoker::createSignature("a", "double scalar", "some.Class", "int32 scalar", "char vector", signature);
+    });
+    ASSERT_EQ(record.inputs.size(), 3u);
+    EXPECT_EQ(record.inputs[0].name + ":" + record.inputs[0].dataType, "this:some.Class");
+    EXPECT_EQ(record.inputs[1].name + ":" + record.inputs[1].dataType, "a:int32 scalar");
+    EXPECT_EQ(record.inputs[2].name + ":" + record.inputs[2].dataType, "p1:char vector");
+    ASSERT_EQ(record.outputs.size(), 1u);
+    EXPECT_EQ(record.outputs[0].name + ":" + record.outputs[0].dataType, "result:double scalar");
+
+    auto const none = made([](COSMethodSignaturePtr& signature) {
+        Invoker::createSignature(nullptr, "void", nullptr, signature);
+    });
+    EXPECT_TRUE(none.inputs.empty() && none.outputs.empty());
+    auto const nearlyVoid = made([](COSMethodSignaturePtr& signature) {
+        Invoker::createSignature(nullptr, "void ", nullptr, signature);
+    });
+    EXPECT_EQ(nearlyVoid.outputs.size(), 1u);
+}
+
+TEST_F(SignatureTest, InputsPastTheTenthAllHaveTheEleventhName)
+{
+    using impl::Invoker;
+    char const* const t = "int32 scalar";
+    auto const listed = made([&](COSMethodSignaturePtr& s) {
+        Invoker::createSignature("a,b,c,d,e,f,g,h,i,j,k,l", "void", nullptr, t, t, t, t, t, t, t, t, t, t, t, t, s);
+    });
+    ASSERT_EQ(listed.inputs.size(), 12u);
+    EXPECT_EQ(listed.inputs[9].name, "j");
+    EXPECT_EQ(listed.inputs[10].name, "k");
+    EXPECT_EQ(listed.inputs[11].name, "k");
+    auto const full = made([&](COSMethodSignaturePtr& s) {
+        Invoker::createSignature(nullptr, "void", "some.Class", t, t, t, t, t, t, t, t, t, t, t, t, t, t, t, t, t, t, t,
+                                 t, s);
+    });
+    ASSERT_EQ(full.inputs.size(), 21u);
+    EXPECT_EQ(full.inputs[10].name, "p9");
+    EXPECT_EQ(full.inputs[11].name, "p10");
+    EXPECT_EQ(full.inputs[20].name, "p10");
+}
+
+} // namespace

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/HostClass.hpp"
+#include "orbis/factory/describe.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
+
+#include <stdexcept>
+
+/// A native class that counts how many of it are alive.
+class Tally {
+public:
+    Tally() { ++alive; }
+    explicit Tally(int start) : value_(start) { ++alive; }
+    Tally(Tally const& other) : value_(other.value_) { ++alive; }
+    Tally& operator=(Tally const&) = default;
+    virtual ~Tally() { --alive; }
+
+    int add(int a, int b)
+    {
+        value_ += a + b;
+        return value_;
+    }
+    int value() const noexcept { return value_; }
+    void reset() { value_ = 0; }
+    Tally* self() { return this; }
+    Tally const* larger(Tally const* other) const { return other && other->value_ > value_ ? other : this; }
+    bool isNull(Tally const* other) const { return !other; }
+    double mean(float x, double y, bool twice) const { return (x + y) / 2 * (twice ? 2 : 1); }
+    int fail(int) { throw std::runtime_error("failed inside"); }
+
+    inline static int alive = 0;
+
+private:
+    int value_ = 0;
+};
+
+template <>
+struct orbis::factory::HostClass<Tally> {
+    static constexpr char const* name = "tests.Tally";
+};
+
+inline int plus(int a, int b)
+{
+    return a + b;
+}
+
+inline int valueOrMinusOne(Tally const* tally)
+{
+    return tally ? tally->value() : -1;
+}
+
+class TallyInfo final : public orbis::factory::HandleClassInfo<Tally, 1> {
+public:
+    TallyInfo() : HandleClassInfo("tests.Tally", "counts") {}
+
+    void initializeClass(orbis::COSClass* cls) override
+    {
+        using orbis::factory::MethodAttributes;
+        publish(cls, orbis::factory::describe<Tally>()
+                         .constructor()
+                         .constructor<int>("start")
+                         .method("add", &Tally::add, "a, b")
+                         .method("value", &Tally::value, MethodAttributes::Sealed())
+                         .method("reset", &Tally::reset)
+                         .method("self", &Tally::self)
+                         .method("larger", &Tally::larger, "other")
+                         .method("isNull", &Tally::isNull)
+                         .method("mean", &Tally::mean)
+                         .method("fail", &Tally::fail)
+                         .method("forced", &valueOrMinusOne)
+                         .method("doubled", [](Tally* tally, int by) { return tally->value() * by; }, "tally, by")
+                         .staticMethod("plus", &plus, "a, b")
+                         .staticMethod("optional", &valueOrMinusOne));
+    }
+
+    static void publishIn(std::string const& package)
+    {
+        orbis::factory::registerOrbisPackage(package, [](orbis::COSPackage* p) { p->addClass(new TallyInfo); });
+    }
+};
