@@ -1,11 +1,16 @@
 #pragma once
 
+#include "values/HvmStorage.hpp"
+#include "values/MessageCatalog.hpp"
+
 #include <memory>
+#include <vector>
 
 namespace velmara {
 
-class HvmStorage;
-class MessageCatalog;
+class ModuleList;
+class PackageTree;
+class TypeRepository;
 
 /// What stands behind an Hvm: everything that belongs to one virtual machine.
 class HvmState {
@@ -13,6 +18,9 @@ public:
     HvmState();
     HvmState(HvmState const&) = delete;
     HvmState& operator=(HvmState const&) = delete;
+
+    /// Ends the objects, terminates the modules, removes packages and classes, then gives up storage and types,
+    /// and unloads the modules' libraries last.
     ~HvmState();
 
     /// The virtual machine that is current on this thread, or null.
@@ -22,23 +30,66 @@ public:
     static HvmState& required();
 
     /// Makes `state` (null allowed) current on this thread and gives back the one before.
-    static HvmState* makeCurrent(HvmState* state);
+    static HvmState* makeCurrent(HvmState* state)
+    {
+        HvmState* const previous = current_;
+        current_ = state;
+        return previous;
+    }
 
-    MessageCatalog& messages() { return *messages_; }
-    HvmStorage& storage() { return *storage_; }
+    MessageCatalog& messages() { return messages_; }
+    HvmStorage& storage() { return storage_; }
 
     /// False once the virtual machine has begun to give up its storage.
     bool isStorageActive() const { return isStorageActive_; }
 
+    PackageTree& packages() { return *packages_; }
+    TypeRepository& types() { return *types_; }
+    ModuleList& modules() { return *modules_; }
+
+    /// True once the virtual machine has begun to end: no more objects are made.
+    bool isEnding() const { return isEnding_; }
+
+    /// Destroys what was unpublished, as soon as no native code that may still use it is running.
+    void retire(std::shared_ptr<void> unpublished);
+
+    /// A stay in the virtual machine: makes it current, and keeps what is unpublished meanwhile until the
+    /// outermost stay is over.
+    class Entry {
+    public:
+        explicit Entry(HvmState& state) : state_(state), previous_(makeCurrent(&state)) { ++state.entries_; }
+        Entry(Entry const&) = delete;
+        Entry& operator=(Entry const&) = delete;
+
+        ~Entry()
+        {
+            if (--state_.entries_ == 0 && !state_.retired_.empty())
+                state_.destroyRetired();
+            makeCurrent(previous_);
+        }
+
+    private:
+        HvmState& state_;
+        HvmState* previous_;
+    };
+
 private:
+    void destroyRetired();
+
 #if defined(__linux__)
     [[gnu::tls_model("initial-exec")]]
 #endif
     static constinit thread_local HvmState* current_;
 
-    std::unique_ptr<MessageCatalog> messages_;
-    std::unique_ptr<HvmStorage> storage_;
+    std::unique_ptr<ModuleList> modules_; // first, so that the modules' code goes last
+    HvmStorage storage_;
+    MessageCatalog messages_;
+    std::unique_ptr<TypeRepository> types_;
+    std::unique_ptr<PackageTree> packages_;
+    std::vector<std::shared_ptr<void>> retired_;
+    int entries_ = 0;
     bool isStorageActive_ = true;
+    bool isEnding_ = false;
 };
 
 } // namespace velmara

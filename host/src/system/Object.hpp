@@ -44,7 +44,7 @@ public:
     }
 
     /// The name of its class, also when the class is gone.
-    Name className() const { return className_; }
+    Name className() const { return own_.className; }
 
     /// Null once the object has ended.
     Class* classOf() const { return class_; }
@@ -98,7 +98,6 @@ private:
     std::int32_t weak_ = 0;
     State state_ = State::Valid;
     bool isInitialized_ = false;
-    Name className_;
     Slot own_;
     Class* class_;
     HvmState* machine_;

@@ -1,0 +1,61 @@
+#include "system/ArrayComparison.hpp"
+
+#include "values/Array.hpp"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+#include <vector>
+
+namespace velmara {
+
+namespace {
+
+bool haveSameShape(Array const& a, Array const& b)
+{
+    return a.classID() == b.classID() && a.rows() == b.rows() && a.columns() == b.columns() &&
+           a.objectClass() == b.objectClass();
+}
+
+} // namespace
+
+bool areEqual(hvArray_tag const* first, hvArray_tag const* second)
+{
+    std::vector<std::pair<Array const*, Array const*>> open{{Array::of(first), Array::of(second)}};
+    while (!open.empty()) {
+        auto const [a, b] = open.back();
+        open.pop_back();
+        if (a == b)
+            continue;
+        if (!a || !b || !haveSameShape(*a, *b))
+            return false;
+        if (a->classID() == hvCELL_CLASS) {
+            for (std::size_t i = 0; i < a->size(); ++i)
+                open.emplace_back(a->cells()[i], b->cells()[i]);
+        } else if (a->classID() == hvOBJECT_CLASS) {
+            if (!std::ranges::equal(a->objects(), b->objects()))
+                return false;
+        } else if (std::memcmp(a->elements(), b->elements(), a->size() * arrayClass(a->classID()).elementSize) != 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::size_t byteSize(hvArray_tag const* array)
+{
+    std::size_t total = 0;
+    std::vector<Array const*> open{Array::of(array)};
+    while (!open.empty()) {
+        Array const* const next = open.back();
+        open.pop_back();
+        if (!next)
+            continue;
+        if (next->classID() == hvCELL_CLASS)
+            open.insert(open.end(), next->cells().begin(), next->cells().end());
+        total += next->size() * arrayClass(next->classID()).elementSize;
+    }
+    return total;
+}
+
+} // namespace velmara

@@ -1,0 +1,10 @@
+#include "orbis/COSTypeConversion.hpp"
+
+#include "values/LiveCounters.hpp"
+
+namespace orbis {
+
+COSTypeConversion::COSTypeConversion() { ++velmara::liveCountsOfThisThread().descriptors; }
+COSTypeConversion::~COSTypeConversion() { --velmara::liveCountsOfThisThread().descriptors; }
+
+} // namespace orbis

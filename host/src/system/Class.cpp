@@ -1,0 +1,155 @@
+#include "system/Class.hpp"
+
+#include "system/HvmState.hpp"
+#include "system/PackageTree.hpp"
+#include "system/errorTranslation.hpp"
+#include "values/hostError.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace velmara {
+
+namespace {
+
+Name lastPart(Name name)
+{
+    return intern(name->view().substr(name->view().rfind('.') + 1));
+}
+
+std::string text(Name name)
+{
+    return std::string(name->view());
+}
+
+/// The class and all its superclasses, each once, each before its own superclasses, otherwise in the order in which
+/// superclasses were named.
+std::vector<Class*> linearize(Class& cls)
+{
+    std::vector<Class*> order;
+    for (Class* const superclass : cls.contents().superclasses)
+        order.insert(order.end(), superclass->linearization().begin(), superclass->linearization().end());
+    // Of a class that is reached on several ways the last place is kept: behind all its subclasses.
+    std::vector<Class*> reversed;
+    for (auto it = order.rbegin(); it != order.rend(); ++it)
+        if (std::ranges::find(reversed, *it) == reversed.end())
+            reversed.push_back(*it);
+    reversed.push_back(&cls);
+    std::ranges::reverse(reversed);
+    return reversed;
+}
+
+} // namespace
+
+Class::Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, HvmState& machine)
+    : info_(std::move(info)), name_(name), ownName_(lastPart(name)), machine_(machine),
+      contents_(std::make_shared<ClassContents>())
+{
+}
+
+void Class::makeReady()
+{
+    if (state_ == State::Closed)
+        throwHostError("VELMARA:class", "unpublished", {text(name_)});
+    if (state_ != State::Untouched)
+        return;
+    HvmState::Entry const entry(machine_);
+    state_ = State::Describing;
+    try {
+        describe();
+    } catch (...) {
+        dropContents();
+        state_ = State::Untouched;
+        throwHostError("VELMARA:class", "initialization", {text(name_), describeCurrentException()});
+    }
+    state_ = State::Ready;
+}
+
+void Class::describe()
+{
+    info_->initializeClass(this);
+    contents_->linearization = linearize(*this);
+    buildMemberTables(*contents_);
+}
+
+void Class::dropContents()
+{
+    for (Class* const superclass : contents_->superclasses)
+        std::erase(superclass->subclasses_, this);
+    machine_.retire(std::exchange(contents_, std::make_shared<ClassContents>()));
+}
+
+bool Class::isBusy() const
+{
+    return state_ == State::Describing || std::ranges::any_of(subclasses_, &Class::isBusy);
+}
+
+void Class::close()
+{
+    state_ = State::Closed;
+    while (!subclasses_.empty()) {
+        Class& subclass = *subclasses_.back();
+        subclass.close();
+        subclass.state_ = State::Untouched;
+    }
+    objects_.endAll();
+    dropContents();
+}
+
+bool Class::isA(Name ancestor) const
+{
+    return name_ == ancestor || distanceTo(ancestor) > 0;
+}
+
+int Class::distanceTo(Name ancestor) const
+{
+    auto const& classes = linearization();
+    auto const found = std::ranges::find(classes, ancestor, &Class::name);
+    return found == classes.end() ? -1 : static_cast<int>(found - classes.begin());
+}
+
+void Class::setSuperclasses(std::span<orbis::COSNameID const> names)
+{
+    requireOpen(name_);
+    std::vector<Class*> classes;
+    for (orbis::COSNameID const& name : names) {
+        Class* const cls = machine_.packages().findClass(name.interned()->view());
+        if (!cls)
+            throwHostError("VELMARA:class", "unknown", {text(name.interned())});
+        cls->makeReady();
+        if (!cls->isReady())
+            throwHostError("VELMARA:class", "cycle", {text(name_), text(cls->name())});
+        if (cls->info().isSealed())
+            throwHostError("VELMARA:class", "sealed", {text(name_), text(cls->name())});
+        if (std::ranges::find(classes, cls) == classes.end())
+            classes.push_back(cls);
+    }
+    for (Class* const cls : classes)
+        cls->subclasses_.reserve(cls->subclasses_.size() + 1);
+    for (Class* const superclass : contents_->superclasses)
+        std::erase(superclass->subclasses_, this);
+    for (Class* const cls : classes)
+        cls->subclasses_.push_back(this);
+    contents_->superclasses = std::move(classes);
+}
+
+orbis::COSInterfacePtr Class::newInstance()
+{
+    if (machine_.isEnding())
+        throwHostError("VELMARA:hvm", "ending");
+    makeReady();
+    if (!isReady())
+        throwHostError("VELMARA:class", "notInitialized", {text(name_)});
+    return new Object(*this);
+}
+
+void Class::initializeInstance(orbis::COSInterfacePtr instance)
+{
+    auto* const object = static_cast<Object*>(static_cast<orbis::COSInterface*>(instance));
+    if (!object || object->classOf() != this)
+        throwHostError("VELMARA:object", "otherClass",
+                       {text(name_), object ? text(object->className()) : std::string("null")});
+    object->initialize();
+}
+
+} // namespace velmara

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "system/ClassContents.hpp"
+#include "system/ObjectList.hpp"
+
+#include "orbis/COSClass.hpp"
+#include "orbis/COSClassInfo.hpp"
+
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace velmara {
+
+class HvmState;
+
+/// A published class. It is described by its class info when it is first needed.
+class Class final : public orbis::COSClass {
+public:
+    Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, HvmState& machine);
+
+    Name name() const { return name_; }
+    Name ownName() const { return ownName_; }
+    HvmState& machine() const { return machine_; }
+    orbis::COSClassInfo& info() const { return *info_; }
+    ObjectList& objects() { return objects_; }
+
+    /// True when the class is described completely; only then has it members and superclasses.
+    bool isReady() const { return state_ == State::Ready; }
+
+    /// True once the class is being unpublished.
+    bool isClosed() const { return state_ == State::Closed; }
+
+    /// Has the class described when it is not yet. When describing fails, what was added is dropped, and the
+    /// error names the class. While the class is being described this does nothing.
+    void makeReady();
+
+    /// True while the class or a subclass of it is being described: it cannot be unpublished now.
+    bool isBusy() const;
+
+    /// Ends the class: its objects end, no more are made, and its subclasses, which cannot be without it, go back
+    /// to where they were before they were described.
+    void close();
+
+    ClassContents const& contents() const { return *contents_; }
+    std::vector<Class*> const& linearization() const { return contents_->linearization; }
+    bool isA(Name ancestor) const;
+
+    /// The distance of a class in the linearisation, -1 when it is not there.
+    int distanceTo(Name ancestor) const;
+
+    /// Null when there is none, also after the class infos of the hierarchy were asked to load one of that name.
+    MethodGroup const* findMethods(std::string_view name);
+    Property const* findProperty(std::string_view name);
+
+    /// Takes the place of the direct superclasses while the class is being described.
+    void setSuperclasses(std::span<orbis::COSNameID const> names);
+
+    char const* getName() const override { return ownName_->text; }
+    void addMethod(orbis::COSMethodInfo* method) override;
+    void addProperty(orbis::COSPropInfo* property) override;
+    orbis::COSInterfacePtr newInstance() override;
+    void initializeInstance(orbis::COSInterfacePtr instance) override;
+
+private:
+    enum class State { Untouched, Describing, Ready, Closed };
+
+    void describe();
+    void dropContents();
+    void rebuildTables();
+    void requireOpen(Name member) const;
+    [[noreturn]] void refuseDuplicate(Name member) const;
+
+    /// Looks up by `find`, and once more when `attempt` says that it loaded something.
+    template <class Find, class Attempt>
+    auto findOrLoad(Find find, Attempt attempt);
+
+    std::unique_ptr<orbis::COSClassInfo> info_;
+    Name name_;
+    Name ownName_;
+    HvmState& machine_;
+    std::shared_ptr<ClassContents> contents_;
+    std::vector<Class*> subclasses_; ///< direct ones that are described or being described
+    ObjectList objects_;
+    State state_ = State::Untouched;
+    bool isLoading_ = false; ///< a class info was asked to load a member
+};
+
+} // namespace velmara

@@ -1,0 +1,69 @@
+#include "system/ClassContents.hpp"
+
+#include "system/Class.hpp"
+#include "values/hostError.hpp"
+
+#include <algorithm>
+
+namespace velmara {
+
+namespace {
+
+[[noreturn]] void refuseSealed(Class const& cls, Name member, Class const& definer)
+{
+    throwHostError("VELMARA:class", "sealedMember",
+                   {std::string(cls.name()->view()), std::string(member->view()), std::string(definer.name()->view())});
+}
+
+/// True when a method that is in the group already hides `inherited`.
+bool isHidden(Method const& inherited, MethodGroup const& group, Class const& cls)
+{
+    bool const hidden = std::ranges::any_of(group.methods, [&](Method const* method) {
+        return method->definingClass != inherited.definingClass &&
+               (method->overridesAllSignatures || method->hasSameInputs(inherited));
+    });
+    if (hidden && inherited.isSealed)
+        refuseSealed(cls, inherited.name, *inherited.definingClass);
+    return hidden;
+}
+
+void addMethods(ClassContents& contents, Class const& cls, Class const& definer)
+{
+    for (auto const& method : definer.contents().methods) {
+        if (method->isConstructor)
+            continue;
+        MethodGroup& group = contents.methodGroups[method->name];
+        if (!isHidden(*method, group, cls))
+            group.add(*method);
+    }
+}
+
+void addProperties(ClassContents& contents, Class const& cls, Class const& definer)
+{
+    for (auto const& property : definer.contents().properties) {
+        Property const*& entry = contents.propertiesByName[property->name];
+        if (entry && property->isSealed)
+            refuseSealed(cls, property->name, definer);
+        if (!entry)
+            entry = property.get();
+    }
+}
+
+} // namespace
+
+void buildMemberTables(ClassContents& contents)
+{
+    Class const& cls = *contents.linearization.front();
+    contents.constructors = {};
+    contents.methodGroups = {};
+    contents.propertiesByName = {};
+    for (auto const& method : contents.methods)
+        if (method->isConstructor)
+            contents.constructors.add(*method);
+    for (Class const* const definer : contents.linearization) {
+        addMethods(contents, cls, *definer);
+        addProperties(contents, cls, *definer);
+    }
+}
+
+} // namespace velmara

@@ -1,0 +1,58 @@
+#include "system/HvmState.hpp"
+
+#include "system/ModuleList.hpp"
+#include "system/PackageTree.hpp"
+#include "system/TypeRepository.hpp"
+#include "values/hostError.hpp"
+
+#include <utility>
+
+namespace velmara {
+
+constinit thread_local HvmState* HvmState::current_ = nullptr;
+
+HvmState::HvmState()
+    : modules_(std::make_unique<ModuleList>()), types_(std::make_unique<TypeRepository>()),
+      packages_(std::make_unique<PackageTree>(*this))
+{
+}
+
+HvmState::~HvmState()
+{
+    HvmState* const previous = makeCurrent(this);
+    isEnding_ = true;
+    {
+        Entry const entry(*this);
+        packages_->endAllObjects();
+        modules_->terminateAll();
+        packages_->clear();
+    }
+    isStorageActive_ = false;
+    storage_.clear();
+    packages_->clear(); // what deleters may have published
+    types_->clear();
+    makeCurrent(previous == this ? nullptr : previous);
+}
+
+HvmState& HvmState::required()
+{
+    if (!current_)
+        throwHostError("VELMARA:hvm", "noVirtualMachine");
+    return *current_;
+}
+
+void HvmState::retire(std::shared_ptr<void> unpublished)
+{
+    retired_.push_back(std::move(unpublished));
+    if (entries_ == 0)
+        destroyRetired();
+}
+
+void HvmState::destroyRetired()
+{
+    // Destroying runs foreign code, which may unpublish more.
+    while (!retired_.empty())
+        std::exchange(retired_, {}).clear();
+}
+
+} // namespace velmara

@@ -1,0 +1,57 @@
+#include "system/Method.hpp"
+
+#include "system/Class.hpp"
+#include "values/hostError.hpp"
+
+#include <algorithm>
+
+namespace velmara {
+
+namespace {
+
+Name nameOf(orbis::COSMethodInfo const& info)
+{
+    char const* const name = info.getName();
+    if (!name || !*name)
+        throwHostError("VELMARA:member", "name");
+    return intern(name);
+}
+
+} // namespace
+
+Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, Class const* definer)
+    : info(std::move(descriptor)), name(nameOf(*info)), definingClass(definer), access(info->getMemberAccess()),
+      isStatic(info->isStatic()), isAbstract(info->isAbstract()), isSealed(info->isSealed()),
+      isVisible(info->isVisible()), overridesAllSignatures(info->doesMethodOverrideAllSignatures())
+{
+    if (auto const* const signature = static_cast<Signature const*>(info->getMethodSignature())) {
+        inputs = signature->inputs();
+        outputs = signature->outputs();
+    }
+    isConstructor = definer && name == definer->ownName() && outputs.size() == 1 &&
+                    outputs.front().type.name == definer->name();
+    takesObject = definer && !isStatic && !isConstructor;
+    if (takesObject && inputs.empty())
+        throwHostError("VELMARA:member", "noObjectInput", {std::string(definer->name()->view()), info->getName()});
+}
+
+bool Method::hasSameInputs(Method const& other) const
+{
+    return std::ranges::equal(explicitInputs(), other.explicitInputs(), {}, [](Parameter const& p) { return p.type.name; },
+                              [](Parameter const& p) { return p.type.name; });
+}
+
+std::string Method::describe() const
+{
+    return std::string(name->view()).append("(").append(velmara::describe(explicitInputs())).append(")");
+}
+
+void MethodGroup::add(Method const& method)
+{
+    if (method.isAccessible())
+        methods.insert(methods.begin() + static_cast<std::ptrdiff_t>(accessible++), &method);
+    else
+        methods.push_back(&method);
+}
+
+} // namespace velmara

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "system/Signature.hpp"
+
+#include "orbis/COSMethodInfo.hpp"
+
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace velmara {
+
+class Class;
+
+/// A published callable member: its descriptor with the answers that the dispatch needs, asked once.
+struct Method {
+    /// `definer` is null for a package function. Throws "VELMARA:member:name" for a descriptor without a name.
+    Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, Class const* definer);
+
+    /// The inputs that a caller writes down: all but the object.
+    std::span<Parameter const> explicitInputs() const { return std::span(inputs).subspan(takesObject); }
+
+    /// True when both are called with explicit inputs of the same types.
+    bool hasSameInputs(Method const& other) const;
+
+    /// "getSum(a: int32 scalar, b: int32 scalar)", without the object.
+    std::string describe() const;
+
+    bool isAccessible() const { return access == orbis::MemberAccess::Public; }
+
+    std::unique_ptr<orbis::COSMethodInfo> info;
+    Name name;
+    Class const* definingClass;
+    std::vector<Parameter> inputs;
+    std::vector<Parameter> outputs;
+    orbis::MemberAccess access;
+    bool isConstructor; ///< named as the class itself, with an object of the class as its output
+    bool isStatic;
+    bool isAbstract;
+    bool isSealed;
+    bool isVisible;
+    bool overridesAllSignatures;
+    bool takesObject; ///< its first input is the object it is called on
+};
+
+/// The methods of one name among which the dispatch chooses.
+struct MethodGroup {
+    /// Those that a script may call come first.
+    void add(Method const& method);
+
+    std::vector<Method const*> methods;
+    std::size_t accessible = 0;
+};
+
+} // namespace velmara

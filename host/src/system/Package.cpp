@@ -1,0 +1,164 @@
+#include "system/Package.hpp"
+
+#include "system/HvmState.hpp"
+#include "system/PackageTree.hpp"
+#include "system/errorTranslation.hpp"
+#include "values/hostError.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace velmara {
+
+Package::Package(PackageTree& tree, Package* parent, Name name, std::unique_ptr<orbis::COSPackageInfo> info)
+    : tree_(tree), parent_(parent), name_(name), info_(std::move(info))
+{
+    if (!info_)
+        state_ = State::Populated;
+}
+
+void Package::populate()
+{
+    if (state_ != State::Untouched)
+        return;
+    HvmState::Entry const entry(tree_.machine());
+    state_ = State::Populating;
+    try {
+        tree_.recording([this] { info_->initializePackage(this); });
+    } catch (...) {
+        state_ = State::Untouched;
+        throwHostError("VELMARA:package", "population", {std::string(fullName()), describeCurrentException()});
+    }
+    state_ = State::Populated;
+}
+
+void Package::adopt(std::unique_ptr<orbis::COSPackageInfo> info)
+{
+    info_ = std::move(info);
+    state_ = State::Untouched;
+}
+
+void Package::disown()
+{
+    tree_.machine().retire(std::shared_ptr<orbis::COSPackageInfo>(std::move(info_)));
+    state_ = State::Populated;
+}
+
+bool Package::isBusy() const
+{
+    return state_ == State::Populating || std::ranges::any_of(packages_, [](auto const& p) { return p->isBusy(); }) ||
+           std::ranges::any_of(classes_, [](auto const& c) { return c->isBusy(); });
+}
+
+void Package::close()
+{
+    state_ = State::Closed;
+    for (std::size_t i = 0; i < packages_.size(); ++i)
+        packages_[i]->close();
+    for (std::size_t i = 0; i < classes_.size(); ++i)
+        classes_[i]->close();
+}
+
+void Package::endAllObjects()
+{
+    // By index: ending runs foreign code, which may publish more.
+    for (std::size_t i = 0; i < packages_.size(); ++i)
+        packages_[i]->endAllObjects();
+    for (std::size_t i = 0; i < classes_.size(); ++i)
+        classes_[i]->objects().endAll();
+}
+
+MethodGroup const* Package::findFunctions(std::string_view ownName)
+{
+    auto const find = [this, ownName] {
+        Name const name = findInterned(ownName);
+        return name ? functionGroups_.find(name) : nullptr;
+    };
+    MethodGroup* found = find();
+    if (!found && info_ && info_->attemptToLoadFunction(std::string(ownName).c_str()))
+        found = find();
+    return found;
+}
+
+void Package::requireOpen() const
+{
+    if (state_ == State::Closed)
+        throwHostError("VELMARA:package", "closed", {std::string(fullName())});
+}
+
+Package& Package::place(std::unique_ptr<Package> package)
+{
+    requireOpen();
+    Package& placed = *packages_.emplace_back(std::move(package));
+    tree_.enter(placed);
+    return placed;
+}
+
+Class& Package::place(std::unique_ptr<Class> cls)
+{
+    requireOpen();
+    Class& placed = *classes_.emplace_back(std::move(cls));
+    tree_.enter(placed);
+    return placed;
+}
+
+namespace {
+
+/// Takes the element out of the list that owns it. Empty when it is no longer there.
+template <class T>
+std::unique_ptr<T> takeOut(std::vector<std::unique_ptr<T>>& owners, T const& element)
+{
+    auto const found = std::ranges::find(owners, &element, &std::unique_ptr<T>::get);
+    if (found == owners.end())
+        return nullptr;
+    std::unique_ptr<T> taken = std::move(*found);
+    owners.erase(found);
+    return taken;
+}
+
+} // namespace
+
+void Package::remove(Package& package)
+{
+    package.close();
+    tree_.leave(package);
+    tree_.machine().retire(std::shared_ptr<Package>(takeOut(packages_, package)));
+}
+
+void Package::remove(Class& cls)
+{
+    cls.close();
+    tree_.leave(cls);
+    tree_.machine().retire(std::shared_ptr<Class>(takeOut(classes_, cls)));
+}
+
+void Package::remove(Method& function)
+{
+    std::shared_ptr<Method> taken = takeOut(functions_, function);
+    if (!taken)
+        return;
+    MethodGroup& group = functionGroups_[function.name];
+    std::erase(group.methods, &function);
+    if (function.isAccessible())
+        --group.accessible;
+    if (group.methods.empty())
+        functionGroups_.erase(function.name);
+    tree_.machine().retire(std::move(taken));
+}
+
+void Package::addFunction(orbis::COSMethodInfo* function)
+{
+    auto added = std::make_unique<Method>(std::unique_ptr<orbis::COSMethodInfo>(function), nullptr);
+    requireOpen();
+    std::string const full = std::string(fullName()) + "." + std::string(added->name->view());
+    MethodGroup const* const group = functionGroups_.find(added->name);
+    if (!group)
+        tree_.requireFree(full);
+    else if (std::ranges::any_of(group->methods, [&](Method const* other) { return other->hasSameInputs(*added); }))
+        throwHostError("VELMARA:package", "duplicate", {full});
+    Method& placed = *functions_.emplace_back(std::move(added));
+    functionGroups_[placed.name].add(placed);
+    tree_.record([this, &placed] { remove(placed); });
+}
+
+} // namespace velmara

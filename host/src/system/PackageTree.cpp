@@ -1,0 +1,225 @@
+#include "system/PackageTree.hpp"
+
+#include "system/HvmState.hpp"
+#include "system/TypeRepository.hpp"
+#include "values/hostError.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace velmara {
+
+namespace {
+
+/// A dotted name in two: what precedes the last dot (empty without one) and what follows it.
+std::pair<std::string_view, std::string_view> splitLast(std::string_view name)
+{
+    std::size_t const dot = name.rfind('.');
+    if (dot == std::string_view::npos)
+        return {{}, name};
+    return {name.substr(0, dot), name.substr(dot + 1)};
+}
+
+bool isDottedName(std::string_view name)
+{
+    return !name.empty() && name.front() != '.' && name.back() != '.' && name.find("..") == std::string_view::npos;
+}
+
+template <class T>
+T* findByText(NameMap<T*> const& map, std::string_view fullName)
+{
+    Name const name = findInterned(fullName);
+    T* const* const found = name ? map.find(name) : nullptr;
+    return found ? *found : nullptr;
+}
+
+} // namespace
+
+PackageTree::PackageTree(HvmState& machine)
+    : machine_(machine), root_(std::make_unique<Package>(*this, nullptr, nullptr, nullptr))
+{
+}
+
+Package* PackageTree::findPublishedPackage(std::string_view fullName) const
+{
+    return fullName.empty() ? root_.get() : findByText(packages_, fullName);
+}
+
+Package* PackageTree::findPackage(std::string_view fullName)
+{
+    Package* package = root_.get();
+    for (std::size_t end = 0; package && end < fullName.size();) {
+        std::size_t const begin = end == 0 ? 0 : end + 1;
+        end = std::min(fullName.find('.', begin), fullName.size());
+        package->populate();
+        Package* found = findByText(packages_, fullName.substr(0, end));
+        std::string const own(fullName.substr(begin, end - begin));
+        if (!found && package->info() && package->info()->attemptToLoadSubPackage(own.c_str()))
+            found = findByText(packages_, fullName.substr(0, end));
+        package = found;
+    }
+    return package;
+}
+
+Class* PackageTree::findPublishedClass(Name fullName) const
+{
+    Class* const* const found = classes_.find(fullName);
+    return found && !(*found)->isClosed() ? *found : nullptr;
+}
+
+Class* PackageTree::findClass(Name fullName)
+{
+    Class* const found = findPublishedClass(fullName);
+    return found ? found : findClass(fullName->view());
+}
+
+Class* PackageTree::findClass(std::string_view fullName)
+{
+    auto const find = [this, fullName] {
+        Name const name = findInterned(fullName);
+        return name ? findPublishedClass(name) : nullptr;
+    };
+    if (Class* const found = find())
+        return found;
+    auto const [parent, own] = splitLast(fullName);
+    Package* const package = findPackage(parent);
+    if (!package)
+        return nullptr;
+    package->populate();
+    Class* found = find();
+    if (!found && package->info() && package->info()->attemptToLoadClass(std::string(own).c_str()))
+        found = find();
+    return found;
+}
+
+MethodGroup const* PackageTree::findFunctions(std::string_view fullName)
+{
+    auto const [parent, own] = splitLast(fullName);
+    Package* const package = parent.empty() ? nullptr : findPackage(parent);
+    if (!package)
+        return nullptr;
+    package->populate();
+    return package->findFunctions(own);
+}
+
+void PackageTree::requireFree(std::string_view fullName) const
+{
+    if (!isDottedName(fullName))
+        throwHostError("VELMARA:package", "name", {std::string(fullName)});
+    auto const [parent, own] = splitLast(fullName);
+    Package* const package = findPublishedPackage(parent);
+    bool const isFunction = package && std::ranges::any_of(package->functions(), [&](auto const& function) {
+        return function->name->view() == own;
+    });
+    if (isFunction || findByText(packages_, fullName) || findByText(classes_, fullName))
+        throwHostError("VELMARA:package", "duplicate", {std::string(fullName)});
+}
+
+Package& PackageTree::findOrMake(std::string_view fullName)
+{
+    if (Package* const found = findPublishedPackage(fullName))
+        return *found;
+    requireFree(fullName);
+    Package& parent = findOrMake(splitLast(fullName).first);
+    Package& made = parent.place(std::make_unique<Package>(*this, &parent, intern(fullName), nullptr));
+    record([&parent, &made] { parent.remove(made); });
+    return made;
+}
+
+void PackageTree::addPackage(std::unique_ptr<orbis::COSPackageInfo> info, std::string_view fullName)
+{
+    Package* const existing = fullName.empty() ? nullptr : findPublishedPackage(fullName);
+    if (!existing || existing->info())
+        requireFree(fullName);
+    Package& package = findOrMake(fullName);
+    package.adopt(std::move(info));
+    record([&package] { package.disown(); });
+}
+
+void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info, Package& package)
+{
+    char const* const text = info->getName();
+    std::string_view const fullName = text ? text : "";
+    requireFree(fullName);
+    if (package.name() && splitLast(fullName).first != package.fullName())
+        throwHostError("VELMARA:class", "otherPackage", {std::string(fullName), std::string(package.fullName())});
+    Class& cls = package.place(std::make_unique<Class>(std::move(info), intern(fullName), machine_));
+    record([&package, &cls] { package.remove(cls); });
+}
+
+void PackageTree::removePackage(Name fullName)
+{
+    Package* const* const found = packages_.find(fullName);
+    if (!found)
+        return;
+    for (Package const* package = *found; package; package = package->parent())
+        if (package->state() == Package::State::Closed)
+            return; // it is going already
+    if ((*found)->isBusy())
+        throwHostError("VELMARA:package", "busy", {std::string(fullName->view())});
+    HvmState::Entry const entry(machine_);
+    Package* package = *found;
+    do {
+        Package* const parent = package->parent();
+        parent->remove(*package);
+        package = parent;
+    } while (package->name() && package->isPlaceholder());
+}
+
+void PackageTree::endAllObjects()
+{
+    root_->endAllObjects();
+}
+
+void PackageTree::clear()
+{
+    root_->close();
+    packages_ = {};
+    classes_ = {};
+    machine_.retire(std::shared_ptr<Package>(
+        std::exchange(root_, std::make_unique<Package>(*this, nullptr, nullptr, nullptr))));
+}
+
+void PackageTree::leave(Package const& package)
+{
+    Package* const* const found = packages_.find(package.name());
+    if (found && *found == &package)
+        packages_.erase(package.name());
+    for (auto const& inner : package.packages())
+        leave(*inner);
+    for (auto const& cls : package.classes())
+        leave(*cls);
+}
+
+void PackageTree::leave(Class const& cls)
+{
+    Class* const* const found = classes_.find(cls.name());
+    if (found && *found == &cls) {
+        classes_.erase(cls.name());
+        machine_.types().forgetClass(cls.name());
+    }
+}
+
+void PackageTree::record(Undo undo)
+{
+    if (record_)
+        record_->push_back(std::move(undo));
+}
+
+void PackageTree::recording(std::function<void()> const& populate)
+{
+    std::vector<Undo> added;
+    std::vector<Undo>* const outer = std::exchange(record_, &added);
+    try {
+        populate();
+        record_ = outer;
+    } catch (...) {
+        record_ = nullptr;
+        for (auto undo = added.rbegin(); undo != added.rend(); ++undo)
+            (*undo)();
+        record_ = outer;
+        throw;
+    }
+}
+
+} // namespace velmara

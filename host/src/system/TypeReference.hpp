@@ -1,0 +1,25 @@
+#pragma once
+
+#include "values/InternedName.hpp"
+
+#include "libhv/hvArray.hpp"
+
+#include <cstdint>
+
+namespace velmara {
+
+/// What a data type name means to the dispatch. All but `Named` are the host's own and mean the same in every
+/// virtual machine; a named type is a registered one, a class, or a class's vector type.
+enum class TypeKind : std::uint8_t { Void, Any, Scalar, Text, Named };
+
+/// A data type by its name, with what can be known from the name alone.
+struct TypeReference {
+    explicit TypeReference(Name typeName);
+
+    Name name;
+    Name element = nullptr; ///< the class of a "... vector" type
+    TypeKind kind = TypeKind::Named;
+    hvClassID scalarClass = hvUNKNOWN_CLASS; ///< the elements' class of a scalar type
+};
+
+} // namespace velmara

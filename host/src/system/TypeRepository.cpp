@@ -1,0 +1,115 @@
+#include "system/TypeRepository.hpp"
+
+#include "system/BuiltInType.hpp"
+#include "system/HvmState.hpp"
+#include "system/PackageTree.hpp"
+#include "values/hostError.hpp"
+
+#include <utility>
+
+namespace velmara {
+
+namespace {
+
+std::string text(Name name)
+{
+    return std::string(name->view());
+}
+
+bool isTypeOfPublishedClass(TypeReference const& type)
+{
+    HvmState* const machine = HvmState::current();
+    return machine && machine->packages().findClass(type.element ? type.element : type.name);
+}
+
+} // namespace
+
+orbis::COSDataType* TypeRepository::findRegistered(Name name) const
+{
+    Entry const* const entry = types_.find(name);
+    return entry && entry->isRegistered ? entry->type.get() : nullptr;
+}
+
+orbis::COSDataType* TypeRepository::obtain(Name name)
+{
+    if (Entry const* const entry = types_.find(name))
+        return entry->type.get();
+    TypeReference const type(name);
+    if (type.kind == TypeKind::Named && !isTypeOfPublishedClass(type))
+        return nullptr;
+    if (Entry const* const entry = types_.find(name)) // populating packages may have registered it
+        return entry->type.get();
+    Held made(makeBuiltInType(type));
+    made->getReference();
+    Entry& entry = types_[name];
+    entry.type = std::move(made);
+    return entry.type.get();
+}
+
+void TypeRepository::add(std::unique_ptr<orbis::COSDataType> type)
+{
+    char const* const typeName = type->scalarTypeName();
+    if (!typeName || !*typeName)
+        throwHostError("VELMARA:type", "name");
+    Name const name = intern(typeName);
+    if (TypeReference(name).kind != TypeKind::Named || types_.find(name))
+        throwHostError("VELMARA:type", "duplicate", {text(name)});
+    Entry& entry = types_[name];
+    type->getReference();
+    entry = {Held(type.release()), true};
+}
+
+void TypeRepository::remove(Name name)
+{
+    Entry* const entry = types_.find(name);
+    if (!entry || !entry->isRegistered)
+        return;
+    Held const removed = std::move(entry->type); // its end runs foreign code: the table is in order before
+    types_.erase(name);
+}
+
+void TypeRepository::addConversion(Name from, Name to, std::unique_ptr<orbis::COSTypeConversion> conversion)
+{
+    auto& conversion_ = conversions_[to][from];
+    if (conversion_)
+        throwHostError("VELMARA:type", "duplicateConversion", {text(from), text(to)});
+    conversion_ = std::move(conversion);
+}
+
+void TypeRepository::removeConversion(Name from, Name to)
+{
+    auto* const bySource = conversions_.find(to);
+    auto* const found = bySource ? bySource->find(from) : nullptr;
+    if (!found)
+        return;
+    auto const removed = std::move(*found);
+    bySource->erase(from);
+}
+
+orbis::COSTypeConversion* TypeRepository::findConversion(Name from, Name to) const
+{
+    auto const* const bySource = conversions_.find(to);
+    auto const* const found = bySource ? bySource->find(from) : nullptr;
+    return found ? found->get() : nullptr;
+}
+
+void TypeRepository::forgetClass(Name className)
+{
+    for (Name const name : {className, findInterned(text(className) + " vector")}) {
+        Entry* const entry = name ? types_.find(name) : nullptr;
+        if (!entry || entry->isRegistered)
+            continue;
+        Held const removed = std::move(entry->type);
+        types_.erase(name);
+    }
+}
+
+void TypeRepository::clear()
+{
+    while (!conversions_.empty())
+        std::exchange(conversions_, {});
+    while (!types_.empty())
+        std::exchange(types_, {});
+}
+
+} // namespace velmara

@@ -1,0 +1,107 @@
+#include "system/Class.hpp"
+#include "values/hostError.hpp"
+
+#include "additions/additions.hpp"
+
+#include <algorithm>
+
+namespace velmara {
+
+void Class::requireOpen(Name member) const
+{
+    if (state_ != State::Describing && !isLoading_)
+        throwHostError("VELMARA:class", "closed", {std::string(name_->view()), std::string(member->view())});
+}
+
+void Class::refuseDuplicate(Name member) const
+{
+    throwHostError("VELMARA:class", "duplicateMember", {std::string(name_->view()), std::string(member->view())});
+}
+
+void Class::addMethod(orbis::COSMethodInfo* method)
+{
+    auto added = std::make_unique<Method>(std::unique_ptr<orbis::COSMethodInfo>(method), this);
+    requireOpen(added->name);
+    auto const isSame = [&added](auto const& other) {
+        return other->name == added->name && other->isConstructor == added->isConstructor &&
+               other->hasSameInputs(*added);
+    };
+    if (std::ranges::any_of(contents_->methods, isSame) ||
+        std::ranges::find(contents_->properties, added->name, [](auto const& p) { return p->name; }) !=
+            contents_->properties.end())
+        refuseDuplicate(added->name);
+    contents_->methods.push_back(std::move(added));
+}
+
+void Class::addProperty(orbis::COSPropInfo* property)
+{
+    auto added = std::make_unique<Property>(std::unique_ptr<orbis::COSPropInfo>(property), *this);
+    requireOpen(added->name);
+    auto const nameOf = [](auto const& member) { return member->name; };
+    if (std::ranges::find(contents_->properties, added->name, nameOf) != contents_->properties.end() ||
+        std::ranges::find(contents_->methods, added->name, nameOf) != contents_->methods.end())
+        refuseDuplicate(added->name);
+    contents_->properties.push_back(std::move(added));
+}
+
+void Class::rebuildTables()
+{
+    buildMemberTables(*contents_);
+    for (Class* const subclass : subclasses_)
+        if (subclass->isReady())
+            subclass->rebuildTables();
+}
+
+template <class Find, class Attempt>
+auto Class::findOrLoad(Find find, Attempt attempt)
+{
+    auto found = find();
+    for (std::size_t i = 0; !found && i < linearization().size(); ++i) {
+        Class& cls = *linearization()[i];
+        if (cls.isLoading_)
+            continue;
+        cls.isLoading_ = true;
+        try {
+            if (attempt(cls.info()))
+                cls.rebuildTables();
+        } catch (...) {
+            cls.isLoading_ = false;
+            throw;
+        }
+        cls.isLoading_ = false;
+        found = find();
+    }
+    return found;
+}
+
+MethodGroup const* Class::findMethods(std::string_view name)
+{
+    auto const find = [this, name] {
+        Name const interned = findInterned(name);
+        return interned ? contents().methodGroups.find(interned) : nullptr;
+    };
+    return findOrLoad(find, [name](orbis::COSClassInfo& info) { return info.attemptToLoadMethod(std::string(name).c_str()); });
+}
+
+Property const* Class::findProperty(std::string_view name)
+{
+    auto const find = [this, name]() -> Property const* {
+        Name const interned = findInterned(name);
+        Property const* const* const found = interned ? contents().propertiesByName.find(interned) : nullptr;
+        return found ? *found : nullptr;
+    };
+    return findOrLoad(find, [name](orbis::COSClassInfo& info) { return info.attemptToLoadProperty(std::string(name).c_str()); });
+}
+
+} // namespace velmara
+
+namespace orbis::additions {
+
+void setSuperclasses(COSClass* cls, std::span<COSNameID const> superclasses)
+{
+    if (!cls)
+        velmara::throwHostError("VELMARA:class", "null");
+    static_cast<velmara::Class*>(cls)->setSuperclasses(superclasses);
+}
+
+} // namespace orbis::additions

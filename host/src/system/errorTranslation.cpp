@@ -1,0 +1,51 @@
+#include "system/errorTranslation.hpp"
+
+#include "values/MessageCatalog.hpp"
+
+#include "velmara/Error.hpp"
+
+#include "libkwfl/IMsgIDException.hpp"
+
+#include <exception>
+
+namespace velmara {
+
+namespace {
+
+Error currentError()
+{
+    constexpr char const* native = "VELMARA:native";
+    try {
+        throw;
+    } catch (Error const& error) {
+        return error;
+    } catch (foundation::core::except::IMsgIDException const& error) {
+        std::string const& identifier = error.getErrorID();
+        return {identifier.empty() ? "VELMARA:native:exception" : identifier, error.what()};
+    } catch (foundation::core::except::IException const& error) {
+        return {"VELMARA:native:exception", messageText(native, "exception", {error.what()})};
+    } catch (std::exception const& error) {
+        return {"VELMARA:native:exception", messageText(native, "exception", {error.what()})};
+    } catch (...) {
+        return {"VELMARA:native:unknown", messageText(native, "unknown", {})};
+    }
+}
+
+} // namespace
+
+void rethrowAsError()
+{
+    throw currentError();
+}
+
+std::string describeCurrentException()
+{
+    return currentError().what();
+}
+
+std::string textOfCurrentException()
+{
+    return currentError().text();
+}
+
+} // namespace velmara
