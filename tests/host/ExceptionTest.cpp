@@ -1,0 +1,124 @@
+#include "HvmTest.hpp"
+
+#include "libkwfl/Exception.hpp"
+#include "libkwfl/bad_alloc.hpp"
+#include "orbis/Enumeration.hpp"
+
+namespace {
+
+using namespace foundation::core::except;
+
+class tested_key : public resource_core::BaseMsgID {
+public:
+    explicit tested_key(std::vector<std::string> arguments = {})
+        : BaseMsgID("ExceptionTest:texts", "tested_key", std::move(arguments))
+    {
+    }
+};
+
+using TestedError = Exception<tested_key, std::exception>;
+
+void addText(char const* text)
+{
+    orbis::additions::Message const messages[] = {{"other_key", "other"}, {"tested_key", text}};
+    orbis::additions::addMessages("ExceptionTest:texts", messages);
+}
+
+std::string textOf(std::vector<std::string> arguments)
+{
+    return TestedError(tested_key(std::move(arguments))).what();
+}
+
+} // namespace
+
+using ExceptionTest = HvmTest;
+
+TEST_F(ExceptionTest, TextsAreFilledWithTheArguments)
+{
+    std::pair<char const*, char const*> const texts[] = {
+        {"plain", "plain"},
+        {"{0} and {1}, {0} again", "first and {1}, first again"},
+        {"{1}{0}", "{1}first"},
+        {"{{0}} is literal", "{0}} is literal"},
+        {"{ }, {x}, {0x}, {-1}, {", "{ }, {x}, {0x}, {-1}, {"},
+        {"{0", "{0"},
+        {"{99999999999999999999999}", "{99999999999999999999999}"},
+    };
+    for (auto const& [text, filled] : texts) {
+        addText(text);
+        EXPECT_EQ(textOf({"first"}), filled);
+    }
+    addText("{0} and {1}");
+    EXPECT_EQ(textOf({"{1}", "two"}), "{1} and two");
+}
+
+TEST_F(ExceptionTest, TextsBelongToTheirVirtualMachine)
+{
+    addText("here");
+    TestedError const made{tested_key()};
+    {
+        velmara::Hvm other;
+        velmara::Hvm::Scope const scope(other);
+        EXPECT_EQ(textOf({}), "ExceptionTest:texts:tested_key");
+    }
+    EXPECT_EQ(textOf({}), "here");
+    endHvm();
+    EXPECT_EQ(textOf({"x"}), "ExceptionTest:texts:tested_key");
+    EXPECT_STREQ(made.what(), "here");
+    // The host's own texts need no virtual machine.
+    try {
+        hvCreateDeepCopy(nullptr);
+        FAIL();
+    } catch (std::exception const& error) {
+        EXPECT_STREQ(error.what(), "An array is needed here, but there is none.");
+    }
+}
+
+TEST_F(ExceptionTest, IdentitiesAndCopiesKeepEverything)
+{
+    addText("k\xC3\xA4se {0}");
+    std::unique_ptr<TestedError> original = std::make_unique<TestedError>(tested_key({"x"}));
+    TestedError const copy(*original);
+    original.reset();
+    EXPECT_EQ(copy.getErrorID(), "ExceptionTest:texts:tested_key");
+    EXPECT_EQ(IMsgIDException::get_error_id(tested_key()), copy.getErrorID());
+    EXPECT_EQ(copy.getArguments(), std::vector<std::string>{"x"});
+    EXPECT_EQ(copy.GetUnicodeMessageTxt(), u"k\xE4se x");
+    EXPECT_STREQ(static_cast<std::exception const&>(copy).what(), "k\xC3\xA4se x");
+    EXPECT_EQ(IMsgIDException().getErrorID(), "");
+    EXPECT_STREQ(IMsgIDException().what(), "");
+}
+
+TEST_F(ExceptionTest, TheHostErrorChannelGetsACopy)
+{
+    addText("text");
+    try {
+        do_legacy_hv_error(TestedError(tested_key({"x"})));
+    } catch (IMsgIDException const& error) {
+        EXPECT_EQ(error.getErrorID(), "ExceptionTest:texts:tested_key");
+        EXPECT_EQ(error.getArguments(), std::vector<std::string>{"x"});
+        EXPECT_STREQ(dynamic_cast<std::exception const&>(error).what(), "text");
+    }
+    Exception<IUserException, std::exception> const plain("plain text");
+    EXPECT_THROW(do_legacy_hv_error(plain), IUserException);
+    try {
+        do_legacy_hv_error(plain);
+    } catch (std::exception const& error) {
+        EXPECT_STREQ(error.what(), "plain text");
+    }
+}
+
+TEST_F(ExceptionTest, EachKindIsCaughtByBothOfItsRoots)
+{
+    Exception<IInternalException, std::exception> const internal("broken");
+    EXPECT_THROW(throw internal, IInternalException);
+    EXPECT_THROW(throw internal, std::exception);
+    EXPECT_THROW(throw foundation::core::except::bad_alloc(), IException);
+    EXPECT_THROW(throw foundation::core::except::bad_alloc(), std::bad_alloc);
+    EXPECT_THROW(throw orbis::ENoElements(), IException);
+    orbis::Enumeration<int> none;
+    EXPECT_THROW(none.nextElement(), std::exception);
+    orbis::ENoElements first;
+    orbis::ENoElements const moved(std::move(first));
+    EXPECT_STRNE(moved.what(), "");
+}

@@ -1,0 +1,117 @@
+#include "HvmTest.hpp"
+
+#include "libkwfl/IUserException.hpp"
+#include "libkwi18n/libkwi18n.hpp"
+#include "libut/libut.hpp"
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace std::string_literals;
+using fl::i18n::to_string;
+using fl::i18n::to_ustring;
+
+using TextArrayTest = HvmTest;
+
+namespace {
+
+std::string taken(char* text, void (*release)(void*))
+{
+    std::string const copy = text ? text : "(none)";
+    release(text);
+    return copy;
+}
+
+} // namespace
+
+TEST(TextTest, WellFormedTextCrossesUnchanged)
+{
+    std::pair<std::string, std::u16string> const texts[] = {
+        {"", u""},
+        {"plain text of some length", u"plain text of some length"},
+        {"zero\0inside"s, u"zero\0inside"s},
+        {"\x7F\xC2\x80\xDF\xBF", u"\x7F\x80\x7FF"},
+        {"\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF", u"\x800\xD7FF\xE000\xFFFF"},
+        {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", u"\xD800\xDC00\xDBFF\xDFFF"},
+        {"eight...\xC3\xA4 and eight more \xF0\x9F\x98\x80", u"eight...\xE4 and eight more \xD83D\xDE00"},
+    };
+    for (auto const& [utf8, utf16] : texts) {
+        EXPECT_EQ(to_ustring(utf8), utf16) << utf8;
+        EXPECT_EQ(to_string(utf16), utf8);
+    }
+    using foundation::core::except::IUserException;
+    EXPECT_EQ(IUserException::convert_str("\xC3\xA4"s), u"\xE4");
+    EXPECT_EQ(IUserException::convert_str(u"\xE4"s), "\xC3\xA4");
+    EXPECT_EQ(IUserException::ToUstringImpl(nullptr), u"");
+}
+
+// One replacement for each maximal part that could have begun a character.
+TEST(TextTest, IllFormedTextIsReplacedPartByPart)
+{
+    std::pair<std::string, std::u16string> const texts[] = {
+        {"\x80", u"\xFFFD"},
+        {"\xC0\xAF", u"\xFFFD\xFFFD"},
+        {"\xE0\x80\x80", u"\xFFFD\xFFFD\xFFFD"},
+        {"\xED\xA0\x80", u"\xFFFD\xFFFD\xFFFD"},
+        {"\xF0\x8F\xBF\xBF", u"\xFFFD\xFFFD\xFFFD\xFFFD"},
+        {"\xF4\x90\x80\x80", u"\xFFFD\xFFFD\xFFFD\xFFFD"},
+        {"\xF5\xFF", u"\xFFFD\xFFFD"},
+        {"\xE2\x82", u"\xFFFD"},
+        {"\xF0\x9F\x98", u"\xFFFD"},
+        {"\xE2\x82z", u"\xFFFDz"},
+        {"\xF0\x9F\xC3\xA4", u"\xFFFD\xE4"},
+        {"\x61\xF1\x80\x80\xE1\x80\xC2\x62\x80\x63\x80\xBF\x64", u"a\xFFFD\xFFFD\xFFFD"
+                                                                 u"b\xFFFD"
+                                                                 u"c\xFFFD\xFFFD"
+                                                                 u"d"},
+    };
+    for (auto const& [utf8, utf16] : texts)
+        EXPECT_EQ(to_ustring(utf8), utf16) << testing::PrintToString(utf8);
+    EXPECT_EQ(to_string(u"\xD800"), "\xEF\xBF\xBD");
+    EXPECT_EQ(to_string(u"\xDC00\xD800z"), "\xEF\xBF\xBD\xEF\xBF\xBDz");
+    EXPECT_EQ(to_string(u"\xD800\xD83D\xDE00"), "\xEF\xBF\xBD\xF0\x9F\x98\x80");
+}
+
+TEST_F(TextArrayTest, CharacterArraysHoldUtf16)
+{
+    struct {
+        velmara::ArrayPtr array;
+        std::size_t rows, columns;
+        std::string utf8;
+        std::u16string utf16;
+    } const cases[] = {
+        {velmara::ArrayPtr(hvCreateString("gr\xC3\xBC\xC3\x9F")), 1, 4, "gr\xC3\xBC\xC3\x9F", u"gr\xFC\xDF"},
+        {velmara::ArrayPtr(hvCreateString("a\xFF")), 1, 2, "a\xEF\xBF\xBD", u"a\xFFFD"},
+        {velmara::ArrayPtr(hvCreateString_UTF16(u"\xD83D\xDE00")), 1, 2, "\xF0\x9F\x98\x80", u"\xD83D\xDE00"},
+        {velmara::ArrayPtr(hvCreateString_UTF16(u"x")), 1, 1, "x", u"x"},
+        {velmara::ArrayPtr(hvCreateString("")), 0, 0, "", u""},
+        {velmara::ArrayPtr(hvCreateString(nullptr)), 0, 0, "", u""},
+        {velmara::ArrayPtr(hvCreateString_UTF16(nullptr)), 0, 0, "", u""},
+    };
+    for (auto const& [array, rows, columns, utf8, utf16] : cases) {
+        EXPECT_EQ(array->_get_class_id_non_trivial(), hvCHAR_CLASS);
+        EXPECT_EQ(array->get_dimensions()[0], rows);
+        EXPECT_EQ(array->get_dimensions()[1], columns);
+        EXPECT_EQ(taken(hvArrayToString(array.get()), hvFreeEx), utf8);
+        EXPECT_EQ(taken(hvArray2String(array.get()), hvFree), utf8);
+        char16_t* const wide = hvArrayToString_UTF16(array.get());
+        EXPECT_EQ(wide, utf16);
+        hvFreeEx(wide);
+    }
+    velmara::ArrayPtr const cell(hvCreateCellMatrix(1, 1));
+    EXPECT_EQ(hvArrayToString(cell.get()), nullptr);
+    EXPECT_EQ(hvArrayToString_UTF16(cell.get()), nullptr);
+    EXPECT_EQ(hvArray2String(nullptr), nullptr);
+}
+
+TEST(TextTest, OutputIsTheSameOnEachSystem)
+{
+    testing::internal::CaptureStdout();
+    auto* const address = reinterpret_cast<void*>(std::uintptr_t(0xABCDEF12));
+    int const printed = utPrintf("%%%15p|%-12p|%3d|%zu|%s|%.1f\n", address, address, 7, sizeof(char), "%p", 0.5);
+    std::fflush(stdout);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "%     0xabcdef12|0xabcdef12  |  7|1|%p|0.5\n");
+    EXPECT_EQ(printed, 43);
+    utFree(std::calloc(1, 8));
+    utFree(nullptr);
+}
