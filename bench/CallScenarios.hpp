@@ -1,0 +1,57 @@
+#pragma once
+
+#include "bench/BenchedAdder.hpp"
+
+#include "orbis/factory/basic/BindingRegistry.hpp"
+
+#include <cstddef>
+
+namespace bench {
+
+/// The measured calls, each a loop over `count` of them.
+class CallScenarios {
+public:
+    void invoke(orbis::COSMethodInfo const& method, COSValue const* inputs, int inputCount, std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i) {
+            int outputCount = 1;
+            COSValue output;
+            method.invoke(nullptr, outputCount, &output, inputCount, inputs);
+        }
+    }
+
+    /// A free function through its `FunctionInfo`.
+    void function(std::size_t count) { invoke(fixture_.function, memberInputs_ + 1, 2, count); }
+
+    /// A member function on a bound object.
+    void member(std::size_t count) { invoke(fixture_.member, memberInputs_, 3, count); }
+    void handWritten(std::size_t count) { invoke(fixture_.handWritten, memberInputs_, 3, count); }
+
+    /// The member by its name, through the host's dispatch, with numbers as scripts give them.
+    void dispatch(std::size_t count)
+    {
+        hvArray* const inputs[] = {one_.get(), two_.get()};
+        for (std::size_t i = 0; i < count; ++i)
+            fixture_.hvm.call(fixture_.object.get(), "add", inputs);
+    }
+
+    /// A bound object to the host. The arrays are kept until the end, so that giving them back is not measured.
+    void announce(std::size_t count)
+    {
+        kept_.reserve(kept_.size() + count);
+        COSNameID const name(adderName);
+        for (std::size_t i = 0; i < count; ++i)
+            kept_.emplace_back(orbis::factory::basic::BindingRegistry::announce(fixture_.native, name));
+    }
+
+    void giveBack() { kept_.clear(); }
+
+private:
+    Fixture fixture_;
+    velmara::ArrayPtr one_ = Fixture::number(1);
+    velmara::ArrayPtr two_ = Fixture::number(2);
+    COSValue memberInputs_[3] = {COSValue(fixture_.object.get()), COSValue(std::int32_t{1}), COSValue(std::int32_t{2})};
+    std::vector<velmara::ArrayPtr> kept_;
+};
+
+} // namespace bench
