@@ -1,0 +1,158 @@
+#include "ClassMembers.hpp"
+
+#include "CloseMatches.hpp"
+#include "HostCall.hpp"
+#include "ObjectBinding.hpp"
+#include "ScriptError.hpp"
+
+#include "libhv/libhv.hpp"
+
+#include <algorithm>
+#include <string>
+
+namespace velmara::console {
+
+namespace {
+
+/// The upvalues of a callable member's function.
+enum Upvalue { className = 1, memberName, isInstance, isStatic, fullName };
+
+bool flag(lua_State* L, Upvalue which)
+{
+    return lua_toboolean(L, lua_upvalueindex(which)) != 0;
+}
+
+bool startsWithObject(lua_State* L)
+{
+    if (!isObject(L, 1))
+        return false;
+    // Where the name is static too, only an object of the class can be the one that the method is for.
+    return !flag(L, isStatic) || hvIsA(checkObject(L, 1), lua_tostring(L, lua_upvalueindex(className)));
+}
+
+int callMember(lua_State* L)
+{
+    std::string_view const name = textAt(L, lua_upvalueindex(memberName));
+    HostCall call(L);
+    if (flag(L, isInstance) && startsWithObject(L)) {
+        hvArray_tag* object = call.keep(checkObject(L, 1));
+        return call.finish(call.hvm().call(object, name, call.inputs(2)));
+    }
+    if (!flag(L, isStatic))
+        fail("noObject", std::string(name) + " needs an object of " +
+                             std::string(textAt(L, lua_upvalueindex(className))) +
+                             " first: write object:" + std::string(name) + "(...)");
+    return call.finish(call.hvm().callStatic(textAt(L, lua_upvalueindex(className)), name, call.inputs(1)));
+}
+
+int callPackageFunction(lua_State* L)
+{
+    HostCall call(L);
+    return call.finish(call.hvm().callFunction(textAt(L, lua_upvalueindex(fullName)), call.inputs(1)));
+}
+
+void pushCallable(lua_State* L, std::string_view cls, std::string_view name, bool instance, bool withoutObject)
+{
+    pushText(L, cls);
+    pushText(L, name);
+    lua_pushboolean(L, instance);
+    lua_pushboolean(L, withoutObject);
+    pushText(L, std::string(cls) + '.' + std::string(name));
+    lua_pushcclosure(L, guarded<callMember>, 5);
+}
+
+[[noreturn]] void failUnknown(ClassRecord const& cls, std::string_view name)
+{
+    std::vector<std::string> known;
+    for (MethodRecord const& method : cls.methods)
+        if (method.isVisible && method.kind != MethodRecord::Kind::Constructor)
+            known.push_back(method.name);
+    for (PropertyRecord const& property : cls.properties)
+        if (property.isVisible)
+            known.push_back(property.name);
+    fail("unknownMember", cls.name + " has no member '" + std::string(name) + "'" + didYouMean(name, known));
+}
+
+/// Pushes what is to be remembered of the member: its function, or for a property whether it is static.
+void pushFound(lua_State* L, std::string_view cls, std::string_view name)
+{
+    ClassRecord const record = Session::of(L).hvm().describeClass(cls);
+    auto const isCalled = [&](MethodRecord::Kind kind) {
+        return std::ranges::any_of(
+            record.methods, [&](MethodRecord const& method) { return method.name == name && method.kind == kind; });
+    };
+    bool const instance = isCalled(MethodRecord::Kind::Method);
+    bool const withoutObject = isCalled(MethodRecord::Kind::StaticMethod);
+    if (instance || withoutObject)
+        return pushCallable(L, cls, name, instance, withoutObject);
+    auto const property = std::ranges::find(record.properties, name, &PropertyRecord::name);
+    if (property == record.properties.end())
+        failUnknown(record, name);
+    lua_pushboolean(L, property->isStatic);
+}
+
+} // namespace
+
+void pushRememberedMembers(lua_State* L, std::string_view cls)
+{
+    luaL_getsubtable(L, LUA_REGISTRYINDEX, "velmara.members");
+    pushText(L, cls);
+    if (lua_rawget(L, -2) != LUA_TTABLE) {
+        lua_pop(L, 1);
+        lua_newtable(L);
+        pushText(L, cls);
+        lua_pushvalue(L, -2);
+        lua_rawset(L, -4);
+    }
+    lua_remove(L, -2);
+}
+
+MemberKind pushMember(lua_State* L, std::string_view cls, std::string_view name)
+{
+    luaL_checkstack(L, 10, nullptr);
+    pushRememberedMembers(L, cls);
+    pushText(L, name);
+    if (lua_rawget(L, -2) == LUA_TNIL) {
+        lua_pop(L, 1);
+        pushFound(L, cls, name);
+        pushText(L, name);
+        lua_pushvalue(L, -2);
+        lua_rawset(L, -4);
+    }
+    lua_remove(L, -2);
+    if (lua_isfunction(L, -1))
+        return MemberKind::Callable;
+    bool const isStaticProperty = lua_toboolean(L, -1) != 0;
+    lua_pop(L, 1);
+    return isStaticProperty ? MemberKind::StaticProperty : MemberKind::Property;
+}
+
+MemberKind checkProperty(lua_State* L, std::string_view cls, std::string_view name)
+{
+    MemberKind const kind = pushMember(L, cls, name);
+    if (kind == MemberKind::Callable)
+        fail("method", std::string(cls) + '.' + std::string(name) + " is a method: it cannot be set");
+    return kind;
+}
+
+void pushPackageFunction(lua_State* L, std::string_view name)
+{
+    luaL_checkstack(L, 8, nullptr);
+    for (int i = className; i < fullName; ++i)
+        lua_pushnil(L);
+    pushText(L, name);
+    lua_pushcclosure(L, guarded<callPackageFunction>, fullName);
+}
+
+std::string_view calledName(lua_State* L, int index)
+{
+    lua_CFunction const function = lua_tocfunction(L, index);
+    if (function != guarded<callMember> && function != guarded<callPackageFunction>)
+        return {};
+    lua_getupvalue(L, index, fullName);
+    std::string_view const name = textAt(L, -1);
+    lua_pop(L, 1); // the function still holds it
+    return name;
+}
+
+} // namespace velmara::console

@@ -1,0 +1,92 @@
+#include "CommandLine.hpp"
+
+namespace velmara::console {
+
+char const* const usageText = R"(Usage: velmara [options] [FILE.lua [arguments]]
+
+Runs the script FILE.lua; "-" reads it from standard input. Without a script, a
+prompt (a script from standard input where that is no terminal). The arguments
+are in `arg` and `...`.
+
+  -e CODE [arguments]  run CODE
+  -i                   a prompt, also where standard input is no terminal
+  --module PATH        load the module at PATH first; may be repeated
+  --no-builtin         do not load the built-in module orbis_factory
+  --check-leaks        check at the end that nothing of the host is left
+  --help, --version
+
+Exit codes: 0 success; 1 a script or module failed ("identifier: text" and
+where in the script go to standard error); 2 wrong options or a script that
+cannot be read; 3 --check-leaks found something.
+)";
+
+namespace {
+
+/// The words of the command line, one after the other.
+class Words {
+public:
+    explicit Words(std::vector<std::string> const& words) : next_(words.begin()), end_(words.end()) {}
+
+    bool isAtEnd() const { return next_ == end_; }
+    std::string const& peek() const { return *next_; }
+    std::string const& take() { return *next_++; }
+    std::vector<std::string> rest() { return {next_, end_}; }
+
+    std::string const& takeValue(std::string const& option)
+    {
+        if (isAtEnd())
+            throw UsageError("the option " + option + " needs a value");
+        return take();
+    }
+
+private:
+    std::vector<std::string>::const_iterator next_;
+    std::vector<std::string>::const_iterator end_;
+};
+
+void parseOption(CommandLine& line, std::string const& option, Words& words)
+{
+    using Task = CommandLine::Task;
+    if (option == "-e") {
+        line.task = Task::Code;
+        line.script = words.takeValue(option);
+    } else if (option == "-i")
+        line.asksForPrompt = true;
+    else if (option == "--module")
+        line.modules.push_back(words.takeValue(option));
+    else if (option == "--no-builtin")
+        line.loadsBuiltIn = false;
+    else if (option == "--check-leaks")
+        line.checksLeaks = true;
+    else if (option == "--help" || option == "-h")
+        line.task = Task::Help;
+    else if (option == "--version")
+        line.task = Task::Version;
+    else
+        throw UsageError("unknown option " + option);
+}
+
+} // namespace
+
+CommandLine parseCommandLine(std::vector<std::string> const& all)
+{
+    CommandLine line;
+    Words words(all);
+    while (line.task == CommandLine::Task::Prompt && !words.isAtEnd() && words.peek().starts_with('-') &&
+           words.peek() != "-") {
+        std::string const& option = words.take();
+        if (option == "--")
+            break;
+        parseOption(line, option, words);
+    }
+    if (line.task == CommandLine::Task::Prompt && !words.isAtEnd()) {
+        line.task = CommandLine::Task::Script;
+        line.script = words.take();
+    }
+    if (line.asksForPrompt && line.task == CommandLine::Task::Script)
+        throw UsageError("-i asks for a prompt: it goes with no script");
+    line.arguments = words.rest();
+    return line;
+}
+
+} // namespace velmara::console

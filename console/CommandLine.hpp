@@ -1,0 +1,32 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace velmara::console {
+
+/// What the console was started for.
+struct CommandLine {
+    enum class Task { Script, Code, Prompt, Help, Version };
+
+    Task task = Task::Prompt;
+    std::string script;                 ///< a file, "-" for standard input; for `Task::Code` the code
+    std::vector<std::string> arguments; ///< the script's own
+    std::vector<std::string> modules;   ///< files to load
+    bool loadsBuiltIn = true;
+    bool checksLeaks = false;
+    bool asksForPrompt = false;
+};
+
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Throws `UsageError` with a sentence for the user.
+CommandLine parseCommandLine(std::vector<std::string> const& words);
+
+extern char const* const usageText;
+
+} // namespace velmara::console

@@ -1,0 +1,83 @@
+#include "Console.hpp"
+
+#include "ErrorReport.hpp"
+#include "ExitCode.hpp"
+#include "HelpFunctions.hpp"
+#include "ModuleFunctions.hpp"
+#include "ObjectFunctions.hpp"
+#include "PackageBinding.hpp"
+#include "Prompt.hpp"
+#include "ScriptError.hpp"
+#include "ScriptLibraries.hpp"
+#include "ScriptRunner.hpp"
+
+#include <cstdio>
+
+namespace velmara::console {
+
+namespace {
+
+struct Run {
+    Session& session;
+    CommandLine const& line;
+    std::filesystem::path const& builtIn;
+    std::string const& code; ///< of the script
+    int exitCode = exitScriptError;
+};
+
+void prepare(lua_State* L, Run const& run)
+{
+    openScriptLibraries(L);
+    bindObjectFunctions(L);
+    bindModuleFunctions(L);
+    bindHelpFunctions(L);
+    bindGlobals(L);
+    if (!run.builtIn.empty())
+        run.session.hvm().loadModule(run.builtIn);
+    for (std::string const& file : run.line.modules)
+        run.session.hvm().loadModule(std::u8string(file.begin(), file.end()));
+}
+
+bool runTask(lua_State* L, Run const& run)
+{
+    CommandLine const& line = run.line;
+    if (line.task == CommandLine::Task::Code)
+        return runScript(L, line.script, "=-e", "-e", line.arguments);
+    if (line.task == CommandLine::Task::Script)
+        return runScript(L, run.code, line.script == "-" ? "=stdin" : '@' + line.script, line.script, line.arguments);
+    runPrompt(L);
+    return true;
+}
+
+int start(lua_State* L)
+{
+    Run& run = *static_cast<Run*>(lua_touserdata(L, 1));
+    prepare(L, run);
+    run.exitCode = runTask(L, run) ? exitSuccess : exitScriptError;
+    return 0;
+}
+
+} // namespace
+
+int runConsole(Session& session, CommandLine const& line, std::filesystem::path const& builtIn)
+{
+    std::string code;
+    if (line.task == CommandLine::Task::Script)
+        try {
+            code = readScript(line.script);
+        } catch (std::ios_base::failure const&) {
+            std::fprintf(stderr, "velmara: cannot read %s\n", line.script.c_str());
+            return exitUsage;
+        }
+    Run run{session, line, builtIn, code};
+    lua_State* L = session.lua();
+    lua_pushcfunction(L, guarded<start>);
+    lua_pushlightuserdata(L, &run);
+    if (int const status = lua_pcall(L, 1, 0, 0); status != LUA_OK) {
+        std::fprintf(stderr, "%s\n", describeError(L, -1, status).c_str());
+        return exitScriptError;
+    }
+    return run.exitCode;
+}
+
+} // namespace velmara::console

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "libhv/hvArray.hpp"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace velmara::console {
+
+/// Calls `visit` with a null pointer to the native type of a numeric class; does nothing for other classes.
+template <class Visit>
+void visitNumericClass(hvClassID classID, Visit&& visit)
+{
+    switch (classID) {
+    case hvDOUBLE_CLASS:
+        return visit(static_cast<double*>(nullptr));
+    case hvSINGLE_CLASS:
+        return visit(static_cast<float*>(nullptr));
+    case hvINT8_CLASS:
+        return visit(static_cast<std::int8_t*>(nullptr));
+    case hvUINT8_CLASS:
+        return visit(static_cast<std::uint8_t*>(nullptr));
+    case hvINT16_CLASS:
+        return visit(static_cast<std::int16_t*>(nullptr));
+    case hvUINT16_CLASS:
+        return visit(static_cast<std::uint16_t*>(nullptr));
+    case hvINT32_CLASS:
+        return visit(static_cast<std::int32_t*>(nullptr));
+    case hvUINT32_CLASS:
+        return visit(static_cast<std::uint32_t*>(nullptr));
+    case hvINT64_CLASS:
+        return visit(static_cast<std::int64_t*>(nullptr));
+    case hvUINT64_CLASS:
+        return visit(static_cast<std::uint64_t*>(nullptr));
+    default:
+        return;
+    }
+}
+
+/// Bytes an element of a numeric class; 0 for other classes.
+inline std::size_t elementSize(hvClassID classID)
+{
+    std::size_t size = 0;
+    visitNumericClass(classID, [&]<class T>(T*) { size = sizeof(T); });
+    return size;
+}
+
+} // namespace velmara::console

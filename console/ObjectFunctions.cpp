@@ -1,0 +1,83 @@
+#include "ObjectFunctions.hpp"
+
+#include "HostArray.hpp"
+#include "HostCall.hpp"
+#include "ObjectBinding.hpp"
+#include "Proxy.hpp"
+#include "ScriptError.hpp"
+#include "ValueToHost.hpp"
+
+#include <string>
+
+namespace velmara::console {
+
+namespace {
+
+std::string classOfName(Session& session, std::string const& name)
+{
+    switch (session.hvm().lookUp(name)) {
+    case NameKind::Package:
+        return "package";
+    case NameKind::Class:
+        return name;
+    default:
+        fail("unknownName", name + " is not published any more");
+    }
+}
+
+/// The host's name for the class of a value; Lua's name for what the host has no value for.
+int classOf(lua_State* L)
+{
+    luaL_checkany(L, 1);
+    int const type = lua_type(L, 1);
+    if (isObject(L, 1))
+        pushText(L, objectClass(L, 1));
+    else if (auto const name = proxyName(L, 1); !name.empty())
+        pushText(L, classOfName(Session::of(L), std::string(name)));
+    else if (type == LUA_TBOOLEAN || type == LUA_TNUMBER || type == LUA_TSTRING || type == LUA_TTABLE ||
+             testHostArray(L, 1))
+        pushText(L, className(toHost(L, 1).get()));
+    else
+        lua_pushstring(L, luaL_typename(L, 1));
+    return 1;
+}
+
+/// Ends an object, or the objects in a table, now.
+int deleteObjects(lua_State* L)
+{
+    if (!isObject(L, 1) && (!lua_istable(L, 1) || !proxyName(L, 1).empty()))
+        fail("noObject", "delete needs an object, not " + kindAt(L, 1));
+    lua_settop(L, 1);
+    HostCall call(L);
+    hvArray_tag* objects = call.inputs(1).front();
+    if (objects->_get_class_id_non_trivial() != hvOBJECT_CLASS && objects->get_number_of_elements() != 0)
+        fail("noObject", "delete needs an object, or a table of objects of one class");
+    if (objects->get_number_of_elements() != 0)
+        call.hvm().deleteObjects(objects);
+    return 0;
+}
+
+int isValidValue(lua_State* L)
+{
+    luaL_checkany(L, 1);
+    bool result = false;
+    if (isObject(L, 1))
+        result = isValidObject(L, 1);
+    else if (auto const name = proxyName(L, 1); !name.empty())
+        result = Session::of(L).hvm().lookUp(name) != NameKind::None;
+    lua_pushboolean(L, result);
+    return 1;
+}
+
+} // namespace
+
+void bindObjectFunctions(lua_State* L)
+{
+    lua_register(L, "class", guarded<classOf>);
+    lua_register(L, "delete", guarded<deleteObjects>);
+    lua_register(L, "isvalid", guarded<isValidValue>);
+    pushNull(L);
+    lua_setglobal(L, "null");
+}
+
+} // namespace velmara::console

@@ -1,0 +1,82 @@
+#include "Platform.hpp"
+
+#if defined(_WIN32)
+#include <windows.h>
+
+#include <io.h>
+#include <shellapi.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace velmara::console {
+
+namespace {
+
+#if defined(_WIN32)
+std::filesystem::path programPath()
+{
+    constexpr DWORD longestPath = 32768;
+    std::wstring path(longestPath, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), longestPath));
+    return path;
+}
+
+std::string fileNameOf(std::string const& module)
+{
+    return module + ".dll";
+}
+#else
+std::filesystem::path programPath()
+{
+    return std::filesystem::read_symlink("/proc/self/exe");
+}
+
+std::string fileNameOf(std::string const& module)
+{
+    return "lib" + module + ".so";
+}
+#endif
+
+} // namespace
+
+#if defined(_WIN32)
+std::vector<std::string> commandLineWords(int, char**)
+{
+    int count = 0;
+    wchar_t** words = CommandLineToArgvW(GetCommandLineW(), &count);
+    std::vector<std::string> result;
+    for (int i = 1; i < count; ++i) {
+        std::u8string const word = std::filesystem::path(words[i]).u8string();
+        result.emplace_back(word.begin(), word.end());
+    }
+    LocalFree(words);
+    return result;
+}
+
+bool isInputTerminal()
+{
+    return _isatty(_fileno(stdin)) != 0;
+}
+#else
+std::vector<std::string> commandLineWords(int count, char** words)
+{
+    return {words + std::min(count, 1), words + count};
+}
+
+bool isInputTerminal()
+{
+    return isatty(STDIN_FILENO) == 1;
+}
+#endif
+
+std::filesystem::path moduleBesideProgram(std::string const& name)
+{
+    std::filesystem::path const folder = programPath().parent_path();
+    for (std::filesystem::path const& candidate : {folder, folder.parent_path() / "lib"})
+        if (std::filesystem::exists(candidate / fileNameOf(name)))
+            return candidate / fileNameOf(name);
+    return {};
+}
+
+} // namespace velmara::console

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "LuaApi.hpp"
+
+namespace velmara::console {
+
+/// Opens Lua's libraries, without the few functions with which a script could break the process: code is loaded as
+/// text only, native code only through modules of the host, `debug` keeps what looks and loses what changes, and
+/// `os.exit` gives everything back first.
+void openScriptLibraries(lua_State* L);
+
+} // namespace velmara::console

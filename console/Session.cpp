@@ -1,0 +1,62 @@
+#include "Session.hpp"
+
+#include "ExitCode.hpp"
+
+#include "velmara/LiveCounts.hpp"
+
+#include <cstdio>
+#include <cstring>
+#include <new>
+
+namespace velmara::console {
+
+Session::Session() : lua_(luaL_newstate())
+{
+    if (!lua_)
+        throw std::bad_alloc();
+    machines_.push_back(std::make_unique<Hvm>());
+    // Lua copies this space of the main thread into every coroutine.
+    Session* self = this;
+    std::memcpy(lua_getextraspace(lua_.get()), &self, sizeof self);
+}
+
+Session& Session::of(lua_State* L)
+{
+    Session* session = nullptr;
+    std::memcpy(&session, lua_getextraspace(L), sizeof session);
+    return *session;
+}
+
+Session::FreshMachine::FreshMachine(Session& session) : session_(session)
+{
+    auto machine = std::make_unique<Hvm>();
+    for (ModuleRecord const& module : session.hvm().modules())
+        machine->loadModule(std::u8string(module.file.begin(), module.file.end()));
+    session.machines_.push_back(std::move(machine));
+}
+
+void Session::end()
+{
+    lua_.reset();
+    arrays_.shrink(0);
+    while (!machines_.empty())
+        machines_.pop_back();
+}
+
+int Session::finish(int code)
+{
+    end();
+    if (!checksLeaks_)
+        return code;
+    LiveCounts const left = liveCounts();
+    if (left == LiveCounts{})
+        return code;
+    std::fprintf(
+        stderr, "velmara: left at the end: %lld objects, %lld arrays, %lld class infos, %lld descriptors, %lld names\n",
+        static_cast<long long>(left.objects), static_cast<long long>(left.arrays),
+        static_cast<long long>(left.classInfos), static_cast<long long>(left.descriptors),
+        static_cast<long long>(left.heldNames));
+    return exitLeaks;
+}
+
+} // namespace velmara::console

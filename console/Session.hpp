@@ -1,0 +1,64 @@
+#pragma once
+
+#include "ArrayStack.hpp"
+#include "LuaApi.hpp"
+
+#include "velmara/Hvm.hpp"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace velmara::console {
+
+/// One run of the console: a Lua state, the virtual machines that its script uses, and the host arrays on their way
+/// between the two. They end in the one order in which every host object is given back before its machine ends.
+class Session {
+public:
+    Session();
+    Session(Session const&) = delete;
+    Session& operator=(Session const&) = delete;
+    ~Session() { end(); }
+
+    /// The session that a Lua state, or one of its coroutines, belongs to.
+    static Session& of(lua_State* L);
+
+    lua_State* lua() const { return lua_.get(); }
+    ArrayStack& arrays() { return arrays_; }
+
+    /// The virtual machine in use: the innermost one.
+    Hvm& hvm() { return *machines_.back(); }
+
+    /// While this lives a fresh virtual machine with the same modules is in use.
+    class FreshMachine {
+    public:
+        explicit FreshMachine(Session& session);
+        FreshMachine(FreshMachine const&) = delete;
+        FreshMachine& operator=(FreshMachine const&) = delete;
+        ~FreshMachine() { session_.machines_.pop_back(); }
+
+    private:
+        Session& session_;
+    };
+
+    /// True once the session has begun to end: only finalizers of the script run from then on.
+    bool isEnding() const { return !lua_; }
+
+    /// Closes the Lua state, then ends the machines. Done once; safe inside a running script that is never
+    /// returned to.
+    void end();
+
+    /// Asks for a check at the end of the run that nothing of the host is left.
+    void checkLeaks() { checksLeaks_ = true; }
+
+    /// Ends the session and gives the exit code: `code`, or `leakExitCode` when asked-for checks find something.
+    int finish(int code);
+
+private:
+    std::vector<std::unique_ptr<Hvm>> machines_;
+    ArrayStack arrays_;
+    LuaState lua_;
+    bool checksLeaks_ = false;
+};
+
+} // namespace velmara::console

@@ -1,0 +1,194 @@
+#include "TableToHost.hpp"
+
+#include "HostArray.hpp"
+#include "ObjectBinding.hpp"
+#include "Proxy.hpp"
+#include "ScriptError.hpp"
+#include "ValueToHost.hpp"
+
+#include "additions/additions.hpp"
+#include "libhv/libhv.hpp"
+#include "orbis/objectArrays.hpp"
+
+#include <string>
+
+namespace velmara::console {
+
+namespace {
+
+/// What the elements of a sequence have in common.
+struct Elements {
+    std::size_t count = 0;
+    bool areNumbers = true;
+    bool areIntegers = true;
+    bool areExactDoubles = true;
+    bool areBooleans = true;
+    bool areObjects = true;
+    bool areTables = true;
+
+    bool areScalars() const { return count > 0 && (areNumbers || areBooleans); }
+};
+
+void note(lua_State* L, int index, Elements& elements)
+{
+    int const type = lua_type(L, index);
+    bool const isInteger = lua_isinteger(L, index) != 0;
+    elements.areNumbers = elements.areNumbers && type == LUA_TNUMBER;
+    elements.areIntegers = elements.areIntegers && isInteger;
+    elements.areExactDoubles = elements.areExactDoubles && (!isInteger || isExactDouble(lua_tointeger(L, index)));
+    elements.areBooleans = elements.areBooleans && type == LUA_TBOOLEAN;
+    elements.areObjects = elements.areObjects && type == LUA_TUSERDATA && isObject(L, index);
+    elements.areTables = elements.areTables && type == LUA_TTABLE;
+    ++elements.count;
+}
+
+/// Walks all pairs: the table is a sequence when every key is an integer from 1 on and none is missing.
+Elements elementsOf(lua_State* L, int table)
+{
+    if (auto const name = proxyName(L, table); !name.empty())
+        fail("value", "the name " + std::string(name) + " cannot be passed to the host");
+    luaL_checkstack(L, 8, nullptr);
+    Elements elements;
+    lua_Integer last = 0;
+    for (lua_pushnil(L); lua_next(L, table); lua_pop(L, 1)) {
+        lua_Integer const key = lua_isinteger(L, -2) ? lua_tointeger(L, -2) : 0;
+        if (key < 1)
+            fail("table", "a table must be a sequence to be passed to the host; this one has the key '" +
+                              std::string(lua_type(L, -2) == LUA_TSTRING ? textAt(L, -2) : luaL_typename(L, -2)) + "'");
+        last = std::max(last, key);
+        note(L, -1, elements);
+    }
+    if (static_cast<std::size_t>(last) != elements.count)
+        fail("table", "a table must be a sequence to be passed to the host; this one has holes before element " +
+                          std::to_string(last) + " (write null for an empty element)");
+    return elements;
+}
+
+/// What all rows have in common when they can be the rows of one matrix; a count of 0 when they cannot.
+Elements commonRow(lua_State* L, int table, std::size_t count)
+{
+    Elements common;
+    for (std::size_t i = 0; i < count; ++i) {
+        lua_rawgeti(L, table, static_cast<lua_Integer>(i + 1));
+        Elements const row = elementsOf(L, lua_gettop(L));
+        lua_pop(L, 1);
+        if (i == 0)
+            common = row;
+        common.areNumbers = common.areNumbers && row.areNumbers;
+        common.areIntegers = common.areIntegers && row.areIntegers;
+        common.areExactDoubles = common.areExactDoubles && row.areExactDoubles;
+        common.areBooleans = common.areBooleans && row.areBooleans;
+        if (row.count != common.count || !common.areScalars())
+            return {};
+    }
+    return common;
+}
+
+hvClassID scalarClass(Elements const& elements)
+{
+    if (elements.areBooleans)
+        return hvLOGICAL_CLASS;
+    if (elements.areExactDoubles)
+        return hvDOUBLE_CLASS;
+    if (elements.areIntegers)
+        return hvINT64_CLASS;
+    fail("table", "fractions and integers beyond 2^53 in one table have no common exact number type");
+}
+
+void store(lua_State* L, void* data, hvClassID classID, std::size_t position)
+{
+    if (classID == hvLOGICAL_CLASS)
+        static_cast<bool*>(data)[position] = lua_toboolean(L, -1) != 0;
+    else if (classID == hvINT64_CLASS)
+        static_cast<std::int64_t*>(data)[position] = lua_tointeger(L, -1);
+    else
+        static_cast<double*>(data)[position] = lua_tonumber(L, -1);
+}
+
+/// Stores the sequence at `table` as row `row` of `rows`.
+void storeRow(lua_State* L, int table, hvArray_tag* matrix, std::size_t row, std::size_t rows, std::size_t columns)
+{
+    hvClassID const classID = matrix->_get_class_id_non_trivial();
+    void* data = orbis::additions::getWritableData(matrix);
+    for (std::size_t column = 0; column < columns; ++column) {
+        lua_rawgeti(L, table, static_cast<lua_Integer>(column + 1));
+        store(L, data, classID, column * rows + row);
+        lua_pop(L, 1);
+    }
+}
+
+ArrayPtr matrix(lua_State* L, int table, std::size_t rows, Elements const& row)
+{
+    ArrayPtr array(orbis::additions::createMatrix(rows, row.count, scalarClass(row)));
+    for (std::size_t i = 0; i < rows; ++i) {
+        lua_rawgeti(L, table, static_cast<lua_Integer>(i + 1));
+        storeRow(L, lua_gettop(L), array.get(), i, rows, row.count);
+        lua_pop(L, 1);
+    }
+    return array;
+}
+
+/// Null when the objects are not all of one class.
+ArrayPtr objectRow(lua_State* L, int table, std::size_t count)
+{
+    ArrayPtr array;
+    std::string rowClass;
+    for (std::size_t i = 0; i < count; ++i) {
+        lua_rawgeti(L, table, static_cast<lua_Integer>(i + 1));
+        hvArray_tag const* object = checkObject(L, -1);
+        if (i == 0) {
+            rowClass = objectClass(L, -1);
+            array.reset(orbis::omCreateORBISMatrix(1, count, rowClass.c_str()));
+        } else if (objectClass(L, -1) != rowClass) {
+            lua_pop(L, 1);
+            return nullptr;
+        }
+        orbis::omSetArrayElement(array.get(), i, orbis::omGetArrayElement(object, 0));
+        lua_pop(L, 1);
+    }
+    return array;
+}
+
+ArrayPtr cellRow(lua_State* L, int table, std::size_t count, int depth)
+{
+    ArrayPtr cells(hvCreateCellMatrix(1, count));
+    for (std::size_t i = 0; i < count; ++i) {
+        lua_rawgeti(L, table, static_cast<lua_Integer>(i + 1));
+        if (!isNull(L, -1)) {
+            ArrayPtr value = toHost(L, -1, depth + 1);
+            // An array that the script holds gets a copy of its own in the cell.
+            if (lua_type(L, -1) == LUA_TUSERDATA)
+                value.reset(hvCreateSharedDataCopy(value.get()));
+            hvSetCell(cells.get(), i, value.get());
+            static_cast<void>(value.release());
+        }
+        lua_pop(L, 1);
+    }
+    return cells;
+}
+
+} // namespace
+
+ArrayPtr tableToHost(lua_State* L, int index, int depth)
+{
+    if (depth >= deepestNesting)
+        fail("table",
+             "the table is nested deeper than " + std::to_string(deepestNesting) + " levels, or contains itself");
+    Elements const elements = elementsOf(L, index);
+    if (elements.count == 0)
+        return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+    if (elements.areScalars()) {
+        ArrayPtr row(orbis::additions::createMatrix(1, elements.count, scalarClass(elements)));
+        storeRow(L, index, row.get(), 0, 1, elements.count);
+        return row;
+    }
+    if (elements.areObjects)
+        if (ArrayPtr row = objectRow(L, index, elements.count))
+            return row;
+    if (elements.areTables)
+        if (Elements const row = commonRow(L, index, elements.count); row.count > 0)
+            return matrix(L, index, elements.count, row);
+    return cellRow(L, index, elements.count, depth);
+}
+
+} // namespace velmara::console

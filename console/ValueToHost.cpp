@@ -1,0 +1,99 @@
+#include "ValueToHost.hpp"
+
+#include "HostArray.hpp"
+#include "ObjectBinding.hpp"
+#include "Proxy.hpp"
+#include "ScriptError.hpp"
+#include "TableToHost.hpp"
+
+#include "additions/additions.hpp"
+#include "libkwi18n/libkwi18n.hpp"
+
+#include <algorithm>
+
+namespace velmara::console {
+
+namespace {
+
+template <class T>
+ArrayPtr scalar(T value, hvClassID classID)
+{
+    ArrayPtr array(orbis::additions::createMatrix(1, 1, classID));
+    *static_cast<T*>(orbis::additions::getWritableData(array.get())) = value;
+    return array;
+}
+
+ArrayPtr number(lua_State* L, int index)
+{
+    if (!lua_isinteger(L, index))
+        return scalar(lua_tonumber(L, index), hvDOUBLE_CLASS);
+    lua_Integer const value = lua_tointeger(L, index);
+    if (isExactDouble(value))
+        return scalar(static_cast<double>(value), hvDOUBLE_CLASS);
+    return scalar<std::int64_t>(value, hvINT64_CLASS);
+}
+
+ArrayPtr text(std::string_view utf8)
+{
+    std::u16string const utf16 = fl::i18n::to_ustring(std::string(utf8));
+    if (utf16.empty())
+        return ArrayPtr(orbis::additions::createMatrix(0, 0, hvCHAR_CLASS));
+    ArrayPtr array(orbis::additions::createMatrix(1, utf16.size(), hvCHAR_CLASS));
+    std::ranges::copy(utf16, static_cast<char16_t*>(orbis::additions::getWritableData(array.get())));
+    return array;
+}
+
+ArrayPtr userdata(lua_State* L, int index)
+{
+    if (isNull(L, index))
+        return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+    hvArray_tag* array = isObject(L, index) ? checkObject(L, index) : testHostArray(L, index);
+    if (!array)
+        fail("value", kindAt(L, index) + " cannot be passed to the host");
+    array->add_reference();
+    return ArrayPtr(array);
+}
+
+} // namespace
+
+std::string kindAt(lua_State* L, int index)
+{
+    switch (lua_type(L, index)) {
+    case LUA_TNONE:
+    case LUA_TNIL:
+        return "nil";
+    case LUA_TTABLE:
+        if (auto const name = proxyName(L, index); !name.empty())
+            return "the name " + std::string(name);
+        break;
+    case LUA_TUSERDATA:
+        if (isObject(L, index))
+            return "an object of " + std::string(objectClass(L, index));
+        break;
+    default:
+        break;
+    }
+    return std::string("a ") + luaL_typename(L, index);
+}
+
+ArrayPtr toHost(lua_State* L, int index, int depth)
+{
+    switch (lua_type(L, index)) {
+    case LUA_TNIL:
+        return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+    case LUA_TBOOLEAN:
+        return scalar(lua_toboolean(L, index) != 0, hvLOGICAL_CLASS);
+    case LUA_TNUMBER:
+        return number(L, index);
+    case LUA_TSTRING:
+        return text(textAt(L, index));
+    case LUA_TTABLE:
+        return tableToHost(L, lua_absindex(L, index), depth);
+    case LUA_TUSERDATA:
+        return userdata(L, index);
+    default:
+        fail("value", kindAt(L, index) + " cannot be passed to the host");
+    }
+}
+
+} // namespace velmara::console
