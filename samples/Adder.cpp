@@ -18,6 +18,8 @@ int wrappingSum(std::initializer_list<int> numbers)
 
 } // namespace
 
+Adder::Adder(int a, int b) : total_(wrappingSum({a, b})) {}
+
 int Adder::getSum(int a, int b)
 {
     int const sum = wrappingSum({a, b});
@@ -40,9 +42,14 @@ int Adder::getSumOfTwenty(int a, int b, int c, int d, int e, int f, int g, int h
     return sum;
 }
 
-int Adder::getTotal() const
+int Adder::total() const
 {
     return total_;
+}
+
+void Adder::setTotal(int total)
+{
+    total_ = total;
 }
 
 void Adder::reset()
@@ -64,12 +71,13 @@ void CosAdder::initializeClass(COSClass* cls)
     publish(cls, describe<Adder>()
                      .constructor()
                      .constructor<int>("start")
+                     .constructor<int, int>("a, b")
                      .method("getSum", &Adder::getSum, "a, b")
                      .method("getSumOfTen", &Adder::getSumOfTen, "a, b, c, d, e, f, g, h, i, j")
                      .method("getSumOfTwenty", &Adder::getSumOfTwenty, "a, b, c, d, e, f, g, h, i, j, rest")
-                     .method("getTotal", &Adder::getTotal)
                      .method("reset", &Adder::reset)
-                     .staticMethod("zero", &Adder::zero));
+                     .staticMethod("zero", &Adder::zero)
+                     .property("total", &Adder::total, &Adder::setTotal));
 }
 
 void* CosAdder::createInstanceData()

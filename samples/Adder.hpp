@@ -9,11 +9,15 @@ public:
     Adder() = default;
     explicit Adder(int start) : total_(start) {}
 
+    /// Starts with the sum of the two.
+    Adder(int a, int b);
+
     int getSum(int a, int b);
     int getSumOfTen(int a, int b, int c, int d, int e, int f, int g, int h, int i, int j);
     int getSumOfTwenty(int a, int b, int c, int d, int e, int f, int g, int h, int i, int j, int k, int l, int m, int n,
                        int o, int p, int q, int r, int s, int t);
-    int getTotal() const;
+    int total() const;
+    void setTotal(int total);
     void reset();
 
     static int zero();

@@ -10,6 +10,10 @@ null_self::null_self() : BaseMsgID(catalog, "null_self") {}
 
 null_self::~null_self() = default;
 
+null_fcn_ptr::null_fcn_ptr() : BaseMsgID(catalog, "null_fcn_ptr") {}
+
+null_fcn_ptr::~null_fcn_ptr() = default;
+
 no_such_class::no_such_class(char const* className) : BaseMsgID(catalog, "no_such_class", {className}) {}
 
 no_such_class::~no_such_class() = default;

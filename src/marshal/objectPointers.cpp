@@ -14,8 +14,12 @@ void* nativeObject(hvArray_tag const* array, char const* className)
     if (!array || array->get_number_of_elements() == 0)
         return nullptr;
     COSInterfacePtr const object = omGetArrayElement(array, 0);
-    COSInterface const* const host = object;
-    return host ? host->getNativeObject(COSNameID(className)) : nullptr;
+    return nativeObject(static_cast<COSInterface const*>(object), className);
+}
+
+void* nativeObject(COSInterface const* object, char const* className)
+{
+    return object ? object->getNativeObject(COSNameID(className)) : nullptr;
 }
 
 } // namespace detail

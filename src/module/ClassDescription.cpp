@@ -20,9 +20,19 @@ std::vector<MemberRecord> const& ClassDescription::members() const
     return members_;
 }
 
+std::vector<PropertyRecord> const& ClassDescription::properties() const
+{
+    return properties_;
+}
+
 void ClassDescription::add(MemberRecord record)
 {
     members_.push_back(std::move(record));
+}
+
+void ClassDescription::add(PropertyRecord record)
+{
+    properties_.push_back(std::move(record));
 }
 
 } // namespace orbis::factory

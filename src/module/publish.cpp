@@ -4,6 +4,8 @@
 #include "orbis/factory/impl/MethodImpl.hpp"
 #include "orbis/factory/impl/OrbisConstructor.hpp"
 
+#include "module/OwnedProperty.hpp"
+
 #include <array>
 #include <memory>
 #include <utility>
@@ -71,6 +73,13 @@ void add(COSClass* cls, char const* name, MemberRecord const& record, char const
     cls->addMethod(descriptor.release());
 }
 
+std::unique_ptr<OwnedProperty> makeProperty(PropertyRecord const& record)
+{
+    return std::make_unique<OwnedProperty>(record.name, record.makeGetter ? record.makeGetter(record.getter) : nullptr,
+                                           record.makeSetter ? record.makeSetter(record.setter) : nullptr,
+                                           record.attributes);
+}
+
 } // namespace
 
 void publish(COSClass* cls, ClassDescription const& description)
@@ -83,6 +92,8 @@ void publish(COSClass* cls, ClassDescription const& description)
         if (record.kind != Kind::Constructor)
             add<impl::MethodImpl>(cls, record.name, record, description.hostName());
     }
+    for (PropertyRecord const& record : description.properties())
+        cls->addProperty(makeProperty(record).release());
 }
 
 void publish(COSPackage* package, FunctionDescription const& description)

@@ -82,7 +82,7 @@ TEST_F(ModuleTest, TheAdderAddsAndWrapsAround)
     auto const adder = hvm().construct("orbis_factory.Adder", first);
     hvArray* const both[] = {start.get(), one.get()};
     EXPECT_EQ(scalar<std::int32_t>(hvm().call(adder.get(), "getSum", both)), INT32_MIN);
-    EXPECT_EQ(scalar<std::int32_t>(hvm().call(adder.get(), "getTotal")), -1);
+    EXPECT_EQ(scalar<std::int32_t>(hvm().get(adder.get(), "total")), -1);
     std::vector<hvArray*> const twenty(20, one.get());
     EXPECT_EQ(scalar<std::int32_t>(hvm().call(adder.get(), "getSumOfTwenty", twenty)), 20);
     auto const record = hvm().describeClass("orbis_factory.Adder");

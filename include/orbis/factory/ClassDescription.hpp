@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/MemberRecord.hpp"
+#include "orbis/factory/PropertyRecord.hpp"
 #include "orbis/factory/export.hpp"
 
 #include "orbis/COSClass.hpp"
@@ -19,17 +20,20 @@ public:
 
     char const* hostName() const;
     std::vector<MemberRecord> const& members() const;
+    std::vector<PropertyRecord> const& properties() const;
 
 protected:
     void add(MemberRecord record);
+    void add(PropertyRecord record);
 
 private:
     char const* hostName_;
     std::vector<MemberRecord> members_;
+    std::vector<PropertyRecord> properties_;
 };
 
-/// Gives the host class a descriptor for every member of the description, constructors first, each kind in the order
-/// of description. To be called by the class info's `initializeClass`. Errors of the host pass through; what was
+/// Gives the host class a descriptor for every member of the description: constructors, then methods, then properties,
+/// each kind in the order of description. To be called by the class info's `initializeClass`. Errors of the host pass through; what was
 /// handed over before stays the host's.
 ORBIS_FACTORY_API void publish(COSClass* cls, ClassDescription const& description);
 

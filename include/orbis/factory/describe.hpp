@@ -2,6 +2,7 @@
 
 #include "orbis/factory/ClassDescription.hpp"
 #include "orbis/factory/ParameterNames.hpp"
+#include "orbis/factory/detail/makePropertyRecord.hpp"
 #include "orbis/factory/detail/makeRecord.hpp"
 #include "orbis/factory/overload.hpp"
 
@@ -12,7 +13,8 @@ namespace orbis::factory {
 ///     publish(cls, describe<Adder>()
 ///                      .constructor<int>("start")
 ///                      .method("getSum", &Adder::getSum, "a, b", MethodAttributes::Sealed())
-///                      .staticMethod("zero", &Adder::zero));
+///                      .staticMethod("zero", &Adder::zero)
+///                      .property("total", &Adder::total, &Adder::setTotal, PropertyAttributes::Transient()));
 ///
 /// In every line: the host name, the native thing, the names of its parameters, its attributes; the last two may be
 /// left out. Texts are literals. What cannot be published stops compilation with a sentence.
@@ -89,7 +91,108 @@ public:
         return staticMethod(name, function, {}, attributes);
     }
 
+    /// A property that is read only. The getter is a member function without parameters, or a free function or
+    /// captureless lambda that takes the object only.
+    template <class G>
+    ClassDescriber& property(char const* name, G getter, PropertyAttributes attributes = {})
+    {
+        if constexpr (checkGetter<G>()) {
+            PropertyRecord record{name, attributes};
+            detail::setGetter<T>(record, getter);
+            add(record);
+        }
+        return *this;
+    }
+
+    /// A property that is read and written. The setter is a member function that takes the value, or a free function
+    /// or captureless lambda that takes the object and the value.
+    template <class G, class S>
+    ClassDescriber& property(char const* name, G getter, S setter, PropertyAttributes attributes = {})
+    {
+        if constexpr (checkGetter<G>() && checkSetter<S>()) {
+            constexpr bool areOneType = std::is_same_v<
+                typename detail::NativeType<detail::Stored<T, G>>::Type,
+                typename detail::NativeType<typename detail::SetterTraits<T, S>::Value>::Type>;
+            static_assert(areOneType, "The setter takes another type than the getter gives: make the two types one.");
+            PropertyRecord record{name, attributes};
+            detail::setGetter<T>(record, getter);
+            detail::setSetter<T>(record, setter);
+            add(record);
+        }
+        return *this;
+    }
+
+    template <class S>
+    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyAttributes attributes = {})
+    {
+        if constexpr (checkSetter<S>()) {
+            PropertyRecord record{name, attributes};
+            detail::setSetter<T>(record, setter);
+            add(record);
+        }
+        return *this;
+    }
+
+    /// A property of the class, read only, through a function that takes nothing.
+    template <class G>
+    ClassDescriber& staticProperty(char const* name, G getter, PropertyAttributes attributes = {})
+    {
+        constexpr bool isGetter = isFreeOf<G>(0);
+        static_assert(isGetter, "A static property is read through a free function, a static member function or a "
+                                "captureless lambda that takes nothing.");
+        if constexpr (isGetter) {
+            if constexpr (valueCanCross<typename Traits<G>::Result>()) {
+                PropertyRecord record{name, attributes + PropertyAttributes::Static()};
+                detail::setClasslessGetter(record, getter);
+                add(record);
+            }
+        }
+        return *this;
+    }
+
 private:
+    using ClassDescription::add;
+
+    template <class F>
+    static consteval bool isFreeOf(std::size_t arity)
+    {
+        return Traits<F>::kind == detail::CallableKind::Free && Traits<F>::arity == arity;
+    }
+
+    template <class V>
+    static consteval bool valueCanCross()
+    {
+        static_assert(!std::is_void_v<V>, "A getter gives a value: this one gives nothing.");
+        if constexpr (std::is_void_v<V>)
+            return false;
+        else
+            return detail::canCross<std::remove_cvref_t<V>>();
+    }
+
+    template <class G>
+    static consteval bool checkGetter()
+    {
+        constexpr bool isGetter = detail::takesOnlyObject<T, Traits<G>>();
+        static_assert(isGetter, "A getter is a member function without parameters, or a free function or captureless "
+                                "lambda that takes a pointer to the class and nothing else.");
+        if constexpr (isGetter)
+            return valueCanCross<typename Traits<G>::Result>();
+        else
+            return false;
+    }
+
+    template <class S>
+    static consteval bool checkSetter()
+    {
+        using Value = typename detail::SetterTraits<T, std::decay_t<S>>::Value;
+        static_assert(!std::is_void_v<Value>, "A setter is a member function that takes one value, or a free function "
+                                              "or captureless lambda that takes a pointer to the class and one value.");
+        if constexpr (std::is_void_v<Value>)
+            return false;
+        else
+            return detail::canCross<Value>();
+    }
+
     template <class F>
     static consteval void checkCallable()
     {

@@ -15,6 +15,13 @@ public:
     ~null_self() override;
 };
 
+/// A property was used through a getter or setter that it does not have.
+class ORBIS_FACTORY_API null_fcn_ptr : public resource_core::BaseMsgID {
+public:
+    null_fcn_ptr();
+    ~null_fcn_ptr() override;
+};
+
 /// A native object of a class that is not published was to be handed to the host. Argument: the class's name.
 class ORBIS_FACTORY_API no_such_class : public resource_core::BaseMsgID {
 public:

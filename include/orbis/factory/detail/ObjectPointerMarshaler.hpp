@@ -5,6 +5,7 @@
 #include "orbis/factory/export.hpp"
 
 #include "libhv/hvArray.hpp"
+#include "orbis/COSInterface.hpp"
 #include "orbis/COSNameID.hpp"
 
 #include <type_traits>
@@ -14,6 +15,9 @@ namespace orbis::factory::detail {
 /// The native object recorded for `className` in the first object of `array`; null when the array is empty, its
 /// first element is null, or nothing is recorded.
 ORBIS_FACTORY_API void* nativeObject(hvArray_tag const* array, char const* className);
+
+/// The native object recorded for `className` in `object`; null for null, and when nothing is recorded.
+ORBIS_FACTORY_API void* nativeObject(COSInterface const* object, char const* className);
 
 /// What the policies for one object have in common. `Cast` goes between the address under which an object is bound
 /// and a pointer to its native class.
@@ -39,6 +43,13 @@ public:
     static T* fromHost(hvArray_tag const* in)
     {
         return Cast::template fromBound<T>(nativeObject(in, HostClass<T>::name));
+    }
+
+    /// The native object of a host object (null allowed), or null.
+    template <PublishedClass T>
+    static T* fromObject(COSInterface const* object)
+    {
+        return Cast::template fromBound<T>(nativeObject(object, HostClass<T>::name));
     }
 
     template <PublishedClass T>

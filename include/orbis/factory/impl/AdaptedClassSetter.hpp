@@ -1,0 +1,27 @@
+#pragma once
+
+#include "orbis/factory/detail/PropertyValue.hpp"
+#include "orbis/factory/impl/Setter.hpp"
+
+namespace orbis::factory::impl {
+
+/// Writes through a free function `F` that takes a `T*` and an `A`.
+template <class A, class T, class F>
+class AdaptedClassSetter final : public Setter {
+public:
+    explicit AdaptedClassSetter(F function) : function_(function) {}
+
+    void setValue(COSInterface* object, COSValue value) const override
+    {
+        T& self = detail::nativeSelf<T>(object);
+        detail::Argument<A> argument(value);
+        function_(&self, argument.get());
+    }
+
+    char const* dataTypeName() const override { return detail::dataTypeText<A>(); }
+
+private:
+    F function_;
+};
+
+} // namespace orbis::factory::impl

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "orbis/factory/detail/PropertyValue.hpp"
+#include "orbis/factory/impl/Getter.hpp"
+#include "orbis/factory/impl/ReleaseRoutine.hpp"
+
+namespace orbis::factory::impl {
+
+/// What the getters have in common. `Derived` gives `read(object)`, the native value of the type `R`; `V` is the type
+/// it is stored as.
+template <class Derived, class R, class V>
+class CallableGetter : public Getter {
+public:
+    explicit CallableGetter(ReleaseRoutine release) : release_(release) {}
+
+    COSValue getValue(COSInterface* object) const override
+    {
+        return detail::toValue<V>([&]() -> R { return derived().read(object); });
+    }
+
+    char const* dataTypeName() const override { return detail::dataTypeText<V>(); }
+
+    void releaseValue(COSInterface* object, COSValue value) const override
+    {
+        if (release_)
+            release_(object, value);
+    }
+
+    Enumeration<COSInterface*> getInterfaces(COSInterface* object) const override
+    {
+        if constexpr (detail::refersToObjects<V>)
+            return detail::interfacesOf<V>(derived().read(object));
+        else
+            return {};
+    }
+
+    bool canContainInterfaces() const override { return detail::refersToObjects<V>; }
+
+private:
+    Derived const& derived() const { return static_cast<Derived const&>(*this); }
+
+    ReleaseRoutine release_;
+};
+
+} // namespace orbis::factory::impl
