@@ -35,6 +35,14 @@ struct Message {
     char const* text;
 };
 
+/// A module with texts of its own exports a `MessageList const*` named after it (`orbis_factory_messages`): a list of
+/// catalogs, ended by a null catalog, each with its messages, ended by a null key. The host adds them when it loads the
+/// module.
+struct MessageList {
+    char const* catalog;
+    Message const* messages;
+};
+
 /// Adds texts to a message catalog ("component:catalog") of the current virtual machine, in place of texts of the
 /// same keys. The texts are copied.
 ORBIS_HOST_API void addMessages(char const* catalog, std::span<Message const> messages);

@@ -1,0 +1,22 @@
+#include "orbis/factory/export.hpp"
+
+#include "additions/additions.hpp"
+
+namespace {
+
+constexpr orbis::additions::Message texts[] = {
+    {"null_self", "The call needs an object and was given none, or one without a native object: call it on an object "
+                  "that was constructed and not deleted."},
+    {"null_fcn_ptr", "The property has no function for this access: it can be either read or written, not both."},
+    {"no_such_class", "An object of the class {0} cannot be handed out, because no such class is published: load the "
+                      "module that publishes it."},
+    {nullptr, nullptr},
+};
+
+constexpr orbis::additions::MessageList catalogs[] = {{"orbis_factory:orbis_factory", texts}, {nullptr, nullptr}};
+
+} // namespace
+
+extern "C" {
+ORBIS_FACTORY_API orbis::additions::MessageList const* orbis_factory_messages = catalogs;
+}
