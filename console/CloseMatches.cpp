@@ -46,7 +46,7 @@ std::string didYouMean(std::string_view name, std::vector<std::string> const& kn
     if (name.size() > longestName)
         return {};
     std::vector<std::pair<std::size_t, std::string>> close;
-    std::size_t const farthest = std::max<std::size_t>(1, name.size() / 3);
+    std::size_t const farthest = 1 + name.size() / 4;
     for (std::string const& candidate : known)
         if (std::size_t const d = distance(name, candidate); d <= farthest)
             close.emplace_back(d, candidate);

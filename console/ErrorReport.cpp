@@ -1,5 +1,7 @@
 #include "ErrorReport.hpp"
 
+#include "CloseMatches.hpp"
+#include "Completion.hpp"
 #include "ScriptError.hpp"
 #include "ScriptFrames.hpp"
 
@@ -57,6 +59,17 @@ std::string field(lua_State* L, int index, char const* name)
     return text;
 }
 
+/// A global of that name was nil: what else it may have been meant to be.
+std::string suggestion(lua_State* L, std::string const& text)
+{
+    constexpr std::string_view before = "a nil value (global '";
+    std::size_t const start = text.find(before);
+    if (start == text.npos || !text.ends_with("')"))
+        return {};
+    std::size_t const name = start + before.size();
+    return didYouMean(text.substr(name, text.size() - 2 - name), completions(L, ""));
+}
+
 Report reportOf(lua_State* L, int index, char const* identifier)
 {
     if (isError(L, index))
@@ -65,6 +78,7 @@ Report reportOf(lua_State* L, int index, char const* identifier)
     if (std::size_t const length = lua_isstring(L, index) ? positionLength(report.text) : 0) {
         report.position = report.text.substr(0, length);
         report.text.erase(0, length + 2);
+        report.text += suggestion(L, report.text);
     }
     return report;
 }

@@ -1,0 +1,1 @@
+-- run: -e print(arg[0],...) first second

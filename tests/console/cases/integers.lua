@@ -1,0 +1,19 @@
+-- Numbers for int32 inputs: whole and in range, or refused; never cut.
+local a = orbis_factory.Adder()
+for _, number in ipairs({0, -2147483648, 2147483647, 7.0, -0.0}) do
+  print(number, a:getSum(number, 0))
+end
+for _, number in ipairs({2147483648, -2147483649, 0.5, 0 / 0, math.huge, -math.huge, 1e300, math.maxinteger,
+                         math.mininteger, (1 << 53) + 1}) do
+  local ok, err = pcall(a.getSum, a, number, 1)
+  print(ok, err.identifier)
+end
+for _, value in ipairs({"1", {1, 2}, {}, a, null, cases.large()}) do
+  local ok, err = pcall(a.getSum, a, value, 1)
+  print(ok, err.identifier)
+end
+print(a:getTotal())
+print(select(2, pcall(a.getSum, a, 0.5, 1)))
+print(select(2, pcall(a.getSum, a, 1)))
+print(select(2, pcall(a.getSum, a, 1, 2, 3)))
+print(select(2, pcall(orbis_factory.Adder, "x")))

@@ -1,0 +1,62 @@
+-- Objects that are deleted, given back, of an unloaded module, or of another virtual machine.
+local function refused(f, ...)
+  local result = table.pack(pcall(f, ...))
+  print(result[1], result[1] and result[2] or result[2].identifier)
+end
+local function value(object) return object.value end
+
+local p = cases.Probe()
+p.value = 1
+local twin = p:twin()
+delete(p)
+print(p, isvalid(p), isvalid(twin), class(p), p == twin)
+refused(value, p)
+refused(p.twin)
+refused(twin.twin, p)
+refused(function() p.value = 2 end)
+refused(cases.echo, {p})
+delete(p)
+delete({cases.Probe(), cases.Probe()})
+refused(delete, 5)
+refused(delete, cases)
+refused(delete, {1})
+
+do
+  local closed <close> = cases.Probe()
+  p = closed
+end
+print(p, isvalid(p), class(p))
+refused(value, p)
+
+for _ = 1, 1000 do cases.Probe().value = cases.Probe() end
+collectgarbage()
+
+local kept = cases.Probe()
+local escaped, number = withvm(function(outer)
+  refused(value, outer)
+  refused(cases.echo, outer)
+  local own = cases.Probe()
+  own.value = 3
+  refused(withvm, function() return own.value end)
+  return own, own.value
+end, kept)
+print(escaped, isvalid(escaped), number, isvalid(kept), #kept.value)
+refused(value, escaped)
+print(pcall(withvm, function() error("leaves early", 0) end))
+print(select("#", withvm(function() end)), pcall(withvm))
+print(coroutine.resume(coroutine.create(function() withvm(coroutine.yield) end)))
+
+local Probe, package, echo = cases.Probe, cases, cases.echo
+local loaded = modules()
+print(#loaded, loaded[1].name, loaded[#loaded].name)
+unloadmodule("console_cases")
+print(cases, kept, isvalid(kept), isvalid(Probe), Probe, package)
+refused(Probe)
+refused(function() return package.Probe end)
+refused(echo, 1)
+refused(value, kept)
+refused(kept.twin)
+refused(unloadmodule, "console_cases")
+refused(loadmodule, "nowhere.so")
+print(loadmodule(loaded[#loaded].file), isvalid(Probe), isvalid(kept))
+Probe().value = 1

@@ -1,0 +1,2 @@
+-- run: --module nowhere.so SCRIPT
+print("never")

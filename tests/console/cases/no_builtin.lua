@@ -1,0 +1,1 @@
+-- run: --no-builtin -e print(orbis_factory,#modules())

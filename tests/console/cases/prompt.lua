@@ -1,0 +1,2 @@
+-- run: -i
+-- input: prompt.txt

@@ -1,0 +1,3 @@
+-- run: - first
+-- input: standard_input.lua
+print("read", arg[0], ...)

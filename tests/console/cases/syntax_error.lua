@@ -1,0 +1,2 @@
+-- run: SCRIPT ignored
+local x =

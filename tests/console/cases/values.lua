@@ -1,0 +1,57 @@
+-- What each Lua value becomes in the host, and what comes back.
+local function text(value)
+  if type(value) ~= "table" then
+    return (math.type(value) or type(value)) .. " " .. tostring(value)
+  end
+  local parts = {}
+  for i, element in ipairs(value) do parts[i] = text(element) end
+  return "{" .. table.concat(parts, ", ") .. "}"
+end
+
+local function show(value)
+  print(class(value), text(cases.echo(value)))
+end
+
+show(1)
+show(1.5)
+show(-0.0)
+show(1 << 53)
+show((1 << 53) + 1)
+show(math.mininteger)
+show(0 / 0 ~= 0 / 0)
+show(math.huge)
+print(cases.echo(0 / 0) ~= cases.echo(0 / 0))
+show("")
+show("a\0b")
+show("gr\u{fc}n \u{1f600}")
+print(cases.echo("\xff\xc3(\xe2\x82") == "\u{fffd}\u{fffd}(\u{fffd}")
+print(text(cases.echo(nil)), text(cases.echo(null)))
+show({})
+show({1, 2.5, 3})
+show({1})
+show({(1 << 53) + 1, 2})
+show({true, false})
+show({{1, 2, 3}, {4, 5, 6}})
+show({{1}, {2}})
+show({{true}, {false}})
+show({{1, 2}, {3}})
+show({"a", "bc"})
+show({1, "a", true, {2, {3}}, null})
+show({{}, {}})
+local p, q = cases.Probe(), cases.Probe()
+local back = cases.echo({p, q})
+print(class({p, q}), back[1] == p, back[2] == q, class({p, 1}), class({p, null}))
+back = cases.echo({p, orbis_factory.Adder(3)})
+print(class({p, orbis_factory.Adder()}), back[1] == p, back[2]:getTotal())
+
+print(text(cases.small()), text(cases.grid()), text(cases.column()), text(cases.cells()))
+print(#cases.characters(), cases.characters()[1], cases.characters()[2] == "c\u{fffd}", cases.nobody())
+local large = cases.large()
+print(large, class(large), #large, large == cases.echo(large), large == p, cases.echo({large, 1})[1] == large)
+print(p:pair(q)[1] == p, p:pair(q)[2] == q, p:twin() == p, q:twin() == p)
+local deep = cases.nests(200)
+for _ = 1, 200 do deep = deep[1] end
+print(deep, pcall(cases.nests, 201))
+local many = {}
+for i = 1, 100000 do many[i] = i end
+print(#cases.echo(many), cases.echo(many)[100000])

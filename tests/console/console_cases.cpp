@@ -1,0 +1,242 @@
+// A module that is written on the host declarations alone, for what the console's script tests need: values of every
+// kind in both directions, properties, and members that fail.
+#include "velmara/ArrayPtr.hpp"
+
+#include "additions/additions.hpp"
+#include "libhv/libhv.hpp"
+#include "orbis/COSClass.hpp"
+#include "orbis/COSClassInfo.hpp"
+#include "orbis/COSMethodInfo.hpp"
+#include "orbis/COSMethodSignature.hpp"
+#include "orbis/COSMethodSignaturePtr.hpp"
+#include "orbis/COSPackage.hpp"
+#include "orbis/COSPackageInfo.hpp"
+#include "orbis/COSPropInfo.hpp"
+#include "orbis/objectArrays.hpp"
+
+#include <functional>
+#include <initializer_list>
+#include <limits>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace orbis;
+using velmara::ArrayPtr;
+using Body = std::function<ArrayPtr(std::span<COSValue const>)>;
+
+struct Parameter {
+    char const* type;
+    char const* name;
+};
+
+class Method final : public COSMethodInfo {
+public:
+    Method(char const* name, bool isStatic, char const* output, std::vector<Parameter> inputs, Body body)
+        : name_(name)
+        , isStatic_(isStatic)
+        , body_(std::move(body))
+    {
+        signature_ = COSMethodSignature::createMethodSignature();
+        signature_->addOutput(output, "result");
+        for (Parameter const& input : inputs)
+            signature_->addInput(input.type, input.name);
+    }
+
+    char const* getName() const override { return name_; }
+    bool isStatic() const override { return isStatic_; }
+    COSMethodSignature const* getMethodSignature() const override { return signature_; }
+
+    void invoke(COSClient const*, int& outputCount, COSValue* outputs, int inputCount,
+                COSValue const* inputs) const override
+    {
+        ArrayPtr result = body_(std::span(inputs, static_cast<std::size_t>(inputCount)));
+        outputs[0] = COSValue(result.release());
+        outputCount = 1;
+    }
+
+private:
+    char const* name_;
+    bool isStatic_;
+    COSMethodSignaturePtr signature_;
+    Body body_;
+};
+
+ArrayPtr copyOf(hvArray_tag const* array)
+{
+    return ArrayPtr(array ? hvCreateSharedDataCopy(array) : nullptr);
+}
+
+/// What a probe holds: any value.
+struct Probe {
+    ArrayPtr value{additions::createMatrix(0, 0, hvDOUBLE_CLASS)};
+};
+
+constexpr char const* probeClass = "cases.Probe";
+
+class Property final : public COSPropInfo {
+public:
+    /// With `common` it is static and kept there, else in each object.
+    Property(char const* name, MemberAccess setAccess, Probe* common = nullptr)
+        : name_(name)
+        , setAccess_(setAccess)
+        , common_(common)
+    {
+    }
+
+    char const* getName() const override { return name_; }
+    char const* getDescription() const override { return "any value"; }
+    char const* getDetailedDescription() const override { return ""; }
+    COSValue getDefaultValue() const override { return {}; }
+    COSDataTypePtr getDataType() const override { return "any"; }
+    MemberAccess getMemberGetAccess() const override { return MemberAccess::Public; }
+    MemberAccess getMemberSetAccess() const override { return setAccess_; }
+    bool isSealed() const override { return false; }
+    bool isInitAllowed() const override { return false; }
+    bool isDefaultAllowed() const override { return false; }
+    bool isResetAllowed() const override { return false; }
+    bool isAbstract() const override { return false; }
+    bool isTransient() const override { return false; }
+    bool isCopyAllowed() const override { return false; }
+    bool isListenerGetAllowed() const override { return false; }
+    bool isListenerSetAllowed() const override { return false; }
+    bool isInspectAllowed() const override { return true; }
+    bool isAbortSet() const override { return false; }
+    bool isVisible() const override { return true; }
+    bool isStatic() const override { return common_; }
+    bool isDependent() const override { return false; }
+    bool isGrandfathered() const override { return false; }
+    bool canContainInterfaces() const override { return false; }
+
+    COSValue getValue(COSInterface* object) const override
+    {
+        return COSValue(copyOf(probeOf(object).value.get()).release());
+    }
+    void setValue(COSInterface* object, COSValue value) const override
+    {
+        probeOf(object).value = copyOf(value.array());
+    }
+    void releaseValue(COSInterface*, COSValue) const override {}
+
+private:
+    Probe& probeOf(COSInterface* object) const
+    {
+        return common_ ? *common_ : *static_cast<Probe*>(object->getNativeObject(probeClass));
+    }
+
+    char const* name_;
+    MemberAccess setAccess_;
+    Probe* common_;
+};
+
+ArrayPtr pairOf(COSValue const& a, COSValue const& b)
+{
+    ArrayPtr pair(omCreateORBISMatrix(1, 2, probeClass));
+    omSetArrayElement(pair.get(), 0, omGetArrayElement(a.array(), 0));
+    omSetArrayElement(pair.get(), 1, omGetArrayElement(b.array(), 0));
+    return pair;
+}
+
+class ProbeInfo final : public COSClassInfo {
+public:
+    char const* getName() const override { return probeClass; }
+    char const* getDescription() const override { return "Holds any value, and gives it back."; }
+    bool isHandle() const override { return true; }
+    void* createInstanceData() override { return new Probe; }
+
+    bool destroyInstanceData(COSInterface*, void* data) override
+    {
+        delete static_cast<Probe*>(data);
+        return true;
+    }
+
+    void initializeClass(COSClass* cls) override
+    {
+        Parameter const self{probeClass, "this"};
+        cls->addMethod(new Method("twin", false, probeClass, {self}, [](auto in) { return copyOf(in[0].array()); }));
+        cls->addMethod(new Method("pair", false, "any", {self, {probeClass, "other"}},
+                                  [](auto in) { return pairOf(in[0], in[1]); }));
+        cls->addMethod(new Method("fail", false, "any", {self},
+                                  [](auto) -> ArrayPtr { throw std::runtime_error("failed inside"); }));
+        cls->addProperty(new Property("value", MemberAccess::Public));
+        cls->addProperty(new Property("fixed", MemberAccess::NoAccess));
+        cls->addProperty(new Property("common", MemberAccess::Public, &common_));
+    }
+
+private:
+    Probe common_;
+};
+
+template <class T>
+ArrayPtr matrix(std::size_t rows, std::size_t columns, std::initializer_list<T> elements)
+{
+    ArrayPtr array(additions::createMatrix(rows, columns, COSValue::classOf<T>()));
+    std::copy(elements.begin(), elements.end(), static_cast<T*>(additions::getWritableData(array.get())));
+    return array;
+}
+
+ArrayPtr characters()
+{
+    ArrayPtr array(additions::createMatrix(2, 2, hvCHAR_CLASS));
+    std::u16string_view const text = u"acb\xd800"; // by column; the last one is half a pair
+    std::copy(text.begin(), text.end(), static_cast<char16_t*>(additions::getWritableData(array.get())));
+    return array;
+}
+
+class Cases final : public COSPackageInfo {
+public:
+    char const* getName() const override { return "cases"; }
+
+    void initializePackage(COSPackage* package) override
+    {
+        package->addClass(new ProbeInfo);
+        auto const add = [&](char const* name, std::vector<Parameter> inputs, Body body) {
+            package->addFunction(new Method(name, true, "any", std::move(inputs), std::move(body)));
+        };
+        constexpr std::uint64_t most = std::numeric_limits<std::uint64_t>::max();
+        add("echo", {{"any", "value"}}, [](auto in) { return copyOf(in[0].array()); });
+        add("small", {}, [](auto) { return matrix<std::uint64_t>(1, 1, {7}); });
+        add("large", {}, [](auto) { return matrix<std::uint64_t>(1, 1, {most}); });
+        add("grid", {}, [](auto) { return matrix<std::int8_t>(2, 3, {1, 4, 2, 5, 3, -6}); });
+        add("column", {}, [](auto) { return matrix<float>(2, 1, {0.5F, 2.0F}); });
+        add("characters", {}, [](auto) { return characters(); });
+        add("cells", {}, [](auto) { return ArrayPtr(hvCreateCellMatrix(1, 2)); });
+        add("nobody", {}, [](auto) { return ArrayPtr(omCreateORBISMatrix(0, 0, probeClass)); });
+        add("nests", {{"double scalar", "depth"}}, [](auto in) {
+            ArrayPtr nest(hvCreateCellMatrix(1, 1));
+            for (int depth = static_cast<int>(in[0].template scalar<double>()); depth > 1; --depth) {
+                ArrayPtr outer(hvCreateCellMatrix(1, 1));
+                hvSetCell(outer.get(), 0, nest.release());
+                nest = std::move(outer);
+            }
+            return nest;
+        });
+    }
+};
+
+} // namespace
+
+#if defined(_WIN32)
+#define ENTRY_POINT extern "C" __declspec(dllexport)
+#else
+#define ENTRY_POINT extern "C" __attribute__((visibility("default")))
+#endif
+
+ENTRY_POINT void VXInitialize_console_cases()
+{
+    if (!COSPackage::getPackage("cases"))
+        COSPackage::addPackage(new Cases);
+}
+
+ENTRY_POINT void VXTerminate_console_cases()
+{
+    COSPackage::removePackage("cases");
+}
+
+ENTRY_POINT void* QueryVXFcnTable_console_cases()
+{
+    return nullptr;
+}
