@@ -35,8 +35,10 @@ bool areEqual(hvArray_tag const* first, hvArray_tag const* second)
         } else if (a->classID() == hvOBJECT_CLASS) {
             if (!std::ranges::equal(a->objects(), b->objects()))
                 return false;
-        } else if (std::memcmp(a->elements(), b->elements(), a->size() * arrayClass(a->classID()).elementSize) != 0) {
-            return false;
+        } else if (a->size() != 0) {
+            std::size_t const bytes = a->size() * arrayClass(a->classID()).elementSize;
+            if (std::memcmp(a->elements(), b->elements(), bytes) != 0)
+                return false;
         }
     }
     return true;

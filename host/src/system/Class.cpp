@@ -69,7 +69,7 @@ void Class::describe()
 {
     info_->initializeClass(this);
     contents_->linearization = linearize(*this);
-    buildMemberTables(*contents_);
+    contents_->tables = buildMemberTables(contents_->linearization);
 }
 
 void Class::dropContents()

@@ -44,6 +44,7 @@ public:
     void close();
 
     ClassContents const& contents() const { return *contents_; }
+    MemberTables const& tables() const { return *contents_->tables; }
     std::vector<Class*> const& linearization() const { return contents_->linearization; }
     bool isA(Name ancestor) const;
 

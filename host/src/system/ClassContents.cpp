@@ -27,21 +27,21 @@ bool isHidden(Method const& inherited, MethodGroup const& group, Class const& cl
     return hidden;
 }
 
-void addMethods(ClassContents& contents, Class const& cls, Class const& definer)
+void addMethods(MemberTables& tables, Class const& cls, Class const& definer)
 {
     for (auto const& method : definer.contents().methods) {
         if (method->isConstructor)
             continue;
-        MethodGroup& group = contents.methodGroups[method->name];
+        MethodGroup& group = tables.methodGroups[method->name];
         if (!isHidden(*method, group, cls))
             group.add(*method);
     }
 }
 
-void addProperties(ClassContents& contents, Class const& cls, Class const& definer)
+void addProperties(MemberTables& tables, Class const& cls, Class const& definer)
 {
     for (auto const& property : definer.contents().properties) {
-        Property const*& entry = contents.propertiesByName[property->name];
+        Property const*& entry = tables.propertiesByName[property->name];
         if (entry && property->isSealed)
             refuseSealed(cls, property->name, definer);
         if (!entry)
@@ -51,19 +51,18 @@ void addProperties(ClassContents& contents, Class const& cls, Class const& defin
 
 } // namespace
 
-void buildMemberTables(ClassContents& contents)
+std::shared_ptr<MemberTables> buildMemberTables(std::vector<Class*> const& linearization)
 {
-    Class const& cls = *contents.linearization.front();
-    contents.constructors = {};
-    contents.methodGroups = {};
-    contents.propertiesByName = {};
-    for (auto const& method : contents.methods)
+    auto tables = std::make_shared<MemberTables>();
+    Class const& cls = *linearization.front();
+    for (auto const& method : cls.contents().methods)
         if (method->isConstructor)
-            contents.constructors.add(*method);
-    for (Class const* const definer : contents.linearization) {
-        addMethods(contents, cls, *definer);
-        addProperties(contents, cls, *definer);
+            tables->constructors.add(*method);
+    for (Class const* const definer : linearization) {
+        addMethods(*tables, cls, *definer);
+        addProperties(*tables, cls, *definer);
     }
+    return tables;
 }
 
 } // namespace velmara

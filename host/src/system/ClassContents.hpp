@@ -9,8 +9,14 @@
 
 namespace velmara {
 
-/// What a class info adds while it describes its class, and the tables that are made of it and of what is
-/// inherited. It is dropped as a whole when describing fails.
+/// The members of a class by name, inherited ones included.
+struct MemberTables {
+    MethodGroup constructors;
+    NameMap<MethodGroup> methodGroups;
+    NameMap<Property const*> propertiesByName;
+};
+
+/// What a class info adds while it describes its class. It is dropped as a whole when describing fails.
 struct ClassContents {
     std::vector<std::unique_ptr<Method>> methods; ///< the class's own, in the order of description
     std::vector<std::unique_ptr<Property>> properties;
@@ -19,13 +25,11 @@ struct ClassContents {
     /// The class itself first, then its superclasses: each before its own superclasses.
     std::vector<Class*> linearization;
 
-    MethodGroup constructors;
-    NameMap<MethodGroup> methodGroups; ///< inherited ones included
-    NameMap<Property const*> propertiesByName;
+    std::shared_ptr<MemberTables> tables = std::make_shared<MemberTables>();
 };
 
-/// Fills the tables of the class that stands first in `contents.linearization`. Refuses members that redefine
-/// sealed ones of a superclass.
-void buildMemberTables(ClassContents& contents);
+/// The tables of the class that stands first in the linearisation. Refuses members that redefine sealed ones of a
+/// superclass.
+std::shared_ptr<MemberTables> buildMemberTables(std::vector<Class*> const& linearization);
 
 } // namespace velmara

@@ -54,4 +54,10 @@ void MethodGroup::add(Method const& method)
         methods.push_back(&method);
 }
 
+void MethodGroup::remove(Method const& method)
+{
+    if (std::erase(methods, &method) != 0 && method.isAccessible())
+        --accessible;
+}
+
 } // namespace velmara

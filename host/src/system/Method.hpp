@@ -47,6 +47,9 @@ struct Method {
 struct MethodGroup {
     /// Those that a script may call come first.
     void add(Method const& method);
+    void remove(Method const& method);
+
+    auto accessibleEnd() const { return methods.begin() + static_cast<std::ptrdiff_t>(accessible); }
 
     std::vector<Method const*> methods;
     std::size_t accessible = 0;

@@ -72,9 +72,10 @@ MethodGroup const* Package::findFunctions(std::string_view ownName)
 {
     auto const find = [this, ownName] {
         Name const name = findInterned(ownName);
-        return name ? functionGroups_.find(name) : nullptr;
+        auto const* const group = name ? functionGroups_.find(name) : nullptr;
+        return group ? group->get() : nullptr;
     };
-    MethodGroup* found = find();
+    MethodGroup const* found = find();
     if (!found && info_ && info_->attemptToLoadFunction(std::string(ownName).c_str()))
         found = find();
     return found;
@@ -137,12 +138,12 @@ void Package::remove(Method& function)
     std::shared_ptr<Method> taken = takeOut(functions_, function);
     if (!taken)
         return;
-    MethodGroup& group = functionGroups_[function.name];
-    std::erase(group.methods, &function);
-    if (function.isAccessible())
-        --group.accessible;
-    if (group.methods.empty())
+    std::unique_ptr<MethodGroup>& group = functionGroups_[function.name];
+    group->remove(function);
+    if (group->methods.empty()) {
+        tree_.machine().retire(std::shared_ptr<MethodGroup>(std::move(group)));
         functionGroups_.erase(function.name);
+    }
     tree_.machine().retire(std::move(taken));
 }
 
@@ -151,13 +152,16 @@ void Package::addFunction(orbis::COSMethodInfo* function)
     auto added = std::make_unique<Method>(std::unique_ptr<orbis::COSMethodInfo>(function), nullptr);
     requireOpen();
     std::string const full = std::string(fullName()) + "." + std::string(added->name->view());
-    MethodGroup const* const group = functionGroups_.find(added->name);
+    std::unique_ptr<MethodGroup>* group = functionGroups_.find(added->name);
+    auto const isSame = [&added](Method const* other) { return other->hasSameInputs(*added); };
     if (!group)
         tree_.requireFree(full);
-    else if (std::ranges::any_of(group->methods, [&](Method const* other) { return other->hasSameInputs(*added); }))
+    else if (std::ranges::any_of((*group)->methods, isSame))
         throwHostError("VELMARA:package", "duplicate", {full});
+    if (!group)
+        *(group = &functionGroups_[added->name]) = std::make_unique<MethodGroup>();
     Method& placed = *functions_.emplace_back(std::move(added));
-    functionGroups_[placed.name].add(placed);
+    (*group)->add(placed);
     tree_.record([this, &placed] { remove(placed); });
 }
 

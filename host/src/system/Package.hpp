@@ -76,7 +76,7 @@ private:
     std::vector<std::unique_ptr<Package>> packages_;
     std::vector<std::unique_ptr<Class>> classes_;
     std::vector<std::unique_ptr<Method>> functions_;
-    NameMap<MethodGroup> functionGroups_;
+    NameMap<std::unique_ptr<MethodGroup>> functionGroups_;
     State state_ = State::Untouched;
 };
 

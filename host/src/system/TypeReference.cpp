@@ -57,4 +57,10 @@ TypeReference::TypeReference(Name typeName) : name(typeName)
     }
 }
 
+Name anyTypeName()
+{
+    static Name const name = intern("any");
+    return name;
+}
+
 } // namespace velmara

@@ -22,4 +22,7 @@ struct TypeReference {
     hvClassID scalarClass = hvUNKNOWN_CLASS; ///< the elements' class of a scalar type
 };
 
+/// "any", the type whose values are all arrays.
+Name anyTypeName();
+
 } // namespace velmara

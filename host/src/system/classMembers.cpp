@@ -1,9 +1,11 @@
 #include "system/Class.hpp"
+#include "system/HvmState.hpp"
 #include "values/hostError.hpp"
 
 #include "additions/additions.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace velmara {
 
@@ -46,7 +48,8 @@ void Class::addProperty(orbis::COSPropInfo* property)
 
 void Class::rebuildTables()
 {
-    buildMemberTables(*contents_);
+    // A call that is under way may still look at the old tables.
+    machine_.retire(std::exchange(contents_->tables, buildMemberTables(linearization())));
     for (Class* const subclass : subclasses_)
         if (subclass->isReady())
             subclass->rebuildTables();
@@ -78,7 +81,7 @@ MethodGroup const* Class::findMethods(std::string_view name)
 {
     auto const find = [this, name] {
         Name const interned = findInterned(name);
-        return interned ? contents().methodGroups.find(interned) : nullptr;
+        return interned ? tables().methodGroups.find(interned) : nullptr;
     };
     return findOrLoad(find, [name](orbis::COSClassInfo& info) { return info.attemptToLoadMethod(std::string(name).c_str()); });
 }
@@ -87,7 +90,7 @@ Property const* Class::findProperty(std::string_view name)
 {
     auto const find = [this, name]() -> Property const* {
         Name const interned = findInterned(name);
-        Property const* const* const found = interned ? contents().propertiesByName.find(interned) : nullptr;
+        Property const* const* const found = interned ? tables().propertiesByName.find(interned) : nullptr;
         return found ? *found : nullptr;
     };
     return findOrLoad(find, [name](orbis::COSClassInfo& info) { return info.attemptToLoadProperty(std::string(name).c_str()); });

@@ -1,0 +1,141 @@
+#include "system/ConvertedInputs.hpp"
+
+#include "system/HvmState.hpp"
+#include "system/PackageTree.hpp"
+#include "system/ScalarConversion.hpp"
+#include "system/TypeRepository.hpp"
+#include "system/errorTranslation.hpp"
+#include "system/objectFit.hpp"
+#include "values/Array.hpp"
+
+#include "orbis/COSTypeConversion.hpp"
+
+namespace velmara {
+
+namespace {
+
+bool isText(Array const& input)
+{
+    return input.classID() == hvCHAR_CLASS && (input.rows() == 1 || input.size() == 0);
+}
+
+} // namespace
+
+ConvertedInputs::ConvertedInputs(std::size_t capacity) : values_(inlineValues_), owned_(inlineOwned_)
+{
+    if (capacity <= inlineCapacity)
+        return;
+    moreValues_ = std::make_unique<orbis::COSValue[]>(capacity);
+    moreOwned_ = std::make_unique<Owned[]>(capacity);
+    values_ = moreValues_.get();
+    owned_ = moreOwned_.get();
+}
+
+Fit ConvertedInputs::add(TypeReference const& type, hvArray_tag* input)
+{
+    Array const& array = *Array::of(input);
+    Fit fit = noFit;
+    switch (type.kind) {
+    case TypeKind::Scalar:
+        fit = convertScalar(type.scalarClass, array, values_[count_]);
+        break;
+    case TypeKind::Text:
+        fit = isText(array) ? exactFit : noFit;
+        values_[count_] = orbis::COSValue(input);
+        break;
+    case TypeKind::Any:
+        fit = anyFit;
+        values_[count_] = orbis::COSValue(input);
+        break;
+    case TypeKind::Named:
+        fit = addNamed(type, input);
+        break;
+    case TypeKind::Void:
+        break;
+    }
+    if (fit != noFit)
+        ++count_;
+    return fit;
+}
+
+Fit ConvertedInputs::addNamed(TypeReference const& type, hvArray_tag* input)
+{
+    Array const& array = *Array::of(input);
+    values_[count_] = orbis::COSValue(input);
+    Fit fit = noFit;
+    if (array.classID() == hvOBJECT_CLASS && !type.element)
+        fit = objectFit(type.name, array);
+    if (fit == noFit && HvmState::required().types().findRegistered(type.name))
+        return addRegistered(type, input);
+    if (fit == noFit)
+        fit = type.element ? objectVectorFit(type.element, array) : objectFit(type.name, array);
+    return fit;
+}
+
+Fit ConvertedInputs::addRegistered(TypeReference const& type, hvArray_tag* input)
+{
+    TypeRepository const& types = HvmState::required().types();
+    orbis::COSDataType* const dataType = types.findRegistered(type.name);
+    orbis::COSTypeConversion* const conversion = types.findConversion(anyTypeName(), type.name);
+    if (!conversion)
+        return dataType->isVELMARAArrayType() ? convertedFit : noFit;
+    hvArray_tag* converted = nullptr;
+    try {
+        conversion->convertFromHost(&converted, input);
+    } catch (...) {
+        return noFit; // whoever needs the reason asks for it
+    }
+    dataType->getReference(); // it may be unregistered before its value is given back
+    values_[count_] = orbis::COSValue(converted);
+    owned_[ownedCount_++] = {dataType, values_[count_]};
+    return convertedFit;
+}
+
+void ConvertedInputs::giveBack()
+{
+    while (ownedCount_ > 0) {
+        Owned const& owned = owned_[--ownedCount_];
+        try {
+            owned.type->releaseValue(owned.value);
+        } catch (...) {
+        }
+        owned.type->releaseReference();
+    }
+}
+
+namespace {
+
+std::string explainConversion(orbis::COSDataType& type, orbis::COSTypeConversion& conversion, hvArray_tag* input)
+{
+    hvArray_tag* converted = nullptr;
+    try {
+        conversion.convertFromHost(&converted, input);
+        type.releaseValue(orbis::COSValue(converted));
+    } catch (...) {
+        return textOfCurrentException();
+    }
+    return "was refused";
+}
+
+} // namespace
+
+std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
+{
+    Array const& array = *Array::of(input);
+    std::string const given(array.className());
+    std::string const wanted(type.name->view());
+    if (type.kind == TypeKind::Scalar)
+        return explainScalarRefusal(type.scalarClass, array);
+    if (type.kind == TypeKind::Text)
+        return array.classID() == hvCHAR_CLASS ? "needs one row of text" : "needs text, not " + given;
+    HvmState& machine = HvmState::required();
+    if (orbis::COSDataType* const registered = machine.types().findRegistered(type.name)) {
+        auto* const conversion = machine.types().findConversion(anyTypeName(), type.name);
+        return conversion ? explainConversion(*registered, *conversion, input) : "nothing converts to " + wanted;
+    }
+    if (!machine.packages().findPublishedClass(type.element ? type.element : type.name))
+        return "no data type or class " + wanted + " is known";
+    return "needs " + wanted + ", not " + given;
+}
+
+} // namespace velmara

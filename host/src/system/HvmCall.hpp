@@ -1,0 +1,21 @@
+#pragma once
+
+#include "system/HvmState.hpp"
+#include "system/errorTranslation.hpp"
+
+namespace velmara {
+
+/// Runs one operation of the driving interface inside a virtual machine: whatever is thrown beneath leaves it as
+/// a `velmara::Error`.
+template <class Operation>
+auto callInto(HvmState& machine, Operation const& operation)
+{
+    HvmState::Entry const entry(machine);
+    try {
+        return operation();
+    } catch (...) {
+        rethrowAsError();
+    }
+}
+
+} // namespace velmara

@@ -1,0 +1,64 @@
+#include "system/Module.hpp"
+
+#include "system/pathText.hpp"
+#include "values/hostError.hpp"
+
+#include <utility>
+
+namespace velmara {
+
+namespace {
+
+ModuleRecord makeRecord(std::filesystem::path const& file, std::string name)
+{
+    ModuleRecord record;
+    record.name = std::move(name);
+    record.file = pathText(file);
+    return record;
+}
+
+} // namespace
+
+Module::Module(std::filesystem::path const& file, std::string name)
+    : file_(file), record_(makeRecord(file, std::move(name))), library_(file),
+      initialize_(entryPoint("VXInitialize_")), terminate_(entryPoint("VXTerminate_"))
+{
+    entryPoint("QueryVXFcnTable_"); // a module has it, though this host calls nothing through it
+    record_.version = versionWord("_version");
+    record_.buildDate = versionWord("_build_date");
+    record_.relativePath = versionWord("_relative_path");
+}
+
+Module::EntryPoint Module::entryPoint(std::string const& prefix) const
+{
+    void* const address = library_.find(prefix + record_.name);
+    if (!address)
+        throwHostError("VELMARA:module", "noEntryPoint", {record_.file, prefix + record_.name});
+    return reinterpret_cast<EntryPoint>(address);
+}
+
+std::string Module::versionWord(char const* suffix) const
+{
+    auto const* const word = static_cast<char const* const*>(library_.find(record_.name + suffix));
+    return word && *word ? *word : "";
+}
+
+void Module::initialize()
+{
+    initialize_();
+    isLoaded_ = true;
+}
+
+void Module::terminate()
+{
+    isLoaded_ = false;
+    terminate_();
+}
+
+std::string moduleName(std::filesystem::path const& file)
+{
+    std::string const stem = pathText(file.stem());
+    return stem.starts_with("lib") ? stem.substr(3) : stem;
+}
+
+} // namespace velmara

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "system/SharedLibrary.hpp"
+
+#include "velmara/Listing.hpp"
+
+#include <filesystem>
+#include <string>
+
+namespace velmara {
+
+/// A module of a virtual machine: a shared library with the module entry points. Its code stays mapped while this
+/// lives, also after it was terminated.
+class Module {
+public:
+    /// Maps the file; nothing of the module runs but its static initialisation. Throws
+    /// "VELMARA:module:noEntryPoint" for a library without the entry points of the module `name`.
+    Module(std::filesystem::path const& file, std::string name);
+
+    std::string const& name() const { return record_.name; }
+    std::filesystem::path const& file() const { return file_; }
+    ModuleRecord const& record() const { return record_; }
+    bool isLoaded() const { return isLoaded_; }
+
+    /// Runs the module's initialisation; it is loaded when that succeeds.
+    void initialize();
+    void terminate();
+
+private:
+    using EntryPoint = void (*)();
+
+    EntryPoint entryPoint(std::string const& prefix) const;
+    std::string versionWord(char const* suffix) const;
+
+    std::filesystem::path file_;
+    ModuleRecord record_;
+    SharedLibrary library_;
+    EntryPoint initialize_;
+    EntryPoint terminate_;
+    bool isLoaded_ = false;
+};
+
+/// The name of the module in a file: its stem without a leading "lib".
+std::string moduleName(std::filesystem::path const& file);
+
+} // namespace velmara

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "system/Module.hpp"
+
+#include <filesystem>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace velmara {
+
+/// The modules of one virtual machine, in the order in which they were loaded. Each operation needs that virtual
+/// machine to be current.
+class ModuleList {
+public:
+    /// Loads a module and initialises it. One that is loaded, or was, is only initialised again. Throws
+    /// "VELMARA:module:otherFile" when a module of its name was loaded from another file.
+    Module const& load(std::filesystem::path const& file);
+
+    /// Throws "VELMARA:module:notLoaded" when it is not loaded.
+    void unload(std::string_view name);
+
+    std::vector<ModuleRecord> records() const;
+
+    /// Terminates what is loaded, the last one first. Failures are passed over.
+    void terminateAll() noexcept;
+
+private:
+    Module& open(std::filesystem::path const& file);
+
+    std::vector<std::unique_ptr<Module>> modules_; ///< those that were terminated included
+};
+
+} // namespace velmara

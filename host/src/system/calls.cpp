@@ -1,0 +1,83 @@
+#include "system/calls.hpp"
+
+#include "system/Class.hpp"
+#include "system/HvmState.hpp"
+#include "system/Object.hpp"
+#include "system/PackageTree.hpp"
+#include "system/objectValidity.hpp"
+#include "values/Array.hpp"
+#include "values/hostError.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <algorithm>
+
+namespace velmara {
+
+Class& requireClass(HvmState& machine, std::string_view fullName)
+{
+    Class* const cls = machine.packages().findClass(fullName);
+    if (!cls)
+        throwHostError("VELMARA:class", "unknown", {std::string(fullName)});
+    cls->makeReady();
+    return *cls;
+}
+
+Object* requireObject(HvmState& machine, hvArray_tag* array)
+{
+    if (!array || Array::of(array)->classID() != hvOBJECT_CLASS)
+        throwHostError("VELMARA:object", "notObject", {array ? std::string(Array::of(array)->className()) : "null"});
+    Object* const object = Array::of(array)->size() == 0 ? nullptr : Array::of(array)->objects().front();
+    if (object)
+        requireUsable(machine, *object);
+    return object;
+}
+
+Class& requireClassOf(HvmState& machine, hvArray_tag* array, Object* object)
+{
+    return object ? *object->classOf() : requireClass(machine, Array::of(array)->className());
+}
+
+ArrayPtr callMethod(HvmState& machine, hvArray_tag* array, std::string_view method, Inputs inputs)
+{
+    Class& cls = requireClassOf(machine, array, requireObject(machine, array));
+    MethodGroup const* const group = cls.findMethods(method);
+    if (!group)
+        throwHostError("VELMARA:member", "unknown", {std::string(cls.name()->view()), std::string(method)});
+    return dispatch(machine, *group, {array, inputs});
+}
+
+ArrayPtr callStaticMethod(HvmState& machine, std::string_view className, std::string_view method, Inputs inputs)
+{
+    Class& cls = requireClass(machine, className);
+    MethodGroup const* const group = cls.findMethods(method);
+    if (!group)
+        throwHostError("VELMARA:member", "unknown", {std::string(className), std::string(method)});
+    if (std::ranges::all_of(group->methods, &Method::takesObject))
+        throwHostError("VELMARA:member", "notStatic", {std::string(className), std::string(method)});
+    return dispatch(machine, *group, {nullptr, inputs});
+}
+
+ArrayPtr callFunction(HvmState& machine, std::string_view fullName, Inputs inputs)
+{
+    MethodGroup const* const group = machine.packages().findFunctions(fullName);
+    if (!group)
+        throwHostError("VELMARA:function", "unknown", {std::string(fullName)});
+    return dispatch(machine, *group, {nullptr, inputs});
+}
+
+void deleteObjects(HvmState& machine, hvArray_tag* array)
+{
+    if (!array || Array::of(array)->classID() != hvOBJECT_CLASS)
+        throwHostError("VELMARA:object", "notObject", {array ? std::string(Array::of(array)->className()) : "null"});
+    for (Object const* const object : Array::of(array)->objects())
+        if (object && object->machine() && object->machine() != &machine)
+            refuseObject(*object);
+    // Ending runs native code, which may write to the array: the objects are held and counted apart from it.
+    ArrayPtr const held(Array::of(array)->shareData());
+    for (std::size_t i = 0; i < Array::of(held.get())->size(); ++i)
+        if (Object* const object = Array::of(held.get())->objects()[i])
+            object->end();
+}
+
+} // namespace velmara

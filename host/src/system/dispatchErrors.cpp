@@ -1,0 +1,80 @@
+#include "system/dispatchErrors.hpp"
+
+#include "values/Array.hpp"
+#include "values/hostError.hpp"
+
+#include <algorithm>
+#include <string>
+
+namespace velmara {
+
+namespace {
+
+std::string describeGiven(Inputs inputs)
+{
+    std::string text = "(";
+    for (hvArray_tag const* const input : inputs) {
+        Array const& array = *Array::of(input);
+        if (text.size() > 1)
+            text += ", ";
+        text.append(array.className()).append(" ").append(std::to_string(array.rows()));
+        text.append("-by-").append(std::to_string(array.columns()));
+    }
+    return text + ")";
+}
+
+std::string count(std::size_t number)
+{
+    return std::to_string(number) + (number == 1 ? " input" : " inputs");
+}
+
+std::string explain(Method const& method, CallInputs const& call)
+{
+    if (method.takesObject && !call.self)
+        return "needs an object that it is called on";
+    auto const parameters = method.explicitInputs();
+    if (parameters.size() != call.inputs.size())
+        return "takes " + count(parameters.size());
+    if (method.takesObject && ConvertedInputs(1).add(method.inputs.front().type, call.self) == noFit)
+        return method.inputs.front().name + ": " + explainRefusal(method.inputs.front().type, call.self);
+    for (std::size_t i = 0; i < parameters.size(); ++i)
+        if (ConvertedInputs(1).add(parameters[i].type, call.inputs[i]) == noFit)
+            return parameters[i].name + ": " + explainRefusal(parameters[i].type, call.inputs[i]);
+    return "fits";
+}
+
+std::string nameOf(Method const& method)
+{
+    return std::string(method.name->view());
+}
+
+} // namespace
+
+void refuseNoMatch(std::span<Method const* const> candidates, CallInputs const& call)
+{
+    std::string explained;
+    for (Method const* const method : candidates)
+        explained += "\n  " + method->describe() + ": " + explain(*method, call);
+    throwHostError("VELMARA:dispatch", "noMatch",
+                   {nameOf(*candidates.front()), explained, describeGiven(call.inputs)});
+}
+
+void refuseAmbiguous(std::span<Method const* const> rivals, CallInputs const& call)
+{
+    std::string candidates;
+    for (Method const* const method : rivals)
+        candidates += "\n  " + method->describe();
+    throwHostError("VELMARA:dispatch", "ambiguous", {nameOf(*rivals.front()), candidates, describeGiven(call.inputs)});
+}
+
+void refuseAccess(MethodGroup const& group)
+{
+    throwHostError("VELMARA:member", "access", {nameOf(*group.methods.front())});
+}
+
+void refuseAbstract(Method const& method)
+{
+    throwHostError("VELMARA:member", "abstract", {nameOf(method)});
+}
+
+} // namespace velmara

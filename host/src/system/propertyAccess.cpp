@@ -1,0 +1,112 @@
+#include "system/propertyAccess.hpp"
+
+#include "system/Class.hpp"
+#include "system/HvmState.hpp"
+#include "system/ResultValue.hpp"
+#include "system/calls.hpp"
+#include "values/hostError.hpp"
+
+namespace velmara {
+
+namespace {
+
+std::string textOf(Property const& property)
+{
+    return std::string(property.name->view());
+}
+
+Property const& requireProperty(Class& cls, std::string_view name)
+{
+    Property const* const property = cls.findProperty(name);
+    if (!property)
+        throwHostError("VELMARA:property", "unknown", {std::string(cls.name()->view()), std::string(name)});
+    if (property->isAbstract)
+        throwHostError("VELMARA:property", "abstract", {textOf(*property)});
+    return *property;
+}
+
+/// The object that the property is one of; null for a static one.
+Object* requireOwner(Property const& property, Object* object)
+{
+    if (property.isStatic)
+        return nullptr;
+    if (!object)
+        throwHostError("VELMARA:property", "noObject", {textOf(property)});
+    return object;
+}
+
+/// A value that was read, until it is given back to the property.
+class ReadValue {
+public:
+    ReadValue(Property const& property, Object* object)
+        : property_(property), object_(object), value_(property.info->getValue(object))
+    {
+    }
+    ReadValue(ReadValue const&) = delete;
+    ReadValue& operator=(ReadValue const&) = delete;
+
+    ~ReadValue()
+    {
+        try {
+            property_.info->releaseValue(object_, value_);
+        } catch (...) {
+        }
+    }
+
+    orbis::COSValue value() const { return value_; }
+
+private:
+    Property const& property_;
+    Object* object_;
+    orbis::COSValue value_;
+};
+
+ArrayPtr read(Property const& property, Object* object)
+{
+    if (property.getAccess != orbis::MemberAccess::Public)
+        throwHostError("VELMARA:property", "getAccess", {textOf(property)});
+    Object* const owner = requireOwner(property, object);
+    TypeReference const& type = property.type();
+    ResultValue result(&type); // outlives the read value: the array goes after the property was told
+    ReadValue const value(property, owner);
+    result.slot() = value.value();
+    return result.take(property.name->view());
+}
+
+void write(HvmState& machine, Property const& property, Object* object, hvArray_tag* value)
+{
+    if (property.setAccess != orbis::MemberAccess::Public)
+        throwHostError("VELMARA:property", "setAccess", {textOf(property)});
+    Object* const owner = requireOwner(property, object);
+    checkInputs(machine, {&value, 1});
+    ConvertedInputs converted(1);
+    if (converted.add(property.type(), value) == noFit)
+        throwHostError("VELMARA:property", "value", {textOf(property), explainRefusal(property.type(), value)});
+    property.info->setValue(owner, *converted.values());
+}
+
+} // namespace
+
+ArrayPtr getProperty(HvmState& machine, hvArray_tag* array, std::string_view property)
+{
+    Object* const object = requireObject(machine, array);
+    return read(requireProperty(requireClassOf(machine, array, object), property), object);
+}
+
+void setProperty(HvmState& machine, hvArray_tag* array, std::string_view property, hvArray_tag* value)
+{
+    Object* const object = requireObject(machine, array);
+    write(machine, requireProperty(requireClassOf(machine, array, object), property), object, value);
+}
+
+ArrayPtr getStaticProperty(HvmState& machine, std::string_view className, std::string_view property)
+{
+    return read(requireProperty(requireClass(machine, className), property), nullptr);
+}
+
+void setStaticProperty(HvmState& machine, std::string_view className, std::string_view property, hvArray_tag* value)
+{
+    write(machine, requireProperty(requireClass(machine, className), property), nullptr, value);
+}
+
+} // namespace velmara
