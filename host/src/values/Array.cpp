@@ -1,50 +1,31 @@
 #include "values/Array.hpp"
 
-#include "system/Object.hpp"
 #include "values/CellNest.hpp"
 #include "values/DeepCopy.hpp"
-#include "values/LiveCounters.hpp"
 #include "values/hostError.hpp"
 
 #include "libkwfl/bad_alloc.hpp"
 
-#include <cstdlib>
 #include <cstring>
-#include <new>
 #include <utility>
 
 namespace velmara {
 
-Array::Array(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
-    : classID_(classID)
-    , dimensions_{rows, columns}
-    , objectClass_(objectClass)
+Array* Array::createAround(Payload& payload, hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
 {
-}
-
-Array* Array::createAround(Payload* payload, hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
-{
-    void* const memory = std::malloc(sizeof(Array));
-    if (!memory) [[unlikely]] {
-        if (payload)
-            payload->free();
-        throw foundation::core::except::bad_alloc();
+    try {
+        Array* const array = createHeader(classID, rows, columns, objectClass);
+        array->elements_ = payload.elements();
+        return array;
+    } catch (...) {
+        payload.free();
+        throw;
     }
-    auto* const array = new (memory) Array(classID, rows, columns, objectClass);
-    if (payload)
-        array->elements_ = payload->elements();
-    ++liveCountsOfThisThread().arrays;
-    return array;
-}
-
-Array* Array::createSameShape(Payload* payload) const
-{
-    return createAround(payload, classID_, rows(), columns(), objectClass_);
 }
 
 Array* Array::createSharing(Payload& payload) const
 {
-    Array* const array = createSameShape(nullptr);
+    Array* const array = createHeader(classID_, rows(), columns(), objectClass_);
     payload.addReference();
     array->elements_ = payload.elements();
     return array;
@@ -55,20 +36,11 @@ Array* Array::createZeroed(hvClassID classID, std::size_t rows, std::size_t colu
     std::size_t count;
     if (__builtin_mul_overflow(rows, columns, &count)) [[unlikely]]
         throw foundation::core::except::bad_alloc();
-    // Cells always have a payload: a copied nest knows by it what was shared.
-    bool const standsInArray = count == 0 || (count == 1 && classID != hvCELL_CLASS);
-    Payload* const payload = standsInArray ? nullptr : Payload::createZeroed(count, arrayClass(classID).elementSize);
-    return createAround(payload, classID, rows, columns, objectClass);
-}
-
-Array* Array::create(hvClassID classID, std::size_t rows, std::size_t columns)
-{
-    return createZeroed(classID, rows, columns, nullptr);
-}
-
-Array* Array::createObjects(Name className, std::size_t rows, std::size_t columns)
-{
-    return createZeroed(hvOBJECT_CLASS, rows, columns, className);
+    // A single cell has a payload like any other: a copied nest knows by it what was shared.
+    if (count == 0 || (count == 1 && classID != hvCELL_CLASS))
+        return createHeader(classID, rows, columns, objectClass);
+    Payload* const payload = Payload::createZeroed(count, arrayClass(classID).elementSize);
+    return createAround(*payload, classID, rows, columns, objectClass);
 }
 
 std::string_view Array::className() const
@@ -103,21 +75,11 @@ void Array::setCell(std::size_t index, Array* value)
     }
 }
 
-void Array::setObject(std::size_t index, Object* object)
-{
-    makeUnshared();
-    if (object)
-        object->addInternal();
-    // Last, because an object that ends runs native code, which may use this array.
-    if (Object* const old = std::exchange(objectSlots()[index], object))
-        old->removeInternal();
-}
-
 Array* Array::shareData() const
 {
     if (hasPayload())
         return createSharing(*payload());
-    Array* const copy = createSameShape(nullptr);
+    Array* const copy = createHeader(classID_, rows(), columns(), objectClass_);
     std::memcpy(copy->inline_, inline_, sizeof inline_);
     copy->retainElements();
     return copy;
@@ -133,10 +95,8 @@ void Array::setTemporary(bool isTemporary)
     flags_ = isTemporary ? flags_ | temporaryFlag : flags_ & ~temporaryFlag;
 }
 
-void Array::makeUnshared()
+void Array::copyPayload()
 {
-    if (!hasPayload() || !payload()->isShared())
-        return;
     Payload* const own = Payload::createCopy(elements_, size(), elementSize());
     payload()->removeReference();
     elements_ = own->elements();
@@ -203,7 +163,7 @@ void Array::destroyPlain() noexcept
 void Array::freeHeader() noexcept
 {
     --liveCountsOfThisThread().arrays;
-    std::free(this);
+    ArrayMemory::giveBack(this);
 }
 
 } // namespace velmara

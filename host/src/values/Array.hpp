@@ -1,17 +1,20 @@
 #pragma once
 
+#include "system/Object.hpp"
 #include "values/ArrayClass.hpp"
+#include "values/ArrayMemory.hpp"
 #include "values/InternedName.hpp"
+#include "values/LiveCounters.hpp"
 #include "values/Payload.hpp"
 
 #include "libhv/hvArray.hpp"
 
+#include <new>
 #include <span>
 #include <string_view>
+#include <utility>
 
 namespace velmara {
-
-class Object;
 
 /// What stands behind every `hvArray_tag`: class, sizes, and elements. A plain scalar and the one element of an
 /// object array stand in the array itself; other elements stand in a payload that copies share until one of them
@@ -22,10 +25,19 @@ class Object;
 class Array final : public hvArray_tag {
 public:
     /// A new array of zeros or empty cells, of a plain class or of cells, with one reference.
-    static Array* create(hvClassID classID, std::size_t rows, std::size_t columns);
+    static Array* create(hvClassID classID, std::size_t rows, std::size_t columns)
+    {
+        bool const standsInArray = rows == 1 && columns == 1 && classID != hvCELL_CLASS;
+        return standsInArray ? createHeader(classID, 1, 1, nullptr) : createZeroed(classID, rows, columns, nullptr);
+    }
 
     /// A new array of null objects, typed by a class name.
-    static Array* createObjects(Name className, std::size_t rows, std::size_t columns);
+    static Array* createObjects(Name className, std::size_t rows, std::size_t columns)
+    {
+        if (rows == 1 && columns == 1)
+            return createHeader(hvOBJECT_CLASS, 1, 1, className);
+        return createZeroed(hvOBJECT_CLASS, rows, columns, className);
+    }
 
     static Array* of(hvArray_tag* array) { return static_cast<Array*>(array); }
     static Array const* of(hvArray_tag const* array) { return static_cast<Array const*>(array); }
@@ -74,13 +86,21 @@ private:
     friend class CellNest;
     friend class DeepCopy;
 
-    Array(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
+    Array(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+        : classID_(classID),
+          dimensions_{rows, columns},
+          objectClass_(objectClass)
+    {
+    }
+
     ~Array() = default;
 
-    /// Takes over `payload`, also when it throws; null when the elements stand in the array itself.
-    static Array* createAround(Payload* payload, hvClassID classID, std::size_t rows, std::size_t columns,
+    /// An array whose element, if it has one, stands in the array itself.
+    static Array* createHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
+
+    /// Takes over `payload`, also when it throws.
+    static Array* createAround(Payload& payload, hvClassID classID, std::size_t rows, std::size_t columns,
                                Name objectClass);
-    Array* createSameShape(Payload* payload) const;
     Array* createSharing(Payload& payload) const;
     static Array* createZeroed(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
 
@@ -93,7 +113,13 @@ private:
     /// True when no one but cells holds the array.
     bool belongsToCells() const { return references_ == cellsAround_; }
 
-    void makeUnshared();
+    void makeUnshared()
+    {
+        if (hasPayload() && payload()->isShared())
+            copyPayload();
+    }
+
+    void copyPayload();
     void retainElements() const noexcept;
     void destroy() noexcept;
     void destroyObjects() noexcept;
@@ -107,5 +133,24 @@ private:
     void* elements_ = inline_;
     alignas(8) std::byte inline_[8] = {}; ///< the one element that stands in the array itself
 };
+
+static_assert(sizeof(Array) == ArrayMemory::size);
+
+inline Array* Array::createHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+{
+    auto* const array = new (ArrayMemory::take()) Array(classID, rows, columns, objectClass);
+    ++liveCountsOfThisThread().arrays;
+    return array;
+}
+
+inline void Array::setObject(std::size_t index, Object* object)
+{
+    makeUnshared();
+    if (object)
+        object->addInternal();
+    // Last, because an object that ends runs native code, which may use this array.
+    if (Object* const old = std::exchange(objectSlots()[index], object))
+        old->removeInternal();
+}
 
 } // namespace velmara

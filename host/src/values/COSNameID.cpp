@@ -1,11 +1,11 @@
 #include "orbis/COSNameID.hpp"
 
-#include "values/InternedName.hpp"
 #include "values/LiveCounters.hpp"
+#include "values/NameTable.hpp"
 
 namespace orbis {
 
-COSNameID::COSNameID(char const* name) : name_(velmara::intern(name ? name : ""))
+COSNameID::COSNameID(char const* name) : name_(velmara::internInline(name ? name : ""))
 {
     ++velmara::liveCountsOfThisThread().heldNames;
 }

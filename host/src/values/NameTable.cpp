@@ -1,7 +1,5 @@
 #include "values/NameTable.hpp"
 
-#include "values/TextChunks.hpp"
-
 #include <cstdlib>
 #include <memory>
 #include <mutex>
@@ -9,9 +7,9 @@
 
 namespace velmara {
 
-namespace {
+constinit NameTable nameTable;
 
-constinit NameTable names;
+namespace {
 
 /// Held by whoever adds a name. Never destroyed, as names are.
 std::mutex& writing()
@@ -36,11 +34,9 @@ Name makeName(std::string_view text, std::uint64_t hash)
 
 Name NameTable::find(Slots const& slots, std::string_view text, std::uint64_t hash)
 {
-    for (std::size_t index = hash & slots.mask;; index = (index + 1) & slots.mask) {
-        Name const name = slots.first[index].load(std::memory_order_acquire);
-        if (!name)
-            return nullptr;
-        if (name->hash == hash && name->length == text.size() && isSameText(text, name->text))
+    for (std::size_t index = hash;; ++index) {
+        Name const name = slots.first[index & slots.mask].load(std::memory_order_acquire);
+        if (!name || (name->hash == hash && name->view() == text))
             return name;
     }
 }
@@ -84,14 +80,13 @@ void NameTable::grow()
 Name intern(std::string_view text)
 {
     std::uint64_t const hash = hashText(text);
-    if (Name const known = names.find(text, hash)) [[likely]]
-        return known;
-    return names.add(text, hash);
+    Name const known = nameTable.find(text, hash);
+    return known ? known : nameTable.add(text, hash);
 }
 
 Name findInterned(std::string_view text)
 {
-    return names.find(text, hashText(text));
+    return nameTable.find(text, hashText(text));
 }
 
 } // namespace velmara

@@ -9,6 +9,9 @@ namespace velmara {
 
 namespace {
 
+// Zeroed memory from calloc costs nothing until it is used when it is large, but too much when it is small.
+constexpr std::size_t largeSize = 16384;
+
 std::size_t sizeInBytes(std::size_t count, std::size_t size)
 {
     if (count > (PTRDIFF_MAX - sizeof(Payload)) / size)
@@ -18,23 +21,29 @@ std::size_t sizeInBytes(std::size_t count, std::size_t size)
 
 } // namespace
 
-// Zeroed memory from calloc costs nothing until it is used when the matrix is large.
+Payload* Payload::withOneReference(void* memory)
+{
+    if (!memory)
+        throw foundation::core::except::bad_alloc();
+    auto* const payload = static_cast<Payload*>(memory);
+    payload->references_ = 1;
+    return payload;
+}
+
 Payload* Payload::createZeroed(std::size_t count, std::size_t size)
 {
-    auto* const payload = static_cast<Payload*>(std::calloc(1, sizeInBytes(count, size)));
-    if (!payload)
-        throw foundation::core::except::bad_alloc();
-    payload->references_ = 1;
+    std::size_t const bytes = sizeInBytes(count, size);
+    if (bytes >= largeSize)
+        return withOneReference(std::calloc(1, bytes));
+    Payload* const payload = withOneReference(std::malloc(bytes));
+    std::memset(payload->elements(), 0, bytes - sizeof(Payload));
     return payload;
 }
 
 Payload* Payload::createCopy(void const* source, std::size_t count, std::size_t size)
 {
     std::size_t const bytes = sizeInBytes(count, size);
-    auto* const payload = static_cast<Payload*>(std::malloc(bytes));
-    if (!payload)
-        throw foundation::core::except::bad_alloc();
-    payload->references_ = 1;
+    Payload* const payload = withOneReference(std::malloc(bytes));
     std::memcpy(payload->elements(), source, bytes - sizeof(Payload));
     return payload;
 }

@@ -26,6 +26,8 @@ public:
     void free();
 
 private:
+    static Payload* withOneReference(void* memory);
+
     std::size_t references_;
 };
 

@@ -6,7 +6,8 @@
 
 namespace velmara {
 
-/// Reading text eight bytes at a time, never past its end: the last chunk overlaps the one before it.
+/// Hashing and comparing text in chunks of eight bytes, never read past its end: the last chunks overlap those
+/// before them.
 inline std::uint64_t loadChunk(char const* text)
 {
     std::uint64_t chunk;
@@ -14,45 +15,35 @@ inline std::uint64_t loadChunk(char const* text)
     return chunk;
 }
 
-/// The whole of a text of fewer than eight bytes. Different texts of one length give different chunks.
-inline std::uint64_t loadShort(std::string_view text)
+/// Both halves of the product, so that every bit of both factors counts.
+inline std::uint64_t mixChunks(std::uint64_t a, std::uint64_t b)
 {
-    auto const byte = [&](std::size_t index) { return std::uint64_t(static_cast<unsigned char>(text[index])); };
-    if (text.size() >= 4) {
-        std::uint32_t head, tail;
-        std::memcpy(&head, text.data(), sizeof head);
-        std::memcpy(&tail, text.data() + text.size() - sizeof tail, sizeof tail);
-        return head | std::uint64_t(tail) << 32;
-    }
-    return text.empty() ? 0 : byte(0) | byte(text.size() / 2) << 8 | byte(text.size() - 1) << 16;
+    __extension__ using Wide = unsigned __int128;
+    Wide const product = Wide(a ^ 0x9E3779B97F4A7C15) * (b ^ 0xD6E8FEB86659FD93);
+    return std::uint64_t(product) ^ std::uint64_t(product >> 64);
 }
 
-inline std::uint64_t hashText(std::string_view text)
+/// Most names have more than 16 bytes and at most 32, which is four chunks. Only these are worked on in line.
+inline bool isFourChunks(std::size_t length)
 {
-    auto const mix = [](std::uint64_t hash, std::uint64_t chunk) {
-        hash = (hash ^ chunk) * 0x9E3779B97F4A7C15;
-        return hash ^ hash >> 32;
-    };
-    std::uint64_t hash = text.size();
-    if (text.size() < 8)
-        return mix(hash, loadShort(text));
-    char const* const last = text.data() + text.size() - 8;
-    for (char const* position = text.data(); position < last; position += 8)
-        hash = mix(hash, loadChunk(position));
-    return mix(hash, loadChunk(last));
+    return length - 17 < 16;
 }
 
-/// Whether two texts of one length are equal.
-inline bool isSameText(std::string_view a, char const* b)
+inline std::uint64_t hashFourChunks(std::string_view text)
 {
-    if (a.size() < 8)
-        return loadShort(a) == loadShort({b, a.size()});
-    std::size_t const last = a.size() - 8;
-    for (std::size_t position = 0; position < last; position += 8) {
-        if (loadChunk(a.data() + position) != loadChunk(b + position))
-            return false;
-    }
-    return loadChunk(a.data() + last) == loadChunk(b + last);
+    char const* const begin = text.data();
+    char const* const end = begin + text.size();
+    return mixChunks(loadChunk(begin) ^ mixChunks(loadChunk(end - 16), loadChunk(end - 8)),
+                     loadChunk(begin + 8) ^ text.size());
 }
+
+inline bool isSameFourChunks(std::string_view a, char const* b)
+{
+    auto const differ = [a, b](std::size_t place) { return loadChunk(a.data() + place) ^ loadChunk(b + place); };
+    return (differ(0) | differ(8) | differ(a.size() - 16) | differ(a.size() - 8)) == 0;
+}
+
+/// The hash of a text of any length.
+std::uint64_t hashText(std::string_view text);
 
 } // namespace velmara

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 namespace velmara {
 
@@ -13,15 +14,18 @@ namespace {
 constexpr char32_t replacement = 0xFFFD;
 
 /// The length of the run of ASCII at the start.
-std::size_t asciiRun(std::string_view text)
+template <class Char>
+std::size_t asciiRun(std::basic_string_view<Char> text)
 {
+    constexpr std::size_t unitsInChunk = 8 / sizeof(Char);
+    constexpr std::uint64_t beyondAscii = sizeof(Char) == 1 ? 0x8080808080808080 : 0xFF80FF80FF80FF80;
     std::size_t run = 0;
-    for (std::uint64_t chunk; run + sizeof chunk <= text.size(); run += sizeof chunk) {
+    for (std::uint64_t chunk; run + unitsInChunk <= text.size(); run += unitsInChunk) {
         std::memcpy(&chunk, text.data() + run, sizeof chunk);
-        if (chunk & 0x8080808080808080)
+        if (chunk & beyondAscii)
             break;
     }
-    while (run < text.size() && !(text[run] & 0x80))
+    while (run < text.size() && static_cast<std::make_unsigned_t<Char>>(text[run]) < 0x80)
         ++run;
     return run;
 }
@@ -86,13 +90,10 @@ char32_t take(std::u16string_view& text)
     return isHighSurrogate(unit) || isLowSurrogate(unit) ? replacement : unit;
 }
 
+/// Writes a character beyond ASCII.
 char* write(char32_t character, char* out)
 {
     auto const put = [&](char32_t byte) { *out++ = static_cast<char>(byte); };
-    if (character < 0x80) {
-        put(character);
-        return out;
-    }
     if (character < 0x800) {
         put(0xC0 | character >> 6);
     } else if (character < 0x10000) {
@@ -145,16 +146,26 @@ std::size_t sizeAsUtf8(std::u16string_view utf16)
 {
     std::size_t size = 0;
     while (!utf16.empty()) {
+        std::size_t const run = asciiRun(utf16);
+        utf16.remove_prefix(run);
+        size += run;
+        if (utf16.empty())
+            break;
         char32_t const character = take(utf16);
-        size += character < 0x80 ? 1 : character < 0x800 ? 2 : character < 0x10000 ? 3 : 4;
+        size += character < 0x800 ? 2 : character < 0x10000 ? 3 : 4;
     }
     return size;
 }
 
 char* writeAsUtf8(std::u16string_view utf16, char* out)
 {
-    while (!utf16.empty())
-        out = write(take(utf16), out);
+    while (!utf16.empty()) {
+        std::size_t const run = asciiRun(utf16);
+        out = std::transform(utf16.begin(), utf16.begin() + run, out, [](char16_t unit) { return char(unit); });
+        utf16.remove_prefix(run);
+        if (!utf16.empty())
+            out = write(take(utf16), out);
+    }
     return out;
 }
 
