@@ -1,0 +1,177 @@
+#include "HvmTest.hpp"
+#include "host/TestDescriptors.hpp"
+#include "host/messageIdOf.hpp"
+
+#include <stdexcept>
+
+using namespace described;
+using velmara::ArrayPtr;
+
+namespace {
+
+class ClassTest : public HvmTest {
+protected:
+    static std::vector<std::string> signatures(velmara::ClassRecord const& record)
+    {
+        std::vector<std::string> lines;
+        for (auto const& method : record.methods)
+            lines.push_back(method.definingClass + ": " + method.signature);
+        return lines;
+    }
+
+    int counter_ = 0;
+};
+
+} // namespace
+
+TEST_F(ClassTest, FailedDescriptionIsDroppedNamedAndTriedAgain)
+{
+    int attempts = 0;
+    publish(new Class("A", [&attempts](orbis::COSClass* cls) {
+        cls->addMethod(answering("f", {"A"}, 1));
+        if (++attempts == 1)
+            throw std::runtime_error("not yet");
+    }));
+    EXPECT_EQ(attempts, 0) << "not before it is needed";
+    try {
+        hvm().construct("A");
+        FAIL();
+    } catch (velmara::Error const& error) {
+        EXPECT_EQ(error.identifier(), "VELMARA:class:initialization");
+        EXPECT_NE(error.text().find("\"A\""), std::string::npos);
+        EXPECT_NE(error.text().find("not yet"), std::string::npos);
+    }
+    EXPECT_EQ(hvm().describeClass("A").methods.size(), 1u);
+    EXPECT_NE(orbis::COSClass::getClass("A"), nullptr);
+    EXPECT_EQ(attempts, 2);
+}
+
+TEST_F(ClassTest, MembersThatAreRefusedAreNotLost)
+{
+    auto const idOfDescribing = [this](std::function<void(orbis::COSClass*)> const& describe) {
+        std::string id;
+        std::string const name = "K" + std::to_string(++counter_);
+        publish(new Class(name, [&](orbis::COSClass* cls) { id = messageIdOf([&] { describe(cls); }); }));
+        hvm().describeClass(name);
+        return id;
+    };
+    auto const property = [] {
+        auto* const made = new Property;
+        made->name = "f";
+        return made;
+    };
+    auto const statically = MethodTraits{.isStatic = true};
+    EXPECT_EQ(idOfDescribing([&](orbis::COSClass* cls) {
+        cls->addMethod(answering("f", {"any"}, 1, statically));
+        cls->addMethod(answering("f", {"any", "any"}, 1, statically));
+        cls->addMethod(answering("f", {"any"}, 1, statically));
+    }), "VELMARA:class:duplicateMember");
+    EXPECT_EQ(idOfDescribing([&](orbis::COSClass* cls) {
+        cls->addMethod(answering("f", {"any"}, 1, statically));
+        cls->addProperty(property());
+    }), "VELMARA:class:duplicateMember");
+    EXPECT_EQ(idOfDescribing([](orbis::COSClass* cls) { cls->addMethod(answering("", {"any"}, 1)); }),
+              "VELMARA:member:name");
+    EXPECT_EQ(idOfDescribing([](orbis::COSClass* cls) { cls->addMethod(answering("f", {}, 1)); }),
+              "VELMARA:member:noObjectInput");
+    orbis::COSClass* const cls = orbis::COSClass::getClass("K1");
+    EXPECT_EQ(messageIdOf([&] { cls->addMethod(answering("g", {"K1"}, 1)); }), "VELMARA:class:closed");
+    EXPECT_EQ(messageIdOf([&] { publish(new Class("K1")); }), "VELMARA:package:duplicate");
+}
+
+TEST_F(ClassTest, DerivedMembersHideEqualSignaturesOnly)
+{
+    publish(new Class("A", [](orbis::COSClass* cls) {
+        cls->addMethod(answering("f", {"A", "double scalar"}, 1));
+        cls->addMethod(answering("f", {"A", "char vector"}, 2));
+        cls->addMethod(answering("g", {"A"}, 3));
+        cls->addMethod(answering("g", {"A", "any"}, 4));
+        cls->addMethod(new Method("A", "A", {}, [](Call const& call) { call.outputCount = 1; }));
+    }));
+    publish(new Class("B", [](orbis::COSClass* cls) {
+        setSuperclass(cls, "A");
+        cls->addMethod(answering("f", {"B", "double scalar"}, 10));
+        cls->addMethod(answering("g", {"B"}, 30, {.overridesAll = true}));
+    }));
+    ArrayPtr const b = hvm().construct("B"), one = number(1), word(hvCreateString("x"));
+    auto const call = [&](char const* name, std::vector<hvArray_tag*> const& inputs) {
+        return scalar<double>(hvm().call(b.get(), name, inputs));
+    };
+    EXPECT_EQ(call("f", {one.get()}), 10);
+    EXPECT_EQ(call("f", {word.get()}), 2);
+    EXPECT_EQ(call("g", {}), 30);
+    EXPECT_EQ(errorOf([&] { call("g", {one.get()}); }), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(signatures(hvm().describeClass("B")),
+              (std::vector<std::string>{"B: result = f(a: B, b: double scalar) -> double scalar",
+                                        "B: result = g(a: B) -> double scalar",
+                                        "A: result = f(a: A, b: char vector) -> double scalar"}));
+}
+
+TEST_F(ClassTest, SealedThingsStaySealed)
+{
+    publish(new Class("A", [](orbis::COSClass* cls) {
+        cls->addMethod(answering("f", {"A", "double scalar"}, 1, {.isSealed = true}));
+    }));
+    publish(new Class("Same", [](orbis::COSClass* cls) {
+        setSuperclass(cls, "A");
+        cls->addMethod(answering("f", {"Same", "double scalar"}, 1));
+    }));
+    publish(new Class("Other", [](orbis::COSClass* cls) {
+        setSuperclass(cls, "A");
+        cls->addMethod(answering("f", {"Other", "char"}, 1));
+    }));
+    EXPECT_EQ(errorOf([&] { hvm().construct("Same"); }), "VELMARA:class:initialization");
+    EXPECT_EQ(errorOf([&] { hvm().construct("Other"); }), "");
+}
+
+TEST_F(ClassTest, HierarchiesAreOrderedAndFreeOfCycles)
+{
+    auto const below = [](std::vector<char const*> supers) {
+        return [supers](orbis::COSClass* cls) {
+            std::vector<orbis::COSNameID> const names(supers.begin(), supers.end());
+            orbis::additions::setSuperclasses(cls, names);
+        };
+    };
+    publish(new Class("Top", [](orbis::COSClass* cls) { cls->addMethod(answering("f", {"Top"}, 1)); }));
+    publish(new Class("Left", below({"Top"})));
+    publish(new Class("Right", [&](orbis::COSClass* cls) {
+        below({"Top"})(cls);
+        cls->addMethod(answering("f", {"Right"}, 2));
+    }));
+    publish(new Class("Bottom", below({"Left", "Right"})));
+    publish(new Class("Snake", below({"Tail"})));
+    publish(new Class("Tail", below({"Snake"})));
+    publish(new Class("Orphan", below({"Missing"})));
+    ArrayPtr const bottom = hvm().construct("Bottom");
+    EXPECT_EQ(scalar<double>(hvm().call(bottom.get(), "f")), 2) << "Right comes before Top, which both reach";
+    EXPECT_TRUE(hvIsA(bottom.get(), "Top"));
+    EXPECT_FALSE(hvIsA(bottom.get(), "Tail"));
+    ArrayPtr const mixed(orbis::omCreateORBISMatrix(1, 2, "Top"));
+    orbis::omSetArrayElement(mixed.get(), 0, orbis::omGetArrayElement(bottom.get(), 0));
+    orbis::omSetArrayElement(mixed.get(), 1, orbis::omGetArrayElement(hvm().construct("Right").get(), 0));
+    orbis::omSetClassOfHeterogeneousArray(mixed.get());
+    EXPECT_EQ(velmara::className(mixed.get()), "Right");
+    for (char const* bad : {"Snake", "Tail", "Orphan"})
+        EXPECT_EQ(errorOf([&] { hvm().construct(bad); }), "VELMARA:class:initialization") << bad;
+}
+
+TEST_F(ClassTest, UnpublishedBaseTakesItsSubclassesBack)
+{
+    int destroyed = 0;
+    auto const publishBase = [&] {
+        orbis::COSPackage::addPackage(new Package("p", [&](orbis::COSPackage* package) {
+            auto* const base = new Class("p.Base");
+            base->destroy = [&](COSInterface*, void*) { ++destroyed; };
+            package->addClass(base);
+        }));
+    };
+    publishBase();
+    publish(new Class("Derived", [](orbis::COSClass* cls) { setSuperclass(cls, "p.Base"); }));
+    ArrayPtr const derived = hvm().construct("Derived");
+    orbis::COSPackage::removePackage("p");
+    EXPECT_EQ(destroyed, 1);
+    EXPECT_FALSE(velmara::isValid(derived.get()));
+    EXPECT_EQ(errorOf([&] { hvm().construct("Derived"); }), "VELMARA:class:initialization");
+    publishBase();
+    EXPECT_TRUE(hvIsA(hvm().construct("Derived").get(), "p.Base"));
+}

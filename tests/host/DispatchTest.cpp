@@ -1,0 +1,321 @@
+#include "HvmTest.hpp"
+#include "host/TestDescriptors.hpp"
+#include "host/messageIdOf.hpp"
+
+#include "orbis/COSTypeConversion.hpp"
+#include "orbis/COSTypeRepository.hpp"
+
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+
+using namespace described;
+using velmara::ArrayPtr;
+
+namespace {
+
+class DispatchTest : public HvmTest {
+protected:
+    /// Publishes a class "D" whose static method "f" has these overloads; each answers its place in the list.
+    void publishOverloads(std::vector<std::vector<std::string>> const& overloads)
+    {
+        publish(new Class("D", [overloads](orbis::COSClass* cls) {
+            for (std::size_t i = 0; i < overloads.size(); ++i)
+                cls->addMethod(answering("f", overloads[i], static_cast<double>(i), {.isStatic = true}));
+        }));
+    }
+
+    double callF(std::vector<hvArray_tag*> const& inputs) { return scalar<double>(hvm().callStatic("D", "f", inputs)); }
+
+    template <class T>
+    static ArrayPtr array(T value)
+    {
+        ArrayPtr made(orbis::additions::createMatrix(1, 1, COSValue::classOf<T>()));
+        *static_cast<T*>(orbis::additions::getWritableData(made.get())) = value;
+        return made;
+    }
+
+    static ArrayPtr text(char const* utf8) { return ArrayPtr(hvCreateString(utf8)); }
+};
+
+constexpr double huge = 1e300;
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+} // namespace
+
+TEST_F(DispatchTest, PicksByNumberOfInputsAndBestFit)
+{
+    publishOverloads({{}, {"double scalar"}, {"int32 scalar"}, {"char vector"}, {"any"}, {"int32 scalar", "double scalar"},
+                      {"double scalar", "double scalar"}});
+    ArrayPtr const real = array(1.0), integer = array(std::int32_t(1)), word = text("x"), yes = array(true);
+    ArrayPtr const single = array(1.5f);
+    EXPECT_EQ(callF({}), 0);
+    EXPECT_EQ(callF({real.get()}), 1);
+    EXPECT_EQ(callF({integer.get()}), 2);
+    EXPECT_EQ(callF({word.get()}), 3);
+    EXPECT_EQ(callF({yes.get()}), 4) << "a logical is no number";
+    EXPECT_EQ(callF({single.get()}), 1) << "a fraction fits no integer";
+    EXPECT_EQ(callF({integer.get(), real.get()}), 5);
+    EXPECT_EQ(callF({real.get(), real.get()}), 6);
+}
+
+TEST_F(DispatchTest, EquallyGoodOnesAreRefusedAndListed)
+{
+    publishOverloads({{"int32 scalar", "double scalar"}, {"double scalar", "int32 scalar"}, {"char", "char"}});
+    ArrayPtr const real = array(1.0), integer = array(std::int32_t(1)), word = text("x");
+    EXPECT_EQ(callF({integer.get(), real.get()}), 0);
+    EXPECT_EQ(callF({word.get(), word.get()}), 2);
+    try {
+        callF({real.get(), real.get()});
+        FAIL();
+    } catch (velmara::Error const& error) {
+        EXPECT_EQ(error.identifier(), "VELMARA:dispatch:ambiguous");
+        EXPECT_NE(error.text().find("f(a: int32 scalar, b: double scalar)\n  f(a: double scalar, b: int32 scalar)"),
+                  std::string::npos) << error.text();
+        EXPECT_EQ(error.text().find("char"), std::string::npos) << error.text();
+    }
+}
+
+TEST_F(DispatchTest, NoMatchSaysWhyForEachAndWhatWasGiven)
+{
+    publishOverloads({{"int32 scalar"}, {"char vector"}, {"double scalar", "double scalar"}});
+    ArrayPtr const half = array(2.5);
+    try {
+        callF({half.get()});
+        FAIL();
+    } catch (velmara::Error const& error) {
+        EXPECT_EQ(error.identifier(), "VELMARA:dispatch:noMatch");
+        EXPECT_EQ(error.text(), "No \"f\" takes (double 1-by-1):\n"
+                                "  f(a: int32 scalar): a: 2.5 is no whole number\n"
+                                "  f(a: char vector): a: needs text, not double\n"
+                                "  f(a: double scalar, b: double scalar): takes 2 inputs");
+    }
+}
+
+TEST_F(DispatchTest, NumbersAreNeverCut)
+{
+    struct Row {
+        char const* type;
+        double value;
+        bool fits;
+    };
+    constexpr double two31 = 2147483648.0, two53 = 9007199254740992.0, two63 = 9223372036854775808.0;
+    Row const rows[] = {
+        {"int8 scalar", -128, true},       {"int8 scalar", -129, false},         {"int8 scalar", 127, true},
+        {"int8 scalar", 128, false},       {"uint8 scalar", 255, true},          {"uint8 scalar", -1, false},
+        {"uint8 scalar", -0.0, true},      {"int16 scalar", 32768, false},       {"int32 scalar", two31 - 1, true},
+        {"int32 scalar", two31, false},    {"int32 scalar", -two31, true},       {"int32 scalar", 0.5, false},
+        {"int32 scalar", notANumber, false},      {"int32 scalar", INFINITY, false},    {"uint32 scalar", 2 * two31 - 1, true},
+        {"uint32 scalar", 2 * two31, false}, {"int64 scalar", -two63, true},     {"int64 scalar", two63, false},
+        {"uint64 scalar", two63, true},    {"uint64 scalar", 2 * two63, false},  {"uint64 scalar", huge, false},
+        {"single scalar", 16777217, false}, {"single scalar", 0.1, true},        {"single scalar", huge, false},
+        {"single scalar", 1e-300, false},  {"single scalar", notANumber, true},         {"single scalar", -INFINITY, true},
+        {"double scalar", two53, true},    {"logical scalar", 1, true},          {"logical scalar", 2, false},
+        {"logical scalar", notANumber, false},
+    };
+    publish(new Class("N", [&rows](orbis::COSClass* cls) {
+        for (std::string const type : {"int8", "uint8", "int16", "int32", "uint32", "int64", "uint64", "single", "double",
+                                       "logical"})
+            cls->addMethod(answering(type + " scalar", {type + " scalar"}, 1, {.isStatic = true}));
+    }));
+    for (Row const& row : rows) {
+        ArrayPtr const value = array(row.value);
+        hvArray_tag* const inputs[] = {value.get()};
+        EXPECT_EQ(errorOf([&] { hvm().callStatic("N", row.type, inputs); }), row.fits ? "" : "VELMARA:dispatch:noMatch")
+            << row.type << " " << row.value;
+    }
+}
+
+TEST_F(DispatchTest, WholeNumbersOfOtherClassesKeepTheirValue)
+{
+    std::vector<double> seen;
+    publish(new Class("N", [&seen](orbis::COSClass* cls) {
+        auto const add = [&](char const* type, auto zero) {
+            using T = decltype(zero);
+            cls->addMethod(new Method(type, "", {type},
+                                      [&](Call const& call) {
+                                          seen.push_back(static_cast<double>(call.inputs[0].scalar<T>()));
+                                      },
+                                      {.isStatic = true}));
+        };
+        add("double scalar", double());
+        add("uint64 scalar", std::uint64_t());
+        add("int8 scalar", std::int8_t());
+        add("single scalar", float());
+    }));
+    ArrayPtr const large = array(std::int64_t(1) << 60), odd = array((std::int64_t(1) << 53) + 1);
+    ArrayPtr const negative = array(std::int16_t(-5));
+    auto const call = [&](char const* type, ArrayPtr const& value) {
+        hvArray_tag* const inputs[] = {value.get()};
+        return errorOf([&] { hvm().callStatic("N", type, inputs); });
+    };
+    EXPECT_EQ(call("double scalar", large), "");
+    EXPECT_EQ(call("uint64 scalar", large), "");
+    EXPECT_EQ(call("single scalar", large), "");
+    EXPECT_EQ(call("int8 scalar", negative), "");
+    EXPECT_EQ(seen, (std::vector<double>{std::ldexp(1, 60), std::ldexp(1, 60), std::ldexp(1, 60), -5}));
+    EXPECT_EQ(call("double scalar", odd), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(call("uint64 scalar", negative), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(call("int8 scalar", large), "VELMARA:dispatch:noMatch");
+}
+
+TEST_F(DispatchTest, ArraysThatAreNoScalarsAreRefused)
+{
+    publishOverloads({{"double scalar"}, {"char vector"}});
+    ArrayPtr const row(orbis::additions::createMatrix(1, 2, hvDOUBLE_CLASS));
+    ArrayPtr const none(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+    ArrayPtr const page(orbis::additions::createMatrix(2, 2, hvCHAR_CLASS));
+    ArrayPtr const empty = text("");
+    for (ArrayPtr const* refused : {&row, &none, &page})
+        EXPECT_EQ(errorOf([&] { callF({refused->get()}); }), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(callF({empty.get()}), 1);
+    EXPECT_EQ(errorOf([&] { callF({nullptr}); }), "VELMARA:dispatch:nullInput");
+}
+
+TEST_F(DispatchTest, FailureInsideIsFinal)
+{
+    int calls = 0;
+    publish(new Class("F", [&calls](orbis::COSClass* cls) {
+        auto const fail = [&calls](Call const&) {
+            ++calls;
+            throw std::runtime_error("broken");
+        };
+        cls->addMethod(new Method("f", "", {"double scalar"}, fail, {.isStatic = true}));
+        cls->addMethod(new Method("f", "", {"any"}, fail, {.isStatic = true}));
+        cls->addMethod(new Method("g", "", {}, [](Call const&) { throw 7; }, {.isStatic = true}));
+    }));
+    ArrayPtr const one = number(1);
+    hvArray_tag* const inputs[] = {one.get()};
+    EXPECT_EQ(errorOf([&] { hvm().callStatic("F", "f", inputs); }), "VELMARA:native:exception");
+    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(errorOf([&] { hvm().callStatic("F", "g"); }), "VELMARA:native:unknown");
+}
+
+TEST_F(DispatchTest, ObjectsFitTheirClassAndItsSuperclassesTheNearestBest)
+{
+    publish(new Class("A"));
+    publish(new Class("B", [](orbis::COSClass* cls) { setSuperclass(cls, "A"); }));
+    publish(new Class("C", [](orbis::COSClass* cls) { setSuperclass(cls, "B"); }));
+    publish(new Class("X"));
+    publishOverloads({{"A"}, {"B"}, {"A vector", "logical scalar"}});
+    ArrayPtr const a = hvm().construct("A"), b = hvm().construct("B"), c = hvm().construct("C"), x = hvm().construct("X");
+    EXPECT_EQ(callF({a.get()}), 0);
+    EXPECT_EQ(callF({b.get()}), 1);
+    EXPECT_EQ(callF({c.get()}), 1);
+    EXPECT_EQ(errorOf([&] { callF({x.get()}); }), "VELMARA:dispatch:noMatch");
+    ArrayPtr const yes = array(true), none(orbis::omCreateORBISMatrix(0, 0, "C")), pair(orbis::omCreateORBISMatrix(1, 2, "A"));
+    orbis::omSetArrayElement(pair.get(), 0, orbis::omGetArrayElement(c.get(), 0));
+    EXPECT_EQ(callF({none.get()}), 1);
+    EXPECT_EQ(callF({pair.get()}), 1) << "the first object is meant";
+    EXPECT_EQ(callF({pair.get(), yes.get()}), 2);
+    EXPECT_EQ(errorOf([&] { callF({x.get(), yes.get()}); }), "VELMARA:dispatch:noMatch");
+    hvm().deleteObjects(a.get());
+    EXPECT_EQ(errorOf([&] { callF({a.get()}); }), "VELMARA:object:invalid");
+}
+
+TEST_F(DispatchTest, MembersOpenToCalls)
+{
+    publish(new Class("M", [](orbis::COSClass* cls) {
+        cls->addMethod(answering("hidden", {"M"}, 1, {.access = orbis::MemberAccess::Private}));
+        cls->addMethod(answering("mixed", {"M"}, 1, {.access = orbis::MemberAccess::Protected}));
+        cls->addMethod(answering("mixed", {"M", "any"}, 2));
+        cls->addMethod(answering("abstract", {"M"}, 1, {.isAbstract = true}));
+        cls->addMethod(answering("static", {"any"}, 3, {.isStatic = true}));
+        cls->addMethod(answering("member", {"M"}, 4));
+        cls->addMethod(new Method("nothing", "", {"M"}));
+        cls->addMethod(new Method("lies", "int32 scalar", {"M"}, [](Call const& call) { call.give(COSValue(1.0)); }));
+        cls->addMethod(new Method("liesMore", "char", {"M"}, [](Call const& call) {
+            call.give(COSValue(hvCreateCellMatrix(1, 1)));
+        }));
+    }));
+    ArrayPtr const m = hvm().construct("M"), one = number(1);
+    hvArray_tag* const inputs[] = {one.get()};
+    auto const errorOfCall = [&](char const* name) { return errorOf([&] { hvm().call(m.get(), name); }); };
+    EXPECT_EQ(errorOfCall("hidden"), "VELMARA:member:access");
+    EXPECT_EQ(errorOfCall("mixed"), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(scalar<double>(hvm().call(m.get(), "mixed", inputs)), 2);
+    EXPECT_EQ(errorOfCall("abstract"), "VELMARA:member:abstract");
+    EXPECT_EQ(errorOfCall("missing"), "VELMARA:member:unknown");
+    EXPECT_EQ(scalar<double>(hvm().call(m.get(), "static", inputs)), 3);
+    EXPECT_EQ(errorOf([&] { hvm().callStatic("M", "member"); }), "VELMARA:member:notStatic");
+    EXPECT_EQ(hvm().call(m.get(), "nothing"), nullptr);
+    EXPECT_EQ(errorOfCall("lies"), "VELMARA:result:type");
+    EXPECT_EQ(errorOfCall("liesMore"), "VELMARA:result:type");
+    EXPECT_EQ(errorOf([&] { hvm().call(one.get(), "member"); }), "VELMARA:object:notObject");
+    ArrayPtr const none(orbis::omCreateORBISMatrix(0, 0, "M"));
+    EXPECT_EQ(scalar<double>(hvm().call(none.get(), "member")), 4) << "the method itself decides about a null object";
+}
+
+namespace {
+
+/// A registered type whose values are cells around what was converted. It counts the values not given back.
+struct WrappedType : orbis::COSDataType {
+    explicit WrappedType(int& values) : liveValues(values) {}
+    int& liveValues;
+    char const* cppTypeName() const override { return "Wrapped"; }
+    char const* scalarTypeName() const override { return "Wrapped"; }
+    int typeKind() const override { return 7; }
+    char const* typeCategory() const override { return "Fundamental"; }
+    bool slot11Flag() const override { return false; }
+    bool isEqualValue(COSValue, COSValue) const override { return false; }
+    std::uint32_t compareValues(COSValue, COSValue) const override { return 2; }
+    std::size_t valueByteSize(COSValue) const override { return 0; }
+    COSValue copyValue(COSValue value) const override { return value; }
+    void releaseValue(COSValue value) const override
+    {
+        --liveValues;
+        hvDestroyArray(value.array());
+    }
+};
+
+struct WrappingConversion : orbis::COSTypeConversion {
+    explicit WrappingConversion(int& values) : liveValues(values) {}
+    int& liveValues;
+    void convertToHost(hvArray_tag** out, hvArray_tag*) override { *out = hvCreateString("unwrapped"); }
+    void convertFromHost(hvArray_tag** out, hvArray_tag* in) override
+    {
+        if (hvIsA(in, "char"))
+            throw std::runtime_error("no text here");
+        *out = hvCreateCellMatrix(1, 1);
+        ++liveValues;
+    }
+};
+
+} // namespace
+
+TEST_F(DispatchTest, RegisteredTypesConvertBothWaysAndGiveBackWhatTheyMade)
+{
+    int liveValues = 0;
+    orbis::COSTypeRepository::addGlobalType(new WrappedType(liveValues));
+    orbis::COSTypeRepository::addConversion("any", "Wrapped", new WrappingConversion(liveValues));
+    publish(new Class("D", [&](orbis::COSClass* cls) {
+        cls->addMethod(new Method("f", "Wrapped", {"Wrapped", "double scalar"},
+                                  [&](Call const& call) {
+                                      EXPECT_TRUE(hvIsA(call.inputs[0].array(), "cell"));
+                                      EXPECT_EQ(liveValues, 1);
+                                      if (call.inputs[1].scalar<double>() < 0)
+                                          throw std::runtime_error("negative");
+                                      ++liveValues;
+                                      call.give(COSValue(hvCreateCellMatrix(1, 1)));
+                                  },
+                                  {.isStatic = true}));
+    }));
+    ArrayPtr const one = number(1), minus = number(-1), word = text("x");
+    auto const call = [&](ArrayPtr const& a, ArrayPtr const& b) {
+        hvArray_tag* const inputs[] = {a.get(), b.get()};
+        return hvm().callStatic("D", "f", inputs);
+    };
+    EXPECT_TRUE(hvIsA(call(one, one).get(), "char"));
+    EXPECT_EQ(liveValues, 0);
+    EXPECT_EQ(errorOf([&] { call(one, minus); }), "VELMARA:native:exception");
+    EXPECT_EQ(errorOf([&] { call(one, word); }), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(liveValues, 0);
+    try {
+        call(word, one);
+        FAIL();
+    } catch (velmara::Error const& error) {
+        EXPECT_NE(error.text().find("a: Native code failed: no text here"), std::string::npos) << error.text();
+    }
+    EXPECT_EQ(messageIdOf([&] { orbis::COSTypeRepository::addGlobalType(new WrappedType(liveValues)); }),
+              "VELMARA:type:duplicate");
+}

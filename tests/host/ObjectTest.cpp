@@ -1,0 +1,185 @@
+#include "HvmTest.hpp"
+#include "host/TestDescriptors.hpp"
+#include "host/messageIdOf.hpp"
+
+#include <stdexcept>
+
+using namespace described;
+using orbis::COSInterfacePtr;
+using velmara::ArrayPtr;
+
+namespace {
+
+/// Three classes in a row, "C" below "B" below "A", whose instance data are their names' first letters.
+class ObjectTest : public HvmTest {
+protected:
+    void publishHierarchy()
+    {
+        for (char const* name : {"A", "B", "C"}) {
+            auto* const info = new Class(name);
+            if (*name != 'A')
+                info->describe = [base = std::string(1, static_cast<char>(*name - 1))](orbis::COSClass* cls) {
+                    setSuperclass(cls, base.c_str());
+                };
+            info->create = [this, name]() -> void* {
+                log_ += *name;
+                if (*name == failing_)
+                    throw std::runtime_error("no data");
+                return const_cast<char*>(name);
+            };
+            info->destroy = [this, name](COSInterface* object, void* data) {
+                log_ += data ? static_cast<char>(*static_cast<char const*>(data) + ('a' - 'A')) : '-';
+                if (onDestroy_)
+                    onDestroy_(*name, object);
+            };
+            publish(info);
+        }
+    }
+
+    static COSInterfacePtr objectIn(ArrayPtr const& array) { return orbis::omGetArrayElement(array.get(), 0); }
+
+    std::string log_;
+    char failing_ = 0;
+    std::function<void(char, COSInterface*)> onDestroy_;
+};
+
+} // namespace
+
+TEST_F(ObjectTest, InstanceDataIsMadeFromTheBaseAndDestroyedToTheBaseOnce)
+{
+    publishHierarchy();
+    ArrayPtr c = hvm().construct("C");
+    COSInterfacePtr handle = objectIn(c);
+    EXPECT_STREQ(static_cast<char const*>(handle->getNativeObject("B")), "B");
+    EXPECT_EQ(handle->getNativeObject("X"), nullptr);
+    char const other[] = "Z", foreign[] = "Q";
+    handle->setNativeObject("B", const_cast<char*>(other));
+    handle->setNativeObject("X", const_cast<char*>(foreign));
+    EXPECT_EQ(handle->getNativeObject("B"), other);
+    EXPECT_EQ(handle->getNativeObject("X"), foreign);
+    c.reset();
+    EXPECT_EQ(log_, "ABC");
+    handle = nullptr;
+    EXPECT_EQ(log_, "ABCcza") << "what was recorded in place of B's data; nothing for the foreign name";
+}
+
+TEST_F(ObjectTest, EndsOnceInEveryOrder)
+{
+    publishHierarchy();
+    ArrayPtr deleted = hvm().construct("A"), atEnd = hvm().construct("A"), invalid = hvm().construct("A");
+    COSInterfacePtr weak = objectIn(deleted);
+    weak.setReferenceType(orbis::COSReferenceType::Weak);
+    log_.clear();
+    hvm().deleteObjects(deleted.get());
+    hvm().deleteObjects(deleted.get());
+    EXPECT_EQ(log_, "a");
+    EXPECT_FALSE(velmara::isValid(deleted.get()));
+    EXPECT_EQ(static_cast<COSInterface*>(weak), nullptr);
+    EXPECT_EQ(messageIdOf([&] { objectIn(deleted)->setNativeObject("A", this); }), "VELMARA:object:invalid");
+    objectIn(invalid)->setValid(false);
+    EXPECT_EQ(objectIn(invalid)->getNativeObject("A"), nullptr);
+    invalid.reset();
+    EXPECT_EQ(log_, "a") << "the native object was gone";
+    endHvm();
+    EXPECT_EQ(log_, "aa");
+    EXPECT_FALSE(velmara::isValid(atEnd.get()));
+    EXPECT_EQ(velmara::className(atEnd.get()), "A");
+    EXPECT_EQ(objectIn(atEnd)->getNativeObject("A"), nullptr);
+}
+
+TEST_F(ObjectTest, ReferencesMayMoveWhileAnObjectEnds)
+{
+    publishHierarchy();
+    COSInterfacePtr kept;
+    ArrayPtr other = hvm().construct("A");
+    onDestroy_ = [&](char, COSInterface* object) {
+        kept = object; // taken and given back
+        kept = nullptr;
+        if (other)
+            std::exchange(other, nullptr).reset(); // ends another one
+        kept = object;
+    };
+    hvm().construct("A").reset();
+    EXPECT_EQ(log_, "AAaa");
+    EXPECT_EQ(kept->getNativeObject("A"), nullptr);
+    onDestroy_ = nullptr;
+    kept = nullptr;
+}
+
+TEST_F(ObjectTest, RetractingWhileEndingForgetsTheRest)
+{
+    publishHierarchy();
+    onDestroy_ = [](char cls, COSInterface* object) {
+        if (cls == 'B')
+            object->setValid(false);
+        throw std::runtime_error("ignored");
+    };
+    hvm().construct("C").reset();
+    EXPECT_EQ(log_, "ABCcb");
+}
+
+TEST_F(ObjectTest, FailedInstanceDataIsTakenBack)
+{
+    publishHierarchy();
+    failing_ = 'C';
+    EXPECT_EQ(errorOf([&] { hvm().construct("C"); }), "VELMARA:native:exception");
+    EXPECT_EQ(log_, "ABCba");
+    failing_ = 0;
+    orbis::COSClass* const cls = orbis::COSClass::getClass("B");
+    COSInterfacePtr const object = cls->newInstance();
+    EXPECT_EQ(object->getNativeObject("B"), nullptr) << "not before it is initialised";
+    EXPECT_EQ(messageIdOf([&] { orbis::COSClass::getClass("C")->initializeInstance(object); }), "VELMARA:object:otherClass");
+    cls->initializeInstance(object);
+    EXPECT_EQ(messageIdOf([&] { cls->initializeInstance(object); }), "VELMARA:object:initialized");
+    EXPECT_EQ(log_, "ABCbaAB");
+}
+
+TEST_F(ObjectTest, MadeInvalidWhileItsDataIsMade)
+{
+    auto* const info = new Class("S");
+    COSInterface* self = nullptr;
+    int alive = 0;
+    info->create = [&]() -> void* {
+        self->setValid(false);
+        ++alive;
+        return &alive;
+    };
+    info->destroy = [&](COSInterface*, void*) { --alive; };
+    publish(info);
+    orbis::COSClass* const cls = orbis::COSClass::getClass("S");
+    COSInterfacePtr const object = cls->newInstance();
+    self = object;
+    EXPECT_EQ(messageIdOf([&] { cls->initializeInstance(object); }), "VELMARA:object:invalid");
+    EXPECT_EQ(alive, 0);
+}
+
+TEST_F(ObjectTest, ConstructorsRunOnAnInitialisedObjectAndFailCleanly)
+{
+    char const native[] = "N";
+    auto* const info = new Class("A", [&](orbis::COSClass* cls) {
+        cls->addMethod(new Method("A", "A", {"double scalar"}, [&](Call const& call) {
+            COSInterfacePtr object = orbis::cosiGetArrayElement(call.outputs[0].array(), 0);
+            EXPECT_STREQ(static_cast<char const*>(object->getNativeObject("A")), "data");
+            object->setNativeObject("A", const_cast<char*>(native));
+            if (call.inputs[0].scalar<double>() < 0)
+                throw std::runtime_error("negative");
+        }));
+    });
+    char const data[] = "data";
+    info->create = [&]() -> void* { return const_cast<char*>(data); };
+    info->destroy = [this](COSInterface*, void* object) { log_ += static_cast<char const*>(object); };
+    publish(info);
+    ArrayPtr const one = number(1), minus = number(-1);
+    auto const construct = [&](std::vector<hvArray_tag*> const& inputs) { return hvm().construct("A", inputs); };
+    ArrayPtr const made = construct({one.get()});
+    EXPECT_EQ(objectIn(made)->getNativeObject("A"), native);
+    EXPECT_EQ(errorOf([&] { construct({minus.get()}); }), "VELMARA:native:exception");
+    EXPECT_EQ(log_, "N");
+    EXPECT_EQ(errorOf([&] { construct({}); }), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(log_, "N") << "no object was made for a refused call";
+    auto* const abstract = new Class("Abstract");
+    abstract->is_abstract = true;
+    publish(abstract);
+    EXPECT_EQ(errorOf([&] { hvm().construct("Abstract"); }), "VELMARA:class:abstract");
+    EXPECT_EQ(errorOf([&] { hvm().construct("Missing"); }), "VELMARA:class:unknown");
+}
