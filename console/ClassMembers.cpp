@@ -22,11 +22,12 @@ bool flag(lua_State* L, Upvalue which)
     return lua_toboolean(L, lua_upvalueindex(which)) != 0;
 }
 
-bool startsWithObject(lua_State* L)
+bool startsWithObject(lua_State* L, Hvm& hvm)
 {
     if (!isObject(L, 1))
         return false;
     // Where the name is static too, only an object of the class can be the one that the method is for.
+    Hvm::Scope const scope(hvm);
     return !flag(L, isStatic) || hvIsA(checkObject(L, 1), lua_tostring(L, lua_upvalueindex(className)));
 }
 
@@ -34,7 +35,7 @@ int callMember(lua_State* L)
 {
     std::string_view const name = textAt(L, lua_upvalueindex(memberName));
     HostCall call(L);
-    if (flag(L, isInstance) && startsWithObject(L)) {
+    if (flag(L, isInstance) && startsWithObject(L, call.hvm())) {
         hvArray_tag* object = call.keep(checkObject(L, 1));
         return call.finish(call.hvm().call(object, name, call.inputs(2)));
     }

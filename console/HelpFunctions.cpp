@@ -38,13 +38,15 @@ std::string subject(lua_State* L)
     return name;
 }
 
-/// Help on "CLASS.MEMBER"; empty when there is no such thing.
+/// Help on "CLASS.MEMBER" or "PACKAGE.FUNCTION"; empty when there is no such thing.
 std::string memberHelp(Hvm& hvm, std::string const& name)
 {
     std::size_t const dot = name.rfind('.');
-    if (dot == name.npos || hvm.lookUp(name.substr(0, dot)) != NameKind::Class)
-        return {};
-    return helpText(hvm.describeClass(name.substr(0, dot)), name.substr(dot + 1));
+    std::string const owner = dot == name.npos ? std::string() : name.substr(0, dot);
+    std::string const member = name.substr(dot + 1); // the whole name when there is no dot
+    if (hvm.lookUp(name) == NameKind::Function)
+        return helpText(hvm.describePackage(owner), member);
+    return hvm.lookUp(owner) == NameKind::Class ? helpText(hvm.describeClass(owner), member) : std::string();
 }
 
 int help(lua_State* L)
@@ -61,9 +63,6 @@ int help(lua_State* L)
         return 0;
     case NameKind::Class:
         print(helpText(hvm.describeClass(name)));
-        return 0;
-    case NameKind::Function:
-        print(helpText(hvm.describeFunction(name)));
         return 0;
     default:
         break;

@@ -27,9 +27,30 @@ bool isShown(PropertyRecord const& property)
            (property.getAccess == MemberAccess::Public || property.setAccess == MemberAccess::Public);
 }
 
+std::string firm(std::string text)
+{
+    std::ranges::replace(text, ' ', firmBlank);
+    return text;
+}
+
 std::string entry(std::string const& line, std::string const& description)
 {
     return paragraph(line, 2, 8) + paragraph(description, 6, 6);
+}
+
+/// "getSum(a: int32 scalar, b: int32 scalar) -> int32 scalar": without the object that a method is called on.
+std::string signatureText(MethodRecord const& method)
+{
+    bool const hasObject = method.kind == Kind::Method && !method.inputs.empty();
+    std::string text = lastPart(method.name) + '(';
+    for (std::size_t i = hasObject ? 1 : 0; i < method.inputs.size(); ++i) {
+        text += text.ends_with('(') ? "" : ", ";
+        text += method.inputs[i].name + firm(": " + method.inputs[i].dataType);
+    }
+    text += ')';
+    if (method.kind != Kind::Constructor && !method.outputs.empty())
+        text += " -> " + firm(method.outputs.front().dataType);
+    return text;
 }
 
 std::string propertyLine(PropertyRecord const& property)
@@ -73,20 +94,6 @@ std::string traits(ClassRecord const& cls)
 }
 
 } // namespace
-
-std::string signatureText(MethodRecord const& method)
-{
-    bool const hasObject = method.kind == Kind::Method && !method.inputs.empty();
-    std::string text = lastPart(method.name) + '(';
-    for (std::size_t i = hasObject ? 1 : 0; i < method.inputs.size(); ++i) {
-        text += text.ends_with('(') ? "" : ", ";
-        text += method.inputs[i].name + ": " + method.inputs[i].dataType;
-    }
-    text += ')';
-    if (method.kind != Kind::Constructor && !method.outputs.empty())
-        text += " -> " + method.outputs.front().dataType;
-    return text;
-}
 
 std::string methodsText(ClassRecord const& cls)
 {
@@ -137,9 +144,14 @@ std::string helpText(ClassRecord const& cls, std::string_view member)
     return text.empty() ? text : cls.name + '.' + std::string(member) + '\n' + text;
 }
 
-std::string helpText(MethodRecord const& function)
+std::string helpText(PackageRecord const& package, std::string_view function)
 {
-    return function.name + '\n' + entry(signatureText(function), function.description);
+    std::string text;
+    for (MethodRecord const& overload : package.functions)
+        if (overload.name == function && overload.access == MemberAccess::Public)
+            text += entry(signatureText(overload), overload.description);
+    std::string const owner = package.name.empty() ? std::string() : package.name + '.';
+    return text.empty() ? text : owner + std::string(function) + '\n' + text;
 }
 
 } // namespace velmara::console

@@ -25,20 +25,25 @@ std::string classOfName(Session& session, std::string const& name)
     }
 }
 
+std::string classOfValue(lua_State* L)
+{
+    try {
+        return className(toHost(L, 1).get());
+    } catch (Error const&) {
+        return luaL_typename(L, 1);
+    }
+}
+
 /// The host's name for the class of a value; Lua's name for what the host has no value for.
 int classOf(lua_State* L)
 {
     luaL_checkany(L, 1);
-    int const type = lua_type(L, 1);
     if (isObject(L, 1))
         pushText(L, objectClass(L, 1));
     else if (auto const name = proxyName(L, 1); !name.empty())
         pushText(L, classOfName(Session::of(L), std::string(name)));
-    else if (type == LUA_TBOOLEAN || type == LUA_TNUMBER || type == LUA_TSTRING || type == LUA_TTABLE ||
-             testHostArray(L, 1))
-        pushText(L, className(toHost(L, 1).get()));
     else
-        lua_pushstring(L, luaL_typename(L, 1));
+        pushText(L, lua_isnil(L, 1) ? "nil" : classOfValue(L));
     return 1;
 }
 

@@ -48,6 +48,7 @@ std::string paragraph(std::string_view text, std::size_t indent, std::size_t han
     std::string result;
     for (std::size_t start = indent; !text.empty(); start = hanging)
         addWrapped(result, takeUntil(text, '\n'), start, hanging);
+    std::ranges::replace(result, firmBlank, ' ');
     return result;
 }
 

@@ -83,7 +83,7 @@ void runChunk(lua_State* L, int base)
 void runPrompt(lua_State* L)
 {
     LineReader reader(L);
-    std::puts("velmara " VELMARA_VERSION ". help() tells what there is; end with Ctrl-D.");
+    std::puts("velmara: help() tells what there is; end with Ctrl-D.");
     int const base = lua_gettop(L);
     while (readChunk(L, reader)) {
         if (lua_gettop(L) > base)

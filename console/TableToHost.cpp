@@ -42,6 +42,18 @@ void note(lua_State* L, int index, Elements& elements)
     ++elements.count;
 }
 
+/// The key at `index`, for an error text.
+std::string keyText(lua_State* L, int index)
+{
+    if (lua_type(L, index) != LUA_TSTRING && lua_type(L, index) != LUA_TNUMBER)
+        return kindAt(L, index);
+    lua_pushvalue(L, index); // a number is turned into text where it stands
+    lua_tolstring(L, -1, nullptr);
+    std::string const text = '\'' + std::string(textAt(L, -1)) + '\'';
+    lua_pop(L, 1);
+    return text;
+}
+
 /// Walks all pairs: the table is a sequence when every key is an integer from 1 on and none is missing.
 Elements elementsOf(lua_State* L, int table)
 {
@@ -53,8 +65,8 @@ Elements elementsOf(lua_State* L, int table)
     for (lua_pushnil(L); lua_next(L, table); lua_pop(L, 1)) {
         lua_Integer const key = lua_isinteger(L, -2) ? lua_tointeger(L, -2) : 0;
         if (key < 1)
-            fail("table", "a table must be a sequence to be passed to the host; this one has the key '" +
-                              std::string(lua_type(L, -2) == LUA_TSTRING ? textAt(L, -2) : luaL_typename(L, -2)) + "'");
+            fail("table",
+                 "a table must be a sequence to be passed to the host; this one has the key " + keyText(L, -2));
         last = std::max(last, key);
         note(L, -1, elements);
     }

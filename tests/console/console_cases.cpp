@@ -36,9 +36,9 @@ struct Parameter {
 class Method final : public COSMethodInfo {
 public:
     Method(char const* name, bool isStatic, char const* output, std::vector<Parameter> inputs, Body body)
-        : name_(name)
-        , isStatic_(isStatic)
-        , body_(std::move(body))
+        : name_(name),
+          isStatic_(isStatic),
+          body_(std::move(body))
     {
         signature_ = COSMethodSignature::createMethodSignature();
         signature_->addOutput(output, "result");
@@ -81,9 +81,9 @@ class Property final : public COSPropInfo {
 public:
     /// With `common` it is static and kept there, else in each object.
     Property(char const* name, MemberAccess setAccess, Probe* common = nullptr)
-        : name_(name)
-        , setAccess_(setAccess)
-        , common_(common)
+        : name_(name),
+          setAccess_(setAccess),
+          common_(common)
     {
     }
 
@@ -198,6 +198,8 @@ public:
         };
         constexpr std::uint64_t most = std::numeric_limits<std::uint64_t>::max();
         add("echo", {{"any", "value"}}, [](auto in) { return copyOf(in[0].array()); });
+        add("many", std::vector<Parameter>(9, {"double scalar", "parameter"}),
+            [](auto in) { return matrix<double>(1, 1, {in[8].template scalar<double>()}); });
         add("small", {}, [](auto) { return matrix<std::uint64_t>(1, 1, {7}); });
         add("large", {}, [](auto) { return matrix<std::uint64_t>(1, 1, {most}); });
         add("grid", {}, [](auto) { return matrix<std::int8_t>(2, 3, {1, 4, 2, 5, 3, -6}); });

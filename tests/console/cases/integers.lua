@@ -12,7 +12,7 @@ for _, value in ipairs({"1", {1, 2}, {}, a, null, cases.large()}) do
   local ok, err = pcall(a.getSum, a, value, 1)
   print(ok, err.identifier)
 end
-print(a:getTotal())
+print(a.total)
 print(select(2, pcall(a.getSum, a, 0.5, 1)))
 print(select(2, pcall(a.getSum, a, 1)))
 print(select(2, pcall(a.getSum, a, 1, 2, 3)))

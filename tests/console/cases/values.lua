@@ -42,7 +42,7 @@ local p, q = cases.Probe(), cases.Probe()
 local back = cases.echo({p, q})
 print(class({p, q}), back[1] == p, back[2] == q, class({p, 1}), class({p, null}))
 back = cases.echo({p, orbis_factory.Adder(3)})
-print(class({p, orbis_factory.Adder()}), back[1] == p, back[2]:getTotal())
+print(class({p, orbis_factory.Adder()}), back[1] == p, back[2].total)
 
 print(text(cases.small()), text(cases.grid()), text(cases.column()), text(cases.cells()))
 print(#cases.characters(), cases.characters()[1], cases.characters()[2] == "c\u{fffd}", cases.nobody())
