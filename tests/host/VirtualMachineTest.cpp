@@ -1,0 +1,103 @@
+#include "HvmTest.hpp"
+#include "host/TestDescriptors.hpp"
+#include "host/messageIdOf.hpp"
+
+#include "libkwfoundation_usm/Detail.hpp"
+#include "orbis/COSTypeRepository.hpp"
+
+#include <thread>
+
+using namespace described;
+using orbis::COSInterfacePtr;
+using velmara::ArrayPtr;
+using Storage = foundation::usm::Detail<foundation::usm::scope::Hvm>;
+
+namespace {
+
+class VirtualMachineTest : public HvmTest {};
+
+std::string* endingLog = nullptr; // for deleters, which are plain functions
+
+} // namespace
+
+TEST_F(VirtualMachineTest, EndsObjectsThenPackagesThenStorage)
+{
+    std::string log;
+    endingLog = &log;
+    struct Logged : Class {
+        using Class::Class;
+        ~Logged() override { *endingLog += Storage::isRequiredContextActive() ? "info " : "late info "; }
+    };
+    auto* const info = new Logged("A");
+    info->destroy = [&](COSInterface*, void*) {
+        log += Storage::isRequiredContextActive() ? "object " : "late object ";
+        orbis::COSClass* const cls = orbis::COSClass::getClass("A");
+        EXPECT_EQ(messageIdOf([cls] { cls->newInstance(); }), "VELMARA:hvm:ending");
+    };
+    publish(info);
+    static std::uint64_t const id = Storage::getNextID(typeid(std::string));
+    Storage::insert(id, typeid(std::string), Storage::Holder(&log, [](void*) {
+        *endingLog += Storage::isRequiredContextActive() ? "early " : "storage ";
+        orbis::COSTypeRepository::removeGlobalType("still there");
+        EXPECT_EQ(orbis::COSClass::getClass("A"), nullptr);
+    }));
+    ArrayPtr const left = hvm().construct("A");
+    COSInterfacePtr handle = orbis::omGetArrayElement(left.get(), 0);
+    endHvm();
+    EXPECT_EQ(log, "object info storage ");
+    EXPECT_FALSE(velmara::isValid(left.get()));
+    handle->setValid(true);
+    EXPECT_FALSE(velmara::isValid(left.get())) << "what has ended stays ended";
+    EXPECT_EQ(orbis::COSClass::getClass("A"), nullptr);
+    EXPECT_EQ(messageIdOf([] { publish(new Class("B")); }), "VELMARA:hvm:noVirtualMachine");
+    EXPECT_EQ(messageIdOf([] { orbis::COSPackage::addPackage(new Package("p")); }), "VELMARA:hvm:noVirtualMachine");
+}
+
+TEST_F(VirtualMachineTest, ObjectsBelongToOneAndEndInIt)
+{
+    int answer = 0;
+    auto const publishAnswering = [&](int number) {
+        auto* const info = new Class("A", [](orbis::COSClass* cls) { cls->addMethod(answering("take", {"A", "any"}, 1)); });
+        info->destroy = [&answer, number](COSInterface*, void*) { answer = number; };
+        publish(info);
+    };
+    publishAnswering(1);
+    ArrayPtr const mine = hvm().construct("A");
+    ArrayPtr foreign;
+    {
+        velmara::Hvm other;
+        velmara::Hvm::Scope const scope(other);
+        publishAnswering(2);
+        foreign = other.construct("A");
+        hvArray_tag* const inputs[] = {mine.get()};
+        EXPECT_EQ(errorOf([&] { other.call(mine.get(), "take", inputs); }), "VELMARA:object:otherVirtualMachine");
+        EXPECT_EQ(errorOf([&] { other.call(foreign.get(), "take", inputs); }), "VELMARA:object:otherVirtualMachine");
+        EXPECT_EQ(errorOf([&] { other.deleteObjects(mine.get()); }), "VELMARA:object:otherVirtualMachine");
+        hvm().deleteObjects(mine.get());
+        EXPECT_EQ(answer, 1) << "in its own machine, whichever is current";
+        orbis::COSPackage::addPackage(new Package("other"));
+    }
+    EXPECT_EQ(answer, 2);
+    EXPECT_FALSE(velmara::isValid(foreign.get()));
+    EXPECT_EQ(hvm().lookUp("other"), velmara::NameKind::None);
+    EXPECT_EQ(errorOf([&] { hvm().call(foreign.get(), "take"); }), "VELMARA:object:invalid");
+}
+
+TEST_F(VirtualMachineTest, SeveralRunAtOnceOnTheirOwnThreads)
+{
+    auto const work = [](int seed) {
+        for (int round = 0; round < 20; ++round) {
+            velmara::Hvm machine;
+            velmara::Hvm::Scope const scope(machine);
+            std::string const name = "Class" + std::to_string(seed * round);
+            publish(new Class(name, [&](orbis::COSClass* cls) { cls->addMethod(answering("f", {name}, seed)); }));
+            for (int i = 0; i < 50; ++i) {
+                ArrayPtr const object = machine.construct(name);
+                EXPECT_EQ(scalar<double>(machine.call(object.get(), "f")), seed);
+            }
+        }
+    };
+    std::thread first(work, 1), second(work, 2);
+    first.join();
+    second.join();
+}
