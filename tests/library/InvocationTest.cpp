@@ -96,7 +96,7 @@ TEST_F(InvocationTest, NativeFailuresBecomeErrorsAndChangeNothing)
         call(object, "fail", {1});
         ADD_FAILURE();
     } catch (velmara::Error const& error) {
-        EXPECT_EQ(error.text(), "failed inside");
+        EXPECT_NE(error.text().find("failed inside"), std::string::npos);
     }
     EXPECT_EQ(scalar<std::int32_t>(call(object, "value")), 1);
 }

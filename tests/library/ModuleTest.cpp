@@ -4,15 +4,20 @@
 #include "orbis/COSPackage.hpp"
 
 #include <algorithm>
+#include <memory>
 #include <regex>
+#include <utility>
+
+#if defined(_WIN32)
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
 
 extern "C" {
 void VXInitialize_orbis_factory();
 void VXTerminate_orbis_factory();
 void const* QueryVXFcnTable_orbis_factory();
-extern char const* orbis_factory_version;
-extern char const* orbis_factory_build_date;
-extern char const* orbis_factory_relative_path;
 }
 
 namespace {
@@ -94,16 +99,28 @@ TEST_F(ModuleTest, TheAdderAddsAndWrapsAround)
     }
 }
 
+/// The library's own word of that name: a program that names it may be given a copy.
+char const** exportedWord(char const* name)
+{
+#if defined(_WIN32)
+    return reinterpret_cast<char const**>(GetProcAddress(GetModuleHandleW(L"orbis_factory.dll"), name));
+#else
+    std::unique_ptr<void, int (*)(void*)> const library(dlopen("liborbis_factory.so", RTLD_NOW), &dlclose);
+    return static_cast<char const**>(dlsym(library.get(), name));
+#endif
+}
+
 TEST_F(ModuleTest, TheVersionRecordIsThreeWordsInARow)
 {
-    EXPECT_EQ(&orbis_factory_version + 1, &orbis_factory_build_date);
-    EXPECT_EQ(&orbis_factory_build_date + 1, &orbis_factory_relative_path);
-    EXPECT_TRUE(std::regex_match(orbis_factory_version, std::regex("\\d+\\.\\d+\\.\\d+\\.\\d+")));
-    EXPECT_TRUE(std::regex_match(orbis_factory_build_date, std::regex("[A-Z][a-z]{2} [ 123]\\d \\d{4}")));
-    EXPECT_STREQ(orbis_factory_relative_path, "bin\\win64\\orbis_factory.dll");
-    char const* const kept = orbis_factory_version;
-    orbis_factory_version = "written"; // writable data
-    orbis_factory_version = kept;
+    char const** const version = exportedWord("orbis_factory_version");
+    ASSERT_NE(version, nullptr);
+    EXPECT_EQ(version + 1, exportedWord("orbis_factory_build_date"));
+    EXPECT_EQ(version + 2, exportedWord("orbis_factory_relative_path"));
+    EXPECT_TRUE(std::regex_match(version[0], std::regex("\\d+\\.\\d+\\.\\d+\\.\\d+")));
+    EXPECT_TRUE(std::regex_match(version[1], std::regex("[A-Z][a-z]{2} [ 123]\\d \\d{4}")));
+    EXPECT_STREQ(version[2], "bin\\win64\\orbis_factory.dll");
+    char const* const kept = std::exchange(version[0], "written"); // writable data
+    version[0] = kept;
 }
 
 TEST_F(ModuleTest, TheFunctionTableListsTwoPlaceholders)

@@ -41,13 +41,10 @@ protected:
     {
         static int number = 0;
         std::string const name = "f" + std::to_string(number++);
-        registerOrbisPackage("signatures", {})
-            ->addFunction([&] {
-                auto function = std::make_unique<FunctionInfo>(name.c_str(), MethodAttributes());
-                create(function->method().signature());
-                create(function->method().signature()); // made once, later calls change nothing
-                return function.release();
-            }());
+        auto function = std::make_unique<FunctionInfo>(name.c_str(), MethodAttributes());
+        create(function->method().signature());
+        create(function->method().signature()); // made once, later calls change nothing
+        COSPackage::getPackage("signatures")->addFunction(function.release());
         return hvm().describeFunction("signatures." + name);
     }
 

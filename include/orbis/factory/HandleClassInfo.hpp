@@ -23,11 +23,13 @@ public:
     /// Null: the native object is bound later.
     void* createInstanceData() override { return nullptr; }
 
-    /// Forgets the binding of `data`, a native address; true when there was one. Only then the native object is
-    /// deleted, if it is this class info's to delete.
-    bool destroyInstanceData(COSInterface*, void* data) override
+    /// Forgets the binding of `data`, a native address, to `object` (null for any object); true when there was one.
+    /// Only then the native object is deleted, if it is this class info's to delete. An address that was released and
+    /// has been bound to another host object since is that one's affair.
+    bool destroyInstanceData(COSInterface* object, void* data) override
     {
-        bool const wasBound = basic::BindingRegistry::release(data);
+        bool const isOurs = !object || basic::BindingRegistry::find(data) == object;
+        bool const wasBound = isOurs && basic::BindingRegistry::release(data);
         if constexpr (N == 1) {
             if (wasBound && data)
                 delete static_cast<T*>(data);
