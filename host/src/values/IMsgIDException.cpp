@@ -7,9 +7,9 @@
 namespace resource_core {
 
 BaseMsgID::BaseMsgID(char const* catalog, char const* key, std::vector<std::string> arguments)
-    : catalog_(catalog ? catalog : "")
-    , key_(key ? key : "")
-    , arguments_(std::move(arguments))
+    : catalog_(catalog ? catalog : ""),
+      key_(key ? key : ""),
+      arguments_(std::move(arguments))
 {
 }
 
@@ -39,9 +39,9 @@ namespace foundation::core::except {
 IMsgIDException::IMsgIDException() = default;
 
 IMsgIDException::IMsgIDException(resource_core::BaseMsgID const& id)
-    : id_(get_error_id(id))
-    , text_(velmara::messageText(id.getCatalog(), id.getKey(), id.getArguments()))
-    , arguments_(id.getArguments())
+    : id_(get_error_id(id)),
+      text_(velmara::messageText(id.getCatalog(), id.getKey(), id.getArguments())),
+      arguments_(id.getArguments())
 {
 }
 
