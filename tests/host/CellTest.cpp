@@ -44,14 +44,22 @@ TEST_F(CellTest, CellsOwnWhatIsStored)
 
 TEST_F(CellTest, WhatBelongsToACellIsNotStoredAgain)
 {
-    ArrayPtr const cells(hvCreateCellMatrix(1, 2));
-    hvArray* const value = createMatrix(1, 1, hvDOUBLE_CLASS);
-    hvSetCell(cells.get(), 0, value);
-    EXPECT_EQ(messageIdOf([&] { hvSetCell(cells.get(), 1, value); }), "VELMARA:array:alreadyStored");
-    value->add_reference(); // with a reference of the caller's own it may be
-    hvSetCell(cells.get(), 1, value);
+    ArrayPtr cells(hvCreateCellMatrix(1, 2));
+    ArrayPtr const value(createMatrix(1, 1, hvDOUBLE_CLASS));
+    auto const storeOwned = [&](ArrayPtr const& into) {
+        value->add_reference();
+        hvSetCell(into.get(), 0, value.get());
+    };
+    storeOwned(cells);
     hvSetCell(cells.get(), 0, nullptr);
-    EXPECT_EQ(getCell(cells.get(), 1), value);
+    storeOwned(cells);
+    cells.reset(hvCreateCellMatrix(1, 2));
+    hvSetCell(cells.get(), 0, value.get()); // hands the test's own reference over
+    EXPECT_EQ(messageIdOf([&] { hvSetCell(cells.get(), 1, value.get()); }), "VELMARA:array:alreadyStored");
+    ArrayPtr const copy(hvCreateDeepCopy(cells.get()));
+    auto* const copied = const_cast<hvArray*>(getCell(copy.get(), 0));
+    EXPECT_EQ(messageIdOf([&] { hvSetCell(cells.get(), 1, copied); }), "VELMARA:array:alreadyStored");
+    value->add_reference(); // which the test's owner gives back
 }
 
 TEST_F(CellTest, NoCellStandsInItself)

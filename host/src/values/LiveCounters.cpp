@@ -2,6 +2,8 @@
 
 #include <mutex>
 
+#include <pthread.h>
+
 namespace velmara {
 
 #if defined(_WIN32)
@@ -28,23 +30,25 @@ std::mutex& sharesMutex()
     return mutex;
 }
 
-/// Gives the thread's share back at the thread's end.
-class ShareReturn {
-public:
-    explicit ShareReturn(Share* share) : share_(share) {}
-    ShareReturn(ShareReturn const&) = delete;
-    ShareReturn& operator=(ShareReturn const&) = delete;
+void giveShareBack(void* share)
+{
+    shareOfThisThread = nullptr;
+    std::scoped_lock lock(sharesMutex());
+    static_cast<Share*>(share)->isTaken = false;
+}
 
-    ~ShareReturn()
-    {
-        shareOfThisThread = nullptr;
-        std::scoped_lock lock(sharesMutex());
-        share_->isTaken = false;
-    }
-
-private:
-    Share* share_;
-};
+/// Has `giveShareBack` called at the thread's end. Not a thread_local object: on Windows these are destroyed when
+/// their memory is gone already. Where the system refuses, the share stays taken and the counts stay exact.
+void keepUntilThreadEnd(Share* share)
+{
+    struct AtThreadEnd {
+        pthread_key_t key = {};
+        bool isMade = pthread_key_create(&key, giveShareBack) == 0;
+    };
+    static AtThreadEnd const atThreadEnd{};
+    if (atThreadEnd.isMade)
+        pthread_setspecific(atThreadEnd.key, share);
+}
 
 Share* findOrMakeShare()
 {
@@ -60,19 +64,13 @@ Share* findOrMakeShare()
     return shares = share;
 }
 
-constinit thread_local bool hasRegistered = false;
-
 } // namespace
 
 LiveCounts& takeLiveCountsShare() noexcept
 {
     Share* share = findOrMakeShare();
     shareOfThisThread = &share->counts;
-    // A thread's late destructors may count after the return has run; their second share is then kept for good.
-    if (!hasRegistered) {
-        hasRegistered = true;
-        thread_local ShareReturn const shareReturn(share);
-    }
+    keepUntilThreadEnd(share);
     return share->counts;
 }
 

@@ -43,6 +43,29 @@ inline bool isSameFourChunks(std::string_view a, char const* b)
     return (differ(0) | differ(8) | differ(a.size() - 16) | differ(a.size() - 8)) == 0;
 }
 
+/// The whole of a text of fewer than eight bytes. Different texts of one length give different chunks.
+inline std::uint64_t loadShort(char const* text, std::size_t length)
+{
+    auto const byte = [text](std::size_t index) { return std::uint64_t(static_cast<unsigned char>(text[index])); };
+    if (length >= 4) {
+        std::uint32_t head, tail;
+        std::memcpy(&head, text, sizeof head);
+        std::memcpy(&tail, text + length - sizeof tail, sizeof tail);
+        return head | std::uint64_t(tail) << 32;
+    }
+    return length == 0 ? 0 : byte(0) | byte(length / 2) << 8 | byte(length - 1) << 16;
+}
+
+/// Compares texts of any length, without a call for short ones.
+inline bool isSameText(std::string_view a, std::string_view b)
+{
+    if (a.size() != b.size())
+        return false;
+    if (a.size() < 8)
+        return loadShort(a.data(), a.size()) == loadShort(b.data(), b.size());
+    return isFourChunks(a.size()) ? isSameFourChunks(a, b.data()) : a == b;
+}
+
 /// The hash of a text of any length.
 std::uint64_t hashText(std::string_view text);
 
