@@ -62,14 +62,16 @@ TEST_F(ClassTest, MembersThatAreRefusedAreNotLost)
     };
     auto const statically = MethodTraits{.isStatic = true};
     EXPECT_EQ(idOfDescribing([&](orbis::COSClass* cls) {
-        cls->addMethod(answering("f", {"any"}, 1, statically));
-        cls->addMethod(answering("f", {"any", "any"}, 1, statically));
-        cls->addMethod(answering("f", {"any"}, 1, statically));
-    }), "VELMARA:class:duplicateMember");
+                  cls->addMethod(answering("f", {"any"}, 1, statically));
+                  cls->addMethod(answering("f", {"any", "any"}, 1, statically));
+                  cls->addMethod(answering("f", {"any"}, 1, statically));
+              }),
+              "VELMARA:class:duplicateMember");
     EXPECT_EQ(idOfDescribing([&](orbis::COSClass* cls) {
-        cls->addMethod(answering("f", {"any"}, 1, statically));
-        cls->addProperty(property());
-    }), "VELMARA:class:duplicateMember");
+                  cls->addMethod(answering("f", {"any"}, 1, statically));
+                  cls->addProperty(property());
+              }),
+              "VELMARA:class:duplicateMember");
     EXPECT_EQ(idOfDescribing([](orbis::COSClass* cls) { cls->addMethod(answering("", {"any"}, 1)); }),
               "VELMARA:member:name");
     EXPECT_EQ(idOfDescribing([](orbis::COSClass* cls) { cls->addMethod(answering("f", {}, 1)); }),

@@ -45,7 +45,12 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 TEST_F(DispatchTest, PicksByNumberOfInputsAndBestFit)
 {
-    publishOverloads({{}, {"double scalar"}, {"int32 scalar"}, {"char vector"}, {"any"}, {"int32 scalar", "double scalar"},
+    publishOverloads({{},
+                      {"double scalar"},
+                      {"int32 scalar"},
+                      {"char vector"},
+                      {"any"},
+                      {"int32 scalar", "double scalar"},
                       {"double scalar", "double scalar"}});
     ArrayPtr const real = array(1.0), integer = array(std::int32_t(1)), word = text("x"), yes = array(true);
     ArrayPtr const single = array(1.5f);
@@ -71,7 +76,8 @@ TEST_F(DispatchTest, EquallyGoodOnesAreRefusedAndListed)
     } catch (velmara::Error const& error) {
         EXPECT_EQ(error.identifier(), "VELMARA:dispatch:ambiguous");
         EXPECT_NE(error.text().find("f(a: int32 scalar, b: double scalar)\n  f(a: double scalar, b: int32 scalar)"),
-                  std::string::npos) << error.text();
+                  std::string::npos)
+            << error.text();
         EXPECT_EQ(error.text().find("char"), std::string::npos) << error.text();
     }
 }
@@ -101,21 +107,41 @@ TEST_F(DispatchTest, NumbersAreNeverCut)
     };
     constexpr double two31 = 2147483648.0, two53 = 9007199254740992.0, two63 = 9223372036854775808.0;
     Row const rows[] = {
-        {"int8 scalar", -128, true},       {"int8 scalar", -129, false},         {"int8 scalar", 127, true},
-        {"int8 scalar", 128, false},       {"uint8 scalar", 255, true},          {"uint8 scalar", -1, false},
-        {"uint8 scalar", -0.0, true},      {"int16 scalar", 32768, false},       {"int32 scalar", two31 - 1, true},
-        {"int32 scalar", two31, false},    {"int32 scalar", -two31, true},       {"int32 scalar", 0.5, false},
-        {"int32 scalar", notANumber, false},      {"int32 scalar", INFINITY, false},    {"uint32 scalar", 2 * two31 - 1, true},
-        {"uint32 scalar", 2 * two31, false}, {"int64 scalar", -two63, true},     {"int64 scalar", two63, false},
-        {"uint64 scalar", two63, true},    {"uint64 scalar", 2 * two63, false},  {"uint64 scalar", huge, false},
-        {"single scalar", 16777217, false}, {"single scalar", 0.1, true},        {"single scalar", huge, false},
-        {"single scalar", 1e-300, false},  {"single scalar", notANumber, true},         {"single scalar", -INFINITY, true},
-        {"double scalar", two53, true},    {"logical scalar", 1, true},          {"logical scalar", 2, false},
+        {"int8 scalar", -128, true},
+        {"int8 scalar", -129, false},
+        {"int8 scalar", 127, true},
+        {"int8 scalar", 128, false},
+        {"uint8 scalar", 255, true},
+        {"uint8 scalar", -1, false},
+        {"uint8 scalar", -0.0, true},
+        {"int16 scalar", 32768, false},
+        {"int32 scalar", two31 - 1, true},
+        {"int32 scalar", two31, false},
+        {"int32 scalar", -two31, true},
+        {"int32 scalar", 0.5, false},
+        {"int32 scalar", notANumber, false},
+        {"int32 scalar", INFINITY, false},
+        {"uint32 scalar", 2 * two31 - 1, true},
+        {"uint32 scalar", 2 * two31, false},
+        {"int64 scalar", -two63, true},
+        {"int64 scalar", two63, false},
+        {"uint64 scalar", two63, true},
+        {"uint64 scalar", 2 * two63, false},
+        {"uint64 scalar", huge, false},
+        {"single scalar", 16777217, false},
+        {"single scalar", 0.1, true},
+        {"single scalar", huge, false},
+        {"single scalar", 1e-300, false},
+        {"single scalar", notANumber, true},
+        {"single scalar", -INFINITY, true},
+        {"double scalar", two53, true},
+        {"logical scalar", 1, true},
+        {"logical scalar", 2, false},
         {"logical scalar", notANumber, false},
     };
     publish(new Class("N", [&rows](orbis::COSClass* cls) {
-        for (std::string const type : {"int8", "uint8", "int16", "int32", "uint32", "int64", "uint64", "single", "double",
-                                       "logical"})
+        for (std::string const type :
+             {"int8", "uint8", "int16", "int32", "uint32", "int64", "uint64", "single", "double", "logical"})
             cls->addMethod(answering(type + " scalar", {type + " scalar"}, 1, {.isStatic = true}));
     }));
     for (Row const& row : rows) {
@@ -132,11 +158,10 @@ TEST_F(DispatchTest, WholeNumbersOfOtherClassesKeepTheirValue)
     publish(new Class("N", [&seen](orbis::COSClass* cls) {
         auto const add = [&](char const* type, auto zero) {
             using T = decltype(zero);
-            cls->addMethod(new Method(type, "", {type},
-                                      [&](Call const& call) {
-                                          seen.push_back(static_cast<double>(call.inputs[0].scalar<T>()));
-                                      },
-                                      {.isStatic = true}));
+            cls->addMethod(
+                new Method(type, "", {type},
+                           [&](Call const& call) { seen.push_back(static_cast<double>(call.inputs[0].scalar<T>())); },
+                           {.isStatic = true}));
         };
         add("double scalar", double());
         add("uint64 scalar", std::uint64_t());
@@ -198,12 +223,14 @@ TEST_F(DispatchTest, ObjectsFitTheirClassAndItsSuperclassesTheNearestBest)
     publish(new Class("C", [](orbis::COSClass* cls) { setSuperclass(cls, "B"); }));
     publish(new Class("X"));
     publishOverloads({{"A"}, {"B"}, {"A vector", "logical scalar"}});
-    ArrayPtr const a = hvm().construct("A"), b = hvm().construct("B"), c = hvm().construct("C"), x = hvm().construct("X");
+    ArrayPtr const a = hvm().construct("A"), b = hvm().construct("B"), c = hvm().construct("C"),
+                   x = hvm().construct("X");
     EXPECT_EQ(callF({a.get()}), 0);
     EXPECT_EQ(callF({b.get()}), 1);
     EXPECT_EQ(callF({c.get()}), 1);
     EXPECT_EQ(errorOf([&] { callF({x.get()}); }), "VELMARA:dispatch:noMatch");
-    ArrayPtr const yes = array(true), none(orbis::omCreateORBISMatrix(0, 0, "C")), pair(orbis::omCreateORBISMatrix(1, 2, "A"));
+    ArrayPtr const yes = array(true), none(orbis::omCreateORBISMatrix(0, 0, "C")),
+                   pair(orbis::omCreateORBISMatrix(1, 2, "A"));
     orbis::omSetArrayElement(pair.get(), 0, orbis::omGetArrayElement(c.get(), 0));
     EXPECT_EQ(callF({none.get()}), 1);
     EXPECT_EQ(callF({pair.get()}), 1) << "the first object is meant";
@@ -224,9 +251,8 @@ TEST_F(DispatchTest, MembersOpenToCalls)
         cls->addMethod(answering("member", {"M"}, 4));
         cls->addMethod(new Method("nothing", "", {"M"}));
         cls->addMethod(new Method("lies", "int32 scalar", {"M"}, [](Call const& call) { call.give(COSValue(1.0)); }));
-        cls->addMethod(new Method("liesMore", "char", {"M"}, [](Call const& call) {
-            call.give(COSValue(hvCreateCellMatrix(1, 1)));
-        }));
+        cls->addMethod(new Method("liesMore", "char", {"M"},
+                                  [](Call const& call) { call.give(COSValue(hvCreateCellMatrix(1, 1))); }));
     }));
     ArrayPtr const m = hvm().construct("M"), one = number(1);
     hvArray_tag* const inputs[] = {one.get()};

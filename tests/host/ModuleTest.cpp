@@ -49,9 +49,10 @@ TEST_F(ModuleTest, LoadedInitialisedAgainUnloadedAndLoadedAgain)
 
 TEST_F(ModuleTest, WhatIsNoModuleIsRefused)
 {
-    fs::path const folder = fs::temp_directory_path() / ("velmara_modules_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()));
+    fs::path const folder = "no_modules";
     fs::create_directories(folder);
-    fs::path const text = folder / "text.so", renamed = folder / ("other" + moduleFile().extension().string());
+    fs::path const text = folder / "text.so";
+    fs::path const renamed = "renamed_test_module" + moduleFile().extension().string(); // beside what it depends on
     std::ofstream(text) << "no library";
     fs::copy_file(moduleFile(), renamed, fs::copy_options::overwrite_existing);
     auto const errorOfLoading = [&](fs::path const& file) { return errorOf([&] { hvm().loadModule(file); }); };
@@ -63,8 +64,8 @@ TEST_F(ModuleTest, WhatIsNoModuleIsRefused)
     fs::path const twin = folder / moduleFile().filename();
     fs::copy_file(moduleFile(), twin, fs::copy_options::overwrite_existing);
     EXPECT_EQ(errorOfLoading(twin), "VELMARA:module:otherFile");
-    std::error_code ignored; // a mapped file cannot be removed everywhere
-    fs::remove_all(folder, ignored);
+    fs::remove(renamed);
+    fs::remove_all(folder);
 }
 
 TEST_F(ModuleTest, OneThatFailsToStartIsNotLoaded)

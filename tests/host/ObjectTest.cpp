@@ -128,7 +128,8 @@ TEST_F(ObjectTest, FailedInstanceDataIsTakenBack)
     orbis::COSClass* const cls = orbis::COSClass::getClass("B");
     COSInterfacePtr const object = cls->newInstance();
     EXPECT_EQ(object->getNativeObject("B"), nullptr) << "not before it is initialised";
-    EXPECT_EQ(messageIdOf([&] { orbis::COSClass::getClass("C")->initializeInstance(object); }), "VELMARA:object:otherClass");
+    EXPECT_EQ(messageIdOf([&] { orbis::COSClass::getClass("C")->initializeInstance(object); }),
+              "VELMARA:object:otherClass");
     cls->initializeInstance(object);
     EXPECT_EQ(messageIdOf([&] { cls->initializeInstance(object); }), "VELMARA:object:initialized");
     EXPECT_EQ(log_, "ABCbaAB");

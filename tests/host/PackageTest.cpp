@@ -109,9 +109,9 @@ TEST_F(PackageTest, RemovalEndsObjectsBeforeTheirClassInfo)
     };
     COSPackage::addPackage(new Package("p.q", [&](COSPackage* package) {
         auto* const info = new Logged(log);
-        info->describe = [](orbis::COSClass* cls) { cls->addMethod(new Method("leave", "", {"p.q.C"}, [](Call const&) {
-            COSPackage::removePackage("p");
-        })); };
+        info->describe = [](orbis::COSClass* cls) {
+            cls->addMethod(new Method("leave", "", {"p.q.C"}, [](Call const&) { COSPackage::removePackage("p"); }));
+        };
         info->destroy = [&](COSInterface*, void*) {
             log += "object ";
             EXPECT_EQ(orbis::COSClass::getClass("p.q.C"), nullptr);

@@ -14,13 +14,19 @@ protected:
     void publishProperties()
     {
         publish(new Class("P", [this](orbis::COSClass* cls) {
-            cls->addProperty(make("size", "int32 scalar", [this] { return COSValue(value_); }, true));
-            cls->addProperty(make("readOnly", "char vector", [] { return COSValue(hvCreateString("text")); }, false));
+            cls->addProperty(make(
+                "size", "int32 scalar", [this] { return COSValue(value_); }, true));
+            cls->addProperty(make(
+                "readOnly", "char vector", [] { return COSValue(hvCreateString("text")); }, false));
             cls->addProperty(make("writeOnly", "int32 scalar", {}, true));
-            cls->addProperty(make("shared", "int32 scalar", [this] { return COSValue(value_); }, true, true));
-            cls->addProperty(make("lies", "double scalar", [] { return COSValue(hvCreateString("text")); }, false));
-            cls->addProperty(make("unknown", "no.such.Class", [] { return COSValue(1.0); }, false));
-            cls->addProperty(make("fails", "double scalar", []() -> COSValue { throw std::runtime_error("no"); }, false));
+            cls->addProperty(make(
+                "shared", "int32 scalar", [this] { return COSValue(value_); }, true, true));
+            cls->addProperty(make(
+                "lies", "double scalar", [] { return COSValue(hvCreateString("text")); }, false));
+            cls->addProperty(make(
+                "unknown", "no.such.Class", [] { return COSValue(1.0); }, false));
+            cls->addProperty(make(
+                "fails", "double scalar", []() -> COSValue { throw std::runtime_error("no"); }, false));
         }));
     }
 

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "additions/additions.hpp"
 #include "orbis/COSClass.hpp"
 #include "orbis/COSClassInfo.hpp"
 #include "orbis/COSDataType.hpp"
 #include "orbis/COSMethodInfo.hpp"
-#include "orbis/COSMethodSignaturePtr.hpp"
 #include "orbis/COSMethodSignature.hpp"
+#include "orbis/COSMethodSignaturePtr.hpp"
 #include "orbis/COSPackage.hpp"
 #include "orbis/COSPackageInfo.hpp"
 #include "orbis/COSPropInfo.hpp"
-#include "additions/additions.hpp"
 #include "orbis/objectArrays.hpp"
 
 #include <functional>
@@ -50,7 +50,9 @@ public:
     /// Inputs are named a, b, c, ...
     Method(std::string name, char const* output, std::vector<std::string> const& inputs, Body body = {},
            MethodTraits traits = {})
-        : name_(std::move(name)), body_(std::move(body)), traits_(traits)
+        : name_(std::move(name)),
+          body_(std::move(body)),
+          traits_(traits)
     {
         signature_ = orbis::COSMethodSignature::createMethodSignature();
         if (*output)
@@ -85,8 +87,8 @@ private:
 inline Method* answering(std::string name, std::vector<std::string> const& inputs, double answer,
                          MethodTraits traits = {})
 {
-    return new Method(std::move(name), "double scalar", inputs, [answer](Call const& call) { call.give(COSValue(answer)); },
-                      traits);
+    return new Method(
+        std::move(name), "double scalar", inputs, [answer](Call const& call) { call.give(COSValue(answer)); }, traits);
 }
 
 struct Property : orbis::COSPropInfo {
@@ -131,7 +133,8 @@ struct Property : orbis::COSPropInfo {
 
 struct Class : orbis::COSClassInfo {
     explicit Class(std::string fullName, std::function<void(orbis::COSClass*)> describer = {})
-        : name(std::move(fullName)), describe(std::move(describer))
+        : name(std::move(fullName)),
+          describe(std::move(describer))
     {
     }
 
@@ -161,7 +164,8 @@ struct Class : orbis::COSClassInfo {
 
 struct Package : orbis::COSPackageInfo {
     explicit Package(std::string packageName, std::function<void(orbis::COSPackage*)> populater = {})
-        : name(std::move(packageName)), populate(std::move(populater))
+        : name(std::move(packageName)),
+          populate(std::move(populater))
     {
     }
 

@@ -37,10 +37,10 @@ TEST_F(VirtualMachineTest, EndsObjectsThenPackagesThenStorage)
     publish(info);
     static std::uint64_t const id = Storage::getNextID(typeid(std::string));
     Storage::insert(id, typeid(std::string), Storage::Holder(&log, [](void*) {
-        *endingLog += Storage::isRequiredContextActive() ? "early " : "storage ";
-        orbis::COSTypeRepository::removeGlobalType("still there");
-        EXPECT_EQ(orbis::COSClass::getClass("A"), nullptr);
-    }));
+                        *endingLog += Storage::isRequiredContextActive() ? "early " : "storage ";
+                        orbis::COSTypeRepository::removeGlobalType("still there");
+                        EXPECT_EQ(orbis::COSClass::getClass("A"), nullptr);
+                    }));
     ArrayPtr const left = hvm().construct("A");
     COSInterfacePtr handle = orbis::omGetArrayElement(left.get(), 0);
     endHvm();
@@ -57,7 +57,9 @@ TEST_F(VirtualMachineTest, ObjectsBelongToOneAndEndInIt)
 {
     int answer = 0;
     auto const publishAnswering = [&](int number) {
-        auto* const info = new Class("A", [](orbis::COSClass* cls) { cls->addMethod(answering("take", {"A", "any"}, 1)); });
+        auto* const info = new Class("A", [](orbis::COSClass* cls) {
+            cls->addMethod(answering("take", {"A", "any"}, 1));
+        });
         info->destroy = [&answer, number](COSInterface*, void*) { answer = number; };
         publish(info);
     };

@@ -15,26 +15,80 @@ void* COSMethodInfo::operator new(std::size_t size)
     throw foundation::core::except::bad_alloc();
 }
 
-void* COSMethodInfo::operator new(std::size_t, void* place) { return place; }
-void COSMethodInfo::operator delete(void* storage) { std::free(storage); }
+void* COSMethodInfo::operator new(std::size_t, void* place)
+{
+    return place;
+}
+void COSMethodInfo::operator delete(void* storage)
+{
+    std::free(storage);
+}
 void COSMethodInfo::operator delete(void*, void*) {}
-void COSMethodInfo::operator delete[](void* storage) { std::free(storage); }
+void COSMethodInfo::operator delete[](void* storage)
+{
+    std::free(storage);
+}
 
-COSMethodInfo::COSMethodInfo() { ++velmara::liveCountsOfThisThread().descriptors; }
-COSMethodInfo::~COSMethodInfo() { --velmara::liveCountsOfThisThread().descriptors; }
+COSMethodInfo::COSMethodInfo()
+{
+    ++velmara::liveCountsOfThisThread().descriptors;
+}
+COSMethodInfo::~COSMethodInfo()
+{
+    --velmara::liveCountsOfThisThread().descriptors;
+}
 
-char const* COSMethodInfo::getDescription() const { return ""; }
-char const* COSMethodInfo::getDetailedDescription() const { return getDescription(); }
-MemberAccess COSMethodInfo::getMemberAccess() { return MemberAccess::Public; }
-ExtendedMemberAccess COSMethodInfo::getExtendedAccess() { return ExtendedMemberAccess::None; }
-bool COSMethodInfo::isFirstArgDispatch() const { return true; }
-bool COSMethodInfo::isStatic() const { return false; }
-bool COSMethodInfo::isAbstract() const { return false; }
-bool COSMethodInfo::isSealed() const { return false; }
-bool COSMethodInfo::isVisible() const { return true; }
-bool COSMethodInfo::isDestructible() const { return false; }
-bool COSMethodInfo::isLocked() const { return true; }
-bool COSMethodInfo::isExplicit() const { return false; }
-bool COSMethodInfo::doesMethodOverrideAllSignatures() const { return false; }
+char const* COSMethodInfo::getDescription() const
+{
+    return "";
+}
+char const* COSMethodInfo::getDetailedDescription() const
+{
+    return getDescription();
+}
+MemberAccess COSMethodInfo::getMemberAccess()
+{
+    return MemberAccess::Public;
+}
+ExtendedMemberAccess COSMethodInfo::getExtendedAccess()
+{
+    return ExtendedMemberAccess::None;
+}
+bool COSMethodInfo::isFirstArgDispatch() const
+{
+    return true;
+}
+bool COSMethodInfo::isStatic() const
+{
+    return false;
+}
+bool COSMethodInfo::isAbstract() const
+{
+    return false;
+}
+bool COSMethodInfo::isSealed() const
+{
+    return false;
+}
+bool COSMethodInfo::isVisible() const
+{
+    return true;
+}
+bool COSMethodInfo::isDestructible() const
+{
+    return false;
+}
+bool COSMethodInfo::isLocked() const
+{
+    return true;
+}
+bool COSMethodInfo::isExplicit() const
+{
+    return false;
+}
+bool COSMethodInfo::doesMethodOverrideAllSignatures() const
+{
+    return false;
+}
 
 } // namespace orbis

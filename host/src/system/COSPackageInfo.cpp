@@ -15,21 +15,63 @@ void* COSPackageInfo::operator new(std::size_t size)
     throw foundation::core::except::bad_alloc();
 }
 
-void COSPackageInfo::operator delete(void* storage) { std::free(storage); }
+void COSPackageInfo::operator delete(void* storage)
+{
+    std::free(storage);
+}
 
-COSPackageInfo::COSPackageInfo() { ++velmara::liveCountsOfThisThread().descriptors; }
-COSPackageInfo::~COSPackageInfo() { --velmara::liveCountsOfThisThread().descriptors; }
+COSPackageInfo::COSPackageInfo()
+{
+    ++velmara::liveCountsOfThisThread().descriptors;
+}
+COSPackageInfo::~COSPackageInfo()
+{
+    --velmara::liveCountsOfThisThread().descriptors;
+}
 
-char const* COSPackageInfo::getDescription() const { return ""; }
-char const* COSPackageInfo::getDetailedDescription() const { return getDescription(); }
-bool COSPackageInfo::attemptToLoadSubPackage(char const*) { return false; }
-bool COSPackageInfo::attemptToLoadClass(char const*) { return false; }
-bool COSPackageInfo::attemptToLoadFunction(char const*) { return false; }
-bool COSPackageInfo::attemptToLoadType(char const*) { return false; }
-COSMethodSelector* COSPackageInfo::getMethodSelector() const { return nullptr; }
-bool COSPackageInfo::isDestructible() const { return true; }
-bool COSPackageInfo::isLocked() const { return true; }
-char16_t const* COSPackageInfo::getH1Line() const { return nullptr; }
-char16_t const* COSPackageInfo::getHelpText() const { return nullptr; }
+char const* COSPackageInfo::getDescription() const
+{
+    return "";
+}
+char const* COSPackageInfo::getDetailedDescription() const
+{
+    return getDescription();
+}
+bool COSPackageInfo::attemptToLoadSubPackage(char const*)
+{
+    return false;
+}
+bool COSPackageInfo::attemptToLoadClass(char const*)
+{
+    return false;
+}
+bool COSPackageInfo::attemptToLoadFunction(char const*)
+{
+    return false;
+}
+bool COSPackageInfo::attemptToLoadType(char const*)
+{
+    return false;
+}
+COSMethodSelector* COSPackageInfo::getMethodSelector() const
+{
+    return nullptr;
+}
+bool COSPackageInfo::isDestructible() const
+{
+    return true;
+}
+bool COSPackageInfo::isLocked() const
+{
+    return true;
+}
+char16_t const* COSPackageInfo::getH1Line() const
+{
+    return nullptr;
+}
+char16_t const* COSPackageInfo::getHelpText() const
+{
+    return nullptr;
+}
 
 } // namespace orbis

@@ -4,7 +4,13 @@
 
 namespace orbis {
 
-COSTypeConversion::COSTypeConversion() { ++velmara::liveCountsOfThisThread().descriptors; }
-COSTypeConversion::~COSTypeConversion() { --velmara::liveCountsOfThisThread().descriptors; }
+COSTypeConversion::COSTypeConversion()
+{
+    ++velmara::liveCountsOfThisThread().descriptors;
+}
+COSTypeConversion::~COSTypeConversion()
+{
+    --velmara::liveCountsOfThisThread().descriptors;
+}
 
 } // namespace orbis

@@ -42,7 +42,10 @@ std::vector<Class*> linearize(Class& cls)
 } // namespace
 
 Class::Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, HvmState& machine)
-    : info_(std::move(info)), name_(name), ownName_(lastPart(name)), machine_(machine),
+    : info_(std::move(info)),
+      name_(name),
+      ownName_(lastPart(name)),
+      machine_(machine),
       contents_(std::make_shared<ClassContents>())
 {
 }

@@ -52,8 +52,17 @@ public:
     int distanceTo(Name ancestor) const;
 
     /// Null when there is none, also after the class infos of the hierarchy were asked to load one of that name.
-    MethodGroup const* findMethods(std::string_view name);
-    Property const* findProperty(std::string_view name);
+    [[gnu::always_inline]] MethodGroup const* findMethods(std::string_view name)
+    {
+        MethodGroup const* const found = tables().methodGroups.findText(name);
+        return found ? found : loadMethods(name);
+    }
+
+    Property const* findProperty(std::string_view name)
+    {
+        Property const* const* const found = tables().propertiesByName.findText(name);
+        return found ? *found : loadProperty(name);
+    }
 
     /// Takes the place of the direct superclasses while the class is being described.
     void setSuperclasses(std::span<orbis::COSNameID const> names);
@@ -73,9 +82,12 @@ private:
     void requireOpen(Name member) const;
     [[noreturn]] void refuseDuplicate(Name member) const;
 
-    /// Looks up by `find`, and once more when `attempt` says that it loaded something.
+    MethodGroup const* loadMethods(std::string_view name);
+    Property const* loadProperty(std::string_view name);
+
+    /// Asks the class infos of the hierarchy by `attempt` until `find` finds something.
     template <class Find, class Attempt>
-    auto findOrLoad(Find find, Attempt attempt);
+    auto load(Find find, Attempt attempt);
 
     std::unique_ptr<orbis::COSClassInfo> info_;
     Name name_;

@@ -6,9 +6,12 @@
 #include "system/TypeRepository.hpp"
 #include "system/errorTranslation.hpp"
 #include "system/objectFit.hpp"
+#include "system/objectValidity.hpp"
 #include "values/Array.hpp"
 
 #include "orbis/COSTypeConversion.hpp"
+
+#include <vector>
 
 namespace velmara {
 
@@ -21,38 +24,37 @@ bool isText(Array const& input)
 
 } // namespace
 
-ConvertedInputs::ConvertedInputs(std::size_t capacity) : values_(inlineValues_), owned_(inlineOwned_)
+struct ConvertedInputs::Room {
+    explicit Room(std::size_t capacity) : values(capacity), owned(capacity) {}
+
+    std::vector<orbis::COSValue> values;
+    std::vector<Owned> owned;
+};
+
+void ConvertedInputs::DeleteRoom::operator()(Room* room) const
 {
-    if (capacity <= inlineCapacity)
-        return;
-    moreValues_ = std::make_unique<orbis::COSValue[]>(capacity);
-    moreOwned_ = std::make_unique<Owned[]>(capacity);
-    values_ = moreValues_.get();
-    owned_ = moreOwned_.get();
+    delete room;
 }
 
-Fit ConvertedInputs::add(TypeReference const& type, hvArray_tag* input)
+void ConvertedInputs::makeRoom(std::size_t capacity)
 {
-    Array const& array = *Array::of(input);
+    room_.reset(new Room(capacity));
+    values_ = room_->values.data();
+    owned_ = room_->owned.data();
+}
+
+Fit ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
+{
+    if (Array::of(input)->classID() == hvOBJECT_CLASS)
+        checkObjects(HvmState::required(), Array::of(input)->objects());
     Fit fit = noFit;
-    switch (type.kind) {
-    case TypeKind::Scalar:
-        fit = convertScalar(type.scalarClass, array, values_[count_]);
-        break;
-    case TypeKind::Text:
-        fit = isText(array) ? exactFit : noFit;
-        values_[count_] = orbis::COSValue(input);
-        break;
-    case TypeKind::Any:
+    values_[count_] = orbis::COSValue(input);
+    if (type.kind == TypeKind::Text)
+        fit = isText(*Array::of(input)) ? exactFit : noFit;
+    else if (type.kind == TypeKind::Any)
         fit = anyFit;
-        values_[count_] = orbis::COSValue(input);
-        break;
-    case TypeKind::Named:
+    else if (type.kind == TypeKind::Named)
         fit = addNamed(type, input);
-        break;
-    case TypeKind::Void:
-        break;
-    }
     if (fit != noFit)
         ++count_;
     return fit;
@@ -61,7 +63,6 @@ Fit ConvertedInputs::add(TypeReference const& type, hvArray_tag* input)
 Fit ConvertedInputs::addNamed(TypeReference const& type, hvArray_tag* input)
 {
     Array const& array = *Array::of(input);
-    values_[count_] = orbis::COSValue(input);
     Fit fit = noFit;
     if (array.classID() == hvOBJECT_CLASS && !type.element)
         fit = objectFit(type.name, array);

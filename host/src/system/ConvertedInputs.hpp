@@ -2,6 +2,7 @@
 
 #include "system/Fit.hpp"
 #include "system/TypeReference.hpp"
+#include "values/Array.hpp"
 
 #include "orbis/COSDataType.hpp"
 #include "orbis/COSValue.hpp"
@@ -16,7 +17,11 @@ namespace velmara {
 class ConvertedInputs {
 public:
     /// Room for `capacity` inputs. Few take no memory of their own.
-    explicit ConvertedInputs(std::size_t capacity);
+    explicit ConvertedInputs(std::size_t capacity) : values_(inlineValues_), owned_(inlineOwned_)
+    {
+        if (capacity > inlineCapacity)
+            makeRoom(capacity);
+    }
     ConvertedInputs(ConvertedInputs const&) = delete;
     ConvertedInputs& operator=(ConvertedInputs const&) = delete;
 
@@ -26,8 +31,20 @@ public:
             giveBack();
     }
 
-    /// Converts the next input; when it does not fit nothing is added. Nothing is thrown for what does not fit.
-    Fit add(TypeReference const& type, hvArray_tag* input);
+    /// Converts the next input; when it does not fit nothing is added. What does not fit throws nothing, but an
+    /// object that cannot be used in the current virtual machine does.
+    Fit add(TypeReference const& type, hvArray_tag* input)
+    {
+        if (type.kind != TypeKind::Scalar)
+            return addArray(type, input);
+        Array const& array = *Array::of(input);
+        Fit const fit = type.converters[array.classID()](array, values_[count_]);
+        count_ += fit != noFit;
+        return fit;
+    }
+
+    /// Adds an array that is known to fit.
+    void addAsIs(hvArray_tag* input) { values_[count_++] = orbis::COSValue(input); }
 
     int count() const { return count_; }
     orbis::COSValue const* values() const { return values_; }
@@ -40,8 +57,10 @@ private:
 
     static constexpr std::size_t inlineCapacity = 24;
 
+    Fit addArray(TypeReference const& type, hvArray_tag* input);
     Fit addNamed(TypeReference const& type, hvArray_tag* input);
     Fit addRegistered(TypeReference const& type, hvArray_tag* input);
+    void makeRoom(std::size_t capacity);
     void giveBack();
 
     orbis::COSValue* values_;
@@ -55,8 +74,11 @@ private:
     union {
         Owned inlineOwned_[inlineCapacity];
     };
-    std::unique_ptr<orbis::COSValue[]> moreValues_;
-    std::unique_ptr<Owned[]> moreOwned_;
+    struct Room;
+    struct DeleteRoom {
+        void operator()(Room* room) const;
+    };
+    std::unique_ptr<Room, DeleteRoom> room_; ///< for more inputs than stand in here
 };
 
 /// Why an input does not fit a data type: "needs a number, not char".

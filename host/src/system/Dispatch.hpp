@@ -2,6 +2,7 @@
 
 #include "system/ConvertedInputs.hpp"
 #include "system/Method.hpp"
+#include "system/ResultValue.hpp"
 
 #include "velmara/ArrayPtr.hpp"
 
@@ -13,28 +14,76 @@ class HvmState;
 
 using Inputs = std::span<hvArray_tag* const>;
 
-/// What one call is made with. `self` is null where there is no object.
+/// What one call is made with. `self` is an object array, or null where there is no object.
 struct CallInputs {
     hvArray_tag* self;
     Inputs inputs;
+
+    /// How many values a call needs at most.
+    std::size_t capacity() const { return inputs.size() + 1; }
 };
 
-/// How many values a call of the method needs at most.
-inline std::size_t capacityFor(Inputs inputs)
+/// True when the method can be called with so many inputs, and on an object where it needs one.
+inline bool takesInputs(Method const& method, CallInputs const& call)
 {
-    return inputs.size() + 1;
+    return method.inputCount == call.inputs.size() + method.takesObject && (!method.takesObject || call.self);
 }
 
-/// Refuses missing inputs, objects that are invalid and those of other virtual machines.
+/// Refuses missing inputs, and objects that are invalid or of other virtual machines.
 void checkInputs(HvmState const& machine, Inputs inputs);
 
-/// Picks the one method of the group that takes the inputs and fits them best: at least as well as every other in
-/// each input, and better in one. Fills `converted` with the inputs for it; nothing has been called by then.
-/// Throws when no method may be called from outside, when none fits (with each one and the reason why not), and
-/// when several fit equally well.
-Method const& choose(MethodGroup const& group, CallInputs const& call, ConvertedInputs& converted);
+/// Converts the inputs for one method and tells `visit` how well each explicit one fits; false when one does not.
+template <class Visit>
+[[gnu::always_inline]] inline bool convertFor(Method const& method, CallInputs const& call, ConvertedInputs& converted,
+                                              Visit visit)
+{
+    if (!takesInputs(method, call))
+        return false;
+    Parameter const* parameter = method.inputs.data();
+    if (method.takesObject) {
+        if (parameter->type.name == Array::of(call.self)->objectClass()) [[likely]]
+            converted.addAsIs(call.self);
+        else if (converted.add(parameter->type, call.self) == noFit)
+            return false;
+        ++parameter;
+    }
+    for (hvArray_tag* const input : call.inputs) {
+        Fit const fit = input ? converted.add((parameter++)->type, input) : noFit;
+        if (fit == noFit)
+            return false;
+        visit(fit);
+    }
+    return true;
+}
+
+/// Of several methods that may be called, the one that takes the inputs and fits them best: at least as well as
+/// every other in each input, and better in one. Throws when none fits (with each one and the reason why not),
+/// and when several fit equally well.
+Method const& chooseAmong(MethodGroup const& group, CallInputs call);
+
+/// Throws what is wrong where the one method that may be called, or is called, cannot be.
+[[noreturn]] void refuseCall(MethodGroup const& group, CallInputs call);
+
+/// Picks the method of the group to be called. Fills `converted` with the inputs for it; nothing has been called
+/// by then. Throws like `chooseAmong`, and for methods that are abstract or not open to calls from outside.
+[[gnu::always_inline]] inline Method const& choose(MethodGroup const& group, CallInputs const& call,
+                                                   ConvertedInputs& converted)
+{
+    Method const& chosen = group.accessible > 1 ? chooseAmong(group, call) : *group.methods.front();
+    if (group.accessible == 0 || !convertFor(chosen, call, converted, [](Fit) {}) || chosen.isAbstract) [[unlikely]]
+        refuseCall(group, call);
+    return chosen;
+}
 
 /// Chooses a method and calls it; a failure inside it is final. The result is null when there is none.
-ArrayPtr dispatch(HvmState const& machine, MethodGroup const& group, CallInputs const& call);
+[[gnu::always_inline]] inline ArrayPtr dispatch(MethodGroup const& group, CallInputs const& call)
+{
+    ConvertedInputs converted(call.capacity());
+    Method const& method = choose(group, call, converted);
+    ResultValue result(method.outputType);
+    int outputCount = 0;
+    method.info->invoke(nullptr, outputCount, &result.slot(), converted.count(), converted.values());
+    return outputCount == 0 ? nullptr : result.take(method.name);
+}
 
 } // namespace velmara

@@ -5,7 +5,9 @@
 namespace velmara {
 
 Error::Error(std::string identifier, std::string text)
-    : identifier_(std::move(identifier)), text_(std::move(text)), what_(identifier_ + ": " + text_)
+    : identifier_(std::move(identifier)),
+      text_(std::move(text)),
+      what_(identifier_ + ": " + text_)
 {
 }
 

@@ -3,9 +3,7 @@
 #include "system/HvmCall.hpp"
 #include "system/HvmState.hpp"
 #include "system/ModuleList.hpp"
-#include "system/calls.hpp"
 #include "system/listings.hpp"
-#include "system/propertyAccess.hpp"
 
 namespace velmara {
 
@@ -33,51 +31,6 @@ void Hvm::unloadModule(std::string_view name)
 std::vector<ModuleRecord> Hvm::modules() const
 {
     return state_->modules().records();
-}
-
-ArrayPtr Hvm::construct(std::string_view className, Inputs inputs)
-{
-    return callInto(*state_, [&] { return velmara::construct(*state_, className, inputs); });
-}
-
-ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs)
-{
-    return callInto(*state_, [&] { return callMethod(*state_, object, method, inputs); });
-}
-
-ArrayPtr Hvm::callStatic(std::string_view className, std::string_view method, Inputs inputs)
-{
-    return callInto(*state_, [&] { return callStaticMethod(*state_, className, method, inputs); });
-}
-
-ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs)
-{
-    return callInto(*state_, [&] { return velmara::callFunction(*state_, fullName, inputs); });
-}
-
-ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property)
-{
-    return callInto(*state_, [&] { return getProperty(*state_, object, property); });
-}
-
-void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value)
-{
-    callInto(*state_, [&] { setProperty(*state_, object, property, value); });
-}
-
-ArrayPtr Hvm::getStatic(std::string_view className, std::string_view property)
-{
-    return callInto(*state_, [&] { return getStaticProperty(*state_, className, property); });
-}
-
-void Hvm::setStatic(std::string_view className, std::string_view property, hvArray_tag* value)
-{
-    callInto(*state_, [&] { setStaticProperty(*state_, className, property, value); });
-}
-
-void Hvm::deleteObjects(hvArray_tag* objects)
-{
-    callInto(*state_, [&] { velmara::deleteObjects(*state_, objects); });
 }
 
 NameKind Hvm::lookUp(std::string_view fullName)

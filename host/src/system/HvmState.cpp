@@ -12,7 +12,8 @@ namespace velmara {
 constinit thread_local HvmState* HvmState::current_ = nullptr;
 
 HvmState::HvmState()
-    : modules_(std::make_unique<ModuleList>()), types_(std::make_unique<TypeRepository>()),
+    : modules_(std::make_unique<ModuleList>()),
+      types_(std::make_unique<TypeRepository>()),
       packages_(std::make_unique<PackageTree>(*this))
 {
 }

@@ -20,16 +20,24 @@ Name nameOf(orbis::COSMethodInfo const& info)
 } // namespace
 
 Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, Class const* definer)
-    : info(std::move(descriptor)), name(nameOf(*info)), definingClass(definer), access(info->getMemberAccess()),
-      isStatic(info->isStatic()), isAbstract(info->isAbstract()), isSealed(info->isSealed()),
-      isVisible(info->isVisible()), overridesAllSignatures(info->doesMethodOverrideAllSignatures())
+    : info(std::move(descriptor)),
+      name(nameOf(*info)),
+      definingClass(definer),
+      access(info->getMemberAccess()),
+      isStatic(info->isStatic()),
+      isAbstract(info->isAbstract()),
+      isSealed(info->isSealed()),
+      isVisible(info->isVisible()),
+      overridesAllSignatures(info->doesMethodOverrideAllSignatures())
 {
     if (auto const* const signature = static_cast<Signature const*>(info->getMethodSignature())) {
         inputs = signature->inputs();
         outputs = signature->outputs();
     }
-    isConstructor = definer && name == definer->ownName() && outputs.size() == 1 &&
-                    outputs.front().type.name == definer->name();
+    inputCount = inputs.size();
+    outputType = outputs.empty() ? nullptr : &outputs.front().type;
+    isConstructor =
+        definer && name == definer->ownName() && outputs.size() == 1 && outputs.front().type.name == definer->name();
     takesObject = definer && !isStatic && !isConstructor;
     if (takesObject && inputs.empty())
         throwHostError("VELMARA:member", "noObjectInput", {std::string(definer->name()->view()), info->getName()});
@@ -37,8 +45,9 @@ Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, Class const* de
 
 bool Method::hasSameInputs(Method const& other) const
 {
-    return std::ranges::equal(explicitInputs(), other.explicitInputs(), {}, [](Parameter const& p) { return p.type.name; },
-                              [](Parameter const& p) { return p.type.name; });
+    return std::ranges::equal(
+        explicitInputs(), other.explicitInputs(), {}, [](Parameter const& p) { return p.type.name; },
+        [](Parameter const& p) { return p.type.name; });
 }
 
 std::string Method::describe() const

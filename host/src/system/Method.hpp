@@ -32,7 +32,9 @@ struct Method {
     Name name;
     Class const* definingClass;
     std::vector<Parameter> inputs;
+    std::size_t inputCount; ///< `inputs.size()`, which takes a division
     std::vector<Parameter> outputs;
+    TypeReference const* outputType; ///< null when there is none
     orbis::MemberAccess access;
     bool isConstructor; ///< named as the class itself, with an object of the class as its output
     bool isStatic;

@@ -20,8 +20,11 @@ ModuleRecord makeRecord(std::filesystem::path const& file, std::string name)
 } // namespace
 
 Module::Module(std::filesystem::path const& file, std::string name)
-    : file_(file), record_(makeRecord(file, std::move(name))), library_(file),
-      initialize_(entryPoint("VXInitialize_")), terminate_(entryPoint("VXTerminate_"))
+    : file_(file),
+      record_(makeRecord(file, std::move(name))),
+      library_(file),
+      initialize_(entryPoint("VXInitialize_")),
+      terminate_(entryPoint("VXTerminate_"))
 {
     entryPoint("QueryVXFcnTable_"); // a module has it, though this host calls nothing through it
     record_.version = versionWord("_version");

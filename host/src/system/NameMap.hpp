@@ -1,8 +1,11 @@
 #pragma once
 
 #include "values/InternedName.hpp"
+#include "values/TextChunks.hpp"
 
 #include <cstddef>
+#include <cstdint>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -31,6 +34,19 @@ public:
         return entry.name ? &entry.value : nullptr;
     }
 
+    /// The value under a text that need not be interned. The text is compared with one name at most, but for names
+    /// of one hash.
+    [[gnu::always_inline]] T const* findText(std::string_view text) const
+    {
+        if (size_ == 0)
+            return nullptr;
+        std::uint64_t const hash = hashText(text);
+        for (std::size_t i = hash & mask_; entries_[i].name; i = next(i))
+            if (entries_[i].name->hash == hash && isSameText(entries_[i].name->view(), text))
+                return &entries_[i].value;
+        return nullptr;
+    }
+
     /// The value found, or a default-made one. Room for it is made first: a failure changes nothing.
     T& operator[](Name name)
     {
@@ -51,8 +67,8 @@ public:
         std::size_t hole = placeOf(name);
         // What follows the hole in its run moves up where it would otherwise no longer be found.
         for (std::size_t i = next(hole); entries_[i].name; i = next(i)) {
-            std::size_t const wanted = entries_[i].name->hash & (entries_.size() - 1);
-            if (((i - wanted) & (entries_.size() - 1)) >= ((i - hole) & (entries_.size() - 1))) {
+            std::size_t const wanted = entries_[i].name->hash & mask_;
+            if (((i - wanted) & mask_) >= ((i - hole) & mask_)) {
                 entries_[hole] = std::move(entries_[i]);
                 hole = i;
             }
@@ -71,11 +87,11 @@ public:
     }
 
 private:
-    std::size_t next(std::size_t i) const { return (i + 1) & (entries_.size() - 1); }
+    std::size_t next(std::size_t i) const { return (i + 1) & mask_; }
 
     std::size_t placeOf(Name name) const
     {
-        std::size_t i = name->hash & (entries_.size() - 1);
+        std::size_t i = name->hash & mask_;
         while (entries_[i].name && entries_[i].name != name)
             i = next(i);
         return i;
@@ -85,12 +101,14 @@ private:
     {
         std::vector<Entry> old(entries_.empty() ? 8 : entries_.size() * 2);
         std::swap(old, entries_);
+        mask_ = entries_.size() - 1;
         for (Entry& entry : old)
             if (entry.name)
                 entries_[placeOf(entry.name)] = std::move(entry);
     }
 
     std::vector<Entry> entries_; ///< a power of two, at most half full
+    std::size_t mask_ = 0;       ///< their number less one
     std::size_t size_ = 0;
 };
 

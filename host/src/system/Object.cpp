@@ -16,7 +16,10 @@ Object::Object(Class& cls) : own_{.className = cls.name()}, class_(&cls), machin
     ++liveCountsOfThisThread().objects;
 }
 
-Object::~Object() { --liveCountsOfThisThread().objects; }
+Object::~Object()
+{
+    --liveCountsOfThisThread().objects;
+}
 
 void Object::initialize()
 {

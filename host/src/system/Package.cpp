@@ -11,7 +11,10 @@
 namespace velmara {
 
 Package::Package(PackageTree& tree, Package* parent, Name name, std::unique_ptr<orbis::COSPackageInfo> info)
-    : tree_(tree), parent_(parent), name_(name), info_(std::move(info))
+    : tree_(tree),
+      parent_(parent),
+      name_(name),
+      info_(std::move(info))
 {
     if (!info_)
         state_ = State::Populated;

@@ -36,7 +36,8 @@ T* findByText(NameMap<T*> const& map, std::string_view fullName)
 } // namespace
 
 PackageTree::PackageTree(HvmState& machine)
-    : machine_(machine), root_(std::make_unique<Package>(*this, nullptr, nullptr, nullptr))
+    : machine_(machine),
+      root_(std::make_unique<Package>(*this, nullptr, nullptr, nullptr))
 {
 }
 
@@ -109,8 +110,8 @@ void PackageTree::requireFree(std::string_view fullName) const
     auto const [parent, own] = splitLast(fullName);
     Package* const package = findPublishedPackage(parent);
     bool const isFunction = package && std::ranges::any_of(package->functions(), [&](auto const& function) {
-        return function->name->view() == own;
-    });
+                                return function->name->view() == own;
+                            });
     if (isFunction || findByText(packages_, fullName) || findByText(classes_, fullName))
         throwHostError("VELMARA:package", "duplicate", {std::string(fullName)});
 }
@@ -176,8 +177,8 @@ void PackageTree::clear()
     root_->close();
     packages_ = {};
     classes_ = {};
-    machine_.retire(std::shared_ptr<Package>(
-        std::exchange(root_, std::make_unique<Package>(*this, nullptr, nullptr, nullptr))));
+    machine_.retire(
+        std::shared_ptr<Package>(std::exchange(root_, std::make_unique<Package>(*this, nullptr, nullptr, nullptr))));
 }
 
 void PackageTree::leave(Package const& package)

@@ -20,9 +20,15 @@ Name nameOf(orbis::COSPropInfo const& info)
 } // namespace
 
 Property::Property(std::unique_ptr<orbis::COSPropInfo> descriptor, Class const& definer)
-    : info(std::move(descriptor)), name(nameOf(*info)), definingClass(definer), getAccess(info->getMemberGetAccess()),
-      setAccess(info->getMemberSetAccess()), isStatic(info->isStatic()), isAbstract(info->isAbstract()),
-      isSealed(info->isSealed()), isVisible(info->isVisible())
+    : info(std::move(descriptor)),
+      name(nameOf(*info)),
+      definingClass(definer),
+      getAccess(info->getMemberGetAccess()),
+      setAccess(info->getMemberSetAccess()),
+      isStatic(info->isStatic()),
+      isAbstract(info->isAbstract()),
+      isSealed(info->isSealed()),
+      isVisible(info->isVisible())
 {
 }
 

@@ -2,7 +2,6 @@
 
 #include "system/ClassTree.hpp"
 #include "system/HvmState.hpp"
-#include "system/ScalarConversion.hpp"
 #include "system/TypeRepository.hpp"
 #include "system/objectFit.hpp"
 #include "values/Array.hpp"
@@ -49,15 +48,13 @@ orbis::COSDataType* registered(TypeReference const* type)
 
 } // namespace
 
-ArrayPtr ResultValue::take(std::string_view member)
+ArrayPtr ResultValue::takeOther(std::string_view member)
 {
     if (value_.isArray())
         return takeArray(member);
     if (value_.isEmpty())
         return nullptr;
-    if (!type_ || type_->kind != TypeKind::Scalar || value_.scalarClass() != type_->scalarClass)
-        refuse(type_, member);
-    return ArrayPtr(createScalar(value_));
+    refuse(type_, member);
 }
 
 ArrayPtr ResultValue::takeArray(std::string_view member)

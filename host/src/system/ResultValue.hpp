@@ -1,5 +1,6 @@
 #pragma once
 
+#include "system/ScalarConversion.hpp"
 #include "system/TypeReference.hpp"
 
 #include "velmara/ArrayPtr.hpp"
@@ -29,9 +30,15 @@ public:
 
     /// The value as an array; null for an empty one. Throws "VELMARA:result:type", which names `member`, when the
     /// value is not of the type.
-    ArrayPtr take(std::string_view member);
+    ArrayPtr take(Name member)
+    {
+        if (type_ && value_.scalarClass() == type_->scalarClass && type_->kind == TypeKind::Scalar) [[likely]]
+            return ArrayPtr(createScalar(value_));
+        return takeOther(member->view());
+    }
 
 private:
+    ArrayPtr takeOther(std::string_view member);
     ArrayPtr takeArray(std::string_view member);
     void giveBack() noexcept;
 

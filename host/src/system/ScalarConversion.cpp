@@ -2,6 +2,7 @@
 
 #include "system/scalarClasses.hpp"
 
+#include <array>
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -72,39 +73,60 @@ bool convertNumber(double number, T& out)
     }
 }
 
-template <class Source, class T>
-bool convertElement(Array const& input, T& out)
-{
-    Source const number = *static_cast<Source const*>(input.elements());
-    if constexpr (std::same_as<Source, bool>)
-        return false; // no number
-    else if constexpr (std::floating_point<Source>)
-        return convertNumber(static_cast<double>(number), out);
-    else
-        return convertNumber(number, out);
-}
-
 bool isNumeric(hvClassID classID)
 {
     return classID >= hvDOUBLE_CLASS && classID <= hvUINT64_CLASS;
 }
 
-template <class T>
-Fit convertTo(Array const& input, orbis::COSValue& out)
+Fit refuse(Array const&, orbis::COSValue&)
 {
-    if (input.classID() == orbis::COSValue::classOf<T>()) {
-        out = orbis::COSValue(*static_cast<T const*>(input.elements()));
-        return exactFit;
-    }
-    if (!isNumeric(input.classID()))
-        return noFit;
-    T converted;
-    auto const convert = [&]<class Source>(Source) { return convertElement<Source>(input, converted); };
-    if (!withScalarType(input.classID(), convert))
-        return noFit;
-    out = orbis::COSValue(converted);
-    return convertedFit;
+    return noFit;
 }
+
+template <class Source, class T>
+Fit convert(Array const& input, orbis::COSValue& out)
+{
+    if (input.rows() != 1 || input.columns() != 1)
+        return noFit;
+    Source const number = *static_cast<Source const*>(input.elements());
+    if constexpr (std::same_as<Source, T>) {
+        out = orbis::COSValue(number);
+        return exactFit;
+    } else {
+        T converted;
+        bool const fits = [&] {
+            if constexpr (std::floating_point<Source>)
+                return convertNumber(static_cast<double>(number), converted);
+            else
+                return convertNumber(number, converted);
+        }();
+        if (!fits)
+            return noFit;
+        out = orbis::COSValue(converted);
+        return convertedFit;
+    }
+}
+
+constexpr std::size_t classCount = hvOBJECT_CLASS + 1;
+using ConverterRow = std::array<ScalarConverter, classCount>;
+
+template <class T>
+constexpr ConverterRow makeRow()
+{
+    ConverterRow row;
+    row.fill(refuse);
+    auto const add = [&row]<class Source>(Source) {
+        if constexpr (!std::same_as<Source, bool> || std::same_as<T, bool>) // a logical is no number
+            row[orbis::COSValue::classOf<Source>()] = convert<Source, T>;
+    };
+    for (auto classID = std::uint32_t(hvDOUBLE_CLASS); classID <= hvUINT64_CLASS; ++classID)
+        withScalarType(hvClassID(classID), add);
+    add(bool());
+    return row;
+}
+
+template <class T>
+constexpr ConverterRow rowTo = makeRow<T>();
 
 std::string textOf(Array const& input)
 {
@@ -121,17 +143,16 @@ std::string textOf(Array const& input)
 std::string rangeText(hvClassID target)
 {
     return withScalarType(target, []<class T>(T) {
-        return std::to_string(std::numeric_limits<T>::lowest()) + " to " + std::to_string(std::numeric_limits<T>::max());
+        return std::to_string(std::numeric_limits<T>::lowest()) + " to " +
+               std::to_string(std::numeric_limits<T>::max());
     });
 }
 
 } // namespace
 
-Fit convertScalar(hvClassID target, Array const& input, orbis::COSValue& out)
+ScalarConverter const* scalarConverters(hvClassID target)
 {
-    if (input.rows() != 1 || input.columns() != 1)
-        return noFit;
-    return withScalarType(target, [&]<class T>(T) { return convertTo<T>(input, out); });
+    return withScalarType(target, []<class T>(T) { return rowTo<T>.data(); });
 }
 
 std::string explainScalarRefusal(hvClassID target, Array const& input)
@@ -157,14 +178,6 @@ std::string explainScalarRefusal(hvClassID target, Array const& input)
     if (target == hvSINGLE_CLASS && isReal && !isWhole(converted))
         return textOf(input) + " is not in the range of single";
     return textOf(input) + " cannot be represented exactly as " + targetName;
-}
-
-Array* createScalar(orbis::COSValue const& value)
-{
-    Array* const array = Array::create(value.scalarClass(), 1, 1);
-    withScalarType(value.scalarClass(),
-                   [&]<class T>(T) { *static_cast<T*>(array->writableElements()) = value.scalar<T>(); });
-    return array;
 }
 
 } // namespace velmara

@@ -5,23 +5,35 @@
 
 #include "orbis/COSValue.hpp"
 
+#include <cstdint>
+#include <cstring>
 #include <string>
 
 namespace velmara {
 
-/// Reads a 1-by-1 array as a native scalar of the class `target`, a numeric or logical one. Values are never cut:
+/// Reads a 1-by-1 array of one class as a native scalar of another. Values are never cut:
 /// - integers take numbers of any class that are whole and in range;
 /// - double takes every number that it can represent exactly;
 /// - single takes whole numbers that it can represent exactly, and rounds others to the nearest, unless they lie
 ///   outside its range (larger than its largest, or not zero and rounded to zero); infinities and NaN pass;
 /// - logical takes logicals, and the numbers 0 and 1. A logical is no number.
 /// `out` is written only when the array fits.
-Fit convertScalar(hvClassID target, Array const& input, orbis::COSValue& out);
+using ScalarConverter = Fit (*)(Array const& input, orbis::COSValue& out);
 
-/// Why `convertScalar` refuses the array: "2.5 is no whole number".
+/// The converters to the class `target`, a numeric or logical one, by the class of the input.
+ScalarConverter const* scalarConverters(hvClassID target);
+
+/// Why the array is refused: "2.5 is no whole number".
 std::string explainScalarRefusal(hvClassID target, Array const& input);
 
 /// A new 1-by-1 array of a value that holds a scalar.
-Array* createScalar(orbis::COSValue const& value);
+inline Array* createScalar(orbis::COSValue const& value)
+{
+    // Value and array both hold the scalar in the first bytes of eight.
+    auto const bits = value.scalar<std::uint64_t>();
+    Array* const array = Array::create(value.scalarClass(), 1, 1);
+    std::memcpy(array->writableElements(), &bits, sizeof bits);
+    return array;
+}
 
 } // namespace velmara

@@ -33,13 +33,25 @@ std::string describe(std::span<Parameter const> parameters)
 
 namespace orbis {
 
-COSMethodSignature::COSMethodSignature() { ++velmara::liveCountsOfThisThread().descriptors; }
-COSMethodSignature::~COSMethodSignature() { --velmara::liveCountsOfThisThread().descriptors; }
+COSMethodSignature::COSMethodSignature()
+{
+    ++velmara::liveCountsOfThisThread().descriptors;
+}
+COSMethodSignature::~COSMethodSignature()
+{
+    --velmara::liveCountsOfThisThread().descriptors;
+}
 
-COSMethodSignature* COSMethodSignature::createMethodSignature() { return new velmara::Signature; }
+COSMethodSignature* COSMethodSignature::createMethodSignature()
+{
+    return new velmara::Signature;
+}
 
 COSMethodSignaturePtr::COSMethodSignaturePtr() = default;
-COSMethodSignaturePtr::~COSMethodSignaturePtr() { delete signature_; }
+COSMethodSignaturePtr::~COSMethodSignaturePtr()
+{
+    delete signature_;
+}
 
 COSMethodSignaturePtr& COSMethodSignaturePtr::operator=(COSMethodSignature* signature)
 {
@@ -50,7 +62,13 @@ COSMethodSignaturePtr& COSMethodSignaturePtr::operator=(COSMethodSignature* sign
     return *this;
 }
 
-COSMethodSignaturePtr::operator COSMethodSignature*() const { return signature_; }
-COSMethodSignature* COSMethodSignaturePtr::operator->() const { return signature_; }
+COSMethodSignaturePtr::operator COSMethodSignature*() const
+{
+    return signature_;
+}
+COSMethodSignature* COSMethodSignaturePtr::operator->() const
+{
+    return signature_;
+}
 
 } // namespace orbis

@@ -1,6 +1,7 @@
 #include "system/TypeReference.hpp"
 
 #include "system/NameMap.hpp"
+#include "system/ScalarConversion.hpp"
 
 #include <string_view>
 
@@ -52,6 +53,8 @@ TypeReference::TypeReference(Name typeName) : name(typeName)
     if (BuiltInType const* const builtIn = findBuiltIn(name)) {
         kind = builtIn->kind;
         scalarClass = builtIn->scalarClass;
+        if (kind == TypeKind::Scalar)
+            converters = scalarConverters(scalarClass);
     } else if (name->view().ends_with(suffix)) {
         element = intern(name->view().substr(0, name->length - suffix.size()));
     }

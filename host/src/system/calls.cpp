@@ -1,7 +1,9 @@
+#include "velmara/Hvm.hpp"
+
 #include "system/calls.hpp"
 
 #include "system/Class.hpp"
-#include "system/HvmState.hpp"
+#include "system/HvmCall.hpp"
 #include "system/Object.hpp"
 #include "system/PackageTree.hpp"
 #include "system/objectValidity.hpp"
@@ -23,20 +25,13 @@ Class& requireClass(HvmState& machine, std::string_view fullName)
     return *cls;
 }
 
-Object* requireObject(HvmState& machine, hvArray_tag* array)
+void requireObjectArray(hvArray_tag const* array)
 {
     if (!array || Array::of(array)->classID() != hvOBJECT_CLASS)
         throwHostError("VELMARA:object", "notObject", {array ? std::string(Array::of(array)->className()) : "null"});
-    Object* const object = Array::of(array)->size() == 0 ? nullptr : Array::of(array)->objects().front();
-    if (object)
-        requireUsable(machine, *object);
-    return object;
 }
 
-Class& requireClassOf(HvmState& machine, hvArray_tag* array, Object* object)
-{
-    return object ? *object->classOf() : requireClass(machine, Array::of(array)->className());
-}
+namespace {
 
 ArrayPtr callMethod(HvmState& machine, hvArray_tag* array, std::string_view method, Inputs inputs)
 {
@@ -44,7 +39,7 @@ ArrayPtr callMethod(HvmState& machine, hvArray_tag* array, std::string_view meth
     MethodGroup const* const group = cls.findMethods(method);
     if (!group)
         throwHostError("VELMARA:member", "unknown", {std::string(cls.name()->view()), std::string(method)});
-    return dispatch(machine, *group, {array, inputs});
+    return dispatch(*group, {array, inputs});
 }
 
 ArrayPtr callStaticMethod(HvmState& machine, std::string_view className, std::string_view method, Inputs inputs)
@@ -55,21 +50,20 @@ ArrayPtr callStaticMethod(HvmState& machine, std::string_view className, std::st
         throwHostError("VELMARA:member", "unknown", {std::string(className), std::string(method)});
     if (std::ranges::all_of(group->methods, &Method::takesObject))
         throwHostError("VELMARA:member", "notStatic", {std::string(className), std::string(method)});
-    return dispatch(machine, *group, {nullptr, inputs});
+    return dispatch(*group, {nullptr, inputs});
 }
 
-ArrayPtr callFunction(HvmState& machine, std::string_view fullName, Inputs inputs)
+ArrayPtr callPackageFunction(HvmState& machine, std::string_view fullName, Inputs inputs)
 {
     MethodGroup const* const group = machine.packages().findFunctions(fullName);
     if (!group)
         throwHostError("VELMARA:function", "unknown", {std::string(fullName)});
-    return dispatch(machine, *group, {nullptr, inputs});
+    return dispatch(*group, {nullptr, inputs});
 }
 
-void deleteObjects(HvmState& machine, hvArray_tag* array)
+void endObjects(HvmState& machine, hvArray_tag* array)
 {
-    if (!array || Array::of(array)->classID() != hvOBJECT_CLASS)
-        throwHostError("VELMARA:object", "notObject", {array ? std::string(Array::of(array)->className()) : "null"});
+    requireObjectArray(array);
     for (Object const* const object : Array::of(array)->objects())
         if (object && object->machine() && object->machine() != &machine)
             refuseObject(*object);
@@ -78,6 +72,28 @@ void deleteObjects(HvmState& machine, hvArray_tag* array)
     for (std::size_t i = 0; i < Array::of(held.get())->size(); ++i)
         if (Object* const object = Array::of(held.get())->objects()[i])
             object->end();
+}
+
+} // namespace
+
+ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs)
+{
+    return callInto(*state_, [&] { return callMethod(*state_, object, method, inputs); });
+}
+
+ArrayPtr Hvm::callStatic(std::string_view className, std::string_view method, Inputs inputs)
+{
+    return callInto(*state_, [&] { return callStaticMethod(*state_, className, method, inputs); });
+}
+
+ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs)
+{
+    return callInto(*state_, [&] { return callPackageFunction(*state_, fullName, inputs); });
+}
+
+void Hvm::deleteObjects(hvArray_tag* objects)
+{
+    callInto(*state_, [&] { endObjects(*state_, objects); });
 }
 
 } // namespace velmara

@@ -1,30 +1,36 @@
 #pragma once
 
 #include "system/Dispatch.hpp"
+#include "system/objectValidity.hpp"
 
 #include <string_view>
 
 namespace velmara {
 
 class Class;
-class Object;
 
 /// The class of that full name, described. Throws "VELMARA:class:unknown" when there is none.
 Class& requireClass(HvmState& machine, std::string_view fullName);
 
+/// Throws "VELMARA:object:notObject" for what is no object array.
+void requireObjectArray(hvArray_tag const* array);
+
 /// The object that an object array means for calls: its first one, or null where that is null or missing. Throws
 /// for what is no object array, and for an object that cannot be used.
-Object* requireObject(HvmState& machine, hvArray_tag* array);
+inline Object* requireObject(HvmState& machine, hvArray_tag* array)
+{
+    if (!array || Array::of(array)->classID() != hvOBJECT_CLASS) [[unlikely]]
+        requireObjectArray(array);
+    Object* const object = Array::of(array)->size() == 0 ? nullptr : Array::of(array)->objects().front();
+    if (object)
+        requireUsable(machine, *object);
+    return object;
+}
 
 /// The class whose members are meant by an object array: its object's, or its own.
-Class& requireClassOf(HvmState& machine, hvArray_tag* array, Object* object);
-
-ArrayPtr construct(HvmState& machine, std::string_view className, Inputs inputs);
-ArrayPtr callMethod(HvmState& machine, hvArray_tag* array, std::string_view method, Inputs inputs);
-ArrayPtr callStaticMethod(HvmState& machine, std::string_view className, std::string_view method, Inputs inputs);
-ArrayPtr callFunction(HvmState& machine, std::string_view fullName, Inputs inputs);
-
-/// Ends the objects of an array now.
-void deleteObjects(HvmState& machine, hvArray_tag* array);
+inline Class& requireClassOf(HvmState& machine, hvArray_tag* array, Object* object)
+{
+    return object ? *object->classOf() : requireClass(machine, Array::of(array)->className());
+}
 
 } // namespace velmara

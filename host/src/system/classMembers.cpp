@@ -56,7 +56,7 @@ void Class::rebuildTables()
 }
 
 template <class Find, class Attempt>
-auto Class::findOrLoad(Find find, Attempt attempt)
+auto Class::load(Find find, Attempt attempt)
 {
     auto found = find();
     for (std::size_t i = 0; !found && i < linearization().size(); ++i) {
@@ -77,23 +77,19 @@ auto Class::findOrLoad(Find find, Attempt attempt)
     return found;
 }
 
-MethodGroup const* Class::findMethods(std::string_view name)
+MethodGroup const* Class::loadMethods(std::string_view name)
 {
-    auto const find = [this, name] {
-        Name const interned = findInterned(name);
-        return interned ? tables().methodGroups.find(interned) : nullptr;
-    };
-    return findOrLoad(find, [name](orbis::COSClassInfo& info) { return info.attemptToLoadMethod(std::string(name).c_str()); });
+    return load([&] { return tables().methodGroups.findText(name); },
+                [&](orbis::COSClassInfo& info) { return info.attemptToLoadMethod(std::string(name).c_str()); });
 }
 
-Property const* Class::findProperty(std::string_view name)
+Property const* Class::loadProperty(std::string_view name)
 {
-    auto const find = [this, name]() -> Property const* {
-        Name const interned = findInterned(name);
-        Property const* const* const found = interned ? tables().propertiesByName.find(interned) : nullptr;
+    auto const find = [&]() -> Property const* {
+        Property const* const* const found = tables().propertiesByName.findText(name);
         return found ? *found : nullptr;
     };
-    return findOrLoad(find, [name](orbis::COSClassInfo& info) { return info.attemptToLoadProperty(std::string(name).c_str()); });
+    return load(find, [&](orbis::COSClassInfo& info) { return info.attemptToLoadProperty(std::string(name).c_str()); });
 }
 
 } // namespace velmara

@@ -1,6 +1,9 @@
+#include "velmara/Hvm.hpp"
+
 #include "system/calls.hpp"
 
 #include "system/Class.hpp"
+#include "system/HvmCall.hpp"
 #include "values/hostError.hpp"
 
 #include "orbis/objectArrays.hpp"
@@ -40,9 +43,7 @@ void requireConstructible(Class const& cls)
         throwHostError("VELMARA:class", "access", {name});
 }
 
-} // namespace
-
-ArrayPtr construct(HvmState& machine, std::string_view className, Inputs inputs)
+ArrayPtr constructObject(HvmState& machine, std::string_view className, Inputs inputs)
 {
     Class& cls = requireClass(machine, className);
     requireConstructible(cls);
@@ -52,10 +53,17 @@ ArrayPtr construct(HvmState& machine, std::string_view className, Inputs inputs)
             throwHostError("VELMARA:class", "noConstructor", {std::string(className)});
         return makeObject(cls);
     }
-    checkInputs(machine, inputs);
-    ConvertedInputs converted(capacityFor(inputs));
-    Method const& constructor = choose(constructors, {nullptr, inputs}, converted);
+    CallInputs const call{nullptr, inputs};
+    ConvertedInputs converted(call.capacity());
+    Method const& constructor = choose(constructors, call, converted);
     return invokeConstructor(cls, constructor, converted);
+}
+
+} // namespace
+
+ArrayPtr Hvm::construct(std::string_view className, Inputs inputs)
+{
+    return callInto(*state_, [&] { return constructObject(*state_, className, inputs); });
 }
 
 } // namespace velmara

@@ -1,5 +1,6 @@
 #include "system/dispatchErrors.hpp"
 
+#include "system/HvmState.hpp"
 #include "values/Array.hpp"
 #include "values/hostError.hpp"
 
@@ -52,11 +53,11 @@ std::string nameOf(Method const& method)
 
 void refuseNoMatch(std::span<Method const* const> candidates, CallInputs const& call)
 {
+    checkInputs(HvmState::required(), call.inputs);
     std::string explained;
     for (Method const* const method : candidates)
         explained += "\n  " + method->describe() + ": " + explain(*method, call);
-    throwHostError("VELMARA:dispatch", "noMatch",
-                   {nameOf(*candidates.front()), explained, describeGiven(call.inputs)});
+    throwHostError("VELMARA:dispatch", "noMatch", {nameOf(*candidates.front()), explained, describeGiven(call.inputs)});
 }
 
 void refuseAmbiguous(std::span<Method const* const> rivals, CallInputs const& call)
@@ -67,13 +68,18 @@ void refuseAmbiguous(std::span<Method const* const> rivals, CallInputs const& ca
     throwHostError("VELMARA:dispatch", "ambiguous", {nameOf(*rivals.front()), candidates, describeGiven(call.inputs)});
 }
 
-void refuseAccess(MethodGroup const& group)
+void refuseCall(MethodGroup const& group, CallInputs call)
 {
-    throwHostError("VELMARA:member", "access", {nameOf(*group.methods.front())});
-}
-
-void refuseAbstract(Method const& method)
-{
+    Method const& method = *group.methods.front();
+    if (group.accessible == 0)
+        throwHostError("VELMARA:member", "access", {nameOf(method)});
+    std::vector<Method const*> const candidates(group.methods.begin(), group.accessibleEnd());
+    auto const isCallable = [&call](Method const* candidate) {
+        ConvertedInputs trial(call.capacity());
+        return convertFor(*candidate, call, trial, [](Fit) {});
+    };
+    if (std::ranges::none_of(candidates, isCallable))
+        refuseNoMatch(candidates, call);
     throwHostError("VELMARA:member", "abstract", {nameOf(method)});
 }
 

@@ -2,6 +2,8 @@
 
 #include "system/Object.hpp"
 
+#include <span>
+
 namespace velmara {
 
 [[noreturn]] void refuseObject(Object const& object);
@@ -11,6 +13,14 @@ inline void requireUsable(HvmState const& machine, Object const& object)
 {
     if (!object.isValid() || object.machine() != &machine)
         refuseObject(object);
+}
+
+/// The same for each object that is there.
+inline void checkObjects(HvmState const& machine, std::span<Object* const> objects)
+{
+    for (Object const* const object : objects)
+        if (object)
+            requireUsable(machine, *object);
 }
 
 } // namespace velmara

@@ -1,7 +1,7 @@
-#include "system/propertyAccess.hpp"
+#include "velmara/Hvm.hpp"
 
 #include "system/Class.hpp"
-#include "system/HvmState.hpp"
+#include "system/HvmCall.hpp"
 #include "system/ResultValue.hpp"
 #include "system/calls.hpp"
 #include "values/hostError.hpp"
@@ -39,7 +39,9 @@ Object* requireOwner(Property const& property, Object* object)
 class ReadValue {
 public:
     ReadValue(Property const& property, Object* object)
-        : property_(property), object_(object), value_(property.info->getValue(object))
+        : property_(property),
+          object_(object),
+          value_(property.info->getValue(object))
     {
     }
     ReadValue(ReadValue const&) = delete;
@@ -70,7 +72,7 @@ ArrayPtr read(Property const& property, Object* object)
     ResultValue result(&type); // outlives the read value: the array goes after the property was told
     ReadValue const value(property, owner);
     result.slot() = value.value();
-    return result.take(property.name->view());
+    return result.take(property.name);
 }
 
 void write(HvmState& machine, Property const& property, Object* object, hvArray_tag* value)
@@ -85,28 +87,37 @@ void write(HvmState& machine, Property const& property, Object* object, hvArray_
     property.info->setValue(owner, *converted.values());
 }
 
+Property const& requireStaticProperty(HvmState& machine, std::string_view className, std::string_view property)
+{
+    return requireProperty(requireClass(machine, className), property);
+}
+
 } // namespace
 
-ArrayPtr getProperty(HvmState& machine, hvArray_tag* array, std::string_view property)
+ArrayPtr Hvm::get(hvArray_tag* array, std::string_view property)
 {
-    Object* const object = requireObject(machine, array);
-    return read(requireProperty(requireClassOf(machine, array, object), property), object);
+    return callInto(*state_, [&] {
+        Object* const object = requireObject(*state_, array);
+        return read(requireProperty(requireClassOf(*state_, array, object), property), object);
+    });
 }
 
-void setProperty(HvmState& machine, hvArray_tag* array, std::string_view property, hvArray_tag* value)
+void Hvm::set(hvArray_tag* array, std::string_view property, hvArray_tag* value)
 {
-    Object* const object = requireObject(machine, array);
-    write(machine, requireProperty(requireClassOf(machine, array, object), property), object, value);
+    callInto(*state_, [&] {
+        Object* const object = requireObject(*state_, array);
+        write(*state_, requireProperty(requireClassOf(*state_, array, object), property), object, value);
+    });
 }
 
-ArrayPtr getStaticProperty(HvmState& machine, std::string_view className, std::string_view property)
+ArrayPtr Hvm::getStatic(std::string_view className, std::string_view property)
 {
-    return read(requireProperty(requireClass(machine, className), property), nullptr);
+    return callInto(*state_, [&] { return read(requireStaticProperty(*state_, className, property), nullptr); });
 }
 
-void setStaticProperty(HvmState& machine, std::string_view className, std::string_view property, hvArray_tag* value)
+void Hvm::setStatic(std::string_view className, std::string_view property, hvArray_tag* value)
 {
-    write(machine, requireProperty(requireClass(machine, className), property), nullptr, value);
+    callInto(*state_, [&] { write(*state_, requireStaticProperty(*state_, className, property), nullptr, value); });
 }
 
 } // namespace velmara

@@ -33,7 +33,7 @@ inline constexpr char const* nativeTypeName<std::uint64_t> = "std::uint64_t";
 
 /// Calls `visit` with a zero of the native type of a numeric or logical class. `classID` must be one.
 template <class Visit>
-auto withScalarType(hvClassID classID, Visit visit)
+constexpr auto withScalarType(hvClassID classID, Visit visit)
 {
     switch (classID) {
     case hvLOGICAL_CLASS:
