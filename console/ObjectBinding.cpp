@@ -66,14 +66,9 @@ int readMember(lua_State* L)
     hvArray_tag* object = call.keep(checkObject(L, 1));
     if (!isValid(object))
         return call.finish(call.hvm().get(object, name)); // refused by the host, in its own words
-    switch (pushMember(L, cls, name)) {
-    case MemberKind::Callable:
+    if (pushMember(L, cls, name) == MemberKind::Callable)
         return 1;
-    case MemberKind::StaticProperty:
-        return call.finish(call.hvm().getStatic(cls, name));
-    default:
-        return call.finish(call.hvm().get(object, name));
-    }
+    return call.finish(call.hvm().get(object, name));
 }
 
 int writeMember(lua_State* L)
@@ -82,12 +77,9 @@ int writeMember(lua_State* L)
     std::string_view const cls = objectClass(L, 1);
     HostCall call(L);
     hvArray_tag* object = call.keep(checkObject(L, 1));
-    bool const isStatic = isValid(object) && checkProperty(L, cls, name) == MemberKind::StaticProperty;
-    hvArray_tag* value = call.inputs(3).front();
-    if (isStatic)
-        call.hvm().setStatic(cls, name, value);
-    else
-        call.hvm().set(object, name, value);
+    if (isValid(object))
+        checkProperty(L, cls, name);
+    call.hvm().set(object, name, call.inputs(3).front());
     return 0;
 }
 

@@ -142,13 +142,21 @@ ArrayPtr pairOf(COSValue const& a, COSValue const& b)
 
 class ProbeInfo final : public COSClassInfo {
 public:
+    explicit ProbeInfo(int& alive) : alive_(alive) {}
+
     char const* getName() const override { return probeClass; }
     char const* getDescription() const override { return "Holds any value, and gives it back."; }
     bool isHandle() const override { return true; }
-    void* createInstanceData() override { return new Probe; }
+
+    void* createInstanceData() override
+    {
+        ++alive_;
+        return new Probe;
+    }
 
     bool destroyInstanceData(COSInterface*, void* data) override
     {
+        --alive_;
         delete static_cast<Probe*>(data);
         return true;
     }
@@ -161,6 +169,11 @@ public:
                                   [](auto in) { return pairOf(in[0], in[1]); }));
         cls->addMethod(new Method("fail", false, "any", {self},
                                   [](auto) -> ArrayPtr { throw std::runtime_error("failed inside"); }));
+        cls->addMethod(new Method("same", false, probeClass, {self}, [](auto in) { return copyOf(in[0].array()); }));
+        cls->addMethod(
+            new Method("same", true, "any", {{"any", "value"}}, [](auto in) { return copyOf(in[0].array()); }));
+        cls->addMethod(
+            new Method("give", true, "any", {{probeClass, "probe"}}, [](auto in) { return copyOf(in[0].array()); }));
         cls->addProperty(new Property("value", MemberAccess::Public));
         cls->addProperty(new Property("fixed", MemberAccess::NoAccess));
         cls->addProperty(new Property("common", MemberAccess::Public, &common_));
@@ -168,6 +181,7 @@ public:
 
 private:
     Probe common_;
+    int& alive_;
 };
 
 template <class T>
@@ -192,7 +206,7 @@ public:
 
     void initializePackage(COSPackage* package) override
     {
-        package->addClass(new ProbeInfo);
+        package->addClass(new ProbeInfo(alive_));
         auto const add = [&](char const* name, std::vector<Parameter> inputs, Body body) {
             package->addFunction(new Method(name, true, "any", std::move(inputs), std::move(body)));
         };
@@ -201,7 +215,10 @@ public:
         add("many", std::vector<Parameter>(9, {"double scalar", "parameter"}),
             [](auto in) { return matrix<double>(1, 1, {in[8].template scalar<double>()}); });
         add("small", {}, [](auto) { return matrix<std::uint64_t>(1, 1, {7}); });
-        add("large", {}, [](auto) { return matrix<std::uint64_t>(1, 1, {most}); });
+        add("alive", {}, [this](auto) { return matrix<std::int32_t>(1, 1, {alive_}); });
+        add("large", {{"double scalar", "less"}}, [](auto in) {
+            return matrix<std::uint64_t>(1, 1, {most - static_cast<std::uint64_t>(in[0].template scalar<double>())});
+        });
         add("grid", {}, [](auto) { return matrix<std::int8_t>(2, 3, {1, 4, 2, 5, 3, -6}); });
         add("column", {}, [](auto) { return matrix<float>(2, 1, {0.5F, 2.0F}); });
         add("characters", {}, [](auto) { return characters(); });
@@ -217,6 +234,9 @@ public:
             return nest;
         });
     }
+
+private:
+    int alive_ = 0; // probes
 };
 
 } // namespace

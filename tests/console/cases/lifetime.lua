@@ -28,8 +28,13 @@ end
 print(p, isvalid(p), class(p))
 refused(value, p)
 
-for _ = 1, 1000 do cases.Probe().value = cases.Probe() end
 collectgarbage()
+print(cases.alive())
+for _ = 1, 100 do local given <close> = cases.Probe():twin() end
+for _ = 1, 100 do cases.Probe().value = cases.echo({cases.Probe(), 1}) end
+collectgarbage()
+collectgarbage()
+print(cases.alive())
 
 local kept = cases.Probe()
 local escaped, number = withvm(function(outer)

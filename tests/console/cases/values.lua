@@ -46,8 +46,8 @@ print(class({p, orbis_factory.Adder()}), back[1] == p, back[2].total)
 
 print(text(cases.small()), text(cases.grid()), text(cases.column()), text(cases.cells()))
 print(#cases.characters(), cases.characters()[1], cases.characters()[2] == "c\u{fffd}", cases.nobody())
-local large = cases.large()
-print(large, class(large), #large, large == cases.echo(large), large == p, cases.echo({large, 1})[1] == large)
+local large = cases.large(0)
+print(large, class(large), #large, large == cases.echo(large), large == p, large == cases.large(1), cases.echo({large, 1})[1] == large)
 print(p:pair(q)[1] == p, p:pair(q)[2] == q, p:twin() == p, q:twin() == p)
 local deep = cases.nests(200)
 for _ = 1, 200 do deep = deep[1] end
