@@ -8,12 +8,8 @@ void run(benchmark::State& state, void (bench::CallScenarios::*scenario)(std::si
 {
     bench::CallScenarios scenarios;
     constexpr std::size_t batch = 1000;
-    for (auto _ : state) {
+    for (auto _ : state)
         (scenarios.*scenario)(batch);
-        state.PauseTiming();
-        scenarios.giveBack();
-        state.ResumeTiming();
-    }
     state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * batch));
 }
 

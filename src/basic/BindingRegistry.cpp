@@ -4,6 +4,8 @@
 #include "orbis/factory/basic/registry.hpp"
 #include "orbis/factory/errorIdentities.hpp"
 
+#include "basic/HvmScoped.hpp"
+
 #include "libhv/libhv.hpp"
 #include "libkwfl/Exception.hpp"
 #include "libkwfoundation_usm/Detail.hpp"
@@ -32,6 +34,14 @@ COSInterfacePtr newInitializedInstance(COSNameID const& className)
     return instance;
 }
 
+// Inlined, as is `arrayOf`: returning a bound object is what results of calls do all the time.
+[[gnu::always_inline]] inline RegistryEntry* entryOf(void const* object)
+{
+    FooRegistry const& table = HvmScoped<FooRegistry>::get();
+    auto const found = table.find(object);
+    return found == table.end() ? nullptr : found->second;
+}
+
 /// An address that is a key already keeps its entry.
 void insert(void* object, COSInterface* host)
 {
@@ -43,13 +53,34 @@ void insert(void* object, COSInterface* host)
 /// Erases the mapping of `object`; an empty pointer when it is no key.
 std::unique_ptr<RegistryEntry> take(void const* object)
 {
-    FooRegistry& table = registry();
+    FooRegistry& table = HvmScoped<FooRegistry>::get();
     auto const found = table.find(object);
     if (found == table.end())
         return nullptr;
     std::unique_ptr<RegistryEntry> entry(found->second);
     table.erase(found);
     return entry;
+}
+
+[[gnu::always_inline]] inline hvArray* arrayOf(COSInterface* host, COSNameID const& className)
+{
+    ArrayOwner array(omCreateORBISMatrix(1, 1, className));
+    omSetArrayElement(array.get(), 0, COSInterfacePtr(host));
+    return array.release();
+}
+
+/// Makes and binds a host object, unless `object` is null.
+[[gnu::noinline]] hvArray* announceUnbound(void* object, COSNameID const& className)
+{
+    std::size_t const size = object ? 1 : 0;
+    ArrayOwner array(omCreateORBISMatrix(size, size, className));
+    if (object) {
+        COSInterfacePtr instance = newInitializedInstance(className);
+        instance->setNativeObject(className, object);
+        omSetArrayElement(array.get(), 0, instance);
+        insert(object, instance);
+    }
+    return array.release();
 }
 
 } // namespace
@@ -66,25 +97,14 @@ BindingRegistry& BindingRegistry::operator=(BindingRegistry&&)
 
 hvArray* BindingRegistry::announce(void* object, COSNameID const& className)
 {
-    bool created;
-    return announce(object, className, created);
+    RegistryEntry const* const bound = entryOf(object);
+    return bound ? arrayOf(bound->host, className) : announceUnbound(object, className);
 }
 
 hvArray* BindingRegistry::announce(void* object, COSNameID const& className, bool& created)
 {
-    COSInterface* const bound = find(object);
-    std::size_t const size = object ? 1 : 0;
-    ArrayOwner result(omCreateORBISMatrix(size, size, className));
-    if (bound) {
-        omSetArrayElement(result.get(), 0, COSInterfacePtr(bound));
-    } else if (object) {
-        COSInterfacePtr instance = newInitializedInstance(className);
-        instance->setNativeObject(className, object);
-        omSetArrayElement(result.get(), 0, instance);
-        insert(object, instance);
-    }
-    created = object && !bound;
-    return result.release();
+    created = object && !contains(object);
+    return announce(object, className);
 }
 
 hvArray* BindingRegistry::announce(void const* object, COSNameID const& className)
@@ -132,9 +152,8 @@ bool BindingRegistry::contains(void const* const object)
 
 COSInterface* BindingRegistry::find(void const* const object)
 {
-    FooRegistry const& table = registry();
-    auto const found = table.find(object);
-    return found == table.end() ? nullptr : found->second->host;
+    RegistryEntry const* const bound = entryOf(object);
+    return bound ? bound->host : nullptr;
 }
 
 void BindingRegistry::hijack(void const* const oldObject, void* newObject, COSInterface* host,

@@ -9,7 +9,7 @@
 namespace orbis::factory::basic {
 
 /// The one `T` of the current virtual machine, kept in its storage and made on first use.
-/// Threading: on the thread of the virtual machine; the id alone is made for all threads.
+/// Threading: on the thread of the virtual machine.
 template <class T>
 class HvmScoped {
     using Storage = foundation::usm::Detail<foundation::usm::scope::Hvm>;
@@ -17,18 +17,20 @@ class HvmScoped {
 public:
     static T& get()
     {
-        if (auto* const stored = Storage::find(id(), typeid(T))) [[likely]]
+        if (auto* const stored = Storage::find(id_, typeid(T))) [[likely]]
             return *static_cast<T*>(stored->get());
-        Storage::Holder holder(new T, [](void* object) { delete static_cast<T*>(object); });
-        return *static_cast<T*>(Storage::findOrInsert(id(), typeid(T), std::move(holder)).get());
+        return make();
     }
 
 private:
-    static std::uint64_t id()
+    [[gnu::noinline]] static T& make()
     {
-        static std::uint64_t const value = Storage::getNextID(typeid(T));
-        return value;
+        Storage::Holder holder(new T, [](void* object) { delete static_cast<T*>(object); });
+        return *static_cast<T*>(Storage::findOrInsert(id_, typeid(T), std::move(holder)).get());
     }
+
+    /// Given once in a process, as the library is loaded.
+    inline static std::uint64_t const id_ = Storage::getNextID(typeid(T));
 };
 
 } // namespace orbis::factory::basic

@@ -11,6 +11,13 @@
 
 namespace velmara {
 
+Array* Array::createFirstHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+{
+    auto* const array = new (ArrayMemory::take()) Array(classID, rows, columns, objectClass);
+    ++liveCountsOfThisThread().arrays;
+    return array;
+}
+
 Array* Array::createAround(Payload& payload, hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
 {
     try {

@@ -68,6 +68,10 @@ public:
     void setCell(std::size_t index, Array* value);
     void setObject(std::size_t index, Object* object);
 
+    /// Sets the one object of a 1-by-1 array of just its class, where none is yet; otherwise does nothing and gives
+    /// false. What every object that crosses passes through.
+    bool takeFirstObject(std::size_t index, Object& object);
+
     /// A new array of the same elements: one that shares the payload, or one that owns copies of all that it holds.
     /// What shares data inside the source shares it in a deep copy, too, so that a copy never outgrows its source.
     Array* shareData() const;
@@ -97,6 +101,9 @@ private:
 
     /// An array whose element, if it has one, stands in the array itself.
     static Array* createHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
+
+    /// The same where the thread has no memory kept, or does not count yet.
+    static Array* createFirstHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
 
     /// Takes over `payload`, also when it throws.
     static Array* createAround(Payload& payload, hvClassID classID, std::size_t rows, std::size_t columns,
@@ -138,9 +145,23 @@ static_assert(sizeof(Array) == ArrayMemory::size);
 
 inline Array* Array::createHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
 {
-    auto* const array = new (ArrayMemory::take()) Array(classID, rows, columns, objectClass);
-    ++liveCountsOfThisThread().arrays;
-    return array;
+    LiveCounts* const counts = shareOfThisThread;
+    void* const memory = counts ? ArrayMemory::takeKept() : nullptr;
+    if (!memory) [[unlikely]]
+        return createFirstHeader(classID, rows, columns, objectClass);
+    ++counts->arrays;
+    return new (memory) Array(classID, rows, columns, objectClass);
+}
+
+inline bool Array::takeFirstObject(std::size_t index, Object& object)
+{
+    bool const isFirst = classID_ == hvOBJECT_CLASS && index < size() && !hasPayload() && !*objectSlots() &&
+                         objectClass_ == object.className();
+    if (isFirst) [[likely]] {
+        object.addInternal();
+        *objectSlots() = &object;
+    }
+    return isFirst;
 }
 
 inline void Array::setObject(std::size_t index, Object* object)

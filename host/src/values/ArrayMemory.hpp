@@ -14,6 +14,9 @@ public:
 
     /// Throws `bad_alloc`.
     static void* take();
+
+    /// Null when the thread keeps no piece.
+    static void* takeKept();
     static void giveBack(void* memory) noexcept;
 
 private:
@@ -37,14 +40,20 @@ private:
     static void freeKept() noexcept;
 };
 
-inline void* ArrayMemory::take()
+inline void* ArrayMemory::takeKept()
 {
     Piece* const piece = kept_.first;
-    if (!piece) [[unlikely]]
-        return allocate();
-    kept_.first = piece->next;
-    ++kept_.room;
+    if (piece) [[likely]] {
+        kept_.first = piece->next;
+        ++kept_.room;
+    }
     return piece;
+}
+
+inline void* ArrayMemory::take()
+{
+    void* const kept = takeKept();
+    return kept ? kept : allocate();
 }
 
 inline void ArrayMemory::giveBack(void* memory) noexcept

@@ -55,10 +55,9 @@ COSInterfacePtr::~COSInterfacePtr()
     letGo(object_, type_);
 }
 
-COSInterfacePtr::operator COSInterface*() const
+COSInterface* COSInterfacePtr::livingObject() const
 {
-    bool const isGone = type_ == COSReferenceType::Weak && object_ && static_cast<Object*>(object_)->isEnded();
-    return isGone ? nullptr : object_;
+    return object_ && static_cast<Object*>(object_)->isEnded() ? nullptr : object_;
 }
 
 COSInterface* COSInterfacePtr::operator->()

@@ -5,6 +5,13 @@
 
 namespace velmara {
 
+HvmStorage::Entry* HvmStorage::findAmong(Entry* first, std::type_info const& type)
+{
+    while (first && *first->type != type)
+        first = first->sameID;
+    return first;
+}
+
 HvmStorage::Holder& HvmStorage::findOrInsert(std::uint64_t id, std::type_info const& type, Holder&& value)
 {
     Holder* const stored = find(id, type);

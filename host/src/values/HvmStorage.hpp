@@ -42,11 +42,15 @@ private:
 
     Entry* findEntry(std::uint64_t id, std::type_info const& type) const
     {
-        Entry* entry = id < byID_.size() ? byID_[id] : nullptr;
-        while (entry && entry->type != &type && *entry->type != type)
-            entry = entry->sameID;
-        return entry;
+        Entry* const entry = id < byID_.size() ? byID_[id] : nullptr;
+        if (!entry || entry->type == &type) [[likely]]
+            return entry;
+        return findAmong(entry, type);
     }
+
+    /// The entry of that type from `first` on: one id may be used with several types, and one type may have several
+    /// addresses.
+    static Entry* findAmong(Entry* first, std::type_info const& type);
 
     Holder& store(std::list<Entry>& made);
     void remove(Entry& entry);

@@ -22,6 +22,16 @@ Object* objectOf(COSInterfacePtr const& handle)
         throwHostError("VELMARA:array", "wrongClass", {std::string(className->view()), std::string(array.className())});
 }
 
+/// Kept out of the way of the one object of a new array.
+[[gnu::noinline]] void setElement(hvArray_tag* array, std::size_t index, COSInterfacePtr const& handle)
+{
+    Array& objects = requireObject(array, index);
+    Object* const object = objectOf(handle);
+    if (object && object->className() != objects.objectClass())
+        requireClass(objects, object->className());
+    objects.setObject(index, object);
+}
+
 } // namespace
 
 hvArray* omCreateORBISScalar(COSInterfacePtr const& object)
@@ -51,11 +61,12 @@ COSInterfacePtr cosiGetArrayElement(hvArray_tag const* array, std::size_t index)
 
 void omSetArrayElement(hvArray_tag* array, std::size_t index, COSInterfacePtr const& object)
 {
-    Array& objects = requireObject(array, index);
-    Object* const held = objectOf(object);
-    if (held && held->className() != objects.objectClass())
-        requireClass(objects, held->className());
-    objects.setObject(index, held);
+    if (array && object.getReferenceType() == COSReferenceType::Strong) [[likely]] {
+        Object* const held = objectOf(object);
+        if (held && Array::of(array)->takeFirstObject(index, *held))
+            return;
+    }
+    setElement(array, index, object);
 }
 
 bool omIsORBIS(hvArray_tag const* array)

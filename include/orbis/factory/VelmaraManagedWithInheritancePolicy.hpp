@@ -2,6 +2,7 @@
 
 #include "orbis/factory/Marshaler.hpp"
 #include "orbis/factory/detail/ObjectPointerMarshaler.hpp"
+#include "orbis/factory/export.hpp"
 
 namespace orbis::factory {
 

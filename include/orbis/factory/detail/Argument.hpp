@@ -16,7 +16,7 @@ concept TravelsInSlot = requires(COSValue const& slot) {
 };
 
 template <class T>
-decltype(auto) convertFromHost(COSValue const& slot)
+[[gnu::always_inline]] inline decltype(auto) convertFromHost(COSValue const& slot)
 {
     if constexpr (TravelsInSlot<T>)
         return MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(slot);

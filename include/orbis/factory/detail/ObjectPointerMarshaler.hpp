@@ -2,22 +2,33 @@
 
 #include "orbis/factory/HostClass.hpp"
 #include "orbis/factory/basic/BindingRegistry.hpp"
-#include "orbis/factory/export.hpp"
 
 #include "libhv/hvArray.hpp"
 #include "orbis/COSInterface.hpp"
+#include "orbis/COSInterfacePtr.hpp"
 #include "orbis/COSNameID.hpp"
+#include "orbis/objectArrays.hpp"
 
 #include <type_traits>
 
 namespace orbis::factory::detail {
 
-/// The native object recorded for `className` in the first object of `array`; null when the array is empty, its
-/// first element is null, or nothing is recorded.
-ORBIS_FACTORY_API void* nativeObject(hvArray_tag const* array, char const* className);
-
 /// The native object recorded for `className` in `object`; null for null, and when nothing is recorded.
-ORBIS_FACTORY_API void* nativeObject(COSInterface const* object, char const* className);
+inline void* nativeObject(COSInterface const* object, char const* className)
+{
+    return object ? object->getNativeObject(COSNameID(className)) : nullptr;
+}
+
+/// The native object recorded for `className` in the first object of `array`; null when the array is empty, its
+/// first element is null, or nothing is recorded. It stands here because every call of a member begins with it: inlined
+/// it costs what the host's operations cost.
+[[gnu::always_inline]] inline void* nativeObject(hvArray_tag const* array, char const* className)
+{
+    if (!array || array->get_number_of_elements() == 0)
+        return nullptr;
+    COSInterfacePtr const object = omGetArrayElement(array, 0);
+    return nativeObject(static_cast<COSInterface const*>(object), className);
+}
 
 /// What the policies for one object have in common. `Cast` goes between the address under which an object is bound
 /// and a pointer to its native class.

@@ -17,7 +17,7 @@ public:
     ~COSInterfacePtr();
 
     /// The raw object: null for an empty handle, and for a weak one whose object has ended.
-    operator COSInterface*() const;
+    operator COSInterface*() const { return type_ == COSReferenceType::Strong ? object_ : livingObject(); }
 
     COSInterface* operator->();
     COSInterface const* operator->() const;
@@ -26,8 +26,12 @@ public:
 
     /// Switches this handle's hold on the object.
     void setReferenceType(COSReferenceType type);
+    COSReferenceType getReferenceType() const { return type_; }
 
 private:
+    /// What a weak handle still has.
+    COSInterface* livingObject() const;
+
     COSInterface* object_;
     COSReferenceType type_;
 };

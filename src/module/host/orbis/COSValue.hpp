@@ -20,22 +20,31 @@ concept COSScalar = std::same_as<T, bool> || std::same_as<T, float> || std::same
 class COSValue {
 public:
     COSValue() = default;
-    explicit COSValue(hvArray_tag* array) : class_(hvUNKNOWN_CLASS), isArray_(true) { payload_.array = array; }
+
+    /// Null gives an empty record.
+    explicit COSValue(hvArray_tag* array) : kind_(array ? arrayKind : emptyKind) { payload_.array = array; }
 
     template <COSScalar T>
-    explicit COSValue(T scalar) : class_(classOf<T>())
+    explicit COSValue(T scalar) : kind_(classOf<T>())
     {
         *reinterpretPayload<T>(&payload_) = scalar;
     }
 
-    bool isEmpty() const { return !isArray_ && class_ == hvUNKNOWN_CLASS; }
-    bool isArray() const { return isArray_; }
+    bool isEmpty() const { return kind_ == emptyKind; }
+    bool isArray() const { return kind_ == arrayKind; }
 
     /// The class of the scalar, `hvUNKNOWN_CLASS` when the record holds none.
-    hvClassID scalarClass() const { return class_; }
+    hvClassID scalarClass() const { return isArray() ? hvUNKNOWN_CLASS : static_cast<hvClassID>(kind_); }
 
-    /// The array (null allowed); null when the record holds no array.
-    hvArray_tag* array() const { return isArray_ ? payload_.array : nullptr; }
+    /// The array; null when the record holds none.
+    hvArray_tag* array() const
+    {
+        if (!isArray())
+            return nullptr;
+        if (!payload_.array)
+            __builtin_unreachable(); // so that callers that test for null pay for one test
+        return payload_.array;
+    }
 
     /// The scalar. The record must hold one of exactly that kind; it is not tested here.
     template <COSScalar T>
@@ -49,6 +58,9 @@ public:
     static constexpr hvClassID classOf();
 
 private:
+    static constexpr std::uint64_t emptyKind = hvUNKNOWN_CLASS;
+    static constexpr std::uint64_t arrayKind = ~std::uint64_t{0};
+
     union Payload {
         hvArray_tag* array;
         std::uint64_t bits;
@@ -72,8 +84,7 @@ private:
     }
 
     Payload payload_{.bits = 0};
-    hvClassID class_ = hvUNKNOWN_CLASS;
-    bool isArray_ = false;
+    std::uint64_t kind_ = emptyKind; ///< the scalar's class, or `arrayKind`
 };
 
 template <COSScalar T>
