@@ -55,7 +55,8 @@ public:
     char const* getName() const override { return "add"; }
     orbis::COSMethodSignature const* getMethodSignature() const override { return nullptr; }
 
-    void invoke(orbis::COSClient const*, int& outputCount, COSValue* outputs, int, COSValue const* inputs) const override
+    void invoke(orbis::COSClient const*, int& outputCount, COSValue* outputs, int,
+                COSValue const* inputs) const override
     {
         Adder* self = nullptr;
         hvArray const* const array = inputs[0].array();
@@ -92,9 +93,8 @@ class Fixture {
 public:
     Fixture() : scope_(hvm)
     {
-        orbis::factory::registerOrbisPackage("bench_package", [](orbis::COSPackage* package) {
-            package->addClass(new AdderInfo);
-        });
+        orbis::factory::registerOrbisPackage("bench_package",
+                                             [](orbis::COSPackage* package) { package->addClass(new AdderInfo); });
         object = hvm.construct(adderName);
         orbis::COSInterface* const host = orbis::omGetArrayElement(object.get(), 0);
         native = static_cast<Adder*>(host->getNativeObject(COSNameID(adderName)));

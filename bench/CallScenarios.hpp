@@ -12,7 +12,8 @@ namespace bench {
 class CallScenarios {
 public:
     /// Calls as the host does: it knows no more of a descriptor than its base class.
-    [[gnu::noipa]] void invoke(orbis::COSMethodInfo const& method, COSValue const* inputs, int inputCount, std::size_t count)
+    [[gnu::noipa]] void invoke(orbis::COSMethodInfo const& method, COSValue const* inputs, int inputCount,
+                               std::size_t count)
     {
         for (std::size_t i = 0; i < count; ++i) {
             int outputCount = 1;

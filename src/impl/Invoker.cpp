@@ -106,8 +106,8 @@ void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e
     create(names, output, self, {a, b, c, d, e, f, g, h, i}, to);
 }
 
-void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, Signature&
-                              to)
+void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j,
+                              Signature& to)
 {
     create(names, output, self, {a, b, c, d, e, f, g, h, i, j}, to);
 }
@@ -124,50 +124,50 @@ void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e
     create(names, output, self, {a, b, c, d, e, f, g, h, i, j, k, l}, to);
 }
 
-void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l, T
-                              m, Signature& to)
+void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l,
+                              T m, Signature& to)
 {
     create(names, output, self, {a, b, c, d, e, f, g, h, i, j, k, l, m}, to);
 }
 
-void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l, T
-                              m, T n, Signature& to)
+void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l,
+                              T m, T n, Signature& to)
 {
     create(names, output, self, {a, b, c, d, e, f, g, h, i, j, k, l, m, n}, to);
 }
 
-void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l, T
-                              m, T n, T o, Signature& to)
+void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l,
+                              T m, T n, T o, Signature& to)
 {
     create(names, output, self, {a, b, c, d, e, f, g, h, i, j, k, l, m, n, o}, to);
 }
 
-void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l, T
-                              m, T n, T o, T p, Signature& to)
+void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l,
+                              T m, T n, T o, T p, Signature& to)
 {
     create(names, output, self, {a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p}, to);
 }
 
-void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l, T
-                              m, T n, T o, T p, T q, Signature& to)
+void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l,
+                              T m, T n, T o, T p, T q, Signature& to)
 {
     create(names, output, self, {a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q}, to);
 }
 
-void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l, T
-                              m, T n, T o, T p, T q, T r, Signature& to)
+void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l,
+                              T m, T n, T o, T p, T q, T r, Signature& to)
 {
     create(names, output, self, {a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r}, to);
 }
 
-void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l, T
-                              m, T n, T o, T p, T q, T r, T s, Signature& to)
+void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l,
+                              T m, T n, T o, T p, T q, T r, T s, Signature& to)
 {
     create(names, output, self, {a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s}, to);
 }
 
-void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l, T
-                              m, T n, T o, T p, T q, T r, T s, T t, Signature& to)
+void Invoker::createSignature(T names, T output, T self, T a, T b, T c, T d, T e, T f, T g, T h, T i, T j, T k, T l,
+                              T m, T n, T o, T p, T q, T r, T s, T t, Signature& to)
 {
     create(names, output, self, {a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t}, to);
 }

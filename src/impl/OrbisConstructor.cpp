@@ -10,7 +10,7 @@ OrbisConstructor::OrbisConstructor(char const* name, MethodAttributes attributes
 OrbisConstructor::~OrbisConstructor() = default;
 
 void OrbisConstructor::invoke(COSClient const* client, int& outputCount, COSValue* outputs, int inputCount,
-                        COSValue const* inputs) const
+                              COSValue const* inputs) const
 {
     invoker_.invokeFn(&invoker_, client, outputCount, outputs, inputCount, inputs);
 }

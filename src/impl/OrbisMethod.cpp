@@ -3,7 +3,9 @@
 namespace orbis::factory {
 
 OrbisMethod::OrbisMethod(String const& name, MethodAttributes attributes, String const& description)
-    : name_(name), description_(description), attributes_(attributes)
+    : name_(name),
+      description_(description),
+      attributes_(attributes)
 {
 }
 

@@ -25,7 +25,9 @@ Getter::~Getter() = default;
 Setter::~Setter() = default;
 
 PropertyImpl::PropertyImpl(String const& name, Getter* getter, Setter* setter, PropertyAttributes attributes)
-    : PropertyImplBase(name, "", attributes), getter_(getter), setter_(setter)
+    : PropertyImplBase(name, "", attributes),
+      getter_(getter),
+      setter_(setter)
 {
 }
 

@@ -3,7 +3,9 @@
 namespace orbis::factory::impl {
 
 PropertyImplBase::PropertyImplBase(String const& name, String const& description, PropertyAttributes attributes)
-    : name_(name), description_(description), attributes_(attributes)
+    : name_(name),
+      description_(description),
+      attributes_(attributes)
 {
 }
 

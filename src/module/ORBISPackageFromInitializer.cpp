@@ -4,9 +4,9 @@
 
 namespace orbis::factory {
 
-ORBISPackageFromInitializer::ORBISPackageFromInitializer(std::string name,
-                                                         std::function<void(COSPackage*)> initializer)
-    : name_(std::move(name)), initializer_(std::move(initializer))
+ORBISPackageFromInitializer::ORBISPackageFromInitializer(std::string name, std::function<void(COSPackage*)> initializer)
+    : name_(std::move(name)),
+      initializer_(std::move(initializer))
 {
 }
 

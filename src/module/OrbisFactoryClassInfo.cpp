@@ -3,7 +3,8 @@
 namespace orbis::factory {
 
 OrbisFactoryClassInfo::OrbisFactoryClassInfo(std::string const& name, std::string const& description)
-    : name_(name), description_(description)
+    : name_(name),
+      description_(description)
 {
 }
 

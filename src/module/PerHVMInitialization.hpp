@@ -19,8 +19,7 @@ public:
     {
         if (Storage::find(id(), typeid(PerHVMInitialization)))
             return false;
-        Storage::insert(id(), typeid(PerHVMInitialization),
-                        Storage::Holder(new PerHVMInitialization, [](void* object) {
+        Storage::insert(id(), typeid(PerHVMInitialization), Storage::Holder(new PerHVMInitialization, [](void* object) {
                             delete static_cast<PerHVMInitialization*>(object);
                         }));
         return true;

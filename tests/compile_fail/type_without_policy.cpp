@@ -14,4 +14,5 @@ struct orbis::factory::HostClass<Published> {
     static constexpr char const* name = "tests.Published";
 };
 
-auto const described = orbis::factory::describe<Published>().method("take", &Published::take).method("again", &Published::take);
+auto const described =
+    orbis::factory::describe<Published>().method("take", &Published::take).method("again", &Published::take);

@@ -17,9 +17,14 @@ namespace {
 std::string answers(M const& a)
 {
     auto const letter = [](char c, bool set) { return set ? static_cast<char>(c - 'a' + 'A') : c; };
-    return {letter('l', a.isLocked()),   letter('v', a.isVisible()),      letter('s', a.isSealed()),
-            letter('t', a.isStatic()),   letter('a', a.isAbstract()),     letter('d', a.isDestructible()),
-            letter('o', a.doesMethodOverrideAllSignatures()),             letter('f', a.forceMemberMethod()),
+    return {letter('l', a.isLocked()),
+            letter('v', a.isVisible()),
+            letter('s', a.isSealed()),
+            letter('t', a.isStatic()),
+            letter('a', a.isAbstract()),
+            letter('d', a.isDestructible()),
+            letter('o', a.doesMethodOverrideAllSignatures()),
+            letter('f', a.forceMemberMethod()),
             static_cast<char>('0' + static_cast<int>(a.getMemberAccess()))};
 }
 

@@ -186,8 +186,8 @@ TEST_F(BindingRegistryTest, ValuesAreCopiedWithoutABinding)
 {
     Plain source{42};
     static void* filled = nullptr;
-    ArrayPtr const array(BindingRegistry::announceWithoutStoring(
-        &source, COSNameID("tests.Value"), [](void* destination, void* from) {
+    ArrayPtr const array(
+        BindingRegistry::announceWithoutStoring(&source, COSNameID("tests.Value"), [](void* destination, void* from) {
             filled = destination;
             EXPECT_TRUE(CopyableSupport::isInUnconstructedSet(destination));
             *static_cast<Plain*>(destination) = *static_cast<Plain*>(from);

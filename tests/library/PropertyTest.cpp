@@ -54,8 +54,9 @@ public:
                          .property("next", &Node::next, &Node::setNext)
                          .property("fixed", &Node::weight)
                          .property("guarded", &Node::weight, &Node::setWeight, P::PrivateSetter() + P::Transient())
-                         .property("doubled", [](Node const* node) { return node->weight() * 2; },
-                                   [](Node* node, int value) { node->setWeight(value / 2); })
+                         .property(
+                             "doubled", [](Node const* node) { return node->weight() * 2; },
+                             [](Node* node, int value) { node->setWeight(value / 2); })
                          .writeOnlyProperty("written", &Node::setWeight, P::Destructible())
                          .staticProperty("kind", [] { return 3.5; }));
     }
@@ -146,8 +147,9 @@ TEST_F(PropertyTest, MissingSidesHaveNoAccess)
         }
         return "";
     };
-    for (std::string const& error : {id([&] { writeOnly.getValue(object); }), id([&] { writeOnly.releaseValue(object, {}); }),
-                                     id([&] { readOnly.setValue(object, COSValue(1)); })})
+    for (std::string const& error :
+         {id([&] { writeOnly.getValue(object); }), id([&] { writeOnly.releaseValue(object, {}); }),
+          id([&] { readOnly.setValue(object, COSValue(1)); })})
         EXPECT_EQ(error, "orbis_factory:orbis_factory:null_fcn_ptr");
 
     EXPECT_FALSE(held.getInterfaces(nullptr, object).hasMoreElements());

@@ -23,9 +23,9 @@ TEST(ParameterNamer, NamesFollowTheirList)
         char const* list;
         char const* names;
     };
-    for (auto const& [list, names] : {Case{nullptr, "[p0][p1][p2]"}, Case{"", "[p0][p1][p2]"}, Case{"a, b", "[a][b][p2]"},
-                                      Case{"a,,c", "[a][][c]"}, Case{" ", "[][p1][p2]"}, Case{"a b,\tc", "[ab][\tc][p2]"},
-                                      Case{",", "[][][p2]"}}) {
+    for (auto const& [list, names] :
+         {Case{nullptr, "[p0][p1][p2]"}, Case{"", "[p0][p1][p2]"}, Case{"a, b", "[a][b][p2]"}, Case{"a,,c", "[a][][c]"},
+          Case{" ", "[][p1][p2]"}, Case{"a b,\tc", "[ab][\tc][p2]"}, Case{",", "[][][p2]"}}) {
         ParameterNamer const namer(list);
         EXPECT_EQ(namesOf(namer, 3), names);
         EXPECT_STREQ(namer.getOutputParameter(7).c_str(), "result");
@@ -36,8 +36,7 @@ TEST(ParameterNamer, NamesFollowTheirList)
 class SignatureTest : public HvmTest {
 protected:
     /// What the host reads back from a signature.
-    template <class F>
-    velmara::MethodRecord made(F create)
+    velmara::MethodRecord made(std::function<void(COSMethodSignaturePtr&)> create)
     {
         static int number = 0;
         std::string const name = "f" + std::to_string(number++);
@@ -64,13 +63,11 @@ TEST_F(SignatureTest, OutputSelfAndInputsComeInOrder)
     ASSERT_EQ(record.outputs.size(), 1u);
     EXPECT_EQ(record.outputs[0].name + ":" + record.outputs[0].dataType, "result:double scalar");
 
-    auto const none = made([](COSMethodSignaturePtr& signature) {
-        Invoker::createSignature(nullptr, "void", nullptr, signature);
-    });
+    auto const none =
+        made([](COSMethodSignaturePtr& signature) { Invoker::createSignature(nullptr, "void", nullptr, signature); });
     EXPECT_TRUE(none.inputs.empty() && none.outputs.empty());
-    auto const nearlyVoid = made([](COSMethodSignaturePtr& signature) {
-        Invoker::createSignature(nullptr, "void ", nullptr, signature);
-    });
+    auto const nearlyVoid =
+        made([](COSMethodSignaturePtr& signature) { Invoker::createSignature(nullptr, "void ", nullptr, signature); });
     EXPECT_EQ(nearlyVoid.outputs.size(), 1u);
 }
 

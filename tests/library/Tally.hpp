@@ -69,7 +69,8 @@ public:
                          .method("mean", &Tally::mean)
                          .method("fail", &Tally::fail)
                          .method("forced", &valueOrMinusOne)
-                         .method("doubled", [](Tally* tally, int by) { return tally->value() * by; }, "tally, by")
+                         .method(
+                             "doubled", [](Tally* tally, int by) { return tally->value() * by; }, "tally, by")
                          .staticMethod("plus", &plus, "a, b")
                          .staticMethod("optional", &valueOrMinusOne));
     }

@@ -52,7 +52,7 @@ struct ClassRecord {
     bool isAbstract = false;
     bool isHidden = false;
     std::vector<std::string> superclasses; ///< direct ones
-    std::vector<MethodRecord> methods;     ///< constructors first, then in the order of description, inherited ones last
+    std::vector<MethodRecord> methods; ///< constructors first, then in the order of description, inherited ones last
     std::vector<PropertyRecord> properties;
 };
 

@@ -33,8 +33,8 @@ private:
 };
 
 /// Gives the host class a descriptor for every member of the description: constructors, then methods, then properties,
-/// each kind in the order of description. To be called by the class info's `initializeClass`. Errors of the host pass through; what was
-/// handed over before stays the host's.
+/// each kind in the order of description. To be called by the class info's `initializeClass`. Errors of the host pass
+/// through; what was handed over before stays the host's.
 ORBIS_FACTORY_API void publish(COSClass* cls, ClassDescription const& description);
 
 } // namespace orbis::factory

@@ -11,8 +11,7 @@ namespace orbis::factory {
 class StaticCastPolicy {};
 
 template <>
-class ORBIS_FACTORY_API Marshaler<StaticCastPolicy>
-    : public detail::ObjectPointerMarshaler<detail::StaticCast> {
+class ORBIS_FACTORY_API Marshaler<StaticCastPolicy> : public detail::ObjectPointerMarshaler<detail::StaticCast> {
 public:
     Marshaler& operator=(Marshaler const&);
     Marshaler& operator=(Marshaler&&);

@@ -110,9 +110,9 @@ public:
     ClassDescriber& property(char const* name, G getter, S setter, PropertyAttributes attributes = {})
     {
         if constexpr (checkGetter<G>() && checkSetter<S>()) {
-            constexpr bool areOneType = std::is_same_v<
-                typename detail::NativeType<detail::Stored<T, G>>::Type,
-                typename detail::NativeType<typename detail::SetterTraits<T, S>::Value>::Type>;
+            constexpr bool areOneType =
+                std::is_same_v<typename detail::NativeType<detail::Stored<T, G>>::Type,
+                               typename detail::NativeType<typename detail::SetterTraits<T, S>::Value>::Type>;
             static_assert(areOneType, "The setter takes another type than the getter gives: make the two types one.");
             PropertyRecord record{name, attributes};
             detail::setGetter<T>(record, getter);

@@ -11,9 +11,7 @@ namespace orbis::factory::detail {
 
 /// Marshalers of native scalars work on the value slot itself, all others on the array in it.
 template <class T>
-concept TravelsInSlot = requires(COSValue const& slot) {
-    MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(slot);
-};
+concept TravelsInSlot = requires(COSValue const& slot) { MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(slot); };
 
 template <class T>
 [[gnu::always_inline]] inline decltype(auto) convertFromHost(COSValue const& slot)

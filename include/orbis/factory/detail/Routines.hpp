@@ -29,9 +29,8 @@ struct FreeFunctionRoutine<Pointer, Result, TypeList<A...>> {
             if constexpr (std::is_pointer_v<std::remove_cvref_t<decltype(arguments.first())>>)
                 impl::validateSelfPointer(arguments.first(), *invoker);
         }
-        storeResult<Result>(outputCount, outputs, [&]() -> Result {
-            return arguments.apply(invoker->target.template as<Pointer>());
-        });
+        storeResult<Result>(outputCount, outputs,
+                            [&]() -> Result { return arguments.apply(invoker->target.template as<Pointer>()); });
     }
 };
 
@@ -72,9 +71,8 @@ struct ConstructorRoutine {
             assign(*existing, arguments);
             announce(existing, constructed);
         } else {
-            auto made = arguments.apply([](auto&&... values) {
-                return std::make_unique<T>(static_cast<decltype(values)>(values)...);
-            });
+            auto made = arguments.apply(
+                [](auto&&... values) { return std::make_unique<T>(static_cast<decltype(values)>(values)...); });
             announce(made.get(), constructed);
             made.release();
         }
@@ -86,15 +84,16 @@ private:
     static void announce(T* object, hvArray* constructed)
     {
         using Bound = MarshalerOf<T*>;
-        basic::BindingRegistry::announceForConstructor(Bound::boundAddress(object),
-                                                       Bound::template dataTypeName<T>(), constructed, true);
+        basic::BindingRegistry::announceForConstructor(Bound::boundAddress(object), Bound::template dataTypeName<T>(),
+                                                       constructed, true);
     }
 
     static void assign([[maybe_unused]] T& existing, [[maybe_unused]] ArgumentsOf<A...>& arguments)
     {
         if constexpr (sizeof...(A) > 0) {
             if constexpr (std::is_move_assignable_v<T>)
-                existing = arguments.apply([](auto&&... values) { return T(static_cast<decltype(values)>(values)...); });
+                existing =
+                    arguments.apply([](auto&&... values) { return T(static_cast<decltype(values)>(values)...); });
             else
                 refuseReconstruction(HostClass<T>::name);
         }

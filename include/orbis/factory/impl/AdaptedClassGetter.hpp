@@ -9,7 +9,8 @@ template <class R, class T, class F, class V>
 class AdaptedClassGetter final : public CallableGetter<AdaptedClassGetter<R, T, F, V>, R, V> {
 public:
     explicit AdaptedClassGetter(F function, ReleaseRoutine release = nullptr)
-        : CallableGetter<AdaptedClassGetter, R, V>(release), function_(function)
+        : CallableGetter<AdaptedClassGetter, R, V>(release),
+          function_(function)
     {
     }
 

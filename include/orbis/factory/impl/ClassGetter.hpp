@@ -9,7 +9,8 @@ template <class R, class T, class F, class V>
 class ClassGetter final : public CallableGetter<ClassGetter<R, T, F, V>, R, V> {
 public:
     explicit ClassGetter(F function, ReleaseRoutine release = nullptr)
-        : CallableGetter<ClassGetter, R, V>(release), function_(function)
+        : CallableGetter<ClassGetter, R, V>(release),
+          function_(function)
     {
     }
 

@@ -9,7 +9,8 @@ template <class R, class V>
 class ClasslessGetter final : public CallableGetter<ClasslessGetter<R, V>, R, V> {
 public:
     explicit ClasslessGetter(R (*function)(), ReleaseRoutine release = nullptr)
-        : CallableGetter<ClasslessGetter, R, V>(release), function_(function)
+        : CallableGetter<ClasslessGetter, R, V>(release),
+          function_(function)
     {
     }
 

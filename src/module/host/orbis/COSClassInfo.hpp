@@ -56,37 +56,37 @@ public:
 
     /// True for a handle class (objects are passed by identity), false for a value class.
     virtual bool isHandle() const = 0;
-    virtual bool isHandleCompatible() const;                   ///< false
-    virtual bool isEnumeration() const;                        ///< false
-    virtual MemberAccess getConnectAccess() const;             ///< Public
-    virtual COSConnectivity getConnectivity() const;           ///< None
-    virtual bool areChildrenSaved() const;                     ///< false
-    virtual bool isAbstract() const;                           ///< false
-    virtual bool useClassDefaultsOnLoad() const;               ///< false
-    virtual bool isSealed() const;                             ///< false
-    virtual bool isPropertyTruncationAllowed() const;          ///< false
-    virtual bool isConstructedOnLoad() const;                  ///< false
-    virtual bool arePropertiesCaseInsensitive() const;         ///< false
-    virtual bool isInstanceLeaf() const;                       ///< true
-    virtual bool isDestructible() const;                       ///< true
-    virtual bool isLocked() const;                             ///< true
-    virtual bool attemptToLoadProperty(char const* name);      ///< false
-    virtual bool attemptToLoadMethod(char const* name);        ///< false
-    virtual bool attemptToLoadEvent(char const* name);         ///< false
-    virtual void instanceLoaded(COSInterfacePtr object, COSLoadInfo const* info);                        ///< nothing
-    virtual bool customSave(COSInterfacePtr object, COSValue& value, COSDataTypePtr& type) const;        ///< false
-    virtual bool customLoad(COSInterfacePtr& object, COSValue value, COSDataTypePtr type) const;         ///< false
-    virtual COSModule* getModule() const;                      ///< null
-    virtual bool areClassFunctionsAllowed() const;             ///< true
-    virtual bool areExtensionMethodsAllowed() const;           ///< false
-    virtual bool usesRootRecords() const;                      ///< false
-    virtual bool doEventsHaveSeparateNamespace() const;        ///< false
-    virtual bool doesInexactPropertyNameIssueWarning() const;  ///< false
-    virtual bool usesCustomChildrenList() const;               ///< false
-    virtual COSArrayNature getArrayNature() const;             ///< Heterogeneous
-    virtual Enumeration<COSInterface*> getChildrenOfInstance(COSInterface* object) const; ///< none
-    virtual bool classIsAbstract() const;                      ///< what `isAbstract` gives
-    virtual bool allowInstanceUpdates() const;                 ///< false
+    virtual bool isHandleCompatible() const;                                                      ///< false
+    virtual bool isEnumeration() const;                                                           ///< false
+    virtual MemberAccess getConnectAccess() const;                                                ///< Public
+    virtual COSConnectivity getConnectivity() const;                                              ///< None
+    virtual bool areChildrenSaved() const;                                                        ///< false
+    virtual bool isAbstract() const;                                                              ///< false
+    virtual bool useClassDefaultsOnLoad() const;                                                  ///< false
+    virtual bool isSealed() const;                                                                ///< false
+    virtual bool isPropertyTruncationAllowed() const;                                             ///< false
+    virtual bool isConstructedOnLoad() const;                                                     ///< false
+    virtual bool arePropertiesCaseInsensitive() const;                                            ///< false
+    virtual bool isInstanceLeaf() const;                                                          ///< true
+    virtual bool isDestructible() const;                                                          ///< true
+    virtual bool isLocked() const;                                                                ///< true
+    virtual bool attemptToLoadProperty(char const* name);                                         ///< false
+    virtual bool attemptToLoadMethod(char const* name);                                           ///< false
+    virtual bool attemptToLoadEvent(char const* name);                                            ///< false
+    virtual void instanceLoaded(COSInterfacePtr object, COSLoadInfo const* info);                 ///< nothing
+    virtual bool customSave(COSInterfacePtr object, COSValue& value, COSDataTypePtr& type) const; ///< false
+    virtual bool customLoad(COSInterfacePtr& object, COSValue value, COSDataTypePtr type) const;  ///< false
+    virtual COSModule* getModule() const;                                                         ///< null
+    virtual bool areClassFunctionsAllowed() const;                                                ///< true
+    virtual bool areExtensionMethodsAllowed() const;                                              ///< false
+    virtual bool usesRootRecords() const;                                                         ///< false
+    virtual bool doEventsHaveSeparateNamespace() const;                                           ///< false
+    virtual bool doesInexactPropertyNameIssueWarning() const;                                     ///< false
+    virtual bool usesCustomChildrenList() const;                                                  ///< false
+    virtual COSArrayNature getArrayNature() const;                                                ///< Heterogeneous
+    virtual Enumeration<COSInterface*> getChildrenOfInstance(COSInterface* object) const;         ///< none
+    virtual bool classIsAbstract() const;      ///< what `isAbstract` gives
+    virtual bool allowInstanceUpdates() const; ///< false
 };
 
 } // namespace orbis

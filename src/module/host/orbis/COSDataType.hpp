@@ -46,14 +46,14 @@ public:
     virtual COSValue copyValue(COSValue value) const = 0;
     virtual COSValue copyInternal(COSValue value) const; ///< what `copyValue` gives
     virtual void releaseValue(COSValue value) const = 0;
-    virtual void destroyInternal(COSValue value) const;               ///< as `releaseValue`
-    virtual std::uint32_t getHashCode(COSValue const& value) const;   ///< 0
-    virtual bool canContainInterfaces() const;                        ///< false
-    virtual void getReference();                                      ///< one reference more
-    virtual void releaseReference();                                  ///< one less; the last one deletes the type
+    virtual void destroyInternal(COSValue value) const;                     ///< as `releaseValue`
+    virtual std::uint32_t getHashCode(COSValue const& value) const;         ///< 0
+    virtual bool canContainInterfaces() const;                              ///< false
+    virtual void getReference();                                            ///< one reference more
+    virtual void releaseReference();                                        ///< one less; the last one deletes the type
     virtual Enumeration<COSInterface*> getInterfaces(COSValue value) const; ///< none
-    virtual int getSaveFormat() const;                                ///< 0
-    virtual bool isVELMARAArrayType() const;                          ///< false
+    virtual int getSaveFormat() const;                                      ///< 0
+    virtual bool isVELMARAArrayType() const;                                ///< false
 
 private:
     int references_ = 0;

@@ -43,14 +43,14 @@ public:
     virtual void invoke(COSClient const* client, int& outputCount, COSValue* outputs, int inputCount,
                         COSValue const* inputs) const = 0;
 
-    virtual bool isFirstArgDispatch() const;            ///< true
-    virtual bool isStatic() const;                      ///< false
-    virtual bool isAbstract() const;                    ///< false
-    virtual bool isSealed() const;                      ///< false
-    virtual bool isVisible() const;                     ///< true
-    virtual bool isDestructible() const;                ///< false
-    virtual bool isLocked() const;                      ///< true
-    virtual bool isExplicit() const;                    ///< false
+    virtual bool isFirstArgDispatch() const;              ///< true
+    virtual bool isStatic() const;                        ///< false
+    virtual bool isAbstract() const;                      ///< false
+    virtual bool isSealed() const;                        ///< false
+    virtual bool isVisible() const;                       ///< true
+    virtual bool isDestructible() const;                  ///< false
+    virtual bool isLocked() const;                        ///< true
+    virtual bool isExplicit() const;                      ///< false
     virtual bool doesMethodOverrideAllSignatures() const; ///< false
 };
 

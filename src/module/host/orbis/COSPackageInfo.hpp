@@ -22,22 +22,22 @@ public:
 
     /// The package's name: full and dotted for `COSPackage::addPackage`, its own part for `addSubPackage`.
     virtual char const* getName() const = 0;
-    virtual char const* getDescription() const;                   ///< ""
-    virtual char const* getDetailedDescription() const;           ///< what `getDescription` gives
-    virtual bool attemptToLoadSubPackage(char const* name);       ///< false
-    virtual bool attemptToLoadClass(char const* name);            ///< false
-    virtual bool attemptToLoadFunction(char const* name);         ///< false
-    virtual bool attemptToLoadType(char const* name);             ///< false
-    virtual COSMethodSelector* getMethodSelector() const;         ///< null
+    virtual char const* getDescription() const;             ///< ""
+    virtual char const* getDetailedDescription() const;     ///< what `getDescription` gives
+    virtual bool attemptToLoadSubPackage(char const* name); ///< false
+    virtual bool attemptToLoadClass(char const* name);      ///< false
+    virtual bool attemptToLoadFunction(char const* name);   ///< false
+    virtual bool attemptToLoadType(char const* name);       ///< false
+    virtual COSMethodSelector* getMethodSelector() const;   ///< null
 
     /// Adds everything the package holds. Called once, when the package is first asked for what it holds; when
     /// it throws, what was added is dropped and the next request calls it again.
     virtual void initializePackage(COSPackage* package) = 0;
 
-    virtual bool isDestructible() const;                          ///< true
-    virtual bool isLocked() const;                                ///< true
-    virtual char16_t const* getH1Line() const;                    ///< null
-    virtual char16_t const* getHelpText() const;                  ///< null
+    virtual bool isDestructible() const;         ///< true
+    virtual bool isLocked() const;               ///< true
+    virtual char16_t const* getH1Line() const;   ///< null
+    virtual char16_t const* getHelpText() const; ///< null
 };
 
 } // namespace orbis

@@ -43,7 +43,7 @@ public:
     virtual bool isInspectAllowed() const = 0;
     virtual bool isAbortSet() const = 0;
     virtual bool isVisible() const = 0;
-    virtual bool isNeverAmbiguous() const;         ///< false
+    virtual bool isNeverAmbiguous() const;          ///< false
     virtual double getPartialMatchPriority() const; ///< 0
     virtual bool isStatic() const = 0;
     virtual bool isDependent() const = 0;
