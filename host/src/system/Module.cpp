@@ -3,6 +3,8 @@
 #include "system/pathText.hpp"
 #include "values/hostError.hpp"
 
+#include "additions/additions.hpp"
+
 #include <utility>
 
 namespace velmara {
@@ -46,8 +48,21 @@ std::string Module::versionWord(char const* suffix) const
     return word && *word ? *word : "";
 }
 
+void Module::addMessages() const
+{
+    auto const* const word =
+        static_cast<orbis::additions::MessageList const* const*>(library_.find(record_.name + "_messages"));
+    for (auto const* list = word ? *word : nullptr; list && list->catalog; ++list) {
+        auto const* end = list->messages;
+        while (end->key)
+            ++end;
+        orbis::additions::addMessages(list->catalog, {list->messages, end});
+    }
+}
+
 void Module::initialize()
 {
+    addMessages();
     initialize_();
     isLoaded_ = true;
 }

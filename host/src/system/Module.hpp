@@ -22,7 +22,7 @@ public:
     ModuleRecord const& record() const { return record_; }
     bool isLoaded() const { return isLoaded_; }
 
-    /// Runs the module's initialisation; it is loaded when that succeeds.
+    /// Adds the module's texts and runs its initialisation; it is loaded when that succeeds.
     void initialize();
     void terminate();
 
@@ -31,6 +31,9 @@ private:
 
     EntryPoint entryPoint(std::string const& prefix) const;
     std::string versionWord(char const* suffix) const;
+
+    /// Adds the texts that the module brings to the current virtual machine's catalogs.
+    void addMessages() const;
 
     std::filesystem::path file_;
     ModuleRecord record_;
