@@ -135,6 +135,8 @@ std::string textOf(Array const& input)
         T const number = *static_cast<T const*>(input.elements());
         if constexpr (std::same_as<T, bool>)
             return std::string(number ? "true" : "false");
+        else if (number != number)
+            return std::string("NaN"); // its sign means nothing
         else
             return std::string(text, std::to_chars(text, text + sizeof text, number).ptr);
     });
