@@ -176,4 +176,12 @@ TEST_F(ClassTest, UnpublishedBaseTakesItsSubclassesBack)
     EXPECT_EQ(errorOf([&] { hvm().construct("Derived"); }), "VELMARA:class:initialization");
     publishBase();
     EXPECT_TRUE(hvIsA(hvm().construct("Derived").get(), "p.Base"));
+    orbis::COSPackage::addPackage(new Package("d", [](orbis::COSPackage* package) {
+        auto* const leaving = new Class("d.Leaving", [](orbis::COSClass* cls) { setSuperclass(cls, "p.Base"); });
+        leaving->destroy = [](COSInterface*, void*) { orbis::COSPackage::removePackage("d"); };
+        package->addClass(leaving);
+    }));
+    ArrayPtr const leaving = hvm().construct("d.Leaving");
+    orbis::COSPackage::removePackage("p"); // takes d.Leaving back, which removes itself meanwhile
+    EXPECT_EQ(hvm().lookUp("d"), velmara::NameKind::None);
 }

@@ -124,15 +124,21 @@ TEST_F(ObjectTest, FailedInstanceDataIsTakenBack)
     failing_ = 'C';
     EXPECT_EQ(errorOf([&] { hvm().construct("C"); }), "VELMARA:native:exception");
     EXPECT_EQ(log_, "ABCba");
+    orbis::COSClass* const derived = orbis::COSClass::getClass("C");
+    COSInterfacePtr const twice = derived->newInstance();
+    for (char const at : {'B', 'A'}) {
+        failing_ = at;
+        EXPECT_THROW(derived->initializeInstance(twice), std::runtime_error);
+    }
+    EXPECT_EQ(log_, "ABCbaABaA") << "what was taken back once is not taken back again";
     failing_ = 0;
     orbis::COSClass* const cls = orbis::COSClass::getClass("B");
     COSInterfacePtr const object = cls->newInstance();
     EXPECT_EQ(object->getNativeObject("B"), nullptr) << "not before it is initialised";
-    EXPECT_EQ(messageIdOf([&] { orbis::COSClass::getClass("C")->initializeInstance(object); }),
-              "VELMARA:object:otherClass");
+    EXPECT_EQ(messageIdOf([&] { derived->initializeInstance(object); }), "VELMARA:object:otherClass");
     cls->initializeInstance(object);
     EXPECT_EQ(messageIdOf([&] { cls->initializeInstance(object); }), "VELMARA:object:initialized");
-    EXPECT_EQ(log_, "ABCbaAB");
+    EXPECT_EQ(log_, "ABCbaABaAAB");
 }
 
 TEST_F(ObjectTest, MadeInvalidWhileItsDataIsMade)

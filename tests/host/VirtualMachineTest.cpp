@@ -30,9 +30,9 @@ TEST_F(VirtualMachineTest, EndsObjectsThenPackagesThenStorage)
     };
     auto* const info = new Logged("A");
     info->destroy = [&](COSInterface*, void*) {
-        log += Storage::isRequiredContextActive() ? "object " : "late object ";
         orbis::COSClass* const cls = orbis::COSClass::getClass("A");
         EXPECT_EQ(messageIdOf([cls] { cls->newInstance(); }), "VELMARA:hvm:ending");
+        log += Storage::isRequiredContextActive() ? "object " : "late object ";
     };
     publish(info);
     static std::uint64_t const id = Storage::getNextID(typeid(std::string));
@@ -55,31 +55,35 @@ TEST_F(VirtualMachineTest, EndsObjectsThenPackagesThenStorage)
 
 TEST_F(VirtualMachineTest, ObjectsBelongToOneAndEndInIt)
 {
-    int answer = 0;
-    auto const publishAnswering = [&](int number) {
+    std::string log;
+    auto const publishIn = [&](char const* machine) {
+        orbis::COSPackage::addPackage(new Package(machine));
         auto* const info = new Class("A", [](orbis::COSClass* cls) {
             cls->addMethod(answering("take", {"A", "any"}, 1));
         });
-        info->destroy = [&answer, number](COSInterface*, void*) { answer = number; };
+        info->destroy = [&log, machine](COSInterface*, void*) {
+            log += orbis::COSPackage::getPackage(machine) ? machine : "elsewhere";
+        };
         publish(info);
     };
-    publishAnswering(1);
+    publishIn("mine ");
     ArrayPtr const mine = hvm().construct("A");
+    ArrayPtr givenBack = hvm().construct("A");
     ArrayPtr foreign;
     {
         velmara::Hvm other;
         velmara::Hvm::Scope const scope(other);
-        publishAnswering(2);
+        publishIn("other");
         foreign = other.construct("A");
         hvArray_tag* const inputs[] = {mine.get()};
         EXPECT_EQ(errorOf([&] { other.call(mine.get(), "take", inputs); }), "VELMARA:object:otherVirtualMachine");
         EXPECT_EQ(errorOf([&] { other.call(foreign.get(), "take", inputs); }), "VELMARA:object:otherVirtualMachine");
         EXPECT_EQ(errorOf([&] { other.deleteObjects(mine.get()); }), "VELMARA:object:otherVirtualMachine");
         hvm().deleteObjects(mine.get());
-        EXPECT_EQ(answer, 1) << "in its own machine, whichever is current";
-        orbis::COSPackage::addPackage(new Package("other"));
+        givenBack.reset();
+        EXPECT_EQ(log, "mine mine ") << "in its own machine, whichever is current";
     }
-    EXPECT_EQ(answer, 2);
+    EXPECT_EQ(log, "mine mine other");
     EXPECT_FALSE(velmara::isValid(foreign.get()));
     EXPECT_EQ(hvm().lookUp("other"), velmara::NameKind::None);
     EXPECT_EQ(errorOf([&] { hvm().call(foreign.get(), "take"); }), "VELMARA:object:invalid");
