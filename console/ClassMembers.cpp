@@ -15,7 +15,7 @@ namespace velmara::console {
 namespace {
 
 /// The upvalues of a callable member's function.
-enum Upvalue { className = 1, memberName, isInstance, isStatic, fullName };
+enum Upvalue { classUpvalue = 1, memberUpvalue, instanceUpvalue, staticUpvalue, nameUpvalue };
 
 bool flag(lua_State* L, Upvalue which)
 {
@@ -28,28 +28,28 @@ bool startsWithObject(lua_State* L, Hvm& hvm)
         return false;
     // Where the name is static too, only an object of the class can be the one that the method is for.
     Hvm::Scope const scope(hvm);
-    return !flag(L, isStatic) || hvIsA(checkObject(L, 1), lua_tostring(L, lua_upvalueindex(className)));
+    return !flag(L, staticUpvalue) || hvIsA(checkObject(L, 1), lua_tostring(L, lua_upvalueindex(classUpvalue)));
 }
 
 int callMember(lua_State* L)
 {
-    std::string_view const name = textAt(L, lua_upvalueindex(memberName));
+    std::string_view const name = textAt(L, lua_upvalueindex(memberUpvalue));
     HostCall call(L);
-    if (flag(L, isInstance) && startsWithObject(L, call.hvm())) {
+    if (flag(L, instanceUpvalue) && startsWithObject(L, call.hvm())) {
         hvArray_tag* object = call.keep(checkObject(L, 1));
         return call.finish(call.hvm().call(object, name, call.inputs(2)));
     }
-    if (!flag(L, isStatic))
+    if (!flag(L, staticUpvalue))
         fail("noObject", std::string(name) + " needs an object of " +
-                             std::string(textAt(L, lua_upvalueindex(className))) +
+                             std::string(textAt(L, lua_upvalueindex(classUpvalue))) +
                              " first: write object:" + std::string(name) + "(...)");
-    return call.finish(call.hvm().callStatic(textAt(L, lua_upvalueindex(className)), name, call.inputs(1)));
+    return call.finish(call.hvm().callStatic(textAt(L, lua_upvalueindex(classUpvalue)), name, call.inputs(1)));
 }
 
 int callPackageFunction(lua_State* L)
 {
     HostCall call(L);
-    return call.finish(call.hvm().callFunction(textAt(L, lua_upvalueindex(fullName)), call.inputs(1)));
+    return call.finish(call.hvm().callFunction(textAt(L, lua_upvalueindex(nameUpvalue)), call.inputs(1)));
 }
 
 void pushCallable(lua_State* L, std::string_view cls, std::string_view name, bool instance, bool withoutObject)
@@ -59,7 +59,7 @@ void pushCallable(lua_State* L, std::string_view cls, std::string_view name, boo
     lua_pushboolean(L, instance);
     lua_pushboolean(L, withoutObject);
     pushText(L, std::string(cls) + '.' + std::string(name));
-    lua_pushcclosure(L, guarded<callMember>, 5);
+    lua_pushcclosure(L, guarded<callMember>, nameUpvalue);
 }
 
 [[noreturn]] void failUnknown(ClassRecord const& cls, std::string_view name)
@@ -94,28 +94,28 @@ void pushFound(lua_State* L, std::string_view cls, std::string_view name)
 
 } // namespace
 
-void pushRememberedMembers(lua_State* L, std::string_view cls)
+void pushRememberedMembers(lua_State* L, std::string_view className)
 {
     luaL_getsubtable(L, LUA_REGISTRYINDEX, "velmara.members");
-    pushText(L, cls);
+    pushText(L, className);
     if (lua_rawget(L, -2) != LUA_TTABLE) {
         lua_pop(L, 1);
         lua_newtable(L);
-        pushText(L, cls);
+        pushText(L, className);
         lua_pushvalue(L, -2);
         lua_rawset(L, -4);
     }
     lua_remove(L, -2);
 }
 
-MemberKind pushMember(lua_State* L, std::string_view cls, std::string_view name)
+MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name)
 {
     luaL_checkstack(L, 10, nullptr);
-    pushRememberedMembers(L, cls);
+    pushRememberedMembers(L, className);
     pushText(L, name);
     if (lua_rawget(L, -2) == LUA_TNIL) {
         lua_pop(L, 1);
-        pushFound(L, cls, name);
+        pushFound(L, className, name);
         pushText(L, name);
         lua_pushvalue(L, -2);
         lua_rawset(L, -4);
@@ -128,21 +128,21 @@ MemberKind pushMember(lua_State* L, std::string_view cls, std::string_view name)
     return isStaticProperty ? MemberKind::StaticProperty : MemberKind::Property;
 }
 
-MemberKind checkProperty(lua_State* L, std::string_view cls, std::string_view name)
+MemberKind checkProperty(lua_State* L, std::string_view className, std::string_view name)
 {
-    MemberKind const kind = pushMember(L, cls, name);
+    MemberKind const kind = pushMember(L, className, name);
     if (kind == MemberKind::Callable)
-        fail("method", std::string(cls) + '.' + std::string(name) + " is a method: it cannot be set");
+        fail("method", std::string(className) + '.' + std::string(name) + " is a method: it cannot be set");
     return kind;
 }
 
-void pushPackageFunction(lua_State* L, std::string_view name)
+void pushPackageFunction(lua_State* L, std::string_view fullName)
 {
     luaL_checkstack(L, 8, nullptr);
-    for (int i = className; i < fullName; ++i)
+    for (int i = classUpvalue; i < nameUpvalue; ++i)
         lua_pushnil(L);
-    pushText(L, name);
-    lua_pushcclosure(L, guarded<callPackageFunction>, fullName);
+    pushText(L, fullName);
+    lua_pushcclosure(L, guarded<callPackageFunction>, nameUpvalue);
 }
 
 std::string_view calledName(lua_State* L, int index)
@@ -150,7 +150,7 @@ std::string_view calledName(lua_State* L, int index)
     lua_CFunction const function = lua_tocfunction(L, index);
     if (function != guarded<callMember> && function != guarded<callPackageFunction>)
         return {};
-    lua_getupvalue(L, index, fullName);
+    lua_getupvalue(L, index, nameUpvalue);
     std::string_view const name = textAt(L, -1);
     lua_pop(L, 1); // the function still holds it
     return name;

@@ -68,24 +68,24 @@ void parseOption(CommandLine& line, std::string const& option, Words& words)
 
 } // namespace
 
-CommandLine parseCommandLine(std::vector<std::string> const& all)
+CommandLine parseCommandLine(std::vector<std::string> const& words)
 {
     CommandLine line;
-    Words words(all);
-    while (line.task == CommandLine::Task::Prompt && !words.isAtEnd() && words.peek().starts_with('-') &&
-           words.peek() != "-") {
-        std::string const& option = words.take();
+    Words left(words);
+    while (line.task == CommandLine::Task::Prompt && !left.isAtEnd() && left.peek().starts_with('-') &&
+           left.peek() != "-") {
+        std::string const& option = left.take();
         if (option == "--")
             break;
-        parseOption(line, option, words);
+        parseOption(line, option, left);
     }
-    if (line.task == CommandLine::Task::Prompt && !words.isAtEnd()) {
+    if (line.task == CommandLine::Task::Prompt && !left.isAtEnd()) {
         line.task = CommandLine::Task::Script;
-        line.script = words.take();
+        line.script = left.take();
     }
     if (line.asksForPrompt && line.task == CommandLine::Task::Script)
         throw UsageError("-i asks for a prompt: it goes with no script");
-    line.arguments = words.rest();
+    line.arguments = left.rest();
     return line;
 }
 

@@ -51,7 +51,7 @@ std::string tableText(lua_State* L, int table, int depth)
         if (lua_type(L, -2) == LUA_TSTRING && named.size() <= mostShown)
             named[std::string(textAt(L, -2))] = elementText(L, depth);
     for (auto const& [name, element] : named)
-        add(text, name + " = " + element);
+        add(text, std::string(name).append(" = ").append(element));
     if (count > mostShown || named.size() > mostShown)
         add(text, "...");
     return text + '}';

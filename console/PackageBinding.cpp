@@ -106,7 +106,7 @@ int pairs(lua_State* L)
     lua_newtable(L);
     if (checkKind(L) == NameKind::Package)
         for (std::string const& part : packageContents(Session::of(L).hvm().describePackage(name)))
-            if (pushName(L, name + '.' + part))
+            if (pushName(L, std::string(name).append(1, '.').append(part)))
                 lua_setfield(L, -2, part.c_str());
     lua_pushnil(L);
     return 3;
@@ -125,6 +125,7 @@ int readGlobal(lua_State* L)
 std::vector<std::string> packageContents(PackageRecord const& package)
 {
     std::vector<std::string> names;
+    names.reserve(package.packages.size() + package.classes.size() + package.functions.size());
     for (std::string const& name : package.packages)
         names.push_back(lastPart(name));
     for (std::string const& name : package.classes)

@@ -49,7 +49,7 @@ std::string keyText(lua_State* L, int index)
         return kindAt(L, index);
     lua_pushvalue(L, index); // a number is turned into text where it stands
     lua_tolstring(L, -1, nullptr);
-    std::string const text = '\'' + std::string(textAt(L, -1)) + '\'';
+    std::string text = '\'' + std::string(textAt(L, -1)) + '\'';
     lua_pop(L, 1);
     return text;
 }

@@ -2,6 +2,18 @@
 
 namespace orbis::factory {
 
+unsigned int const MethodAttributes::UNLOCKED;
+unsigned int const MethodAttributes::HIDDEN;
+unsigned int const MethodAttributes::SEALED;
+unsigned int const MethodAttributes::STATIC;
+unsigned int const MethodAttributes::ABSTRACT;
+unsigned int const MethodAttributes::NODESTRUCT;
+unsigned int const MethodAttributes::NOACCESS;
+unsigned int const MethodAttributes::_PROTECT;
+unsigned int const MethodAttributes::_PRIVATE;
+unsigned int const MethodAttributes::OVERRIDE;
+unsigned int const MethodAttributes::FORCE;
+
 MethodAttributes::MethodAttributes() : bits_(0) {}
 
 MethodAttributes::MethodAttributes(unsigned int bits) : bits_(bits) {}

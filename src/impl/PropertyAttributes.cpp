@@ -15,6 +15,31 @@ MemberAccess access(bool isProtected, bool isPrivate, bool isClosed)
 
 } // namespace
 
+unsigned int const PropertyAttributes::SEALED;
+unsigned int const PropertyAttributes::INIT_ALLOWED;
+unsigned int const PropertyAttributes::DEFAULT_ALLOWED;
+unsigned int const PropertyAttributes::RESET_ALLOWED;
+unsigned int const PropertyAttributes::ABSTRACT;
+unsigned int const PropertyAttributes::TRANSIENT;
+unsigned int const PropertyAttributes::COPY_ALLOWED;
+unsigned int const PropertyAttributes::LISTENER_GET_ALLOWED;
+unsigned int const PropertyAttributes::LISTENER_SET_ALLOWED;
+unsigned int const PropertyAttributes::INSPECT_ALLOWED;
+unsigned int const PropertyAttributes::ABORT_SET;
+unsigned int const PropertyAttributes::HIDDEN;
+unsigned int const PropertyAttributes::STATIC;
+unsigned int const PropertyAttributes::DEPENDENT;
+unsigned int const PropertyAttributes::GRANDFATHERED;
+unsigned int const PropertyAttributes::CAN_CONTAIN_INTERFACES;
+unsigned int const PropertyAttributes::DESTRUCTIBLE;
+unsigned int const PropertyAttributes::NOACCESS_GET;
+unsigned int const PropertyAttributes::_PROTECT_GET;
+unsigned int const PropertyAttributes::_PRIVATE_GET;
+unsigned int const PropertyAttributes::NOACCESS_SET;
+unsigned int const PropertyAttributes::_PROTECT_SET;
+unsigned int const PropertyAttributes::_PRIVATE_SET;
+unsigned int const PropertyAttributes::FORCE_MEMBERSHIP;
+
 PropertyAttributes::PropertyAttributes() : bits_(0) {}
 
 PropertyAttributes::PropertyAttributes(int bits) : bits_(bits) {}

@@ -35,7 +35,7 @@ struct Parameter {
 
 class Method final : public COSMethodInfo {
 public:
-    Method(char const* name, bool isStatic, char const* output, std::vector<Parameter> inputs, Body body)
+    Method(char const* name, bool isStatic, char const* output, std::vector<Parameter> const& inputs, Body body)
         : name_(name),
           isStatic_(isStatic),
           body_(std::move(body))
@@ -207,8 +207,8 @@ public:
     void initializePackage(COSPackage* package) override
     {
         package->addClass(new ProbeInfo(alive_));
-        auto const add = [&](char const* name, std::vector<Parameter> inputs, Body body) {
-            package->addFunction(new Method(name, true, "any", std::move(inputs), std::move(body)));
+        auto const add = [&](char const* name, std::vector<Parameter> const& inputs, Body body) {
+            package->addFunction(new Method(name, true, "any", inputs, std::move(body)));
         };
         constexpr std::uint64_t most = std::numeric_limits<std::uint64_t>::max();
         add("echo", {{"any", "value"}}, [](auto in) { return copyOf(in[0].array()); });

@@ -10,17 +10,17 @@ namespace orbis::factory {
 /// default is public, visible, locked, and none of the rest.
 class ORBIS_FACTORY_API MethodAttributes {
 public:
-    static constexpr unsigned int UNLOCKED = 0x1;
-    static constexpr unsigned int HIDDEN = 0x2;
-    static constexpr unsigned int SEALED = 0x4;
-    static constexpr unsigned int STATIC = 0x8;
-    static constexpr unsigned int ABSTRACT = 0x10;
-    static constexpr unsigned int NODESTRUCT = 0x20;
-    static constexpr unsigned int NOACCESS = 0x40;
-    static constexpr unsigned int _PROTECT = 0x80;
-    static constexpr unsigned int _PRIVATE = 0x100;
-    static constexpr unsigned int OVERRIDE = 0x200;
-    static constexpr unsigned int FORCE = 0x1000;
+    static unsigned int const UNLOCKED = 0x1;
+    static unsigned int const HIDDEN = 0x2;
+    static unsigned int const SEALED = 0x4;
+    static unsigned int const STATIC = 0x8;
+    static unsigned int const ABSTRACT = 0x10;
+    static unsigned int const NODESTRUCT = 0x20;
+    static unsigned int const NOACCESS = 0x40;
+    static unsigned int const _PROTECT = 0x80;
+    static unsigned int const _PRIVATE = 0x100;
+    static unsigned int const OVERRIDE = 0x200;
+    static unsigned int const FORCE = 0x1000;
 
     MethodAttributes();
     MethodAttributes(MethodAttributes const&);

@@ -10,30 +10,30 @@ namespace orbis::factory {
 /// visible, public for reading and writing, and none of the rest.
 class ORBIS_FACTORY_API PropertyAttributes {
 public:
-    static constexpr unsigned int SEALED = 0x1;
-    static constexpr unsigned int INIT_ALLOWED = 0x2;
-    static constexpr unsigned int DEFAULT_ALLOWED = 0x4;
-    static constexpr unsigned int RESET_ALLOWED = 0x8;
-    static constexpr unsigned int ABSTRACT = 0x10;
-    static constexpr unsigned int TRANSIENT = 0x20;
-    static constexpr unsigned int COPY_ALLOWED = 0x40;
-    static constexpr unsigned int LISTENER_GET_ALLOWED = 0x80;
-    static constexpr unsigned int LISTENER_SET_ALLOWED = 0x100;
-    static constexpr unsigned int INSPECT_ALLOWED = 0x200;
-    static constexpr unsigned int ABORT_SET = 0x400;
-    static constexpr unsigned int HIDDEN = 0x800;
-    static constexpr unsigned int STATIC = 0x1000;
-    static constexpr unsigned int DEPENDENT = 0x2000;
-    static constexpr unsigned int GRANDFATHERED = 0x4000;
-    static constexpr unsigned int CAN_CONTAIN_INTERFACES = 0x8000;
-    static constexpr unsigned int DESTRUCTIBLE = 0x10000;
-    static constexpr unsigned int NOACCESS_GET = 0x100000;
-    static constexpr unsigned int _PROTECT_GET = 0x200000;
-    static constexpr unsigned int _PRIVATE_GET = 0x400000;
-    static constexpr unsigned int NOACCESS_SET = 0x800000;
-    static constexpr unsigned int _PROTECT_SET = 0x1000000;
-    static constexpr unsigned int _PRIVATE_SET = 0x2000000;
-    static constexpr unsigned int FORCE_MEMBERSHIP = 0x4000000;
+    static unsigned int const SEALED = 0x1;
+    static unsigned int const INIT_ALLOWED = 0x2;
+    static unsigned int const DEFAULT_ALLOWED = 0x4;
+    static unsigned int const RESET_ALLOWED = 0x8;
+    static unsigned int const ABSTRACT = 0x10;
+    static unsigned int const TRANSIENT = 0x20;
+    static unsigned int const COPY_ALLOWED = 0x40;
+    static unsigned int const LISTENER_GET_ALLOWED = 0x80;
+    static unsigned int const LISTENER_SET_ALLOWED = 0x100;
+    static unsigned int const INSPECT_ALLOWED = 0x200;
+    static unsigned int const ABORT_SET = 0x400;
+    static unsigned int const HIDDEN = 0x800;
+    static unsigned int const STATIC = 0x1000;
+    static unsigned int const DEPENDENT = 0x2000;
+    static unsigned int const GRANDFATHERED = 0x4000;
+    static unsigned int const CAN_CONTAIN_INTERFACES = 0x8000;
+    static unsigned int const DESTRUCTIBLE = 0x10000;
+    static unsigned int const NOACCESS_GET = 0x100000;
+    static unsigned int const _PROTECT_GET = 0x200000;
+    static unsigned int const _PRIVATE_GET = 0x400000;
+    static unsigned int const NOACCESS_SET = 0x800000;
+    static unsigned int const _PROTECT_SET = 0x1000000;
+    static unsigned int const _PRIVATE_SET = 0x2000000;
+    static unsigned int const FORCE_MEMBERSHIP = 0x4000000;
 
     PropertyAttributes();
     PropertyAttributes(PropertyAttributes const&);
