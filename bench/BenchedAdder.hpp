@@ -84,7 +84,7 @@ public:
 
     static orbis::factory::ClassDescription description()
     {
-        return orbis::factory::describe<Adder>().constructor().method("add", &Adder::add, "a, b");
+        return orbis::factory::describe<Adder>().constructor().method("getSum", &Adder::add, "a, b");
     }
 };
 

@@ -34,7 +34,7 @@ public:
     {
         hvArray* const inputs[] = {one_.get(), two_.get()};
         for (std::size_t i = 0; i < count; ++i)
-            fixture_.hvm.call(fixture_.object.get(), "add", inputs);
+            fixture_.hvm.call(fixture_.object.get(), "getSum", inputs);
     }
 
     /// A bound object to the host, and its array given back.
