@@ -26,9 +26,11 @@ bool startsWithObject(lua_State* L, Hvm& hvm)
 {
     if (!isObject(L, 1))
         return false;
-    // Where the name is static too, only an object of the class can be the one that the method is for.
+    if (!flag(L, staticUpvalue))
+        return true;
+    // The name is static, too: only an object of the class can be the one that the method is for.
     Hvm::Scope const scope(hvm);
-    return !flag(L, staticUpvalue) || hvIsA(checkObject(L, 1), lua_tostring(L, lua_upvalueindex(classUpvalue)));
+    return hvIsA(checkObject(L, 1), lua_tostring(L, lua_upvalueindex(classUpvalue)));
 }
 
 int callMember(lua_State* L)
