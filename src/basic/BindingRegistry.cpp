@@ -47,7 +47,7 @@ void insert(void* object, COSInterface* host)
 {
     auto entry = std::make_unique<RegistryEntry>(object, COSInterfacePtr(host));
     if (registry().emplace(object, entry.get()).second)
-        entry.release();
+        static_cast<void>(entry.release());
 }
 
 /// Erases the mapping of `object`; an empty pointer when it is no key.
@@ -85,15 +85,9 @@ std::unique_ptr<RegistryEntry> take(void const* object)
 
 } // namespace
 
-BindingRegistry& BindingRegistry::operator=(BindingRegistry const&)
-{
-    return *this;
-}
+BindingRegistry& BindingRegistry::operator=(BindingRegistry const&) = default;
 
-BindingRegistry& BindingRegistry::operator=(BindingRegistry&&)
-{
-    return *this;
-}
+BindingRegistry& BindingRegistry::operator=(BindingRegistry&&) = default;
 
 hvArray* BindingRegistry::announce(void* object, COSNameID const& className)
 {

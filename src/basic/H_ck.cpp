@@ -4,15 +4,9 @@
 
 namespace orbis::factory {
 
-H_ck& H_ck::operator=(H_ck const&)
-{
-    return *this;
-}
+H_ck& H_ck::operator=(H_ck const&) = default;
 
-H_ck& H_ck::operator=(H_ck&&)
-{
-    return *this;
-}
+H_ck& H_ck::operator=(H_ck&&) = default;
 
 void H_ck::incrementRefCount(COSInterface* host)
 {

@@ -5,15 +5,9 @@
 
 namespace orbis::factory {
 
-RawClassPointerMarshaler& RawClassPointerMarshaler::operator=(RawClassPointerMarshaler const&)
-{
-    return *this;
-}
+RawClassPointerMarshaler& RawClassPointerMarshaler::operator=(RawClassPointerMarshaler const&) = default;
 
-RawClassPointerMarshaler& RawClassPointerMarshaler::operator=(RawClassPointerMarshaler&&)
-{
-    return *this;
-}
+RawClassPointerMarshaler& RawClassPointerMarshaler::operator=(RawClassPointerMarshaler&&) = default;
 
 Enumeration<COSInterface*> RawClassPointerMarshaler::toCosi(void const* const object)
 {

@@ -282,7 +282,8 @@ bool PropertyAttributes::isTransient() const
     return (bits_ & TRANSIENT) != 0;
 }
 
-bool PropertyAttributes::canContainInterfaces()
+// The interface has it non-const.
+bool PropertyAttributes::canContainInterfaces() // NOLINT(readability-make-member-function-const)
 {
     return (bits_ & CAN_CONTAIN_INTERFACES) != 0;
 }

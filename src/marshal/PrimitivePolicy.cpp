@@ -2,15 +2,9 @@
 
 namespace orbis::factory {
 
-Marshaler<PrimitivePolicy>& Marshaler<PrimitivePolicy>::operator=(Marshaler const&)
-{
-    return *this;
-}
+Marshaler<PrimitivePolicy>& Marshaler<PrimitivePolicy>::operator=(Marshaler const&) = default;
 
-Marshaler<PrimitivePolicy>& Marshaler<PrimitivePolicy>::operator=(Marshaler&&)
-{
-    return *this;
-}
+Marshaler<PrimitivePolicy>& Marshaler<PrimitivePolicy>::operator=(Marshaler&&) = default;
 
 char const* Marshaler<PrimitivePolicy>::scalarTypeText(hvClassID classID)
 {

@@ -8,34 +8,16 @@ using NoInheritance = Marshaler<VelmaraManagedNoInheritancePolicy>;
 using WithInheritance = Marshaler<VelmaraManagedWithInheritancePolicy>;
 using Static = Marshaler<StaticCastPolicy>;
 
-NoInheritance& NoInheritance::operator=(NoInheritance const&)
-{
-    return *this;
-}
+NoInheritance& NoInheritance::operator=(NoInheritance const&) = default;
 
-NoInheritance& NoInheritance::operator=(NoInheritance&&)
-{
-    return *this;
-}
+NoInheritance& NoInheritance::operator=(NoInheritance&&) = default;
 
-WithInheritance& WithInheritance::operator=(WithInheritance const&)
-{
-    return *this;
-}
+WithInheritance& WithInheritance::operator=(WithInheritance const&) = default;
 
-WithInheritance& WithInheritance::operator=(WithInheritance&&)
-{
-    return *this;
-}
+WithInheritance& WithInheritance::operator=(WithInheritance&&) = default;
 
-Static& Static::operator=(Static const&)
-{
-    return *this;
-}
+Static& Static::operator=(Static const&) = default;
 
-Static& Static::operator=(Static&&)
-{
-    return *this;
-}
+Static& Static::operator=(Static&&) = default;
 
 } // namespace orbis::factory

@@ -36,7 +36,7 @@ TEST(ParameterNamer, NamesFollowTheirList)
 class SignatureTest : public HvmTest {
 protected:
     /// What the host reads back from a signature.
-    velmara::MethodRecord made(std::function<void(COSMethodSignaturePtr&)> create)
+    velmara::MethodRecord made(std::function<void(COSMethodSignaturePtr&)> const& create)
     {
         static int number = 0;
         std::string const name = "f" + std::to_string(number++);

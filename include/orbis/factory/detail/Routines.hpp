@@ -74,7 +74,7 @@ struct ConstructorRoutine {
             auto made = arguments.apply(
                 [](auto&&... values) { return std::make_unique<T>(static_cast<decltype(values)>(values)...); });
             announce(made.get(), constructed);
-            made.release();
+            static_cast<void>(made.release()); // the class info's from now on
         }
         if (outputCount == 0)
             outputCount = 1;
