@@ -42,7 +42,8 @@ protected:
         std::string const name = "f" + std::to_string(number++);
         auto function = std::make_unique<FunctionInfo>(name.c_str(), MethodAttributes());
         create(function->method().signature());
-        create(function->method().signature()); // made once, later calls change nothing
+        // Made once: later calls change nothing.
+        impl::Invoker::createSignature("other", "logical scalar", "other.Class", "char", function->method().signature());
         COSPackage::getPackage("signatures")->addFunction(function.release());
         return hvm().describeFunction("signatures." + name);
     }
