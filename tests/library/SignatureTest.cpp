@@ -43,7 +43,8 @@ protected:
         auto function = std::make_unique<FunctionInfo>(name.c_str(), MethodAttributes());
         create(function->method().signature());
         // Made once: later calls change nothing.
-        impl::Invoker::createSignature("other", "logical scalar", "other.Class", "char", function->method().signature());
+        impl::Invoker::createSignature("other", "logical scalar", "other.Class", "char",
+                                       function->method().signature());
         COSPackage::getPackage("signatures")->addFunction(function.release());
         return hvm().describeFunction("signatures." + name);
     }
