@@ -24,7 +24,8 @@ void COSMethodInfo::operator delete(void* storage)
     std::free(storage);
 }
 void COSMethodInfo::operator delete(void*, void*) {}
-void COSMethodInfo::operator delete[](void* storage)
+// The interface has it without its counterpart.
+void COSMethodInfo::operator delete[](void* storage) // NOLINT(misc-new-delete-overloads)
 {
     std::free(storage);
 }

@@ -107,8 +107,9 @@ void PackageTree::requireFree(std::string_view fullName) const
 {
     if (!isDottedName(fullName))
         throwHostError("VELMARA:package", "name", {std::string(fullName)});
-    auto const [parent, own] = splitLast(fullName);
-    Package* const package = findPublishedPackage(parent);
+    auto const parts = splitLast(fullName);
+    std::string_view const own = parts.second;
+    Package* const package = findPublishedPackage(parts.first);
     bool const isFunction = package && std::ranges::any_of(package->functions(), [&](auto const& function) {
                                 return function->name->view() == own;
                             });
@@ -164,7 +165,7 @@ void PackageTree::removePackage(Name fullName)
         Package* const parent = package->parent();
         parent->remove(*package);
         package = parent;
-    } while (package->name() && package->isPlaceholder());
+    } while (package && package->name() && package->isPlaceholder());
 }
 
 void PackageTree::endAllObjects()
