@@ -14,6 +14,7 @@ protected:
     static std::vector<std::string> signatures(velmara::ClassRecord const& record)
     {
         std::vector<std::string> lines;
+        lines.reserve(record.methods.size());
         for (auto const& method : record.methods)
             lines.push_back(method.definingClass + ": " + method.signature);
         return lines;

@@ -149,23 +149,32 @@ void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info, Package& p
     record([&package, &cls] { package.remove(cls); });
 }
 
+namespace {
+
+/// Parents that were made only to hold others go with the last of them. All but the top level have a parent.
+void removeWithEmptyParents(Package& package)
+{
+    Package& parent = *package.parent();
+    parent.remove(package);
+    if (parent.name() && parent.isPlaceholder())
+        removeWithEmptyParents(parent);
+}
+
+} // namespace
+
 void PackageTree::removePackage(Name fullName)
 {
     Package* const* const found = packages_.find(fullName);
     if (!found)
         return;
-    for (Package const* package = *found; package; package = package->parent())
+    Package& removed = **found;
+    for (Package const* package = &removed; package; package = package->parent())
         if (package->state() == Package::State::Closed)
             return; // it is going already
-    if ((*found)->isBusy())
+    if (removed.isBusy()) // NOLINT(clang-analyzer-core.CallAndMessage): a stored package is not null
         throwHostError("VELMARA:package", "busy", {std::string(fullName->view())});
     HvmState::Entry const entry(machine_);
-    Package* package = *found;
-    do {
-        Package* const parent = package->parent();
-        parent->remove(*package);
-        package = parent;
-    } while (package && package->name() && package->isPlaceholder());
+    removeWithEmptyParents(removed);
 }
 
 void PackageTree::endAllObjects()

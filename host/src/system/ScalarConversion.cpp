@@ -64,9 +64,9 @@ bool convertNumber(double number, T& out)
         return number == 0 || number == 1;
     } else {
         // Both bounds are powers of two, so they are exact; a NaN compares false.
-        constexpr double lowest = static_cast<double>(std::numeric_limits<T>::min());
+        constexpr auto lowest = static_cast<double>(std::numeric_limits<T>::min());
         constexpr double beyond = 2.0 * static_cast<double>(std::uint64_t(1) << (std::numeric_limits<T>::digits - 1));
-        if (!(number >= lowest && number < beyond))
+        if (!(number >= lowest && number < beyond)) // NOLINT(readability-simplify-boolean-expr): NaN
             return false;
         out = static_cast<T>(number);
         return static_cast<double>(out) == number;
@@ -135,7 +135,7 @@ std::string textOf(Array const& input)
         T const number = *static_cast<T const*>(input.elements());
         if constexpr (std::same_as<T, bool>)
             return std::string(number ? "true" : "false");
-        else if (number != number)
+        else if (std::floating_point<T> && std::isnan(static_cast<double>(number)))
             return std::string("NaN"); // its sign means nothing
         else
             return std::string(text, std::to_chars(text, text + sizeof text, number).ptr);

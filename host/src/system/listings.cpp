@@ -27,6 +27,7 @@ std::string text(char const* description)
 std::vector<ParameterRecord> records(std::vector<Parameter> const& parameters)
 {
     std::vector<ParameterRecord> made;
+    made.reserve(parameters.size());
     for (Parameter const& parameter : parameters)
         made.push_back({parameter.name, text(parameter.type.name)});
     return made;

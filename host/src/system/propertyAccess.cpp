@@ -94,19 +94,19 @@ Property const& requireStaticProperty(HvmState& machine, std::string_view classN
 
 } // namespace
 
-ArrayPtr Hvm::get(hvArray_tag* array, std::string_view property)
+ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property)
 {
     return callInto(*state_, [&] {
-        Object* const object = requireObject(*state_, array);
-        return read(requireProperty(requireClassOf(*state_, array, object), property), object);
+        Object* const first = requireObject(*state_, object);
+        return read(requireProperty(requireClassOf(*state_, object, first), property), first);
     });
 }
 
-void Hvm::set(hvArray_tag* array, std::string_view property, hvArray_tag* value)
+void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value)
 {
     callInto(*state_, [&] {
-        Object* const object = requireObject(*state_, array);
-        write(*state_, requireProperty(requireClassOf(*state_, array, object), property), object, value);
+        Object* const first = requireObject(*state_, object);
+        write(*state_, requireProperty(requireClassOf(*state_, object, first), property), first, value);
     });
 }
 

@@ -42,7 +42,7 @@ COSInterfacePtr::COSInterfacePtr(COSInterfacePtr const& other) : object_(other.o
     hold(object_, type_);
 }
 
-COSInterfacePtr& COSInterfacePtr::operator=(COSInterfacePtr const& other)
+COSInterfacePtr& COSInterfacePtr::operator=(COSInterfacePtr const& other) // NOLINT(bugprone-unhandled-self-assignment)
 {
     hold(other.object_, other.type_);
     // The last step, because an object that ends runs native code, which may use this handle.
@@ -60,7 +60,8 @@ COSInterface* COSInterfacePtr::livingObject() const
     return object_ && static_cast<Object*>(object_)->isEnded() ? nullptr : object_;
 }
 
-COSInterface* COSInterfacePtr::operator->()
+// The interface has both forms of these two.
+COSInterface* COSInterfacePtr::operator->() // NOLINT(readability-make-member-function-const)
 {
     return *this;
 }
@@ -70,7 +71,7 @@ COSInterface const* COSInterfacePtr::operator->() const
     return *this;
 }
 
-COSInterface& COSInterfacePtr::operator*()
+COSInterface& COSInterfacePtr::operator*() // NOLINT(readability-make-member-function-const)
 {
     return *static_cast<COSInterface*>(*this);
 }
