@@ -170,7 +170,7 @@ void PackageTree::removePackage(Name fullName)
     Package& removed = **found;
     for (Package const* package = &removed; package; package = package->parent())
         if (package->state() == Package::State::Closed)
-            return; // it is going already
+            return;       // it is going already
     if (removed.isBusy()) // NOLINT(clang-analyzer-core.CallAndMessage): a stored package is not null
         throwHostError("VELMARA:package", "busy", {std::string(fullName->view())});
     HvmState::Entry const entry(machine_);
