@@ -97,8 +97,10 @@ hvArray* BindingRegistry::announce(void* object, COSNameID const& className)
 
 hvArray* BindingRegistry::announce(void* object, COSNameID const& className, bool& created)
 {
-    created = object && !contains(object);
-    return announce(object, className);
+    RegistryEntry const* const bound = entryOf(object);
+    hvArray* const array = bound ? arrayOf(bound->host, className) : announceUnbound(object, className);
+    created = object && !bound;
+    return array;
 }
 
 hvArray* BindingRegistry::announce(void const* object, COSNameID const& className)
