@@ -17,6 +17,15 @@ bool haveSameShape(Array const& a, Array const& b)
            a.objectClass() == b.objectClass();
 }
 
+/// Each text with its terminator, as for texts alone.
+std::size_t byteSize(std::span<StringElement const> strings)
+{
+    std::size_t total = 0;
+    for (StringElement const& element : strings)
+        total += element.isMissing() ? 0 : (element.length() + 1) * sizeof(char16_t);
+    return total;
+}
+
 } // namespace
 
 bool areEqual(hvArray_tag const* first, hvArray_tag const* second)
@@ -34,6 +43,9 @@ bool areEqual(hvArray_tag const* first, hvArray_tag const* second)
                 open.emplace_back(a->cells()[i], b->cells()[i]);
         } else if (a->classID() == hvOBJECT_CLASS) {
             if (!std::ranges::equal(a->objects(), b->objects()))
+                return false;
+        } else if (a->classID() == hvSTRING_CLASS) {
+            if (!std::ranges::equal(a->strings(), b->strings()))
                 return false;
         } else if (a->size() != 0) {
             std::size_t const bytes = a->size() * arrayClass(a->classID()).elementSize;
@@ -55,7 +67,10 @@ std::size_t byteSize(hvArray_tag const* array)
             continue;
         if (next->classID() == hvCELL_CLASS)
             open.insert(open.end(), next->cells().begin(), next->cells().end());
-        total += next->size() * arrayClass(next->classID()).elementSize;
+        if (next->classID() == hvSTRING_CLASS)
+            total += byteSize(next->strings());
+        else
+            total += next->size() * arrayClass(next->classID()).elementSize;
     }
     return total;
 }

@@ -6,7 +6,6 @@
 #include "orbis/COSValue.hpp"
 
 #include <cstdint>
-#include <cstring>
 #include <string>
 
 namespace velmara {
@@ -30,10 +29,7 @@ std::string explainScalarRefusal(hvClassID target, Array const& input);
 inline Array* createScalar(orbis::COSValue const& value)
 {
     // Value and array both hold the scalar in the first bytes of eight.
-    auto const bits = value.scalar<std::uint64_t>();
-    Array* const array = Array::create(value.scalarClass(), 1, 1);
-    std::memcpy(array->writableElements(), &bits, sizeof bits);
-    return array;
+    return Array::createScalar(value.scalarClass(), value.scalar<std::uint64_t>());
 }
 
 } // namespace velmara

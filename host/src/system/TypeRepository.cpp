@@ -3,6 +3,7 @@
 #include "system/BuiltInType.hpp"
 #include "system/HvmState.hpp"
 #include "system/PackageTree.hpp"
+#include "system/UnicodeStringType.hpp"
 #include "values/hostError.hpp"
 
 #include <utility>
@@ -23,6 +24,21 @@ bool isTypeOfPublishedClass(TypeReference const& type)
 }
 
 } // namespace
+
+TypeRepository::TypeRepository()
+{
+    Name const unicodeString = intern("unicodeString");
+    add(std::unique_ptr<orbis::COSDataType>(makeUnicodeStringType()));
+    addConversion(anyTypeName(), unicodeString,
+                  std::unique_ptr<orbis::COSTypeConversion>(makeUnicodeStringConversion()));
+    types_[unicodeString].isPermanent = true;
+}
+
+bool TypeRepository::isPermanent(Name name) const
+{
+    Entry const* const entry = types_.find(name);
+    return entry && entry->isPermanent;
+}
 
 orbis::COSDataType* TypeRepository::findRegistered(Name name) const
 {
@@ -62,7 +78,7 @@ void TypeRepository::add(std::unique_ptr<orbis::COSDataType> type)
 void TypeRepository::remove(Name name)
 {
     Entry* const entry = types_.find(name);
-    if (!entry || !entry->isRegistered)
+    if (!entry || !entry->isRegistered || entry->isPermanent)
         return;
     Held const removed = std::move(entry->type); // its end runs foreign code: the table is in order before
     types_.erase(name);
@@ -80,7 +96,7 @@ void TypeRepository::removeConversion(Name from, Name to)
 {
     auto* const bySource = conversions_.find(to);
     auto* const found = bySource ? bySource->find(from) : nullptr;
-    if (!found)
+    if (!found || (from == anyTypeName() && isPermanent(to)))
         return;
     auto const removed = std::move(*found);
     bySource->erase(from);

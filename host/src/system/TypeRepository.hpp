@@ -9,11 +9,11 @@
 
 namespace velmara {
 
-/// The registered data types and conversions of one virtual machine, and the host's own data types and those of
-/// classes, which are made when they are first asked for.
+/// The registered data types and conversions of one virtual machine, "unicodeString" among them from the start, and
+/// the host's other data types and those of classes, which are made when they are first asked for.
 class TypeRepository {
 public:
-    TypeRepository() = default;
+    TypeRepository();
     TypeRepository(TypeRepository const&) = delete;
     TypeRepository& operator=(TypeRepository const&) = delete;
     ~TypeRepository() { clear(); }
@@ -46,7 +46,10 @@ private:
     struct Entry {
         Held type;
         bool isRegistered = false;
+        bool isPermanent = false; ///< registered by the host itself
     };
+
+    bool isPermanent(Name name) const;
 
     NameMap<Entry> types_;
     NameMap<NameMap<std::unique_ptr<orbis::COSTypeConversion>>> conversions_; ///< by target, then by source

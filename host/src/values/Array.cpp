@@ -6,7 +6,9 @@
 
 #include "libkwfl/bad_alloc.hpp"
 
+#include <algorithm>
 #include <cstring>
+#include <memory>
 #include <utility>
 
 namespace velmara {
@@ -38,15 +40,25 @@ Array* Array::createSharing(Payload& payload) const
     return array;
 }
 
+Array* Array::createLongText(std::size_t size)
+{
+    Payload* const payload = Payload::create(size, sizeof(char16_t));
+    return createAround(*payload, hvCHAR_CLASS, 1, size, nullptr);
+}
+
 Array* Array::createZeroed(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
 {
     std::size_t count;
     if (__builtin_mul_overflow(rows, columns, &count)) [[unlikely]]
         throw foundation::core::except::bad_alloc();
+    std::size_t const elementSize = arrayClass(classID).elementSize;
+    if (count == 0 || (isPlain(classID) && count <= sizeOfPlace / elementSize)) {
+        Array* const array = createHeader(classID, rows, columns, objectClass);
+        std::memset(array->place_, 0, sizeOfPlace);
+        return array;
+    }
     // A single cell has a payload like any other: a copied nest knows by it what was shared.
-    if (count == 0 || (count == 1 && classID != hvCELL_CLASS))
-        return createHeader(classID, rows, columns, objectClass);
-    Payload* const payload = Payload::createZeroed(count, arrayClass(classID).elementSize);
+    Payload* const payload = Payload::createZeroed(count, elementSize);
     return createAround(*payload, classID, rows, columns, objectClass);
 }
 
@@ -59,6 +71,12 @@ void* Array::writableElements()
 {
     makeUnshared();
     return elements_;
+}
+
+StringElement& Array::writableString(std::size_t index)
+{
+    makeUnshared();
+    return stringSlots()[index];
 }
 
 void Array::setCell(std::size_t index, Array* value)
@@ -87,7 +105,7 @@ Array* Array::shareData() const
     if (hasPayload())
         return createSharing(*payload());
     Array* const copy = createHeader(classID_, rows(), columns(), objectClass_);
-    std::memcpy(copy->inline_, inline_, sizeof inline_);
+    std::memcpy(copy->place_, place_, sizeof place_);
     copy->retainElements();
     return copy;
 }
@@ -104,10 +122,29 @@ void Array::setTemporary(bool isTemporary)
 
 void Array::copyPayload()
 {
-    Payload* const own = Payload::createCopy(elements_, size(), elementSize());
+    Payload* const own = createPayloadCopy();
     payload()->removeReference();
     elements_ = own->elements();
     retainElements();
+}
+
+Payload* Array::createPayloadCopy() const
+{
+    return classID_ == hvSTRING_CLASS ? copyStrings() : Payload::createCopy(elements_, size(), elementSize());
+}
+
+Payload* Array::copyStrings() const
+{
+    Payload* const copy = Payload::createZeroed(size(), elementSize());
+    auto* const begin = static_cast<StringElement*>(copy->elements());
+    try {
+        std::ranges::copy(strings(), begin);
+    } catch (...) {
+        std::destroy_n(begin, size());
+        copy->free();
+        throw;
+    }
+    return copy;
 }
 
 /// Takes references for elements that were copied byte by byte.
@@ -134,6 +171,8 @@ void Array::destroy() noexcept
         destroyObjects();
     else if (classID_ == hvCELL_CLASS)
         CellNest::destroy(this);
+    else if (classID_ == hvSTRING_CLASS)
+        destroyStrings();
     else
         destroyPlain();
 }
@@ -158,6 +197,15 @@ void Array::destroyObjects() noexcept
             object->removeInternal();
     }
     held->free();
+}
+
+void Array::destroyStrings() noexcept
+{
+    if (hasPayload() && payload()->removeReference()) {
+        std::destroy_n(stringSlots(), size());
+        payload()->free();
+    }
+    freeHeader();
 }
 
 void Array::destroyPlain() noexcept

@@ -6,9 +6,11 @@
 #include "values/InternedName.hpp"
 #include "values/LiveCounters.hpp"
 #include "values/Payload.hpp"
+#include "values/StringElement.hpp"
 
 #include "libhv/hvArray.hpp"
 
+#include <cstring>
 #include <new>
 #include <span>
 #include <string_view>
@@ -16,27 +18,49 @@
 
 namespace velmara {
 
-/// What stands behind every `hvArray_tag`: class, sizes, and elements. A plain scalar and the one element of an
-/// object array stand in the array itself; other elements stand in a payload that copies share until one of them
-/// writes. Elements are numbers, characters, `Array*` (cells, null when empty) or `Object*` (null allowed).
+/// What stands behind every `hvArray_tag`: class, sizes, and elements. Few plain elements (a scalar, a short text) and
+/// the one element of an object array stand in the array itself; other elements stand in a payload that copies share
+/// until one of them writes. Elements are numbers, characters, `Array*` (cells, null when empty), `StringElement`s or
+/// `Object*` (null allowed).
 ///
 /// It keeps one allocation in all for what calls pass around most. Functions that make, copy or write throw
 /// `bad_alloc` without memory, and leave everything as it was.
 class Array final : public hvArray_tag {
 public:
-    /// A new array of zeros or empty cells, of a plain class or of cells, with one reference.
+    /// Of the place in the array itself, in bytes: room for 20 characters.
+    static constexpr std::size_t sizeOfPlace = 40;
+
+    /// A new array of zeros, empty cells or missing strings, of any class but objects, with one reference.
     static Array* create(hvClassID classID, std::size_t rows, std::size_t columns)
     {
-        bool const standsInArray = rows == 1 && columns == 1 && classID != hvCELL_CLASS;
-        return standsInArray ? createHeader(classID, 1, 1, nullptr) : createZeroed(classID, rows, columns, nullptr);
+        bool const isScalar = rows == 1 && columns == 1 && isPlain(classID);
+        return isScalar ? createScalar(classID, 0) : createZeroed(classID, rows, columns, nullptr);
+    }
+
+    /// A new 1-by-1 array of a plain class from the element's bytes, the first of the eight.
+    static Array* createScalar(hvClassID classID, std::uint64_t bytes)
+    {
+        Array* const array = createHeader(classID, 1, 1, nullptr);
+        std::memcpy(array->place_, &bytes, sizeof bytes);
+        return array;
+    }
+
+    /// A new array of `size` characters, yet unwritten: one row, or 0-by-0 when there are none.
+    static Array* createText(std::size_t size)
+    {
+        if (size > sizeOfPlace / sizeof(char16_t))
+            return createLongText(size);
+        return createHeader(hvCHAR_CLASS, size != 0, size, nullptr);
     }
 
     /// A new array of null objects, typed by a class name.
     static Array* createObjects(Name className, std::size_t rows, std::size_t columns)
     {
-        if (rows == 1 && columns == 1)
-            return createHeader(hvOBJECT_CLASS, 1, 1, className);
-        return createZeroed(hvOBJECT_CLASS, rows, columns, className);
+        if (rows != 1 || columns != 1)
+            return createZeroed(hvOBJECT_CLASS, rows, columns, className);
+        Array* const array = createHeader(hvOBJECT_CLASS, 1, 1, className);
+        *array->objectSlots() = nullptr;
+        return array;
     }
 
     static Array* of(hvArray_tag* array) { return static_cast<Array*>(array); }
@@ -59,10 +83,14 @@ public:
     void const* elements() const { return elements_; }
     std::u16string_view text() const { return {static_cast<char16_t const*>(elements_), size()}; }
     std::span<Array* const> cells() const { return {static_cast<Array* const*>(elements_), size()}; }
+    std::span<StringElement const> strings() const { return {static_cast<StringElement const*>(elements_), size()}; }
     std::span<Object* const> objects() const { return {static_cast<Object* const*>(elements_), size()}; }
 
     /// The elements of numbers and characters for writing, shared with no other array.
     void* writableElements();
+
+    /// An element of a string array for writing, shared with no other array.
+    StringElement& writableString(std::size_t index);
 
     /// Takes over the reference to `value`; null empties the cell.
     void setCell(std::size_t index, Array* value);
@@ -78,6 +106,10 @@ public:
     Array* copyDeep() const;
 
     void setTemporary(bool isTemporary);
+
+    /// The place for an element in the array itself. Arrays of cells and of strings keep none there, so it is free for
+    /// what is worked out about them.
+    void* freePlace() const { return place_; }
 
     /// Gives one reference back; the last one frees the array.
     void release() noexcept
@@ -99,7 +131,7 @@ private:
 
     ~Array() = default;
 
-    /// An array whose element, if it has one, stands in the array itself.
+    /// An array whose elements, if it has any, stand in the array itself, and are yet to be written.
     static Array* createHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
 
     /// The same where the thread has no memory kept, or does not count yet.
@@ -109,12 +141,14 @@ private:
     static Array* createAround(Payload& payload, hvClassID classID, std::size_t rows, std::size_t columns,
                                Name objectClass);
     Array* createSharing(Payload& payload) const;
+    static Array* createLongText(std::size_t size);
     static Array* createZeroed(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
 
-    bool hasPayload() const { return elements_ != inline_; }
+    bool hasPayload() const { return elements_ != place_; }
     Payload* payload() const { return Payload::of(elements_); }
     std::size_t elementSize() const { return arrayClass(classID_).elementSize; }
     Array** cellSlots() { return static_cast<Array**>(elements_); }
+    StringElement* stringSlots() const { return static_cast<StringElement*>(elements_); }
     Object** objectSlots() const { return static_cast<Object**>(elements_); }
 
     /// True when no one but cells holds the array.
@@ -127,9 +161,14 @@ private:
     }
 
     void copyPayload();
+
+    /// A copy of the payload. Cells and objects in it are not retained yet.
+    Payload* createPayloadCopy() const;
+    Payload* copyStrings() const;
     void retainElements() const noexcept;
     void destroy() noexcept;
     void destroyObjects() noexcept;
+    void destroyStrings() noexcept;
     void destroyPlain() noexcept;
     void freeHeader() noexcept;
 
@@ -137,8 +176,8 @@ private:
     std::uint32_t cellsAround_ = 0; ///< how many of the references are held by cells
     std::size_t dimensions_[2];
     Name objectClass_;
-    void* elements_ = inline_;
-    alignas(8) std::byte inline_[8] = {}; ///< the one element that stands in the array itself
+    void* elements_ = place_;
+    alignas(8) mutable std::byte place_[sizeOfPlace]; ///< for elements that stand in the array itself
 };
 
 static_assert(sizeof(Array) == ArrayMemory::size);

@@ -1,19 +1,29 @@
 #include "values/ArrayClass.hpp"
 
+#include "values/StringElement.hpp"
+
 namespace velmara {
 
 namespace {
 
 // In the order of hvClassID.
 constexpr ArrayClass classes[] = {
-    {"unknown", 0, false}, {"cell", sizeof(void*), false},
-    {"logical", 1, true},  {"char", 2, true},
-    {"double", 8, true},   {"single", 4, true},
-    {"int8", 1, true},     {"uint8", 1, true},
-    {"int16", 2, true},    {"uint16", 2, true},
-    {"int32", 4, true},    {"uint32", 4, true},
-    {"int64", 8, true},    {"uint64", 8, true},
-    {"string", 0, false},  {"object", sizeof(void*), false},
+    {"unknown", 0},
+    {"cell", sizeof(void*)},
+    {"logical", 1},
+    {"char", 2},
+    {"double", 8},
+    {"single", 4},
+    {"int8", 1},
+    {"uint8", 1},
+    {"int16", 2},
+    {"uint16", 2},
+    {"int32", 4},
+    {"uint32", 4},
+    {"int64", 8},
+    {"uint64", 8},
+    {"string", sizeof(StringElement)},
+    {"object", sizeof(void*)},
 };
 
 } // namespace

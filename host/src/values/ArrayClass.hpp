@@ -10,8 +10,13 @@ namespace velmara {
 struct ArrayClass {
     std::string_view name;   ///< what `hvIsA` and error texts call it; objects have their class's name instead
     std::size_t elementSize; ///< 0 when there are no arrays of it
-    bool isPlain;            ///< numeric, logical or character: the elements own nothing
 };
+
+/// True for the numeric, logical and character classes, whose elements own nothing.
+constexpr bool isPlain(hvClassID id)
+{
+    return id >= hvLOGICAL_CLASS && id <= hvUINT64_CLASS;
+}
 
 /// Also answers for numbers that are no class id: as `hvUNKNOWN_CLASS`.
 ArrayClass const& arrayClass(hvClassID id);

@@ -10,7 +10,7 @@ namespace velmara {
 /// reaching what belongs to a thread costs as much as it saves.
 class ArrayMemory {
 public:
-    static constexpr std::size_t size = 56;
+    static constexpr std::size_t size = 88;
 
     /// Throws `bad_alloc`.
     static void* take();

@@ -7,10 +7,9 @@
 
 namespace velmara {
 
-// Cell arrays keep their elements in payloads, so the place inside the array is free for the list of dying ones.
 Array*& CellNest::nextDying(Array& array)
 {
-    return *reinterpret_cast<Array**>(array.inline_);
+    return *static_cast<Array**>(array.freePlace());
 }
 
 void CellNest::destroy(Array* cells) noexcept

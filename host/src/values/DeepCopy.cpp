@@ -37,8 +37,8 @@ DeepCopy::Owner DeepCopy::copy(Array const& source)
 DeepCopy::Owner DeepCopy::copyPayload(Array const& source)
 {
     bool const isCell = source.classID_ == hvCELL_CLASS;
-    Payload* const payload = isCell ? Payload::createZeroed(source.size(), source.elementSize())
-                                    : Payload::createCopy(source.elements_, source.size(), source.elementSize());
+    Payload* const payload =
+        isCell ? Payload::createZeroed(source.size(), source.elementSize()) : source.createPayloadCopy();
     Owner copy(Array::createAround(*payload, source.classID_, source.rows(), source.columns(), source.objectClass_));
     if (isCell)
         open_.push_back({source.cells(), copy->cellSlots()});

@@ -30,6 +30,11 @@ Payload* Payload::withOneReference(void* memory)
     return payload;
 }
 
+Payload* Payload::create(std::size_t count, std::size_t size)
+{
+    return withOneReference(std::malloc(sizeInBytes(count, size)));
+}
+
 Payload* Payload::createZeroed(std::size_t count, std::size_t size)
 {
     std::size_t const bytes = sizeInBytes(count, size);
@@ -42,9 +47,8 @@ Payload* Payload::createZeroed(std::size_t count, std::size_t size)
 
 Payload* Payload::createCopy(void const* source, std::size_t count, std::size_t size)
 {
-    std::size_t const bytes = sizeInBytes(count, size);
-    Payload* const payload = withOneReference(std::malloc(bytes));
-    std::memcpy(payload->elements(), source, bytes - sizeof(Payload));
+    Payload* const payload = create(count, size);
+    std::memcpy(payload->elements(), source, count * size);
     return payload;
 }
 

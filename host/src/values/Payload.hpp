@@ -9,8 +9,11 @@ namespace velmara {
 /// back also ends the elements.
 class alignas(16) Payload {
 public:
-    /// Room for `count` elements of `size` bytes, all zero, with one reference. Throws `bad_alloc`, also when
-    /// there cannot be so many.
+    /// Room for `count` elements of `size` bytes, with one reference. Throws `bad_alloc`, also when there cannot be so
+    /// many.
+    static Payload* create(std::size_t count, std::size_t size);
+
+    /// The same, all zero.
     static Payload* createZeroed(std::size_t count, std::size_t size);
 
     /// The same with the bytes of `source`, which holds as many.

@@ -29,6 +29,24 @@ auto& requireCell(Tag* array, std::size_t index)
 }
 
 template <class Tag>
+auto& requireStrings(Tag* array)
+{
+    auto& strings = requireArray(array);
+    if (strings.classID() != hvSTRING_CLASS) [[unlikely]]
+        refuseClass(strings, "notString");
+    return strings;
+}
+
+template <class Tag>
+auto& requireString(Tag* array, std::size_t index)
+{
+    auto& strings = requireStrings(array);
+    if (index >= strings.size()) [[unlikely]]
+        refuseIndex(strings, index);
+    return strings;
+}
+
+template <class Tag>
 auto& requireObjects(Tag* array)
 {
     auto& objects = requireArray(array);

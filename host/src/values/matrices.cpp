@@ -9,7 +9,7 @@ using namespace velmara;
 
 hvArray* createMatrix(std::size_t m, std::size_t n, hvClassID classID)
 {
-    if (!arrayClass(classID).isPlain)
+    if (!isPlain(classID))
         throwHostError("VELMARA:array", "notNumeric", {std::to_string(classID)});
     return Array::create(classID, m, n);
 }
@@ -17,13 +17,13 @@ hvArray* createMatrix(std::size_t m, std::size_t n, hvClassID classID)
 void const* getData(hvArray_tag const* array)
 {
     Array const& matrix = requireArray(array);
-    return arrayClass(matrix.classID()).isPlain ? matrix.elements() : nullptr;
+    return isPlain(matrix.classID()) ? matrix.elements() : nullptr;
 }
 
 void* getWritableData(hvArray_tag* array)
 {
     Array& matrix = requireArray(array);
-    return arrayClass(matrix.classID()).isPlain ? matrix.writableElements() : nullptr;
+    return isPlain(matrix.classID()) ? matrix.writableElements() : nullptr;
 }
 
 } // namespace orbis::additions

@@ -1,32 +1,19 @@
 #include "values/Array.hpp"
+#include "values/TextMemory.hpp"
 #include "values/Utf.hpp"
 
+#include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
-#include "libkwfl/bad_alloc.hpp"
 
 #include <algorithm>
 #include <cstdlib>
 
 namespace matrix::detail::noninlined::hv_array_api {
 
+using velmara::allocateText;
 using velmara::Array;
 
 namespace {
-
-Array* createRow(std::size_t size)
-{
-    return Array::create(hvCHAR_CLASS, size == 0 ? 0 : 1, size);
-}
-
-template <class Char>
-Char* allocateText(std::size_t size)
-{
-    auto* const text = static_cast<Char*>(std::malloc((size + 1) * sizeof(Char)));
-    if (!text)
-        throw foundation::core::except::bad_alloc();
-    text[size] = Char();
-    return text;
-}
 
 bool isCharacters(hvArray_tag const* array)
 {
@@ -38,17 +25,14 @@ bool isCharacters(hvArray_tag const* array)
 hvArray* hvCreateString(char const* text)
 {
     std::string_view const utf8 = text ? text : "";
-    Array* const array = createRow(velmara::sizeAsUtf16(utf8));
+    Array* const array = Array::createText(velmara::sizeAsUtf16(utf8));
     velmara::writeAsUtf16(utf8, static_cast<char16_t*>(array->writableElements()));
     return array;
 }
 
 hvArray* hvCreateString_UTF16(char16_t const* text)
 {
-    std::u16string_view const utf16 = text ? text : u"";
-    Array* const array = createRow(utf16.size());
-    std::ranges::copy(utf16, static_cast<char16_t*>(array->writableElements()));
-    return array;
+    return orbis::additions::createText(text ? text : u"");
 }
 
 char* hvArrayToString(hvArray_tag const* array)
@@ -87,3 +71,10 @@ void hvFreeEx(void* text)
 }
 
 } // namespace matrix::detail::noninlined::hv_array_api
+
+hvArray* orbis::additions::createText(std::u16string_view text)
+{
+    velmara::Array* const array = velmara::Array::createText(text.size());
+    std::ranges::copy(text, static_cast<char16_t*>(array->writableElements()));
+    return array;
+}

@@ -4,6 +4,7 @@
 #include "orbis/COSNameID.hpp"
 
 #include <span>
+#include <string_view>
 
 namespace orbis {
 class COSClass;
@@ -21,6 +22,17 @@ ORBIS_HOST_API void const* getData(hvArray_tag const* array);
 
 /// The same for writing: data shared with other arrays is copied first.
 ORBIS_HOST_API void* getWritableData(hvArray_tag* array);
+
+/// A 1-by-n character array of UTF-16 text, which may hold zeros; 0-by-0 for an empty one.
+ORBIS_HOST_API hvArray* createText(std::u16string_view text);
+
+/// A new m-by-n string array of missing elements. `Tarnwick::String` reads it.
+ORBIS_HOST_API hvArray* createStringMatrix(std::size_t m, std::size_t n);
+
+/// Stores a copy of the text, which may hold zeros, at a zero-based linear index of a string array; data shared with
+/// other arrays is copied first. The text may be that of an element of the same array.
+ORBIS_HOST_API void setString(hvArray_tag* strings, std::size_t index, std::u16string_view text);
+ORBIS_HOST_API void setMissing(hvArray_tag* strings, std::size_t index);
 
 /// The cell at a zero-based linear index, null when it is empty. It stays the cell array's.
 ORBIS_HOST_API hvArray_tag const* getCell(hvArray_tag const* cells, std::size_t index);

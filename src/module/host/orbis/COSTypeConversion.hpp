@@ -7,7 +7,8 @@ class hvArray_tag;
 namespace orbis {
 
 /// A conversion between two named data types, where the second one's values are host arrays or, for a type whose
-/// values are objects of its own ("unicodeString"), pointers to them in the place of an array.
+/// values are native objects ("unicodeString"), pointers to them in the place of an array: of the pointer nothing but
+/// its address is used until it is cast back.
 class ORBIS_HOST_API COSTypeConversion {
 public:
     COSTypeConversion();

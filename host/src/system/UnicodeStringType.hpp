@@ -1,0 +1,15 @@
+#pragma once
+
+#include "orbis/COSDataType.hpp"
+#include "orbis/COSTypeConversion.hpp"
+
+namespace velmara {
+
+/// "unicodeString": the host's type of one UTF-16 text. Its values are `fl::ustring*`, made with `new`, in the place of
+/// arrays.
+orbis::COSDataType* makeUnicodeStringType();
+
+/// Its conversion from "any". See `COSTypeRepository::getConversion`.
+orbis::COSTypeConversion* makeUnicodeStringConversion();
+
+} // namespace velmara
