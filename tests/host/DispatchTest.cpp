@@ -64,6 +64,43 @@ TEST_F(DispatchTest, PicksByNumberOfInputsAndBestFit)
     EXPECT_EQ(callF({real.get(), real.get()}), 6);
 }
 
+// Twice each and in turns, so that names found a moment ago are found again beside others.
+TEST_F(DispatchTest, MethodsOfAnyNameAndAnyNumberOfInputs)
+{
+    constexpr std::size_t most = 20;
+    publish(new Class("D", [](orbis::COSClass* cls) {
+        for (std::size_t size = 1; size <= most; ++size) {
+            std::vector<std::string> const types(size, "int32 scalar");
+            for (char const mark : {'a', 'b'}) {
+                std::string name(size, 'x');
+                name[size / 2] = mark;
+                cls->addMethod(new Method(name, "double scalar", types,
+                                          [mark](Call const& call) {
+                                              auto const last = call.inputs[call.inputCount - 1].scalar<std::int32_t>();
+                                              call.give(
+                                                  COSValue(last * 100.0 + call.inputCount + (mark == 'b' ? 0.5 : 0.0)));
+                                          },
+                                          {.isStatic = true}));
+            }
+        }
+    }));
+    for (std::size_t const round : {1u, 2u}) {
+        for (std::size_t size = 1; size <= most; ++size) {
+            ArrayPtr const other = array(0.0), last = array(static_cast<double>(round));
+            std::vector<hvArray_tag*> inputs(size, other.get());
+            inputs.back() = last.get();
+            std::string name(size, 'x');
+            for (char const mark : {'a', 'b'}) {
+                name[size / 2] = mark;
+                double const expected = round * 100.0 + size + (mark == 'b' ? 0.5 : 0.0);
+                EXPECT_EQ(scalar<double>(hvm().callStatic("D", name, inputs)), expected) << name;
+            }
+            name[size / 2] = 'c';
+            EXPECT_EQ(errorOf([&] { hvm().callStatic("D", name, inputs); }), "VELMARA:member:unknown") << name;
+        }
+    }
+}
+
 TEST_F(DispatchTest, EquallyGoodOnesAreRefusedAndListed)
 {
     publishOverloads({{"int32 scalar", "double scalar"}, {"double scalar", "int32 scalar"}, {"char", "char"}});

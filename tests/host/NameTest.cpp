@@ -44,6 +44,16 @@ TEST(NameTest, EqualTextsAreOneNameAndOthersAreNot)
     EXPECT_TRUE(COSNameID(nullptr) == COSNameID(""));
 }
 
+TEST(NameTest, TextThatChangesAtOneAddressIsAnotherName)
+{
+    for (char const* const text : {"NameTest.first", "NameTest.second", "NameTest.first", "NameTest.f", ""}) {
+        static char buffer[32];
+        std::string(text).copy(buffer, sizeof buffer - 1);
+        buffer[std::string(text).size()] = 0;
+        EXPECT_TRUE(COSNameID(buffer) == COSNameID(text)) << text;
+    }
+}
+
 TEST(NameTest, CountsNamesThatAreHeld)
 {
     {

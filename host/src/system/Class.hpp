@@ -54,8 +54,8 @@ public:
     /// Null when there is none, also after the class infos of the hierarchy were asked to load one of that name.
     [[gnu::always_inline]] MethodGroup const* findMethods(std::string_view name)
     {
-        MethodGroup const* const found = tables().methodGroups.findText(name);
-        return found ? found : loadMethods(name);
+        MethodGroup const* const recent = tables().recentMethods.find(name);
+        return recent ? recent : findOtherMethods(name);
     }
 
     Property const* findProperty(std::string_view name)
@@ -82,6 +82,7 @@ private:
     void requireOpen(Name member) const;
     [[noreturn]] void refuseDuplicate(Name member) const;
 
+    MethodGroup const* findOtherMethods(std::string_view name);
     MethodGroup const* loadMethods(std::string_view name);
     Property const* loadProperty(std::string_view name);
 

@@ -3,6 +3,7 @@
 #include "system/Method.hpp"
 #include "system/NameMap.hpp"
 #include "system/Property.hpp"
+#include "system/RecentNames.hpp"
 
 #include <memory>
 #include <vector>
@@ -13,6 +14,7 @@ namespace velmara {
 struct MemberTables {
     MethodGroup constructors;
     NameMap<MethodGroup> methodGroups;
+    mutable RecentNames<MethodGroup> recentMethods;
     NameMap<Property const*> propertiesByName;
 };
 

@@ -37,8 +37,7 @@ public:
     {
         if (type.kind != TypeKind::Scalar)
             return addArray(type, input);
-        Array const& array = *Array::of(input);
-        Fit const fit = type.converters[array.classID()](array, values_[count_]);
+        Fit const fit = type.scalar.read(*Array::of(input), values_[count_]);
         count_ += fit != noFit;
         return fit;
     }

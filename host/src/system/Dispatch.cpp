@@ -63,4 +63,11 @@ Method const& chooseAmong(MethodGroup const& group, CallInputs call)
     return *unbeaten.front();
 }
 
+ArrayPtr dispatchAny(MethodGroup const& group, CallInputs const& call)
+{
+    ConvertedInputs converted(call.capacity());
+    Method const& method = choose(group, call, converted);
+    return invoke(method, converted.count(), converted.values());
+}
+
 } // namespace velmara

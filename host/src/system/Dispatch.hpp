@@ -1,33 +1,15 @@
 #pragma once
 
+#include "system/CallInputs.hpp"
 #include "system/ConvertedInputs.hpp"
-#include "system/Method.hpp"
+#include "system/PlainInputs.hpp"
 #include "system/ResultValue.hpp"
 
 #include "velmara/ArrayPtr.hpp"
 
-#include <span>
-
 namespace velmara {
 
 class HvmState;
-
-using Inputs = std::span<hvArray_tag* const>;
-
-/// What one call is made with. `self` is an object array, or null where there is no object.
-struct CallInputs {
-    hvArray_tag* self;
-    Inputs inputs;
-
-    /// How many values a call needs at most.
-    std::size_t capacity() const { return inputs.size() + 1; }
-};
-
-/// True when the method can be called with so many inputs, and on an object where it needs one.
-inline bool takesInputs(Method const& method, CallInputs const& call)
-{
-    return method.inputCount == call.inputs.size() + method.takesObject && (!method.takesObject || call.self);
-}
 
 /// Refuses missing inputs, and objects that are invalid or of other virtual machines.
 void checkInputs(HvmState const& machine, Inputs inputs);
@@ -75,15 +57,27 @@ Method const& chooseAmong(MethodGroup const& group, CallInputs call);
     return chosen;
 }
 
-/// Chooses a method and calls it; a failure inside it is final. The result is null when there is none.
-[[gnu::always_inline]] inline ArrayPtr dispatch(MethodGroup const& group, CallInputs const& call)
+/// Calls a method with converted inputs. The result is null when there is none.
+[[gnu::always_inline]] inline ArrayPtr invoke(Method const& method, int inputCount, orbis::COSValue const* inputs)
 {
-    ConvertedInputs converted(call.capacity());
-    Method const& method = choose(group, call, converted);
     ResultValue result(method.outputType);
     int outputCount = 0;
-    method.info->invoke(nullptr, outputCount, &result.slot(), converted.count(), converted.values());
+    method.info->invoke(nullptr, outputCount, &result.slot(), inputCount, inputs);
     return outputCount == 0 ? nullptr : result.take(method.name);
+}
+
+/// `dispatch` for every method and every input.
+ArrayPtr dispatchAny(MethodGroup const& group, CallInputs const& call);
+
+/// Chooses a method and calls it; a failure inside it is final.
+[[gnu::always_inline]] inline ArrayPtr dispatch(MethodGroup const& group, CallInputs const& call)
+{
+    if (group.plain) [[likely]] {
+        PlainInputs inputs;
+        if (inputs.read(*group.plain, call)) [[likely]]
+            return invoke(*group.plain, static_cast<int>(group.plain->inputCount), inputs.values());
+    }
+    return dispatchAny(group, call);
 }
 
 } // namespace velmara

@@ -17,6 +17,11 @@ Name nameOf(orbis::COSMethodInfo const& info)
     return intern(name);
 }
 
+bool isScalar(Parameter const& parameter)
+{
+    return parameter.type.kind == TypeKind::Scalar;
+}
+
 } // namespace
 
 Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, Class const* definer)
@@ -41,6 +46,8 @@ Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, Class const* de
     takesObject = definer && !isStatic && !isConstructor;
     if (takesObject && inputs.empty())
         throwHostError("VELMARA:member", "noObjectInput", {std::string(definer->name()->view()), info->getName()});
+    isPlain = isAccessible() && !isAbstract && !isConstructor && inputCount <= mostPlainInputs &&
+              std::ranges::all_of(explicitInputs(), isScalar) && (!outputType || isScalar(outputs.front()));
 }
 
 bool Method::hasSameInputs(Method const& other) const
@@ -61,12 +68,19 @@ void MethodGroup::add(Method const& method)
         methods.insert(methods.begin() + static_cast<std::ptrdiff_t>(accessible++), &method);
     else
         methods.push_back(&method);
+    findPlain();
 }
 
 void MethodGroup::remove(Method const& method)
 {
     if (std::erase(methods, &method) != 0 && method.isAccessible())
         --accessible;
+    findPlain();
+}
+
+void MethodGroup::findPlain()
+{
+    plain = accessible == 1 && methods.front()->isPlain ? methods.front() : nullptr;
 }
 
 } // namespace velmara

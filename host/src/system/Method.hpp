@@ -43,6 +43,11 @@ struct Method {
     bool isVisible;
     bool overridesAllSignatures;
     bool takesObject; ///< its first input is the object it is called on
+
+    /// True for a method that anyone may call and that takes and gives only scalars, not too many: most are so, and
+    /// are called by a shorter way.
+    bool isPlain;
+    static constexpr std::size_t mostPlainInputs = 8;
 };
 
 /// The methods of one name among which the dispatch chooses.
@@ -55,6 +60,10 @@ struct MethodGroup {
 
     std::vector<Method const*> methods;
     std::size_t accessible = 0;
+    Method const* plain = nullptr; ///< the one that may be called, where there is just one and it is plain
+
+private:
+    void findPlain();
 };
 
 } // namespace velmara

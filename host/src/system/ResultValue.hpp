@@ -32,7 +32,7 @@ public:
     /// value is not of the type.
     ArrayPtr take(Name member)
     {
-        if (type_ && value_.scalarClass() == type_->scalarClass && type_->kind == TypeKind::Scalar) [[likely]]
+        if (type_ && type_->kind == TypeKind::Scalar && value_.isScalarOf(type_->scalarClass)) [[likely]]
             return ArrayPtr(createScalar(value_));
         return takeOther(member->view());
     }

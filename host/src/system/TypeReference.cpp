@@ -1,7 +1,6 @@
 #include "system/TypeReference.hpp"
 
 #include "system/NameMap.hpp"
-#include "system/ScalarConversion.hpp"
 
 #include <string_view>
 
@@ -54,7 +53,7 @@ TypeReference::TypeReference(Name typeName) : name(typeName)
         kind = builtIn->kind;
         scalarClass = builtIn->scalarClass;
         if (kind == TypeKind::Scalar)
-            converters = scalarConverters(scalarClass);
+            scalar = ScalarReader(scalarClass);
     } else if (name->view().ends_with(suffix)) {
         element = intern(name->view().substr(0, name->length - suffix.size()));
     }

@@ -1,19 +1,13 @@
 #pragma once
 
-#include "system/Fit.hpp"
+#include "system/ScalarReader.hpp"
 #include "values/InternedName.hpp"
 
 #include "libhv/hvArray.hpp"
 
 #include <cstdint>
 
-namespace orbis {
-class COSValue;
-}
-
 namespace velmara {
-
-class Array;
 
 /// What a data type name means to the dispatch. All but `Named` are the host's own and mean the same in every
 /// virtual machine; a named type is a registered one, a class, or a class's vector type.
@@ -27,9 +21,7 @@ struct TypeReference {
     Name element = nullptr; ///< the class of a "... vector" type
     TypeKind kind = TypeKind::Named;
     hvClassID scalarClass = hvUNKNOWN_CLASS; ///< the elements' class of a scalar type
-
-    /// How arrays become values of a scalar type, by their class.
-    Fit (*const* converters)(Array const& input, orbis::COSValue& out) = nullptr;
+    ScalarReader scalar;                     ///< reads inputs of a scalar type
 };
 
 /// "any", the type whose values are all arrays.

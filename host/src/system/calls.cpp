@@ -33,7 +33,8 @@ void requireObjectArray(hvArray_tag const* array)
 
 namespace {
 
-ArrayPtr callMethod(HvmState& machine, hvArray_tag* array, std::string_view method, Inputs inputs)
+[[gnu::always_inline]] inline ArrayPtr callMethod(HvmState& machine, hvArray_tag* array, std::string_view method,
+                                                  Inputs inputs)
 {
     Class& cls = requireClassOf(machine, array, requireObject(machine, array));
     MethodGroup const* const group = cls.findMethods(method);

@@ -77,6 +77,15 @@ auto Class::load(Find find, Attempt attempt)
     return found;
 }
 
+MethodGroup const* Class::findOtherMethods(std::string_view name)
+{
+    MethodGroup const* const found = tables().methodGroups.findText(name);
+    if (!found)
+        return loadMethods(name);
+    tables().recentMethods.remember(name, *found);
+    return found;
+}
+
 MethodGroup const* Class::loadMethods(std::string_view name)
 {
     return load([&] { return tables().methodGroups.findText(name); },

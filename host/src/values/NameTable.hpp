@@ -16,9 +16,6 @@ public:
     NameTable(NameTable const&) = delete;
     NameTable& operator=(NameTable const&) = delete;
 
-    /// The name in the slot where a search for the hash begins; null when none is there.
-    Name atFirstSlot(std::uint64_t hash) const;
-
     /// Null when there is no such name yet.
     Name find(std::string_view text, std::uint64_t hash) const
     {
@@ -50,23 +47,5 @@ private:
 };
 
 extern constinit NameTable nameTable;
-
-inline Name NameTable::atFirstSlot(std::uint64_t hash) const
-{
-    Slots const& slots = *slots_.load(std::memory_order_acquire);
-    return slots.first[hash & slots.mask].load(std::memory_order_acquire);
-}
-
-/// `intern`, in line for most known names.
-[[gnu::always_inline]] inline Name internInline(std::string_view text)
-{
-    if (isFourChunks(text.size())) [[likely]] {
-        std::uint64_t const hash = hashFourChunks(text);
-        Name const name = nameTable.atFirstSlot(hash);
-        if (name && name->hash == hash && name->length == text.size() && isSameFourChunks(text, name->text)) [[likely]]
-            return name;
-    }
-    return intern(text);
-}
 
 } // namespace velmara

@@ -30,8 +30,14 @@ public:
         *reinterpretPayload<T>(&payload_) = scalar;
     }
 
+    /// A scalar of a class that is known when it is made, in the low bytes of `bits`.
+    COSValue(hvClassID scalarClass, std::uint64_t bits) : payload_{.bits = bits}, kind_(scalarClass) {}
+
     bool isEmpty() const { return kind_ == emptyKind; }
     bool isArray() const { return kind_ == arrayKind; }
+
+    /// True when it holds a scalar of just this class.
+    bool isScalarOf(hvClassID scalarClass) const { return kind_ == scalarClass; }
 
     /// The class of the scalar, `hvUNKNOWN_CLASS` when the record holds none.
     hvClassID scalarClass() const { return isArray() ? hvUNKNOWN_CLASS : static_cast<hvClassID>(kind_); }
