@@ -1,8 +1,5 @@
 #include "marshal/StringDataTypeRegistration.hpp"
 
-#include "orbis/factory/detail/initStringDataTypes.hpp"
-
-#include "basic/HvmScoped.hpp"
 #include "marshal/OrbisFactoryString.hpp"
 #include "marshal/OrbisFactoryStringVector.hpp"
 
@@ -33,11 +30,6 @@ StringDataTypeRegistration::StringDataTypeRegistration()
     : string_(std::make_unique<OrbisFactoryString>(), std::make_unique<OrbisFactoryString::Conversion>()),
       vector_(std::make_unique<OrbisFactoryStringVector>(), std::make_unique<OrbisFactoryStringVector::Conversion>())
 {
-}
-
-void detail::initStringDataTypes()
-{
-    basic::HvmScoped<StringDataTypeRegistration>::get();
 }
 
 } // namespace orbis::factory

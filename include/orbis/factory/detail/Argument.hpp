@@ -34,7 +34,7 @@ public:
     /// the holder's `value` is.
     decltype(auto) get()
     {
-        if constexpr (std::is_same_v<Held, std::remove_cvref_t<T>>)
+        if constexpr (!isHolder)
             return pass(held_);
         else if constexpr (std::is_lvalue_reference_v<decltype(held_.value())>)
             return pass(held_.value());
@@ -44,6 +44,10 @@ public:
 
 private:
     using Held = decltype(convertFromHost<T>(std::declval<COSValue const&>()));
+
+    // A native type may have a `value` of its own.
+    static constexpr bool isHolder =
+        requires(Held& held) { held.value(); } && !std::is_same_v<Held, std::remove_cvref_t<T>>;
 
     template <class V>
     static decltype(auto) pass(V& value)
