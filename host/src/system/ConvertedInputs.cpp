@@ -1,14 +1,17 @@
 #include "system/ConvertedInputs.hpp"
 
+#include "system/ElementConversion.hpp"
 #include "system/HvmState.hpp"
 #include "system/PackageTree.hpp"
 #include "system/ScalarConversion.hpp"
 #include "system/TypeRepository.hpp"
+#include "system/emptyInput.hpp"
 #include "system/errorTranslation.hpp"
 #include "system/objectFit.hpp"
 #include "system/objectValidity.hpp"
 #include "values/Array.hpp"
 
+#include "libhv/libhv.hpp"
 #include "orbis/COSTypeConversion.hpp"
 
 #include <vector>
@@ -47,10 +50,14 @@ Fit ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
 {
     if (Array::of(input)->classID() == hvOBJECT_CLASS)
         checkObjects(HvmState::required(), Array::of(input)->objects());
+    if (type.kind == TypeKind::Optional)
+        return addOptional(type, input);
     Fit fit = noFit;
     values_[count_] = orbis::COSValue(input);
     if (type.kind == TypeKind::Text)
         fit = isText(*Array::of(input)) ? exactFit : noFit;
+    else if (type.kind == TypeKind::Elements)
+        fit = addElements(type, input);
     else if (type.kind == TypeKind::Any)
         fit = anyFit;
     else if (type.kind == TypeKind::Named)
@@ -58,6 +65,28 @@ Fit ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
     if (fit != noFit)
         ++count_;
     return fit;
+}
+
+Fit ConvertedInputs::addElements(TypeReference const& type, hvArray_tag* input)
+{
+    Array const& array = *Array::of(input);
+    bool const isOneElement = array.rows() == 1 && array.columns() == 1;
+    if (array.classID() == type.scalarClass)
+        return isOneElement ? exactFit - 1 : exactFit;
+    hvArray_tag* const converted = convertElements(type.scalarClass, array).release();
+    if (!converted)
+        return noFit;
+    values_[count_] = orbis::COSValue(converted);
+    owned_[ownedCount_++] = {nullptr, values_[count_]};
+    return isOneElement ? convertedFit - 1 : convertedFit;
+}
+
+Fit ConvertedInputs::addOptional(TypeReference const& type, hvArray_tag* input)
+{
+    if (!isNothing(*Array::of(input)))
+        return add(*type.value, input);
+    values_[count_++] = orbis::COSValue();
+    return convertedFit;
 }
 
 Fit ConvertedInputs::addNamed(TypeReference const& type, hvArray_tag* input)
@@ -96,6 +125,10 @@ void ConvertedInputs::giveBack()
 {
     while (ownedCount_ > 0) {
         Owned const& owned = owned_[--ownedCount_];
+        if (!owned.type) {
+            hvDestroyArray(owned.value.array());
+            continue;
+        }
         try {
             owned.type->releaseValue(owned.value);
         } catch (...) {
@@ -127,6 +160,10 @@ std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
     std::string const wanted(type.name->view());
     if (type.kind == TypeKind::Scalar)
         return explainScalarRefusal(type.scalarClass, array);
+    if (type.kind == TypeKind::Elements)
+        return explainElementsRefusal(type.scalarClass, array);
+    if (type.kind == TypeKind::Optional)
+        return explainRefusal(*type.value, input);
     if (type.kind == TypeKind::Text)
         return array.classID() == hvCHAR_CLASS ? "needs one row of text" : "needs text, not " + given;
     HvmState& machine = HvmState::required();

@@ -50,13 +50,15 @@ public:
 
 private:
     struct Owned {
-        orbis::COSDataType* type;
+        orbis::COSDataType* type; ///< null for an array of the host's own
         orbis::COSValue value;
     };
 
     static constexpr std::size_t inlineCapacity = 24;
 
     Fit addArray(TypeReference const& type, hvArray_tag* input);
+    Fit addElements(TypeReference const& type, hvArray_tag* input);
+    Fit addOptional(TypeReference const& type, hvArray_tag* input);
     Fit addNamed(TypeReference const& type, hvArray_tag* input);
     Fit addRegistered(TypeReference const& type, hvArray_tag* input);
     void makeRoom(std::size_t capacity);

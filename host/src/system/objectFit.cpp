@@ -4,6 +4,7 @@
 #include "system/HvmState.hpp"
 #include "system/Object.hpp"
 #include "system/PackageTree.hpp"
+#include "system/emptyInput.hpp"
 
 #include <algorithm>
 
@@ -25,10 +26,9 @@ Fit classFit(Name className, Name ancestor)
     return machine ? hierarchyFit(machine->packages().findPublishedClass(className), ancestor) : noFit;
 }
 
-/// "[]" stands for no object.
 Fit emptyFit(Array const& input)
 {
-    return input.classID() == hvDOUBLE_CLASS && input.rows() == 0 && input.columns() == 0 ? convertedFit : noFit;
+    return isNothing(input) ? convertedFit : noFit;
 }
 
 } // namespace
