@@ -83,7 +83,7 @@ Fit ConvertedInputs::addElements(TypeReference const& type, hvArray_tag* input)
 
 Fit ConvertedInputs::addOptional(TypeReference const& type, hvArray_tag* input)
 {
-    if (!isNothing(*Array::of(input)))
+    if (!isNothing(*Array::of(input)) && !isMissingString(*Array::of(input)))
         return add(*type.value, input);
     values_[count_++] = orbis::COSValue();
     return convertedFit;

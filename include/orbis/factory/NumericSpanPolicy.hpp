@@ -20,7 +20,7 @@ public:
     template <class Span>
     static void toHost(Span values, hvArray** out)
     {
-        *out = detail::createRow<typename Span::value_type>(values);
+        *out = detail::createRow(values);
     }
 
     template <class Span>

@@ -5,6 +5,8 @@
 
 #include "orbis/COSNameID.hpp"
 
+#include <span>
+#include <type_traits>
 #include <vector>
 
 namespace orbis::factory {
@@ -20,7 +22,10 @@ public:
     template <class Vector>
     static void toHost(Vector const& values, hvArray** out)
     {
-        *out = detail::createRow<typename Vector::value_type>(values);
+        if constexpr (std::is_same_v<Vector, std::vector<bool>>)
+            *out = detail::createRow(values);
+        else
+            *out = detail::createRow(std::span(values));
     }
 
     template <class Vector>

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "additions/additions.hpp"
-#include "libhv/libhv.hpp"
+#include "libhv/hvArray.hpp"
 #include "orbis/COSValue.hpp"
 
 #include <algorithm>
-#include <memory>
 #include <span>
 #include <stdexcept>
+#include <vector>
 
 namespace orbis::factory::detail {
 
@@ -52,13 +52,19 @@ std::span<T const> elementsOf(hvArray_tag const* array)
     return {static_cast<T const*>(additions::getData(array)), array->get_number_of_elements()};
 }
 
-/// A new row of the values, which `source` gives one after the other.
-template <COSScalar T, class Source>
-hvArray* createRow(Source const& source)
+/// A new row of the values.
+template <COSScalar T>
+hvArray* createRow(std::span<T const> values)
 {
-    std::unique_ptr<hvArray, hvDestroy_deleter> row(additions::createMatrix(1, source.size(), COSValue::classOf<T>()));
-    std::copy(source.begin(), source.end(), static_cast<T*>(additions::getWritableData(row.get())));
-    return row.release();
+    return additions::createMatrix(1, values.size(), COSValue::classOf<T>(), values.data());
+}
+
+/// Packed values are written one by one.
+inline hvArray* createRow(std::vector<bool> const& values)
+{
+    hvArray* const row = additions::createMatrix(1, values.size(), hvLOGICAL_CLASS);
+    std::copy(values.begin(), values.end(), static_cast<bool*>(additions::getWritableData(row)));
+    return row;
 }
 
 } // namespace orbis::factory::detail

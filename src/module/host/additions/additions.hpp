@@ -16,6 +16,9 @@ namespace orbis::additions {
 /// A new m-by-n array of zeros of a numeric, logical or character class.
 ORBIS_HOST_API hvArray* createMatrix(std::size_t m, std::size_t n, hvClassID classID);
 
+/// The same with a copy of its elements, in column order, of the class's native type.
+ORBIS_HOST_API hvArray* createMatrix(std::size_t m, std::size_t n, hvClassID classID, void const* elements);
+
 /// The elements of a numeric, logical or character array, in column order; null for other classes. The elements
 /// are of the class's native type (`bool` for logical, `char16_t` for characters).
 ORBIS_HOST_API void const* getData(hvArray_tag const* array);
