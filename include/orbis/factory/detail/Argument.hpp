@@ -1,12 +1,10 @@
 #pragma once
 
 #include "orbis/factory/MarshalingPolicy.hpp"
-#include "orbis/factory/detail/NewArray.hpp"
 
 #include "orbis/COSValue.hpp"
 
 #include <cstddef>
-#include <type_traits>
 #include <utility>
 
 namespace orbis::factory::detail {
@@ -30,35 +28,16 @@ class Argument {
 public:
     explicit Argument(COSValue const& slot) : held_(convertFromHost<T>(slot)) {}
 
-    /// What the native function is given: `T` itself, moved out of here unless `T` is an lvalue reference, or what
-    /// the holder's `value` is.
     decltype(auto) get()
     {
-        if constexpr (!isHolder)
-            return pass(held_);
-        else if constexpr (std::is_lvalue_reference_v<decltype(held_.value())>)
-            return pass(held_.value());
-        else
+        if constexpr (requires { held_.value(); })
             return held_.value();
+        else
+            return (held_);
     }
 
 private:
-    using Held = decltype(convertFromHost<T>(std::declval<COSValue const&>()));
-
-    // A native type may have a `value` of its own.
-    static constexpr bool isHolder =
-        requires(Held& held) { held.value(); } && !std::is_same_v<Held, std::remove_cvref_t<T>>;
-
-    template <class V>
-    static decltype(auto) pass(V& value)
-    {
-        if constexpr (std::is_same_v<V, std::remove_cvref_t<T>> && !std::is_lvalue_reference_v<T>)
-            return static_cast<V&&>(value);
-        else
-            return (value);
-    }
-
-    Held held_;
+    decltype(convertFromHost<T>(std::declval<COSValue const&>())) held_;
 };
 
 /// The arguments of a call, converted from left to right.
@@ -109,9 +88,9 @@ void storeResult(int& outputCount, COSValue* outputs, F&& function)
         if constexpr (TravelsInSlot<Result>) {
             MarshalerOf<Result>::template toHost<Native>(std::forward<F>(function)(), outputs);
         } else {
-            NewArray array;
-            MarshalerOf<Result>::template toHost<Native>(std::forward<F>(function)(), array.place());
-            *outputs = COSValue(array.release());
+            hvArray* array = nullptr;
+            MarshalerOf<Result>::template toHost<Native>(std::forward<F>(function)(), &array);
+            *outputs = COSValue(array);
         }
         if (outputCount == 0)
             outputCount = 1;
