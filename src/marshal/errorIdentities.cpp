@@ -6,6 +6,18 @@ namespace {
 constexpr char const* catalog = "orbis_factory:orbis_factory";
 } // namespace
 
+must_be_cell_array::must_be_cell_array() : BaseMsgID(catalog, "must_be_cell_array") {}
+
+must_be_cell_array::~must_be_cell_array() = default;
+
+must_be_string::must_be_string(std::size_t index) : BaseMsgID(catalog, "must_be_string", {std::to_string(index)}) {}
+
+must_be_string::~must_be_string() = default;
+
+no_duplicates::no_duplicates(std::string const& text) : BaseMsgID(catalog, "no_duplicates", {text}) {}
+
+no_duplicates::~no_duplicates() = default;
+
 null_self::null_self() : BaseMsgID(catalog, "null_self") {}
 
 null_self::~null_self() = default;
@@ -19,3 +31,19 @@ no_such_class::no_such_class(char const* className) : BaseMsgID(catalog, "no_suc
 no_such_class::~no_such_class() = default;
 
 } // namespace orbis_factory::orbis_factory
+
+namespace component_VELMARA::catalog_class {
+
+key_RequireString::key_RequireString() : BaseMsgID("VELMARA:class", "RequireString") {}
+
+key_RequireString::~key_RequireString() = default;
+
+} // namespace component_VELMARA::catalog_class
+
+namespace VELMARA::string {
+
+MissingNotSupported::MissingNotSupported() : BaseMsgID("VELMARA:string", "MissingNotSupported") {}
+
+MissingNotSupported::~MissingNotSupported() = default;
+
+} // namespace VELMARA::string

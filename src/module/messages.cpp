@@ -5,6 +5,11 @@
 namespace {
 
 constexpr orbis::additions::Message texts[] = {
+    {"must_be_cell_array", "Several strings are needed here: give a cell array with one row of text in each cell, or a "
+                           "string array."},
+    {"must_be_string", "Element {0} (counted from 0) is no text: put one row of text there, which may be empty."},
+    {"no_duplicates", "The text \"{0}\" is given more than once, where each may be given only once: leave out the "
+                      "repetition."},
     {"null_self", "The call needs an object and was given none, or one without a native object: call it on an object "
                   "that was constructed and not deleted."},
     {"null_fcn_ptr", "The property has no function for this access: it can be either read or written, not both."},

@@ -1,6 +1,7 @@
 #include "orbis/factory/ClassDescription.hpp"
 #include "orbis/factory/FunctionDescription.hpp"
 #include "orbis/factory/FunctionInfo.hpp"
+#include "orbis/factory/detail/initStringDataTypes.hpp"
 #include "orbis/factory/impl/MethodImpl.hpp"
 #include "orbis/factory/impl/OrbisConstructor.hpp"
 
@@ -84,6 +85,7 @@ std::unique_ptr<OwnedProperty> makeProperty(PropertyRecord const& record)
 
 void publish(COSClass* cls, ClassDescription const& description)
 {
+    detail::initStringDataTypes();
     for (MemberRecord const& record : description.members()) {
         if (record.kind == Kind::Constructor)
             add<impl::OrbisConstructor>(cls, cls->getName(), record, description.hostName());
@@ -98,6 +100,7 @@ void publish(COSClass* cls, ClassDescription const& description)
 
 void publish(COSPackage* package, FunctionDescription const& description)
 {
+    detail::initStringDataTypes();
     for (MemberRecord const& record : description.functions()) {
         auto function = std::make_unique<FunctionInfo>(record.name, attributesOf(record));
         bind(function->method(), record, nullptr);

@@ -1,6 +1,8 @@
 #include "system/BuiltInType.hpp"
 
 #include "system/ArrayComparison.hpp"
+#include "system/HvmState.hpp"
+#include "system/TypeRepository.hpp"
 #include "system/scalarClasses.hpp"
 #include "values/Array.hpp"
 
@@ -66,7 +68,10 @@ public:
     int typeKind() const override { return type_.kind == TypeKind::Named ? objectTypeKind : arrayTypeKind; }
     char const* typeCategory() const override { return type_.kind == TypeKind::Named ? "Class" : "Array"; }
     bool slot11Flag() const override { return false; }
-    bool canContainInterfaces() const override { return type_.kind != TypeKind::Text; }
+    bool canContainInterfaces() const override
+    {
+        return type_.kind != TypeKind::Text && type_.kind != TypeKind::Elements;
+    }
     bool isVELMARAArrayType() const override { return true; }
 
     bool isEqualValue(orbis::COSValue a, orbis::COSValue b) const override { return areEqual(a.array(), b.array()); }
@@ -97,10 +102,54 @@ private:
     TypeReference type_;
 };
 
+/// Values of another type, or an empty slot. The other type is looked up each time, because it can come and go.
+class OptionalType final : public orbis::COSDataType {
+public:
+    explicit OptionalType(TypeReference const& type) : type_(type) {}
+
+    char const* scalarTypeName() const override { return type_.name->text; }
+    char const* cppTypeName() const override { return "COSValue"; }
+    int typeKind() const override { return arrayTypeKind; }
+    char const* typeCategory() const override { return "Optional"; }
+    bool slot11Flag() const override { return false; }
+    bool canContainInterfaces() const override { return inner() && inner()->canContainInterfaces(); }
+    bool isEqualValue(orbis::COSValue a, orbis::COSValue b) const override { return compareValues(a, b) == 0; }
+
+    std::uint32_t compareValues(orbis::COSValue a, orbis::COSValue b) const override
+    {
+        if (a.isEmpty() || b.isEmpty())
+            return a.isEmpty() && b.isEmpty() ? 0 : unordered;
+        return inner() ? inner()->compareValues(a, b) : unordered;
+    }
+
+    std::size_t valueByteSize(orbis::COSValue value) const override
+    {
+        return value.isEmpty() || !inner() ? 0 : inner()->valueByteSize(value);
+    }
+
+    orbis::COSValue copyValue(orbis::COSValue value) const override
+    {
+        return value.isEmpty() || !inner() ? orbis::COSValue() : inner()->copyValue(value);
+    }
+
+    void releaseValue(orbis::COSValue value) const override
+    {
+        if (orbis::COSDataType* const type = value.isEmpty() ? nullptr : inner())
+            type->releaseValue(value);
+    }
+
+private:
+    orbis::COSDataType* inner() const { return HvmState::required().types().obtain(type_.value->name); }
+
+    TypeReference type_;
+};
+
 } // namespace
 
 orbis::COSDataType* makeBuiltInType(TypeReference const& type)
 {
+    if (type.kind == TypeKind::Optional)
+        return new OptionalType(type);
     if (type.kind == TypeKind::Scalar)
         return new ScalarType(type);
     return new ArrayType(type);

@@ -1,12 +1,11 @@
 #include "system/ConvertedInputs.hpp"
 
-#include "system/Class.hpp"
+#include "system/ElementConversion.hpp"
 #include "system/HvmState.hpp"
 #include "system/PackageTree.hpp"
 #include "system/ScalarConversion.hpp"
 #include "system/TypeRepository.hpp"
-#include "system/enumerationFit.hpp"
-#include "system/enumerationRefusal.hpp"
+#include "system/emptyInput.hpp"
 #include "system/errorTranslation.hpp"
 #include "system/objectFit.hpp"
 #include "system/objectValidity.hpp"
@@ -51,10 +50,14 @@ Fit ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
 {
     if (Array::of(input)->classID() == hvOBJECT_CLASS)
         checkObjects(HvmState::required(), Array::of(input)->objects());
+    if (type.kind == TypeKind::Optional)
+        return addOptional(type, input);
     Fit fit = noFit;
     values_[count_] = orbis::COSValue(input);
     if (type.kind == TypeKind::Text)
         fit = isText(*Array::of(input)) ? exactFit : noFit;
+    else if (type.kind == TypeKind::Elements)
+        fit = addElements(type, input);
     else if (type.kind == TypeKind::Any)
         fit = anyFit;
     else if (type.kind == TypeKind::Named)
@@ -62,6 +65,28 @@ Fit ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
     if (fit != noFit)
         ++count_;
     return fit;
+}
+
+Fit ConvertedInputs::addElements(TypeReference const& type, hvArray_tag* input)
+{
+    Array const& array = *Array::of(input);
+    bool const isOneElement = array.rows() == 1 && array.columns() == 1;
+    if (array.classID() == type.scalarClass)
+        return isOneElement ? exactFit - 1 : exactFit;
+    hvArray_tag* const converted = convertElements(type.scalarClass, array).release();
+    if (!converted)
+        return noFit;
+    values_[count_] = orbis::COSValue(converted);
+    owned_[ownedCount_++] = {nullptr, values_[count_]};
+    return isOneElement ? convertedFit - 1 : convertedFit;
+}
+
+Fit ConvertedInputs::addOptional(TypeReference const& type, hvArray_tag* input)
+{
+    if (!isNothing(*Array::of(input)) && !isMissingString(*Array::of(input)))
+        return add(*type.value, input);
+    values_[count_++] = orbis::COSValue();
+    return convertedFit;
 }
 
 Fit ConvertedInputs::addNamed(TypeReference const& type, hvArray_tag* input)
@@ -74,26 +99,7 @@ Fit ConvertedInputs::addNamed(TypeReference const& type, hvArray_tag* input)
         return addRegistered(type, input);
     if (fit == noFit)
         fit = type.element ? objectVectorFit(type.element, array) : objectFit(type.name, array);
-    return fit == noFit ? addEnumeration(type, input) : fit;
-}
-
-Fit ConvertedInputs::addEnumeration(TypeReference const& type, hvArray_tag* input)
-{
-    Class const* const enumeration = findEnumeration(type);
-    if (!enumeration || Array::of(input)->classID() == hvOBJECT_CLASS)
-        return noFit;
-    if (!type.element) {
-        Enumerator const* const found = findEnumerator(*enumeration, *Array::of(input));
-        if (found)
-            values_[count_] = orbis::COSValue(found->object.get());
-        return found ? convertedFit : noFit;
-    }
-    hvArray_tag* const converted = toEnumerators(*enumeration, *Array::of(input)).release();
-    if (!converted)
-        return noFit;
-    values_[count_] = orbis::COSValue(converted);
-    owned_[ownedCount_++] = {nullptr, values_[count_]};
-    return converted->get_number_of_elements() == 1 ? convertedFit - 1 : convertedFit;
+    return fit;
 }
 
 Fit ConvertedInputs::addRegistered(TypeReference const& type, hvArray_tag* input)
@@ -154,6 +160,10 @@ std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
     std::string const wanted(type.name->view());
     if (type.kind == TypeKind::Scalar)
         return explainScalarRefusal(type.scalarClass, array);
+    if (type.kind == TypeKind::Elements)
+        return explainElementsRefusal(type.scalarClass, array);
+    if (type.kind == TypeKind::Optional)
+        return explainRefusal(*type.value, input);
     if (type.kind == TypeKind::Text)
         return array.classID() == hvCHAR_CLASS ? "needs one row of text" : "needs text, not " + given;
     HvmState& machine = HvmState::required();
@@ -163,9 +173,6 @@ std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
     }
     if (!machine.packages().findPublishedClass(type.element ? type.element : type.name))
         return "no data type or class " + wanted + " is known";
-    if (Class const* const enumeration = findEnumeration(type))
-        return type.element ? explainEnumeratorsRefusal(*enumeration, array)
-                            : explainEnumeratorRefusal(*enumeration, array);
     return "needs " + wanted + ", not " + given;
 }
 

@@ -57,8 +57,9 @@ private:
     static constexpr std::size_t inlineCapacity = 24;
 
     Fit addArray(TypeReference const& type, hvArray_tag* input);
+    Fit addElements(TypeReference const& type, hvArray_tag* input);
+    Fit addOptional(TypeReference const& type, hvArray_tag* input);
     Fit addNamed(TypeReference const& type, hvArray_tag* input);
-    Fit addEnumeration(TypeReference const& type, hvArray_tag* input);
     Fit addRegistered(TypeReference const& type, hvArray_tag* input);
     void makeRoom(std::size_t capacity);
     void giveBack();

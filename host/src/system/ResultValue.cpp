@@ -3,6 +3,7 @@
 #include "system/ClassTree.hpp"
 #include "system/HvmState.hpp"
 #include "system/TypeRepository.hpp"
+#include "system/emptyInput.hpp"
 #include "system/objectFit.hpp"
 #include "values/Array.hpp"
 #include "values/hostError.hpp"
@@ -26,8 +27,12 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
         return true;
     case TypeKind::Scalar:
         return given.classID() == type.scalarClass && given.rows() == 1 && given.columns() == 1;
+    case TypeKind::Elements:
+        return given.classID() == type.scalarClass;
     case TypeKind::Text:
         return given.classID() == hvCHAR_CLASS;
+    case TypeKind::Optional: // replaced by the type of its value before
+        return false;
     case TypeKind::Named:
         break;
     }
@@ -50,6 +55,13 @@ orbis::COSDataType* registered(TypeReference const* type)
 
 ArrayPtr ResultValue::takeOther(std::string_view member)
 {
+    if (type_ && type_->kind == TypeKind::Optional) {
+        if (value_.isArray() && isNothing(*Array::of(value_.array())))
+            return ArrayPtr(std::exchange(value_, {}).array());
+        type_ = type_->value.get();
+        if (type_->kind == TypeKind::Scalar && value_.scalarClass() == type_->scalarClass)
+            return ArrayPtr(createScalar(value_));
+    }
     if (value_.isArray())
         return takeArray(member);
     if (value_.isEmpty())

@@ -30,6 +30,17 @@ constexpr BuiltInType builtInTypes[] = {
     {"int64 scalar", TypeKind::Scalar, hvINT64_CLASS},
     {"uint64 scalar", TypeKind::Scalar, hvUINT64_CLASS},
     {"logical scalar", TypeKind::Scalar, hvLOGICAL_CLASS},
+    {"double vector", TypeKind::Elements, hvDOUBLE_CLASS},
+    {"single vector", TypeKind::Elements, hvSINGLE_CLASS},
+    {"int8 vector", TypeKind::Elements, hvINT8_CLASS},
+    {"uint8 vector", TypeKind::Elements, hvUINT8_CLASS},
+    {"int16 vector", TypeKind::Elements, hvINT16_CLASS},
+    {"uint16 vector", TypeKind::Elements, hvUINT16_CLASS},
+    {"int32 vector", TypeKind::Elements, hvINT32_CLASS},
+    {"uint32 vector", TypeKind::Elements, hvUINT32_CLASS},
+    {"int64 vector", TypeKind::Elements, hvINT64_CLASS},
+    {"uint64 vector", TypeKind::Elements, hvUINT64_CLASS},
+    {"logical vector", TypeKind::Elements, hvLOGICAL_CLASS},
 };
 
 BuiltInType const* findBuiltIn(Name name)
@@ -44,18 +55,27 @@ BuiltInType const* findBuiltIn(Name name)
     return found ? *found : nullptr;
 }
 
+/// The name before the suffix; null when it does not end so.
+Name withoutSuffix(Name name, std::string_view suffix)
+{
+    std::string_view const text = name->view();
+    return text.ends_with(suffix) ? intern(text.substr(0, text.size() - suffix.size())) : nullptr;
+}
+
 } // namespace
 
 TypeReference::TypeReference(Name typeName) : name(typeName)
 {
-    constexpr std::string_view suffix = " vector";
     if (BuiltInType const* const builtIn = findBuiltIn(name)) {
         kind = builtIn->kind;
         scalarClass = builtIn->scalarClass;
         if (kind == TypeKind::Scalar)
             scalar = ScalarReader(scalarClass);
-    } else if (name->view().ends_with(suffix)) {
-        element = intern(name->view().substr(0, name->length - suffix.size()));
+    } else if (Name const valueName = withoutSuffix(name, " or empty")) {
+        kind = TypeKind::Optional;
+        value = std::make_shared<TypeReference const>(valueName);
+    } else {
+        element = withoutSuffix(name, " vector");
     }
 }
 

@@ -53,6 +53,8 @@ orbis::COSDataType* TypeRepository::obtain(Name name)
     TypeReference const type(name);
     if (type.kind == TypeKind::Named && !isTypeOfPublishedClass(type))
         return nullptr;
+    if (type.kind == TypeKind::Optional && !obtain(type.value->name))
+        return nullptr;
     if (Entry const* const entry = types_.find(name)) // populating packages may have registered it
         return entry->type.get();
     Held made(makeBuiltInType(type));
@@ -111,7 +113,8 @@ orbis::COSTypeConversion* TypeRepository::findConversion(Name from, Name to) con
 
 void TypeRepository::forgetClass(Name className)
 {
-    for (Name const name : {className, findInterned(text(className) + " vector")}) {
+    for (char const* const suffix : {"", " vector", " or empty"}) {
+        Name const name = findInterned(text(className) + suffix);
         Entry* const entry = name ? types_.find(name) : nullptr;
         if (!entry || entry->isRegistered)
             continue;

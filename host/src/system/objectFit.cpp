@@ -4,6 +4,7 @@
 #include "system/HvmState.hpp"
 #include "system/Object.hpp"
 #include "system/PackageTree.hpp"
+#include "system/emptyInput.hpp"
 
 #include <algorithm>
 
@@ -25,41 +26,30 @@ Fit classFit(Name className, Name ancestor)
     return machine ? hierarchyFit(machine->packages().findPublishedClass(className), ancestor) : noFit;
 }
 
-bool isEnumeration(Name className)
-{
-    HvmState* const machine = HvmState::current();
-    Class const* const cls = machine ? machine->packages().findClass(className) : nullptr;
-    return cls && cls->isEnumeration();
-}
-
-/// "[]" stands for no object.
 Fit emptyFit(Array const& input)
 {
-    return input.classID() == hvDOUBLE_CLASS && input.rows() == 0 && input.columns() == 0 ? convertedFit : noFit;
+    return isNothing(input) ? convertedFit : noFit;
 }
 
 } // namespace
 
 Fit objectFit(Name className, Array const& input)
 {
-    Object const* const first =
-        input.classID() == hvOBJECT_CLASS && input.size() != 0 ? input.objects().front() : nullptr;
-    if ((!first || input.size() != 1) && isEnumeration(className))
-        return noFit;
+    if (input.classID() != hvOBJECT_CLASS)
+        return emptyFit(input);
+    Object const* const first = input.size() == 0 ? nullptr : input.objects().front();
     if (!first)
-        return input.classID() == hvOBJECT_CLASS ? classFit(input.objectClass(), className) : emptyFit(input);
+        return classFit(input.objectClass(), className);
     return first->className() == className ? exactFit : hierarchyFit(first->classOf(), className);
 }
 
 Fit objectVectorFit(Name element, Array const& input)
 {
     if (input.classID() != hvOBJECT_CLASS)
-        return isEnumeration(element) ? noFit : emptyFit(input);
-    if (std::ranges::count(input.objects(), nullptr) != 0 && isEnumeration(element))
-        return noFit;
+        return emptyFit(input);
     Fit const fit = classFit(input.objectClass(), element);
     if (fit != noFit || input.size() == 0)
-        return input.size() == 1 ? fit - 1 : fit;
+        return fit;
     bool const allFit = std::ranges::all_of(input.objects(), [element](Object const* object) {
         return !object || object->className() == element || hierarchyFit(object->classOf(), element) != noFit;
     });

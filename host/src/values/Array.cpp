@@ -46,11 +46,35 @@ Array* Array::createLongText(std::size_t size)
     return createAround(*payload, hvCHAR_CLASS, 1, size, nullptr);
 }
 
-Array* Array::createZeroed(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+namespace {
+
+std::size_t elementCount(std::size_t rows, std::size_t columns)
 {
     std::size_t count;
     if (__builtin_mul_overflow(rows, columns, &count)) [[unlikely]]
         throw foundation::core::except::bad_alloc();
+    return count;
+}
+
+} // namespace
+
+Array* Array::createCopy(hvClassID classID, std::size_t rows, std::size_t columns, void const* elements)
+{
+    std::size_t const count = elementCount(rows, columns);
+    std::size_t const elementSize = arrayClass(classID).elementSize;
+    if (count > sizeOfPlace / elementSize) {
+        Payload* const payload = Payload::createCopy(elements, count, elementSize);
+        return createAround(*payload, classID, rows, columns, nullptr);
+    }
+    Array* const array = createHeader(classID, rows, columns, nullptr);
+    if (count != 0)
+        std::memcpy(array->place_, elements, count * elementSize);
+    return array;
+}
+
+Array* Array::createZeroed(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+{
+    std::size_t const count = elementCount(rows, columns);
     std::size_t const elementSize = arrayClass(classID).elementSize;
     if (count == 0 || (isPlain(classID) && count <= sizeOfPlace / elementSize)) {
         Array* const array = createHeader(classID, rows, columns, objectClass);

@@ -53,6 +53,9 @@ public:
         return createHeader(hvCHAR_CLASS, size != 0, size, nullptr);
     }
 
+    /// A new array of a plain class with a copy of `elements`, which are as many as it has.
+    static Array* createCopy(hvClassID classID, std::size_t rows, std::size_t columns, void const* elements);
+
     /// A new array of null objects, typed by a class name.
     static Array* createObjects(Name className, std::size_t rows, std::size_t columns)
     {

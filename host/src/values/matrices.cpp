@@ -7,11 +7,26 @@ namespace orbis::additions {
 
 using namespace velmara;
 
-hvArray* createMatrix(std::size_t m, std::size_t n, hvClassID classID)
+namespace {
+
+void requirePlain(hvClassID classID)
 {
     if (!isPlain(classID))
         throwHostError("VELMARA:array", "notNumeric", {std::to_string(classID)});
+}
+
+} // namespace
+
+hvArray* createMatrix(std::size_t m, std::size_t n, hvClassID classID)
+{
+    requirePlain(classID);
     return Array::create(classID, m, n);
+}
+
+hvArray* createMatrix(std::size_t m, std::size_t n, hvClassID classID, void const* elements)
+{
+    requirePlain(classID);
+    return Array::createCopy(classID, m, n, elements);
 }
 
 void const* getData(hvArray_tag const* array)

@@ -5,6 +5,7 @@
 #include "orbis/factory/detail/makePropertyRecord.hpp"
 #include "orbis/factory/detail/makeRecord.hpp"
 #include "orbis/factory/overload.hpp"
+#include "orbis/factory/standardPolicies.hpp"
 
 namespace orbis::factory {
 

@@ -4,6 +4,7 @@
 #include "orbis/factory/ParameterNames.hpp"
 #include "orbis/factory/detail/makeRecord.hpp"
 #include "orbis/factory/overload.hpp"
+#include "orbis/factory/standardPolicies.hpp"
 
 namespace orbis::factory {
 

@@ -4,9 +4,33 @@
 
 #include "libkwfl/BaseMsgID.hpp"
 
+#include <cstddef>
+#include <string>
+
 /// The identities of the library's errors, in the catalog "orbis_factory:orbis_factory". Each is thrown as
 /// `foundation::core::except::Exception<Identity, std::exception, void>`.
 namespace orbis_factory::orbis_factory {
+
+/// A container of strings was given a value that is neither a cell array nor a string array.
+class ORBIS_FACTORY_API must_be_cell_array : public resource_core::BaseMsgID {
+public:
+    must_be_cell_array();
+    ~must_be_cell_array() override;
+};
+
+/// A cell of a cell array of strings is empty or holds no character array. Argument: the cell's zero-based position.
+class ORBIS_FACTORY_API must_be_string : public resource_core::BaseMsgID {
+public:
+    explicit must_be_string(std::size_t index);
+    ~must_be_string() override;
+};
+
+/// A set of strings was given one text twice. Argument: the text, in UTF-8.
+class ORBIS_FACTORY_API no_duplicates : public resource_core::BaseMsgID {
+public:
+    explicit no_duplicates(std::string const& text);
+    ~no_duplicates() override;
+};
 
 /// A member was called without an object.
 class ORBIS_FACTORY_API null_self : public resource_core::BaseMsgID {
@@ -30,3 +54,27 @@ public:
 };
 
 } // namespace orbis_factory::orbis_factory
+
+/// The identities of the host's catalog "VELMARA:class" that the library throws.
+namespace component_VELMARA::catalog_class {
+
+/// A string was asked for, and the value is neither a host string nor a character array.
+class ORBIS_FACTORY_API key_RequireString : public resource_core::BaseMsgID {
+public:
+    key_RequireString();
+    ~key_RequireString() override;
+};
+
+} // namespace component_VELMARA::catalog_class
+
+/// The identities of the host's catalog "VELMARA:string" that the library throws.
+namespace VELMARA::string {
+
+/// An element of a host string array was asked for that is missing.
+class ORBIS_FACTORY_API MissingNotSupported : public resource_core::BaseMsgID {
+public:
+    MissingNotSupported();
+    ~MissingNotSupported() override;
+};
+
+} // namespace VELMARA::string

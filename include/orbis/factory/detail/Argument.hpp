@@ -1,10 +1,12 @@
 #pragma once
 
 #include "orbis/factory/MarshalingPolicy.hpp"
+#include "orbis/factory/detail/NewArray.hpp"
 
 #include "orbis/COSValue.hpp"
 
 #include <cstddef>
+#include <type_traits>
 #include <utility>
 
 namespace orbis::factory::detail {
@@ -28,16 +30,35 @@ class Argument {
 public:
     explicit Argument(COSValue const& slot) : held_(convertFromHost<T>(slot)) {}
 
+    /// What the native function is given: `T` itself, moved out of here unless `T` is an lvalue reference, or what
+    /// the holder's `value` is.
     decltype(auto) get()
     {
-        if constexpr (requires { held_.value(); })
-            return held_.value();
+        if constexpr (!isHolder)
+            return pass(held_);
+        else if constexpr (std::is_lvalue_reference_v<decltype(held_.value())>)
+            return pass(held_.value());
         else
-            return (held_);
+            return held_.value();
     }
 
 private:
-    decltype(convertFromHost<T>(std::declval<COSValue const&>())) held_;
+    using Held = decltype(convertFromHost<T>(std::declval<COSValue const&>()));
+
+    // A native type may have a `value` of its own.
+    static constexpr bool isHolder =
+        requires(Held& held) { held.value(); } && !std::is_same_v<Held, std::remove_cvref_t<T>>;
+
+    template <class V>
+    static decltype(auto) pass(V& value)
+    {
+        if constexpr (std::is_same_v<V, std::remove_cvref_t<T>> && !std::is_lvalue_reference_v<T>)
+            return static_cast<V&&>(value);
+        else
+            return (value);
+    }
+
+    Held held_;
 };
 
 /// The arguments of a call, converted from left to right.
@@ -88,9 +109,9 @@ void storeResult(int& outputCount, COSValue* outputs, F&& function)
         if constexpr (TravelsInSlot<Result>) {
             MarshalerOf<Result>::template toHost<Native>(std::forward<F>(function)(), outputs);
         } else {
-            hvArray* array = nullptr;
-            MarshalerOf<Result>::template toHost<Native>(std::forward<F>(function)(), &array);
-            *outputs = COSValue(array);
+            NewArray array;
+            MarshalerOf<Result>::template toHost<Native>(std::forward<F>(function)(), array.place());
+            *outputs = COSValue(array.release());
         }
         if (outputCount == 0)
             outputCount = 1;

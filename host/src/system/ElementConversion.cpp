@@ -1,0 +1,75 @@
+#include "system/ElementConversion.hpp"
+
+#include "system/ScalarConversion.hpp"
+#include "system/numberConversion.hpp"
+#include "system/scalarClasses.hpp"
+
+#include <cstring>
+
+namespace velmara {
+
+namespace {
+
+/// A logical is no number.
+bool isNumeric(hvClassID classID)
+{
+    return classID >= hvDOUBLE_CLASS && classID <= hvUINT64_CLASS;
+}
+
+template <class Source, class T>
+bool convertAll(Source const* from, std::size_t count, T* to)
+{
+    for (std::size_t i = 0; i < count; ++i) {
+        bool fits = false;
+        if constexpr (std::is_floating_point_v<Source>)
+            fits = convertNumber(static_cast<double>(from[i]), to[i]);
+        else if constexpr (!std::is_same_v<Source, bool>)
+            fits = convertNumber(from[i], to[i]);
+        if (!fits)
+            return false;
+    }
+    return true;
+}
+
+/// One element as an array of its own.
+ArrayPtr elementOf(Array const& input, std::size_t index)
+{
+    Array* const element = Array::create(input.classID(), 1, 1);
+    std::size_t const size = arrayClass(input.classID()).elementSize;
+    std::memcpy(element->writableElements(), static_cast<std::byte const*>(input.elements()) + index * size, size);
+    return ArrayPtr(element);
+}
+
+} // namespace
+
+ArrayPtr convertElements(hvClassID target, Array const& input)
+{
+    if (!isNumeric(input.classID()))
+        return nullptr;
+    ArrayPtr converted(Array::create(target, input.rows(), input.columns()));
+    bool const allFit = withScalarType(target, [&]<class T>(T) {
+        auto* const to = static_cast<T*>(Array::of(converted.get())->writableElements());
+        return withScalarType(input.classID(), [&]<class Source>(Source) {
+            return convertAll(static_cast<Source const*>(input.elements()), input.size(), to);
+        });
+    });
+    return allFit ? std::move(converted) : nullptr;
+}
+
+std::string explainElementsRefusal(hvClassID target, Array const& input)
+{
+    if (!isNumeric(input.classID()))
+        return std::string(target == hvLOGICAL_CLASS ? "needs logicals" : "needs numbers") + ", not " +
+               std::string(input.className());
+    ScalarConverter const convert = scalarConverters(target)[input.classID()];
+    for (std::size_t i = 0; i < input.size(); ++i) {
+        ArrayPtr const element = elementOf(input, i);
+        orbis::COSValue converted;
+        if (convert(*Array::of(element.get()), converted) == noFit)
+            return "element " + std::to_string(i) +
+                   " (counted from 0): " + explainScalarRefusal(target, *Array::of(element.get()));
+    }
+    return "fits";
+}
+
+} // namespace velmara

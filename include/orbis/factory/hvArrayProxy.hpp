@@ -1,0 +1,31 @@
+#pragma once
+
+#include "orbis/factory/export.hpp"
+
+#include "libhv/hvArray.hpp"
+#include "orbis/COSInterfacePtr.hpp"
+
+namespace orbis::factory {
+
+/// A host array as it is, for native functions that want no conversion. Null is allowed. It owns nothing: an argument
+/// stays the host's, and a result hands its array over, so it is a new array (never the one of an argument; to give
+/// that back, use `hvArrayReferenceCountedProxy`).
+class ORBIS_FACTORY_API hvArrayProxy {
+public:
+    hvArrayProxy(hvArray* array);
+
+    /// A new 1-by-1 array that holds the object, which is the caller's; null for a null handle.
+    hvArrayProxy(COSInterfacePtr const& object);
+    hvArrayProxy(hvArrayProxy const&);
+    hvArrayProxy& operator=(hvArrayProxy const&);
+
+    hvArray* operator()() const;
+
+    /// The object of an object array of one element; a null handle for everything else.
+    operator COSInterfacePtr() const;
+
+private:
+    hvArray* array_;
+};
+
+} // namespace orbis::factory

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "orbis/COSDataType.hpp"
+#include "orbis/COSTypeConversion.hpp"
+
+#include <memory>
+
+namespace orbis::factory {
+
+/// The registration of the data types of strings, each with its conversion from and to "any", in the current virtual
+/// machine. It stands in the virtual machine's storage; its end unregisters them.
+class StringDataTypeRegistration {
+public:
+    /// Throws the host's errors, and then leaves nothing registered.
+    StringDataTypeRegistration();
+
+private:
+    /// One data type and its conversion, while they are registered.
+    class Registered {
+    public:
+        Registered(std::unique_ptr<COSDataType> type, std::unique_ptr<COSTypeConversion> conversion);
+        Registered(Registered const&) = delete;
+        Registered& operator=(Registered const&) = delete;
+        ~Registered();
+
+    private:
+        char const* name_;
+    };
+
+    Registered string_;
+    Registered vector_;
+};
+
+} // namespace orbis::factory

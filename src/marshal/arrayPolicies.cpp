@@ -1,0 +1,17 @@
+#include "orbis/factory/HvArrayPolicy.hpp"
+#include "orbis/factory/HvArrayReferenceCountedPolicy.hpp"
+
+namespace orbis::factory {
+
+using Plain = Marshaler<HvArrayPolicy>;
+using Counted = Marshaler<HvArrayReferenceCountedPolicy>;
+
+Plain& Plain::operator=(Marshaler const&) = default;
+
+Plain& Plain::operator=(Marshaler&&) = default;
+
+Counted& Counted::operator=(Marshaler const&) = default;
+
+Counted& Counted::operator=(Marshaler&&) = default;
+
+} // namespace orbis::factory
