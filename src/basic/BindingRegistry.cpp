@@ -2,6 +2,8 @@
 
 #include "orbis/factory/CopyableSupport.hpp"
 #include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/detail/forgetBinding.hpp"
+#include "orbis/factory/detail/hostShares.hpp"
 #include "orbis/factory/errorIdentities.hpp"
 
 #include "basic/HvmScoped.hpp"
@@ -183,8 +185,21 @@ bool BindingRegistry::retract(void const* const object)
     if (!entry->retracted) {
         entry->retracted = true;
         COSInterfacePtr(entry->host)->setValid(false);
+        detail::dropShare(entry->host); // it ends without another word to its class info
     }
     return true;
 }
 
 } // namespace orbis::factory::basic
+
+bool orbis::factory::detail::forgetBinding(COSInterface const* host, void const* object)
+{
+    using namespace basic;
+    FooRegistry& table = HvmScoped<FooRegistry>::get();
+    auto const found = object ? table.find(object) : table.end();
+    if (found == table.end() || (host && found->second->host != host))
+        return false;
+    delete found->second;
+    table.erase(found);
+    return true;
+}

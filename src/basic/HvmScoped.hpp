@@ -22,6 +22,13 @@ public:
         return make();
     }
 
+    /// The same, but null when it was not made yet or no virtual machine is current.
+    static T* find()
+    {
+        auto* const stored = Storage::find(id_, typeid(T));
+        return stored ? static_cast<T*>(stored->get()) : nullptr;
+    }
+
 private:
     [[gnu::noinline]] static T& make()
     {

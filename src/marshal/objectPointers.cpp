@@ -1,4 +1,5 @@
 #include "orbis/factory/StaticCastPolicy.hpp"
+#include "orbis/factory/TypedDynamicCastCppManagedPolicy.hpp"
 #include "orbis/factory/VelmaraManagedNoInheritancePolicy.hpp"
 #include "orbis/factory/VelmaraManagedWithInheritancePolicy.hpp"
 
@@ -7,6 +8,7 @@ namespace orbis::factory {
 using NoInheritance = Marshaler<VelmaraManagedNoInheritancePolicy>;
 using WithInheritance = Marshaler<VelmaraManagedWithInheritancePolicy>;
 using Static = Marshaler<StaticCastPolicy>;
+using Wrapped = Marshaler<TypedDynamicCastCppManagedPolicy<full::Wrappable>>;
 
 NoInheritance& NoInheritance::operator=(NoInheritance const&) = default;
 
@@ -19,5 +21,9 @@ WithInheritance& WithInheritance::operator=(WithInheritance&&) = default;
 Static& Static::operator=(Static const&) = default;
 
 Static& Static::operator=(Static&&) = default;
+
+Wrapped& Wrapped::operator=(Wrapped const&) = default;
+
+Wrapped& Wrapped::operator=(Wrapped&&) = default;
 
 } // namespace orbis::factory

@@ -4,7 +4,7 @@
 
 namespace orbis::factory {
 
-ClassDescription::ClassDescription(char const* hostName) : hostName_(hostName) {}
+ClassDescription::ClassDescription(NativeClassRecord const& native) : native_(native) {}
 
 ClassDescription::ClassDescription(ClassDescription const&) = default;
 
@@ -12,7 +12,17 @@ ClassDescription::~ClassDescription() = default;
 
 char const* ClassDescription::hostName() const
 {
-    return hostName_;
+    return native_.hostName;
+}
+
+NativeClassRecord const& ClassDescription::native() const
+{
+    return native_;
+}
+
+std::vector<NativeClassRecord> const& ClassDescription::superclasses() const
+{
+    return superclasses_;
 }
 
 std::vector<MemberRecord> const& ClassDescription::members() const
@@ -23,6 +33,11 @@ std::vector<MemberRecord> const& ClassDescription::members() const
 std::vector<PropertyRecord> const& ClassDescription::properties() const
 {
     return properties_;
+}
+
+void ClassDescription::add(NativeClassRecord const& superclass)
+{
+    superclasses_.push_back(superclass);
 }
 
 void ClassDescription::add(MemberRecord record)

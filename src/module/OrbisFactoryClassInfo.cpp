@@ -1,11 +1,17 @@
 #include "orbis/factory/OrbisFactoryClassInfo.hpp"
 
+#include "module/PublishedClasses.hpp"
+
+#include "libkwfoundation_usm/Detail.hpp"
+
 namespace orbis::factory {
 
 OrbisFactoryClassInfo::OrbisFactoryClassInfo(std::string const& name, std::string const& description)
     : name_(name),
       description_(description)
 {
+    if (foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())
+        PublishedClasses::ofCurrentHvm().expect(name_);
 }
 
 OrbisFactoryClassInfo::~OrbisFactoryClassInfo() = default;

@@ -6,6 +6,9 @@
 #include "orbis/factory/impl/OrbisConstructor.hpp"
 
 #include "module/OwnedProperty.hpp"
+#include "module/PublishedClasses.hpp"
+
+#include "additions/additions.hpp"
 
 #include <array>
 #include <memory>
@@ -81,11 +84,21 @@ std::unique_ptr<OwnedProperty> makeProperty(PropertyRecord const& record)
                                            record.attributes);
 }
 
+void setSuperclasses(COSClass* cls, std::vector<NativeClassRecord> const& superclasses)
+{
+    std::vector<COSNameID> names;
+    for (NativeClassRecord const& superclass : superclasses)
+        names.emplace_back(superclass.hostName);
+    if (!names.empty())
+        additions::setSuperclasses(cls, names);
+}
+
 } // namespace
 
 void publish(COSClass* cls, ClassDescription const& description)
 {
     detail::initStringDataTypes();
+    setSuperclasses(cls, description.superclasses());
     for (MemberRecord const& record : description.members()) {
         if (record.kind == Kind::Constructor)
             add<impl::OrbisConstructor>(cls, cls->getName(), record, description.hostName());
@@ -96,6 +109,7 @@ void publish(COSClass* cls, ClassDescription const& description)
     }
     for (PropertyRecord const& record : description.properties())
         cls->addProperty(makeProperty(record).release());
+    PublishedClasses::ofCurrentHvm().add(description.native(), description.superclasses());
 }
 
 void publish(COSPackage* package, FunctionDescription const& description)

@@ -63,6 +63,25 @@ TEST_F(ObjectTest, InstanceDataIsMadeFromTheBaseAndDestroyedToTheBaseOnce)
     EXPECT_EQ(log_, "ABCcza") << "what was recorded in place of B's data; nothing for the foreign name";
 }
 
+TEST_F(ObjectTest, SuperclassesWithoutNativeObjectsHaveThatOfTheObjectsClass)
+{
+    char const native[] = "N", other[] = "O";
+    publish(new Class("Base"));
+    publish(new Class("Derived", [](orbis::COSClass* cls) { setSuperclass(cls, "Base"); }));
+    publish(new Class("Apart"));
+    ArrayPtr const array = hvm().construct("Derived");
+    COSInterfacePtr object = objectIn(array);
+    EXPECT_EQ(object->getNativeObject("Base"), nullptr);
+    object->setNativeObject("Derived", const_cast<char*>(native));
+    EXPECT_EQ(object->getNativeObject("Base"), native);
+    EXPECT_EQ(object->getNativeObject("Apart"), nullptr);
+    for (char const* const recorded : {other, static_cast<char const*>(nullptr)}) {
+        object->setNativeObject("Base", const_cast<char*>(recorded));
+        EXPECT_EQ(object->getNativeObject("Base"), recorded) << "what is recorded counts, null too";
+        EXPECT_EQ(object->getNativeObject("Derived"), native);
+    }
+}
+
 TEST_F(ObjectTest, EndsOnceInEveryOrder)
 {
     publishHierarchy();

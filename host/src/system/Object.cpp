@@ -47,6 +47,7 @@ void Object::createInstanceData(Class& cls)
         Slot& slot = slotOf(cls.name());
         slot.native = data;
         slot.made = true;
+        slot.recorded = data != nullptr;
         return;
     }
     try {
@@ -108,9 +109,11 @@ void Object::freeIfUnreferenced() noexcept
 
 void Object::setNativeObject(orbis::COSNameID const& name, void* object)
 {
-    if (isValid())
-        slotOf(name.interned()).native = object;
-    else if (object)
+    if (isValid()) {
+        Slot& slot = slotOf(name.interned());
+        slot.native = object;
+        slot.recorded = true;
+    } else if (object)
         throwHostError("VELMARA:object", "invalid", {std::string(className()->view())});
 }
 
@@ -119,7 +122,9 @@ void* Object::getNativeObject(orbis::COSNameID const& name) const
     if (name.interned() == own_.className)
         return own_.native;
     Slot const* const slot = findFurther(name.interned());
-    return slot ? slot->native : nullptr;
+    if (!slot)
+        return nullptr;
+    return slot->made && !slot->recorded ? own_.native : slot->native;
 }
 
 void Object::setValid(bool valid)

@@ -76,11 +76,13 @@ private:
 
     enum class State : std::uint8_t { Valid, Invalid, Ending, Ended };
 
-    /// The native object for one class name; `made` when the class's `createInstanceData` ran for it.
+    /// The native object for one class name; `made` when the class's `createInstanceData` ran for it, `recorded` when
+    /// that or someone since gave one. For a superclass without one of its own, that of the object's class counts.
     struct Slot {
         Name className = nullptr;
         void* native = nullptr;
         bool made = false;
+        bool recorded = false;
     };
 
     ~Object();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/MemberRecord.hpp"
+#include "orbis/factory/NativeClassRecord.hpp"
 #include "orbis/factory/PropertyRecord.hpp"
 #include "orbis/factory/export.hpp"
 
@@ -13,28 +14,33 @@ namespace orbis::factory {
 /// A class as it is described: a value that can be looked at without a host.
 class ORBIS_FACTORY_API ClassDescription {
 public:
-    /// `hostName` is the class's full dotted name; a literal.
-    explicit ClassDescription(char const* hostName);
+    explicit ClassDescription(NativeClassRecord const& native);
     ClassDescription(ClassDescription const&);
     ~ClassDescription();
 
     char const* hostName() const;
+    NativeClassRecord const& native() const;
+
+    /// Direct ones, in the order of description.
+    std::vector<NativeClassRecord> const& superclasses() const;
     std::vector<MemberRecord> const& members() const;
     std::vector<PropertyRecord> const& properties() const;
 
 protected:
+    void add(NativeClassRecord const& superclass);
     void add(MemberRecord record);
     void add(PropertyRecord record);
 
 private:
-    char const* hostName_;
+    NativeClassRecord native_;
+    std::vector<NativeClassRecord> superclasses_;
     std::vector<MemberRecord> members_;
     std::vector<PropertyRecord> properties_;
 };
 
-/// Gives the host class a descriptor for every member of the description: constructors, then methods, then properties,
-/// each kind in the order of description. To be called by the class info's `initializeClass`. Errors of the host pass
-/// through; what was handed over before stays the host's.
+/// Gives the host class its superclasses, which must be published, and a descriptor for every member: constructors,
+/// then methods, then properties, each kind in the order of description. To be called by the class info's
+/// `initializeClass`. Errors of the host pass through; what was handed over before stays the host's.
 ORBIS_FACTORY_API void publish(COSClass* cls, ClassDescription const& description);
 
 } // namespace orbis::factory

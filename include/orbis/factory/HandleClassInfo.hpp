@@ -1,7 +1,9 @@
 #pragma once
 
+#include "orbis/factory/HostClass.hpp"
 #include "orbis/factory/OrbisFactoryClassInfo.hpp"
-#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/detail/forgetBinding.hpp"
+#include "orbis/factory/detail/hostShares.hpp"
 
 #include <type_traits>
 
@@ -13,9 +15,11 @@ template <class T, int N>
 class HandleClassInfo : public OrbisFactoryClassInfo {
     static_assert(N == 0 || N == 1, "HandleClassInfo<T, N>: N is 1 to delete native objects with their host objects, "
                                     "or 0 to leave them alone.");
-    static_assert(N == 0 || std::has_virtual_destructor_v<T>,
+    static_assert(N == 0 || std::has_virtual_destructor_v<RootClass<T>>,
                   "HandleClassInfo<T, 1> deletes native objects through T: give T a virtual destructor, or use "
                   "HandleClassInfo<T, 0> and delete them yourself.");
+    static_assert(!ValueClass<T>, "Objects of a value class live inside their host objects: publish it with "
+                                  "NonHandleClassInfo, or leave ValuePolicy out of its HostClass.");
 
 public:
     using OrbisFactoryClassInfo::OrbisFactoryClassInfo;
@@ -24,15 +28,14 @@ public:
     void* createInstanceData() override { return nullptr; }
 
     /// Forgets the binding of `data`, a native address, to `object` (null for any object); true when there was one.
-    /// Only then the native object is deleted, if it is this class info's to delete. An address that was released and
-    /// has been bound to another host object since is that one's affair.
+    /// Only then the native object is deleted, if it is this class info's to delete.
     bool destroyInstanceData(COSInterface* object, void* data) override
     {
-        bool const isOurs = !object || basic::BindingRegistry::find(data) == object;
-        bool const wasBound = isOurs && basic::BindingRegistry::release(data);
+        bool const wasBound = detail::forgetBinding(object, data);
+        bool const wasShared = detail::dropShare(object);
         if constexpr (N == 1) {
-            if (wasBound && data)
-                delete static_cast<T*>(data);
+            if (wasBound && !wasShared)
+                delete static_cast<RootClass<T>*>(data);
         }
         return wasBound;
     }

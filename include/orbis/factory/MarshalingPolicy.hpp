@@ -2,8 +2,12 @@
 
 #include "orbis/factory/HostClass.hpp"
 #include "orbis/factory/PrimitivePolicy.hpp"
+#include "orbis/factory/TypedDynamicCastCppManagedPolicy.hpp"
 #include "orbis/factory/VelmaraManagedNoInheritancePolicy.hpp"
+#include "orbis/factory/VelmaraManagedWithInheritancePolicy.hpp"
+#include "orbis/factory/full/Wrappable.hpp"
 
+#include <concepts>
 #include <type_traits>
 
 namespace orbis::factory {
@@ -18,15 +22,27 @@ struct MarshalingPolicy<T> {
     using Type = PrimitivePolicy;
 };
 
+namespace detail {
+
+/// What `HostClass` names; else by what objects are bound as.
 template <PublishedClass T>
-struct MarshalingPolicy<T*> {
-    using Type = VelmaraManagedNoInheritancePolicy;
-};
+consteval auto objectPolicy()
+{
+    if constexpr (requires { typename HostClass<T>::Policy; })
+        return std::type_identity<typename HostClass<T>::Policy>{};
+    else if constexpr (std::derived_from<T, full::Wrappable>)
+        return std::type_identity<TypedDynamicCastCppManagedPolicy<full::Wrappable>>{};
+    else if constexpr (requires { typename HostClass<T>::Root; })
+        return std::type_identity<VelmaraManagedWithInheritancePolicy>{};
+    else
+        return std::type_identity<VelmaraManagedNoInheritancePolicy>{};
+}
+
+} // namespace detail
 
 template <PublishedClass T>
-    requires requires { typename HostClass<T>::Policy; }
 struct MarshalingPolicy<T*> {
-    using Type = typename HostClass<T>::Policy;
+    using Type = typename decltype(detail::objectPolicy<T>())::type;
 };
 
 namespace detail {

@@ -2,6 +2,8 @@
 
 #include "orbis/factory/Marshaler.hpp"
 #include "orbis/factory/detail/ObjectPointerMarshaler.hpp"
+#include "orbis/factory/export.hpp"
+#include "orbis/factory/full/Wrappable.hpp"
 
 namespace orbis::factory {
 
@@ -9,8 +11,26 @@ namespace orbis::factory {
 template <class Base>
 class TypedDynamicCastCppManagedPolicy {};
 
+namespace detail {
+
+template <class Base>
+struct AlwaysAs {
+    template <class>
+    using Type = Base;
+};
+
+} // namespace detail
+
 template <class Base>
 class Marshaler<TypedDynamicCastCppManagedPolicy<Base>>
-    : public detail::ObjectPointerMarshaler<detail::DynamicCast<Base>> {};
+    : public detail::ObjectPointerMarshaler<detail::DynamicCast<detail::AlwaysAs<Base>::template Type>> {};
+
+template <>
+class ORBIS_FACTORY_API Marshaler<TypedDynamicCastCppManagedPolicy<full::Wrappable>>
+    : public detail::ObjectPointerMarshaler<detail::DynamicCast<detail::AlwaysAs<full::Wrappable>::Type>> {
+public:
+    Marshaler& operator=(Marshaler const&);
+    Marshaler& operator=(Marshaler&&);
+};
 
 } // namespace orbis::factory

@@ -2,6 +2,7 @@
 
 #include "orbis/factory/ClassDescription.hpp"
 #include "orbis/factory/ParameterNames.hpp"
+#include "orbis/factory/detail/areSuperclasses.hpp"
 #include "orbis/factory/detail/makePropertyRecord.hpp"
 #include "orbis/factory/detail/makeRecord.hpp"
 #include "orbis/factory/overload.hpp"
@@ -28,7 +29,16 @@ class ClassDescriber : public ClassDescription {
     using Names = ParameterNames<Traits<F>::arity>;
 
 public:
-    ClassDescriber() : ClassDescription(HostClass<T>::name) {}
+    ClassDescriber() : ClassDescription(nativeClassRecord<T>()) {}
+
+    /// The direct superclasses: published base classes, whose members objects of this class have too.
+    template <class... B>
+    ClassDescriber& inherits()
+    {
+        if constexpr (detail::areSuperclasses<T, B...>())
+            (add(nativeClassRecord<B>()), ...);
+        return *this;
+    }
 
     /// A constructor that takes values of the types `A`.
     template <class... A>

@@ -1,15 +1,17 @@
 #pragma once
 
 #include "orbis/factory/HostClass.hpp"
-#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/detail/NativeOwnership.hpp"
+#include "orbis/factory/detail/ObjectCasts.hpp"
 
 #include "libhv/hvArray.hpp"
+#include "libhv/libhv.hpp"
 #include "orbis/COSInterface.hpp"
 #include "orbis/COSInterfacePtr.hpp"
 #include "orbis/COSNameID.hpp"
 #include "orbis/objectArrays.hpp"
 
-#include <type_traits>
+#include <memory>
 
 namespace orbis::factory::detail {
 
@@ -35,6 +37,12 @@ inline void* nativeObject(COSInterface const* object, char const* className)
 template <class Cast>
 class ObjectPointerMarshaler {
 public:
+    /// False for objects that live inside their host objects and are never bound.
+    static constexpr bool isHandle = Cast::isHandle;
+
+    /// True when objects may be of published subclasses.
+    static constexpr bool isHeterogeneous = Cast::isHeterogeneous;
+
     /// The address under which the object is bound.
     template <PublishedClass T>
     static void* boundAddress(T* object)
@@ -46,7 +54,9 @@ public:
     template <PublishedClass T>
     static void toHost(T const* value, hvArray** out)
     {
-        *out = basic::BindingRegistry::announce(boundAddress(const_cast<T*>(value)), dataTypeName<T>());
+        std::unique_ptr<hvArray, hvDestroy_deleter> array(Cast::announce(value));
+        NativeOwnership<T>::share(value, array.get());
+        *out = array.release();
     }
 
     /// The native object of the array's first element, or null.
@@ -73,52 +83,6 @@ public:
     static char const* dataTypeText()
     {
         return HostClass<T>::name;
-    }
-};
-
-/// Bound as the root class, found by a static cast.
-struct StaticCast {
-    template <class T>
-    static void* toBound(T* object)
-    {
-        return static_cast<RootClass<T>*>(object);
-    }
-
-    template <class T>
-    static T* fromBound(void* object)
-    {
-        return static_cast<T*>(static_cast<RootClass<T>*>(object));
-    }
-};
-
-/// Bound as `Base`, found by a dynamic cast: null for an object of another class.
-template <class Base>
-struct DynamicCast {
-    template <class T>
-    static void* toBound(T* object)
-    {
-        return static_cast<Base*>(object);
-    }
-
-    template <class T>
-    static T* fromBound(void* object)
-    {
-        return dynamic_cast<T*>(static_cast<Base*>(object));
-    }
-};
-
-/// `DynamicCast` from the root class that each class names for itself.
-struct DynamicCastFromRoot {
-    template <class T>
-    static void* toBound(T* object)
-    {
-        return DynamicCast<RootClass<T>>::toBound(object);
-    }
-
-    template <class T>
-    static T* fromBound(void* object)
-    {
-        return DynamicCast<RootClass<T>>::template fromBound<T>(object);
     }
 };
 

@@ -3,13 +3,14 @@
 #include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/detail/Argument.hpp"
 #include "orbis/factory/detail/CallableTraits.hpp"
+#include "orbis/factory/detail/NativeOwnership.hpp"
 #include "orbis/factory/impl/Invoker.hpp"
 #include "orbis/factory/impl/validateSelfPointer.hpp"
 
 #include "orbis/objectArrays.hpp"
 
-#include <memory>
 #include <type_traits>
+#include <utility>
 
 /// The routines behind `impl::Invoker::invokeFn`: one for each function type. The callable is read from the record,
 /// so functions of one type share their routine.
@@ -72,9 +73,9 @@ struct ConstructorRoutine {
             announce(existing, constructed);
         } else {
             auto made = arguments.apply(
-                [](auto&&... values) { return std::make_unique<T>(static_cast<decltype(values)>(values)...); });
+                [](auto&&... values) { return NativeOwnership<T>::make(static_cast<decltype(values)>(values)...); });
             announce(made.get(), constructed);
-            static_cast<void>(made.release()); // the class info's from now on
+            NativeOwnership<T>::handOver(std::move(made), constructed);
         }
         if (outputCount == 0)
             outputCount = 1;
@@ -85,7 +86,7 @@ private:
     {
         using Bound = MarshalerOf<T*>;
         basic::BindingRegistry::announceForConstructor(Bound::boundAddress(object), Bound::template dataTypeName<T>(),
-                                                       constructed, true);
+                                                       constructed, Bound::isHandle);
     }
 
     static void assign([[maybe_unused]] T& existing, [[maybe_unused]] ArgumentsOf<A...>& arguments)

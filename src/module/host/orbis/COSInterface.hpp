@@ -17,7 +17,8 @@ public:
     /// of the instance data recorded before.
     virtual void setNativeObject(COSNameID const& className, void* object) = 0;
 
-    /// The native object recorded for `className`, or null.
+    /// The native object recorded for `className`, or null. For a superclass whose class info made none and for which
+    /// none was recorded, the one recorded for the object's own class stands.
     virtual void* getNativeObject(COSNameID const& className) const = 0;
 
     /// `setValid(false)`: the native object is gone. The host forgets all native objects of this one and refuses

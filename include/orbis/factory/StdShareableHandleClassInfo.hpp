@@ -1,0 +1,30 @@
+#pragma once
+
+#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/detail/releaseHostKept.hpp"
+#include "orbis/factory/full/StdShareable.hpp"
+
+#include <concepts>
+
+namespace orbis::factory {
+
+/// Publishes a class whose native objects `std::shared_ptr` owns. A host object has a share in its native object
+/// until it ends.
+template <class T>
+class StdShareableHandleClassInfo : public HandleClassInfo<T, 0> {
+    static_assert(std::derived_from<T, full::StdShareable>,
+                  "StdShareableHandleClassInfo publishes shared classes: derive the class "
+                  "from full::StdShareable.");
+
+public:
+    using HandleClassInfo<T, 0>::HandleClassInfo;
+
+    /// Forgets the binding and gives up what the host object held; true when there was a binding.
+    bool destroyInstanceData(COSInterface* object, void* data) override
+    {
+        detail::releaseHostKept<full::StdShareable>(object, data);
+        return HandleClassInfo<T, 0>::destroyInstanceData(object, data);
+    }
+};
+
+} // namespace orbis::factory

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "orbis/factory/detail/NativeOwnership.hpp"
+#include "orbis/factory/detail/hostShares.hpp"
+#include "orbis/factory/export.hpp"
+#include "orbis/factory/full/SharingType.hpp"
+#include "orbis/factory/full/Wrappable.hpp"
+
+#include <boost/smart_ptr/enable_shared_from_this.hpp>
+#include <boost/smart_ptr/make_shared.hpp>
+#include <boost/smart_ptr/shared_ptr.hpp>
+
+#include <concepts>
+#include <utility>
+
+namespace orbis::factory::full {
+
+/// Base of native classes whose objects `boost::shared_ptr` owns. A host object that stands for one shares in it, so
+/// that each side may let go first.
+class ORBIS_FACTORY_API Shareable : public Wrappable, public boost::enable_shared_from_this<Shareable> {
+public:
+    Shareable();
+    Shareable(Shareable const&);
+    Shareable& operator=(Shareable const&);
+    ~Shareable() override;
+    virtual SharingType getSharingType() const;
+};
+
+/// Keeps the object alive until its first `releaseReference` or the end of the current virtual machine: an object is
+/// kept once, however often this is called. Null is allowed. Given a raw pointer, throws the shared pointer's
+/// `bad_weak_ptr` when none owns the object.
+ORBIS_FACTORY_API void acquireReference(boost::shared_ptr<Shareable> const& object);
+ORBIS_FACTORY_API void acquireReference(Shareable* object);
+
+/// Gives up what `acquireReference` keeps, which may end the object; nothing happens when it keeps nothing. Null and
+/// errors as there.
+ORBIS_FACTORY_API void releaseReference(boost::shared_ptr<Shareable> const& object);
+ORBIS_FACTORY_API void releaseReference(Shareable* object);
+
+/// Always true.
+ORBIS_FACTORY_API bool canAcquireReference(Shareable* object);
+
+} // namespace orbis::factory::full
+
+namespace orbis::factory::detail {
+
+/// Shared from the beginning: the host object has a share, and all share one count.
+template <std::derived_from<full::Shareable> T>
+struct NativeOwnership<T> {
+    template <class... A>
+    static boost::shared_ptr<T> make(A&&... arguments)
+    {
+        return boost::make_shared<T>(std::forward<A>(arguments)...);
+    }
+
+    static void handOver(boost::shared_ptr<T> const& made, hvArray_tag const* constructed)
+    {
+        shareWithHost(constructed, made);
+    }
+
+    /// An object that no shared pointer owns is not shared either: its host object becomes invalid when it ends.
+    static void share(T const* object, hvArray_tag const* array)
+    {
+        if (auto const owner = object ? object->weak_from_this().lock() : nullptr)
+            shareWithHost(array, boost::const_pointer_cast<full::Shareable>(owner));
+    }
+};
+
+} // namespace orbis::factory::detail

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "basic/HvmScoped.hpp"
+
+namespace orbis::factory::full {
+
+/// The shared objects of one kind that the current virtual machine keeps alive, each once. `Set` is a hashed set of
+/// owning pointers, by the pointers' values.
+template <class Set>
+struct KeepAliveSet {
+    using Pointer = typename Set::value_type;
+
+    static void keep(Pointer const& object)
+    {
+        if (object)
+            basic::HvmScoped<KeepAliveSet>::get().objects.insert(object);
+    }
+
+    /// The caller's own pointer makes sure that no object ends inside the set, which its destructor may come back to.
+    static void drop(Pointer const& object)
+    {
+        auto* const set = basic::HvmScoped<KeepAliveSet>::find();
+        if (object && set)
+            set->objects.erase(object);
+    }
+
+    Set objects;
+};
+
+} // namespace orbis::factory::full

@@ -1,0 +1,59 @@
+#include "orbis/factory/full/Shareable.hpp"
+
+#include "orbis/factory/basic/BindingRegistry.hpp"
+
+#include "full/KeepAliveSet.hpp"
+
+#include <boost/unordered_set.hpp>
+
+namespace orbis::factory::full {
+
+namespace {
+using Kept = KeepAliveSet<boost::unordered_set<boost::shared_ptr<Shareable>>>;
+} // namespace
+
+Shareable::Shareable() = default;
+
+Shareable::Shareable(Shareable const&) = default;
+
+Shareable& Shareable::operator=(Shareable const&) = default;
+
+// Before the shared-from-this base gives up its reference to the object.
+Shareable::~Shareable()
+{
+    basic::BindingRegistry::retract(this);
+}
+
+SharingType Shareable::getSharingType() const
+{
+    return SharingType::Shared;
+}
+
+void acquireReference(boost::shared_ptr<Shareable> const& object)
+{
+    Kept::keep(object);
+}
+
+void acquireReference(Shareable* object)
+{
+    if (object)
+        Kept::keep(object->shared_from_this());
+}
+
+void releaseReference(boost::shared_ptr<Shareable> const& object)
+{
+    Kept::drop(object);
+}
+
+void releaseReference(Shareable* object)
+{
+    if (object)
+        Kept::drop(object->shared_from_this());
+}
+
+bool canAcquireReference(Shareable*)
+{
+    return true;
+}
+
+} // namespace orbis::factory::full

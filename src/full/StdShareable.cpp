@@ -1,0 +1,59 @@
+#include "orbis/factory/full/StdShareable.hpp"
+
+#include "orbis/factory/basic/BindingRegistry.hpp"
+
+#include "full/KeepAliveSet.hpp"
+
+#include <unordered_set>
+
+namespace orbis::factory::full {
+
+namespace {
+using Kept = KeepAliveSet<std::unordered_set<std::shared_ptr<StdShareable>>>;
+} // namespace
+
+StdShareable::StdShareable() = default;
+
+StdShareable::StdShareable(StdShareable const&) = default;
+
+StdShareable& StdShareable::operator=(StdShareable const&) = default;
+
+// Before the shared-from-this base gives up its reference to the object.
+StdShareable::~StdShareable()
+{
+    basic::BindingRegistry::retract(this);
+}
+
+SharingType StdShareable::getSharingType() const
+{
+    return SharingType::Shared;
+}
+
+void acquireReference(std::shared_ptr<StdShareable> const& object)
+{
+    Kept::keep(object);
+}
+
+void acquireReference(StdShareable* object)
+{
+    if (object)
+        Kept::keep(object->shared_from_this());
+}
+
+void releaseReference(std::shared_ptr<StdShareable> const& object)
+{
+    Kept::drop(object);
+}
+
+void releaseReference(StdShareable* object)
+{
+    if (object)
+        Kept::drop(object->shared_from_this());
+}
+
+bool canAcquireReference(StdShareable*)
+{
+    return true;
+}
+
+} // namespace orbis::factory::full

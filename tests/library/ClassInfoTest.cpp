@@ -1,0 +1,218 @@
+#include "HvmTest.hpp"
+#include "library/Shared.hpp"
+
+#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/NonHandleClassInfo.hpp"
+#include "orbis/factory/ValuePolicy.hpp"
+#include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/describe.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <memory>
+
+using namespace orbis;
+using namespace orbis::factory;
+using full::SharingType;
+using velmara::ArrayPtr;
+
+namespace {
+
+template <class Base>
+struct Bare final : Base {
+    Bare() : Base("tests.Bare", "what it is for") {}
+    void initializeClass(COSClass*) override {}
+};
+
+struct Counted {
+    Counted() { ++alive; }
+    Counted(Counted const&) = delete;
+    Counted& operator=(Counted const&) = delete;
+    virtual ~Counted() { --alive; }
+    inline static int alive = 0;
+};
+
+class ClassInfoTest : public HvmTest {
+protected:
+    /// Binds `object` to a host object of the class.
+    ArrayPtr bind(COSClassInfo* info, void* object)
+    {
+        COSClass::addGlobalClass(info);
+        return ArrayPtr(basic::BindingRegistry::announce(object, COSNameID(info->getName())));
+    }
+};
+
+/// Destroys the instance data of bound objects by hand: what one of the templates does with the binding and with the
+/// native object.
+TEST_F(ClassInfoTest, HandlesGiveUpTheBindingAndDeleteOnlyWhenToldTo)
+{
+    Bare<HandleClassInfo<Counted, 0>> keeps;
+    Bare<HandleClassInfo<Counted, 1>> deletes;
+    for (COSClassInfo* const info : {static_cast<COSClassInfo*>(&keeps), static_cast<COSClassInfo*>(&deletes)}) {
+        bool const isOwner = info == &deletes;
+        EXPECT_TRUE(info->isHandle());
+        EXPECT_EQ(info->createInstanceData(), nullptr);
+        EXPECT_TRUE(info->slot10Flag());
+        EXPECT_STREQ(info->getDetailedDescription(), "what it is for");
+        EXPECT_FALSE(info->destroyInstanceData(nullptr, nullptr));
+        auto* const unbound = new Counted;
+        EXPECT_FALSE(info->destroyInstanceData(nullptr, unbound));
+        EXPECT_EQ(Counted::alive, 1);
+        basic::registry().emplace(unbound, new basic::RegistryEntry(unbound, nullptr));
+        EXPECT_TRUE(info->destroyInstanceData(nullptr, unbound));
+        EXPECT_FALSE(basic::BindingRegistry::contains(unbound));
+        EXPECT_EQ(Counted::alive, isOwner ? 0 : 1);
+        if (!isOwner)
+            delete unbound;
+    }
+}
+
+template <class Kind>
+class SharedClassInfoTest : public ClassInfoTest {};
+
+using Kinds = ::testing::Types<Boost, Std>;
+TYPED_TEST_SUITE(SharedClassInfoTest, Kinds);
+
+TYPED_TEST(SharedClassInfoTest, TheSharingTypeSaysWhoseTheKeptReferenceIs)
+{
+    using Object = Shared<TypeParam>;
+    for (auto const& [type, isReleased] :
+         {std::pair(SharingType::HostKept, true), std::pair(SharingType::Shared, false),
+          std::pair(SharingType::HostKeptAlone, true)}) {
+        Bare<typename TypeParam::template Info<Object>> info;
+        typename Object::Pointer const object(new Object);
+        object->type = type;
+        auto* const address = static_cast<full::Wrappable*>(object.get());
+        acquireReference(object.get());
+        basic::registry().emplace(address, new basic::RegistryEntry(address, nullptr));
+        EXPECT_TRUE(info.isHandle());
+        EXPECT_EQ(info.createInstanceData(), nullptr);
+        EXPECT_FALSE(info.destroyInstanceData(nullptr, nullptr));
+        EXPECT_TRUE(info.destroyInstanceData(nullptr, address));
+        EXPECT_FALSE(basic::BindingRegistry::contains(address));
+        EXPECT_EQ(object.use_count(), isReleased ? 1 : 2);
+        releaseReference(object.get());
+    }
+}
+
+// A value class.
+struct Amount {
+    Amount() { ++alive; }
+    explicit Amount(double v) : value(v) { ++alive; }
+    Amount(Amount const& other) : value(other.value) { ++alive; }
+    Amount& operator=(Amount const&) = default;
+    ~Amount() { --alive; }
+    double get() const { return value; }
+    void add(Amount const& other) { value += other.value; }
+    Amount plus(Amount other) const { return Amount(value + other.value); }
+    Amount const& same() const { return *this; }
+    Amount const* orNull(bool isNull) const { return isNull ? nullptr : this; }
+    bool isWaiting() const { return CopyableSupport::isInUnconstructedSet(this); }
+    static double ofOrMinusOne(Amount const* amount) { return amount ? amount->value : -1; }
+    double value = 0;
+    inline static int alive = 0;
+};
+
+} // namespace
+
+template <>
+struct orbis::factory::HostClass<Amount> {
+    static constexpr char const* name = "tests.Amount";
+    using Policy = ValuePolicy;
+};
+
+namespace {
+
+struct AmountInfo final : NonHandleClassInfo<Amount, Amount> {
+    AmountInfo() : NonHandleClassInfo("tests.Amount", "") {}
+    void initializeClass(COSClass* cls) override
+    {
+        publish(cls, describe<Amount>()
+                         .constructor()
+                         .constructor<double>("value")
+                         .method("get", &Amount::get)
+                         .method("add", &Amount::add)
+                         .method("plus", &Amount::plus)
+                         .method("same", &Amount::same)
+                         .method("orNull", &Amount::orNull)
+                         .method("isWaiting", &Amount::isWaiting)
+                         .staticMethod("ofOrMinusOne", &Amount::ofOrMinusOne)
+                         .property("twin", &Amount::same, &Amount::add));
+    }
+};
+
+class ValueClassTest : public HvmTest {
+protected:
+    ValueClassTest()
+    {
+        registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new AmountInfo); });
+    }
+    ~ValueClassTest() override
+    {
+        endHvm();
+        EXPECT_EQ(Amount::alive, 0);
+    }
+
+    ArrayPtr amount(double value)
+    {
+        ArrayPtr const input = number(value);
+        hvArray* const inputs[] = {input.get()};
+        return hvm().construct("tests.Amount", inputs);
+    }
+    ArrayPtr call(ArrayPtr const& object, char const* method, hvArray* input)
+    {
+        return hvm().call(object.get(), method, {&input, 1});
+    }
+    double valueOf(ArrayPtr const& object) { return scalar<double>(hvm().call(object.get(), "get")); }
+};
+
+TEST_F(ValueClassTest, EachHostObjectHasItsOwnValue)
+{
+    ArrayPtr const three = amount(3), four = amount(4), none = hvm().construct("tests.Amount");
+    EXPECT_EQ(Amount::alive, 3);
+    EXPECT_TRUE(basic::registry().empty()) << "values have no identity";
+    call(three, "add", four.get());
+    EXPECT_EQ(valueOf(three), 7);
+    EXPECT_EQ(valueOf(four), 4);
+    EXPECT_EQ(valueOf(none), 0);
+    EXPECT_FALSE(scalar<bool>(hvm().call(three.get(), "isWaiting")));
+
+    ArrayPtr const sum = call(three, "plus", four.get()), same = hvm().call(three.get(), "same");
+    EXPECT_EQ(valueOf(sum), 11);
+    EXPECT_FALSE(velmara::isSameObject(same.get(), three.get()));
+    call(same, "add", same.get());
+    EXPECT_EQ(valueOf(same), 14);
+    EXPECT_EQ(valueOf(three), 7);
+    hvm().set(three.get(), "twin", four.get());
+    EXPECT_EQ(valueOf(hvm().get(three.get(), "twin")), 11);
+    EXPECT_TRUE(basic::registry().empty());
+}
+
+TEST_F(ValueClassTest, NullIsForPointersOnly)
+{
+    ArrayPtr const one = amount(1), none(omCreateORBISMatrix(0, 0, "tests.Amount"));
+    hvArray* const inputs[] = {none.get()};
+    EXPECT_EQ(scalar<double>(hvm().callStatic("tests.Amount", "ofOrMinusOne", inputs)), -1);
+    EXPECT_EQ(errorOf([&] { call(one, "add", none.get()); }), "orbis_factory:orbis_factory:null_self");
+    EXPECT_EQ(call(one, "orNull", number(1).get())->get_number_of_elements(), 0u);
+    EXPECT_EQ(valueOf(call(one, "orNull", number(0).get())), 1);
+}
+
+TEST_F(ValueClassTest, TheNativeValueGoesWithItsHostObject)
+{
+    AmountInfo info;
+    EXPECT_FALSE(info.isHandle());
+    void* const data = info.createInstanceData();
+    EXPECT_TRUE(CopyableSupport::isInUnconstructedSet(data));
+    EXPECT_TRUE(info.destroyInstanceData(nullptr, data));
+    EXPECT_FALSE(CopyableSupport::isInUnconstructedSet(data));
+    EXPECT_FALSE(info.destroyInstanceData(nullptr, nullptr));
+    ArrayPtr const last = amount(1);
+    amount(2).reset();
+    EXPECT_EQ(Amount::alive, 1);
+    endHvm();
+    EXPECT_EQ(Amount::alive, 0);
+}
+
+} // namespace

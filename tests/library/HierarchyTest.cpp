@@ -1,0 +1,236 @@
+#include "HvmTest.hpp"
+
+#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/describe.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <functional>
+
+using namespace orbis;
+using namespace orbis::factory;
+using velmara::ArrayPtr;
+
+namespace {
+
+// Node, with Leaf and Branch below it; Bud, below Leaf, is not published. Leaf has its Node at an offset.
+struct Node {
+    Node() { ++alive; }
+    Node(Node const&) = delete;
+    Node& operator=(Node const&) = delete;
+    virtual ~Node() { --alive; }
+    int weight() const { return weight_; }
+    void setWeight(int weight) { weight_ = weight; }
+    virtual int kind() const { return 0; }
+    Node* self() { return this; }
+
+    static Node* next();
+    static bool isNull(Node const* node) { return !node; }
+    static inline std::function<Node*()> make;
+    inline static int alive = 0;
+
+private:
+    int weight_ = 1;
+};
+
+Node* Node::next()
+{
+    return make();
+}
+
+struct Tagged {
+    virtual ~Tagged() = default;
+    int tag = 5;
+};
+
+struct Leaf : Tagged, Node {
+    int kind() const override { return 1; }
+    int leafTag() const { return tag; }
+};
+
+struct Bud : Leaf {};
+
+struct Branch : Node {
+    int kind() const override { return 2; }
+};
+
+// Below a class that is published nowhere.
+struct Stray : Node {};
+
+// A hierarchy of wrappable classes needs no root of its own; it is a diamond.
+struct Part : full::Wrappable {
+    int id() const { return 7; }
+    Part* self() { return this; }
+};
+struct Wheel : virtual Part {};
+struct Motor : virtual Part {};
+struct Wheelmotor : Wheel, Motor {};
+
+} // namespace
+
+template <>
+struct orbis::factory::HostClass<Node> {
+    static constexpr char const* name = "tests.Node";
+    using Root = Node;
+};
+template <>
+struct orbis::factory::HostClass<Leaf> {
+    static constexpr char const* name = "tests.Leaf";
+    using Root = Node;
+};
+template <>
+struct orbis::factory::HostClass<Branch> {
+    static constexpr char const* name = "tests.Branch";
+    using Root = Node;
+};
+template <>
+struct orbis::factory::HostClass<Part> {
+    static constexpr char const* name = "tests.Part";
+};
+template <>
+struct orbis::factory::HostClass<Wheel> {
+    static constexpr char const* name = "tests.Wheel";
+};
+template <>
+struct orbis::factory::HostClass<Motor> {
+    static constexpr char const* name = "tests.Motor";
+};
+template <>
+struct orbis::factory::HostClass<Wheelmotor> {
+    static constexpr char const* name = "tests.Wheelmotor";
+};
+
+namespace {
+
+/// Describes the class `T` by `describer`.
+template <class T, class Bound>
+struct Info final : HandleClassInfo<Bound, 1> {
+    using Describer = void (*)(ClassDescriber<T>&);
+    explicit Info(Describer function) : HandleClassInfo<Bound, 1>(HostClass<T>::name, ""), describer(function) {}
+    void initializeClass(COSClass* cls) override
+    {
+        auto description = describe<T>();
+        description.constructor();
+        describer(description);
+        publish(cls, description);
+    }
+    Describer describer;
+};
+
+void describeNode(ClassDescriber<Node>& node)
+{
+    node.method("kind", &Node::kind)
+        .method("self", &Node::self)
+        .staticMethod("next", &Node::next)
+        .staticMethod("isNull", &Node::isNull)
+        .property("weight", &Node::weight, &Node::setWeight);
+}
+
+class HierarchyTest : public HvmTest {
+protected:
+    HierarchyTest()
+    {
+        // The subclasses are described before their superclass is, and in no order.
+        registerOrbisPackage("tests", [](COSPackage* package) {
+            package->addClass(new Info<Branch, Node>([](auto& branch) { branch.template inherits<Node>(); }));
+            package->addClass(new Info<Leaf, Leaf>(
+                [](auto& leaf) { leaf.template inherits<Node>().method("leafTag", &Leaf::leafTag); }));
+            package->addClass(new Info<Node, Node>(&describeNode));
+            package->addClass(new Info<Wheelmotor, Part>([](auto& c) { c.template inherits<Wheel, Motor>(); }));
+            package->addClass(new Info<Wheel, Part>([](auto& wheel) { wheel.template inherits<Part>(); }));
+            package->addClass(new Info<Motor, Part>([](auto& motor) { motor.template inherits<Part>(); }));
+            package->addClass(
+                new Info<Part, Part>([](auto& part) { part.method("id", &Part::id).method("self", &Part::self); }));
+        });
+    }
+    ~HierarchyTest() override
+    {
+        Node::make = nullptr;
+        endHvm();
+        EXPECT_EQ(Node::alive, 0);
+    }
+
+    ArrayPtr next(Node* node)
+    {
+        Node::make = [node] { return node; };
+        return hvm().callStatic("tests.Node", "next");
+    }
+};
+
+TEST_F(HierarchyTest, BaseMembersWorkOnDerivedObjects)
+{
+    for (auto const& [name, kind] : {std::pair("tests.Leaf", 1), std::pair("tests.Branch", 2)}) {
+        ArrayPtr const object = hvm().construct(name);
+        EXPECT_EQ(scalar<std::int32_t>(hvm().call(object.get(), "kind")), kind);
+        hvm().set(object.get(), "weight", number(8).get());
+        EXPECT_EQ(scalar<std::int32_t>(hvm().get(object.get(), "weight")), 8);
+        EXPECT_TRUE(velmara::isSameObject(hvm().call(object.get(), "self").get(), object.get()));
+        EXPECT_EQ(basic::registry().size(), 1u) << "one binding, by the root's address";
+    }
+    EXPECT_EQ(Node::alive, 0) << "deleted once, with the derived object";
+    ArrayPtr const leaf = hvm().construct("tests.Leaf");
+    EXPECT_EQ(scalar<std::int32_t>(hvm().call(leaf.get(), "leafTag")), 5);
+    EXPECT_EQ(hvm().describeClass("tests.Leaf").superclasses, std::vector<std::string>{"tests.Node"});
+}
+
+TEST_F(HierarchyTest, ABasePointerYieldsTheMostDerivedPublishedClass)
+{
+    struct Case {
+        Node* node;
+        char const* name;
+    };
+    // Nothing but Node is described when the first one crosses.
+    for (auto const& [node, name] :
+         {Case{new Leaf, "tests.Leaf"}, Case{new Branch, "tests.Branch"}, Case{new Bud, "tests.Leaf"},
+          Case{new Stray, "tests.Node"}, Case{new Node, "tests.Node"}}) {
+        ArrayPtr const object = next(node);
+        EXPECT_EQ(velmara::className(object.get()), name);
+        EXPECT_EQ(scalar<std::int32_t>(hvm().call(object.get(), "kind")), node->kind());
+        ArrayPtr const again = next(node);
+        EXPECT_TRUE(velmara::isSameObject(again.get(), object.get()));
+        EXPECT_EQ(velmara::className(again.get()), name);
+    }
+    ArrayPtr const none = next(nullptr);
+    EXPECT_EQ(none->get_number_of_elements(), 0u);
+    EXPECT_EQ(velmara::className(none.get()), "tests.Node");
+}
+
+TEST_F(HierarchyTest, ASuperclassIsNoSubclass)
+{
+    ArrayPtr const node = hvm().construct("tests.Node");
+    EXPECT_EQ(errorOf([&] { hvm().call(node.get(), "leafTag"); }), "VELMARA:member:unknown");
+    using Leaves = detail::MarshalerOf<Leaf*>;
+    EXPECT_EQ(Leaves::fromHost<Leaf>(node.get()), nullptr);
+    ArrayPtr const wheel = hvm().construct("tests.Wheel");
+    hvArray* const inputs[] = {wheel.get()};
+    EXPECT_EQ(errorOf([&] { hvm().callStatic("tests.Node", "isNull", inputs); }), "VELMARA:dispatch:noMatch");
+}
+
+TEST_F(HierarchyTest, VirtualBasesAreBoundAsWrappable)
+{
+    ArrayPtr const object = hvm().construct("tests.Wheelmotor");
+    EXPECT_EQ(scalar<std::int32_t>(hvm().call(object.get(), "id")), 7);
+    EXPECT_TRUE(velmara::isSameObject(hvm().call(object.get(), "self").get(), object.get()));
+}
+
+TEST_F(HierarchyTest, WhatIsUnpublishedIsNoLongerFound)
+{
+    EXPECT_EQ(velmara::className(next(new Leaf).get()), "tests.Leaf");
+    COSPackage::removePackage("tests");
+    registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new Info<Node, Node>(&describeNode)); });
+    EXPECT_EQ(velmara::className(next(new Leaf).get()), "tests.Node");
+}
+
+TEST_F(HierarchyTest, AMissingSuperclassLeavesTheClassUnpublished)
+{
+    COSPackage::removePackage("tests");
+    registerOrbisPackage("tests", [](COSPackage* package) {
+        package->addClass(new Info<Branch, Node>([](auto& branch) { branch.template inherits<Node>(); }));
+    });
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(errorOf([&] { hvm().construct("tests.Branch"); }), "VELMARA:class:initialization");
+}
+
+} // namespace
