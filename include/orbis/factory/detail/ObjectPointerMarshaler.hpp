@@ -2,16 +2,14 @@
 
 #include "orbis/factory/HostClass.hpp"
 #include "orbis/factory/detail/NativeOwnership.hpp"
+#include "orbis/factory/detail/NewArray.hpp"
 #include "orbis/factory/detail/ObjectCasts.hpp"
 
 #include "libhv/hvArray.hpp"
-#include "libhv/libhv.hpp"
 #include "orbis/COSInterface.hpp"
 #include "orbis/COSInterfacePtr.hpp"
 #include "orbis/COSNameID.hpp"
 #include "orbis/objectArrays.hpp"
-
-#include <memory>
 
 namespace orbis::factory::detail {
 
@@ -54,7 +52,7 @@ public:
     template <PublishedClass T>
     static void toHost(T const* value, hvArray** out)
     {
-        std::unique_ptr<hvArray, hvDestroy_deleter> array(Cast::announce(value));
+        NewArray array(Cast::announce(value));
         NativeOwnership<T>::share(value, array.get());
         *out = array.release();
     }
