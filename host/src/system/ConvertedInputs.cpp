@@ -11,6 +11,7 @@
 #include "system/objectValidity.hpp"
 #include "values/Array.hpp"
 
+#include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
 #include "orbis/COSTypeConversion.hpp"
 
@@ -23,6 +24,11 @@ namespace {
 bool isText(Array const& input)
 {
     return input.classID() == hvCHAR_CLASS && (input.rows() == 1 || input.size() == 0);
+}
+
+bool isOneElement(Array const& input)
+{
+    return input.rows() == 1 && input.columns() == 1;
 }
 
 } // namespace
@@ -55,7 +61,7 @@ Fit ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
     Fit fit = noFit;
     values_[count_] = orbis::COSValue(input);
     if (type.kind == TypeKind::Text)
-        fit = isText(*Array::of(input)) ? exactFit : noFit;
+        fit = addText(input);
     else if (type.kind == TypeKind::Elements)
         fit = addElements(type, input);
     else if (type.kind == TypeKind::Any)
@@ -67,18 +73,29 @@ Fit ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
     return fit;
 }
 
+Fit ConvertedInputs::addText(hvArray_tag* input)
+{
+    Array const& array = *Array::of(input);
+    if (isText(array))
+        return exactFit;
+    if (array.classID() != hvSTRING_CLASS || array.size() != 1 || array.strings().front().isMissing())
+        return noFit;
+    values_[count_] = orbis::COSValue(orbis::additions::createText(array.strings().front().view()));
+    owned_[ownedCount_++] = {nullptr, values_[count_]};
+    return convertedFit;
+}
+
 Fit ConvertedInputs::addElements(TypeReference const& type, hvArray_tag* input)
 {
     Array const& array = *Array::of(input);
-    bool const isOneElement = array.rows() == 1 && array.columns() == 1;
     if (array.classID() == type.scalarClass)
-        return isOneElement ? exactFit - 1 : exactFit;
+        return isOneElement(array) ? exactFit - 1 : exactFit;
     hvArray_tag* const converted = convertElements(type.scalarClass, array).release();
     if (!converted)
         return noFit;
     values_[count_] = orbis::COSValue(converted);
     owned_[ownedCount_++] = {nullptr, values_[count_]};
-    return isOneElement ? convertedFit - 1 : convertedFit;
+    return isOneElement(array) ? convertedFit - 1 : convertedFit;
 }
 
 Fit ConvertedInputs::addOptional(TypeReference const& type, hvArray_tag* input)
@@ -118,7 +135,7 @@ Fit ConvertedInputs::addRegistered(TypeReference const& type, hvArray_tag* input
     dataType->getReference(); // it may be unregistered before its value is given back
     values_[count_] = orbis::COSValue(converted);
     owned_[ownedCount_++] = {dataType, values_[count_]};
-    return convertedFit;
+    return type.element && isOneElement(*Array::of(input)) ? convertedFit - 1 : convertedFit;
 }
 
 void ConvertedInputs::giveBack()
@@ -151,6 +168,15 @@ std::string explainConversion(orbis::COSDataType& type, orbis::COSTypeConversion
     return "was refused";
 }
 
+std::string explainTextRefusal(Array const& array)
+{
+    if (array.classID() == hvCHAR_CLASS)
+        return "needs one row of text";
+    if (array.classID() != hvSTRING_CLASS)
+        return "needs text, not " + std::string(array.className());
+    return array.size() == 1 ? "needs text, not a missing string" : "needs one text, not several strings or none";
+}
+
 } // namespace
 
 std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
@@ -165,7 +191,7 @@ std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
     if (type.kind == TypeKind::Optional)
         return explainRefusal(*type.value, input);
     if (type.kind == TypeKind::Text)
-        return array.classID() == hvCHAR_CLASS ? "needs one row of text" : "needs text, not " + given;
+        return explainTextRefusal(array);
     HvmState& machine = HvmState::required();
     if (orbis::COSDataType* const registered = machine.types().findRegistered(type.name)) {
         auto* const conversion = machine.types().findConversion(anyTypeName(), type.name);

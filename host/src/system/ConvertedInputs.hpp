@@ -57,6 +57,7 @@ private:
     static constexpr std::size_t inlineCapacity = 24;
 
     Fit addArray(TypeReference const& type, hvArray_tag* input);
+    Fit addText(hvArray_tag* input);
     Fit addElements(TypeReference const& type, hvArray_tag* input);
     Fit addOptional(TypeReference const& type, hvArray_tag* input);
     Fit addNamed(TypeReference const& type, hvArray_tag* input);
