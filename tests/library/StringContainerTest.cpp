@@ -47,7 +47,7 @@ protected:
         EXPECT_EQ(column->get_dimensions()[1], 1u);
         Strings read;
         for (std::size_t i = 0; i < column->get_number_of_elements(); ++i)
-            read.push_back(textOf(ArrayPtr(hvCreateSharedDataCopy(additions::getCell(column.get(), i)))));
+            read.push_back(textOf(additions::getCell(column.get(), i)));
         return read;
     }
 };

@@ -42,12 +42,17 @@ inline ArrayPtr cells(std::initializer_list<hvArray const*> elements)
 }
 
 /// The text of a character array, zeros included.
-inline std::u16string textOf(ArrayPtr const& array)
+inline std::u16string textOf(hvArray const* array)
 {
     if (array->_get_class_id_non_trivial() != hvCHAR_CLASS)
         return u"(no characters)";
-    auto const* const data = static_cast<char16_t const*>(orbis::additions::getData(array.get()));
+    auto const* const data = static_cast<char16_t const*>(orbis::additions::getData(array));
     return {data, array->get_number_of_elements()};
+}
+
+inline std::u16string textOf(ArrayPtr const& array)
+{
+    return textOf(array.get());
 }
 
 template <class Text>
