@@ -15,8 +15,8 @@ namespace velmara {
 
 Array* Array::createFirstHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
 {
-    auto* const array = new (ArrayMemory::take()) Array(classID, rows, columns, objectClass);
-    ++liveCountsOfThisThread().arrays;
+    auto* const array = new (SmallMemory::allocate()) Array(classID, rows, columns, objectClass);
+    ++ownThreadShare().counts.arrays;
     return array;
 }
 
@@ -103,25 +103,18 @@ StringElement& Array::writableString(std::size_t index)
     return stringSlots()[index];
 }
 
-void Array::setCell(std::size_t index, Array* value)
+void Array::setCellWithCare(std::size_t index, Array* value)
 {
-    if (value && value->belongsToCells()) [[unlikely]] {
+    if (value && value->belongsToCells()) {
         if (value == cellSlots()[index])
             return;
         throwHostError("VELMARA:array", "alreadyStored");
     }
     // Only an array that stands in a cell already, or the value itself, can be found inside the value.
-    if (value && (value == this || cellsAround_ > 0) && CellNest::contains(*value, *this)) [[unlikely]]
+    if (value && (value == this || cellsAround_ > 0) && CellNest::contains(*value, *this))
         throwHostError("VELMARA:array", "cycle");
     makeUnshared();
-    if (value) {
-        ++value->cellsAround_;
-        value->setTemporary(false);
-    }
-    if (Array* const old = std::exchange(cellSlots()[index], value)) {
-        --old->cellsAround_;
-        old->release();
-    }
+    putCell(index, value);
 }
 
 Array* Array::shareData() const
@@ -137,11 +130,6 @@ Array* Array::shareData() const
 Array* Array::copyDeep() const
 {
     return DeepCopy().make(*this);
-}
-
-void Array::setTemporary(bool isTemporary)
-{
-    flags_ = isTemporary ? flags_ | temporaryFlag : flags_ & ~temporaryFlag;
 }
 
 void Array::copyPayload()
@@ -191,14 +179,14 @@ void Array::retainElements() const noexcept
 
 void Array::destroy() noexcept
 {
-    if (classID_ == hvOBJECT_CLASS)
+    if (isPlain(classID_)) [[likely]]
+        destroyPlain();
+    else if (classID_ == hvOBJECT_CLASS)
         destroyObjects();
     else if (classID_ == hvCELL_CLASS)
         CellNest::destroy(this);
-    else if (classID_ == hvSTRING_CLASS)
-        destroyStrings();
     else
-        destroyPlain();
+        destroyStrings();
 }
 
 // The array itself goes first: objects that end run native code.
@@ -234,15 +222,24 @@ void Array::destroyStrings() noexcept
 
 void Array::destroyPlain() noexcept
 {
-    if (hasPayload() && payload()->removeReference())
+    if (hasPayload()) [[unlikely]]
+        destroyPlainPayload();
+    else
+        freeHeader();
+}
+
+void Array::destroyPlainPayload() noexcept
+{
+    if (payload()->removeReference())
         payload()->free();
     freeHeader();
 }
 
-void Array::freeHeader() noexcept
+void Array::freeHeaderWithoutShare() noexcept
 {
-    --liveCountsOfThisThread().arrays;
-    ArrayMemory::giveBack(this);
+    ThreadShare& share = takeThreadShare();
+    --share.counts.arrays;
+    SmallMemory::giveBack(this, share);
 }
 
 } // namespace velmara

@@ -2,10 +2,9 @@
 
 #include "system/Object.hpp"
 #include "values/ArrayClass.hpp"
-#include "values/ArrayMemory.hpp"
 #include "values/InternedName.hpp"
-#include "values/LiveCounters.hpp"
 #include "values/Payload.hpp"
+#include "values/SmallMemory.hpp"
 #include "values/StringElement.hpp"
 
 #include "libhv/hvArray.hpp"
@@ -27,7 +26,7 @@ namespace velmara {
 /// `bad_alloc` without memory, and leave everything as it was.
 class Array final : public hvArray_tag {
 public:
-    /// Of the place in the array itself, in bytes: room for 20 characters.
+    /// Of the place in the array itself, in bytes.
     static constexpr std::size_t sizeOfPlace = 40;
 
     /// A new array of zeros, empty cells or missing strings, of any class but objects, with one reference.
@@ -45,13 +44,16 @@ public:
         return array;
     }
 
-    /// A new array of `size` characters, yet unwritten: one row, or 0-by-0 when there are none.
+    /// A new array of `size` characters: one row, or 0-by-0 when there are none. They are yet to be written to
+    /// `newText`.
     static Array* createText(std::size_t size)
     {
         if (size > sizeOfPlace / sizeof(char16_t))
             return createLongText(size);
         return createHeader(hvCHAR_CLASS, size != 0, size, nullptr);
     }
+
+    char16_t* newText() { return static_cast<char16_t*>(elements_); }
 
     /// A new array of a plain class with a copy of `elements`, which are as many as it has.
     static Array* createCopy(hvClassID classID, std::size_t rows, std::size_t columns, void const* elements);
@@ -96,7 +98,14 @@ public:
     StringElement& writableString(std::size_t index);
 
     /// Takes over the reference to `value`; null empties the cell.
-    void setCell(std::size_t index, Array* value);
+    void setCell(std::size_t index, Array* value)
+    {
+        bool const isFirst = value && !value->cellsAround_ && !cellsAround_ && value != this && !payload()->isShared();
+        if (!isFirst) [[unlikely]]
+            return setCellWithCare(index, value);
+        putCell(index, value);
+    }
+
     void setObject(std::size_t index, Object* object);
 
     /// Sets the one object of a 1-by-1 array of just its class, where none is yet; otherwise does nothing and gives
@@ -108,7 +117,7 @@ public:
     Array* shareData() const;
     Array* copyDeep() const;
 
-    void setTemporary(bool isTemporary);
+    void setTemporary(bool isTemporary) { flags_ = isTemporary ? flags_ | temporaryFlag : flags_ & ~temporaryFlag; }
 
     /// The place for an element in the array itself. Arrays of cells and of strings keep none there, so it is free for
     /// what is worked out about them.
@@ -137,7 +146,7 @@ private:
     /// An array whose elements, if it has any, stand in the array itself, and are yet to be written.
     static Array* createHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
 
-    /// The same where the thread has no memory kept, or does not count yet.
+    /// The same where the thread keeps no memory.
     static Array* createFirstHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
 
     /// Takes over `payload`, also when it throws.
@@ -150,6 +159,24 @@ private:
     bool hasPayload() const { return elements_ != place_; }
     Payload* payload() const { return Payload::of(elements_); }
     std::size_t elementSize() const { return arrayClass(classID_).elementSize; }
+    void setCellWithCare(std::size_t index, Array* value);
+
+    void putCell(std::size_t index, Array* value)
+    {
+        if (value) {
+            ++value->cellsAround_;
+            value->setTemporary(false);
+        }
+        if (Array* const old = std::exchange(cellSlots()[index], value)) [[unlikely]]
+            old->releaseFromCell();
+    }
+
+    void releaseFromCell() noexcept
+    {
+        --cellsAround_;
+        release();
+    }
+
     Array** cellSlots() { return static_cast<Array**>(elements_); }
     StringElement* stringSlots() const { return static_cast<StringElement*>(elements_); }
     Object** objectSlots() const { return static_cast<Object**>(elements_); }
@@ -173,7 +200,9 @@ private:
     void destroyObjects() noexcept;
     void destroyStrings() noexcept;
     void destroyPlain() noexcept;
+    [[gnu::noinline]] void destroyPlainPayload() noexcept;
     void freeHeader() noexcept;
+    void freeHeaderWithoutShare() noexcept;
 
     hvClassID classID_;
     std::uint32_t cellsAround_ = 0; ///< how many of the references are held by cells
@@ -183,16 +212,25 @@ private:
     alignas(8) mutable std::byte place_[sizeOfPlace]; ///< for elements that stand in the array itself
 };
 
-static_assert(sizeof(Array) == ArrayMemory::size);
+static_assert(sizeof(Array) == SmallMemory::size);
 
 inline Array* Array::createHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
 {
-    LiveCounts* const counts = shareOfThisThread;
-    void* const memory = counts ? ArrayMemory::takeKept() : nullptr;
+    ThreadShare* const share = shareOfThisThread;
+    void* const memory = share ? SmallMemory::takeKept(*share) : nullptr;
     if (!memory) [[unlikely]]
         return createFirstHeader(classID, rows, columns, objectClass);
-    ++counts->arrays;
+    ++share->counts.arrays;
     return new (memory) Array(classID, rows, columns, objectClass);
+}
+
+inline void Array::freeHeader() noexcept
+{
+    ThreadShare* const share = shareOfThisThread;
+    if (!share) [[unlikely]]
+        return freeHeaderWithoutShare();
+    --share->counts.arrays;
+    SmallMemory::giveBack(this, *share);
 }
 
 inline bool Array::takeFirstObject(std::size_t index, Object& object)

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "values/TextMemory.hpp"
+#include "values/copyUnits.hpp"
+
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 namespace velmara {
 
@@ -12,10 +16,29 @@ public:
     StringElement() : short_{} {}
 
     /// Throws `bad_alloc`.
-    explicit StringElement(std::u16string_view text);
+    explicit StringElement(std::u16string_view text)
+    {
+        if (text.size() > mostShort) [[unlikely]]
+            makeLong(text);
+        else
+            makeShort(text);
+    }
+
     StringElement(StringElement const& other);
-    StringElement& operator=(StringElement other) noexcept;
-    ~StringElement() { release(); }
+
+    StringElement& operator=(StringElement other) noexcept
+    {
+        swap(other);
+        return *this;
+    }
+
+    ~StringElement()
+    {
+        if (isLong()) [[unlikely]]
+            TextMemory::free(long_.text);
+    }
+
+    void swap(StringElement& other) noexcept { std::swap(bytes_, other.bytes_); }
 
     bool isMissing() const { return short_.tag == missing; }
 
@@ -58,20 +81,24 @@ private:
     };
 
     bool isLong() const { return short_.tag == longText; }
-    void makeShort(std::u16string_view text);
-    void makeLong(std::u16string_view text);
 
-    void release() noexcept
+    void makeShort(std::u16string_view text)
     {
-        if (isLong()) [[unlikely]]
-            freeLong();
+        short_.tag = static_cast<char16_t>(text.size() + 1);
+        copyUnits(text, short_.units);
+        short_.units[text.size()] = u'\0';
     }
 
-    void freeLong() noexcept;
+    void makeLong(std::u16string_view text);
+
+    struct Bytes {
+        alignas(8) std::byte bytes[32];
+    };
 
     union {
         Short short_;
         Long long_;
+        Bytes bytes_; ///< whichever it is
     };
 };
 

@@ -43,6 +43,23 @@ inline bool isSameFourChunks(std::string_view a, char const* b)
     return (differ(0) | differ(8) | differ(a.size() - 16) | differ(a.size() - 8)) == 0;
 }
 
+/// Shorter ones are common among type names.
+inline bool isTwoChunks(std::size_t length)
+{
+    return length - 8 < 9;
+}
+
+inline std::uint64_t hashTwoChunks(std::string_view text)
+{
+    return mixChunks(loadChunk(text.data()), loadChunk(text.data() + text.size() - 8) ^ text.size());
+}
+
+inline bool isSameTwoChunks(std::string_view a, char const* b)
+{
+    auto const differ = [a, b](std::size_t place) { return loadChunk(a.data() + place) ^ loadChunk(b + place); };
+    return (differ(0) | differ(a.size() - 8)) == 0;
+}
+
 /// The whole of a text of fewer than eight bytes. Different texts of one length give different chunks.
 inline std::uint64_t loadShort(char const* text, std::size_t length)
 {
@@ -63,6 +80,8 @@ inline bool isSameText(std::string_view a, std::string_view b)
         return false;
     if (a.size() < 8)
         return loadShort(a.data(), a.size()) == loadShort(b.data(), b.size());
+    if (isTwoChunks(a.size()))
+        return isSameTwoChunks(a, b.data());
     return isFourChunks(a.size()) ? isSameFourChunks(a, b.data()) : a == b;
 }
 
@@ -73,6 +92,8 @@ inline std::uint64_t hashText(std::string_view text)
         return hashFourChunks(text);
     if (text.size() < 8)
         return mixChunks(loadShort(text.data(), text.size()), text.size());
+    if (isTwoChunks(text.size()))
+        return hashTwoChunks(text);
     std::uint64_t hash = text.size();
     for (std::size_t place = 0; place + 8 < text.size(); place += 8)
         hash = mixChunks(loadChunk(text.data() + place), hash);

@@ -1,34 +1,14 @@
 #include "values/Utf.hpp"
 
-#include "libkwi18n/libkwi18n.hpp"
+#include "values/AsciiText.hpp"
 
-#include <algorithm>
-#include <cstdint>
-#include <cstring>
-#include <type_traits>
+#include "libkwi18n/libkwi18n.hpp"
 
 namespace velmara {
 
 namespace {
 
 constexpr char32_t replacement = 0xFFFD;
-
-/// The length of the run of ASCII at the start.
-template <class Char>
-std::size_t asciiRun(std::basic_string_view<Char> text)
-{
-    constexpr std::size_t unitsInChunk = 8 / sizeof(Char);
-    constexpr std::uint64_t beyondAscii = sizeof(Char) == 1 ? 0x8080808080808080 : 0xFF80FF80FF80FF80;
-    std::size_t run = 0;
-    for (std::uint64_t chunk; run + unitsInChunk <= text.size(); run += unitsInChunk) {
-        std::memcpy(&chunk, text.data() + run, sizeof chunk);
-        if (chunk & beyondAscii)
-            break;
-    }
-    while (run < text.size() && static_cast<std::make_unsigned_t<Char>>(text[run]) < 0x80)
-        ++run;
-    return run;
-}
 
 struct Utf8Lead {
     int following;     ///< bytes that follow; -1 when no sequence starts so
@@ -78,6 +58,7 @@ bool isLowSurrogate(char32_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
+/// Takes one character, or one ill-formed unit, off the front.
 char32_t take(std::u16string_view& text)
 {
     char32_t const unit = text.front();
@@ -88,6 +69,17 @@ char32_t take(std::u16string_view& text)
         return 0x10000 + ((unit - 0xD800) << 10 | (low - 0xDC00));
     }
     return isHighSurrogate(unit) || isLowSurrogate(unit) ? replacement : unit;
+}
+
+char16_t* write(char32_t character, char16_t* out)
+{
+    if (character < 0x10000) {
+        *out++ = static_cast<char16_t>(character);
+    } else {
+        *out++ = static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10));
+        *out++ = static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF));
+    }
+    return out;
 }
 
 /// Writes a character beyond ASCII.
@@ -117,7 +109,7 @@ std::size_t sizeAsUtf16(std::string_view utf8)
         std::size_t const run = asciiRun(utf8);
         utf8.remove_prefix(run);
         size += run;
-        if (!utf8.empty())
+        while (!utf8.empty() && !isAsciiUnit(utf8.front()))
             size += takeBeyondAscii(utf8) < 0x10000 ? 1 : 2;
     }
     return size;
@@ -127,17 +119,10 @@ char16_t* writeAsUtf16(std::string_view utf8, char16_t* out)
 {
     while (!utf8.empty()) {
         std::size_t const run = asciiRun(utf8);
-        out = std::copy_n(utf8.begin(), run, out);
+        out = copyAscii(utf8.substr(0, run), out);
         utf8.remove_prefix(run);
-        if (utf8.empty())
-            break;
-        char32_t const character = takeBeyondAscii(utf8);
-        if (character < 0x10000) {
-            *out++ = static_cast<char16_t>(character);
-        } else {
-            *out++ = static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10));
-            *out++ = static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF));
-        }
+        while (!utf8.empty() && !isAsciiUnit(utf8.front()))
+            out = write(takeBeyondAscii(utf8), out);
     }
     return out;
 }
@@ -149,10 +134,10 @@ std::size_t sizeAsUtf8(std::u16string_view utf16)
         std::size_t const run = asciiRun(utf16);
         utf16.remove_prefix(run);
         size += run;
-        if (utf16.empty())
-            break;
-        char32_t const character = take(utf16);
-        size += character < 0x800 ? 2 : character < 0x10000 ? 3 : 4;
+        while (!utf16.empty() && !isAsciiUnit(utf16.front())) {
+            char32_t const character = take(utf16);
+            size += character < 0x800 ? 2 : character < 0x10000 ? 3 : 4;
+        }
     }
     return size;
 }
@@ -161,9 +146,9 @@ char* writeAsUtf8(std::u16string_view utf16, char* out)
 {
     while (!utf16.empty()) {
         std::size_t const run = asciiRun(utf16);
-        out = std::transform(utf16.begin(), utf16.begin() + run, out, [](char16_t unit) { return char(unit); });
+        out = copyAscii(utf16.substr(0, run), out);
         utf16.remove_prefix(run);
-        if (!utf16.empty())
+        while (!utf16.empty() && !isAsciiUnit(utf16.front()))
             out = write(take(utf16), out);
     }
     return out;

@@ -9,10 +9,15 @@ using namespace velmara;
 
 namespace {
 
+[[noreturn, gnu::noinline]] void refuseClassID(hvClassID classID)
+{
+    throwHostError("VELMARA:array", "notNumeric", {std::to_string(classID)});
+}
+
 void requirePlain(hvClassID classID)
 {
-    if (!isPlain(classID))
-        throwHostError("VELMARA:array", "notNumeric", {std::to_string(classID)});
+    if (!isPlain(classID)) [[unlikely]]
+        refuseClassID(classID);
 }
 
 } // namespace

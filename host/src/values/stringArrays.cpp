@@ -16,7 +16,7 @@ void setString(hvArray_tag* strings, std::size_t index, std::u16string_view text
 {
     Array& array = requireString(strings, index);
     StringElement made(text); // first: the text may be an element's
-    array.writableString(index) = std::move(made);
+    array.writableString(index).swap(made);
 }
 
 void setMissing(hvArray_tag* strings, std::size_t index)

@@ -1,17 +1,16 @@
 #include "values/Array.hpp"
+#include "values/AsciiText.hpp"
 #include "values/TextMemory.hpp"
 #include "values/Utf.hpp"
+#include "values/copyUnits.hpp"
 
 #include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
 
-#include <algorithm>
-#include <cstdlib>
-
 namespace matrix::detail::noninlined::hv_array_api {
 
-using velmara::allocateText;
 using velmara::Array;
+using velmara::TextMemory;
 
 namespace {
 
@@ -20,13 +19,29 @@ bool isCharacters(hvArray_tag const* array)
     return array && Array::of(array)->classID() == hvCHAR_CLASS;
 }
 
+[[gnu::noinline]] hvArray* createBeyondAscii(std::string_view utf8)
+{
+    Array* const array = Array::createText(velmara::sizeAsUtf16(utf8));
+    velmara::writeAsUtf16(utf8, array->newText());
+    return array;
+}
+
+[[gnu::noinline]] char* writeBeyondAscii(std::u16string_view utf16)
+{
+    char* const text = TextMemory::allocate<char>(velmara::sizeAsUtf8(utf16));
+    velmara::writeAsUtf8(utf16, text);
+    return text;
+}
+
 } // namespace
 
 hvArray* hvCreateString(char const* text)
 {
     std::string_view const utf8 = text ? text : "";
-    Array* const array = Array::createText(velmara::sizeAsUtf16(utf8));
-    velmara::writeAsUtf16(utf8, static_cast<char16_t*>(array->writableElements()));
+    if (!velmara::isAscii(utf8)) [[unlikely]]
+        return createBeyondAscii(utf8);
+    Array* const array = Array::createText(utf8.size());
+    velmara::copyAscii(utf8, array->newText());
     return array;
 }
 
@@ -40,8 +55,10 @@ char* hvArrayToString(hvArray_tag const* array)
     if (!isCharacters(array))
         return nullptr;
     std::u16string_view const utf16 = Array::of(array)->text();
-    char* const text = allocateText<char>(velmara::sizeAsUtf8(utf16));
-    velmara::writeAsUtf8(utf16, text);
+    if (!velmara::isAscii(utf16)) [[unlikely]]
+        return writeBeyondAscii(utf16);
+    char* const text = TextMemory::allocate<char>(utf16.size());
+    velmara::copyAscii(utf16, text);
     return text;
 }
 
@@ -55,19 +72,19 @@ char16_t* hvArrayToString_UTF16(hvArray_tag const* array)
     if (!isCharacters(array))
         return nullptr;
     std::u16string_view const utf16 = Array::of(array)->text();
-    auto* const text = allocateText<char16_t>(utf16.size());
-    std::ranges::copy(utf16, text);
+    auto* const text = TextMemory::allocate<char16_t>(utf16.size());
+    velmara::copyUnits(utf16, text);
     return text;
 }
 
 void hvFree(void* text)
 {
-    std::free(text);
+    TextMemory::free(text);
 }
 
 void hvFreeEx(void* text)
 {
-    std::free(text);
+    TextMemory::free(text);
 }
 
 } // namespace matrix::detail::noninlined::hv_array_api
@@ -75,6 +92,6 @@ void hvFreeEx(void* text)
 hvArray* orbis::additions::createText(std::u16string_view text)
 {
     velmara::Array* const array = velmara::Array::createText(text.size());
-    std::ranges::copy(text, static_cast<char16_t*>(array->writableElements()));
+    velmara::copyUnits(text, array->newText());
     return array;
 }

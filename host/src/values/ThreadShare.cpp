@@ -1,4 +1,4 @@
-#include "values/LiveCounters.hpp"
+#include "values/ThreadShare.hpp"
 
 #include <mutex>
 
@@ -7,21 +7,19 @@
 namespace velmara {
 
 #if defined(_WIN32)
-constinit thread_local LiveCounts* shareOfThisThread = nullptr;
+constinit thread_local ThreadShare* shareOfThisThread = nullptr;
 #else
-constinit thread_local LiveCounts* shareOfThisThread [[gnu::tls_model("initial-exec")]] = nullptr;
+constinit thread_local ThreadShare* shareOfThisThread [[gnu::tls_model("initial-exec")]] = nullptr;
 #endif
 
 namespace {
 
-/// What a thread counted stays in the sum when it ends; the next thread counts on from there.
-struct alignas(64) Share {
-    LiveCounts counts;
+struct alignas(64) Share : ThreadShare {
     bool isTaken = true;
     Share* next = nullptr;
 };
 
-// Neither is ever freed: things may be counted until the very end of the process.
+// None is ever freed: things may be counted until the very end of the process.
 constinit Share* shares = nullptr;
 
 std::mutex& sharesMutex()
@@ -66,12 +64,12 @@ Share* findOrMakeShare()
 
 } // namespace
 
-LiveCounts& takeLiveCountsShare() noexcept
+ThreadShare& takeThreadShare() noexcept
 {
     Share* share = findOrMakeShare();
-    shareOfThisThread = &share->counts;
+    shareOfThisThread = share;
     keepUntilThreadEnd(share);
-    return share->counts;
+    return *share;
 }
 
 LiveCounts liveCounts()
