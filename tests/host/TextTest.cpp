@@ -6,6 +6,9 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <thread>
+#include <tuple>
+#include <vector>
 
 using namespace std::string_literals;
 using fl::i18n::to_string;
@@ -102,6 +105,59 @@ TEST_F(TextArrayTest, CharacterArraysHoldUtf16)
     EXPECT_EQ(hvArrayToString(cell.get()), nullptr);
     EXPECT_EQ(hvArrayToString_UTF16(cell.get()), nullptr);
     EXPECT_EQ(hvArray2String(nullptr), nullptr);
+}
+
+// ASCII is copied in blocks of several sizes: all lengths around them, and what is no ASCII at every place.
+TEST_F(TextArrayTest, TextOfEveryLengthIsWholeInBothForms)
+{
+    std::tuple<std::string, std::u16string, std::string> const others[] = {
+        {"", u"", ""},
+        {"\xC3\xA9", u"\xE9", "\xC3\xA9"},
+        {"\xF0\x9F\x98\x80", u"\xD83D\xDE00", "\xF0\x9F\x98\x80"},
+        {"\xE2\x82", u"\xFFFD", "\xEF\xBF\xBD"}};
+    std::string const letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
+    for (std::size_t size = 0; size <= letters.size(); ++size) {
+        for (std::size_t place = 0; place <= size; ++place) {
+            for (auto const& [given, utf16, utf8] : others) {
+                std::string const before = letters.substr(0, place), after = letters.substr(place, size - place);
+                std::u16string const wide =
+                    std::u16string(before.begin(), before.end()) + utf16 + std::u16string(after.begin(), after.end());
+                std::string const text = before + given + after;
+                EXPECT_EQ(to_ustring(text), wide) << text;
+                EXPECT_EQ(to_string(wide), before + utf8 + after);
+                velmara::ArrayPtr const array(hvCreateString(text.c_str())), same(hvCreateString_UTF16(wide.c_str()));
+                ASSERT_EQ(array->get_number_of_elements(), wide.size());
+                EXPECT_EQ(taken(hvArrayToString(same.get()), hvFreeEx), before + utf8 + after);
+                std::unique_ptr<char16_t, void (*)(void*)> const copy(hvArrayToString_UTF16(array.get()), hvFreeEx);
+                EXPECT_EQ(copy.get(), wide);
+            }
+        }
+    }
+}
+
+TEST_F(TextArrayTest, TextsAndArraysEndOnAnyThread)
+{
+    std::vector<velmara::ArrayPtr> arrays;
+    std::vector<char*> copies;
+    auto const make = [&] {
+        for (int i = 0; i < 3000; ++i) {
+            arrays.emplace_back(hvCreateString(std::to_string(i).c_str()));
+            copies.push_back(hvArrayToString(arrays.back().get()));
+        }
+    };
+    std::thread(make).join();
+    make();
+    EXPECT_EQ(velmara::liveCounts().arrays, 6000);
+    for (std::size_t i = 0; i < copies.size(); ++i)
+        EXPECT_EQ(taken(std::exchange(copies[i], nullptr), hvFreeEx), std::to_string(i % 3000));
+    std::thread([&] { arrays.clear(); }).join();
+    EXPECT_EQ(velmara::liveCounts().arrays, 0);
+    std::thread(make).join(); // in memory that was given back meanwhile
+    std::thread([&] {
+        for (char* const copy : copies)
+            hvFree(copy);
+    }).join();
+    arrays.clear();
 }
 
 TEST(TextTest, OutputIsTheSameOnEachSystem)
