@@ -10,6 +10,7 @@
 
 struct Boost {
     static constexpr char const* name = "tests.BoostShared";
+    static constexpr char const* derivedName = "tests.BoostSharedDerived";
     using Base = orbis::factory::full::Shareable;
     template <class T>
     using Info = orbis::factory::ShareableHandleClassInfo<T>;
@@ -20,6 +21,7 @@ struct Boost {
 
 struct Std {
     static constexpr char const* name = "tests.StdShared";
+    static constexpr char const* derivedName = "tests.StdSharedDerived";
     using Base = orbis::factory::full::StdShareable;
     template <class T>
     using Info = orbis::factory::StdShareableHandleClassInfo<T>;
@@ -42,7 +44,15 @@ struct Shared : Kind::Base {
     inline static int alive = 0;
 };
 
+/// Published below `Shared`.
+template <class Kind>
+struct SharedDerived : Shared<Kind> {};
+
 template <class Kind>
 struct orbis::factory::HostClass<Shared<Kind>> {
     static constexpr char const* name = Kind::name;
+};
+template <class Kind>
+struct orbis::factory::HostClass<SharedDerived<Kind>> {
+    static constexpr char const* name = Kind::derivedName;
 };

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "orbis/factory/RawClassPointerMarshaler.hpp"
 #include "orbis/factory/detail/Argument.hpp"
 #include "orbis/factory/impl/validateSelfPointer.hpp"
 
-#include <type_traits>
+#include <utility>
 
 namespace orbis::factory::detail {
 
@@ -26,22 +25,6 @@ COSValue toValue(F&& function)
     int outputCount = 1;
     storeResult<V>(outputCount, &value, std::forward<F>(function));
     return value;
-}
-
-template <class V>
-inline constexpr bool refersToObjects =
-    std::is_pointer_v<typename NativeType<V>::Type> && PublishedClass<MarshaledTypeOf<V>>;
-
-/// The host objects that a native value refers to.
-template <class V>
-Enumeration<COSInterface*> interfacesOf([[maybe_unused]] V const& value)
-{
-    if constexpr (refersToObjects<V>) {
-        using T = MarshaledTypeOf<V>;
-        if (value)
-            return RawClassPointerMarshaler::toCosi(MarshalerOf<V>::boundAddress(const_cast<T*>(value)));
-    }
-    return {};
 }
 
 } // namespace orbis::factory::detail

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/detail/PropertyValue.hpp"
+#include "orbis/factory/detail/ReferredObjects.hpp"
 #include "orbis/factory/impl/Getter.hpp"
 #include "orbis/factory/impl/ReleaseRoutine.hpp"
 
@@ -28,13 +29,13 @@ public:
 
     Enumeration<COSInterface*> getInterfaces(COSInterface* object) const override
     {
-        if constexpr (detail::refersToObjects<V>)
-            return detail::interfacesOf<V>(derived().read(object));
+        if constexpr (detail::ReferredObjects<V>::any)
+            return detail::ReferredObjects<V>::of(derived().read(object));
         else
             return {};
     }
 
-    bool canContainInterfaces() const override { return detail::refersToObjects<V>; }
+    bool canContainInterfaces() const override { return detail::ReferredObjects<V>::any; }
 
 private:
     Derived const& derived() const { return static_cast<Derived const&>(*this); }

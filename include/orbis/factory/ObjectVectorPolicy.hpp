@@ -1,0 +1,118 @@
+#pragma once
+
+#include "orbis/factory/InterfaceListEnumeration.hpp"
+#include "orbis/factory/MarshalingPolicy.hpp"
+#include "orbis/factory/detail/NewArray.hpp"
+#include "orbis/factory/detail/ReferredObjects.hpp"
+#include "orbis/factory/impl/validateSelfPointer.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace orbis::factory {
+
+/// `std::vector` of pointers to published objects: `std::vector<T*>` here, shared pointers with
+/// `sharedObjectVectors.hpp`. Each element crosses as it does alone; null elements are null in the host too.
+///
+/// To the host it is one row, typed as the class, or as the most specific class that all elements have in common where
+/// the class has published subclasses. From the host it is all elements of an array of any size, in column order; an
+/// object without a native object of the class is refused with the `null_self` error.
+class ObjectVectorPolicy {};
+
+template <>
+class Marshaler<ObjectVectorPolicy> {
+    template <class Vector>
+    using Element = typename Vector::value_type;
+
+    template <class Vector>
+    using Class = std::remove_const_t<typename std::pointer_traits<Element<Vector>>::element_type>;
+
+public:
+    template <class Vector>
+    static void toHost(Vector const& values, hvArray** out)
+    {
+        detail::NewArray row(omCreateORBISMatrix(1, values.size(), COSNameID(HostClass<Class<Vector>>::name)));
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            if (!values[i])
+                continue;
+            detail::NewArray scalar;
+            detail::MarshalerOf<Element<Vector>>::template toHost<detail::MarshaledTypeOf<Element<Vector>>>(
+                values[i], scalar.place());
+            omSetArrayElement(row.get(), i, omGetArrayElement(scalar.get(), 0));
+        }
+        if constexpr (detail::MarshalerOf<Class<Vector>*>::isHeterogeneous)
+            omSetClassOfHeterogeneousArray(row.get());
+        *out = row.release();
+    }
+
+    template <class Vector>
+    static Vector fromHost(hvArray_tag const* in)
+    {
+        Vector values;
+        if (!omIsORBIS(in)) // "[]" stands for no objects
+            return values;
+        std::size_t const count = in->get_number_of_elements();
+        values.reserve(count);
+        for (std::size_t i = 0; i < count; ++i) {
+            COSInterfacePtr const object = omGetArrayElement(in, i);
+            values.push_back(fromObject<Element<Vector>>(object));
+        }
+        return values;
+    }
+
+    template <class Vector>
+    static COSNameID dataTypeName()
+    {
+        return COSNameID(dataTypeText<Vector>());
+    }
+
+    template <class Vector>
+    static char const* dataTypeText()
+    {
+        static std::string const text = std::string(HostClass<Class<Vector>>::name) + " vector";
+        return text.c_str();
+    }
+
+private:
+    template <class Pointer>
+    static auto fromObject(COSInterface const* object)
+    {
+        auto element = detail::MarshalerOf<Pointer>::template fromObject<detail::MarshaledTypeOf<Pointer>>(object);
+        if (object && !element)
+            impl::validateSelfPointer(nullptr);
+        return element;
+    }
+};
+
+template <class T>
+    requires PublishedClass<std::remove_const_t<T>>
+struct MarshalingPolicy<std::vector<T*>> {
+    using Type = ObjectVectorPolicy;
+};
+
+namespace detail {
+
+/// A vector refers to the object of each of its pointers.
+template <class Vector>
+struct ReferredByElements {
+    static constexpr bool any = true;
+
+    static Enumeration<COSInterface*> of(Vector const& values)
+    {
+        std::vector<void const*> addresses;
+        for (auto const& value : values)
+            addresses.push_back(boundAddressOf(value));
+        return InterfaceListEnumeration::ofBound(addresses);
+    }
+};
+
+template <class T>
+    requires PublishedClass<std::remove_const_t<T>>
+struct ReferredObjects<std::vector<T*>> : ReferredByElements<std::vector<T*>> {};
+
+} // namespace detail
+} // namespace orbis::factory
