@@ -1,33 +1,58 @@
 #include "bench/CallScenarios.hpp"
+#include "bench/StringScenarios.hpp"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
+namespace {
+
+/// Runs a scenario that is a member function of its class.
+template <auto scenario, auto... arguments, class Scenarios>
+void runMember(void (Scenarios::*)(std::size_t), std::size_t count)
+{
+    Scenarios scenarios(arguments...);
+    (scenarios.*scenario)(count);
+    std::fflush(stdout);
+    std::_Exit(0); // what the end costs depends on the count, and is not asked for
+}
+
+template <auto scenario, auto... arguments>
+void run(std::size_t count)
+{
+    runMember<scenario, arguments...>(scenario, count);
+}
+
+} // namespace
+
 // Runs one scenario a number of times: `instructions SCENARIO COUNT`. Two runs of different counts under callgrind
 // give the instructions of one call: the difference over the difference.
 int main(int argc, char** argv)
 {
-    using Scenarios = bench::CallScenarios;
+    using Calls = bench::CallScenarios;
+    using Strings = bench::StringScenarios;
     struct Entry {
         char const* name;
-        void (Scenarios::*run)(std::size_t);
+        void (*run)(std::size_t);
     };
-    constexpr Entry entries[] = {{"function", &Scenarios::function},
-                                 {"member", &Scenarios::member},
-                                 {"handWritten", &Scenarios::handWritten},
-                                 {"dispatch", &Scenarios::dispatch},
-                                 {"announce", &Scenarios::announce}};
-    if (argc == 3) {
-        for (Entry const& entry : entries) {
-            if (std::strcmp(entry.name, argv[1]) == 0) {
-                Scenarios scenarios;
-                (scenarios.*entry.run)(std::strtoul(argv[2], nullptr, 10));
-                std::fflush(stdout);
-                std::_Exit(0); // what the end costs depends on the count, and is not asked for
-            }
-        }
+    constexpr Entry entries[] = {{"function", run<&Calls::function>},
+                                 {"member", run<&Calls::member>},
+                                 {"handWritten", run<&Calls::handWritten>},
+                                 {"dispatch", run<&Calls::dispatch>},
+                                 {"announce", run<&Calls::announce>},
+                                 {"stringIn", run<&Strings::stringIn, 1>},
+                                 {"stringOut", run<&Strings::stringOut, 1>},
+                                 {"vectorIn", run<&Strings::vectorIn, 1000>},
+                                 {"bareVectorIn", run<&Strings::bareVectorIn, 1000>},
+                                 {"vectorOut", run<&Strings::vectorOut, 1000>},
+                                 {"bareVectorOut", run<&Strings::bareVectorOut, 1000>}};
+    for (Entry const& entry : entries) {
+        if (argc == 3 && std::strcmp(entry.name, argv[1]) == 0)
+            entry.run(std::strtoul(argv[2], nullptr, 10));
     }
-    std::fprintf(stderr, "usage: instructions function|member|handWritten|dispatch|announce COUNT\n");
+    std::fprintf(stderr, "usage: instructions SCENARIO COUNT\nscenarios:");
+    for (Entry const& entry : entries)
+        std::fprintf(stderr, " %s", entry.name);
+    std::fprintf(stderr, "\n");
     return 2;
 }
