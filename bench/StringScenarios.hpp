@@ -2,6 +2,7 @@
 
 #include "orbis/factory/FunctionInfo.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/stringVectors.hpp"
 
 #include "velmara/ArrayPtr.hpp"
 #include "velmara/Hvm.hpp"
@@ -16,31 +17,41 @@ namespace bench {
 
 /// Strings of 12 characters in and out of native functions, through their `FunctionInfo`; each scenario is a loop over
 /// `count` calls. Results are given back inside the loop. Beside vectors stand the host calls and copies that any
-/// implementation must make.
+/// implementation must make. The narrow vectors are of `std::string`, whose 12 characters take no memory of their own.
 class StringScenarios {
     using COSValue = orbis::COSValue;
     using Strings = std::vector<fl::ustring>;
+    using Narrow = std::vector<std::string>;
 
 public:
-    explicit StringScenarios(std::size_t stringsInVector) : strings_(stringsInVector, u"twelve chars")
+    explicit StringScenarios(std::size_t stringsInVector)
+        : strings_(stringsInVector, u"twelve chars"),
+          narrow_(stringsInVector, "twelve chars")
     {
         auto const description = orbis::factory::describeFunctions()
                                      .function("in", [](std::string const& text) { keep(&text); })
                                      .function("out", [] { return std::string(twelve()); })
                                      .function("vectorIn", [](Strings const& strings) { keep(&strings); })
-                                     .function("vectorOut", []() -> Strings const& { return *result; });
-        orbis::factory::FunctionInfo* const functions[] = {&in_, &out_, &vectorIn_, &vectorOut_};
+                                     .function("vectorOut", []() -> Strings const& { return *result; })
+                                     .function("narrowIn", [](Narrow const& strings) { keep(&strings); })
+                                     .function("narrowOut", []() -> Narrow const& { return *narrowResult; });
+        orbis::factory::FunctionInfo* const functions[] = {&in_,        &out_,      &vectorIn_,
+                                                           &vectorOut_, &narrowIn_, &narrowOut_};
         for (std::size_t i = 0; i < std::size(functions); ++i) {
             functions[i]->method().invoker().invokeFn = description.functions()[i].invokeFn;
             functions[i]->method().invoker().setTarget(description.functions()[i].target);
         }
         result = &strings_;
+        narrowResult = &narrow_;
     }
 
     void stringIn(std::size_t count) { invoke(in_, COSValue(text_.get()), count); }
     void stringOut(std::size_t count) { invoke(out_, {}, count); }
     void vectorIn(std::size_t count) { invoke(vectorIn_, COSValue(cells_.get()), count); }
     void vectorOut(std::size_t count) { invoke(vectorOut_, {}, count); }
+
+    void narrowVectorIn(std::size_t count) { invoke(narrowIn_, COSValue(cells_.get()), count); }
+    void narrowVectorOut(std::size_t count) { invoke(narrowOut_, {}, count); }
 
     void bareVectorIn(std::size_t count)
     {
@@ -89,13 +100,17 @@ private:
     velmara::Hvm hvm_;
     velmara::Hvm::Scope scope_{hvm_};
     Strings strings_;
+    Narrow narrow_;
     velmara::ArrayPtr text_{hvCreateString("twelve chars")};
     velmara::ArrayPtr cells_{makeCells(strings_)};
     orbis::factory::FunctionInfo in_{"in", {}};
     orbis::factory::FunctionInfo out_{"out", {}};
     orbis::factory::FunctionInfo vectorIn_{"vectorIn", {}};
     orbis::factory::FunctionInfo vectorOut_{"vectorOut", {}};
+    orbis::factory::FunctionInfo narrowIn_{"narrowIn", {}};
+    orbis::factory::FunctionInfo narrowOut_{"narrowOut", {}};
     inline static Strings const* result = nullptr; ///< of the scenarios made last
+    inline static Narrow const* narrowResult = nullptr;
 };
 
 } // namespace bench

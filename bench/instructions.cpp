@@ -42,6 +42,8 @@ int main(int argc, char** argv)
                                  {"announce", run<&Calls::announce>},
                                  {"stringIn", run<&Strings::stringIn, 1>},
                                  {"stringOut", run<&Strings::stringOut, 1>},
+                                 {"narrowVectorIn", run<&Strings::narrowVectorIn, 1000>},
+                                 {"narrowVectorOut", run<&Strings::narrowVectorOut, 1000>},
                                  {"vectorIn", run<&Strings::vectorIn, 1000>},
                                  {"bareVectorIn", run<&Strings::bareVectorIn, 1000>},
                                  {"vectorOut", run<&Strings::vectorOut, 1000>},

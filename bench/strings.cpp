@@ -17,6 +17,8 @@ void run(benchmark::State& state, void (Scenarios::*scenario)(std::size_t))
 
 BENCHMARK_CAPTURE(run, stringIn, &Scenarios::stringIn)->Arg(1);
 BENCHMARK_CAPTURE(run, stringOut, &Scenarios::stringOut)->Arg(1);
+BENCHMARK_CAPTURE(run, narrowVectorIn, &Scenarios::narrowVectorIn)->Arg(1'000)->Arg(100'000);
+BENCHMARK_CAPTURE(run, narrowVectorOut, &Scenarios::narrowVectorOut)->Arg(1'000)->Arg(100'000);
 BENCHMARK_CAPTURE(run, vectorIn, &Scenarios::vectorIn)->Arg(1'000)->Arg(100'000);
 BENCHMARK_CAPTURE(run, bareVectorIn, &Scenarios::bareVectorIn)->Arg(1'000)->Arg(100'000);
 BENCHMARK_CAPTURE(run, vectorOut, &Scenarios::vectorOut)->Arg(1'000)->Arg(100'000);

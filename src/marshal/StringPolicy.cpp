@@ -5,6 +5,7 @@
 
 #include "libkwi18n/libkwi18n.hpp"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -12,18 +13,24 @@ namespace orbis::factory {
 
 namespace {
 
-bool isAscii(std::string_view text)
+template <class Chunk>
+bool hasBeyondAscii(char const* text)
 {
-    constexpr std::uint64_t beyondAscii = 0x8080808080808080;
-    std::uint64_t seen = 0;
-    std::uint64_t chunk;
-    for (; text.size() >= sizeof chunk; text.remove_prefix(sizeof chunk)) {
-        std::memcpy(&chunk, text.data(), sizeof chunk);
-        seen |= chunk;
+    Chunk chunk;
+    std::memcpy(&chunk, text, sizeof chunk);
+    return chunk & static_cast<Chunk>(0x8080808080808080);
+}
+
+/// Looks at chunks of eight bytes; the last one overlaps those before it.
+bool isAscii(char const* text, std::size_t size)
+{
+    if (size < 8)
+        return std::none_of(text, text + size, [](char c) { return hasBeyondAscii<unsigned char>(&c); });
+    for (std::size_t place = 0; place < size - 8; place += 8) {
+        if (hasBeyondAscii<std::uint64_t>(text + place))
+            return false;
     }
-    chunk = 0;
-    std::memcpy(&chunk, text.data(), text.size());
-    return ((seen | chunk) & beyondAscii) == 0;
+    return !hasBeyondAscii<std::uint64_t>(text + size - 8);
 }
 
 /// How many UTF-16 code units well-formed UTF-8 text has.
@@ -61,10 +68,10 @@ std::string Marshaler<StringPolicy>::read(hvArray* in)
     HostText<char> const text(hvArrayToString(in));
     if (!text)
         return fl::i18n::to_string(readStringScalar(in));
-    std::string_view const utf8(text.get());
-    if (utf8.size() == in->get_number_of_elements() && isAscii(utf8)) [[likely]]
-        return std::string(utf8);
-    return readAcrossZeros(in, utf8);
+    std::size_t const size = std::strlen(text.get());
+    if (size == in->get_number_of_elements() && isAscii(text.get(), size)) [[likely]]
+        return std::string(text.get(), size);
+    return readAcrossZeros(in, {text.get(), size});
 }
 
 } // namespace orbis::factory

@@ -4,8 +4,6 @@
 #include "orbis/factory/detail/NewArray.hpp"
 #include "orbis/factory/extractString.hpp"
 
-#include "marshal/HostText.hpp"
-
 #include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
 
@@ -54,8 +52,8 @@ void readCells(hvArray const* cells, Append append)
         hvArray const* const cell = additions::getCell(cells, i);
         if (!isOf(cell, hvCHAR_CLASS))
             errorMustBeString(i);
-        HostText<char16_t> const text(hvArrayToString_UTF16(cell));
-        append(fl::ustring(text.get(), cell->get_number_of_elements()));
+        auto const* const text = static_cast<char16_t const*>(additions::getData(cell));
+        append(text, cell->get_number_of_elements());
     }
 }
 
@@ -73,7 +71,7 @@ std::vector<fl::ustring> HostDataType<std::vector<fl::ustring>>::fromHost(hvArra
     std::vector<fl::ustring> strings;
     if (value) {
         strings.reserve(requireCells(value));
-        readCells(value, [&](fl::ustring&& text) { strings.push_back(std::move(text)); });
+        readCells(value, [&](char16_t const* text, std::size_t size) { strings.emplace_back(text, size); });
     }
     return strings;
 }
@@ -96,7 +94,7 @@ std::set<fl::ustring> HostDataType<std::set<fl::ustring>>::fromHost(hvArray* val
         for (fl::ustring& text : extractFromStringVector(value))
             insert(std::move(text));
     } else if (value) {
-        readCells(value, insert);
+        readCells(value, [&](char16_t const* text, std::size_t size) { insert(fl::ustring(text, size)); });
     }
     return strings;
 }
