@@ -65,7 +65,15 @@ public:
     ArrayPtr getStatic(std::string_view className, std::string_view property);
     void setStatic(std::string_view className, std::string_view property, hvArray_tag* value);
 
-    /// Ends the objects of an object array now: they become invalid and give up their native objects.
+    /// The object of an enumerator as a 1-by-1 array: the same object each time.
+    ArrayPtr getEnumerator(std::string_view className, std::string_view name);
+
+    /// Publishes an enumeration that no module has. Missing packages are made. Two names may have one value: they
+    /// mean the same enumerator, called by the first.
+    void defineEnumeration(std::string_view fullName, std::span<EnumeratorRecord const> enumerators);
+
+    /// Ends the objects of an object array now: they become invalid and give up their native objects. Enumerators are
+    /// refused.
     void deleteObjects(hvArray_tag* objects);
 
     NameKind lookUp(std::string_view fullName);

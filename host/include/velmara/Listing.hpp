@@ -2,6 +2,7 @@
 
 #include "orbis/access.hpp"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -45,13 +46,20 @@ struct PropertyRecord {
     std::string definingClass;
 };
 
+struct EnumeratorRecord {
+    std::string name;
+    std::int64_t value = 0;
+};
+
 struct ClassRecord {
     std::string name;
     std::string description;
     bool isHandle = true;
     bool isAbstract = false;
     bool isHidden = false;
-    std::vector<std::string> superclasses; ///< direct ones
+    bool isEnumeration = false;
+    std::vector<EnumeratorRecord> enumerators; ///< of an enumeration, in the order of description
+    std::vector<std::string> superclasses;     ///< direct ones
     std::vector<MethodRecord> methods; ///< constructors first, then in the order of description, inherited ones last
     std::vector<PropertyRecord> properties;
 };

@@ -46,7 +46,8 @@ Class::Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, HvmState& mac
       name_(name),
       ownName_(lastPart(name)),
       machine_(machine),
-      contents_(std::make_shared<ClassContents>())
+      contents_(std::make_shared<ClassContents>()),
+      isEnumeration_(info_->isEnumeration())
 {
 }
 
@@ -73,6 +74,9 @@ void Class::describe()
     info_->initializeClass(this);
     contents_->linearization = linearize(*this);
     contents_->tables = buildMemberTables(contents_->linearization);
+    if (isEnumeration_ && contents_->enumerators.empty())
+        throwHostError("VELMARA:enumeration", "empty", {text(name_)});
+    contents_->enumerators.makeObjects(*this);
 }
 
 void Class::dropContents()
@@ -114,6 +118,8 @@ int Class::distanceTo(Name ancestor) const
 void Class::setSuperclasses(std::span<orbis::COSNameID const> names)
 {
     requireOpen(name_);
+    if (isEnumeration_)
+        throwHostError("VELMARA:enumeration", "superclass", {text(name_)});
     std::vector<Class*> classes;
     for (orbis::COSNameID const& name : names) {
         Class* const cls = machine_.packages().findClass(name.interned()->view());
@@ -122,7 +128,7 @@ void Class::setSuperclasses(std::span<orbis::COSNameID const> names)
         cls->makeReady();
         if (!cls->isReady())
             throwHostError("VELMARA:class", "cycle", {text(name_), text(cls->name())});
-        if (cls->info().isSealed())
+        if (cls->info().isSealed() || cls->isEnumeration())
             throwHostError("VELMARA:class", "sealed", {text(name_), text(cls->name())});
         if (std::ranges::find(classes, cls) == classes.end())
             classes.push_back(cls);
@@ -143,6 +149,7 @@ orbis::COSInterfacePtr Class::newInstance()
     makeReady();
     if (!isReady())
         throwHostError("VELMARA:class", "notInitialized", {text(name_)});
+    requireNoEnumeration();
     return new Object(*this);
 }
 

@@ -26,6 +26,8 @@ public:
     orbis::COSClassInfo& info() const { return *info_; }
     ObjectList& objects() { return objects_; }
 
+    bool isEnumeration() const { return isEnumeration_; }
+
     /// True when the class is described completely; only then has it members and superclasses.
     bool isReady() const { return state_ == State::Ready; }
 
@@ -67,6 +69,12 @@ public:
     /// Takes the place of the direct superclasses while the class is being described.
     void setSuperclasses(std::span<orbis::COSNameID const> names);
 
+    /// Adds an enumerator while the class, an enumeration, is being described.
+    void addEnumerator(std::string_view name, std::int64_t value);
+
+    /// Throws "VELMARA:enumeration:noObjects" for an enumeration.
+    void requireNoEnumeration() const;
+
     char const* getName() const override { return ownName_->text; }
     void addMethod(orbis::COSMethodInfo* method) override;
     void addProperty(orbis::COSPropInfo* property) override;
@@ -80,6 +88,7 @@ private:
     void dropContents();
     void rebuildTables();
     void requireOpen(Name member) const;
+    void requireNoEnumerator(Name member) const;
     [[noreturn]] void refuseDuplicate(Name member) const;
 
     MethodGroup const* findOtherMethods(std::string_view name);
@@ -98,6 +107,7 @@ private:
     std::vector<Class*> subclasses_; ///< direct ones that are described or being described
     ObjectList objects_;
     State state_ = State::Untouched;
+    bool isEnumeration_;
     bool isLoading_ = false; ///< a class info was asked to load a member
 };
 

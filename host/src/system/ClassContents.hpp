@@ -1,5 +1,6 @@
 #pragma once
 
+#include "system/EnumeratorTable.hpp"
 #include "system/Method.hpp"
 #include "system/NameMap.hpp"
 #include "system/Property.hpp"
@@ -22,6 +23,7 @@ struct MemberTables {
 struct ClassContents {
     std::vector<std::unique_ptr<Method>> methods; ///< the class's own, in the order of description
     std::vector<std::unique_ptr<Property>> properties;
+    EnumeratorTable enumerators;
     std::vector<Class*> superclasses; ///< direct ones
 
     /// The class itself first, then its superclasses: each before its own superclasses.

@@ -1,11 +1,14 @@
 #include "system/ConvertedInputs.hpp"
 
+#include "system/Class.hpp"
 #include "system/ElementConversion.hpp"
 #include "system/HvmState.hpp"
 #include "system/PackageTree.hpp"
 #include "system/ScalarConversion.hpp"
 #include "system/TypeRepository.hpp"
 #include "system/emptyInput.hpp"
+#include "system/enumerationFit.hpp"
+#include "system/enumerationRefusal.hpp"
 #include "system/errorTranslation.hpp"
 #include "system/objectFit.hpp"
 #include "system/objectValidity.hpp"
@@ -116,7 +119,26 @@ Fit ConvertedInputs::addNamed(TypeReference const& type, hvArray_tag* input)
         return addRegistered(type, input);
     if (fit == noFit)
         fit = type.element ? objectVectorFit(type.element, array) : objectFit(type.name, array);
-    return fit;
+    return fit == noFit ? addEnumeration(type, input) : fit;
+}
+
+Fit ConvertedInputs::addEnumeration(TypeReference const& type, hvArray_tag* input)
+{
+    Class const* const enumeration = findEnumeration(type);
+    if (!enumeration || Array::of(input)->classID() == hvOBJECT_CLASS)
+        return noFit;
+    if (!type.element) {
+        Enumerator const* const found = findEnumerator(*enumeration, *Array::of(input));
+        if (found)
+            values_[count_] = orbis::COSValue(found->object.get());
+        return found ? convertedFit : noFit;
+    }
+    hvArray_tag* const converted = toEnumerators(*enumeration, *Array::of(input)).release();
+    if (!converted)
+        return noFit;
+    values_[count_] = orbis::COSValue(converted);
+    owned_[ownedCount_++] = {nullptr, values_[count_]};
+    return converted->get_number_of_elements() == 1 ? convertedFit - 1 : convertedFit;
 }
 
 Fit ConvertedInputs::addRegistered(TypeReference const& type, hvArray_tag* input)
@@ -199,6 +221,9 @@ std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
     }
     if (!machine.packages().findPublishedClass(type.element ? type.element : type.name))
         return "no data type or class " + wanted + " is known";
+    if (Class const* const enumeration = findEnumeration(type))
+        return type.element ? explainEnumeratorsRefusal(*enumeration, array)
+                            : explainEnumeratorRefusal(*enumeration, array);
     return "needs " + wanted + ", not " + given;
 }
 

@@ -61,6 +61,7 @@ private:
     Fit addElements(TypeReference const& type, hvArray_tag* input);
     Fit addOptional(TypeReference const& type, hvArray_tag* input);
     Fit addNamed(TypeReference const& type, hvArray_tag* input);
+    Fit addEnumeration(TypeReference const& type, hvArray_tag* input);
     Fit addRegistered(TypeReference const& type, hvArray_tag* input);
     void makeRoom(std::size_t capacity);
     void giveBack();

@@ -16,6 +16,11 @@ Object::Object(Class& cls) : own_{.className = cls.name()}, class_(&cls), machin
     ++liveCountsOfThisThread().objects;
 }
 
+Object::Object(Class& cls, std::size_t enumerator) : Object(cls)
+{
+    enumerator_ = static_cast<std::uint16_t>(enumerator + 1);
+}
+
 Object::~Object()
 {
     --liveCountsOfThisThread().objects;

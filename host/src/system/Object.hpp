@@ -5,6 +5,7 @@
 #include "orbis/COSInterface.hpp"
 
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 namespace velmara {
@@ -20,6 +21,11 @@ public:
     /// A new object of `cls` with no reference yet, entered in the class's list. It has no instance data until
     /// `initialize`.
     explicit Object(Class& cls);
+
+    /// The object of an enumerator of `cls`: it is never initialized, so it has no instance data.
+    Object(Class& cls, std::size_t enumerator);
+
+    static constexpr std::size_t mostEnumerators = std::numeric_limits<std::uint16_t>::max();
 
     void addExternal() { ++external_; }
     void addInternal() { ++internal_; }
@@ -51,6 +57,12 @@ public:
     HvmState* machine() const { return machine_; }
 
     bool isValid() const { return state_ == State::Valid; }
+
+    /// Enumerators are one object each, which scripts neither make nor end.
+    bool isEnumerator() const { return enumerator_ != 0; }
+
+    /// The number of the enumerator in its class's table.
+    std::size_t enumerator() const { return enumerator_ - std::size_t(1); }
 
     /// True when the object's life is over: weak handles to it are null.
     bool isEnded() const { return state_ >= State::Ending; }
@@ -100,6 +112,7 @@ private:
     std::int32_t weak_ = 0;
     State state_ = State::Valid;
     bool isInitialized_ = false;
+    std::uint16_t enumerator_ = 0; ///< its number counted from 1, 0 for other objects
     Slot own_;
     Class* class_;
     HvmState* machine_;

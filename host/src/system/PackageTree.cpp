@@ -149,6 +149,13 @@ void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info, Package& p
     record([&package, &cls] { package.remove(cls); });
 }
 
+void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info)
+{
+    requireFree(info->getName());
+    Package& package = findOrMake(splitLast(info->getName()).first);
+    addClass(std::move(info), package);
+}
+
 namespace {
 
 /// Parents that were made only to hold others go with the last of them. All but the top level have a parent.

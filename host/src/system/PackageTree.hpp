@@ -34,6 +34,9 @@ public:
 
     void addPackage(std::unique_ptr<orbis::COSPackageInfo> info, std::string_view fullName);
     void addClass(std::unique_ptr<orbis::COSClassInfo> info, Package& package);
+
+    /// Adds the class to the package that its name tells, which is made when there is none.
+    void addClass(std::unique_ptr<orbis::COSClassInfo> info);
     void removePackage(Name fullName);
 
     void endAllObjects();

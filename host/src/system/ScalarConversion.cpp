@@ -69,20 +69,6 @@ constexpr ConverterRow makeRow()
 template <class T>
 constexpr ConverterRow rowTo = makeRow<T>();
 
-std::string textOf(Array const& input)
-{
-    return withScalarType(input.classID(), [&]<class T>(T) {
-        char text[32];
-        T const number = *static_cast<T const*>(input.elements());
-        if constexpr (std::same_as<T, bool>)
-            return std::string(number ? "true" : "false");
-        else if (std::floating_point<T> && std::isnan(static_cast<double>(number)))
-            return std::string("NaN"); // its sign means nothing
-        else
-            return std::string(text, std::to_chars(text, text + sizeof text, number).ptr);
-    });
-}
-
 std::string rangeText(hvClassID target)
 {
     return withScalarType(target, []<class T>(T) {
@@ -98,13 +84,27 @@ ScalarConverter const* scalarConverters(hvClassID target)
     return withScalarType(target, []<class T>(T) { return rowTo<T>.data(); });
 }
 
+std::string numberText(Array const& input, std::size_t index)
+{
+    return withScalarType(input.classID(), [&]<class T>(T) {
+        char text[32];
+        T const number = static_cast<T const*>(input.elements())[index];
+        if constexpr (std::same_as<T, bool>)
+            return std::string(number ? "true" : "false");
+        else if (std::floating_point<T> && std::isnan(static_cast<double>(number)))
+            return std::string("NaN"); // its sign means nothing
+        else
+            return std::string(text, std::to_chars(text, text + sizeof text, number).ptr);
+    });
+}
+
 std::string explainScalarRefusal(hvClassID target, Array const& input)
 {
     std::string const targetName(arrayClass(target).name);
     if (input.rows() != 1 || input.columns() != 1)
         return "needs one value, not " + std::to_string(input.rows()) + "-by-" + std::to_string(input.columns());
     if (target == hvLOGICAL_CLASS)
-        return isNumeric(input.classID()) ? "needs true, false, 0 or 1, not " + textOf(input)
+        return isNumeric(input.classID()) ? "needs true, false, 0 or 1, not " + numberText(input)
                                           : "needs a logical, not " + std::string(input.className());
     if (!isNumeric(input.classID()))
         return "needs a number, not " + std::string(input.className());
@@ -115,12 +115,12 @@ std::string explainScalarRefusal(hvClassID target, Array const& input)
     });
     bool const isIntegerTarget = target >= hvINT8_CLASS && target <= hvUINT64_CLASS;
     if (isIntegerTarget && isReal && std::isfinite(converted) && !isWhole(converted))
-        return textOf(input) + " is no whole number";
+        return numberText(input) + " is no whole number";
     if (isIntegerTarget)
-        return textOf(input) + " is not in the range " + rangeText(target);
+        return numberText(input) + " is not in the range " + rangeText(target);
     if (target == hvSINGLE_CLASS && isReal && !isWhole(converted))
-        return textOf(input) + " is not in the range of single";
-    return textOf(input) + " cannot be represented exactly as " + targetName;
+        return numberText(input) + " is not in the range of single";
+    return numberText(input) + " cannot be represented exactly as " + targetName;
 }
 
 } // namespace velmara

@@ -22,6 +22,9 @@ using ScalarConverter = Fit (*)(Array const& input, orbis::COSValue& out);
 /// The converters to the class `target`, a numeric or logical one, by the class of the input.
 ScalarConverter const* scalarConverters(hvClassID target);
 
+/// An element of a numeric or logical array, as messages write it.
+std::string numberText(Array const& input, std::size_t index = 0);
+
 /// Why the array is refused: "2.5 is no whole number".
 std::string explainScalarRefusal(hvClassID target, Array const& input);
 

@@ -65,9 +65,12 @@ ArrayPtr callPackageFunction(HvmState& machine, std::string_view fullName, Input
 void endObjects(HvmState& machine, hvArray_tag* array)
 {
     requireObjectArray(array);
-    for (Object const* const object : Array::of(array)->objects())
+    for (Object const* const object : Array::of(array)->objects()) {
         if (object && object->machine() && object->machine() != &machine)
             refuseObject(*object);
+        if (object && object->isEnumerator())
+            throwHostError("VELMARA:enumeration", "noDelete", {std::string(object->className()->view())});
+    }
     // Ending runs native code, which may write to the array: the objects are held and counted apart from it.
     ArrayPtr const held(Array::of(array)->shareData());
     for (std::size_t i = 0; i < Array::of(held.get())->size(); ++i)

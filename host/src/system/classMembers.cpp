@@ -20,10 +20,17 @@ void Class::refuseDuplicate(Name member) const
     throwHostError("VELMARA:class", "duplicateMember", {std::string(name_->view()), std::string(member->view())});
 }
 
+void Class::requireNoEnumerator(Name member) const
+{
+    if (contents_->enumerators.find(member->view()))
+        refuseDuplicate(member);
+}
+
 void Class::addMethod(orbis::COSMethodInfo* method)
 {
     auto added = std::make_unique<Method>(std::unique_ptr<orbis::COSMethodInfo>(method), this);
     requireOpen(added->name);
+    requireNoEnumerator(added->name);
     auto const isSame = [&added](auto const& other) {
         return other->name == added->name && other->isConstructor == added->isConstructor &&
                other->hasSameInputs(*added);
@@ -39,6 +46,7 @@ void Class::addProperty(orbis::COSPropInfo* property)
 {
     auto added = std::make_unique<Property>(std::unique_ptr<orbis::COSPropInfo>(property), *this);
     requireOpen(added->name);
+    requireNoEnumerator(added->name);
     auto const nameOf = [](auto const& member) { return member->name; };
     if (std::ranges::find(contents_->properties, added->name, nameOf) != contents_->properties.end() ||
         std::ranges::find(contents_->methods, added->name, nameOf) != contents_->methods.end())

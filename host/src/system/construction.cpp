@@ -37,6 +37,7 @@ ArrayPtr invokeConstructor(Class& cls, Method const& constructor, ConvertedInput
 void requireConstructible(Class const& cls)
 {
     std::string const name(cls.name()->view());
+    cls.requireNoEnumeration();
     if (cls.info().classIsAbstract() || cls.info().isAbstract())
         throwHostError("VELMARA:class", "abstract", {name});
     if (cls.info().getAccess() != orbis::ClassAccess::Public)

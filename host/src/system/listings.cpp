@@ -142,6 +142,9 @@ ClassRecord describeClass(HvmState& machine, std::string_view fullName)
     listed.isHandle = info.isHandle();
     listed.isAbstract = info.classIsAbstract();
     listed.isHidden = info.isHidden();
+    listed.isEnumeration = cls.isEnumeration();
+    for (auto const& [name, value] : cls.contents().enumerators.entries())
+        listed.enumerators.push_back({text(name), value});
     for (Class const* const superclass : cls.contents().superclasses)
         listed.superclasses.push_back(text(superclass->name()));
     addMembers(cls, listed);

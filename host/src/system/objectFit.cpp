@@ -26,6 +26,13 @@ Fit classFit(Name className, Name ancestor)
     return machine ? hierarchyFit(machine->packages().findPublishedClass(className), ancestor) : noFit;
 }
 
+bool isEnumeration(Name className)
+{
+    HvmState* const machine = HvmState::current();
+    Class const* const cls = machine ? machine->packages().findClass(className) : nullptr;
+    return cls && cls->isEnumeration();
+}
+
 Fit emptyFit(Array const& input)
 {
     return isNothing(input) ? convertedFit : noFit;
@@ -35,21 +42,24 @@ Fit emptyFit(Array const& input)
 
 Fit objectFit(Name className, Array const& input)
 {
-    if (input.classID() != hvOBJECT_CLASS)
-        return emptyFit(input);
-    Object const* const first = input.size() == 0 ? nullptr : input.objects().front();
+    Object const* const first =
+        input.classID() == hvOBJECT_CLASS && input.size() != 0 ? input.objects().front() : nullptr;
+    if ((!first || input.size() != 1) && isEnumeration(className))
+        return noFit;
     if (!first)
-        return classFit(input.objectClass(), className);
+        return input.classID() == hvOBJECT_CLASS ? classFit(input.objectClass(), className) : emptyFit(input);
     return first->className() == className ? exactFit : hierarchyFit(first->classOf(), className);
 }
 
 Fit objectVectorFit(Name element, Array const& input)
 {
     if (input.classID() != hvOBJECT_CLASS)
-        return emptyFit(input);
+        return isEnumeration(element) ? noFit : emptyFit(input);
+    if (std::ranges::count(input.objects(), nullptr) != 0 && isEnumeration(element))
+        return noFit;
     Fit const fit = classFit(input.objectClass(), element);
     if (fit != noFit || input.size() == 0)
-        return fit;
+        return input.size() == 1 ? fit - 1 : fit;
     bool const allFit = std::ranges::all_of(input.objects(), [element](Object const* object) {
         return !object || object->className() == element || hierarchyFit(object->classOf(), element) != noFit;
     });

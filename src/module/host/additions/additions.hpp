@@ -1,8 +1,10 @@
 #pragma once
 
 #include "libhv/hvArray.hpp"
+#include "orbis/COSInterfacePtr.hpp"
 #include "orbis/COSNameID.hpp"
 
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -43,6 +45,24 @@ ORBIS_HOST_API hvArray_tag const* getCell(hvArray_tag const* cells, std::size_t 
 /// Names the direct superclasses of a class while it is being initialised. They must be published; a class that
 /// would become its own superclass is refused.
 ORBIS_HOST_API void setSuperclasses(COSClass* cls, std::span<COSNameID const> superclasses);
+
+/// Adds an enumerator to a class that is an enumeration (`COSClassInfo::isEnumeration`) while it is being initialised.
+/// A name that is taken is refused. Two names may have one value: they mean the same enumerator, called by the first.
+ORBIS_HOST_API void addEnumerator(COSClass* cls, char const* name, std::int64_t value);
+
+/// The object of an enumerator, one in each virtual machine, so that enumerators are compared by identity; empty when
+/// there is no such enumeration, or no such enumerator in it.
+ORBIS_HOST_API COSInterfacePtr getEnumerator(COSNameID const& className, char const* name);
+
+/// What an enumerator is.
+struct Enumerator {
+    char const* name; ///< the first of its names; lives as long as the program
+    std::int64_t value;
+    std::size_t position; ///< how many names were added before its own
+};
+
+/// The enumerator that an object (null allowed) stands for, while its class is published; null for other objects.
+ORBIS_HOST_API Enumerator const* describeEnumerator(COSInterface const* object);
 
 /// A key and its text, in which {0}, {1}, ... stand for the arguments.
 struct Message {

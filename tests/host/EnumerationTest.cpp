@@ -1,0 +1,335 @@
+#include "HvmTest.hpp"
+#include "host/TestDescriptors.hpp"
+
+#include "libkwi18n/libkwi18n.hpp"
+
+#include <limits>
+
+using namespace orbis::additions;
+using orbis::COSClass;
+using orbis::COSInterfacePtr;
+using velmara::ArrayPtr;
+
+namespace {
+
+struct Enumeration final : described::Class {
+    using Class::Class;
+    bool isEnumeration() const override { return true; }
+};
+
+void addColors(COSClass* cls)
+{
+    addEnumerator(cls, "Red", 1);
+    addEnumerator(cls, "Grün", -5);
+    addEnumerator(cls, "Crimson", 1);
+    addEnumerator(cls, "Blue", std::int64_t(1) << 40);
+}
+
+/// The names of the enumerators that a call is given.
+void giveNames(described::Call const& call)
+{
+    std::string names;
+    hvArray_tag const* const array = call.inputs[0].array();
+    for (std::size_t i = 0; i < array->get_number_of_elements(); ++i)
+        names += std::string(describeEnumerator(orbis::omGetArrayElement(array, i))->name) + ' ';
+    call.give(orbis::COSValue(hvCreateString(names.c_str())));
+}
+
+/// Package "t" with the enumeration "t.Color", functions that name what they are given, and overloads that name
+/// the type that was chosen.
+class EnumerationTest : public HvmTest {
+protected:
+    EnumerationTest() { publish("t"); }
+
+    static void publish(char const* name)
+    {
+        orbis::COSPackage::addPackage(new described::Package(name, [name](orbis::COSPackage* package) {
+            package->addFunction(new described::Method("one", "char", {"t.Color"}, giveNames));
+            package->addFunction(new described::Method("many", "char", {"t.Color vector"}, giveNames));
+            for (char const* type : {"t.Color", "t.Color vector", "double scalar", "any"})
+                package->addFunction(
+                    new described::Method("chosen", "char", {type}, [type](described::Call const& call) {
+                        call.give(orbis::COSValue(hvCreateString(type)));
+                    }));
+            package->addClass(new Enumeration(std::string(name) + ".Color", addColors));
+            package->addClass(new described::Class(std::string(name) + ".Other"));
+        }));
+    }
+
+    static ArrayPtr text(char16_t const* text) { return ArrayPtr(hvCreateString_UTF16(text)); }
+
+    template <class T>
+    static ArrayPtr numbers(hvClassID classID, std::vector<T> const& values)
+    {
+        ArrayPtr array(createMatrix(1, values.size(), classID));
+        std::ranges::copy(values, static_cast<T*>(getWritableData(array.get())));
+        return array;
+    }
+
+    static ArrayPtr doubles(std::vector<double> const& values) { return numbers(hvDOUBLE_CLASS, values); }
+    static ArrayPtr nothing() { return ArrayPtr(createMatrix(0, 0, hvDOUBLE_CLASS)); }
+
+    /// Null is a missing string.
+    static ArrayPtr strings(std::vector<char16_t const*> const& texts)
+    {
+        ArrayPtr array(createStringMatrix(texts.size(), 1));
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            if (texts[i])
+                setString(array.get(), i, texts[i]);
+        return array;
+    }
+
+    template <class... A>
+    static ArrayPtr cells(A... contents)
+    {
+        ArrayPtr array(hvCreateCellMatrix(1, sizeof...(A)));
+        std::size_t i = 0;
+        (hvSetCell(array.get(), i++, contents.release()), ...);
+        return array;
+    }
+
+    static ArrayPtr objects(std::vector<char const*> const& names, char const* className = "t.Color")
+    {
+        ArrayPtr array(orbis::omCreateORBISMatrix(1, names.size(), className));
+        for (std::size_t i = 0; i < names.size(); ++i)
+            if (names[i])
+                orbis::omSetArrayElement(array.get(), i, getEnumerator(className, names[i]));
+        return array;
+    }
+
+    /// What the function gives for the input, or why it refuses it.
+    std::string answer(char const* function, ArrayPtr const& input)
+    {
+        hvArray* const inputs[] = {input.get()};
+        try {
+            char* const given = hvArrayToString(hvm().callFunction(function, inputs).get());
+            std::string const answer = given ? given : "";
+            hvFreeEx(given);
+            return answer;
+        } catch (velmara::Error const& error) {
+            std::string const text = error.what();
+            std::size_t const reason = text.find(": a: ");
+            return reason == text.npos ? text : text.substr(reason + 5);
+        }
+    }
+};
+
+std::string const refusal = "needs one of Red, Grün, Crimson, Blue, not ";
+
+} // namespace
+
+TEST_F(EnumerationTest, ObjectsTextAndNumbersMeanEnumerators)
+{
+    double const nan = std::numeric_limits<double>::quiet_NaN();
+    struct Case {
+        ArrayPtr input;
+        std::string one;
+        std::string many; // as for one where it is empty
+    };
+    Case cases[] = {
+        {objects({"Blue"}), "Blue ", ""},
+        {objects({"Crimson"}), "Red ", ""},
+        {text(u"Red"), "Red ", ""},
+        {text(u"Grün"), "Grün ", ""},
+        {strings({u"Crimson"}), "Red ", ""},
+        {doubles({1}), "Red ", ""},
+        {numbers<std::int8_t>(hvINT8_CLASS, {-5}), "Grün ", ""},
+        {numbers<std::uint64_t>(hvUINT64_CLASS, {std::uint64_t(1) << 40}), "Blue ", ""},
+        {numbers<float>(hvSINGLE_CLASS, {-5}), "Grün ", ""},
+        {text(u"red"), refusal + "'red'", ""},
+        {text(u"Re"), refusal + "'Re'", ""},
+        {text(u"a name that is longer than any"), refusal + "'a name that is longer than any'", ""},
+        {text(u""), refusal + "''", ""},
+        {strings({u"Purple"}), refusal + "'Purple'", "element 0 (counted from 0): " + refusal + "'Purple'"},
+        {strings({nullptr}), refusal + "a missing string",
+         "element 0 (counted from 0): " + refusal + "a missing string"},
+        {doubles({7}), refusal + "7", "element 0 (counted from 0): " + refusal + "7"},
+        {doubles({1.5}), refusal + "1.5", "element 0 (counted from 0): " + refusal + "1.5"},
+        {doubles({1e19}), refusal + "1e+19", "element 0 (counted from 0): " + refusal + "1e+19"},
+        {doubles({nan}), refusal + "NaN", "element 0 (counted from 0): " + refusal + "NaN"},
+        {numbers<std::uint64_t>(hvUINT64_CLASS, {std::uint64_t(-5)}), refusal + "18446744073709551611",
+         "element 0 (counted from 0): " + refusal + "18446744073709551611"},
+        {numbers<bool>(hvLOGICAL_CLASS, {true}), refusal + "logical 1-by-1", ""},
+        {objects({"Red", "Blue"}), refusal + "t.Color 1-by-2", "Red Blue "},
+        {objects({}), refusal + "t.Color 1-by-0", " "},
+        {objects({nullptr}), refusal + "t.Color 1-by-1", ""},
+        {objects({"Red", nullptr}), refusal + "t.Color 1-by-2", ""},
+        {objects({nullptr}, "t.Other"), refusal + "t.Other 1-by-1", ""},
+        {nothing(), refusal + "double 0-by-0", " "},
+        {doubles({1, -5}), refusal + "double 1-by-2", "Red Grün "},
+        {doubles({1, 2}), refusal + "double 1-by-2", "element 1 (counted from 0): " + refusal + "2"},
+        {strings({u"Red", u"Grün"}), refusal + "string 2-by-1", "Red Grün "},
+        {strings({u"Red", nullptr}), refusal + "string 2-by-1",
+         "element 1 (counted from 0): " + refusal + "a missing string"},
+        {cells(text(u"Blue"), objects({"Red"}), doubles({1}), strings({u"Crimson"})), refusal + "cell 1-by-4",
+         "Blue Red Red Red "},
+        {cells(text(u"Blue"), ArrayPtr()), refusal + "cell 1-by-2",
+         "element 1 (counted from 0): " + refusal + "an empty cell"},
+        {cells(cells(text(u"Red"))), refusal + "cell 1-by-1", "element 0 (counted from 0): " + refusal + "cell 1-by-1"},
+        {cells(objects({nullptr})), refusal + "cell 1-by-1",
+         "element 0 (counted from 0): " + refusal + "t.Color 1-by-1"},
+    };
+    for (Case const& c : cases) {
+        EXPECT_EQ(answer("t.one", c.input), c.one);
+        EXPECT_EQ(answer("t.many", c.input) + (c.many == " " ? " " : ""), c.many.empty() ? c.one : c.many) << c.one;
+    }
+}
+
+TEST_F(EnumerationTest, TheBestFitIsChosen)
+{
+    std::pair<ArrayPtr, char const*> cases[] = {{objects({"Red"}), "t.Color"},
+                                                {objects({"Red", "Red"}), "t.Color vector"},
+                                                {text(u"Red"), "t.Color"},
+                                                {text(u"Purple"), "any"},
+                                                {doubles({1}), "double scalar"},
+                                                {numbers<std::int8_t>(hvINT8_CLASS, {9}), "double scalar"},
+                                                {strings({u"Red"}), "t.Color"},
+                                                {strings({u"Red", u"Blue"}), "t.Color vector"},
+                                                {cells(text(u"Red")), "t.Color vector"},
+                                                {objects({}), "t.Color vector"}};
+    for (auto const& [input, chosen] : cases)
+        EXPECT_EQ(answer("t.chosen", input), chosen);
+}
+
+TEST_F(EnumerationTest, OneObjectForEachEnumeratorAndMachine)
+{
+    COSInterfacePtr const red = getEnumerator("t.Color", "Red");
+    ArrayPtr const again = hvm().getEnumerator("t.Color", "Crimson");
+    EXPECT_EQ(orbis::omGetArrayElement(again.get(), 0), static_cast<orbis::COSInterface*>(red));
+    EXPECT_NE(getEnumerator("t.Color", "Blue"), static_cast<orbis::COSInterface*>(red));
+    EXPECT_EQ(getEnumerator("t.Color", "Purple"), nullptr);
+    EXPECT_EQ(getEnumerator("t.Other", "Red"), nullptr);
+    EXPECT_EQ(getEnumerator("t.None", "Red"), nullptr);
+    EXPECT_EQ(errorOf([&] { hvm().getEnumerator("t.Color", "Purple"); }), "VELMARA:enumeration:unknown");
+    EXPECT_EQ(errorOf([&] { hvm().getEnumerator("t.Other", "Red"); }), "VELMARA:enumeration:notEnumeration");
+    EXPECT_EQ(describeEnumerator(nullptr), nullptr);
+    ArrayPtr const other = hvm().construct("t.Other");
+    EXPECT_EQ(describeEnumerator(orbis::omGetArrayElement(other.get(), 0)), nullptr);
+    Enumerator const& blue = *describeEnumerator(getEnumerator("t.Color", "Blue"));
+    EXPECT_EQ(std::pair(blue.value, blue.position), std::pair(std::int64_t(1) << 40, std::size_t(3)));
+
+    velmara::Hvm second;
+    ArrayPtr foreign;
+    {
+        velmara::Hvm::Scope const scope(second);
+        publish("t");
+        foreign = second.getEnumerator("t.Color", "Red");
+        EXPECT_FALSE(velmara::isSameObject(foreign.get(), again.get()));
+    }
+    EXPECT_EQ(answer("t.many", cells(ArrayPtr(hvCreateSharedDataCopy(foreign.get())))),
+              "element 0 (counted from 0): " + refusal + "t.Color 1-by-1");
+    hvArray* const inputs[] = {foreign.get()};
+    EXPECT_EQ(errorOf([&] { hvm().callFunction("t.one", inputs); }), "VELMARA:object:otherVirtualMachine");
+}
+
+TEST_F(EnumerationTest, EndsWithItsClass)
+{
+    COSInterfacePtr const red = getEnumerator("t.Color", "Red");
+    ArrayPtr const held = hvm().getEnumerator("t.Color", "Red");
+    orbis::COSPackage::removePackage("t");
+    EXPECT_FALSE(velmara::isValid(held.get()));
+    EXPECT_EQ(describeEnumerator(red), nullptr);
+    publish("t");
+    EXPECT_EQ(answer("t.one", text(u"Red")), "Red ");
+    hvArray* const inputs[] = {held.get()};
+    EXPECT_EQ(errorOf([&] { hvm().callFunction("t.one", inputs); }), "VELMARA:object:invalid");
+    COSInterfacePtr const last = getEnumerator("t.Color", "Red");
+    endHvm();
+    EXPECT_EQ(describeEnumerator(last), nullptr);
+}
+
+TEST_F(EnumerationTest, NoObjectsAreMadeOrEnded)
+{
+    EXPECT_EQ(errorOf([&] { hvm().construct("t.Color"); }), "VELMARA:enumeration:noObjects");
+    EXPECT_ANY_THROW(COSClass::getClass("t.Color")->newInstance());
+    ArrayPtr const both = objects({"Red", "Blue"});
+    EXPECT_EQ(errorOf([&] { hvm().deleteObjects(both.get()); }), "VELMARA:enumeration:noDelete");
+    EXPECT_TRUE(velmara::isValid(both.get()));
+}
+
+TEST_F(EnumerationTest, WrongDescriptionsAreRefused)
+{
+    struct Case {
+        char const* identifier;
+        std::function<void(COSClass*)> describe;
+    };
+    Case const cases[] = {
+        {"enumeration:empty", [](COSClass*) {}},
+        {"enumeration:name", [](COSClass* cls) { addEnumerator(cls, "", 1); }},
+        {"enumeration:name", [](COSClass* cls) { addEnumerator(cls, nullptr, 1); }},
+        {"enumeration:duplicate", [](COSClass* cls) { addColors(cls), addEnumerator(cls, "Blue", 9); }},
+        {"enumeration:superclass", [](COSClass* cls) { addColors(cls), described::setSuperclass(cls, "t.Other"); }},
+        {"class:duplicateMember",
+         [](COSClass* cls) { addColors(cls), cls->addMethod(described::answering("Red", {"x.Bad"}, 1)); }},
+        {"class:duplicateMember",
+         [](COSClass* cls) { cls->addMethod(described::answering("Red", {"x.Bad"}, 1)), addColors(cls); }},
+        {"enumeration:tooMany",
+         [](COSClass* cls) {
+             for (int i = 0; i <= 0xFFFF; ++i)
+                 addEnumerator(cls, ("e" + std::to_string(i)).c_str(), i);
+         }},
+    };
+    for (Case const& c : cases) {
+        velmara::Hvm machine;
+        velmara::Hvm::Scope const scope(machine);
+        publish("t");
+        COSClass::addGlobalClass(new Enumeration("Bad", c.describe));
+        try {
+            machine.describeClass("Bad");
+            ADD_FAILURE() << c.identifier;
+        } catch (velmara::Error const& error) {
+            EXPECT_NE(error.text().find(c.identifier), std::string::npos) << error.what();
+        }
+    }
+    described::publish(new described::Class("Plain", addColors));
+    described::publish(new described::Class("Shade", [](COSClass* cls) { described::setSuperclass(cls, "t.Color"); }));
+    for (auto const& [name, reason] : {std::pair("Plain", "notEnumeration"), std::pair("Shade", "class:sealed")})
+        try {
+            hvm().describeClass(name);
+            ADD_FAILURE() << name;
+        } catch (velmara::Error const& error) {
+            EXPECT_NE(error.text().find(reason), std::string::npos) << error.what();
+        }
+    EXPECT_ANY_THROW(addEnumerator(COSClass::getClass("t.Color"), "Late", 5));
+    EXPECT_ANY_THROW(addEnumerator(nullptr, "None", 5));
+}
+
+TEST_F(EnumerationTest, ResultsAreEnumerators)
+{
+    orbis::COSPackage::addPackage(new described::Package("r", [](orbis::COSPackage* package) {
+        auto const add = [package](char const* name, std::function<ArrayPtr()> const& make) {
+            package->addFunction(new described::Method(name, "t.Color", {}, [make](described::Call const& call) {
+                call.give(orbis::COSValue(make().release()));
+            }));
+        };
+        add("right", [] { return objects({"Blue"}); });
+        add("none", [] { return objects({nullptr}); });
+        add("nothing", [] { return nothing(); });
+        add("two", [] { return objects({"Red", "Red"}); });
+        add("text", [] { return text(u"Red"); });
+    }));
+    EXPECT_TRUE(velmara::isSameObject(hvm().callFunction("r.right").get(), objects({"Blue"}).get()));
+    for (char const* name : {"r.none", "r.nothing", "r.two", "r.text"})
+        EXPECT_EQ(errorOf([&] { hvm().callFunction(name); }), "VELMARA:result:type") << name;
+}
+
+TEST_F(EnumerationTest, DefinedFromOutside)
+{
+    std::vector<velmara::EnumeratorRecord> const lights{{"Go", 0}, {"Stop", 1}, {"Halt", 1}};
+    for (char const* name : {"a.b.Light", "t.Light", "Light"}) {
+        hvm().defineEnumeration(name, lights);
+        velmara::ClassRecord const listed = hvm().describeClass(name);
+        EXPECT_TRUE(listed.isEnumeration);
+        ASSERT_EQ(listed.enumerators.size(), 3u);
+        EXPECT_EQ(listed.enumerators[2].name + std::to_string(listed.enumerators[2].value), "Halt1");
+        EXPECT_EQ(errorOf([&] { hvm().defineEnumeration(name, lights); }), "VELMARA:package:duplicate");
+    }
+    EXPECT_FALSE(hvm().describeClass("t.Other").isEnumeration);
+    for (char const* name : {"c.d.Empty", "Empty", "t.Empty"}) {
+        EXPECT_EQ(errorOf([&] { hvm().defineEnumeration(name, {}); }), "VELMARA:class:initialization");
+        EXPECT_EQ(hvm().lookUp(name), velmara::NameKind::None);
+    }
+    EXPECT_EQ(hvm().lookUp("c"), velmara::NameKind::None);
+    EXPECT_EQ(errorOf([&] { hvm().defineEnumeration("a..Light", lights); }), "VELMARA:package:name");
+    EXPECT_EQ(answer("t.one", text(u"Red")), "Red ");
+}
