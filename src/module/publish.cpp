@@ -5,6 +5,7 @@
 #include "orbis/factory/impl/MethodImpl.hpp"
 #include "orbis/factory/impl/OrbisConstructor.hpp"
 
+#include "module/KeepingDescriptor.hpp"
 #include "module/OwnedProperty.hpp"
 #include "module/PublishedClasses.hpp"
 
@@ -72,7 +73,7 @@ void bind(Descriptor& descriptor, MemberRecord const& record, char const* hostNa
 template <class Descriptor>
 void add(COSClass* cls, char const* name, MemberRecord const& record, char const* hostName)
 {
-    auto descriptor = std::make_unique<Descriptor>(name, attributesOf(record), "");
+    auto descriptor = makeDescriptor<Descriptor>(record.kept, name, attributesOf(record), "");
     bind(*descriptor, record, hostName);
     cls->addMethod(descriptor.release());
 }
@@ -116,7 +117,7 @@ void publish(COSPackage* package, FunctionDescription const& description)
 {
     detail::initStringDataTypes();
     for (MemberRecord const& record : description.functions()) {
-        auto function = std::make_unique<FunctionInfo>(record.name, attributesOf(record));
+        auto function = makeDescriptor<FunctionInfo>(record.kept, record.name, attributesOf(record));
         bind(function->method(), record, nullptr);
         package->addFunction(function.release());
     }

@@ -5,6 +5,7 @@
 #include "orbis/factory/impl/Invoker.hpp"
 
 #include <cstddef>
+#include <memory>
 #include <vector>
 
 namespace orbis::factory {
@@ -25,6 +26,7 @@ struct MemberRecord {
     std::vector<char const*> inputTypes; ///< without the object of a member function
     impl::Invoker::InvokeFn invokeFn;
     impl::Callable target;
+    std::shared_ptr<void const> kept = {}; ///< what `target` points to, when that is no function
 };
 
 } // namespace orbis::factory

@@ -10,6 +10,10 @@
 
 namespace orbis::factory {
 
+/// See `withDefaults`, in a header of its own.
+template <class... D>
+class Defaults;
+
 /// Describes the class `T`, one line a member:
 ///
 ///     publish(cls, describe<Adder>()
@@ -58,6 +62,14 @@ public:
         return constructor<A...>({}, attributes);
     }
 
+    template <class... A, class... D>
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults,
+                                MethodAttributes attributes = {})
+    {
+        constructor<A...>(names, attributes);
+        return addAll(defaults.template shortenConstructor<T, A...>(members().back()));
+    }
+
     /// A member function of `T` or of a base, or a free function or captureless lambda that takes a `T*` first: a
     /// member by force, which refuses to be called without an object.
     template <class F>
@@ -83,6 +95,15 @@ public:
         return method(name, function, {}, attributes);
     }
 
+    template <class F, class... D>
+    ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
+                           MethodAttributes attributes = {})
+    {
+        constexpr std::size_t objects = Traits<F>::kind == detail::CallableKind::Member ? 0 : 1;
+        method(name, function, names, attributes);
+        return addAll(defaults.template shorten<T, objects>(members().back(), function));
+    }
+
     /// A free function, static member function or captureless lambda, called without an object.
     template <class F>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodAttributes attributes = {})
@@ -100,6 +121,14 @@ public:
     ClassDescriber& staticMethod(char const* name, F function, MethodAttributes attributes)
     {
         return staticMethod(name, function, {}, attributes);
+    }
+
+    template <class F, class... D>
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
+                                 MethodAttributes attributes = {})
+    {
+        staticMethod(name, function, names, attributes);
+        return addAll(defaults.template shorten<T, 0>(members().back(), function));
     }
 
     /// A property that is read only. The getter is a member function without parameters, or a free function or
@@ -163,6 +192,13 @@ public:
 
 private:
     using ClassDescription::add;
+
+    ClassDescriber& addAll(std::vector<MemberRecord> records)
+    {
+        for (MemberRecord& record : records)
+            add(std::move(record));
+        return *this;
+    }
 
     template <class F>
     static consteval bool isFreeOf(std::size_t arity)

@@ -8,6 +8,10 @@
 
 namespace orbis::factory {
 
+/// See `withDefaults`, in a header of its own.
+template <class... D>
+class Defaults;
+
 /// Describes package functions, one line each, in the grammar of `describe`:
 ///
 ///     publish(package, describeFunctions().function("add", &add, "a, b"));
@@ -30,6 +34,16 @@ public:
                 add(detail::freeFunctionRecord<typename Traits<F>::Pointer, Result, Parameters>(
                     name, callable, names.text(), MethodAttributes::Static()));
         }
+        return *this;
+    }
+
+    template <class F, class... D>
+    FunctionDescriber& function(char const* name, F callable, ParameterNames<Traits<F>::arity> names,
+                                Defaults<D...> const& defaults)
+    {
+        function(name, callable, names);
+        for (MemberRecord const& shorter : defaults.template shorten<void, 0>(functions().back(), callable))
+            add(shorter);
         return *this;
     }
 };

@@ -49,7 +49,11 @@ struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
             impl::validateSelfPointer(self);
         storeResult<Result>(outputCount, outputs, [&]() -> Result {
             return arguments.apply([&](auto&&... values) -> Result {
-                return (self->*invoker->target.template as<Pointer>())(static_cast<decltype(values)>(values)...);
+                auto const target = invoker->target.template as<Pointer>();
+                if constexpr (std::is_member_function_pointer_v<Pointer>)
+                    return (self->*target)(static_cast<decltype(values)>(values)...);
+                else
+                    return target(self, static_cast<decltype(values)>(values)...);
             });
         });
     }
@@ -58,22 +62,37 @@ struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
 /// Throws the error of a constructor that cannot give its arguments to the object that exists already.
 [[noreturn]] ORBIS_FACTORY_API void refuseReconstruction(char const* className);
 
+/// A constructor that is given all of its arguments.
+struct NoDefaults {
+    static constexpr bool hasValues = false;
+
+    template <class F>
+    F complete(F function) const
+    {
+        return function;
+    }
+};
+
 /// Constructs the native object of the host object in `outputs[0]`. Where the class info has made one already, that
 /// one is used, and takes the value of a new one when the constructor has arguments.
-template <class T, class... A>
-struct ConstructorRoutine {
-    static void invoke(impl::Invoker const*, COSClient const*, int& outputCount, COSValue* outputs, int,
+template <class T, class Parameters, class Completion = NoDefaults>
+struct ConstructorRoutine;
+
+template <class T, class... A, class Completion>
+struct ConstructorRoutine<T, TypeList<A...>, Completion> {
+    static void invoke(impl::Invoker const* invoker, COSClient const*, int& outputCount, COSValue* outputs, int,
                        COSValue const* inputs)
     {
         hvArray* const constructed = outputs[0].array();
         T* const existing = convertFromHost<T*>(outputs[0]);
         ArgumentsOf<A...> arguments(inputs);
+        auto const completion = invoker->target.template as<Completion>();
         if (existing) {
-            assign(*existing, arguments);
+            assign(*existing, arguments, completion);
             announce(existing, constructed);
         } else {
-            auto made = arguments.apply(
-                [](auto&&... values) { return NativeOwnership<T>::make(static_cast<decltype(values)>(values)...); });
+            auto made = arguments.apply(completion.complete(
+                [](auto&&... values) { return NativeOwnership<T>::make(static_cast<decltype(values)>(values)...); }));
             announce(made.get(), constructed);
             NativeOwnership<T>::handOver(std::move(made), constructed);
         }
@@ -89,12 +108,13 @@ private:
                                                        constructed, Bound::isHandle);
     }
 
-    static void assign([[maybe_unused]] T& existing, [[maybe_unused]] ArgumentsOf<A...>& arguments)
+    static void assign([[maybe_unused]] T& existing, [[maybe_unused]] ArgumentsOf<A...>& arguments,
+                       [[maybe_unused]] Completion completion)
     {
-        if constexpr (sizeof...(A) > 0) {
+        if constexpr (sizeof...(A) > 0 || Completion::hasValues) {
             if constexpr (std::is_move_assignable_v<T>)
-                existing =
-                    arguments.apply([](auto&&... values) { return T(static_cast<decltype(values)>(values)...); });
+                existing = arguments.apply(
+                    completion.complete([](auto&&... values) { return T(static_cast<decltype(values)>(values)...); }));
             else
                 refuseReconstruction(HostClass<T>::name);
         }

@@ -61,7 +61,7 @@ MemberRecord constructorRecord(char const* names, MethodAttributes attributes)
             .attributes = attributes,
             .outputType = HostClass<T>::name,
             .inputTypes = inputTypes(TypeList<A...>{}),
-            .invokeFn = &ConstructorRoutine<T, A...>::invoke,
+            .invokeFn = &ConstructorRoutine<T, TypeList<A...>>::invoke,
             .target = {}};
 }
 

@@ -19,7 +19,7 @@ public:
         std::memcpy(bytes_, &function, sizeof(F));
     }
 
-    /// The pointer; `F` must be the type it was made from.
+    /// The pointer; `F` must be the type it was made from, or a class that holds nothing but such a pointer.
     template <class F>
     F as() const
     {

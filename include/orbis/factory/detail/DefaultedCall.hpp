@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <tuple>
+#include <utility>
+
+namespace orbis::factory::detail {
+
+/// A callable (nothing for a constructor) and the values for its last parameters.
+template <class Function, class... D>
+struct Defaulted {
+    Function function;
+    std::tuple<D...> values;
+};
+
+/// Calls functions with the values given and, after them, the last `LeftOut` values of a `Defaulted`. It holds nothing
+/// but a pointer to that, so a `Callable` made of the pointer is read as this.
+template <class Record, std::size_t LeftOut>
+struct DefaultedCall {
+    static constexpr bool hasValues = true;
+
+    Record const* record;
+
+    /// Calls the record's own function. The object of a member function comes first.
+    template <class... Given>
+    decltype(auto) operator()(Given&&... given) const
+    {
+        return call(record->function, std::forward<Given>(given)...);
+    }
+
+    /// Any other function, completed in the same way.
+    template <class F>
+    auto complete(F function) const
+    {
+        return [this, function](auto&&... given) -> decltype(auto) {
+            return call(function, static_cast<decltype(given)>(given)...);
+        };
+    }
+
+private:
+    template <class F, class... Given>
+    decltype(auto) call(F const& function, Given&&... given) const
+    {
+        constexpr std::size_t first = std::tuple_size_v<decltype(Record::values)> - LeftOut;
+        return [&]<std::size_t... Index>(std::index_sequence<Index...>) -> decltype(auto) {
+            return std::invoke(function, std::forward<Given>(given)..., std::get<first + Index>(record->values)...);
+        }(std::make_index_sequence<LeftOut>());
+    }
+};
+
+} // namespace orbis::factory::detail

@@ -1,0 +1,197 @@
+#include "HvmTest.hpp"
+#include "library/Tally.hpp"
+
+#include "orbis/factory/StringViewPolicy.hpp"
+#include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/withDefaults.hpp"
+
+#include <algorithm>
+
+using namespace orbis;
+using namespace orbis::factory;
+using velmara::ArrayPtr;
+
+namespace {
+
+/// Publishes the shapes that a description can have, all with defaults.
+class Scale {
+public:
+    explicit Scale(std::int32_t factor = 0, std::int32_t offset = 0) : factor_(factor), offset_(offset) {}
+    virtual ~Scale() = default;
+    Scale(Scale const&) = default;
+    Scale& operator=(Scale const&) = default;
+
+    std::int32_t apply(std::int32_t x, std::int32_t times) const { return x * factor_ * times + offset_; }
+    std::int32_t set(std::int32_t factor, std::string const& note, Tally const* tally)
+    {
+        factor_ = factor;
+        return static_cast<std::int32_t>(note.size()) + (tally ? tally->value() : 0);
+    }
+
+private:
+    std::int32_t factor_;
+    std::int32_t offset_;
+};
+
+/// Its native object is there before a constructor is called.
+struct Early : Scale {
+    using Scale::Scale;
+};
+
+std::int32_t digits(std::int32_t a, std::int64_t b, std::int8_t c)
+{
+    return a * 100 + static_cast<std::int32_t>(b) * 10 + c;
+}
+
+} // namespace
+
+template <>
+struct orbis::factory::HostClass<Scale> {
+    static constexpr char const* name = "tests.Scale";
+};
+
+template <>
+struct orbis::factory::HostClass<Early> {
+    static constexpr char const* name = "tests.Early";
+};
+
+namespace {
+
+class ScaleInfo final : public HandleClassInfo<Scale, 1> {
+public:
+    ScaleInfo() : HandleClassInfo("tests.Scale", "") {}
+    void initializeClass(COSClass* cls) override
+    {
+        std::string const note = "a text that the description copies";
+        publish(cls, describe<Scale>()
+                         .constructor<std::int32_t, std::int32_t>("factor, offset", withDefaults(2, 1))
+                         .method("apply", &Scale::apply, "x, times", withDefaults(3), MethodAttributes::Sealed())
+                         .method("set", &Scale::set, "factor, note, tally", withDefaults(7, note, nullptr))
+                         .method(
+                             "forced", [](Scale* scale, std::int32_t x) { return scale->apply(x, 1); }, "scale, x",
+                             withDefaults(5))
+                         .staticMethod("digits", &digits, "a, b, c", withDefaults(1, 2, 3)));
+    }
+};
+
+class EarlyInfo final : public HandleClassInfo<Early, 1> {
+public:
+    EarlyInfo() : HandleClassInfo("tests.Early", "") {}
+    void* createInstanceData() override { return new Early(100, 100); }
+    void initializeClass(COSClass* cls) override
+    {
+        publish(cls, describe<Early>()
+                         .constructor<std::int32_t, std::int32_t>("factor, offset", withDefaults(2, 1))
+                         .method("apply", &Early::apply));
+    }
+};
+
+class DefaultsTest : public HvmTest {
+protected:
+    DefaultsTest()
+    {
+        TallyInfo::publishIn("tests");
+        registerOrbisPackage("tests", [](COSPackage* package) {
+            package->addClass(new ScaleInfo);
+            package->addClass(new EarlyInfo);
+            publish(package, describeFunctions()
+                                 .function("digits", &digits, "a, b, c", withDefaults(4, 5))
+                                 .function(
+                                     "greet", [](std::string_view name, double) { return name; }, "name, volume",
+                                     withDefaults("you", 1)));
+        });
+    }
+
+    struct Inputs {
+        explicit Inputs(std::initializer_list<double> numbers)
+        {
+            for (double const value : numbers)
+                arrays.push_back(owners.emplace_back(number(value)).get());
+        }
+
+        std::vector<ArrayPtr> owners;
+        std::vector<hvArray*> arrays;
+    };
+
+    std::int32_t call(ArrayPtr const& object, char const* method, std::initializer_list<double> numbers)
+    {
+        return scalar<std::int32_t>(hvm().call(object.get(), method, Inputs(numbers).arrays));
+    }
+
+    ArrayPtr scale(std::initializer_list<double> numbers, char const* name = "tests.Scale")
+    {
+        return hvm().construct(name, Inputs(numbers).arrays);
+    }
+};
+
+} // namespace
+
+TEST_F(DefaultsTest, WhatACallLeavesOutIsTheDefault)
+{
+    ArrayPtr const object = scale({});
+    EXPECT_EQ(call(object, "apply", {10}), 61);
+    EXPECT_EQ(call(object, "apply", {10, 1}), 21);
+    EXPECT_EQ(call(object, "forced", {}), 11);
+    EXPECT_EQ(call(object, "forced", {4}), 9);
+    EXPECT_EQ(call(object, "set", {}), 34);
+    EXPECT_EQ(call(object, "apply", {1, 1}), 8);
+    EXPECT_EQ(call(object, "set", {9}), 34);
+    EXPECT_EQ(call(object, "apply", {1, 1}), 10);
+    EXPECT_EQ(call(scale({3}), "apply", {1, 1}), 4);
+    EXPECT_EQ(call(scale({3, 0}), "apply", {1, 1}), 3);
+    EXPECT_EQ(errorOf([&] { call(object, "apply", {}); }), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(errorOf([&] { call(object, "apply", {1, 2, 3}); }), "VELMARA:dispatch:noMatch");
+}
+
+TEST_F(DefaultsTest, StaticMethodsAndFunctionsHaveThemToo)
+{
+    struct Case {
+        std::initializer_list<double> given;
+        std::int32_t expected;
+    };
+    for (auto const& [given, expected] : {Case{{}, 123}, Case{{9}, 923}, Case{{9, 8}, 983}, Case{{9, 8, 7}, 987}}) {
+        EXPECT_EQ(scalar<std::int32_t>(hvm().callStatic("tests.Scale", "digits", Inputs(given).arrays)), expected);
+        auto const function = [&] { return hvm().callFunction("tests.digits", Inputs(given).arrays); };
+        if (given.size() == 0)
+            EXPECT_EQ(errorOf(function), "VELMARA:dispatch:noMatch");
+        else
+            EXPECT_EQ(scalar<std::int32_t>(function()), given.size() == 1 ? 945 : given.size() == 2 ? 985 : 987);
+    }
+    EXPECT_EQ(hvm().callFunction("tests.greet")->get_number_of_elements(), 3u);
+}
+
+TEST_F(DefaultsTest, AnObjectThatIsThereAlreadyTakesTheValue)
+{
+    for (auto const& [object, expected] :
+         {std::pair(scale({}, "tests.Early").release(), 3), std::pair(scale({5}, "tests.Early").release(), 6)}) {
+        ArrayPtr const owner(object);
+        EXPECT_EQ(call(owner, "apply", {1, 1}), expected);
+    }
+}
+
+TEST_F(DefaultsTest, ShorterSignaturesAreListed)
+{
+    auto const record = hvm().describeClass("tests.Scale");
+    std::vector<std::string> signatures;
+    for (auto const& method : record.methods) {
+        signatures.push_back(method.signature);
+        EXPECT_EQ(method.isSealed, method.name == "apply");
+    }
+    for (char const* const expected : {"apply(this: tests.Scale, x: int32 scalar) -> int32 scalar",
+                                       "apply(this: tests.Scale, x: int32 scalar, times: int32 scalar) -> int32 scalar",
+                                       "forced(scale: tests.Scale) -> int32 scalar", "digits() -> int32 scalar"})
+        EXPECT_TRUE(std::ranges::any_of(signatures, [&](auto const& text) { return text.ends_with(expected); }))
+            << expected;
+    EXPECT_EQ(
+        std::ranges::count(record.methods, velmara::MethodRecord::Kind::Constructor, &velmara::MethodRecord::kind), 3);
+    EXPECT_EQ(hvm().describePackage("tests").functions.size(), 6u);
+}
+
+TEST_F(DefaultsTest, AShorterSignatureMustNotBeThereAlready)
+{
+    COSPackage* const package = COSPackage::getPackage("tests");
+    auto const twice = describeFunctions()
+                           .function("twice", [](double) {})
+                           .function("twice", [](double, double) {}, "a, b", withDefaults(1));
+    EXPECT_THROW(publish(package, twice), std::exception);
+}
