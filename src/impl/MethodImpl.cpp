@@ -12,7 +12,9 @@ MethodImpl::~MethodImpl() = default;
 void MethodImpl::invoke(COSClient const* client, int& outputCount, COSValue* outputs, int inputCount,
                         COSValue const* inputs) const
 {
-    invoker_.invokeFn(&invoker_, client, outputCount, outputs, inputCount, inputs);
+    Invoker const* invoker = &invoker_;
+    asm("" : "+r"(invoker)); // the address is worked out once, not for the argument and again for the routine
+    invoker->invokeFn(invoker, client, outputCount, outputs, inputCount, inputs);
 }
 
 Invoker& MethodImpl::invoker()

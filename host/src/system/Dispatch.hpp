@@ -69,15 +69,26 @@ Method const& chooseAmong(MethodGroup const& group, CallInputs call);
 /// `dispatch` for every method and every input.
 ArrayPtr dispatchAny(MethodGroup const& group, CallInputs const& call);
 
-/// Chooses a method and calls it; a failure inside it is final.
-[[gnu::always_inline]] inline ArrayPtr dispatch(MethodGroup const& group, CallInputs const& call)
+/// Chooses a method of an object's class and calls it on `self`; a failure inside it is final.
+[[gnu::always_inline]] inline ArrayPtr dispatchOnObject(MethodGroup const& group, hvArray_tag* self, Inputs inputs)
 {
-    if (group.plain) [[likely]] {
-        PlainInputs inputs;
-        if (inputs.read(*group.plain, call)) [[likely]]
-            return invoke(*group.plain, static_cast<int>(group.plain->inputCount), inputs.values());
+    if (Method const* const method = group.plainOfObject) [[likely]] {
+        PlainInputs plain;
+        if (plain.readForObject(*method, self, inputs)) [[likely]]
+            return invoke(*method, static_cast<int>(method->inputCount), plain.values());
     }
-    return dispatchAny(group, call);
+    return dispatchAny(group, {self, inputs});
+}
+
+/// The same where there is no object.
+[[gnu::always_inline]] inline ArrayPtr dispatch(MethodGroup const& group, Inputs inputs)
+{
+    if (Method const* const method = group.plain) [[likely]] {
+        PlainInputs plain;
+        if (plain.read(*method, inputs)) [[likely]]
+            return invoke(*method, static_cast<int>(method->inputCount), plain.values());
+    }
+    return dispatchAny(group, {nullptr, inputs});
 }
 
 } // namespace velmara

@@ -80,7 +80,9 @@ void MethodGroup::remove(Method const& method)
 
 void MethodGroup::findPlain()
 {
-    plain = accessible == 1 && methods.front()->isPlain ? methods.front() : nullptr;
+    Method const* const found = accessible == 1 && methods.front()->isPlain ? methods.front() : nullptr;
+    plainOfObject = found && found->takesObject ? found : nullptr;
+    plain = found && !found->takesObject ? found : nullptr;
 }
 
 } // namespace velmara

@@ -60,7 +60,10 @@ struct MethodGroup {
 
     std::vector<Method const*> methods;
     std::size_t accessible = 0;
-    Method const* plain = nullptr; ///< the one that may be called, where there is just one and it is plain
+
+    /// The one that may be called, where there is just one and it is plain: with an object, or without.
+    Method const* plainOfObject = nullptr;
+    Method const* plain = nullptr;
 
 private:
     void findPlain();

@@ -4,8 +4,7 @@
 
 namespace velmara {
 
-/// Reads arrays as values of one scalar type. Scripts give doubles, so what a double becomes is read in line; every
-/// other array goes through the converter of its class.
+/// Reads arrays as values of one scalar type.
 class ScalarReader {
 public:
     ScalarReader() = default;
@@ -13,21 +12,26 @@ public:
     /// `target` is a numeric or logical class.
     explicit ScalarReader(hvClassID target);
 
-    /// Writes `out` when the array fits. The reader must have been made for a class.
-    [[gnu::always_inline]] Fit read(Array const& input, orbis::COSValue& out) const
+    /// Reads a double that this type takes without loss, the usual input from a script. Where it gives false, `read`
+    /// may still succeed.
+    [[gnu::always_inline]] bool readDouble(Array const& input, orbis::COSValue& out) const
     {
-        if (input.classID() == hvDOUBLE_CLASS && input.rows() == 1 && input.columns() == 1) [[likely]] {
-            double const number = *static_cast<double const*>(input.elements());
-            if (number >= lowest_ && number <= highest_) { // a NaN compares false
-                auto const whole = static_cast<std::int64_t>(number);
-                if (static_cast<double>(whole) == number) [[likely]] {
-                    out = orbis::COSValue(target_, static_cast<std::uint64_t>(whole));
-                    return convertedFit;
-                }
-            }
+        if (input.classID() != hvDOUBLE_CLASS || input.rows() != 1 || input.columns() != 1)
+            return false;
+        double const number = *static_cast<double const*>(input.elements());
+        if (number >= lowest_ && number <= highest_) [[likely]] { // a NaN compares false
+            auto const whole = static_cast<std::int64_t>(number);
+            if (static_cast<double>(whole) != number) [[unlikely]]
+                return false;
+            out = orbis::COSValue(target_, static_cast<std::uint64_t>(whole));
+            return true;
         }
-        return converters_[input.classID()](input, out);
+        out = orbis::COSValue(number);
+        return target_ == hvDOUBLE_CLASS;
     }
+
+    /// Writes `out` when the array fits. The reader must have been made for a class.
+    Fit read(Array const& input, orbis::COSValue& out) const { return converters_[input.classID()](input, out); }
 
 private:
     hvClassID target_ = hvUNKNOWN_CLASS;

@@ -40,7 +40,7 @@ namespace {
     MethodGroup const* const group = cls.findMethods(method);
     if (!group)
         throwHostError("VELMARA:member", "unknown", {std::string(cls.name()->view()), std::string(method)});
-    return dispatch(*group, {array, inputs});
+    return dispatchOnObject(*group, array, inputs);
 }
 
 ArrayPtr callStaticMethod(HvmState& machine, std::string_view className, std::string_view method, Inputs inputs)
@@ -51,7 +51,7 @@ ArrayPtr callStaticMethod(HvmState& machine, std::string_view className, std::st
         throwHostError("VELMARA:member", "unknown", {std::string(className), std::string(method)});
     if (std::ranges::all_of(group->methods, &Method::takesObject))
         throwHostError("VELMARA:member", "notStatic", {std::string(className), std::string(method)});
-    return dispatch(*group, {nullptr, inputs});
+    return dispatch(*group, inputs);
 }
 
 ArrayPtr callPackageFunction(HvmState& machine, std::string_view fullName, Inputs inputs)
@@ -59,7 +59,7 @@ ArrayPtr callPackageFunction(HvmState& machine, std::string_view fullName, Input
     MethodGroup const* const group = machine.packages().findFunctions(fullName);
     if (!group)
         throwHostError("VELMARA:function", "unknown", {std::string(fullName)});
-    return dispatch(*group, {nullptr, inputs});
+    return dispatch(*group, inputs);
 }
 
 void endObjects(HvmState& machine, hvArray_tag* array)

@@ -4,9 +4,9 @@
 #include "values/NameTable.hpp"
 
 #include <atomic>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <iterator>
 
 namespace orbis {
 
@@ -18,32 +18,36 @@ using velmara::Name;
 
 class NamesByAddress {
 public:
-    Name intern(char const* text)
+    /// Null when the name last made from a text at this address is another one, or none.
+    Name known(char const* text) const
     {
-        std::atomic<Name>& recent = recent_[reinterpret_cast<std::uintptr_t>(text) / 8 % std::size(recent_)];
-        Name const known = recent.load(std::memory_order_acquire);
-        if (known && std::strcmp(known->text, text) == 0) [[likely]]
-            return known;
-        return find(text, recent);
+        Name const recent = recent_[placeOf(text)].load(std::memory_order_acquire);
+        return recent && text && std::strcmp(recent->text, text) == 0 ? recent : nullptr;
     }
 
-private:
-    [[gnu::noinline]] static Name find(char const* text, std::atomic<Name>& recent)
+    [[gnu::noinline]] Name find(char const* text)
     {
-        Name const name = velmara::intern(text);
-        recent.store(name, std::memory_order_release);
+        Name const name = velmara::intern(text ? text : "");
+        recent_[placeOf(text)].store(name, std::memory_order_release);
         return name;
     }
 
-    std::atomic<Name> recent_[256] = {};
+private:
+    static constexpr std::size_t room = 256;
+
+    static std::size_t placeOf(char const* text) { return reinterpret_cast<std::uintptr_t>(text) / 8 % room; }
+
+    std::atomic<Name> recent_[room] = {};
 };
 
 constinit NamesByAddress namesByAddress;
 
 } // namespace
 
-COSNameID::COSNameID(char const* name) : name_(namesByAddress.intern(name ? name : ""))
+COSNameID::COSNameID(char const* name) : name_(namesByAddress.known(name))
 {
+    if (!name_) [[unlikely]]
+        name_ = namesByAddress.find(name);
     ++velmara::liveCountsOfThisThread().heldNames;
 }
 
