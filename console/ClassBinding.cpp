@@ -23,15 +23,14 @@ int construct(lua_State* L, std::string const& className)
 
 int readClassMember(lua_State* L, std::string const& className, std::string const& member)
 {
-    switch (pushMember(L, className, member)) {
-    case MemberKind::Callable:
+    MemberKind const kind = pushMember(L, className, member);
+    if (kind == MemberKind::Callable)
         return 1;
-    case MemberKind::Property:
+    if (kind == MemberKind::Property)
         failWithoutObject(className, member);
-    default:
-        break;
-    }
     HostCall call(L);
+    if (kind == MemberKind::Enumerator)
+        return call.finish(call.hvm().getEnumerator(className, member));
     return call.finish(call.hvm().getStatic(className, member));
 }
 

@@ -73,10 +73,13 @@ void pushCallable(lua_State* L, std::string_view cls, std::string_view name, boo
     for (PropertyRecord const& property : cls.properties)
         if (property.isVisible)
             known.push_back(property.name);
+    for (EnumeratorRecord const& enumerator : cls.enumerators)
+        known.push_back(enumerator.name);
     fail("unknownMember", cls.name + " has no member '" + std::string(name) + "'" + didYouMean(name, known));
 }
 
-/// Pushes what is to be remembered of the member: its function, or for a property whether it is static.
+/// Pushes what is to be remembered of the member: its function, for a property whether it is static, or for an
+/// enumerator a number.
 void pushFound(lua_State* L, std::string_view cls, std::string_view name)
 {
     ClassRecord const record = Session::of(L).hvm().describeClass(cls);
@@ -88,6 +91,8 @@ void pushFound(lua_State* L, std::string_view cls, std::string_view name)
     bool const withoutObject = isCalled(MethodRecord::Kind::StaticMethod);
     if (instance || withoutObject)
         return pushCallable(L, cls, name, instance, withoutObject);
+    if (std::ranges::find(record.enumerators, name, &EnumeratorRecord::name) != record.enumerators.end())
+        return lua_pushinteger(L, 0);
     auto const property = std::ranges::find(record.properties, name, &PropertyRecord::name);
     if (property == record.properties.end())
         failUnknown(record, name);
@@ -125,8 +130,11 @@ MemberKind pushMember(lua_State* L, std::string_view className, std::string_view
     lua_remove(L, -2);
     if (lua_isfunction(L, -1))
         return MemberKind::Callable;
+    bool const isEnumerator = lua_isinteger(L, -1) != 0;
     bool const isStaticProperty = lua_toboolean(L, -1) != 0;
     lua_pop(L, 1);
+    if (isEnumerator)
+        return MemberKind::Enumerator;
     return isStaticProperty ? MemberKind::StaticProperty : MemberKind::Property;
 }
 
@@ -135,6 +143,8 @@ MemberKind checkProperty(lua_State* L, std::string_view className, std::string_v
     MemberKind const kind = pushMember(L, className, name);
     if (kind == MemberKind::Callable)
         fail("method", std::string(className) + '.' + std::string(name) + " is a method: it cannot be set");
+    if (kind == MemberKind::Enumerator)
+        fail("readOnly", std::string(className) + '.' + std::string(name) + " is an enumerator: it cannot be set");
     return kind;
 }
 

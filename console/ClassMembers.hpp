@@ -6,11 +6,11 @@
 
 namespace velmara::console {
 
-enum class MemberKind { Callable, Property, StaticProperty };
+enum class MemberKind { Callable, Property, StaticProperty, Enumerator };
 
 /// Finds the member `name` of a class. For a callable one, its function is pushed: it takes the object first, or
-/// none for a static method; for a property nothing. What is found once is remembered for the Lua state: whether
-/// it is still there is for the host to say at each use.
+/// none for a static method; for a property and an enumerator nothing. What is found once is remembered for the Lua
+/// state: whether it is still there is for the host to say at each use.
 ///
 /// Throws an `Error` that names what is missing, and what comes close to it.
 MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name);

@@ -46,6 +46,8 @@ void addClassMembers(lua_State* L, std::string_view className, Names& names)
     for (PropertyRecord const& property : record.properties)
         if (property.isVisible && property.isStatic)
             names.push_back(property.name);
+    for (EnumeratorRecord const& enumerator : record.enumerators)
+        names.push_back(enumerator.name);
 }
 
 void addPublished(lua_State* L, std::string_view name, Names& names)

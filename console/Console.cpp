@@ -1,5 +1,6 @@
 #include "Console.hpp"
 
+#include "EnumerationFunction.hpp"
 #include "ErrorReport.hpp"
 #include "ExitCode.hpp"
 #include "HelpFunctions.hpp"
@@ -30,6 +31,7 @@ void prepare(lua_State* L, Run const& run)
     openScriptLibraries(L);
     bindObjectFunctions(L);
     bindModuleFunctions(L);
+    bindEnumerationFunction(L);
     bindHelpFunctions(L);
     bindGlobals(L);
     if (!run.builtIn.empty())

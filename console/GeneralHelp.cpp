@@ -9,6 +9,8 @@ char const* const generalHelp = R"(velmara runs Lua 5.4 scripts that use the cla
   a.property = 3              read and set a property
   package.Class.method()      call a static method; likewise a package function
   package.Class.property      read and set a static property
+  package.Enumeration.Name    an enumerator; its name in quotes, or its number,
+                              can be passed in its place
   a == b                      true when both are the same object
   local a <close> = ...       give the object back at the end of the block
 
@@ -16,6 +18,7 @@ char const* const generalHelp = R"(velmara runs Lua 5.4 scripts that use the cla
   class(x) isvalid(x) delete(x)      the class of x; is it alive; end it now
   modules() loadmodule(path) unloadmodule(name)
   withvm(function, ...)              call it in a virtual machine of its own
+  enumeration("package.Name", {"A", "B", {"C", 7}})   define an enumeration
 
 Errors are caught with pcall: a table with identifier, text and where.
 

@@ -83,9 +83,23 @@ std::string nameSection(char const* title, std::vector<std::string> const& names
     return text.empty() ? text : title + ("\n" + text);
 }
 
+std::string enumeratorLine(EnumeratorRecord const& enumerator)
+{
+    return enumerator.name + " = " + std::to_string(enumerator.value);
+}
+
+/// In the order of description.
+std::string enumeratorSection(ClassRecord const& cls)
+{
+    std::string text;
+    for (EnumeratorRecord const& enumerator : cls.enumerators)
+        text += paragraph(enumeratorLine(enumerator), 2, 8);
+    return text.empty() ? text : "Enumerators:\n" + text;
+}
+
 std::string traits(ClassRecord const& cls)
 {
-    std::string text = cls.isHandle ? "handle class" : "value class";
+    std::string text = cls.isEnumeration ? "enumeration" : cls.isHandle ? "handle class" : "value class";
     if (cls.isAbstract)
         text += ", abstract";
     for (std::size_t i = 0; i < cls.superclasses.size(); ++i)
@@ -121,8 +135,8 @@ std::string functionsText(PackageRecord const& package)
 
 std::string helpText(ClassRecord const& cls)
 {
-    return paragraph(cls.name + ": " + traits(cls), 0, 2) + paragraph(cls.description, 2, 2) + methodsText(cls) +
-           propertiesText(cls);
+    return paragraph(cls.name + ": " + traits(cls), 0, 2) + paragraph(cls.description, 2, 2) + enumeratorSection(cls) +
+           methodsText(cls) + propertiesText(cls);
 }
 
 std::string helpText(PackageRecord const& package)
@@ -141,6 +155,9 @@ std::string helpText(ClassRecord const& cls, std::string_view member)
     for (PropertyRecord const& property : cls.properties)
         if (property.name == member)
             text += entry(propertyLine(property), property.description);
+    for (EnumeratorRecord const& enumerator : cls.enumerators)
+        if (enumerator.name == member)
+            text += paragraph(enumeratorLine(enumerator), 2, 8);
     return text.empty() ? text : cls.name + '.' + std::string(member) + '\n' + text;
 }
 

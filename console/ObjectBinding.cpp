@@ -5,6 +5,7 @@
 #include "ScriptError.hpp"
 #include "ValueToHost.hpp"
 
+#include "additions/additions.hpp"
 #include "orbis/objectArrays.hpp"
 
 #include <new>
@@ -33,8 +34,21 @@ int release(lua_State* L)
     return 0;
 }
 
+/// The name of the enumerator at `index`; null for other objects.
+char const* enumeratorName(lua_State* L, int index)
+{
+    ArrayPtr const& array = holderAt(L, index)->array;
+    auto const* const enumerator =
+        array ? orbis::additions::describeEnumerator(orbis::omGetArrayElement(array.get(), 0)) : nullptr;
+    return enumerator ? enumerator->name : nullptr;
+}
+
 int toText(lua_State* L)
 {
+    if (char const* name = enumeratorName(L, 1)) {
+        pushText(L, name);
+        return 1;
+    }
     char const* state = isValidObject(L, 1) ? "" : "invalid ";
     pushText(L, state + std::string(objectClass(L, 1)) + " object");
     return 1;

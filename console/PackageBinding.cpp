@@ -98,13 +98,18 @@ int toText(lua_State* L)
     return 1;
 }
 
-/// `pairs(package)`: what it holds, by name.
+/// `pairs(package)`: what it holds, by name; of an enumeration the enumerators.
 int pairs(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
     lua_getglobal(L, "next");
     lua_newtable(L);
-    if (checkKind(L) == NameKind::Package)
+    if (checkKind(L) == NameKind::Class)
+        for (EnumeratorRecord const& enumerator : Session::of(L).hvm().describeClass(name).enumerators) {
+            readClassMember(L, name, enumerator.name);
+            lua_setfield(L, -2, enumerator.name.c_str());
+        }
+    else
         for (std::string const& part : packageContents(Session::of(L).hvm().describePackage(name)))
             if (pushName(L, std::string(name).append(1, '.').append(part)))
                 lua_setfield(L, -2, part.c_str());

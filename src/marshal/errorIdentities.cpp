@@ -30,6 +30,14 @@ no_such_class::no_such_class(char const* className) : BaseMsgID(catalog, "no_suc
 
 no_such_class::~no_such_class() = default;
 
+no_such_enumerator::no_such_enumerator(std::string const& className, std::string const& enumerator,
+                                       std::string const& known)
+    : BaseMsgID(catalog, "no_such_enumerator", {className, enumerator, known})
+{
+}
+
+no_such_enumerator::~no_such_enumerator() = default;
+
 } // namespace orbis_factory::orbis_factory
 
 namespace component_VELMARA::catalog_class {

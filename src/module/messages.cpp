@@ -15,6 +15,8 @@ constexpr orbis::additions::Message texts[] = {
     {"null_fcn_ptr", "The property has no function for this access: it can be either read or written, not both."},
     {"no_such_class", "An object of the class {0} cannot be handed out, because no such class is published: load the "
                       "module that publishes it."},
+    {"no_such_enumerator", "Enumeration {0} cannot pass on {1}, which the host and the native code do not both have: "
+                           "the native code has {2}."},
     {nullptr, nullptr},
 };
 

@@ -219,6 +219,9 @@ public:
         add("large", {{"double scalar", "less"}}, [](auto in) {
             return matrix<std::uint64_t>(1, 1, {most - static_cast<std::uint64_t>(in[0].template scalar<double>())});
         });
+        auto const same = [](auto in) { return copyOf(in[0].array()); };
+        add("hue", {{"palette.Color", "hue"}}, same); // an enumeration that scripts define
+        add("hues", {{"palette.Color vector", "hues"}}, same);
         add("grid", {}, [](auto) { return matrix<std::int8_t>(2, 3, {1, 4, 2, 5, 3, -6}); });
         add("column", {}, [](auto) { return matrix<float>(2, 1, {0.5F, 2.0F}); });
         add("characters", {}, [](auto) { return characters(); });

@@ -152,10 +152,10 @@ TEST_F(EnumerationTest, ObjectsTextAndNumbersMeanEnumerators)
         {numbers<bool>(hvLOGICAL_CLASS, {true}), refusal + "logical 1-by-1", ""},
         {objects({"Red", "Blue"}), refusal + "t.Color 1-by-2", "Red Blue "},
         {objects({}), refusal + "t.Color 1-by-0", " "},
-        {objects({nullptr}), refusal + "t.Color 1-by-1", ""},
+        {objects({nullptr}), refusal + "a null object", ""},
         {objects({"Red", nullptr}), refusal + "t.Color 1-by-2", ""},
-        {objects({nullptr}, "t.Other"), refusal + "t.Other 1-by-1", ""},
-        {nothing(), refusal + "double 0-by-0", " "},
+        {objects({nullptr}, "t.Other"), refusal + "a null object", ""},
+        {nothing(), refusal + "[]", " "},
         {doubles({1, -5}), refusal + "double 1-by-2", "Red Grün "},
         {doubles({1, 2}), refusal + "double 1-by-2", "element 1 (counted from 0): " + refusal + "2"},
         {strings({u"Red", u"Grün"}), refusal + "string 2-by-1", "Red Grün "},
@@ -167,7 +167,7 @@ TEST_F(EnumerationTest, ObjectsTextAndNumbersMeanEnumerators)
          "element 1 (counted from 0): " + refusal + "an empty cell"},
         {cells(cells(text(u"Red"))), refusal + "cell 1-by-1", "element 0 (counted from 0): " + refusal + "cell 1-by-1"},
         {cells(objects({nullptr})), refusal + "cell 1-by-1",
-         "element 0 (counted from 0): " + refusal + "t.Color 1-by-1"},
+         "element 0 (counted from 0): " + refusal + "a null object"},
     };
     for (Case const& c : cases) {
         EXPECT_EQ(answer("t.one", c.input), c.one);

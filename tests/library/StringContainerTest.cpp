@@ -1,4 +1,5 @@
 #include "HvmTest.hpp"
+#include "library/libraryFile.hpp"
 #include "library/texts.hpp"
 
 #include "orbis/factory/argumentErrors.hpp"
@@ -13,12 +14,6 @@ using namespace orbis::factory;
 using namespace texts;
 
 namespace {
-
-#if defined(_WIN32)
-constexpr char const* libraryFile = "orbis_factory.dll";
-#else
-constexpr char const* libraryFile = "./liborbis_factory.so";
-#endif
 
 using Strings = std::vector<fl::ustring>;
 using StringSet = std::set<fl::ustring>;

@@ -2,6 +2,7 @@
 
 #include "system/Class.hpp"
 #include "system/ScalarConversion.hpp"
+#include "system/emptyInput.hpp"
 #include "system/enumerationFit.hpp"
 
 #include "libkwi18n/libkwi18n.hpp"
@@ -33,6 +34,10 @@ std::string describeElement(Array const& input, std::size_t index)
 
 std::string describeGiven(Array const& input)
 {
+    if (isNothing(input))
+        return "[]";
+    if (input.classID() == hvOBJECT_CLASS && input.size() == 1 && !input.objects().front())
+        return "a null object";
     if (input.classID() == hvCHAR_CLASS && input.rows() <= 1)
         return quoted(input.text());
     if (input.size() == 1 && isListOfEnumerators(input) && input.classID() != hvCELL_CLASS)

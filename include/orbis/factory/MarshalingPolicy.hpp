@@ -86,7 +86,10 @@ consteval bool canCross()
         std::is_pointer_v<Native> && std::is_class_v<std::remove_pointer_t<Native>> && !HasPolicy<T>;
     static_assert(!isUnpublishedClass, "The class that this pointer points to is not published: specialise "
                                        "orbis::factory::HostClass for it, beside the class.");
-    static_assert(HasPolicy<T> || isUnpublishedClass,
+    constexpr bool isUnpublishedEnumeration = std::is_enum_v<Native> && !HasPolicy<T>;
+    static_assert(!isUnpublishedEnumeration, "This enumeration is not published: specialise "
+                                             "orbis::factory::HostEnumeration for it, beside the enumeration.");
+    static_assert(HasPolicy<T> || isUnpublishedClass || isUnpublishedEnumeration,
                   "There is no marshaling policy for this native type: include the header of its policy, or "
                   "specialise orbis::factory::MarshalingPolicy for it.");
     static_assert(!IsOutput<T>, "A parameter that is a reference to a non-const value cannot cross: take it by value, "

@@ -53,6 +53,14 @@ public:
     ~no_such_class() override;
 };
 
+/// An enumerator was to cross that the host and the native code do not both have. Arguments: the host class's name; the
+/// enumerator's name, or the native value where it has none; the names that the native code has.
+class ORBIS_FACTORY_API no_such_enumerator : public resource_core::BaseMsgID {
+public:
+    no_such_enumerator(std::string const& className, std::string const& enumerator, std::string const& known);
+    ~no_such_enumerator() override;
+};
+
 } // namespace orbis_factory::orbis_factory
 
 /// The identities of the host's catalog "VELMARA:class" that the library throws.

@@ -1,0 +1,18 @@
+// expect: Each enumerator has a name of its own: give every entry of HostEnumeration<E>::enumerators another one
+#include "orbis/factory/EnumerationClassInfo.hpp"
+
+enum class Color { Red, Green };
+
+#ifdef CONTROL
+constexpr char const* second = "Green";
+#else
+constexpr char const* second = "Red";
+#endif
+
+template <>
+struct orbis::factory::HostEnumeration<Color> {
+    static constexpr char const* name = "tests.Color";
+    static constexpr Enumerator<Color> enumerators[] = {{"Red", Color::Red}, {second, Color::Green}};
+};
+
+orbis::factory::EnumerationClassInfo<Color> const info("");

@@ -1,0 +1,52 @@
+-- run: --no-builtin SCRIPT
+-- Enumerations: defined by a script, used by name, by number and as objects.
+local function refused(f, ...)
+  print(select(2, pcall(f, ...)))
+end
+local function index(object, key) return object[key] end
+local function assign(object, key, value) object[key] = value end
+
+local Color = enumeration("palette.Color", {"Red", {"Green", 5}, "Blue", {"Crimson", 0}})
+print(Color, palette.Color == Color, class(Color))
+local red = palette.Color.Red
+print(red, class(red), isvalid(red), tostring(red) == "Red")
+print(red == Color.Red, red == Color.Crimson, red == Color.Green, red == "Red", Color.Crimson)
+print(cases.hue("Blue"), cases.hue(5), cases.hue(red) == red, cases.hue(cases.hue("Crimson")))
+for _, hues in ipairs {{red, Color.Blue}, {"Green", red, 6}, {0, 5}, "Blue", {"Red"}, {}} do
+  local given = cases.hues(hues)
+  if type(given) == "table" then for i, hue in ipairs(given) do given[i] = tostring(hue) end end
+  print(type(given) == "table" and table.concat(given, " ") or given)
+end
+help(Color)
+help("palette.Color.Green")
+local names = {}
+for name, hue in pairs(Color) do names[#names + 1] = name .. "=" .. tostring(hue) end
+table.sort(names)
+print(table.concat(names, " "))
+for _, value in ipairs {"Purple", "red", "", 7, 1.5, true, null, {}, {"Red", "Red"}, cases.Probe()} do
+  refused(cases.hue, value)
+end
+refused(cases.hues, {"Red", "Purple"})
+refused(cases.hues, {red, null})
+refused(index, Color, "Gren")
+refused(index, red, "Green")
+refused(assign, Color, "Red", 1)
+refused(Color)
+refused(delete, red)
+refused(delete, {red, Color.Blue})
+print(isvalid(red))
+refused(enumeration, "palette.Color", {"A"})
+refused(enumeration, "palette.Empty", {})
+refused(enumeration, "palette.Twice", {"A", "A"})
+refused(enumeration, "palette.Wrong", {"A", {"B"}})
+refused(enumeration, "palette.Wrong", {1})
+refused(enumeration, "palette.Wrong", {{"A", math.maxinteger}, "B"})
+refused(enumeration, "palette..Wrong", {"A"})
+refused(enumeration, 5)
+print(palette.Color.Blue, pcall(index, palette, "Empty"))
+print(enumeration("Wide", {{"Low", math.mininteger}, {"High", math.maxinteger}}).High)
+withvm(function()
+  refused(cases.hue, red)
+  refused(cases.hue, "Red")
+  print(tostring(red), enumeration("palette.Color", {"Red"}).Red == red)
+end)

@@ -1,0 +1,268 @@
+#include "HvmTest.hpp"
+#include "library/libraryFile.hpp"
+
+#include "orbis/factory/EnumerationClassInfo.hpp"
+#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/OptionalPolicy.hpp"
+#include "orbis/factory/describe.hpp"
+#include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+using namespace orbis;
+using namespace orbis::factory;
+using velmara::ArrayPtr;
+
+namespace {
+
+enum class Color : unsigned char { Red = 1, Green, Blue = 200, Crimson = Red };
+
+/// Its class is defined in the host, where the names have other values.
+enum Mode { modeOff = -1, modeOn = 1, modeAuto = 7 };
+
+} // namespace
+
+template <>
+struct orbis::factory::HostEnumeration<Color> {
+    static constexpr char const* name = "tests.Color";
+    static constexpr Enumerator<Color> enumerators[] = {
+        {"Blue", Color::Blue}, {"Red", Color::Red}, {"Crimson", Color::Crimson}, {"Green", Color::Green}};
+};
+
+template <>
+struct orbis::factory::HostEnumeration<Mode> {
+    static constexpr char const* name = "tests.host.Mode";
+    static constexpr bool isVelmaraImplemented = true;
+    static constexpr std::array<Enumerator<Mode>, 3> enumerators = {
+        {{"Off", modeOff}, {"On", modeOn}, {"Auto", modeAuto}}};
+};
+
+namespace {
+
+class Lamp {
+public:
+    explicit Lamp(Color color) : color_(color) { ++alive; }
+    virtual ~Lamp() { --alive; }
+    Color color() const { return color_; }
+    void setColor(Color const& color) { color_ = color; }
+    static Color unnamed() { return Color(9); }
+
+    inline static int alive = 0;
+
+private:
+    Color color_;
+};
+
+Color next(Color color)
+{
+    return color == Color::Red ? Color::Green : color == Color::Green ? Color::Blue : Color::Red;
+}
+
+std::vector<Color> reversed(std::vector<Color> const& colors)
+{
+    return {colors.rbegin(), colors.rend()};
+}
+
+int numberOf(Color color)
+{
+    return static_cast<int>(color);
+}
+
+} // namespace
+
+template <>
+struct orbis::factory::HostClass<Lamp> {
+    static constexpr char const* name = "tests.Lamp";
+};
+
+namespace {
+
+class LampInfo final : public HandleClassInfo<Lamp, 1> {
+public:
+    LampInfo() : HandleClassInfo("tests.Lamp", "") {}
+    void initializeClass(COSClass* cls) override
+    {
+        publish(cls, describe<Lamp>()
+                         .constructor<Color>("color")
+                         .method("get", &Lamp::color)
+                         .method("set", &Lamp::setColor)
+                         .staticMethod("unnamed", &Lamp::unnamed)
+                         .property("color", &Lamp::color, &Lamp::setColor)
+                         .staticProperty("first", [] { return Color::Blue; }));
+    }
+};
+
+class EnumerationTest : public HvmTest {
+protected:
+    EnumerationTest()
+    {
+        hvm().loadModule(libraryFile); // brings the texts
+        registerOrbisPackage("tests", [](COSPackage* package) {
+            package->addClass(new EnumerationClassInfo<Color>("What a lamp shines in"));
+            package->addClass(new LampInfo);
+            publish(package, describeFunctions()
+                                 .function("next", &next, "color")
+                                 .function("reversed", &reversed)
+                                 .function("numberOf", &numberOf)
+                                 .function("orRed", [](std::optional<Color> c) { return c.value_or(Color::Red); })
+                                 .function("unnamed",
+                                           [] {
+                                               return std::vector{Color::Red, Color(9)};
+                                           })
+                                 .function("kind", [](Color) { return 1; })
+                                 .function("kind", [](std::vector<Color>) { return 2; })
+                                 .function("kind", [](double) { return 3; })
+                                 .function("mode", [](int mode) { return Mode(mode); })
+                                 .function("numberOfMode", [](Mode mode) { return int(mode); })
+                                 .function("modes", [](std::vector<Mode> modes) { return modes; }));
+        });
+    }
+    ~EnumerationTest() override
+    {
+        endHvm();
+        EXPECT_EQ(Lamp::alive, 0);
+    }
+
+    ArrayPtr color(char const* name) { return hvm().getEnumerator("tests.Color", name); }
+    static ArrayPtr text(char const* text) { return ArrayPtr(hvCreateString(text)); }
+
+    ArrayPtr call(char const* function, ArrayPtr const& input)
+    {
+        hvArray* const inputs[] = {input.get()};
+        return hvm().callFunction(std::string("tests.") + function, std::span(inputs, input ? 1 : 0));
+    }
+
+    /// The names of the enumerators in an array.
+    static std::string names(ArrayPtr const& array)
+    {
+        std::string text = std::to_string(array->get_dimensions()[0]) + "-by-n";
+        for (std::size_t i = 0; i < array->get_number_of_elements(); ++i)
+            text += std::string(" ") + additions::describeEnumerator(omGetArrayElement(array.get(), i))->name;
+        return text;
+    }
+
+    template <class F>
+    static std::string messageOf(F&& action)
+    {
+        try {
+            action();
+        } catch (velmara::Error const& error) {
+            return error.what();
+        }
+        return {};
+    }
+};
+
+std::string const unknown = "orbis_factory:orbis_factory:no_such_enumerator: Enumeration ";
+
+} // namespace
+
+TEST_F(EnumerationTest, CrossesByName)
+{
+    velmara::ClassRecord const listed = hvm().describeClass("tests.Color");
+    ASSERT_EQ(listed.enumerators.size(), 4u);
+    EXPECT_EQ(listed.enumerators[0].value, 200);
+    EXPECT_EQ(listed.description, "What a lamp shines in");
+    EXPECT_TRUE(velmara::isSameObject(call("next", color("Red")).get(), color("Green").get()));
+    for (char const* name : {"Red", "Crimson"})
+        EXPECT_EQ(scalar<std::int32_t>(call("numberOf", text(name))), 1);
+    EXPECT_EQ(names(call("next", number(200))), "1-by-n Red");
+    EXPECT_EQ(names(call("reversed", number(2))), "1-by-n Green");
+    ArrayPtr const cells(hvCreateCellMatrix(3, 1));
+    hvSetCell(cells.get(), 0, hvCreateString("Red"));
+    hvSetCell(cells.get(), 1, color("Blue").release());
+    hvSetCell(cells.get(), 2, hvCreateString("Crimson"));
+    EXPECT_EQ(names(call("reversed", cells)), "1-by-n Red Blue Red");
+    ArrayPtr const none(additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+    EXPECT_EQ(names(call("reversed", none)), "1-by-n");
+    EXPECT_EQ(names(call("orRed", none)), "1-by-n Red");
+    EXPECT_EQ(names(call("orRed", text("Blue"))), "1-by-n Blue");
+    EXPECT_NE(messageOf([&] {
+                  call("next", text("Purple"));
+              }).find("color: needs one of Blue, Red, Crimson, Green, not 'Purple'"),
+              std::string::npos);
+}
+
+TEST_F(EnumerationTest, OverloadsAreChosenByIt)
+{
+    ArrayPtr const two = call("reversed", ArrayPtr(omCreateORBISMatrix(1, 0, "tests.Color")));
+    std::pair<ArrayPtr, int> const cases[] = {{color("Red"), 1},
+                                              {text("Red"), 1},
+                                              {call("reversed", text("Red")), 1},
+                                              {ArrayPtr(omCreateORBISMatrix(1, 0, "tests.Color")), 2},
+                                              {number(1), 3}};
+    for (auto const& [input, kind] : cases)
+        EXPECT_EQ(scalar<std::int32_t>(call("kind", input)), kind);
+}
+
+TEST_F(EnumerationTest, InMembersOfEveryKind)
+{
+    ArrayPtr const red = color("Red"), blue = color("Blue"), green = text("Green");
+    hvArray* inputs[] = {green.get()};
+    ArrayPtr const lamp = hvm().construct("tests.Lamp", inputs);
+    EXPECT_EQ(names(hvm().call(lamp.get(), "get")), "1-by-n Green");
+    inputs[0] = red.get();
+    hvm().call(lamp.get(), "set", inputs);
+    EXPECT_TRUE(velmara::isSameObject(hvm().get(lamp.get(), "color").get(), red.get()));
+    hvm().set(lamp.get(), "color", blue.get());
+    EXPECT_EQ(names(hvm().get(lamp.get(), "color")), "1-by-n Blue");
+    EXPECT_EQ(errorOf([&] { hvm().set(lamp.get(), "color", lamp.get()); }), "VELMARA:property:value");
+    EXPECT_EQ(names(hvm().getStatic("tests.Lamp", "first")), "1-by-n Blue");
+    velmara::ClassRecord const listed = hvm().describeClass("tests.Lamp");
+    EXPECT_EQ(listed.methods.at(0).inputs.at(0).dataType, "tests.Color");
+    EXPECT_EQ(listed.properties.at(0).dataType, "tests.Color");
+    EXPECT_EQ(hvm().describeFunction("tests.reversed").outputs.at(0).dataType, "tests.Color vector");
+}
+
+TEST_F(EnumerationTest, ValuesWithoutANameAreRefused)
+{
+    std::string const text =
+        unknown + "tests.Color cannot pass on 9, which the host and the native code do not both have: the native code "
+                  "has Blue, Red, Crimson, Green.";
+    EXPECT_EQ(messageOf([&] { hvm().callStatic("tests.Lamp", "unnamed"); }), text);
+    EXPECT_EQ(messageOf([&] { call("unnamed", nullptr); }), text);
+    EXPECT_THROW(detail::enumeratorFromHost(detail::enumerationRecord<Color>, nullptr), std::exception);
+}
+
+TEST_F(EnumerationTest, HostLanguageEnumerationsAreMatchedByName)
+{
+    EXPECT_EQ(errorOf([&] { call("mode", number(modeOn)); }), "orbis_factory:orbis_factory:no_such_class");
+    // Auto is missing; On is called Running first; Odd is not known to the native code.
+    std::vector<velmara::EnumeratorRecord> const modes{{"Odd", 1}, {"Running", 50}, {"On", 50}, {"Off", 60}};
+    hvm().defineEnumeration("tests.host.Mode", modes);
+    ArrayPtr const on = hvm().getEnumerator("tests.host.Mode", "Running");
+    EXPECT_TRUE(velmara::isSameObject(call("mode", number(modeOn)).get(), on.get()));
+    EXPECT_EQ(scalar<std::int32_t>(call("numberOfMode", on)), modeOn);
+    EXPECT_EQ(scalar<std::int32_t>(call("numberOfMode", number(60))), modeOff);
+    EXPECT_EQ(names(call("modes", text("Off"))), "1-by-n Off");
+    for (auto const& [function, given, refused] :
+         {std::tuple("mode", modeAuto, "Auto"), {"numberOfMode", modeOn, "Odd"}}) {
+        std::string const text = messageOf([&] { call(function, number(given)); });
+        EXPECT_EQ(text.substr(0, text.find(',')), unknown + "tests.host.Mode cannot pass on " + refused);
+    }
+}
+
+namespace {
+
+/// Reaches a private operation.
+using ScalarClassID = COSNameID (*)(COSNameID const&);
+ScalarClassID scalarClassID();
+
+template <ScalarClassID Operation>
+struct Reach {
+    friend ScalarClassID scalarClassID() { return Operation; }
+};
+template struct Reach<&Marshaler<EnumClassArrayPolicy>::getScalarClassID>;
+
+} // namespace
+
+TEST_F(EnumerationTest, TheElementsTypeNameIsWithoutTheLastSevenCharacters)
+{
+    for (auto const& [array, element] : {std::pair("tests.Color vector", "tests.Color"),
+                                         {"a vector of things", "a vector of"},
+                                         {" vector", ""},
+                                         {"vector", "vector"},
+                                         {"tests.Color", "tests.Color"}})
+        EXPECT_EQ(scalarClassID()(array), COSNameID(element)) << array;
+}
