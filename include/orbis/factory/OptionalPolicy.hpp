@@ -2,6 +2,7 @@
 
 #include "orbis/factory/MarshalingPolicy.hpp"
 #include "orbis/factory/detail/Argument.hpp"
+#include "orbis/factory/detail/ArgumentHolder.hpp"
 
 #include "additions/additions.hpp"
 #include "orbis/COSNameID.hpp"
@@ -21,7 +22,7 @@ class Marshaler<OptionalPolicy> {
 public:
     /// Holds the value, and what it may refer to, for the call.
     template <class Optional>
-    class FromM {
+    class FromM final : public detail::ArgumentHolder {
     public:
         explicit FromM(COSValue const& in)
         {
@@ -30,9 +31,6 @@ public:
             held_.emplace(in);
             value_.emplace(held_->get());
         }
-        FromM(FromM const&) = delete;
-        FromM& operator=(FromM const&) = delete;
-        ~FromM() = default;
 
         Optional&& value() { return std::move(value_); }
 

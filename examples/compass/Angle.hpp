@@ -1,0 +1,39 @@
+#pragma once
+
+#include "orbis/factory/MarshalingPolicy.hpp"
+
+/// An angle of the library's own; scripts know it as a number of degrees.
+struct Angle {
+    static constexpr double radiansOfDegree = 0.017453292519943295;
+
+    double radians = 0;
+};
+
+/// The policy: what the host carries an angle as, and the two ways between them.
+struct AnglePolicy {};
+
+template <>
+struct orbis::factory::Marshaler<AnglePolicy> {
+    template <class T>
+    static void toHost(T angle, orbis::COSValue* out)
+    {
+        *out = orbis::COSValue(angle.radians / Angle::radiansOfDegree);
+    }
+
+    template <class T>
+    static T fromHost(orbis::COSValue const& in)
+    {
+        return {in.scalar<double>() * Angle::radiansOfDegree};
+    }
+
+    template <class T>
+    static char const* dataTypeText()
+    {
+        return "double scalar";
+    }
+};
+
+template <>
+struct orbis::factory::MarshalingPolicy<Angle> {
+    using Type = AnglePolicy;
+};
