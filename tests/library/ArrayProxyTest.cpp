@@ -64,6 +64,7 @@ TEST_F(ArrayProxyTest, NativeFunctionsTakeAndGiveArrays)
                              .function("size", [](hvArrayProxy a) { return double(a()->get_number_of_elements()); })
                              .function("size2", [](hvConstArrayProxy const& a) { return double(a() != nullptr); })
                              .function("make", [] { return hvArrayProxy(hvCreateString("made")); })
+                             .function("echo", [](double, hvConstArrayProxy a) { return a; })
                              .function("none", [] { return hvConstArrayProxy(nullptr); })
                              .function("swap", [](Counted array) {
                                  std::swap(kept, array);
@@ -77,6 +78,9 @@ TEST_F(ArrayProxyTest, NativeFunctionsTakeAndGiveArrays)
         EXPECT_EQ(hvm().callFunction("tests.swap", inputs), nullptr);
         EXPECT_EQ(hvm().callFunction("tests.swap", inputs).get(), array.get()) << "with a reference of its own";
         kept = {};
+        ArrayPtr const one = number(1);
+        hvArray* const two[] = {one.get(), array.get()};
+        EXPECT_EQ(hvm().callFunction("tests.echo", two).get(), array.get()) << "with a reference of its own";
     }
     EXPECT_EQ(texts::textOf(hvm().callFunction("tests.make")), u"made");
     EXPECT_EQ(hvm().callFunction("tests.none"), nullptr);

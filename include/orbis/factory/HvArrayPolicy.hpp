@@ -5,6 +5,8 @@
 #include "orbis/factory/hvArrayProxy.hpp"
 #include "orbis/factory/hvConstArrayProxy.hpp"
 
+#include <type_traits>
+
 namespace orbis::factory {
 
 /// `hvArrayProxy` and `hvConstArrayProxy`: any host array, as it is. See there for who owns what.
@@ -50,5 +52,13 @@ template <>
 struct MarshalingPolicy<hvConstArrayProxy> {
     using Type = HvArrayPolicy;
 };
+
+namespace detail {
+
+template <class T>
+inline constexpr bool isArrayProxy =
+    std::is_same_v<std::remove_cvref_t<T>, hvArrayProxy> || std::is_same_v<std::remove_cvref_t<T>, hvConstArrayProxy>;
+
+} // namespace detail
 
 } // namespace orbis::factory

@@ -8,8 +8,8 @@
 namespace orbis::factory {
 
 /// A host array as it is, for native functions that want no conversion. Null is allowed. It owns nothing: an argument
-/// stays the host's, and a result hands its array over, so it is a new array (never the one of an argument; to give
-/// that back, use `hvArrayReferenceCountedProxy`).
+/// stays the host's, and lives for the call; a result is a new array, which it hands over, or an argument as it was
+/// given. To keep arrays, and to return those that are kept, use `hvArrayReferenceCountedProxy`.
 class ORBIS_FACTORY_API hvArrayProxy {
 public:
     hvArrayProxy(hvArray* array);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/factory/HvArrayPolicy.hpp"
 #include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/detail/Argument.hpp"
 #include "orbis/factory/detail/CallableTraits.hpp"
@@ -9,6 +10,7 @@
 
 #include "orbis/objectArrays.hpp"
 
+#include <algorithm>
 #include <type_traits>
 #include <utility>
 
@@ -16,13 +18,26 @@
 /// so functions of one type share their routine.
 namespace orbis::factory::detail {
 
+/// A function may return an array proxy that it was given: the host, whose that array stays, then gets a reference
+/// more.
+template <class Result>
+void shareGivenArray([[maybe_unused]] COSValue const& output, [[maybe_unused]] COSValue const* inputs,
+                     [[maybe_unused]] int inputCount)
+{
+    if constexpr (isArrayProxy<Result>) {
+        hvArray* const array = output.array();
+        if (array && std::any_of(inputs, inputs + inputCount, [=](COSValue in) { return in.array() == array; }))
+            array->add_reference();
+    }
+}
+
 template <class Pointer, class Result, class Parameters>
 struct FreeFunctionRoutine;
 
 template <class Pointer, class Result, class... A>
 struct FreeFunctionRoutine<Pointer, Result, TypeList<A...>> {
-    static void invoke(impl::Invoker const* invoker, COSClient const*, int& outputCount, COSValue* outputs, int,
-                       COSValue const* inputs)
+    static void invoke(impl::Invoker const* invoker, COSClient const*, int& outputCount, COSValue* outputs,
+                       int inputCount, COSValue const* inputs)
     {
         ArgumentsOf<A...> arguments(inputs);
         // Only a pointer can fail the check: the address of a converted value is never null.
@@ -32,6 +47,7 @@ struct FreeFunctionRoutine<Pointer, Result, TypeList<A...>> {
         }
         storeResult<Result>(outputCount, outputs,
                             [&]() -> Result { return arguments.apply(invoker->target.template as<Pointer>()); });
+        shareGivenArray<Result>(*outputs, inputs, inputCount);
     }
 };
 
@@ -40,8 +56,8 @@ struct MemberFunctionRoutine;
 
 template <class T, class Pointer, class Result, class... A>
 struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
-    static void invoke(impl::Invoker const* invoker, COSClient const*, int& outputCount, COSValue* outputs, int,
-                       COSValue const* inputs)
+    static void invoke(impl::Invoker const* invoker, COSClient const*, int& outputCount, COSValue* outputs,
+                       int inputCount, COSValue const* inputs)
     {
         T* const self = convertFromHost<T*>(inputs[0]);
         ArgumentsOf<A...> arguments(inputs + 1);
@@ -56,6 +72,7 @@ struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
                     return target(self, static_cast<decltype(values)>(values)...);
             });
         });
+        shareGivenArray<Result>(*outputs, inputs, inputCount);
     }
 };
 
