@@ -2,6 +2,7 @@
 #include "host/TestDescriptors.hpp"
 #include "host/messageIdOf.hpp"
 
+#include <algorithm>
 #include <stdexcept>
 
 using namespace described;
@@ -208,4 +209,30 @@ TEST_F(ObjectTest, ConstructorsRunOnAnInitialisedObjectAndFailCleanly)
     publish(abstract);
     EXPECT_EQ(errorOf([&] { hvm().construct("Abstract"); }), "VELMARA:class:abstract");
     EXPECT_EQ(errorOf([&] { hvm().construct("Missing"); }), "VELMARA:class:unknown");
+}
+
+TEST_F(ObjectTest, LiveObjectsAreListedWithWhoHoldsThem)
+{
+    publishHierarchy();
+    EXPECT_TRUE(hvm().objects().empty());
+    ArrayPtr const b = hvm().construct("B"), first = hvm().construct("A"), second = hvm().construct("A");
+    ArrayPtr const pair(orbis::omCreateORBISMatrix(1, 2, "A"));
+    orbis::omSetArrayElement(pair.get(), 0, objectIn(first));
+    COSInterfacePtr const strong = objectIn(second);
+    COSInterfacePtr weak = objectIn(second);
+    weak.setReferenceType(orbis::COSReferenceType::Weak);
+    objectIn(b)->setValid(false);
+
+    std::vector<velmara::ObjectRecord> const listed = hvm().objects();
+    auto const line = [](velmara::ObjectRecord const& object) {
+        return object.className + ' ' + std::to_string(object.externalReferences) +
+               std::to_string(object.internalReferences) + std::to_string(object.weakReferences) +
+               (object.isHandle ? 'h' : 'v') + (object.isValid ? 'y' : 'n') + (object.nativeObject ? 'y' : 'n');
+    };
+    std::vector<std::string> lines(listed.size());
+    std::ranges::transform(listed, lines.begin(), line);
+    EXPECT_EQ(lines, (std::vector<std::string>{"A 020hyy", "A 111hyy", "B 010hnn"}));
+    EXPECT_EQ(listed.front().nativeObject, objectIn(first)->getNativeObject("A"));
+    hvm().deleteObjects(first.get());
+    EXPECT_EQ(hvm().objects().size(), 2U);
 }

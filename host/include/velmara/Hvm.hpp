@@ -81,6 +81,9 @@ public:
     ClassRecord describeClass(std::string_view fullName);
     MethodRecord describeFunction(std::string_view fullName);
 
+    /// The objects that have not ended: by the packages' and classes' order of publication, each class's oldest first.
+    std::vector<ObjectRecord> objects() const;
+
 private:
     friend class Scope;
     std::unique_ptr<HvmState> state_;
@@ -91,6 +94,10 @@ VELMARA_API bool isValid(hvArray_tag const* array);
 
 /// True when both are object arrays of one element that is the same host object.
 VELMARA_API bool isSameObject(hvArray_tag const* a, hvArray_tag const* b);
+
+/// True when both have one class and one size, and all elements are the same: numbers and texts bit for bit, objects by
+/// identity. Two nulls are equal.
+VELMARA_API bool isEqual(hvArray_tag const* a, hvArray_tag const* b);
 
 /// The name of an array's class: "double", "char", "cell", a published class, ...
 VELMARA_API std::string className(hvArray_tag const* array);

@@ -72,6 +72,17 @@ struct PackageRecord {
     std::vector<MethodRecord> functions;
 };
 
+/// A host object that has not ended. The counts tell who keeps it alive.
+struct ObjectRecord {
+    std::string className;
+    bool isHandle = true; ///< of a handle class: the object refers to its native object; else it holds a value
+    bool isValid = true;
+    int externalReferences = 0;         ///< handles that native code holds
+    int internalReferences = 0;         ///< arrays that hold it: the script's, and those in cells and in calls
+    int weakReferences = 0;             ///< handles that do not keep it alive
+    void const* nativeObject = nullptr; ///< what stands behind it for its own class, null when there is nothing
+};
+
 struct ModuleRecord {
     std::string name; ///< the name in its entry points, such as "orbis_factory"
     std::string file;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -31,6 +32,7 @@ std::size_t byteSize(std::span<StringElement const> strings)
 bool areEqual(hvArray_tag const* first, hvArray_tag const* second)
 {
     std::vector<std::pair<Array const*, Array const*>> open{{Array::of(first), Array::of(second)}};
+    std::set<std::pair<void const*, void const*>> seen; // cells may hold the same cells many times over
     while (!open.empty()) {
         auto const [a, b] = open.back();
         open.pop_back();
@@ -39,6 +41,8 @@ bool areEqual(hvArray_tag const* first, hvArray_tag const* second)
         if (!a || !b || !haveSameShape(*a, *b))
             return false;
         if (a->classID() == hvCELL_CLASS) {
+            if (a->elements() == b->elements() || !seen.emplace(a->elements(), b->elements()).second)
+                continue;
             for (std::size_t i = 0; i < a->size(); ++i)
                 open.emplace_back(a->cells()[i], b->cells()[i]);
         } else if (a->classID() == hvOBJECT_CLASS) {

@@ -4,6 +4,7 @@
 #include "system/HvmState.hpp"
 #include "system/ModuleList.hpp"
 #include "system/listings.hpp"
+#include "system/objectListing.hpp"
 
 namespace velmara {
 
@@ -51,6 +52,11 @@ ClassRecord Hvm::describeClass(std::string_view fullName)
 MethodRecord Hvm::describeFunction(std::string_view fullName)
 {
     return callInto(*state_, [&] { return velmara::describeFunction(*state_, fullName); });
+}
+
+std::vector<ObjectRecord> Hvm::objects() const
+{
+    return listObjects(*state_);
 }
 
 } // namespace velmara

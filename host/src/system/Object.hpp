@@ -82,6 +82,10 @@ public:
     void removeReference() override { removeExternal(); }
     int getExternalReferenceCount() const override { return external_; }
     int getInternalReferenceCount() const override { return internal_; }
+    int weakReferenceCount() const { return weak_; }
+
+    /// The native object for its own class, null when there is none.
+    void const* ownNativeObject() const { return own_.native; }
 
 private:
     friend class ObjectList;

@@ -35,6 +35,17 @@ public:
             first_->end();
     }
 
+    /// Calls `visit` with each object, the oldest first; the list must not change meanwhile.
+    template <class Visit>
+    void forEach(Visit const& visit) const
+    {
+        Object const* object = first_;
+        while (object && object->next_)
+            object = object->next_;
+        for (; object; object = object->previous_)
+            visit(*object);
+    }
+
 private:
     Object* first_ = nullptr;
 };

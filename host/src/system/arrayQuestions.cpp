@@ -1,5 +1,6 @@
 #include "velmara/Hvm.hpp"
 
+#include "system/ArrayComparison.hpp"
 #include "system/Object.hpp"
 #include "values/Array.hpp"
 
@@ -27,6 +28,11 @@ bool isSameObject(hvArray_tag const* a, hvArray_tag const* b)
 {
     return isObjectArray(a) && isObjectArray(b) && Array::of(a)->size() == 1 && Array::of(b)->size() == 1 &&
            Array::of(a)->objects().front() && Array::of(a)->objects().front() == Array::of(b)->objects().front();
+}
+
+bool isEqual(hvArray_tag const* a, hvArray_tag const* b)
+{
+    return areEqual(a, b);
 }
 
 std::string className(hvArray_tag const* array)

@@ -1,0 +1,38 @@
+#include "system/objectListing.hpp"
+
+#include "system/HvmState.hpp"
+#include "system/PackageTree.hpp"
+
+namespace velmara {
+
+namespace {
+
+ObjectRecord record(Object const& object, Class const& cls)
+{
+    return {.className = std::string(object.className()->view()),
+            .isHandle = cls.info().isHandle(),
+            .isValid = object.isValid(),
+            .externalReferences = object.getExternalReferenceCount(),
+            .internalReferences = object.getInternalReferenceCount(),
+            .weakReferences = object.weakReferenceCount(),
+            .nativeObject = object.ownNativeObject()};
+}
+
+void addObjects(Package const& package, std::vector<ObjectRecord>& listed)
+{
+    for (auto const& cls : package.classes())
+        cls->objects().forEach([&](Object const& object) { listed.push_back(record(object, *cls)); });
+    for (auto const& inner : package.packages())
+        addObjects(*inner, listed);
+}
+
+} // namespace
+
+std::vector<ObjectRecord> listObjects(HvmState& machine)
+{
+    std::vector<ObjectRecord> listed;
+    addObjects(machine.packages().root(), listed);
+    return listed;
+}
+
+} // namespace velmara
