@@ -1,5 +1,6 @@
 #include "Prompt.hpp"
 
+#include "CoroutineFunctions.hpp"
 #include "DisplayText.hpp"
 #include "ErrorReport.hpp"
 #include "Interruption.hpp"
@@ -82,6 +83,7 @@ void runChunk(lua_State* L, int base)
 
 void runPrompt(lua_State* L)
 {
+    bindCoroutineFunctions(L);
     LineReader reader(L);
     std::puts("velmara: help() tells what there is; end with Ctrl-D.");
     int const base = lua_gettop(L);
