@@ -1,5 +1,6 @@
 #include "Console.hpp"
 
+#include "ArrayFunctions.hpp"
 #include "EnumerationFunction.hpp"
 #include "ErrorReport.hpp"
 #include "ExitCode.hpp"
@@ -29,6 +30,7 @@ struct Run {
 void prepare(lua_State* L, Run const& run)
 {
     openScriptLibraries(L);
+    bindArrayFunctions(L);
     bindObjectFunctions(L);
     bindModuleFunctions(L);
     bindEnumerationFunction(L);

@@ -1,21 +1,23 @@
 #include "HostArray.hpp"
 
+#include "ArrayAccess.hpp"
+#include "ArrayText.hpp"
 #include "NumericClass.hpp"
 #include "ScriptError.hpp"
+#include "ValueToHost.hpp"
 
-#include "velmara/Hvm.hpp"
+#include "velmara/ArrayPtr.hpp"
 
-#include "additions/additions.hpp"
-
-#include <cstring>
+#include <algorithm>
+#include <limits>
 #include <new>
+#include <utility>
 
 namespace velmara::console {
 
 namespace {
 
 constexpr char const* arrayType = "velmara.array";
-constexpr char const* nullType = "velmara.null";
 
 struct Holder {
     ArrayPtr array;
@@ -23,53 +25,15 @@ struct Holder {
 
 int release(lua_State* L)
 {
-    static_cast<Holder*>(luaL_checkudata(L, 1, arrayType))->array.reset();
+    // The array last: objects in it that end run native code.
+    ArrayPtr const given = std::exchange(static_cast<Holder*>(luaL_checkudata(L, 1, arrayType))->array, nullptr);
     return 0;
-}
-
-int length(lua_State* L)
-{
-    auto const* holder = static_cast<Holder*>(luaL_checkudata(L, 1, arrayType));
-    lua_pushinteger(L, holder->array ? static_cast<lua_Integer>(holder->array->get_number_of_elements()) : 0);
-    return 1;
-}
-
-std::string describe(hvArray_tag const& array)
-{
-    if (array._get_class_id_non_trivial() == hvUINT64_CLASS && array.get_number_of_elements() == 1)
-        return std::to_string(*static_cast<std::uint64_t const*>(orbis::additions::getData(&array)));
-    std::size_t const* sizes = array.get_dimensions();
-    return std::to_string(sizes[0]) + "-by-" + std::to_string(sizes[1]) + ' ' + className(&array) + " array";
 }
 
 int toText(lua_State* L)
 {
-    auto const* holder = static_cast<Holder*>(luaL_checkudata(L, 1, arrayType));
-    pushText(L, holder->array ? describe(*holder->array) : "array given back");
-    return 1;
-}
-
-/// Equal are arrays of one class, size and content; of other than numeric classes only an array and itself.
-bool areEqual(hvArray_tag const& a, hvArray_tag const& b)
-{
-    if (&a == &b)
-        return true;
-    hvClassID const classID = a._get_class_id_non_trivial();
-    std::size_t const* sizesA = a.get_dimensions();
-    std::size_t const* sizesB = b.get_dimensions();
-    if (classID != b._get_class_id_non_trivial() || sizesA[0] != sizesB[0] || sizesA[1] != sizesB[1])
-        return false;
-    void const* dataA = orbis::additions::getData(&a);
-    void const* dataB = orbis::additions::getData(&b);
-    std::size_t const size = elementSize(classID) * a.get_number_of_elements();
-    return dataA && dataB && std::memcmp(dataA, dataB, size) == 0;
-}
-
-int compare(lua_State* L)
-{
-    hvArray_tag const* a = testHostArray(L, 1);
-    hvArray_tag const* b = testHostArray(L, 2);
-    lua_pushboolean(L, a && b && areEqual(*a, *b));
+    hvArray_tag const* const array = testHostArray(L, 1);
+    pushText(L, array ? arrayText(L, *array) : "array given back");
     return 1;
 }
 
@@ -79,8 +43,11 @@ void pushArrayMetatable(lua_State* L)
         return;
     luaL_Reg const functions[] = {{"__gc", release},
                                   {"__close", release},
-                                  {"__len", guarded<length>},
-                                  {"__eq", guarded<compare>},
+                                  {"__index", guarded<readArray>},
+                                  {"__newindex", guarded<writeArray>},
+                                  {"__len", guarded<countElements>},
+                                  {"__pairs", guarded<iterateArray>},
+                                  {"__eq", guarded<compareArrays>},
                                   {"__tostring", guarded<toText>},
                                   {nullptr, nullptr}};
     luaL_setfuncs(L, functions, 0);
@@ -88,21 +55,30 @@ void pushArrayMetatable(lua_State* L)
     lua_setfield(L, -2, "__metatable");
 }
 
-int nullToText(lua_State* L)
+/// Lua sees a few bytes of an array, and would collect those out of use far too late.
+void tellCollector(lua_State* L, hvArray_tag const& array)
 {
-    lua_pushliteral(L, "null");
-    return 1;
+    std::size_t const bytes = array.get_number_of_elements() * memoryOfElement(array._get_class_id_non_trivial());
+    constexpr std::size_t most = std::numeric_limits<int>::max() / 1024;
+    if (bytes >= 1024 && lua_gc(L, LUA_GCISRUNNING))
+        lua_gc(L, LUA_GCSTEP, static_cast<int>(std::min(bytes / 1024, most)));
 }
 
 } // namespace
 
-void pushHostArray(lua_State* L, ArrayPtr array)
+void pushHostArray(lua_State* L, hvArray_tag const& array)
 {
     luaL_checkstack(L, 4, nullptr);
     auto* holder = new (lua_newuserdatauv(L, sizeof(Holder), 0)) Holder;
     pushArrayMetatable(L);
     lua_setmetatable(L, -2);
-    holder->array = std::move(array);
+    holder->array.reset(hvCreateSharedDataCopy(&array));
+    tellCollector(L, array);
+}
+
+bool isHostArray(lua_State* L, int index)
+{
+    return luaL_testudata(L, index, arrayType) != nullptr;
 }
 
 hvArray_tag* testHostArray(lua_State* L, int index)
@@ -111,25 +87,13 @@ hvArray_tag* testHostArray(lua_State* L, int index)
     return holder ? holder->array.get() : nullptr;
 }
 
-void pushNull(lua_State* L)
+hvArray_tag* checkHostArray(lua_State* L, int index)
 {
-    if (lua_getfield(L, LUA_REGISTRYINDEX, "velmara.null.value") == LUA_TUSERDATA)
-        return;
-    lua_pop(L, 1);
-    lua_newuserdatauv(L, 0, 0);
-    luaL_newmetatable(L, nullType);
-    lua_pushcfunction(L, nullToText);
-    lua_setfield(L, -2, "__tostring");
-    lua_pushliteral(L, "null");
-    lua_setfield(L, -2, "__metatable");
-    lua_setmetatable(L, -2);
-    lua_pushvalue(L, -1);
-    lua_setfield(L, LUA_REGISTRYINDEX, "velmara.null.value");
-}
-
-bool isNull(lua_State* L, int index)
-{
-    return luaL_testudata(L, index, nullType) != nullptr;
+    if (!isHostArray(L, index))
+        fail("noArray", kindAt(L, index) + " is no array of the host");
+    if (hvArray_tag* const array = testHostArray(L, index))
+        return array;
+    fail("closed", "this array was given back");
 }
 
 } // namespace velmara::console

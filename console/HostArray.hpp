@@ -2,20 +2,22 @@
 
 #include "LuaApi.hpp"
 
-#include "velmara/ArrayPtr.hpp"
+#include "libhv/hvArray.hpp"
 
 namespace velmara::console {
 
-/// Host arrays that no Lua value stands for: a value of their own in scripts, passed back as they are.
+/// Host arrays as values of their own in scripts: they have class, size and elements, and are passed back as they are.
 
-/// Pushes the array; it is the script's from then on.
-void pushHostArray(lua_State* L, ArrayPtr array);
+/// Pushes a copy of the array that shares its data until one side is written to. Memory that Lua does not know of makes
+/// it collect what is out of use, so finalizers of the script may run.
+void pushHostArray(lua_State* L, hvArray_tag const& array);
 
-/// The array at `index`, or null when there is none.
+bool isHostArray(lua_State* L, int index);
+
+/// The array at `index`, or null when there is none, or it was given back.
 hvArray_tag* testHostArray(lua_State* L, int index);
 
-/// The value `null`: it stands for nothing where `nil` cannot, as an element of a table.
-void pushNull(lua_State* L);
-bool isNull(lua_State* L, int index);
+/// The same; throws an `Error` in place of null.
+hvArray_tag* checkHostArray(lua_State* L, int index);
 
 } // namespace velmara::console

@@ -1,5 +1,6 @@
 #include "HostCall.hpp"
 
+#include "HostArray.hpp"
 #include "ValueToHost.hpp"
 #include "ValueToLua.hpp"
 
@@ -37,7 +38,11 @@ int HostCall::finish(ArrayPtr result)
 {
     if (!result)
         return 0;
-    pushValue(L_, kept_.push(std::move(result)));
+    hvArray_tag const* const kept = kept_.push(std::move(result));
+    if (keepsArray_)
+        pushHostArray(L_, *kept);
+    else
+        pushValue(L_, kept);
     return 1;
 }
 

@@ -3,13 +3,21 @@
 #include "ArrayStack.hpp"
 #include "Session.hpp"
 
+#include <utility>
+
 namespace velmara::console {
 
 /// One crossing from a script to the host: the inputs are taken from the Lua function's arguments, the result is
 /// pushed, and all arrays of the crossing are given back at its end.
 class HostCall {
 public:
-    explicit HostCall(lua_State* L) : L_(L), session_(Session::of(L)), kept_(session_.arrays()) {}
+    explicit HostCall(lua_State* L)
+        : L_(L),
+          session_(Session::of(L)),
+          kept_(session_.arrays()),
+          keepsArray_(std::exchange(session_.keepsNextArray(), false))
+    {
+    }
 
     Hvm& hvm() { return session_.hvm(); }
 
@@ -26,6 +34,7 @@ private:
     lua_State* L_;
     Session& session_;
     ArrayStack::Frame kept_;
+    bool keepsArray_;
 };
 
 } // namespace velmara::console

@@ -7,11 +7,13 @@
 
 namespace velmara::console {
 
-/// Calls `visit` with a null pointer to the native type of a numeric class; does nothing for other classes.
+/// Calls `visit` with a null pointer to the native type of a numeric or the logical class; does nothing for others.
 template <class Visit>
 void visitNumericClass(hvClassID classID, Visit&& visit)
 {
     switch (classID) {
+    case hvLOGICAL_CLASS:
+        return visit(static_cast<bool*>(nullptr));
     case hvDOUBLE_CLASS:
         return visit(static_cast<double*>(nullptr));
     case hvSINGLE_CLASS:
@@ -37,12 +39,26 @@ void visitNumericClass(hvClassID classID, Visit&& visit)
     }
 }
 
-/// Bytes an element of a numeric class; 0 for other classes.
+/// Bytes an element of a numeric or the logical class; 0 for other classes.
 inline std::size_t elementSize(hvClassID classID)
 {
     std::size_t size = 0;
     visitNumericClass(classID, [&]<class T>(T*) { size = sizeof(T); });
     return size;
+}
+
+/// About what an element of any class takes of memory, with what hangs on it.
+inline std::size_t memoryOfElement(hvClassID classID)
+{
+    switch (classID) {
+    case hvCHAR_CLASS:
+        return sizeof(char16_t);
+    case hvCELL_CLASS:
+    case hvSTRING_CLASS:
+        return 96;
+    default:
+        return elementSize(classID) != 0 ? elementSize(classID) : sizeof(void*);
+    }
 }
 
 } // namespace velmara::console

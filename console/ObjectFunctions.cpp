@@ -3,6 +3,7 @@
 #include "HostArray.hpp"
 #include "HostCall.hpp"
 #include "ObjectBinding.hpp"
+#include "ObjectListing.hpp"
 #include "Proxy.hpp"
 #include "ScriptError.hpp"
 #include "ValueToHost.hpp"
@@ -50,13 +51,13 @@ int classOf(lua_State* L)
 /// Ends an object, or the objects in a table, now.
 int deleteObjects(lua_State* L)
 {
-    if (!isObject(L, 1) && (!lua_istable(L, 1) || !proxyName(L, 1).empty()))
+    if (!isObject(L, 1) && !isHostArray(L, 1) && (!lua_istable(L, 1) || !proxyName(L, 1).empty()))
         fail("noObject", "delete needs an object, not " + kindAt(L, 1));
     lua_settop(L, 1);
     HostCall call(L);
     hvArray_tag* objects = call.inputs(1).front();
     if (objects->_get_class_id_non_trivial() != hvOBJECT_CLASS && objects->get_number_of_elements() != 0)
-        fail("noObject", "delete needs an object, or a table of objects of one class");
+        fail("noObject", "delete needs an object, or a table or an array of objects of one class");
     if (objects->get_number_of_elements() != 0)
         call.hvm().deleteObjects(objects);
     return 0;
@@ -68,6 +69,8 @@ int isValidValue(lua_State* L)
     bool result = false;
     if (isObject(L, 1))
         result = isValidObject(L, 1);
+    else if (isHostArray(L, 1))
+        result = isValid(testHostArray(L, 1));
     else if (auto const name = proxyName(L, 1); !name.empty())
         result = Session::of(L).hvm().lookUp(name) != NameKind::None;
     lua_pushboolean(L, result);
@@ -81,8 +84,7 @@ void bindObjectFunctions(lua_State* L)
     lua_register(L, "class", guarded<classOf>);
     lua_register(L, "delete", guarded<deleteObjects>);
     lua_register(L, "isvalid", guarded<isValidValue>);
-    pushNull(L);
-    lua_setglobal(L, "null");
+    lua_register(L, "objects", guarded<listObjects>);
 }
 
 } // namespace velmara::console

@@ -29,6 +29,9 @@ public:
     /// The virtual machine in use: the innermost one.
     Hvm& hvm() { return *machines_.back(); }
 
+    /// Set for the next crossing: its result stays an array of the host.
+    bool& keepsNextArray() { return keepsNextArray_; }
+
     /// While this lives a fresh virtual machine with the same modules is in use.
     class FreshMachine {
     public:
@@ -59,6 +62,7 @@ private:
     ArrayStack arrays_;
     LuaState lua_;
     bool checksLeaks_ = false;
+    bool keepsNextArray_ = false;
 };
 
 } // namespace velmara::console

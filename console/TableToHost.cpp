@@ -1,9 +1,10 @@
 #include "TableToHost.hpp"
 
-#include "HostArray.hpp"
+#include "ArrayElement.hpp"
+#include "NumericClass.hpp"
 #include "ObjectBinding.hpp"
-#include "Proxy.hpp"
 #include "ScriptError.hpp"
+#include "TableElements.hpp"
 #include "ValueToHost.hpp"
 
 #include "additions/additions.hpp"
@@ -15,66 +16,6 @@
 namespace velmara::console {
 
 namespace {
-
-/// What the elements of a sequence have in common.
-struct Elements {
-    std::size_t count = 0;
-    bool areNumbers = true;
-    bool areIntegers = true;
-    bool areExactDoubles = true;
-    bool areBooleans = true;
-    bool areObjects = true;
-    bool areTables = true;
-
-    bool areScalars() const { return count > 0 && (areNumbers || areBooleans); }
-};
-
-void note(lua_State* L, int index, Elements& elements)
-{
-    int const type = lua_type(L, index);
-    bool const isInteger = lua_isinteger(L, index) != 0;
-    elements.areNumbers = elements.areNumbers && type == LUA_TNUMBER;
-    elements.areIntegers = elements.areIntegers && isInteger;
-    elements.areExactDoubles = elements.areExactDoubles && (!isInteger || isExactDouble(lua_tointeger(L, index)));
-    elements.areBooleans = elements.areBooleans && type == LUA_TBOOLEAN;
-    elements.areObjects = elements.areObjects && type == LUA_TUSERDATA && isObject(L, index);
-    elements.areTables = elements.areTables && type == LUA_TTABLE;
-    ++elements.count;
-}
-
-/// The key at `index`, for an error text.
-std::string keyText(lua_State* L, int index)
-{
-    if (lua_type(L, index) != LUA_TSTRING && lua_type(L, index) != LUA_TNUMBER)
-        return kindAt(L, index);
-    lua_pushvalue(L, index); // a number is turned into text where it stands
-    lua_tolstring(L, -1, nullptr);
-    std::string text = '\'' + std::string(textAt(L, -1)) + '\'';
-    lua_pop(L, 1);
-    return text;
-}
-
-/// Walks all pairs: the table is a sequence when every key is an integer from 1 on and none is missing.
-Elements elementsOf(lua_State* L, int table)
-{
-    if (auto const name = proxyName(L, table); !name.empty())
-        fail("value", "the name " + std::string(name) + " cannot be passed to the host");
-    luaL_checkstack(L, 8, nullptr);
-    Elements elements;
-    lua_Integer last = 0;
-    for (lua_pushnil(L); lua_next(L, table); lua_pop(L, 1)) {
-        lua_Integer const key = lua_isinteger(L, -2) ? lua_tointeger(L, -2) : 0;
-        if (key < 1)
-            fail("table",
-                 "a table must be a sequence to be passed to the host; this one has the key " + keyText(L, -2));
-        last = std::max(last, key);
-        note(L, -1, elements);
-    }
-    if (static_cast<std::size_t>(last) != elements.count)
-        fail("table", "a table must be a sequence to be passed to the host; this one has holes before element " +
-                          std::to_string(last) + " (write null for an empty element)");
-    return elements;
-}
 
 /// What all rows have in common when they can be the rows of one matrix; a count of 0 when they cannot.
 Elements commonRow(lua_State* L, int table, std::size_t count)
@@ -161,19 +102,13 @@ ArrayPtr objectRow(lua_State* L, int table, std::size_t count)
     return array;
 }
 
-ArrayPtr cellRow(lua_State* L, int table, std::size_t count, int depth)
+ArrayPtr cellRow(lua_State* L, int table, std::size_t count, Conversion& conversion)
 {
+    conversion.add(count, memoryOfElement(hvCELL_CLASS));
     ArrayPtr cells(hvCreateCellMatrix(1, count));
     for (std::size_t i = 0; i < count; ++i) {
         lua_rawgeti(L, table, static_cast<lua_Integer>(i + 1));
-        if (!isNull(L, -1)) {
-            ArrayPtr value = toHost(L, -1, depth + 1);
-            // An array that the script holds gets a copy of its own in the cell.
-            if (lua_type(L, -1) == LUA_TUSERDATA)
-                value.reset(hvCreateSharedDataCopy(value.get()));
-            hvSetCell(cells.get(), i, value.get());
-            static_cast<void>(value.release());
-        }
+        storeElement(L, lua_gettop(L), cells.get(), i, conversion);
         lua_pop(L, 1);
     }
     return cells;
@@ -181,15 +116,14 @@ ArrayPtr cellRow(lua_State* L, int table, std::size_t count, int depth)
 
 } // namespace
 
-ArrayPtr tableToHost(lua_State* L, int index, int depth)
+ArrayPtr tableToHost(lua_State* L, int index, Conversion& conversion)
 {
-    if (depth >= deepestNesting)
-        fail("table",
-             "the table is nested deeper than " + std::to_string(deepestNesting) + " levels, or contains itself");
+    Conversion::Level const level(conversion, "tables");
     Elements const elements = elementsOf(L, index);
     if (elements.count == 0)
         return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
     if (elements.areScalars()) {
+        conversion.add(elements.count, sizeof(double));
         ArrayPtr row(orbis::additions::createMatrix(1, elements.count, scalarClass(elements)));
         storeRow(L, index, row.get(), 0, 1, elements.count);
         return row;
@@ -198,9 +132,11 @@ ArrayPtr tableToHost(lua_State* L, int index, int depth)
         if (ArrayPtr row = objectRow(L, index, elements.count))
             return row;
     if (elements.areTables)
-        if (Elements const row = commonRow(L, index, elements.count); row.count > 0)
+        if (Elements const row = commonRow(L, index, elements.count); row.count > 0) {
+            conversion.add(elements.count * row.count, sizeof(double));
             return matrix(L, index, elements.count, row);
-    return cellRow(L, index, elements.count, depth);
+        }
+    return cellRow(L, index, elements.count, conversion);
 }
 
 } // namespace velmara::console

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Conversion.hpp"
 #include "LuaApi.hpp"
 
 #include "velmara/ArrayPtr.hpp"
@@ -15,6 +16,6 @@ namespace velmara::console {
 /// - sequences of numbers (of booleans) of one length: a matrix, one sequence a row
 /// - anything else: a row of cells, `null` for an empty one
 /// - nothing: an empty 0-by-0 double
-ArrayPtr tableToHost(lua_State* L, int index, int depth);
+ArrayPtr tableToHost(lua_State* L, int index, Conversion& conversion);
 
 } // namespace velmara::console

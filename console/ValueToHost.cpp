@@ -1,15 +1,17 @@
 #include "ValueToHost.hpp"
 
 #include "HostArray.hpp"
+#include "Nothing.hpp"
 #include "ObjectBinding.hpp"
 #include "Proxy.hpp"
 #include "ScriptError.hpp"
 #include "TableToHost.hpp"
 
-#include "additions/additions.hpp"
-#include "libkwi18n/libkwi18n.hpp"
+#include "velmara/Hvm.hpp"
 
-#include <algorithm>
+#include "additions/additions.hpp"
+#include "libhv/libhv.hpp"
+#include "libkwi18n/libkwi18n.hpp"
 
 namespace velmara::console {
 
@@ -35,23 +37,24 @@ ArrayPtr number(lua_State* L, int index)
 
 ArrayPtr text(std::string_view utf8)
 {
-    std::u16string const utf16 = fl::i18n::to_ustring(std::string(utf8));
-    if (utf16.empty())
-        return ArrayPtr(orbis::additions::createMatrix(0, 0, hvCHAR_CLASS));
-    ArrayPtr array(orbis::additions::createMatrix(1, utf16.size(), hvCHAR_CLASS));
-    std::ranges::copy(utf16, static_cast<char16_t*>(orbis::additions::getWritableData(array.get())));
-    return array;
+    return ArrayPtr(orbis::additions::createText(fl::i18n::to_ustring(std::string(utf8))));
 }
 
 ArrayPtr userdata(lua_State* L, int index)
 {
     if (isNull(L, index))
         return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
-    hvArray_tag* array = isObject(L, index) ? checkObject(L, index) : testHostArray(L, index);
-    if (!array)
+    if (isMissing(L, index))
+        return ArrayPtr(orbis::additions::createStringMatrix(1, 1));
+    if (isObject(L, index)) {
+        hvArray_tag* const object = checkObject(L, index);
+        object->add_reference();
+        return ArrayPtr(object);
+    }
+    if (!isHostArray(L, index))
         fail("value", kindAt(L, index) + " cannot be passed to the host");
-    array->add_reference();
-    return ArrayPtr(array);
+    // The script may write to its array later: whoever keeps this one sees nothing of it.
+    return ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, index)));
 }
 
 } // namespace
@@ -69,6 +72,10 @@ std::string kindAt(lua_State* L, int index)
     case LUA_TUSERDATA:
         if (isObject(L, index))
             return "an object of " + std::string(objectClass(L, index));
+        if (hvArray_tag const* const array = testHostArray(L, index))
+            return "an array of class " + className(array);
+        if (isNull(L, index) || isMissing(L, index))
+            return isNull(L, index) ? "null" : "missing";
         break;
     default:
         break;
@@ -76,7 +83,7 @@ std::string kindAt(lua_State* L, int index)
     return std::string("a ") + luaL_typename(L, index);
 }
 
-ArrayPtr toHost(lua_State* L, int index, int depth)
+ArrayPtr toHost(lua_State* L, int index, Conversion& conversion)
 {
     switch (lua_type(L, index)) {
     case LUA_TNIL:
@@ -88,7 +95,7 @@ ArrayPtr toHost(lua_State* L, int index, int depth)
     case LUA_TSTRING:
         return text(textAt(L, index));
     case LUA_TTABLE:
-        return tableToHost(L, lua_absindex(L, index), depth);
+        return tableToHost(L, lua_absindex(L, index), conversion);
     case LUA_TUSERDATA:
         return userdata(L, index);
     default:

@@ -1,13 +1,12 @@
 #include "ValueToLua.hpp"
 
+#include "ArrayElement.hpp"
 #include "HostArray.hpp"
+#include "Nothing.hpp"
 #include "NumericClass.hpp"
 #include "ObjectBinding.hpp"
-#include "ScriptError.hpp"
-#include "ValueToHost.hpp"
 
 #include "additions/additions.hpp"
-#include "libhv/libhv.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 
 #include <algorithm>
@@ -25,8 +24,7 @@ std::size_t rowsOf(hvArray_tag const& array)
 
 std::size_t columnsOf(hvArray_tag const& array)
 {
-    std::size_t const rows = rowsOf(array);
-    return rows == 0 ? 0 : array.get_number_of_elements() / rows;
+    return array.get_dimensions()[1];
 }
 
 int sizeHint(std::size_t count)
@@ -34,141 +32,105 @@ int sizeHint(std::size_t count)
     return static_cast<int>(std::min<std::size_t>(count, std::numeric_limits<int>::max()));
 }
 
-/// Pushes a sequence of what `pushElement` pushes for 0 to `count` - 1.
-template <class PushElement>
-void pushSequence(lua_State* L, std::size_t count, PushElement const& pushElement)
+/// Pushes a sequence of what `pushNext` pushes for 0 to `count` - 1.
+template <class PushNext>
+void pushSequence(lua_State* L, std::size_t count, PushNext const& pushNext)
 {
+    luaL_checkstack(L, 4, nullptr);
     lua_createtable(L, sizeHint(count), 0);
     for (std::size_t i = 0; i < count; ++i) {
-        pushElement(i);
+        pushNext(i);
         lua_rawseti(L, -2, static_cast<lua_Integer>(i + 1));
     }
 }
 
-/// Pushes all elements, given by their linear index: a sequence for one row, else a sequence of rows.
-template <class PushElement>
-void pushElements(lua_State* L, hvArray_tag const& array, PushElement const& pushElement)
+/// A column of numbers or booleans is a sequence of rows, because a sequence of them is a row; of others it is a list.
+bool isList(hvArray_tag const& array)
+{
+    bool const areScalars = elementSize(array._get_class_id_non_trivial()) != 0;
+    return rowsOf(array) == 1 || (!areScalars && columnsOf(array) == 1);
+}
+
+/// The classes that tables of numbers and of booleans become.
+bool isOfTables(hvClassID classID)
+{
+    return classID == hvDOUBLE_CLASS || classID == hvLOGICAL_CLASS;
+}
+
+/// Pushes all elements, given by their linear index: a sequence for a list, else a sequence of rows.
+template <class PushAt>
+void pushElements(lua_State* L, hvArray_tag const& array, PushAt const& pushAt)
 {
     std::size_t const rows = rowsOf(array);
-    std::size_t const columns = columnsOf(array);
-    if (columns == 0)
-        lua_newtable(L);
-    else if (rows == 1)
-        pushSequence(L, columns, pushElement);
+    std::size_t const count = array.get_number_of_elements();
+    if (count == 0 || isList(array))
+        pushSequence(L, count, pushAt);
     else
         pushSequence(L, rows, [&](std::size_t row) {
-            pushSequence(L, columns, [&](std::size_t column) { pushElement(column * rows + row); });
+            pushSequence(L, columnsOf(array), [&](std::size_t column) { pushAt(column * rows + row); });
         });
 }
 
-/// The same, but one element alone is pushed as it is.
-template <class PushElement>
-void pushElementOrElements(lua_State* L, hvArray_tag const& array, PushElement const& pushElement)
+/// The characters of one row, as a string.
+void pushRow(lua_State* L, hvArray_tag const& characters, std::size_t row)
 {
-    if (array.get_number_of_elements() == 1)
-        pushElement(0);
-    else
-        pushElements(L, array, pushElement);
+    auto const* data = static_cast<char16_t const*>(orbis::additions::getData(&characters));
+    std::u16string text(rowsOf(characters) == 0 ? 0 : columnsOf(characters), u'\0');
+    for (std::size_t column = 0; column < text.size(); ++column)
+        text[column] = data[column * rowsOf(characters) + row];
+    pushText(L, fl::i18n::to_string(text));
 }
 
-template <class T>
-constexpr bool fitsInteger(T value)
+void pushCells(lua_State* L, hvArray_tag const& cells, Conversion& conversion)
 {
-    if constexpr (std::is_same_v<T, std::uint64_t>)
-        return value <= static_cast<std::uint64_t>(std::numeric_limits<lua_Integer>::max());
-    else
-        return true;
-}
-
-template <class T>
-void pushNumbers(lua_State* L, hvArray_tag const& array)
-{
-    auto const* data = static_cast<T const*>(orbis::additions::getData(&array));
-    if (!std::all_of(data, data + array.get_number_of_elements(), fitsInteger<T>))
-        return pushHostArray(L, ArrayPtr(hvCreateSharedDataCopy(&array)));
-    pushElementOrElements(L, array, [&](std::size_t i) {
-        if constexpr (std::is_floating_point_v<T>)
-            lua_pushnumber(L, data[i]);
-        else
-            lua_pushinteger(L, static_cast<lua_Integer>(data[i]));
-    });
-}
-
-void pushBooleans(lua_State* L, hvArray_tag const& array)
-{
-    auto const* data = static_cast<bool const*>(orbis::additions::getData(&array));
-    pushElementOrElements(L, array, [&](std::size_t i) { lua_pushboolean(L, data[i]); });
-}
-
-void pushCharacters(lua_State* L, hvArray_tag const& array)
-{
-    auto const* data = static_cast<char16_t const*>(orbis::additions::getData(&array));
-    std::size_t const rows = rowsOf(array);
-    std::size_t const columns = columnsOf(array);
-    auto const pushRow = [&](std::size_t row) {
-        std::u16string text(columns, u'\0');
-        for (std::size_t column = 0; column < columns; ++column)
-            text[column] = data[column * rows + row];
-        pushText(L, fl::i18n::to_string(text));
-    };
-    if (rows <= 1)
-        pushRow(0);
-    else
-        pushSequence(L, rows, pushRow);
-}
-
-void pushCells(lua_State* L, hvArray_tag const& cells, int depth)
-{
-    if (depth >= deepestNesting)
-        fail("cell", "the cells are nested deeper than " + std::to_string(deepestNesting) + " levels");
+    Conversion::Level const level(conversion, "cells");
     pushElements(L, cells, [&](std::size_t i) {
-        hvArray_tag const* cell = orbis::additions::getCell(&cells, i);
-        pushValue(L, cell, depth + 1);
-        if (lua_isnil(L, -1)) {
-            lua_pop(L, 1);
+        if (hvArray_tag const* const cell = orbis::additions::getCell(&cells, i))
+            pushContent(L, *cell, conversion);
+        else
             pushNull(L);
-        }
-    });
-}
-
-void pushObjects(lua_State* L, hvArray_tag const& array)
-{
-    if (array.get_number_of_elements() == 0)
-        return lua_pushnil(L);
-    if (array.get_number_of_elements() == 1)
-        return pushObject(L, &array, 0);
-    pushElements(L, array, [&](std::size_t i) {
-        pushObject(L, &array, i);
-        if (lua_isnil(L, -1)) {
-            lua_pop(L, 1);
-            pushNull(L);
-        }
     });
 }
 
 } // namespace
 
-void pushValue(lua_State* L, hvArray_tag const* array, int depth)
+void pushValue(lua_State* L, hvArray_tag const* array)
 {
     luaL_checkstack(L, 8, nullptr);
     if (!array)
         return lua_pushnil(L);
     hvClassID const classID = array->_get_class_id_non_trivial();
-    switch (classID) {
-    case hvOBJECT_CLASS:
-        return pushObjects(L, *array);
-    case hvCELL_CLASS:
-        return pushCells(L, *array, depth);
-    case hvCHAR_CLASS:
-        return pushCharacters(L, *array);
-    case hvLOGICAL_CLASS:
-        return pushBooleans(L, *array);
-    default:
-        break;
-    }
-    if (elementSize(classID) == 0)
-        return pushHostArray(L, ArrayPtr(hvCreateSharedDataCopy(array)));
-    visitNumericClass(classID, [&]<class T>(T*) { pushNumbers<T>(L, *array); });
+    bool const isNone = rowsOf(*array) == 0 && columnsOf(*array) == 0;
+    std::size_t const count = array->get_number_of_elements();
+    if (classID == hvOBJECT_CLASS && isNone)
+        return lua_pushnil(L);
+    if (classID == hvOBJECT_CLASS && count == 1)
+        return pushObject(L, array, 0);
+    if (classID == hvCHAR_CLASS && (isNone || (rowsOf(*array) == 1 && count != 0)))
+        return pushRow(L, *array, 0);
+    if (elementSize(classID) != 0 && count == 1)
+        return pushElement(L, array, 0);
+    if ((classID == hvDOUBLE_CLASS && isNone) || (isOfTables(classID) && count != 0))
+        return pushElements(L, *array, [&](std::size_t i) { pushElement(L, array, i); });
+    pushHostArray(L, *array);
+}
+
+void pushContent(lua_State* L, hvArray_tag const& array, Conversion& conversion)
+{
+    luaL_checkstack(L, 8, nullptr);
+    hvClassID const classID = array._get_class_id_non_trivial();
+    std::size_t const count = array.get_number_of_elements();
+    conversion.add(count, sizeof(lua_Number) * 2);
+    if (classID == hvCELL_CLASS)
+        pushCells(L, array, conversion);
+    else if (classID == hvCHAR_CLASS && rowsOf(array) <= 1)
+        pushRow(L, array, 0);
+    else if (classID == hvCHAR_CLASS)
+        pushSequence(L, rowsOf(array), [&](std::size_t row) { pushRow(L, array, row); });
+    else if (count == 1)
+        pushElement(L, &array, 0);
+    else
+        pushElements(L, array, [&](std::size_t i) { pushElement(L, &array, i); });
 }
 
 } // namespace velmara::console

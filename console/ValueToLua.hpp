@@ -1,19 +1,27 @@
 #pragma once
 
+#include "Conversion.hpp"
 #include "LuaApi.hpp"
 
-#include "velmara/ArrayPtr.hpp"
+#include "libhv/hvArray.hpp"
 
 namespace velmara::console {
 
-/// Pushes the Lua value for a host array, which stays the caller's:
+/// Pushes the Lua value for the result of a call, or for the array of a cell, which stays the caller's:
 ///
-/// - a numeric scalar: a float for double and single, an integer for the integer classes; a logical one: a boolean
-/// - a row of characters: a string in UTF-8
-/// - an object: the object; an empty object array: nil
-/// - a row: a sequence; an array with several rows, or with one column: a sequence of rows; an empty one: {}
-/// - a cell array: likewise, never a scalar; an empty cell and nil in it: `null`
-/// - uint64 values that no Lua integer holds, and any other class: a host array
-void pushValue(lua_State* L, hvArray_tag const* array, int depth = 0);
+/// - one number: a float for double and single, an integer for the integer classes, a host array for a uint64 that is
+///   none; one logical: a boolean
+/// - doubles and logicals: a sequence for one row, else a sequence of rows; for 0-by-0 doubles {}
+/// - a row of characters, or 0-by-0: a string in UTF-8, each lone surrogate as U+FFFD
+/// - one object: the object; a null one, or none 0-by-0: nil; no array: nil
+/// - anything else: a host array
+///
+/// So what becomes a table or a string is the same array when it is passed on again.
+void pushValue(lua_State* L, hvArray_tag const* array);
+
+/// Pushes tables, strings and scalars for all that is in the array: a sequence for a row, and for a column of strings,
+/// cells or objects; else a sequence of rows, which are strings for characters. A single element, but not a cell,
+/// stands for itself.
+void pushContent(lua_State* L, hvArray_tag const& array, Conversion& conversion);
 
 } // namespace velmara::console

@@ -1,5 +1,6 @@
 -- What each Lua value becomes in the host, and what comes back.
 local function text(value)
+  if class(value) ~= "nil" then value = tolua(value) end
   if type(value) ~= "table" then
     return (math.type(value) or type(value)) .. " " .. tostring(value)
   end
@@ -9,7 +10,8 @@ local function text(value)
 end
 
 local function show(value)
-  print(class(value), text(cases.echo(value)))
+  local back = cases.echo(value)
+  print(class(value), type(back), text(back))
 end
 
 show(1)
@@ -45,13 +47,14 @@ back = cases.echo({p, orbis_factory.Adder(3)})
 print(class({p, orbis_factory.Adder()}), back[1] == p, back[2].total)
 
 print(text(cases.small()), text(cases.grid()), text(cases.column()), text(cases.cells()))
-print(#cases.characters(), cases.characters()[1], cases.characters()[2] == "c\u{fffd}", cases.nobody())
+local rows = tolua(cases.characters())
+print(#rows, rows[1], rows[2] == "c\u{fffd}", cases.nobody())
 local large = cases.large(0)
 print(large, class(large), #large, large == cases.echo(large), large == p, large == cases.large(1), cases.echo({large, 1})[1] == large)
 print(p:pair(q)[1] == p, p:pair(q)[2] == q, p:twin() == p, q:twin() == p)
-local deep = cases.nests(200)
+local deep = tolua(cases.nests(200))
 for _ = 1, 200 do deep = deep[1] end
-print(deep, pcall(cases.nests, 201))
+print(deep, pcall(tolua, cases.nests(201)))
 local many = {}
 for i = 1, 100000 do many[i] = i end
 print(#cases.echo(many), cases.echo(many)[100000])

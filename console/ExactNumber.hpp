@@ -1,0 +1,53 @@
+#pragma once
+
+#include <bit>
+#include <cmath>
+#include <concepts>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <type_traits>
+#include <utility>
+
+namespace velmara::console {
+
+/// The number as a `T`, or nothing when it does not fit: whole numbers must be exact, also in floating types; only
+/// fractions are rounded, and not down to nothing. These are the host's rules for the inputs of calls.
+template <class T>
+std::optional<T> exactly(std::integral auto number)
+{
+    if constexpr (std::same_as<T, bool>) {
+        return number == 0 || number == 1 ? std::optional(number != 0) : std::nullopt;
+    } else if constexpr (std::integral<T>) {
+        return std::in_range<T>(number) ? std::optional(static_cast<T>(number)) : std::nullopt;
+    } else {
+        auto magnitude = static_cast<std::uint64_t>(number);
+        if (std::cmp_less(number, 0))
+            magnitude = 0 - magnitude;
+        int const digits = magnitude == 0 ? 0 : std::bit_width(magnitude >> std::countr_zero(magnitude));
+        return digits <= std::numeric_limits<T>::digits ? std::optional(static_cast<T>(number)) : std::nullopt;
+    }
+}
+
+template <class T>
+std::optional<T> exactly(double number)
+{
+    if constexpr (std::same_as<T, bool>) {
+        return number == 0 || number == 1 ? std::optional(number != 0) : std::nullopt;
+    } else if constexpr (std::integral<T>) {
+        // Both bounds are powers of two, so they are exact; a NaN compares false.
+        constexpr auto lowest = static_cast<double>(std::numeric_limits<T>::min());
+        constexpr double beyond = 2.0 * static_cast<double>(std::uint64_t(1) << (std::numeric_limits<T>::digits - 1));
+        bool const fits = number >= lowest && number < beyond && std::trunc(number) == number;
+        return fits ? std::optional(static_cast<T>(number)) : std::nullopt;
+    } else {
+        if (std::isfinite(number) && std::fabs(number) > std::numeric_limits<T>::max())
+            return std::nullopt;
+        auto const rounded = static_cast<T>(number);
+        bool const isWhole = std::trunc(number) == number;
+        bool const fits = !std::isfinite(number) || (isWhole ? static_cast<double>(rounded) == number : rounded != 0);
+        return fits ? std::optional(rounded) : std::nullopt;
+    }
+}
+
+} // namespace velmara::console

@@ -1,0 +1,158 @@
+-- Arrays of the host: how they are made, read, written, compared and shown, and what is refused.
+local function refused(f, ...)
+  local ok, err = pcall(f, ...)
+  print(not ok and tostring(err) or "not refused")
+end
+local function show(...)
+  local a = array(...)
+  local rows, columns = size(a)
+  print(class(a), rows, columns, #a)
+  print(a)
+end
+
+show("double")
+show("double", {}, 0, 3)
+show("double", {{1, 2.5}, {-0.0, 1 / 0}, {0 / 0, -1 / 0}})
+show("single", {0.1, 2.0 ^ 100})
+show("int32", {1, 2, 3, 4, 5, 6}, 3, 2)
+show("uint64", {"18446744073709551615", 2.0 ^ 63, array("uint64", "9223372036854775808"), 5})
+show("int64", math.mininteger)
+show("logical", {true, 0, 1.0, false})
+show("uint8", true, 2, 3)
+show("char", "gr\u{fc}n")
+show("char", {"ab", array("string", "cd")})
+show("char", {0x61, 0xD83D, 0xDE00})
+show("char", "abcdef", 2, 3)
+show("string", "one\0two")
+show("string", {{"a", missing}, {"\u{1f600} long enough to be cut short", ""}})
+show("string", array("char", {"abc"}), 1, 2)
+show("string", missing, 2, 1)
+show("cell", {1, null, {2, 3}, {4, "x"}, "text", missing, array("int8", 5)}, 1, 7)
+show("cell", {{1, 2}, {3, 4}})
+show("int16", array("double", {1, 2}), 2, 1)
+show("uint16", array("char", "\u{1f600}"))
+show("double", 1 / 3, 12, 30)
+local p, q = cases.Probe(), cases.Probe()
+show(cases.Probe, {p, null})
+show("cases.Probe", p, 2, 2)
+
+local a = array("int8", {{1, 2, 3}, {4, 5, 6}})
+print(a[1], a[2], a[{1, 3}], a[6.0], a[0], a[7], a[{3, 1}], a[{1, 4}], a[math.mininteger])
+local passed = cases.Probe()
+passed.value = a
+a[2], a[{2, 3}] = 40, -6
+print(a, passed.value[2], passed.value == a)
+local s = array("string", {"a", missing})
+s[1], s[2] = missing, "b"
+print(s[1] == missing, s[1], s[2], s == array("string", {missing, "b"}), s == array("string", {missing, "c"}))
+local c = array("cell", {1, p})
+c[1] = c
+c[2] = {c, null}
+print(c, c[1][1], c[1][2] == p, tolua(c)[2][1][1][1], tolua(c)[2][2])
+for i, v in pairs(array("logical", {true, false})) do io.write(i, " ", tostring(v), " ") end
+for i, v in ipairs(array("cell", {null, "x"})) do io.write(i, " ", tostring(v), " ") end
+print()
+print(array("double", 0) == array("double", -0.0), array("double", 0 / 0) == array("double", 0 / 0),
+  array("double", 1) == array("single", 1), array("double", {1, 2}) == array("double", {1, 2}, 2, 1), a == 1, a == p)
+
+local function lua(value)
+  if type(value) ~= "table" then return (tostring(value)) end
+  local parts = {}
+  for i, element in ipairs(value) do parts[i] = lua(element) end
+  return "{" .. table.concat(parts, ", ") .. "}"
+end
+print(lua(tolua(a)), lua(tolua(array("int8", {1, 2}, 2, 1))), lua(tolua(array("char", {"ab", "cd"}))))
+print(lua(tolua(array("string", {"a", missing}, 2, 1))), tolua(array("string", "x")), lua(tolua(array("cell", {{1, 2}}))))
+print(tolua(5), tolua(p) == p, lua(tolua(array("double", {}, 0, 3))), lua(tolua(array("cases.Probe", {p, null}))))
+
+-- results: a Lua value where it is the same again, else the array
+for _, v in ipairs({array("int8", {1, 2}), array("int8", 1), array("single", 0.5), array("uint64", 1 << 62),
+                    array("logical", {}), array("double", {}, 0, 2), array("char", ""), array("char", "", 1, 0),
+                    array("string", "x"), array("cell", {1}), array(cases.Probe), array(cases.Probe, {p, q})}) do
+  local back = cases.echo(v)
+  io.write(type(back), " ", tostring(back), "; ")
+end
+print(type(cases.echo(missing)))
+print(class(asarray(cases.small)), class(asarray(passed, "value")), asarray(p.twin, p)[1] == p)
+print(isvalid(array(cases.Probe, {p, q})), isvalid(array(cases.Probe, {p, null})), isvalid(a))
+local probes = array(cases.Probe, {cases.Probe(), cases.Probe()})
+delete(probes)
+print(isvalid(probes), isvalid(probes[1]))
+
+for class, values in pairs({int8 = {-129, 128}, uint8 = {-1, 256, 0.5, 0 / 0, "1"}, uint64 = {-1, "", "1x", 2.0 ^ 64, "18446744073709551616"},
+                            int64 = {2.0 ^ 63, "1"}, double = {(1 << 53) + 1, "1", p, missing},
+                            single = {16777217, 1e30, 1e39, 1e-60}, logical = {2, "true", null},
+                            char = {65536, -1, 0.5, null}, string = {1, null, false}, ["cases.Probe"] = {1, missing}}) do
+  for _, value in ipairs(values) do
+    local ok, err = pcall(array, class, {value})
+    if ok or err.identifier ~= "VELMARA:console:element" then print(class, value, ok, err) end
+  end
+end
+refused(array)
+refused(array, "in8", 1)
+refused(array, "orbis_factory", 1)
+refused(array, "int8", {1, 300})
+refused(array, "int8", {{1, 2}, {3, "x"}})
+refused(array, "int8", {{1, 2}, {3}})
+refused(array, "int8", {1, 2, x = 3})
+refused(array, "char", {"ab", "c"})
+refused(array, "char", "ab", 2, 3)
+refused(array, "string", array("char", {"ab", "cd"}))
+refused(array, "char", array("string", missing))
+refused(array, "cell", {print})
+refused(array, cases.Probe, orbis_factory.Adder())
+refused(array, "double", 0, -1, 2)
+refused(array, "double", 0, 1.5, 2)
+refused(array, "double", 0, 2)
+refused(array, "double", {1, 2, 3}, 2, 2)
+refused(array, "double", {1, 2, 3}, 0, 0)
+refused(function() a[7] = 1 end)
+refused(function() a[{3, 1}] = 1 end)
+refused(function() a[1] = 128 end)
+refused(function() a.x = 1 end)
+refused(function() return a.x end)
+refused(function() return a[{1}] end)
+refused(function() return a[1.5] end)
+refused(function() s[1] = 5 end)
+refused(asarray, print)
+refused(asarray, p, "nothing")
+refused(asarray, cases.echo)
+refused(size)
+refused(tolua)
+print(a, s)
+
+-- sizes beyond all memory, and little that stands for as much
+refused(array, "double", 0, math.maxinteger, math.maxinteger)
+refused(array, "double", 0, 1 << 32, 1 << 32)
+refused(array, "int8", 0, 1 << 31, 1)
+refused(array, "string", "x", 1 << 24, 1)
+local doubled, other = array("cell", {1}), array("cell", {1})
+for _ = 1, 100 do doubled, other = array("cell", {doubled, doubled}), array("cell", {other, other}) end
+print(doubled == other, cases.echo(doubled) == other)
+refused(tolua, doubled)
+local tables = {1, "x"}
+for _ = 1, 100 do tables = {tables, tables} end
+refused(cases.echo, tables)
+local deep = array("cell", {})
+for _ = 1, 20000 do deep = array("cell", {deep}) end
+print(deep, deep == cases.echo(deep))
+refused(tolua, deep)
+local large, left = setmetatable({}, {__mode = "v"}), 0
+for i = 1, 1000 do large[i] = array("double", 1, 1, 100000) end -- Lua sees nothing of what they take
+for _ in pairs(large) do left = left + 1 end
+print(left < 50)
+
+-- finalizers that get at an array in the midst of its use
+local target = array("cell", {{1, "a"}, {2, "b"}})
+for i = 1, 3000 do
+  setmetatable({}, {__gc = function() target[1] = {i, "new"} end})
+  if #target[1] ~= 2 then print("torn") end
+end
+local closed
+do local given <close> = array("double", {1, 2}) closed = given end
+print(closed)
+refused(function() return closed[1] end)
+refused(function() closed[1] = 1 end)
+refused(function() return #closed end)
+refused(cases.echo, closed)
+refused(array, "double", closed)
