@@ -13,9 +13,7 @@ print(red, class(red), isvalid(red), tostring(red) == "Red")
 print(red == Color.Red, red == Color.Crimson, red == Color.Green, red == "Red", Color.Crimson)
 print(cases.hue("Blue"), cases.hue(5), cases.hue(red) == red, cases.hue(cases.hue("Crimson")))
 for _, hues in ipairs {{red, Color.Blue}, {"Green", red, 6}, {0, 5}, "Blue", {"Red"}, {}} do
-  local given = cases.hues(hues)
-  if type(given) == "table" then for i, hue in ipairs(given) do given[i] = tostring(hue) end end
-  print(type(given) == "table" and table.concat(given, " ") or given)
+  print(cases.hues(hues))
 end
 help(Color)
 help("palette.Color.Green")
