@@ -1,4 +1,5 @@
 #include "bench/CallScenarios.hpp"
+#include "bench/EnumerationScenarios.hpp"
 #include "bench/StringScenarios.hpp"
 
 #include <cstdio>
@@ -30,6 +31,7 @@ void run(std::size_t count)
 int main(int argc, char** argv)
 {
     using Calls = bench::CallScenarios;
+    using Enumerations = bench::EnumerationScenarios;
     using Strings = bench::StringScenarios;
     struct Entry {
         char const* name;
@@ -40,6 +42,14 @@ int main(int argc, char** argv)
                                  {"handWritten", run<&Calls::handWritten>},
                                  {"dispatch", run<&Calls::dispatch>},
                                  {"announce", run<&Calls::announce>},
+                                 {"enumeratorIn", run<&Enumerations::enumeratorIn>},
+                                 {"objectIn", run<&Enumerations::objectIn>},
+                                 {"enumeratorOut", run<&Enumerations::enumeratorOut>},
+                                 {"objectOut", run<&Enumerations::objectOut>},
+                                 {"callWithObject", run<&Enumerations::callWithObject>},
+                                 {"callWithEnumerator", run<&Enumerations::callWithEnumerator>},
+                                 {"callWithName", run<&Enumerations::callWithName>},
+                                 {"callWithNumber", run<&Enumerations::callWithNumber>},
                                  {"stringIn", run<&Strings::stringIn, 1>},
                                  {"stringOut", run<&Strings::stringOut, 1>},
                                  {"narrowVectorIn", run<&Strings::narrowVectorIn, 1000>},
