@@ -28,7 +28,7 @@ void addColors(COSClass* cls)
 /// The names of the enumerators that a call is given.
 void giveNames(described::Call const& call)
 {
-    std::string names;
+    std::string names = orbis::omIsORBIS(call.inputs[0].array()) ? "" : "no objects";
     hvArray_tag const* const array = call.inputs[0].array();
     for (std::size_t i = 0; i < array->get_number_of_elements(); ++i)
         names += std::string(describeEnumerator(orbis::omGetArrayElement(array, i))->name) + ' ';
@@ -166,6 +166,8 @@ TEST_F(EnumerationTest, ObjectsTextAndNumbersMeanEnumerators)
         {cells(text(u"Blue"), ArrayPtr()), refusal + "cell 1-by-2",
          "element 1 (counted from 0): " + refusal + "an empty cell"},
         {cells(cells(text(u"Red"))), refusal + "cell 1-by-1", "element 0 (counted from 0): " + refusal + "cell 1-by-1"},
+        {cells(objects({"Red", "Blue"})), refusal + "cell 1-by-1",
+         "element 0 (counted from 0): " + refusal + "t.Color 1-by-2"},
         {cells(objects({nullptr})), refusal + "cell 1-by-1",
          "element 0 (counted from 0): " + refusal + "a null object"},
     };

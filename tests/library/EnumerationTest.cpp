@@ -163,6 +163,7 @@ TEST_F(EnumerationTest, CrossesByName)
     velmara::ClassRecord const listed = hvm().describeClass("tests.Color");
     ASSERT_EQ(listed.enumerators.size(), 4u);
     EXPECT_EQ(listed.enumerators[0].value, 200);
+    EXPECT_STREQ(detail::enumerationRecord<Color>.byValue[0].name, "Red") << "the first of two names";
     EXPECT_EQ(listed.description, "What a lamp shines in");
     EXPECT_TRUE(velmara::isSameObject(call("next", color("Red")).get(), color("Green").get()));
     for (char const* name : {"Red", "Crimson"})

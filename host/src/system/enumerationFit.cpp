@@ -48,11 +48,6 @@ Enumerator const* findByText(EnumeratorTable const& enumerators, std::u16string_
     return enumerators.find(std::string_view(name.data(), length));
 }
 
-Enumerator const* findByString(EnumeratorTable const& enumerators, StringElement const& text)
-{
-    return text.isMissing() ? nullptr : findByText(enumerators, text.view());
-}
-
 Enumerator const* findByNumber(EnumeratorTable const& enumerators, Array const& input, std::size_t index)
 {
     std::optional<std::int64_t> const number = wholeNumberAt(input, index);
@@ -100,7 +95,7 @@ Enumerator const* findEnumeratorAt(Class const& enumeration, Array const& input,
     if (input.classID() == hvCELL_CLASS)
         return findByCell(enumeration, input.cells()[index]);
     if (input.classID() == hvSTRING_CLASS)
-        return findByString(enumerators, input.strings()[index]);
+        return findByText(enumerators, input.strings()[index].view()); // a missing one is empty, which no name is
     return findByNumber(enumerators, input, index);
 }
 
