@@ -5,8 +5,6 @@
 #include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/withDefaults.hpp"
 
-#include <algorithm>
-
 using namespace orbis;
 using namespace orbis::factory;
 using velmara::ArrayPtr;
@@ -103,7 +101,7 @@ protected:
     }
 
     struct Inputs {
-        explicit Inputs(std::initializer_list<double> numbers)
+        Inputs(std::initializer_list<double> numbers)
         {
             for (double const value : numbers)
                 arrays.push_back(owners.emplace_back(number(value)).get());
@@ -113,14 +111,14 @@ protected:
         std::vector<hvArray*> arrays;
     };
 
-    std::int32_t call(ArrayPtr const& object, char const* method, std::initializer_list<double> numbers)
+    std::int32_t call(ArrayPtr const& object, char const* method, Inputs const& inputs)
     {
-        return scalar<std::int32_t>(hvm().call(object.get(), method, Inputs(numbers).arrays));
+        return scalar<std::int32_t>(hvm().call(object.get(), method, inputs.arrays));
     }
 
-    ArrayPtr scale(std::initializer_list<double> numbers, char const* name = "tests.Scale")
+    ArrayPtr scale(Inputs const& inputs, char const* name = "tests.Scale")
     {
-        return hvm().construct(name, Inputs(numbers).arrays);
+        return hvm().construct(name, inputs.arrays);
     }
 };
 
@@ -171,20 +169,15 @@ TEST_F(DefaultsTest, AnObjectThatIsThereAlreadyTakesTheValue)
 
 TEST_F(DefaultsTest, ShorterSignaturesAreListed)
 {
-    auto const record = hvm().describeClass("tests.Scale");
-    std::vector<std::string> signatures;
-    for (auto const& method : record.methods) {
-        signatures.push_back(method.signature);
+    std::string signatures;
+    for (auto const& method : hvm().describeClass("tests.Scale").methods) {
+        signatures += method.signature + '\n';
         EXPECT_EQ(method.isSealed, method.name == "apply");
     }
-    for (char const* const expected : {"apply(this: tests.Scale, x: int32 scalar) -> int32 scalar",
-                                       "apply(this: tests.Scale, x: int32 scalar, times: int32 scalar) -> int32 scalar",
-                                       "forced(scale: tests.Scale) -> int32 scalar", "digits() -> int32 scalar"})
-        EXPECT_TRUE(std::ranges::any_of(signatures, [&](auto const& text) { return text.ends_with(expected); }))
-            << expected;
-    EXPECT_EQ(
-        std::ranges::count(record.methods, velmara::MethodRecord::Kind::Constructor, &velmara::MethodRecord::kind), 3);
-    EXPECT_EQ(hvm().describePackage("tests").functions.size(), 6u);
+    for (char const* const expected :
+         {"Scale()", "(factor: int32 scalar)", "apply(this: tests.Scale, x: int32 scalar) ",
+          "x: int32 scalar, times: int32 scalar) ", "forced(scale: tests.Scale) "})
+        EXPECT_NE(signatures.find(expected), std::string::npos) << expected << " in\n" << signatures;
 }
 
 TEST_F(DefaultsTest, AShorterSignatureMustNotBeThereAlready)
@@ -192,6 +185,7 @@ TEST_F(DefaultsTest, AShorterSignatureMustNotBeThereAlready)
     COSPackage* const package = COSPackage::getPackage("tests");
     auto const twice = describeFunctions()
                            .function("twice", [](double) {})
-                           .function("twice", [](double, double) {}, "a, b", withDefaults(1));
+                           .function(
+                               "twice", [](double, double) {}, "a, b", withDefaults(1));
     EXPECT_THROW(publish(package, twice), std::exception);
 }
