@@ -45,6 +45,8 @@ print(a, passed.value[2], passed.value == a)
 local s = array("string", {"a", missing})
 s[1], s[2] = missing, "b"
 print(s[1] == missing, s[1], s[2], s == array("string", {missing, "b"}), s == array("string", {missing, "c"}))
+s[2] = array("string", missing)
+print(s[2] == missing, s)
 local c = array("cell", {1, p})
 c[1] = c
 c[2] = {c, null}
