@@ -155,6 +155,8 @@ TEST_F(StringDataTypesTest, ConversionsTakeWhatTheyShouldAndShareData)
             if (made && textOf(array).size() == 1000) {
                 EXPECT_EQ(additions::getData(made.get()), additions::getData(array.get()));
                 EXPECT_EQ(additions::getData(back.get()), additions::getData(array.get()));
+                ArrayPtr const copy(COSDataTypePtr(type)->copyValue(COSValue(array.get())).array());
+                EXPECT_NE(additions::getData(copy.get()), additions::getData(array.get())) << "values stand apart";
             }
         }
     }
