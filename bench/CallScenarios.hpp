@@ -45,6 +45,13 @@ public:
             hvDestroyArray(orbis::factory::basic::BindingRegistry::announce(fixture_.native, name));
     }
 
+    /// A bound handle object by its class's name, from its construction to its end.
+    void construct(std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            fixture_.hvm.construct(adderName);
+    }
+
 private:
     Fixture fixture_;
     velmara::ArrayPtr one_ = Fixture::number(1);

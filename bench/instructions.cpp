@@ -50,6 +50,7 @@ int main(int argc, char** argv)
                                  {"callWithEnumerator", run<&Enumerations::callWithEnumerator>},
                                  {"callWithName", run<&Enumerations::callWithName>},
                                  {"callWithNumber", run<&Enumerations::callWithNumber>},
+                                 {"construct", run<&Calls::construct>},
                                  {"stringIn", run<&Strings::stringIn, 1>},
                                  {"stringOut", run<&Strings::stringOut, 1>},
                                  {"narrowVectorIn", run<&Strings::narrowVectorIn, 1000>},

@@ -47,9 +47,7 @@ COSInterfacePtr newInitializedInstance(COSNameID const& className)
 /// An address that is a key already keeps its entry.
 void insert(void* object, COSInterface* host)
 {
-    auto entry = std::make_unique<RegistryEntry>(object, COSInterfacePtr(host));
-    if (registry().emplace(object, entry.get()).second)
-        static_cast<void>(entry.release());
+    HvmScoped<FooRegistry>::get().bind(object, host);
 }
 
 /// Erases the mapping of `object`; an empty pointer when it is no key.
@@ -184,8 +182,10 @@ bool BindingRegistry::retract(void const* const object)
         return false;
     if (!entry->retracted) {
         entry->retracted = true;
-        COSInterfacePtr(entry->host)->setValid(false);
-        detail::dropShare(entry->host); // it ends without another word to its class info
+        COSInterfacePtr host = entry->host;
+        host->setValid(false);
+        detail::dropShare(host); // it ends without another word to its class info
+        registry().giveBackHandles(host);
     }
     return true;
 }
@@ -199,7 +199,9 @@ bool orbis::factory::detail::forgetBinding(COSInterface const* host, void const*
     auto const found = object ? table.find(object) : table.end();
     if (found == table.end() || (host && found->second->host != host))
         return false;
-    delete found->second;
-    table.erase(found);
+    COSInterface* const bound = found->second->host;
+    table.unbind(found);
+    if (!table.handleCounts.empty())
+        table.giveBackHandles(bound);
     return true;
 }

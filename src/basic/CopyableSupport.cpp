@@ -32,7 +32,9 @@ bool isInUnconstructedSet(void const* object)
 
 void removeFromUnconstructedSet(void const* object)
 {
-    objects().erase(object);
+    auto* const set = basic::HvmScoped<UnconstructedSet>::find();
+    if (set && !set->objects.empty())
+        set->objects.erase(object);
 }
 
 } // namespace orbis::factory::CopyableSupport

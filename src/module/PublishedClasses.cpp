@@ -37,10 +37,11 @@ void PublishedClasses::add(NativeClassRecord const& native, std::vector<NativeCl
     Entry entry{native, {}};
     for (NativeClassRecord const& superclass : superclasses)
         entry.superclasses.emplace_back(*superclass.type);
+    unpublished_.clear();
     entries_.insert_or_assign(*native.type, std::move(entry));
 }
 
-std::string PublishedClasses::mostDerived(void const* bound, std::type_info const& dynamicType,
+char const* PublishedClasses::mostDerived(void const* bound, std::type_info const& dynamicType,
                                           NativeClassRecord const& known)
 {
     auto const findExact = [&]() -> Entry const* {
@@ -54,9 +55,20 @@ std::string PublishedClasses::mostDerived(void const* bound, std::type_info cons
         describeExpected();
         found = findExact();
     }
-    if (!found)
-        found = best(bound, *known.type);
-    return found ? found->native.hostName : known.hostName;
+    return found ? found->native.hostName : bestOfUnpublished(bound, dynamicType, known);
+}
+
+char const* PublishedClasses::bestOfUnpublished(void const* bound, std::type_info const& dynamicType,
+                                                NativeClassRecord const& known)
+{
+    std::pair<std::type_index, std::type_index> const key(dynamicType, *known.type);
+    auto const remembered = unpublished_.find(key);
+    char const* name = remembered == unpublished_.end() ? nullptr : remembered->second;
+    if (!name || !isPublished(name)) {
+        name = best(bound, known);
+        unpublished_[key] = name;
+    }
+    return name;
 }
 
 bool PublishedClasses::isA(Entry const& entry, std::type_index ancestor) const
@@ -71,6 +83,7 @@ bool PublishedClasses::isA(Entry const& entry, std::type_index ancestor) const
 
 void PublishedClasses::describeExpected()
 {
+    unpublished_.clear();
     for (std::string const& name : std::exchange(expected_, {})) {
         try {
             COSClass::getClass(COSNameID(name.c_str())); // has the host describe it
@@ -80,15 +93,18 @@ void PublishedClasses::describeExpected()
     }
 }
 
-PublishedClasses::Entry const* PublishedClasses::best(void const* bound, std::type_index known) const
+char const* PublishedClasses::best(void const* bound, NativeClassRecord const& known) const
 {
-    Entry const* best = nullptr;
-    for (auto const& [type, entry] : entries_) {
-        bool const isBetter = isA(entry, best ? std::type_index(*best->native.type) : known);
-        if (isBetter && entry.native.isInstance && entry.native.isInstance(bound) && isPublished(entry.native.hostName))
-            best = &entry;
-    }
-    return best;
+    // Asking whether a class is published may have it described, which adds to the entries.
+    std::vector<NativeClassRecord> candidates;
+    for (auto const& [type, entry] : entries_)
+        if (entry.native.isInstance && isA(entry, *known.type) && entry.native.isInstance(bound))
+            candidates.push_back(entry.native);
+    NativeClassRecord best = known;
+    for (NativeClassRecord const& candidate : candidates)
+        if (isA(entries_.at(*candidate.type), *best.type) && isPublished(candidate.hostName))
+            best = candidate;
+    return best.hostName;
 }
 
 namespace detail {
@@ -99,8 +115,8 @@ hvArray* announceMostDerived(void* bound, std::type_info const& dynamicType, Nat
         return omCreateORBISScalar(host);
     if (!bound || dynamicType == *staticClass.type)
         return basic::BindingRegistry::announce(bound, COSNameID(staticClass.hostName));
-    std::string const name = PublishedClasses::ofCurrentHvm().mostDerived(bound, dynamicType, staticClass);
-    return basic::BindingRegistry::announce(bound, COSNameID(name.c_str()));
+    char const* const name = PublishedClasses::ofCurrentHvm().mostDerived(bound, dynamicType, staticClass);
+    return basic::BindingRegistry::announce(bound, COSNameID(name));
 }
 
 } // namespace detail

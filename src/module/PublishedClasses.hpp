@@ -2,10 +2,12 @@
 
 #include "orbis/factory/NativeClassRecord.hpp"
 
+#include <map>
 #include <set>
 #include <string>
 #include <typeindex>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace orbis::factory {
@@ -22,7 +24,7 @@ public:
 
     /// The name of the most derived class that the object bound at `bound` is of: one that is published, and is
     /// `known` or a subclass of it.
-    std::string mostDerived(void const* bound, std::type_info const& dynamicType, NativeClassRecord const& known);
+    char const* mostDerived(void const* bound, std::type_info const& dynamicType, NativeClassRecord const& known);
 
 private:
     struct Entry {
@@ -32,9 +34,13 @@ private:
 
     bool isA(Entry const& entry, std::type_index ancestor) const;
     void describeExpected();
-    Entry const* best(void const* bound, std::type_index known) const;
+    char const* best(void const* bound, NativeClassRecord const& known) const;
+
+    /// The same for an object whose own class is not published, as it was found out last.
+    char const* bestOfUnpublished(void const* bound, std::type_info const& dynamicType, NativeClassRecord const& known);
 
     std::unordered_map<std::type_index, Entry> entries_;
+    std::map<std::pair<std::type_index, std::type_index>, char const*> unpublished_; ///< by own and known class
     std::set<std::string> expected_;
 };
 

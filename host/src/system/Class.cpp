@@ -39,6 +39,13 @@ std::vector<Class*> linearize(Class& cls)
     return reversed;
 }
 
+char const* refusalOf(orbis::COSClassInfo const& info)
+{
+    if (info.classIsAbstract() || info.isAbstract())
+        return "abstract";
+    return info.getAccess() == orbis::ClassAccess::Public ? nullptr : "access";
+}
+
 } // namespace
 
 Class::Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, HvmState& machine)
@@ -53,10 +60,10 @@ Class::Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, HvmState& mac
 
 void Class::makeReady()
 {
+    if (state_ == State::Ready || state_ == State::Describing) [[likely]]
+        return;
     if (state_ == State::Closed)
         throwHostError("VELMARA:class", "unpublished", {text(name_)});
-    if (state_ != State::Untouched)
-        return;
     HvmState::Entry const entry(machine_);
     state_ = State::Describing;
     try {
@@ -72,6 +79,7 @@ void Class::makeReady()
 void Class::describe()
 {
     info_->initializeClass(this);
+    constructionRefusal_ = refusalOf(*info_);
     contents_->linearization = linearize(*this);
     contents_->tables = buildMemberTables(contents_->linearization);
     if (isEnumeration_ && contents_->enumerators.empty())
@@ -142,15 +150,21 @@ void Class::setSuperclasses(std::span<orbis::COSNameID const> names)
     contents_->superclasses = std::move(classes);
 }
 
-orbis::COSInterfacePtr Class::newInstance()
+Object& Class::makeObject()
 {
     if (machine_.isEnding())
         throwHostError("VELMARA:hvm", "ending");
-    makeReady();
     if (!isReady())
         throwHostError("VELMARA:class", "notInitialized", {text(name_)});
     requireNoEnumeration();
-    return new Object(*this);
+    return *new Object(*this);
+}
+
+orbis::COSInterfacePtr Class::newInstance()
+{
+    if (!machine_.isEnding())
+        makeReady();
+    return &makeObject();
 }
 
 void Class::initializeInstance(orbis::COSInterfacePtr instance)

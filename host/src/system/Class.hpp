@@ -38,6 +38,12 @@ public:
     /// error names the class. While the class is being described this does nothing.
     void makeReady();
 
+    /// Why a script may make no objects of the class: the key of the error in "VELMARA:class"; null when it may.
+    char const* constructionRefusal() const { return constructionRefusal_; }
+
+    /// A new, uninitialised object without a reference.
+    Object& makeObject();
+
     /// True while the class or a subclass of it is being described: it cannot be unpublished now.
     bool isBusy() const;
 
@@ -106,6 +112,7 @@ private:
     std::shared_ptr<ClassContents> contents_;
     std::vector<Class*> subclasses_; ///< direct ones that are described or being described
     ObjectList objects_;
+    char const* constructionRefusal_ = nullptr;
     State state_ = State::Untouched;
     bool isEnumeration_;
     bool isLoading_ = false; ///< a class info was asked to load a member

@@ -3,12 +3,27 @@
 #include "system/Class.hpp"
 #include "system/HvmState.hpp"
 #include "values/LiveCounters.hpp"
+#include "values/SmallMemory.hpp"
 #include "values/hostError.hpp"
 
 #include <algorithm>
 #include <utility>
 
 namespace velmara {
+
+// Objects have the size of arrays, and come and go with them.
+void* Object::operator new(std::size_t size)
+{
+    static_assert(sizeof(Object) <= SmallMemory::size);
+    ThreadShare* const share = shareOfThisThread;
+    void* const memory = share && size <= SmallMemory::size ? SmallMemory::takeKept(*share) : nullptr;
+    return memory ? memory : SmallMemory::allocate();
+}
+
+void Object::operator delete(void* memory) noexcept
+{
+    SmallMemory::giveBack(memory, ownThreadShare());
+}
 
 Object::Object(Class& cls) : own_{.className = cls.name()}, class_(&cls), machine_(&cls.machine())
 {
@@ -48,7 +63,7 @@ void Object::createInstanceData(Class& cls)
 {
     slotOf(cls.name()); // room first: what the class makes must not be lost
     void* const data = cls.info().createInstanceData();
-    if (isValid()) {
+    if (isValid()) [[likely]] {
         Slot& slot = slotOf(cls.name());
         slot.native = data;
         slot.made = true;
@@ -64,18 +79,22 @@ void Object::createInstanceData(Class& cls)
 
 void Object::destroyInstanceData() noexcept
 {
+    for (Class* const cls : class_->linearization())
+        destroyInstanceData(*cls);
+}
+
+void Object::destroyInstanceData(Class& cls) noexcept
+{
     // Destroying may retract the object, which makes it forget what is left: each slot is looked up when its
     // turn comes, and is empty from then on.
-    for (Class* const cls : class_->linearization()) {
-        Slot* const slot = const_cast<Slot*>(cls->name() == own_.className ? &own_ : findFurther(cls->name()));
-        if (!slot || !slot->made)
-            continue;
-        void* const data = std::exchange(slot->native, nullptr);
-        slot->made = false;
-        try {
-            cls->info().destroyInstanceData(this, data);
-        } catch (...) {
-        }
+    Slot* const slot = cls.name() == own_.className ? &own_ : findFurther(cls.name());
+    if (!slot || !slot->made)
+        return;
+    void* const data = std::exchange(slot->native, nullptr);
+    slot->made = false;
+    try {
+        cls.info().destroyInstanceData(this, data);
+    } catch (...) {
     }
 }
 
@@ -144,22 +163,25 @@ void Object::forgetNativeObjects() noexcept
 {
     own_.native = nullptr;
     own_.made = false;
-    further_.clear();
+    if (further_)
+        further_->clear();
 }
 
-Object::Slot& Object::slotOf(Name name)
+Object::Slot& Object::furtherSlotOf(Name name)
 {
-    if (name == own_.className)
-        return own_;
-    if (Slot const* const slot = findFurther(name))
-        return const_cast<Slot&>(*slot);
-    return further_.emplace_back(Slot{.className = name});
+    if (Slot* const slot = findFurther(name))
+        return *slot;
+    if (!further_)
+        further_ = std::make_unique<std::vector<Slot>>();
+    return further_->emplace_back(Slot{.className = name});
 }
 
-Object::Slot const* Object::findFurther(Name name) const
+Object::Slot* Object::findFurther(Name name) const
 {
-    auto const slot = std::ranges::find(further_, name, &Slot::className);
-    return slot == further_.end() ? nullptr : &*slot;
+    if (!further_)
+        return nullptr;
+    auto const slot = std::ranges::find(*further_, name, &Slot::className);
+    return slot == further_->end() ? nullptr : &*slot;
 }
 
 } // namespace velmara

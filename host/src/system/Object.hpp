@@ -6,6 +6,8 @@
 
 #include <cstdint>
 #include <limits>
+
+#include <memory>
 #include <vector>
 
 namespace velmara {
@@ -26,6 +28,9 @@ public:
     Object(Class& cls, std::size_t enumerator);
 
     static constexpr std::size_t mostEnumerators = std::numeric_limits<std::uint16_t>::max();
+
+    static void* operator new(std::size_t size);
+    static void operator delete(void* memory) noexcept;
 
     void addExternal() { ++external_; }
     void addInternal() { ++internal_; }
@@ -95,20 +100,23 @@ private:
     /// The native object for one class name; `made` when the class's `createInstanceData` ran for it, `recorded` when
     /// that or someone since gave one. For a superclass without one of its own, that of the object's class counts.
     struct Slot {
-        Name className = nullptr;
-        void* native = nullptr;
         bool made = false;
         bool recorded = false;
+        Name className = nullptr;
+        void* native = nullptr;
     };
 
     ~Object();
 
     void lastReferenceGone() noexcept;
     void freeIfUnreferenced() noexcept;
-    Slot& slotOf(Name className);
-    Slot const* findFurther(Name className) const;
+
+    Slot& slotOf(Name className) { return className == own_.className ? own_ : furtherSlotOf(className); }
+    Slot& furtherSlotOf(Name className);
+    Slot* findFurther(Name className) const;
     void createInstanceData(Class& cls);
     void destroyInstanceData() noexcept;
+    void destroyInstanceData(Class& cls) noexcept;
     void forgetNativeObjects() noexcept;
 
     std::int32_t external_ = 0;
@@ -120,7 +128,7 @@ private:
     Slot own_;
     Class* class_;
     HvmState* machine_;
-    std::vector<Slot> further_;
+    std::unique_ptr<std::vector<Slot>> further_; ///< few objects have any
     Object* previous_ = nullptr;
     Object* next_ = nullptr;
 };

@@ -76,9 +76,9 @@ Class* PackageTree::findClass(Name fullName)
 
 Class* PackageTree::findClass(std::string_view fullName)
 {
-    auto const find = [this, fullName] {
-        Name const name = findInterned(fullName);
-        return name ? findPublishedClass(name) : nullptr;
+    auto const find = [this, fullName]() -> Class* {
+        Class* const* const found = classes_.findText(fullName);
+        return found && !(*found)->isClosed() ? *found : nullptr;
     };
     if (Class* const found = find())
         return found;

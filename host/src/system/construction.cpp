@@ -4,19 +4,21 @@
 
 #include "system/Class.hpp"
 #include "system/HvmCall.hpp"
+#include "values/Array.hpp"
 #include "values/hostError.hpp"
-
-#include "orbis/objectArrays.hpp"
 
 namespace velmara {
 
 namespace {
 
+/// A new object, held by its array from the beginning.
 ArrayPtr makeObject(Class& cls)
 {
-    orbis::COSInterfacePtr const object = cls.newInstance();
-    cls.initializeInstance(object);
-    return ArrayPtr(orbis::omCreateORBISScalar(object));
+    ArrayPtr array(Array::createObjects(cls.name(), 1, 1));
+    Object& object = cls.makeObject();
+    Array::of(array.get())->takeFirstObject(0, object);
+    object.initialize();
+    return array;
 }
 
 /// Calls a constructor for a new object. When it fails, the object ends with its array.
@@ -34,20 +36,13 @@ ArrayPtr invokeConstructor(Class& cls, Method const& constructor, ConvertedInput
     return object;
 }
 
-void requireConstructible(Class const& cls)
-{
-    std::string const name(cls.name()->view());
-    cls.requireNoEnumeration();
-    if (cls.info().classIsAbstract() || cls.info().isAbstract())
-        throwHostError("VELMARA:class", "abstract", {name});
-    if (cls.info().getAccess() != orbis::ClassAccess::Public)
-        throwHostError("VELMARA:class", "access", {name});
-}
-
 ArrayPtr constructObject(HvmState& machine, std::string_view className, Inputs inputs)
 {
     Class& cls = requireClass(machine, className);
-    requireConstructible(cls);
+    if (cls.isEnumeration()) [[unlikely]]
+        cls.requireNoEnumeration();
+    if (char const* const refusal = cls.constructionRefusal()) [[unlikely]]
+        throwHostError("VELMARA:class", refusal, {std::string(cls.name()->view())});
     MethodGroup const& constructors = cls.tables().constructors;
     if (constructors.methods.empty()) {
         if (!inputs.empty())

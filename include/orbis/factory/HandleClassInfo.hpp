@@ -32,7 +32,9 @@ public:
     bool destroyInstanceData(COSInterface* object, void* data) override
     {
         bool const wasBound = detail::forgetBinding(object, data);
-        bool const wasShared = detail::dropShare(object);
+        bool wasShared = false;
+        if constexpr (std::is_same_v<RootClass<T>, full::Wrappable>) // may be a shared one
+            wasShared = detail::dropShare(object);
         if constexpr (N == 1) {
             if (wasBound && !wasShared)
                 delete static_cast<RootClass<T>*>(data);

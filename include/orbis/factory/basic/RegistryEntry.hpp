@@ -10,6 +10,9 @@ public:
     /// The reference that `boundTo` carries is given back before the constructor returns.
     RegistryEntry(void* nativeObject, COSInterfacePtr boundTo) : object(nativeObject), host(boundTo) {}
 
+    /// The same for an object that someone else holds meanwhile.
+    RegistryEntry(void* nativeObject, COSInterface* boundTo) : object(nativeObject), host(boundTo) {}
+
     bool retracted = false; ///< set when the host object is told that its native object is gone: told only once
     bool reserved = false;  ///< used by nothing; it keeps the entry's shape
     void* object;           ///< the native object's address

@@ -14,6 +14,22 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     FooRegistry(FooRegistry const&) = delete;
     FooRegistry& operator=(FooRegistry const&) = delete;
     ~FooRegistry();
+
+    /// Adds a new entry, unless there is one for `object`. `host` is held by someone else.
+    void bind(void* object, COSInterface* host);
+
+    /// Erases a mapping and destroys its entry.
+    void unbind(iterator mapping);
+
+    /// Gives back the references that handles hold on `host`: its binding is gone, through which they would find it.
+    void giveBackHandles(COSInterface* host);
+
+    /// How many references handles hold on each host object.
+    boost::unordered_map<COSInterface*, int> handleCounts;
+
+private:
+    /// The mapping erased last, entry and all: objects that come and go one after the other take no memory.
+    node_type spare_;
 };
 
 /// The table of the current virtual machine, made on first use. Throws the host's error when none is current.

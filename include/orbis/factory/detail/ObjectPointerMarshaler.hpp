@@ -57,6 +57,13 @@ public:
         *out = array.release();
     }
 
+    /// Back from the address under which the object is bound; null for an object of another class.
+    template <PublishedClass T>
+    static T* fromBound(void* bound)
+    {
+        return Cast::template fromBound<T>(bound);
+    }
+
     /// The native object of the array's first element, or null.
     template <PublishedClass T>
     static T* fromHost(hvArray_tag const* in)

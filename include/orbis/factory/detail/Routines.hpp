@@ -101,16 +101,18 @@ struct ConstructorRoutine<T, TypeList<A...>, Completion> {
                        COSValue const* inputs)
     {
         hvArray* const constructed = outputs[0].array();
-        T* const existing = convertFromHost<T*>(outputs[0]);
+        COSNameID const className(HostClass<T>::name);
+        T* const existing =
+            MarshalerOf<T*>::template fromBound<T>(cosiGetArrayElement(constructed, 0)->getNativeObject(className));
         ArgumentsOf<A...> arguments(inputs);
         auto const completion = invoker->target.template as<Completion>();
         if (existing) {
             assign(*existing, arguments, completion);
-            announce(existing, constructed);
+            announce(existing, className, constructed);
         } else {
             auto made = arguments.apply(completion.complete(
                 [](auto&&... values) { return NativeOwnership<T>::make(static_cast<decltype(values)>(values)...); }));
-            announce(made.get(), constructed);
+            announce(made.get(), className, constructed);
             NativeOwnership<T>::handOver(std::move(made), constructed);
         }
         if (outputCount == 0)
@@ -118,11 +120,11 @@ struct ConstructorRoutine<T, TypeList<A...>, Completion> {
     }
 
 private:
-    static void announce(T* object, hvArray* constructed)
+    static void announce(T* object, COSNameID const& className, hvArray* constructed)
     {
         using Bound = MarshalerOf<T*>;
-        basic::BindingRegistry::announceForConstructor(Bound::boundAddress(object), Bound::template dataTypeName<T>(),
-                                                       constructed, Bound::isHandle);
+        basic::BindingRegistry::announceForConstructor(Bound::boundAddress(object), className, constructed,
+                                                       Bound::isHandle);
     }
 
     static void assign([[maybe_unused]] T& existing, [[maybe_unused]] ArgumentsOf<A...>& arguments,

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "orbis/factory/H_ck.hpp"
+#include "orbis/factory/MarshalingPolicy.hpp"
+#include "orbis/factory/RawClassPointerMarshaler.hpp"
+#include "orbis/factory/detail/NewArray.hpp"
+#include "orbis/factory/detail/handleCounts.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+namespace orbis::factory {
+
+/// With which a native object refers to another one that is published: while the handle refers to it, its host object
+/// does not end, and where the class info deletes it with that, neither does the native object. A native object without
+/// a host object gets one. Empty, or as if it were, when the native object goes first.
+///
+/// Threading: on the thread of the virtual machine. After its end a handle does nothing.
+template <PublishedClass T>
+class ObjectHandle : public H_ck {
+public:
+    ObjectHandle() = default;
+    explicit ObjectHandle(T* object) { reset(object); }
+    ObjectHandle(ObjectHandle const& other) : ObjectHandle(other.object_) {}
+
+    ObjectHandle& operator=(ObjectHandle const& other)
+    {
+        reset(other.object_);
+        return *this;
+    }
+
+    ~ObjectHandle() { giveBack(); }
+
+    /// Refers to `object` (null allowed) from now on. When its host object cannot be made the handle becomes empty, and
+    /// the host's error passes through.
+    void reset(T* object = nullptr)
+    {
+        if (object == object_)
+            return;
+        giveBack();
+        object_ = nullptr;
+        if (!object)
+            return;
+        detail::NewArray array;
+        Marshaler::template toHost<T>(object, array.place());
+        COSInterfacePtr const host = omGetArrayElement(array.get(), 0);
+        detail::countHandle(host);
+        incrementRefCount(host);
+        object_ = object;
+    }
+
+    T* get() const { return object_; }
+    T* operator->() const { return object_; }
+    T& operator*() const { return *object_; }
+    explicit operator bool() const { return object_ != nullptr; }
+
+private:
+    using Marshaler = detail::MarshalerOf<T*>;
+
+    void giveBack()
+    {
+        if (!object_ || !detail::canLookUpBindings())
+            return;
+        Enumeration<COSInterface*> bound = RawClassPointerMarshaler::toCosi(Marshaler::boundAddress(object_));
+        if (!bound.hasMoreElements())
+            return;
+        COSInterface* const host = bound.nextElement();
+        if (detail::uncountHandle(host))
+            decrementRefCount(host);
+    }
+
+    T* object_ = nullptr;
+};
+
+} // namespace orbis::factory

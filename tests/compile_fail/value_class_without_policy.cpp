@@ -1,0 +1,19 @@
+// expect: A class published with NonHandleClassInfo crosses as a value: say `using Policy = ValuePolicy`
+#include "orbis/factory/NonHandleClassInfo.hpp"
+#include "orbis/factory/ValuePolicy.hpp"
+
+struct Native {};
+
+template <>
+struct orbis::factory::HostClass<Native> {
+    static constexpr char const* name = "tests.Native";
+#ifdef CONTROL
+    using Policy = ValuePolicy;
+#endif
+};
+
+class Info final : public orbis::factory::NonHandleClassInfo<Native> {
+public:
+    Info() : NonHandleClassInfo("tests.Native", "") {}
+    void initializeClass(orbis::COSClass*) override {}
+};

@@ -1,0 +1,131 @@
+#include "HvmTest.hpp"
+#include "library/Tally.hpp"
+
+#include "orbis/factory/ObjectHandle.hpp"
+#include "orbis/factory/basic/BindingRegistry.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <memory>
+
+using namespace orbis;
+using namespace orbis::factory;
+using velmara::ArrayPtr;
+using Handle = ObjectHandle<Tally>;
+
+namespace {
+
+/// Refers to others of its kind; deleted with its host object.
+struct Linked {
+    Linked() { ++alive; }
+    Linked(Linked const&) = delete;
+    Linked& operator=(Linked const&) = delete;
+    virtual ~Linked() { --alive; }
+    void setNext(Linked* object);
+    Linked* next() const;
+    std::unique_ptr<struct LinkedHandle> link;
+    inline static int alive = 0;
+};
+
+} // namespace
+
+template <>
+struct orbis::factory::HostClass<Linked> {
+    static constexpr char const* name = "tests.Linked";
+};
+
+namespace {
+
+struct LinkedHandle : ObjectHandle<Linked> {
+    using ObjectHandle<Linked>::ObjectHandle;
+};
+
+void Linked::setNext(Linked* object)
+{
+    link = std::make_unique<LinkedHandle>(object);
+}
+
+Linked* Linked::next() const
+{
+    return link ? link->get() : nullptr;
+}
+
+struct LinkedInfo final : HandleClassInfo<Linked, 1> {
+    LinkedInfo() : HandleClassInfo("tests.Linked", "") {}
+    void initializeClass(COSClass* cls) override
+    {
+        publish(cls, describe<Linked>().constructor().property("next", &Linked::next, &Linked::setNext));
+    }
+};
+
+class ObjectHandleTest : public HvmTest {
+protected:
+    ObjectHandleTest() { TallyInfo::publishIn("tests"); }
+    ~ObjectHandleTest() override
+    {
+        endHvm();
+        EXPECT_EQ(Tally::alive, 0);
+        EXPECT_EQ(Linked::alive, 0);
+    }
+
+    static int references(Tally* tally)
+    {
+        COSInterface const* const host = basic::BindingRegistry::find(tally);
+        return host ? host->getExternalReferenceCount() : 0;
+    }
+};
+
+TEST_F(ObjectHandleTest, AHandleHoldsOneReference)
+{
+    auto* const first = new Tally;
+    auto* const second = new Tally;
+    Handle const empty;
+    EXPECT_FALSE(empty);
+    {
+        Handle handle(first);
+        EXPECT_EQ(references(first), 1) << "the host object was made for it";
+        Handle copy(handle);
+        EXPECT_EQ(references(first), 2);
+        copy.reset(second);
+        EXPECT_EQ(references(first), 1);
+        handle = handle;
+        EXPECT_EQ(references(first), 1);
+        EXPECT_EQ(handle.get(), first);
+        handle = copy;
+        EXPECT_EQ(Tally::alive, 1) << "nothing else held the first one";
+        EXPECT_EQ(references(second), 2);
+        copy.reset();
+        EXPECT_EQ(handle->value(), 0);
+    }
+    EXPECT_EQ(Tally::alive, 0);
+    EXPECT_THROW(ObjectHandle<Linked>(reinterpret_cast<Linked*>(this)), std::exception) << "not published";
+}
+
+TEST_F(ObjectHandleTest, TheNativeObjectMayGoFirst)
+{
+    auto* const tally = new Tally;
+    Handle handle(tally), another(tally);
+    ArrayPtr const array(basic::BindingRegistry::announce(tally, COSNameID("tests.Tally")));
+    EXPECT_TRUE(basic::BindingRegistry::retract(tally));
+    delete tally;
+    handle.reset();
+    EXPECT_FALSE(velmara::isValid(array.get()));
+}
+
+TEST_F(ObjectHandleTest, ObjectsThatHoldEachOtherEndWithTheVirtualMachine)
+{
+    COSPackage::removePackage("tests");
+    registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new LinkedInfo); });
+    ArrayPtr first = hvm().construct("tests.Linked"), second = hvm().construct("tests.Linked");
+    hvm().set(first.get(), "next", second.get());
+    second.reset();
+    EXPECT_EQ(Linked::alive, 2);
+    second = hvm().get(first.get(), "next");
+    hvm().set(second.get(), "next", first.get());
+    hvm().deleteObjects(hvm().construct("tests.Linked").get());
+    first.reset();
+    second.reset();
+    EXPECT_EQ(Linked::alive, 2);
+}
+
+} // namespace
