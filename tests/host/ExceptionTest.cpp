@@ -4,6 +4,8 @@
 #include "libkwfl/bad_alloc.hpp"
 #include "orbis/Enumeration.hpp"
 
+#include <cstdint>
+
 namespace {
 
 using namespace foundation::core::except;
@@ -50,6 +52,11 @@ TEST_F(ExceptionTest, TextsAreFilledWithTheArguments)
     }
     addText("{0} and {1}");
     EXPECT_EQ(textOf({"{1}", "two"}), "{1} and two");
+    // A position and UTF-16 text, as errors about elements of containers have them.
+    TestedError const made(
+        tested_key({std::to_string(SIZE_MAX), IUserException::convert_str(u"k\xE4\xD83D\xDE00\xD800")}));
+    EXPECT_STREQ(made.what(), "18446744073709551615 and k\xC3\xA4\xF0\x9F\x98\x80\xEF\xBF\xBD");
+    EXPECT_EQ(made.GetUnicodeMessageTxt(), u"18446744073709551615 and k\xE4\xD83D\xDE00\xFFFD");
 }
 
 TEST_F(ExceptionTest, TextsBelongToTheirVirtualMachine)

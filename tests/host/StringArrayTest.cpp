@@ -97,8 +97,17 @@ TEST_F(StringArrayTest, CopiesPartWhenOneIsWritten)
     EXPECT_EQ(at6(shared.get()), at6(first.get()));
     EXPECT_NE(at6(deep.get()), at6(first.get()));
     EXPECT_NE(at6(getCell(deepCells.get(), 0)), at6(first.get()));
+    orbis::COSDataTypePtr const any("any");
+    auto const isSame = [&] { return any->isEqualValue(orbis::COSValue(first.get()), orbis::COSValue(deep.get())); };
+    EXPECT_TRUE(isSame());
+    setMissing(first.get(), 0); // which had an empty text
+    EXPECT_FALSE(isSame());
+    setString(first.get(), 0, u"");
     setString(first.get(), 6, u"written");
+    EXPECT_FALSE(isSame());
     setMissing(first.get(), 0);
+    EXPECT_EQ(any->valueByteSize(orbis::COSValue(deep.get())) - any->valueByteSize(orbis::COSValue(first.get())),
+              2 * (0 + 1) + 2 * (1000 - 7));
     EXPECT_EQ(textAt(first, 6), u"written");
     EXPECT_EQ(textAt(first, 13), texts[6]);
     first.reset();

@@ -8,18 +8,21 @@
 /// when there is no memory. An argument of the wrong class is refused with a "VELMARA:array:..." error.
 namespace matrix::detail::noninlined::hv_array_api {
 
-/// A 1-by-n character array of the text; a text in UTF-8; an empty text or null gives 0-by-0.
+/// A 1-by-n character array of the text; an empty text or null gives 0-by-0. The text is UTF-8; what is ill-formed in
+/// it becomes U+FFFD as in `fl::i18n::to_ustring`.
 ORBIS_HOST_API hvArray* hvCreateString(char const* text);
+
+/// The same of UTF-16, which is taken unit by unit, well-formed or not.
 ORBIS_HOST_API hvArray* hvCreateString_UTF16(char16_t const* text);
 
 /// A NUL-terminated UTF-8 copy of a character array's text in column order, or null when `array` is null or no
-/// character array. Free it with `hvFreeEx`.
+/// character array. Lone surrogates become U+FFFD as in `fl::i18n::to_string`. Free it with `hvFreeEx`.
 ORBIS_HOST_API char* hvArrayToString(hvArray_tag const* array);
 
 /// The same; free it with `hvFree`.
 ORBIS_HOST_API char* hvArray2String(hvArray_tag const* array);
 
-/// The same in UTF-16; free it with `hvFreeEx`.
+/// The same in UTF-16, unit by unit, well-formed or not; free it with `hvFreeEx`.
 ORBIS_HOST_API char16_t* hvArrayToString_UTF16(hvArray_tag const* array);
 
 ORBIS_HOST_API void hvFree(void* text);

@@ -1,0 +1,136 @@
+#include "HvmTest.hpp"
+#include "TestDescriptors.hpp"
+#include "messageIdOf.hpp"
+
+#include "libkwi18n/libkwi18n.hpp"
+#include "orbis/COSTypeConversion.hpp"
+#include "orbis/COSTypeRepository.hpp"
+
+#include <functional>
+
+using namespace described;
+using namespace orbis::additions;
+using velmara::ArrayPtr;
+
+namespace {
+
+/// A registered type whose name ends as those of class vectors do: columns of strings or cells.
+struct WordsType : orbis::COSDataType {
+    char const* cppTypeName() const override { return "Words"; }
+    char const* scalarTypeName() const override { return "DataTypeTest.Words vector"; }
+    int typeKind() const override { return 7; }
+    char const* typeCategory() const override { return "Fundamental"; }
+    bool slot11Flag() const override { return false; }
+    bool isEqualValue(COSValue a, COSValue b) const override { return a.array() == b.array(); }
+    std::uint32_t compareValues(COSValue, COSValue) const override { return 2; }
+    std::size_t valueByteSize(COSValue) const override { return 0; }
+    COSValue copyValue(COSValue value) const override { return COSValue(hvCreateSharedDataCopy(value.array())); }
+    void releaseValue(COSValue value) const override { hvDestroyArray(value.array()); }
+};
+
+struct WordsConversion : orbis::COSTypeConversion {
+    void convertToHost(hvArray_tag** out, hvArray_tag* value) override { *out = hvCreateSharedDataCopy(value); }
+    void convertFromHost(hvArray_tag** out, hvArray_tag* in) override
+    {
+        if (!hvIsA(in, "string") && !hvIsA(in, "cell"))
+            throw std::runtime_error("no words");
+        *out = hvCreateSharedCopyNotOnArrayList(in);
+    }
+};
+
+/// What a method does that gives back what it was given.
+void echo(Call const& call, std::string const& type)
+{
+    COSValue const& input = call.inputs[0];
+    if (type == "unicodeString")
+        call.give(
+            COSValue(reinterpret_cast<hvArray_tag*>(new fl::ustring(*reinterpret_cast<fl::ustring*>(input.array())))));
+    else
+        call.give(input.isArray() ? COSValue(hvCreateSharedDataCopy(input.array())) : input);
+}
+
+} // namespace
+
+struct DataTypeTest : HvmTest {
+    ArrayPtr call(std::string const& type, ArrayPtr const& input)
+    {
+        hvArray_tag* const inputs[] = {input.get()};
+        return hvm().callStatic("DataTypeTest", type, inputs);
+    }
+
+    static ArrayPtr strings(std::vector<char16_t const*> const& texts)
+    {
+        ArrayPtr array(createStringMatrix(1, texts.size()));
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            if (texts[i])
+                setString(array.get(), i, texts[i]);
+        return array;
+    }
+};
+
+TEST_F(DataTypeTest, EachTypeTakesAndGivesWhatItSays)
+{
+    orbis::COSTypeRepository::addGlobalType(new WordsType);
+    orbis::COSTypeRepository::addConversion("any", "DataTypeTest.Words vector", new WordsConversion);
+    publish(new Class("DataTypeTest.Thing"));
+    ArrayPtr const one = number(1), text(createText(u"t\u00E4xt")), empty(hvCreateString("")),
+                   square(createMatrix(2, 2, hvCHAR_CLASS)), cells(hvCreateCellMatrix(2, 1)),
+                   thing = hvm().construct("DataTypeTest.Thing"),
+                   things(orbis::omCreateORBISMatrix(1, 2, "DataTypeTest.Thing")), single = strings({u"one"}),
+                   several = strings({u"one", nullptr}), missing = strings({nullptr});
+    struct {
+        char const* type;
+        std::vector<ArrayPtr const*> taken, refused;
+        char const* given; ///< the class of what comes back; null when it is that of what was taken
+    } const cases[] = {
+        {"any", {&one, &text, &square, &cells, &thing, &single, &several, &missing}, {}, nullptr},
+        {"char", {&text, &empty}, {&one, &square, &cells, &thing, &several, &missing}, nullptr},
+        {"char vector", {&text, &empty, &single}, {&one, &square, &cells, &several, &missing}, "char"},
+        {"unicodeString", {&text, &empty, &single}, {&one, &square, &cells, &thing, &several, &missing}, "char"},
+        {"double scalar", {&one}, {&text, &cells, &thing, &single}, "double"},
+        {"DataTypeTest.Thing", {&thing}, {&one, &text, &cells, &single}, "DataTypeTest.Thing"},
+        {"DataTypeTest.Thing vector", {&thing, &things}, {&one, &text, &cells, &several}, "DataTypeTest.Thing"},
+        {"DataTypeTest.Words vector", {&cells, &single, &several}, {&one, &text, &thing}, nullptr},
+    };
+    publish(new Class("DataTypeTest", [&](orbis::COSClass* cls) {
+        for (auto const& each : cases) {
+            std::string const type = each.type;
+            cls->addMethod(new Method(type, each.type, {type}, [type](Call const& made) { echo(made, type); },
+                                      {.isStatic = true}));
+        }
+    }));
+    for (auto const& [type, taken, refused, given] : cases) {
+        SCOPED_TRACE(type);
+        orbis::COSDataTypePtr const known(type);
+        ASSERT_NE(static_cast<orbis::COSDataType*>(known), nullptr);
+        EXPECT_STREQ(known->scalarTypeName(), type);
+        for (ArrayPtr const* const input : taken) {
+            ArrayPtr const result = call(type, *input);
+            EXPECT_EQ(velmara::className(result.get()), given ? given : velmara::className(input->get()));
+            EXPECT_EQ(result->get_number_of_elements() == 0, input == &empty);
+        }
+        for (ArrayPtr const* const input : refused)
+            EXPECT_EQ(errorOf([&] { call(type, *input); }), "VELMARA:dispatch:noMatch")
+                << velmara::className(input->get());
+    }
+    EXPECT_EQ(orbis::COSDataTypePtr("DataTypeTest.Words vector")->typeKind(), 7);
+}
+
+TEST_F(DataTypeTest, RefusalsSayWhatToDo)
+{
+    publish(new Class("DataTypeTest", [](orbis::COSClass* cls) {
+        cls->addMethod(new Method("read", "", {"unicodeString"}, {}, {.isStatic = true}));
+    }));
+    std::pair<ArrayPtr, char const*> const cases[] = {
+        {number(1), "Text is needed here: one row of characters, or a string array of one element."},
+        {strings({nullptr}), "A missing string cannot be used here; give a text, which may be empty."},
+    };
+    for (auto const& [input, reason] : cases) {
+        try {
+            call("read", input);
+            FAIL();
+        } catch (velmara::Error const& error) {
+            EXPECT_NE(error.text().find(reason), std::string::npos) << error.text();
+        }
+    }
+}
