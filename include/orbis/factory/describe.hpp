@@ -5,7 +5,9 @@
 #include "orbis/factory/detail/areSuperclasses.hpp"
 #include "orbis/factory/detail/makePropertyRecord.hpp"
 #include "orbis/factory/detail/makeRecord.hpp"
+#include "orbis/factory/detail/propertyChecks.hpp"
 #include "orbis/factory/overload.hpp"
+#include "orbis/factory/releasedBy.hpp"
 #include "orbis/factory/standardPolicies.hpp"
 
 namespace orbis::factory {
@@ -131,12 +133,15 @@ public:
         return addAll(defaults.template shorten<T, 0>(members().back(), function));
     }
 
-    /// A property that is read only. The getter is a member function without parameters, or a free function or
-    /// captureless lambda that takes the object only.
+    /// A property that is read through `getter`: a data member, a member function without parameters, or a free
+    /// function or captureless lambda that takes the object, or nothing. Data that is not const can be written, too,
+    /// unless `PropertyAttributes::NoAccessSetter()` says otherwise.
     template <class G>
     ClassDescriber& property(char const* name, G getter, PropertyAttributes attributes = {})
     {
-        if constexpr (checkGetter<G>()) {
+        if constexpr (detail::isWritableData<T, G>)
+            return property(name, getter, getter, attributes);
+        else if constexpr (detail::canRead<T, G>()) {
             PropertyRecord record{name, attributes};
             detail::setGetter<T>(record, getter);
             add(record);
@@ -144,20 +149,18 @@ public:
         return *this;
     }
 
-    /// A property that is read and written. The setter is a member function that takes the value, or a free function
-    /// or captureless lambda that takes the object and the value.
+    /// A property that is read and written. The setter is a data member, a member function that takes the value, or a
+    /// free function or captureless lambda that takes the value, after the object where it needs it.
     template <class G, class S>
     ClassDescriber& property(char const* name, G getter, S setter, PropertyAttributes attributes = {})
     {
-        if constexpr (checkGetter<G>() && checkSetter<S>()) {
-            constexpr bool areOneType =
-                std::is_same_v<typename detail::NativeType<detail::Stored<T, G>>::Type,
-                               typename detail::NativeType<typename detail::SetterTraits<T, S>::Value>::Type>;
-            static_assert(areOneType, "The setter takes another type than the getter gives: make the two types one.");
-            PropertyRecord record{name, attributes};
-            detail::setGetter<T>(record, getter);
-            detail::setSetter<T>(record, setter);
-            add(record);
+        if constexpr (detail::canRead<T, G>() && detail::canWrite<T, S>()) {
+            if constexpr (detail::areOneType<T, G, S>()) {
+                PropertyRecord record{name, attributes};
+                detail::setGetter<T>(record, getter);
+                detail::setSetter<T>(record, setter);
+                add(record);
+            }
         }
         return *this;
     }
@@ -165,7 +168,7 @@ public:
     template <class S>
     ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyAttributes attributes = {})
     {
-        if constexpr (checkSetter<S>()) {
+        if constexpr (detail::canWrite<T, S>()) {
             PropertyRecord record{name, attributes};
             detail::setSetter<T>(record, setter);
             add(record);
@@ -173,20 +176,22 @@ public:
         return *this;
     }
 
-    /// A property of the class, read only, through a function that takes nothing.
+    /// A property of the class: static data or a constant, or a function that takes nothing.
     template <class G>
     ClassDescriber& staticProperty(char const* name, G getter, PropertyAttributes attributes = {})
     {
-        constexpr bool isGetter = isFreeOf<G>(0);
-        static_assert(isGetter, "A static property is read through a free function, a static member function or a "
-                                "captureless lambda that takes nothing.");
-        if constexpr (isGetter) {
-            if constexpr (valueCanCross<typename Traits<G>::Result>()) {
-                PropertyRecord record{name, attributes + PropertyAttributes::Static()};
-                detail::setClasslessGetter(record, getter);
-                add(record);
-            }
-        }
+        if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>())
+            property(name, getter, attributes + PropertyAttributes::Static());
+        return *this;
+    }
+
+    /// The same, read and written.
+    template <class G, class S>
+    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyAttributes attributes = {})
+    {
+        if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>() &&
+                      detail::needsNoObject<detail::SetterTraits<T, S>>())
+            property(name, getter, setter, attributes + PropertyAttributes::Static());
         return *this;
     }
 
@@ -198,46 +203,6 @@ private:
         for (MemberRecord& record : records)
             add(std::move(record));
         return *this;
-    }
-
-    template <class F>
-    static consteval bool isFreeOf(std::size_t arity)
-    {
-        return Traits<F>::kind == detail::CallableKind::Free && Traits<F>::arity == arity;
-    }
-
-    template <class V>
-    static consteval bool valueCanCross()
-    {
-        static_assert(!std::is_void_v<V>, "A getter gives a value: this one gives nothing.");
-        if constexpr (std::is_void_v<V>)
-            return false;
-        else
-            return detail::canCross<std::remove_cvref_t<V>>();
-    }
-
-    template <class G>
-    static consteval bool checkGetter()
-    {
-        constexpr bool isGetter = detail::takesOnlyObject<T, Traits<G>>();
-        static_assert(isGetter, "A getter is a member function without parameters, or a free function or captureless "
-                                "lambda that takes a pointer to the class and nothing else.");
-        if constexpr (isGetter)
-            return valueCanCross<typename Traits<G>::Result>();
-        else
-            return false;
-    }
-
-    template <class S>
-    static consteval bool checkSetter()
-    {
-        using Value = typename detail::SetterTraits<T, std::decay_t<S>>::Value;
-        static_assert(!std::is_void_v<Value>, "A setter is a member function that takes one value, or a free function "
-                                              "or captureless lambda that takes a pointer to the class and one value.");
-        if constexpr (std::is_void_v<Value>)
-            return false;
-        else
-            return detail::canCross<Value>();
     }
 
     template <class F>

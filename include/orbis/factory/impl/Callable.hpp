@@ -6,16 +6,16 @@
 
 namespace orbis::factory::impl {
 
-/// A pointer to a free function or to a member function, without its type. Null when default-made.
+/// A pointer to a function, to data or to a member of a class, without its type. Null when default-made.
 class Callable {
 public:
     Callable() = default;
 
     template <class F>
-        requires std::is_pointer_v<F> || std::is_member_function_pointer_v<F>
+        requires std::is_pointer_v<F> || std::is_member_pointer_v<F>
     Callable(F function)
     {
-        static_assert(sizeof(F) <= sizeof(bytes_), "A pointer to a function takes two words at most.");
+        static_assert(sizeof(F) <= sizeof(bytes_), "A pointer takes two words at most.");
         std::memcpy(bytes_, &function, sizeof(F));
     }
 

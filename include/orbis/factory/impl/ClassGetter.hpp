@@ -2,22 +2,24 @@
 
 #include "orbis/factory/impl/CallableGetter.hpp"
 
+#include <functional>
+
 namespace orbis::factory::impl {
 
-/// Reads through a member function `F` of `T` that gives an `R`, stored as a `V`.
+/// Reads through a member `F` of `T`, a function or data, that gives an `R`, stored as a `V`.
 template <class R, class T, class F, class V>
 class ClassGetter final : public CallableGetter<ClassGetter<R, T, F, V>, R, V> {
 public:
-    explicit ClassGetter(F function, ReleaseRoutine release = nullptr)
+    explicit ClassGetter(F member, ReleaseRoutine release = nullptr)
         : CallableGetter<ClassGetter, R, V>(release),
-          function_(function)
+          member_(member)
     {
     }
 
-    R read(COSInterface* object) const { return (detail::nativeSelf<T>(object).*function_)(); }
+    R read(COSInterface* object) const { return std::invoke(member_, detail::nativeSelf<T>(object)); }
 
 private:
-    F function_;
+    F member_;
 };
 
 } // namespace orbis::factory::impl

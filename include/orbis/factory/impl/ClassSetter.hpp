@@ -3,25 +3,30 @@
 #include "orbis/factory/detail/PropertyValue.hpp"
 #include "orbis/factory/impl/Setter.hpp"
 
+#include <type_traits>
+
 namespace orbis::factory::impl {
 
-/// Writes through a member function `F` of `T` that takes an `A`.
+/// Writes through a member `F` of `T`: a function that takes an `A`, or data of that type.
 template <class A, class T, class F>
 class ClassSetter final : public Setter {
 public:
-    explicit ClassSetter(F function) : function_(function) {}
+    explicit ClassSetter(F member) : member_(member) {}
 
     void setValue(COSInterface* object, COSValue value) const override
     {
         T& self = detail::nativeSelf<T>(object);
         detail::Argument<A> argument(value);
-        (self.*function_)(argument.get());
+        if constexpr (std::is_member_object_pointer_v<F>)
+            self.*member_ = argument.get();
+        else
+            (self.*member_)(argument.get());
     }
 
     char const* dataTypeName() const override { return detail::dataTypeText<A>(); }
 
 private:
-    F function_;
+    F member_;
 };
 
 } // namespace orbis::factory::impl

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "orbis/factory/detail/CallableTraits.hpp"
+#include "orbis/factory/impl/AdaptedClassGetter.hpp"
+#include "orbis/factory/impl/ClassGetter.hpp"
+#include "orbis/factory/impl/ClasslessGetter.hpp"
+#include "orbis/factory/impl/DataGetter.hpp"
+#include "orbis/factory/releasedBy.hpp"
+
+#include <type_traits>
+
+/// What can be published as a getter of the class `T`, and which getter reads through it.
+namespace orbis::factory::detail {
+
+/// A member function of `T` or of a base.
+template <class F, class T>
+concept MethodOf =
+    CallableTraits<F>::kind == CallableKind::Member && std::is_base_of_v<typename CallableTraits<F>::Class, T>;
+
+template <class F>
+concept FreeFunction = CallableTraits<F>::kind == CallableKind::Free;
+
+/// A free function that takes the object first.
+template <class F, class T>
+concept FunctionOn = FreeFunction<F> && CallableTraits<F>::template takesObject<T>;
+
+/// `isGetter`; where it is: `Result`, what it gives; `Pointer`, what it is kept as; `Getter`, what reads through that.
+template <class T, class G>
+struct GetterTraits {
+    static constexpr bool isGetter = false;
+};
+
+template <class R, class P, class Reader, bool NeedsObject>
+struct ReadThrough {
+    static constexpr bool isGetter = true;
+    static constexpr bool needsObject = NeedsObject;
+    using Result = R;
+    using Pointer = P;
+    using Getter = Reader;
+};
+
+template <class T, class G, class Traits = CallableTraits<G>>
+using ReadThroughMethod =
+    ReadThrough<typename Traits::Result, typename Traits::template PointerIn<T>,
+                impl::ClassGetter<typename Traits::Result, T, typename Traits::template PointerIn<T>,
+                                  std::remove_cvref_t<typename Traits::Result>>,
+                true>;
+
+template <class T, MethodOf<T> G>
+    requires(CallableTraits<G>::arity == 0)
+struct GetterTraits<T, G> : ReadThroughMethod<T, G> {};
+
+template <class T, class M, class C>
+    requires std::is_object_v<M> && std::is_base_of_v<C, T>
+struct GetterTraits<T, M C::*>
+    : ReadThrough<M const&, M T::*, impl::ClassGetter<M const&, T, M T::*, std::remove_cv_t<M>>, true> {};
+
+template <class T, class G, class Traits = CallableTraits<G>>
+using ReadThroughFunctionOn = ReadThrough<typename Traits::Result, typename Traits::Pointer,
+                                          impl::AdaptedClassGetter<typename Traits::Result, T, typename Traits::Pointer,
+                                                                   std::remove_cvref_t<typename Traits::Result>>,
+                                          true>;
+
+template <class T, FunctionOn<T> G>
+    requires(CallableTraits<G>::arity == 1)
+struct GetterTraits<T, G> : ReadThroughFunctionOn<T, G> {};
+
+template <class R>
+using ReadThroughFunction = ReadThrough<R, R (*)(), impl::ClasslessGetter<R, std::remove_cvref_t<R>>, false>;
+
+template <class T, FreeFunction G>
+    requires(CallableTraits<G>::arity == 0)
+struct GetterTraits<T, G> : ReadThroughFunction<typename CallableTraits<G>::Result> {};
+
+template <class T, class M>
+    requires std::is_object_v<M>
+struct GetterTraits<T, M*> : ReadThrough<M const&, M const*, impl::DataGetter<std::remove_cv_t<M>>, false> {};
+
+template <class T, auto Routine, class G>
+struct GetterTraits<T, ReleasedGetter<Routine, G>> : GetterTraits<T, G> {};
+
+} // namespace orbis::factory::detail

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "orbis/factory/detail/releaseRoutine.hpp"
+#include "orbis/factory/detail/setterTraits.hpp"
+
+#include <type_traits>
+
+/// Each is true when a description of the class `T` is right in one point, and stops compilation with a sentence when
+/// it is not.
+namespace orbis::factory::detail {
+
+template <class V>
+consteval bool valueCanCross()
+{
+    static_assert(!std::is_void_v<V>, "A getter gives a value: this one gives nothing.");
+    if constexpr (std::is_void_v<V>)
+        return false;
+    else
+        return canCross<std::remove_cvref_t<V>>();
+}
+
+template <class T, class G>
+consteval bool canRead()
+{
+    constexpr bool isGetter = GetterTraits<T, G>::isGetter;
+    static_assert(isGetter, "A getter is a data member, a member function without parameters, static data, or a free "
+                            "function or captureless lambda that takes a pointer to the class, or nothing.");
+    static_assert(isReleasable<T, G>, "A release routine is a member function without parameters, or a free function "
+                                      "or captureless lambda that takes a pointer to the class, or nothing.");
+    if constexpr (isGetter && isReleasable<T, G>)
+        return valueCanCross<typename GetterTraits<T, G>::Result>();
+    else
+        return false;
+}
+
+template <class T, class S>
+consteval bool canWrite()
+{
+    constexpr bool isSetter = SetterTraits<T, S>::isSetter;
+    static_assert(isSetter, "A setter is a data member that is not const, a member function that takes one value, "
+                            "static data that is not const, or a free function or captureless lambda that takes the "
+                            "value, after a pointer to the class where it needs the object.");
+    if constexpr (isSetter)
+        return canCross<typename SetterTraits<T, S>::Value>();
+    else
+        return false;
+}
+
+template <class T, class G, class S>
+consteval bool areOneType()
+{
+    constexpr bool areSame =
+        std::is_same_v<typename NativeType<std::remove_cvref_t<typename GetterTraits<T, G>::Result>>::Type,
+                       typename NativeType<typename SetterTraits<T, S>::Value>::Type>;
+    static_assert(areSame, "The setter takes another type than the getter gives: make the two types one.");
+    return areSame;
+}
+
+/// True for data that is read and written through one pointer.
+template <class T, class D>
+inline constexpr bool isWritableData =
+    (std::is_member_object_pointer_v<D> || std::is_pointer_v<D>)&&GetterTraits<T, D>::isGetter &&
+    SetterTraits<T, D>::isSetter;
+
+/// Getters and setters of static properties take no object.
+template <class Traits>
+consteval bool needsNoObject()
+{
+    if constexpr (requires { Traits::needsObject; }) {
+        static_assert(!Traits::needsObject, "A static property has no object: give static data, or a free function, "
+                                            "static member function or captureless lambda that takes no object.");
+        return !Traits::needsObject;
+    } else {
+        return true; // it is refused for another reason
+    }
+}
+
+} // namespace orbis::factory::detail
