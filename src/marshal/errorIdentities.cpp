@@ -14,6 +14,13 @@ must_be_string::must_be_string(std::size_t index) : BaseMsgID(catalog, "must_be_
 
 must_be_string::~must_be_string() = default;
 
+member_not_published::member_not_published(std::string const& member, std::string const& reason)
+    : BaseMsgID(catalog, "member_not_published", {member, reason})
+{
+}
+
+member_not_published::~member_not_published() = default;
+
 no_duplicates::no_duplicates(std::string const& text) : BaseMsgID(catalog, "no_duplicates", {text}) {}
 
 no_duplicates::~no_duplicates() = default;

@@ -8,6 +8,7 @@ constexpr orbis::additions::Message texts[] = {
     {"must_be_cell_array", "Several strings are needed here: give a cell array with one row of text in each cell, or a "
                            "string array."},
     {"must_be_string", "Element {0} (counted from 0) is no text: put one row of text there, which may be empty."},
+    {"member_not_published", "{0} cannot be published: {1}"},
     {"no_duplicates", "The text \"{0}\" is given more than once, where each may be given only once: leave out the "
                       "repetition."},
     {"null_self", "The call needs an object and was given none, or one without a native object: call it on an object "

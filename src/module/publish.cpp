@@ -8,6 +8,7 @@
 #include "module/KeepingDescriptor.hpp"
 #include "module/OwnedProperty.hpp"
 #include "module/PublishedClasses.hpp"
+#include "module/notPublished.hpp"
 
 #include "additions/additions.hpp"
 
@@ -73,9 +74,11 @@ void bind(Descriptor& descriptor, MemberRecord const& record, char const* hostNa
 template <class Descriptor>
 void add(COSClass* cls, char const* name, MemberRecord const& record, char const* hostName)
 {
-    auto descriptor = makeDescriptor<Descriptor>(record.kept, name, attributesOf(record), "");
-    bind(*descriptor, record, hostName);
-    cls->addMethod(descriptor.release());
+    publishing(hostName, name, [&] {
+        auto descriptor = makeDescriptor<Descriptor>(record.kept, name, attributesOf(record), "");
+        bind(*descriptor, record, hostName);
+        cls->addMethod(descriptor.release());
+    });
 }
 
 std::unique_ptr<OwnedProperty> makeProperty(PropertyRecord const& record)
@@ -109,7 +112,7 @@ void publish(COSClass* cls, ClassDescription const& description)
             add<impl::MethodImpl>(cls, record.name, record, description.hostName());
     }
     for (PropertyRecord const& record : description.properties())
-        cls->addProperty(makeProperty(record).release());
+        publishing(description.hostName(), record.name, [&] { cls->addProperty(makeProperty(record).release()); });
     PublishedClasses::ofCurrentHvm().add(description.native(), description.superclasses());
 }
 
@@ -117,9 +120,11 @@ void publish(COSPackage* package, FunctionDescription const& description)
 {
     detail::initStringDataTypes();
     for (MemberRecord const& record : description.functions()) {
-        auto function = makeDescriptor<FunctionInfo>(record.kept, record.name, attributesOf(record));
-        bind(function->method(), record, nullptr);
-        package->addFunction(function.release());
+        publishing(nullptr, record.name, [&] {
+            auto function = makeDescriptor<FunctionInfo>(record.kept, record.name, attributesOf(record));
+            bind(function->method(), record, nullptr);
+            package->addFunction(function.release());
+        });
     }
 }
 

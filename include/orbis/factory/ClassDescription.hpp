@@ -40,7 +40,8 @@ private:
 
 /// Gives the host class its superclasses, which must be published, and a descriptor for every member: constructors,
 /// then methods, then properties, each kind in the order of description. To be called by the class info's
-/// `initializeClass`. Errors of the host pass through; what was handed over before stays the host's.
+/// `initializeClass`. Throws "orbis_factory:orbis_factory:member_not_published" when a member cannot be made, or the
+/// host refuses it; what was handed over before stays the host's.
 ORBIS_FACTORY_API void publish(COSClass* cls, ClassDescription const& description);
 
 } // namespace orbis::factory

@@ -25,7 +25,8 @@ private:
     std::vector<MemberRecord> functions_;
 };
 
-/// Adds each function to the package, in the order of description. Errors of the host pass through.
+/// Adds each function to the package, in the order of description. Throws
+/// "orbis_factory:orbis_factory:member_not_published" when one cannot be made, or the host refuses it.
 ORBIS_FACTORY_API void publish(COSPackage* package, FunctionDescription const& description);
 
 } // namespace orbis::factory

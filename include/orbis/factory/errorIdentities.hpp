@@ -25,6 +25,13 @@ public:
     ~must_be_string() override;
 };
 
+/// A member of a description could not be handed to the host. Arguments: the member's full name, and the reason.
+class ORBIS_FACTORY_API member_not_published : public resource_core::BaseMsgID {
+public:
+    member_not_published(std::string const& member, std::string const& reason);
+    ~member_not_published() override;
+};
+
 /// A set of strings was given one text twice. Argument: the text, in UTF-8.
 class ORBIS_FACTORY_API no_duplicates : public resource_core::BaseMsgID {
 public:

@@ -3,6 +3,7 @@
 #include "orbis/factory/detail/releaseRoutine.hpp"
 #include "orbis/factory/detail/setterTraits.hpp"
 
+#include <string_view>
 #include <type_traits>
 
 /// Each is true when a description of the class `T` is right in one point, and stops compilation with a sentence when
@@ -46,14 +47,32 @@ consteval bool canWrite()
         return false;
 }
 
+/// True for types that cross as one data type, which is known at compile time for most but scalars.
+template <class A, class B>
+consteval bool crossAlike()
+{
+    constexpr auto text = []<class V>(std::type_identity<V>) {
+        return std::string_view(MarshalerOf<V>::template dataTypeText<MarshaledTypeOf<V>>());
+    };
+    if constexpr (std::is_same_v<A, B>)
+        return true;
+    else if constexpr (requires {
+                           typename std::bool_constant<(text(std::type_identity<A>()) ==
+                                                        text(std::type_identity<B>()))>;
+                       })
+        return text(std::type_identity<A>()) == text(std::type_identity<B>());
+    else
+        return false;
+}
+
 template <class T, class G, class S>
 consteval bool areOneType()
 {
-    constexpr bool areSame =
-        std::is_same_v<typename NativeType<std::remove_cvref_t<typename GetterTraits<T, G>::Result>>::Type,
-                       typename NativeType<typename SetterTraits<T, S>::Value>::Type>;
-    static_assert(areSame, "The setter takes another type than the getter gives: make the two types one.");
-    return areSame;
+    using Read = typename NativeType<std::remove_cvref_t<typename GetterTraits<T, G>::Result>>::Type;
+    using Written = typename NativeType<typename SetterTraits<T, S>::Value>::Type;
+    static_assert(crossAlike<Read, Written>(), "The setter takes another type than the getter gives: make the two "
+                                               "types one.");
+    return crossAlike<Read, Written>();
 }
 
 /// True for data that is read and written through one pointer.

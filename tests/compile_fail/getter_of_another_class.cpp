@@ -1,0 +1,21 @@
+// expect: A getter is a data member, a member function without parameters, static data, or a free
+#include "orbis/factory/describe.hpp"
+
+struct Published {
+    int value = 0;
+};
+
+template <>
+struct orbis::factory::HostClass<Published> {
+    static constexpr char const* name = "tests.Published";
+};
+
+#ifdef CONTROL
+using Other = Published;
+#else
+struct Other {
+    int value = 0;
+};
+#endif
+
+auto const described = orbis::factory::describe<Published>().property("value", &Other::value);

@@ -1,0 +1,17 @@
+// expect: A setter is a data member that is not const, a member function that takes one value
+#include "orbis/factory/describe.hpp"
+
+struct Published {
+#ifdef CONTROL
+    int value = 0;
+#else
+    int const value = 0;
+#endif
+};
+
+template <>
+struct orbis::factory::HostClass<Published> {
+    static constexpr char const* name = "tests.Published";
+};
+
+auto const described = orbis::factory::describe<Published>().writeOnlyProperty("value", &Published::value);

@@ -1,0 +1,253 @@
+#include "HvmTest.hpp"
+
+#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/NumericVectorPolicy.hpp"
+#include "orbis/factory/StringViewPolicy.hpp"
+#include "orbis/factory/describe.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
+#include "orbis/factory/stringVectors.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <algorithm>
+#include <stdexcept>
+
+using namespace orbis;
+using namespace orbis::factory;
+using velmara::ArrayPtr;
+using P = PropertyAttributes;
+
+namespace {
+
+struct Sized {
+    int width = 3;
+    double const scale = 0.5;
+};
+
+struct Image : Sized {
+    virtual ~Image() = default;
+
+    std::string const& title() const { return title_; }
+    void setTitle(std::string_view title)
+    {
+        if (title == "refused")
+            throw std::invalid_argument("no title");
+        title_ = title;
+    }
+    double lock()
+    {
+        ++locks;
+        return 1.5;
+    }
+    void unlock() { --locks; }
+    static int getLimit() { return limit; }
+    static void setLimit(int value) { limit = value; }
+
+    int locks = 0;
+    std::vector<double> samples{1, 2};
+    std::vector<std::string> tags{"a", "b"};
+    Image* next = nullptr;
+    std::vector<Image*> parts;
+
+    inline static int limit = 10;
+    static constexpr double pi = 3.25;
+
+private:
+    std::string title_ = "untitled";
+};
+
+int released = 0;
+
+void countRelease(COSInterface* object, COSValue value)
+{
+    released += object && value.isScalarOf(hvDOUBLE_CLASS) ? 1 : 100;
+}
+
+} // namespace
+
+template <>
+struct orbis::factory::HostClass<Image> {
+    static constexpr char const* name = "tests.Image";
+};
+
+namespace {
+
+ClassDescription describeImage()
+{
+    return describe<Image>()
+        .constructor()
+        .property("width", &Image::width)
+        .property("scale", &Image::scale)
+        .property("shown", &Image::width, P::NoAccessSetter())
+        .property("title", &Image::title, &Image::setTitle)
+        .property("samples", &Image::samples)
+        .property("tags", &Image::tags)
+        .property("next", &Image::next)
+        .property("locked", releasedBy<&Image::unlock>(&Image::lock))
+        .property("seen", releasedBy<&countRelease>([](Image*) { return 2.5; }), P::Transient())
+        .property("handed", releasedBy<[](Image* image) { image->locks -= 10; }>(&Image::width), &Image::width)
+        .property("epoch", releasedBy<[] { released += 1000; }>([] { return 1970; }))
+        .property("mixed", &Image::width, [](Image* image, int const& width) { image->width = 2 * width; })
+        .property("global", &Image::pi)
+        .writeOnlyProperty("extent", &Image::width)
+        .staticProperty("limit", &Image::limit)
+        .staticProperty("limitByFunctions", &Image::getLimit, &Image::setLimit)
+        .staticProperty("limitMixed", &Image::limit, [](int value) { Image::limit = -value; })
+        .staticProperty("pi", &Image::pi, P::Hidden());
+}
+
+class ImageInfo final : public HandleClassInfo<Image, 1> {
+public:
+    ImageInfo() : HandleClassInfo("tests.Image", "") {}
+    void initializeClass(COSClass* cls) override { publish(cls, describeImage()); }
+};
+
+class PropertyFormsTest : public HvmTest {
+protected:
+    PropertyFormsTest()
+    {
+        registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new ImageInfo); });
+        object_ = hvm().construct("tests.Image");
+    }
+    ~PropertyFormsTest() override { object_.reset(); }
+
+    Image& native()
+    {
+        COSInterface* const host = omGetArrayElement(object_.get(), 0);
+        return *static_cast<Image*>(host->getNativeObject(COSNameID("tests.Image")));
+    }
+
+    template <class T>
+    T read(char const* name)
+    {
+        return scalar<T>(hvm().get(object_.get(), name));
+    }
+
+    std::string write(char const* name, ArrayPtr const& value)
+    {
+        return errorOf([&] { hvm().set(object_.get(), name, value.get()); });
+    }
+
+    static std::string textOf(ArrayPtr const& array)
+    {
+        std::unique_ptr<char, void (*)(void*)> const text(hvArrayToString(array.get()), &hvFreeEx);
+        return text.get();
+    }
+
+    ArrayPtr object_;
+};
+
+TEST_F(PropertyFormsTest, ScalarsThroughDataAndFunctions)
+{
+    struct Case {
+        char const* name;
+        double first;  ///< what it reads as in the beginning
+        double second; ///< what it reads as once 7 was written; the same when it refuses that
+    };
+    for (auto const& [name, first, second] :
+         {Case{"width", 3, 7}, Case{"scale", 0.5, 0.5}, Case{"shown", 7, 7}, Case{"mixed", 7, 14},
+          Case{"global", 3.25, 3.25}, Case{"limit", 10, 7}, Case{"limitByFunctions", 7, 7}, Case{"limitMixed", 7, -7},
+          Case{"pi", 3.25, 3.25}}) {
+        SCOPED_TRACE(name);
+        auto const get = [&, member = name] {
+            ArrayPtr const value = hvm().get(object_.get(), member);
+            return velmara::className(value.get()) == "int32" ? scalar<std::int32_t>(value) : scalar<double>(value);
+        };
+        EXPECT_EQ(get(), first);
+        bool const isRefused = first == second && name != std::string_view("limitByFunctions");
+        EXPECT_EQ(write(name, number(7)), isRefused ? "VELMARA:property:readOnly" : "");
+        EXPECT_EQ(get(), second);
+    }
+    EXPECT_EQ(write("extent", number(21)), "");
+    EXPECT_EQ(native().width, 21);
+    EXPECT_EQ(errorOf([&] { read<std::int32_t>("extent"); }), "VELMARA:property:writeOnly");
+    hvm().setStatic("tests.Image", "limit", number(4).get());
+    EXPECT_EQ(scalar<std::int32_t>(hvm().getStatic("tests.Image", "limitByFunctions")), 4);
+    Image::limit = 10;
+}
+
+TEST_F(PropertyFormsTest, TextsRowsAndObjectsAreConvertedAndGivenBack)
+{
+    EXPECT_EQ(textOf(hvm().get(object_.get(), "title")), "untitled");
+    EXPECT_EQ(write("title", ArrayPtr(hvCreateString("sunrise"))), "");
+    EXPECT_EQ(write("title", ArrayPtr(hvCreateString("refused"))), "VELMARA:native:exception");
+    EXPECT_EQ(native().title(), "sunrise");
+
+    ArrayPtr const row(additions::createMatrix(1, 3, hvDOUBLE_CLASS));
+    EXPECT_EQ(hvm().get(object_.get(), "samples")->get_number_of_elements(), 2u);
+    EXPECT_EQ(write("samples", row), "");
+    EXPECT_EQ(native().samples, std::vector<double>(3));
+    ArrayPtr const tags = hvm().get(object_.get(), "tags");
+    native().tags.clear();
+    EXPECT_EQ(write("tags", tags), "");
+    EXPECT_EQ(native().tags, (std::vector<std::string>{"a", "b"}));
+    EXPECT_NE(write("tags", number(1)), "");
+    EXPECT_EQ(native().tags.size(), 2u) << "a refused value changes nothing";
+
+    EXPECT_EQ(write("next", object_), "");
+    EXPECT_EQ(native().next, &native());
+    EXPECT_TRUE(velmara::isSameObject(hvm().get(object_.get(), "next").get(), object_.get()));
+}
+
+TEST_F(PropertyFormsTest, ReleaseRoutinesRunOnceForEachValue)
+{
+    released = 0;
+    EXPECT_EQ(read<double>("locked"), 1.5);
+    EXPECT_EQ(native().locks, 0);
+    read<double>("seen");
+    EXPECT_EQ(released, 1);
+    read<std::int32_t>("handed");
+    EXPECT_EQ(native().locks, -10);
+    read<std::int32_t>("epoch");
+    EXPECT_EQ(released, 1001);
+    EXPECT_EQ(write("handed", number(8)), "");
+    EXPECT_EQ(native().width, 8);
+    EXPECT_EQ(native().locks, -10) << "writing reads nothing";
+}
+
+TEST_F(PropertyFormsTest, DescribedWithoutAHost)
+{
+    ClassDescription const description = describeImage();
+    auto const find = [&](std::string_view name) {
+        return *std::ranges::find(description.properties(), name, &PropertyRecord::name);
+    };
+    struct Case {
+        char const* name;
+        bool reads, writes, isStatic;
+    };
+    for (auto const& [name, reads, writes, isStatic] :
+         {Case{"width", true, true, false}, Case{"scale", true, false, false}, Case{"extent", false, true, false},
+          Case{"global", true, false, false}, Case{"limit", true, true, true}, Case{"pi", true, false, true}}) {
+        PropertyRecord const record = find(name);
+        EXPECT_EQ(record.makeGetter != nullptr, reads) << name;
+        EXPECT_EQ(record.makeSetter != nullptr, writes) << name;
+        EXPECT_EQ(record.attributes.isStatic(), isStatic) << name;
+    }
+    EXPECT_FALSE(find("pi").attributes.isVisible());
+    EXPECT_EQ(find("shown").attributes.getMemberSetAccess(), MemberAccess::NoAccess);
+    EXPECT_STREQ(find("title").makeSetter(find("title").setter)->dataTypeName(), "char vector");
+}
+
+TEST_F(PropertyFormsTest, ValuesSayWhichObjectsTheyReferTo)
+{
+    Image other;
+    ArrayPtr const announced(basic::BindingRegistry::announce(&other, COSNameID("tests.Image")));
+    COSInterface* const first = omGetArrayElement(object_.get(), 0);
+    COSInterface* const second = omGetArrayElement(announced.get(), 0);
+    Image unbound;
+    std::vector<Image*> const parts{&other, nullptr, &unbound, &native(), &other};
+    auto all = detail::referredObjects(parts);
+    for (COSInterface* const expected : {second, first, second})
+        EXPECT_EQ(all.nextElement(), expected);
+    EXPECT_FALSE(all.hasMoreElements());
+    EXPECT_THROW(all.nextElement(), ENoElements);
+    auto one = detail::referredObjects(std::shared_ptr<Image const>(&other, [](Image const*) {}));
+    EXPECT_EQ(one.nextElement(), second);
+    EXPECT_FALSE(detail::referredObjects(std::shared_ptr<Image>()).hasMoreElements());
+    static_assert(detail::refersToObjects<std::vector<std::shared_ptr<Image>>> &&
+                  !detail::refersToObjects<std::string>);
+    static_assert(!detail::refersToObjects<std::vector<double>> && detail::refersToObjects<Image const*>);
+    basic::BindingRegistry::retract(&other);
+}
+
+} // namespace
