@@ -74,8 +74,8 @@ TEST_F(PropertyTest, ReadAndWrittenEachOnItsOwnTerms)
     EXPECT_EQ(writeError("size", half.get()), "VELMARA:property:value");
     EXPECT_EQ(writeError("size", nullptr), "VELMARA:dispatch:nullInput");
     EXPECT_EQ(hvm().get(p.get(), "readOnly")->get_number_of_elements(), 4u);
-    EXPECT_EQ(writeError("readOnly", seven.get()), "VELMARA:property:setAccess");
-    EXPECT_EQ(readError("writeOnly"), "VELMARA:property:getAccess");
+    EXPECT_EQ(writeError("readOnly", seven.get()), "VELMARA:property:readOnly");
+    EXPECT_EQ(readError("writeOnly"), "VELMARA:property:writeOnly");
     EXPECT_EQ(writeError("writeOnly", seven.get()), "");
     EXPECT_EQ(readError("lies"), "VELMARA:result:type");
     EXPECT_EQ(readError("unknown"), "VELMARA:property:dataType");
@@ -101,4 +101,150 @@ TEST_F(PropertyTest, StaticOnesNeedNoObject)
     EXPECT_EQ(record.properties[1].setAccess, orbis::MemberAccess::NoAccess);
     EXPECT_TRUE(record.properties[3].isStatic);
     EXPECT_EQ(record.properties[5].dataType, "");
+}
+
+TEST_F(PropertyTest, EachMisuseHasAnErrorOfItsOwn)
+{
+    using orbis::MemberAccess;
+    publish(new Class("Q", [this](orbis::COSClass* cls) {
+        auto const add = [&](char const* name, bool isReadable, bool isWritable, MemberAccess open, bool isAbstract) {
+            auto const get = [] { return COSValue(std::int32_t{1}); };
+            Property* const made =
+                make(name, "int32 scalar", isReadable ? std::function<COSValue()>(get) : nullptr, isWritable);
+            made->open = open;
+            made->is_abstract = isAbstract;
+            cls->addProperty(made);
+        };
+        add("private", true, true, MemberAccess::Private, false);
+        add("protected", true, true, MemberAccess::Protected, false);
+        add("privateReader", true, false, MemberAccess::Private, false);
+        add("abstract", true, true, MemberAccess::Public, true);
+        add("closed", false, false, MemberAccess::Public, false);
+        add("plain", true, true, MemberAccess::Public, false);
+    }));
+    ArrayPtr const q = hvm().construct("Q"), value = number(1);
+    struct Case {
+        char const* name;
+        char const* reading;
+        char const* writing;
+    };
+    for (auto const& [name, reading, writing] :
+         {Case{"private", "getAccess", "setAccess"}, Case{"protected", "getAccess", "setAccess"},
+          Case{"privateReader", "getAccess", "setAccess"}, Case{"abstract", "abstract", "abstract"},
+          Case{"closed", "getAccess", "setAccess"}, Case{"nothing", "unknown", "unknown"}}) {
+        std::string const prefix = "VELMARA:property:";
+        EXPECT_EQ(errorOf([&, member = name] { hvm().get(q.get(), member); }), prefix + reading) << name;
+        EXPECT_EQ(errorOf([&, member = name] { hvm().set(q.get(), member, value.get()); }), prefix + writing) << name;
+    }
+    EXPECT_EQ(errorOf([&] { hvm().getStatic("Q", "plain"); }), "VELMARA:property:noObject");
+    EXPECT_EQ(errorOf([&] { hvm().setStatic("Q", "plain", value.get()); }), "VELMARA:property:noObject");
+    EXPECT_EQ(errorOf([&] { hvm().setStatic("None", "plain", value.get()); }), "VELMARA:class:unknown");
+    EXPECT_EQ(value_, 3) << "nothing was written";
+}
+
+namespace {
+
+/// Notes each question that it is asked.
+struct Asked final : described::Property {
+    static std::string questions;
+
+    template <class T>
+    static T note(char const* question, T answer)
+    {
+        questions.append(question).append(" ");
+        return answer;
+    }
+
+    using Access = orbis::MemberAccess;
+    using Extended = orbis::ExtendedMemberAccess;
+
+    char const* getName() const override { return note("name", "asked"); }
+    char const* getDescription() const override { return note("description", "short"); }
+    char const* getDetailedDescription() const override { return note("detailed", "long"); }
+    COSValue getDefaultValue() const override { return note("default", COSValue(1)); }
+    Access getMemberGetAccess() const override { return note("get", Access::Public); }
+    Extended getExtendedGetAccess() const override { return note("extendedGet", Extended::None); }
+    Access getMemberSetAccess() const override { return note("set", Access::Protected); }
+    Extended getExtendedSetAccess() const override { return note("extendedSet", Extended::None); }
+    bool isSealed() const override { return note("sealed", true); }
+    bool hasInternalDefault() const override { return note("internalDefault", true); }
+    bool isInitAllowed() const override { return note("init", false); }
+    bool isDefaultAllowed() const override { return note("defaultAllowed", true); }
+    bool isResetAllowed() const override { return note("reset", false); }
+    bool isAbstract() const override { return note("abstract", false); }
+    bool isTransient() const override { return note("transient", true); }
+    bool isCopyAllowed() const override { return note("copy", false); }
+    bool isWarnOnCopyError() const override { return note("warn", true); }
+    bool isListenerGetAllowed() const override { return note("listenGet", false); }
+    bool isListenerSetAllowed() const override { return note("listenSet", true); }
+    bool isInspectAllowed() const override { return note("inspect", false); }
+    bool isAbortSet() const override { return note("abort", true); }
+    bool isVisible() const override { return note("visible", false); }
+    bool isNeverAmbiguous() const override { return note("neverAmbiguous", true); }
+    double getPartialMatchPriority() const override { return note("priority", 2.5); }
+    bool isStatic() const override { return note("static", false); }
+    bool isDependent() const override { return note("dependent", true); }
+    bool isGrandfathered() const override { return note("grandfathered", false); }
+    bool isWeakReference() const override { return note("weak", true); }
+    bool canContainInterfaces() const override { return note("interfaces", false); }
+    bool isDestructible() const override { return note("destructible", true); }
+};
+
+std::string Asked::questions;
+
+} // namespace
+
+TEST_F(PropertyTest, TheDescriptorIsAskedOnceInTheOrderOfItsDeclaration)
+{
+    publish(new Class("R", [](orbis::COSClass* cls) { cls->addProperty(new Asked); }));
+    Asked::questions.clear();
+    velmara::PropertyRecord const record = hvm().describeClass("R").properties.at(0);
+    EXPECT_EQ(Asked::questions,
+              "name description detailed default get extendedGet set extendedSet sealed internalDefault init "
+              "defaultAllowed reset abstract transient copy warn listenGet listenSet inspect abort visible "
+              "neverAmbiguous priority static dependent grandfathered weak interfaces destructible ");
+    EXPECT_EQ(record.detailedDescription, "long");
+    EXPECT_EQ(record.setAccess, orbis::MemberAccess::Protected);
+    EXPECT_EQ(record.partialMatchPriority, 2.5);
+    // The answers alternate, so that none stands in another's place unnoticed.
+    EXPECT_TRUE(record.hasDefault && record.isSealed && record.hasInternalDefault && record.isDefaultAllowed &&
+                record.isTransient && record.isWarnOnCopyError && record.isListenerSetAllowed && record.isAbortSet &&
+                record.isNeverAmbiguous && record.isDependent && record.isWeakReference && record.isDestructible);
+    EXPECT_FALSE(record.isInitAllowed || record.isResetAllowed || record.isAbstract || record.isCopyAllowed ||
+                 record.isListenerGetAllowed || record.isInspectAllowed || record.isVisible || record.isStatic ||
+                 record.isGrandfathered || record.canContainInterfaces);
+}
+
+TEST_F(PropertyTest, ObjectsTellWhatTheyReferTo)
+{
+    /// Yields one object as often as it is counted.
+    struct Repeated final : orbis::EnumerationImplementation<orbis::COSInterface*> {
+        Repeated(orbis::COSInterface* repeated, int times) : object(repeated), left(times) {}
+        bool hasMoreElements() const override { return left > 0; }
+        orbis::COSInterface* nextElement() override { return --left == 0 ? nullptr : object; }
+        orbis::COSInterface* object;
+        int left;
+    };
+    orbis::COSInterface* target = nullptr;
+    publish(new Class("S", [&](orbis::COSClass* cls) {
+        auto const add = [&](char const* name, bool isReadable, orbis::MemberAccess open) {
+            Property* const made =
+                make(name, "S", isReadable ? std::function<COSValue()>([] { return COSValue(); }) : nullptr, true);
+            made->open = open;
+            made->interfaces = [&target] { return orbis::Enumeration<orbis::COSInterface*>(new Repeated(target, 3)); };
+            cls->addProperty(made);
+        };
+        add("second", true, orbis::MemberAccess::Public);
+        add("first", true, orbis::MemberAccess::Public);
+        add("writeOnly", false, orbis::MemberAccess::Public);
+        add("private", true, orbis::MemberAccess::Private);
+    }));
+    ArrayPtr const s = hvm().construct("S"), other = hvm().construct("S");
+    target = orbis::omGetArrayElement(other.get(), 0);
+    auto const references = hvm().references(s.get());
+    ASSERT_EQ(references.size(), 4u);
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(references[i].property, i < 2 ? "first" : "second");
+        EXPECT_TRUE(velmara::isSameObject(references[i].object.get(), other.get()));
+    }
 }

@@ -98,23 +98,23 @@ struct Property : orbis::COSPropInfo {
     std::function<void(COSInterface*, COSValue)> set;
     std::function<void(COSInterface*, COSValue)> release = [](COSInterface*, COSValue) {};
     bool is_static = false;
+    bool is_abstract = false;
+    orbis::MemberAccess open = orbis::MemberAccess::Public; ///< of the sides that are there
+    std::function<orbis::Enumeration<COSInterface*>()> interfaces;
 
     char const* getName() const override { return name.c_str(); }
     char const* getDescription() const override { return ""; }
     char const* getDetailedDescription() const override { return ""; }
     COSValue getDefaultValue() const override { return {}; }
     orbis::COSDataTypePtr getDataType() const override { return type.c_str(); }
-    static orbis::MemberAccess access(bool open)
-    {
-        return open ? orbis::MemberAccess::Public : orbis::MemberAccess::NoAccess;
-    }
+    orbis::MemberAccess access(bool isThere) const { return isThere ? open : orbis::MemberAccess::NoAccess; }
     orbis::MemberAccess getMemberGetAccess() const override { return access(static_cast<bool>(get)); }
     orbis::MemberAccess getMemberSetAccess() const override { return access(static_cast<bool>(set)); }
     bool isSealed() const override { return false; }
+    bool isAbstract() const override { return is_abstract; }
     bool isInitAllowed() const override { return true; }
     bool isDefaultAllowed() const override { return true; }
     bool isResetAllowed() const override { return true; }
-    bool isAbstract() const override { return false; }
     bool isTransient() const override { return false; }
     bool isCopyAllowed() const override { return true; }
     bool isListenerGetAllowed() const override { return true; }
@@ -128,7 +128,11 @@ struct Property : orbis::COSPropInfo {
     COSValue getValue(COSInterface* object) const override { return get(object); }
     void setValue(COSInterface* object, COSValue value) const override { set(object, value); }
     void releaseValue(COSInterface* object, COSValue value) const override { release(object, value); }
-    bool canContainInterfaces() const override { return false; }
+    bool canContainInterfaces() const override { return static_cast<bool>(interfaces); }
+    orbis::Enumeration<COSInterface*> getInterfaces(orbis::COSClient const*, COSInterface*) const override
+    {
+        return interfaces();
+    }
 };
 
 struct Class : orbis::COSClassInfo {

@@ -47,7 +47,6 @@ struct Image : Sized {
     std::vector<double> samples{1, 2};
     std::vector<std::string> tags{"a", "b"};
     Image* next = nullptr;
-    std::vector<Image*> parts;
 
     inline static int limit = 10;
     static constexpr double pi = 3.25;
@@ -226,28 +225,6 @@ TEST_F(PropertyFormsTest, DescribedWithoutAHost)
     EXPECT_FALSE(find("pi").attributes.isVisible());
     EXPECT_EQ(find("shown").attributes.getMemberSetAccess(), MemberAccess::NoAccess);
     EXPECT_STREQ(find("title").makeSetter(find("title").setter)->dataTypeName(), "char vector");
-}
-
-TEST_F(PropertyFormsTest, ValuesSayWhichObjectsTheyReferTo)
-{
-    Image other;
-    ArrayPtr const announced(basic::BindingRegistry::announce(&other, COSNameID("tests.Image")));
-    COSInterface* const first = omGetArrayElement(object_.get(), 0);
-    COSInterface* const second = omGetArrayElement(announced.get(), 0);
-    Image unbound;
-    std::vector<Image*> const parts{&other, nullptr, &unbound, &native(), &other};
-    auto all = detail::referredObjects(parts);
-    for (COSInterface* const expected : {second, first, second})
-        EXPECT_EQ(all.nextElement(), expected);
-    EXPECT_FALSE(all.hasMoreElements());
-    EXPECT_THROW(all.nextElement(), ENoElements);
-    auto one = detail::referredObjects(std::shared_ptr<Image const>(&other, [](Image const*) {}));
-    EXPECT_EQ(one.nextElement(), second);
-    EXPECT_FALSE(detail::referredObjects(std::shared_ptr<Image>()).hasMoreElements());
-    static_assert(detail::refersToObjects<std::vector<std::shared_ptr<Image>>> &&
-                  !detail::refersToObjects<std::string>);
-    static_assert(!detail::refersToObjects<std::vector<double>> && detail::refersToObjects<Image const*>);
-    basic::BindingRegistry::retract(&other);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "velmara/ArrayPtr.hpp"
 #include "velmara/Error.hpp"
 #include "velmara/Listing.hpp"
+#include "velmara/Reference.hpp"
 #include "velmara/export.hpp"
 
 #include <filesystem>
@@ -64,6 +65,9 @@ public:
     void set(hvArray_tag* object, std::string_view property, hvArray_tag* value);
     ArrayPtr getStatic(std::string_view className, std::string_view property);
     void setStatic(std::string_view className, std::string_view property, hvArray_tag* value);
+
+    /// The objects that the first object of an array refers to through properties that may be read, by their names.
+    std::vector<Reference> references(hvArray_tag* object);
 
     /// The object of an enumerator as a 1-by-1 array: the same object each time.
     ArrayPtr getEnumerator(std::string_view className, std::string_view name);

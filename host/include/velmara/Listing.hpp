@@ -1,5 +1,7 @@
 #pragma once
 
+#include "velmara/PropertyTraits.hpp"
+
 #include "orbis/access.hpp"
 
 #include <cstdint>
@@ -35,14 +37,11 @@ struct MethodRecord {
     std::string signature;
 };
 
-struct PropertyRecord {
+struct PropertyRecord : PropertyTraits {
     std::string name;
-    std::string dataType;
-    orbis::MemberAccess getAccess = orbis::MemberAccess::Public;
-    orbis::MemberAccess setAccess = orbis::MemberAccess::Public;
-    bool isStatic = false;
-    bool isVisible = true;
+    std::string dataType; ///< empty while there is no such type
     std::string description;
+    std::string detailedDescription;
     std::string definingClass;
 };
 

@@ -66,10 +66,10 @@ public:
         return recent ? recent : findOtherMethods(name);
     }
 
-    Property const* findProperty(std::string_view name)
+    [[gnu::always_inline]] Property const* findProperty(std::string_view name)
     {
-        Property const* const* const found = tables().propertiesByName.findText(name);
-        return found ? *found : loadProperty(name);
+        Property const* const recent = tables().recentProperties.find(name);
+        return recent ? recent : findOtherProperty(name);
     }
 
     /// Takes the place of the direct superclasses while the class is being described.
@@ -99,6 +99,7 @@ private:
 
     MethodGroup const* findOtherMethods(std::string_view name);
     MethodGroup const* loadMethods(std::string_view name);
+    Property const* findOtherProperty(std::string_view name);
     Property const* loadProperty(std::string_view name);
 
     /// Asks the class infos of the hierarchy by `attempt` until `find` finds something.

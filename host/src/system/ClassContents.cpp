@@ -42,7 +42,7 @@ void addProperties(MemberTables& tables, Class const& cls, Class const& definer)
 {
     for (auto const& property : definer.contents().properties) {
         Property const*& entry = tables.propertiesByName[property->name];
-        if (entry && property->isSealed)
+        if (entry && property->traits.isSealed)
             refuseSealed(cls, property->name, definer);
         if (!entry)
             entry = property.get();

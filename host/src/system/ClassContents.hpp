@@ -17,6 +17,7 @@ struct MemberTables {
     NameMap<MethodGroup> methodGroups;
     mutable RecentNames<MethodGroup> recentMethods;
     NameMap<Property const*> propertiesByName;
+    mutable RecentNames<Property> recentProperties;
 };
 
 /// What a class info adds while it describes its class. It is dropped as a whole when describing fails.

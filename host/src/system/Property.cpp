@@ -17,31 +17,70 @@ Name nameOf(orbis::COSPropInfo const& info)
     return intern(name);
 }
 
+std::string text(char const* given)
+{
+    return given ? given : "";
+}
+
+PropertyTraits ask(orbis::COSPropInfo const& info)
+{
+    // Evaluated in the order in which they stand here.
+    return {.hasDefault = !info.getDefaultValue().isEmpty(),
+            .getAccess = info.getMemberGetAccess(),
+            .extendedGetAccess = info.getExtendedGetAccess(),
+            .setAccess = info.getMemberSetAccess(),
+            .extendedSetAccess = info.getExtendedSetAccess(),
+            .isSealed = info.isSealed(),
+            .hasInternalDefault = info.hasInternalDefault(),
+            .isInitAllowed = info.isInitAllowed(),
+            .isDefaultAllowed = info.isDefaultAllowed(),
+            .isResetAllowed = info.isResetAllowed(),
+            .isAbstract = info.isAbstract(),
+            .isTransient = info.isTransient(),
+            .isCopyAllowed = info.isCopyAllowed(),
+            .isWarnOnCopyError = info.isWarnOnCopyError(),
+            .isListenerGetAllowed = info.isListenerGetAllowed(),
+            .isListenerSetAllowed = info.isListenerSetAllowed(),
+            .isInspectAllowed = info.isInspectAllowed(),
+            .isAbortSet = info.isAbortSet(),
+            .isVisible = info.isVisible(),
+            .isNeverAmbiguous = info.isNeverAmbiguous(),
+            .partialMatchPriority = info.getPartialMatchPriority(),
+            .isStatic = info.isStatic(),
+            .isDependent = info.isDependent(),
+            .isGrandfathered = info.isGrandfathered(),
+            .isWeakReference = info.isWeakReference(),
+            .canContainInterfaces = info.canContainInterfaces(),
+            .isDestructible = info.isDestructible()};
+}
+
+/// An access refined in a way that is not known here is no public one.
+bool isPublic(orbis::MemberAccess access, orbis::ExtendedMemberAccess extended)
+{
+    return access == orbis::MemberAccess::Public && extended == orbis::ExtendedMemberAccess::None;
+}
+
 } // namespace
 
 Property::Property(std::unique_ptr<orbis::COSPropInfo> descriptor, Class const& definer)
     : info(std::move(descriptor)),
       name(nameOf(*info)),
       definingClass(definer),
-      getAccess(info->getMemberGetAccess()),
-      setAccess(info->getMemberSetAccess()),
-      isStatic(info->isStatic()),
-      isAbstract(info->isAbstract()),
-      isSealed(info->isSealed()),
-      isVisible(info->isVisible())
+      description(text(info->getDescription())),
+      detailedDescription(text(info->getDetailedDescription())),
+      traits(ask(*info)),
+      canBeRead(!traits.isAbstract && isPublic(traits.getAccess, traits.extendedGetAccess)),
+      canBeWritten(!traits.isAbstract && isPublic(traits.setAccess, traits.extendedSetAccess))
 {
 }
 
-TypeReference const& Property::type() const
+TypeReference const& Property::askType() const
 {
-    if (!type_) {
-        orbis::COSDataTypePtr const dataType = info->getDataType();
-        if (!dataType)
-            throwHostError("VELMARA:property", "dataType",
-                           {std::string(definingClass.name()->view()), std::string(name->view())});
-        type_.emplace(intern(dataType->scalarTypeName()));
-    }
-    return *type_;
+    orbis::COSDataTypePtr const dataType = info->getDataType();
+    if (!dataType)
+        throwHostError("VELMARA:property", "dataType",
+                       {std::string(definingClass.name()->view()), std::string(name->view())});
+    return type_.emplace(intern(dataType->scalarTypeName()));
 }
 
 } // namespace velmara

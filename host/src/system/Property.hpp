@@ -2,34 +2,39 @@
 
 #include "system/TypeReference.hpp"
 
+#include "velmara/PropertyTraits.hpp"
+
 #include "orbis/COSPropInfo.hpp"
 
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace velmara {
 
 class Class;
 
-/// A published property: its descriptor with the answers that reading and writing need, asked once.
+/// A published property: its descriptor with the answers that it gave about itself.
 struct Property {
+    /// Asks all questions that need neither an object nor other classes, in the order in which they are declared.
     Property(std::unique_ptr<orbis::COSPropInfo> descriptor, Class const& definer);
 
     /// The type of its values. Asked for when first needed, since a class may be described before the classes
     /// of its properties are published; throws "VELMARA:property:dataType" while there is no such type.
-    TypeReference const& type() const;
+    TypeReference const& type() const { return type_ ? *type_ : askType(); }
 
     std::unique_ptr<orbis::COSPropInfo> info;
     Name name;
     Class const& definingClass;
-    orbis::MemberAccess getAccess;
-    orbis::MemberAccess setAccess;
-    bool isStatic;
-    bool isAbstract;
-    bool isSealed;
-    bool isVisible;
+    std::string description;
+    std::string detailedDescription;
+    PropertyTraits traits;
+    bool canBeRead; ///< by a script, if there is an object where it needs one
+    bool canBeWritten;
 
 private:
+    TypeReference const& askType() const;
+
     mutable std::optional<TypeReference> type_;
 };
 

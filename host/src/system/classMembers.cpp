@@ -100,6 +100,15 @@ MethodGroup const* Class::loadMethods(std::string_view name)
                 [&](orbis::COSClassInfo& info) { return info.attemptToLoadMethod(std::string(name).c_str()); });
 }
 
+Property const* Class::findOtherProperty(std::string_view name)
+{
+    Property const* const* const found = tables().propertiesByName.findText(name);
+    if (!found)
+        return loadProperty(name);
+    tables().recentProperties.remember(name, **found);
+    return *found;
+}
+
 Property const* Class::loadProperty(std::string_view name)
 {
     auto const find = [&]() -> Property const* {

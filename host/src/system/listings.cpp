@@ -73,14 +73,14 @@ std::string dataTypeOf(Property const& property)
 
 PropertyRecord record(Property const& property)
 {
-    return {.name = text(property.name),
-            .dataType = dataTypeOf(property),
-            .getAccess = property.getAccess,
-            .setAccess = property.setAccess,
-            .isStatic = property.isStatic,
-            .isVisible = property.isVisible,
-            .description = text(property.info->getDescription()),
-            .definingClass = text(property.definingClass.name())};
+    PropertyRecord listed;
+    static_cast<PropertyTraits&>(listed) = property.traits;
+    listed.name = text(property.name);
+    listed.dataType = dataTypeOf(property);
+    listed.description = property.description;
+    listed.detailedDescription = property.detailedDescription;
+    listed.definingClass = text(property.definingClass.name());
+    return listed;
 }
 
 void addMembers(Class& cls, ClassRecord& listed)

@@ -4,34 +4,27 @@
 #include "system/HvmCall.hpp"
 #include "system/ResultValue.hpp"
 #include "system/calls.hpp"
-#include "values/hostError.hpp"
+#include "system/propertyRefusal.hpp"
 
 namespace velmara {
 
 namespace {
 
-std::string textOf(Property const& property)
-{
-    return std::string(property.name->view());
-}
-
-Property const& requireProperty(Class& cls, std::string_view name)
+[[gnu::always_inline]] inline Property const& requireProperty(Class& cls, std::string_view name)
 {
     Property const* const property = cls.findProperty(name);
-    if (!property)
-        throwHostError("VELMARA:property", "unknown", {std::string(cls.name()->view()), std::string(name)});
-    if (property->isAbstract)
-        throwHostError("VELMARA:property", "abstract", {textOf(*property)});
+    if (!property) [[unlikely]]
+        refuseUnknown(cls, name);
     return *property;
 }
 
 /// The object that the property is one of; null for a static one.
-Object* requireOwner(Property const& property, Object* object)
+[[gnu::always_inline]] inline Object* requireOwner(Property const& property, Object* object)
 {
-    if (property.isStatic)
+    if (property.traits.isStatic)
         return nullptr;
-    if (!object)
-        throwHostError("VELMARA:property", "noObject", {textOf(property)});
+    if (!object) [[unlikely]]
+        refuseMissingObject(property);
     return object;
 }
 
@@ -65,31 +58,35 @@ private:
 
 ArrayPtr read(Property const& property, Object* object)
 {
-    if (property.getAccess != orbis::MemberAccess::Public)
-        throwHostError("VELMARA:property", "getAccess", {textOf(property)});
+    if (!property.canBeRead) [[unlikely]]
+        refuseReading(property);
     Object* const owner = requireOwner(property, object);
-    TypeReference const& type = property.type();
-    ResultValue result(&type); // outlives the read value: the array goes after the property was told
+    ResultValue result(&property.type()); // outlives the read value: the array goes after the property was told
     ReadValue const value(property, owner);
     result.slot() = value.value();
     return result.take(property.name);
 }
 
-void write(HvmState& machine, Property const& property, Object* object, hvArray_tag* value)
+[[gnu::noinline]] void writeAny(HvmState& machine, Property const& property, Object* owner, hvArray_tag* value)
 {
-    if (property.setAccess != orbis::MemberAccess::Public)
-        throwHostError("VELMARA:property", "setAccess", {textOf(property)});
-    Object* const owner = requireOwner(property, object);
     checkInputs(machine, {&value, 1});
     ConvertedInputs converted(1);
     if (converted.add(property.type(), value) == noFit)
-        throwHostError("VELMARA:property", "value", {textOf(property), explainRefusal(property.type(), value)});
+        refuseValue(property, value);
     property.info->setValue(owner, *converted.values());
 }
 
-Property const& requireStaticProperty(HvmState& machine, std::string_view className, std::string_view property)
+void write(HvmState& machine, Property const& property, Object* object, hvArray_tag* value)
 {
-    return requireProperty(requireClass(machine, className), property);
+    if (!property.canBeWritten) [[unlikely]]
+        refuseWriting(property);
+    Object* const owner = requireOwner(property, object);
+    TypeReference const& type = property.type();
+    orbis::COSValue scalar;
+    if (value && type.kind == TypeKind::Scalar && type.scalar.read(*Array::of(value), scalar) != noFit) [[likely]]
+        property.info->setValue(owner, scalar);
+    else
+        writeAny(machine, property, owner, value);
 }
 
 } // namespace
@@ -112,12 +109,14 @@ void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value
 
 ArrayPtr Hvm::getStatic(std::string_view className, std::string_view property)
 {
-    return callInto(*state_, [&] { return read(requireStaticProperty(*state_, className, property), nullptr); });
+    return callInto(*state_,
+                    [&] { return read(requireProperty(requireClass(*state_, className), property), nullptr); });
 }
 
 void Hvm::setStatic(std::string_view className, std::string_view property, hvArray_tag* value)
 {
-    callInto(*state_, [&] { write(*state_, requireStaticProperty(*state_, className, property), nullptr, value); });
+    callInto(*state_,
+             [&] { write(*state_, requireProperty(requireClass(*state_, className), property), nullptr, value); });
 }
 
 } // namespace velmara

@@ -23,7 +23,7 @@ public:
     virtual char const* getName() const = 0;
     virtual char const* getDescription() const = 0;
     virtual char const* getDetailedDescription() const = 0;
-    virtual COSValue getDefaultValue() const = 0; ///< empty when there is no default
+    virtual COSValue getDefaultValue() const = 0; ///< empty when there is none; stays the descriptor's
     virtual COSDataTypePtr getDataType() const = 0;
     virtual MemberAccess getMemberGetAccess() const = 0;
     virtual ExtendedMemberAccess getExtendedGetAccess() const; ///< None
