@@ -1,12 +1,11 @@
 #include "orbis/factory/basic/BindingRegistry.hpp"
 
 #include "orbis/factory/CopyableSupport.hpp"
+#include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/basic/registry.hpp"
 #include "orbis/factory/detail/forgetBinding.hpp"
 #include "orbis/factory/detail/hostShares.hpp"
 #include "orbis/factory/errorIdentities.hpp"
-
-#include "basic/HvmScoped.hpp"
 
 #include "libhv/libhv.hpp"
 #include "libkwfl/Exception.hpp"

@@ -1,6 +1,6 @@
 #include "orbis/factory/CopyableSupport.hpp"
 
-#include "basic/HvmScoped.hpp"
+#include "orbis/factory/basic/HvmScoped.hpp"
 
 #include <boost/container/flat_set.hpp>
 

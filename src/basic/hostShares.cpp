@@ -1,6 +1,6 @@
 #include "orbis/factory/detail/hostShares.hpp"
 
-#include "basic/HvmScoped.hpp"
+#include "orbis/factory/basic/HvmScoped.hpp"
 
 #include "orbis/objectArrays.hpp"
 

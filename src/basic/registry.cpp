@@ -1,6 +1,6 @@
 #include "orbis/factory/basic/registry.hpp"
 
-#include "basic/HvmScoped.hpp"
+#include "orbis/factory/basic/HvmScoped.hpp"
 
 #include "libut/libut.hpp"
 #include "orbis/COSInterface.hpp"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "basic/HvmScoped.hpp"
+#include "orbis/factory/basic/HvmScoped.hpp"
 
 namespace orbis::factory::full {
 

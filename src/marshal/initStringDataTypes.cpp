@@ -1,6 +1,7 @@
 #include "orbis/factory/detail/initStringDataTypes.hpp"
 
-#include "basic/HvmScoped.hpp"
+#include "orbis/factory/basic/HvmScoped.hpp"
+
 #include "marshal/StringDataTypeRegistration.hpp"
 
 namespace orbis::factory::detail {

@@ -1,9 +1,8 @@
 #include "module/PublishedClasses.hpp"
 
 #include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/detail/announceMostDerived.hpp"
-
-#include "basic/HvmScoped.hpp"
 
 #include "orbis/COSClass.hpp"
 #include "orbis/objectArrays.hpp"

@@ -2,9 +2,9 @@
 #include "host/messageIdOf.hpp"
 #include "library/texts.hpp"
 
+#include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/detail/initStringDataTypes.hpp"
 
-#include "basic/HvmScoped.hpp"
 #include "marshal/StringDataTypeRegistration.hpp"
 
 #include "orbis/COSDataTypePtr.hpp"
