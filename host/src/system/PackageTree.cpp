@@ -93,6 +93,22 @@ Class* PackageTree::findClass(std::string_view fullName)
     return found;
 }
 
+Class* PackageTree::findGlobalClass(std::string_view name)
+{
+    if (name.find('.') != std::string_view::npos)
+        return nullptr;
+    Class* found = findClass(name);
+    for (std::size_t i = 0; i < root_->packages().size() && !found; ++i) {
+        try {
+            root_->packages()[i]->populate();
+        } catch (...) {
+            // Who asks for that package itself is told why.
+        }
+        found = findClass(name);
+    }
+    return found;
+}
+
 MethodGroup const* PackageTree::findFunctions(std::string_view fullName)
 {
     auto const [parent, own] = splitLast(fullName);

@@ -27,6 +27,10 @@ public:
     Class* findClass(std::string_view fullName);
     Class* findClass(Name fullName);
 
+    /// A class without a package. Packages publish these as they are populated, so those at the top level are, but for
+    /// what cannot be.
+    Class* findGlobalClass(std::string_view name);
+
     /// The class if it is published already; nothing is populated.
     Class* findPublishedClass(Name fullName) const;
 

@@ -18,7 +18,9 @@ namespace velmara {
 
 Class& requireClass(HvmState& machine, std::string_view fullName)
 {
-    Class* const cls = machine.packages().findClass(fullName);
+    Class* cls = machine.packages().findClass(fullName);
+    if (!cls)
+        cls = machine.packages().findGlobalClass(fullName);
     if (!cls)
         throwHostError("VELMARA:class", "unknown", {std::string(fullName)});
     cls->makeReady();

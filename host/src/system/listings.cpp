@@ -108,7 +108,9 @@ NameKind lookUp(HvmState& machine, std::string_view fullName)
         return NameKind::Class;
     if (packages.findFunctions(fullName))
         return NameKind::Function;
-    return !fullName.empty() && packages.findPackage(fullName) ? NameKind::Package : NameKind::None;
+    if (!fullName.empty() && packages.findPackage(fullName))
+        return NameKind::Package;
+    return packages.findGlobalClass(fullName) ? NameKind::Class : NameKind::None;
 }
 
 PackageRecord describePackage(HvmState& machine, std::string_view fullName)
