@@ -57,7 +57,7 @@ int deleteObjects(lua_State* L)
     HostCall call(L);
     hvArray_tag* objects = call.inputs(1).front();
     if (objects->_get_class_id_non_trivial() != hvOBJECT_CLASS && objects->get_number_of_elements() != 0)
-        fail("noObject", "delete needs an object, or a table or an array of objects of one class");
+        fail("noObject", "delete needs an object, or a table or an array of objects with a class in common");
     if (objects->get_number_of_elements() != 0)
         call.hvm().deleteObjects(objects);
     return 0;

@@ -7,11 +7,13 @@
 #include "TableElements.hpp"
 #include "ValueToHost.hpp"
 
+#include "velmara/Hvm.hpp"
+
 #include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
 #include "orbis/objectArrays.hpp"
 
-#include <string>
+#include <vector>
 
 namespace velmara::console {
 
@@ -81,25 +83,17 @@ ArrayPtr matrix(lua_State* L, int table, std::size_t rows, Elements const& row)
     return array;
 }
 
-/// Null when the objects are not all of one class.
-ArrayPtr objectRow(lua_State* L, int table, std::size_t count)
+/// Null when the objects have no class in common.
+ArrayPtr objectsOf(lua_State* L, int table, std::size_t count)
 {
-    ArrayPtr array;
-    std::string rowClass;
+    std::vector<orbis::COSInterfacePtr> objects;
+    objects.reserve(count);
     for (std::size_t i = 0; i < count; ++i) {
         lua_rawgeti(L, table, static_cast<lua_Integer>(i + 1));
-        hvArray_tag const* object = checkObject(L, -1);
-        if (i == 0) {
-            rowClass = objectClass(L, -1);
-            array.reset(orbis::omCreateORBISMatrix(1, count, rowClass.c_str()));
-        } else if (objectClass(L, -1) != rowClass) {
-            lua_pop(L, 1);
-            return nullptr;
-        }
-        orbis::omSetArrayElement(array.get(), i, orbis::omGetArrayElement(object, 0));
+        objects.push_back(orbis::omGetArrayElement(checkObject(L, -1), 0));
         lua_pop(L, 1);
     }
-    return array;
+    return objectRow(objects);
 }
 
 ArrayPtr cellRow(lua_State* L, int table, std::size_t count, Conversion& conversion)
@@ -129,7 +123,7 @@ ArrayPtr tableToHost(lua_State* L, int index, Conversion& conversion)
         return row;
     }
     if (elements.areObjects)
-        if (ArrayPtr row = objectRow(L, index, elements.count))
+        if (ArrayPtr row = objectsOf(L, index, elements.count))
             return row;
     if (elements.areTables)
         if (Elements const row = commonRow(L, index, elements.count); row.count > 0) {

@@ -12,7 +12,7 @@ namespace velmara::console {
 ///
 /// - numbers: a row of doubles, or of int64 when they are integers that doubles are not exact for
 /// - booleans: a row of logicals
-/// - objects of one class: a row of objects
+/// - objects with a class in common: a row of objects
 /// - sequences of numbers (of booleans) of one length: a matrix, one sequence a row
 /// - anything else: a row of cells, `null` for an empty one
 /// - nothing: an empty 0-by-0 double

@@ -6,6 +6,8 @@
 #include "velmara/Reference.hpp"
 #include "velmara/export.hpp"
 
+#include "orbis/COSInterfacePtr.hpp"
+
 #include <filesystem>
 #include <memory>
 #include <span>
@@ -102,6 +104,10 @@ VELMARA_API bool isSameObject(hvArray_tag const* a, hvArray_tag const* b);
 /// True when both have one class and one size, and all elements are the same: numbers and texts bit for bit, objects by
 /// identity. Two nulls are equal.
 VELMARA_API bool isEqual(hvArray_tag const* a, hvArray_tag const* b);
+
+/// One row of the objects (null allowed), typed as the most specific class that all are of. A null result when there is
+/// no such class.
+VELMARA_API ArrayPtr objectRow(std::span<orbis::COSInterfacePtr const> objects);
 
 /// The name of an array's class: "double", "char", "cell", a published class, ...
 VELMARA_API std::string className(hvArray_tag const* array);

@@ -1,10 +1,12 @@
 #include "velmara/Hvm.hpp"
 
 #include "system/ArrayComparison.hpp"
+#include "system/ClassTree.hpp"
 #include "system/Object.hpp"
 #include "values/Array.hpp"
 
 #include <algorithm>
+#include <vector>
 
 namespace velmara {
 
@@ -33,6 +35,20 @@ bool isSameObject(hvArray_tag const* a, hvArray_tag const* b)
 bool isEqual(hvArray_tag const* a, hvArray_tag const* b)
 {
     return areEqual(a, b);
+}
+
+ArrayPtr objectRow(std::span<orbis::COSInterfacePtr const> objects)
+{
+    std::vector<Object*> row;
+    for (orbis::COSInterfacePtr const& object : objects)
+        row.push_back(static_cast<Object*>(static_cast<orbis::COSInterface*>(object)));
+    Name const common = commonClass(row);
+    if (!common)
+        return nullptr;
+    ArrayPtr array(Array::createObjects(common, 1, row.size()));
+    for (std::size_t i = 0; i < row.size(); ++i)
+        Array::of(array.get())->setObject(i, row[i]);
+    return array;
 }
 
 std::string className(hvArray_tag const* array)
