@@ -5,18 +5,37 @@
 
 #include "module/rootPackage.hpp"
 #include "samples/Adder.hpp"
+#include "samples/BasicTree.hpp"
+#include "samples/BinaryGraphNode.hpp"
+#include "samples/Container.hpp"
+#include "samples/OrbisFactoryBuiltInTester.hpp"
+#include "samples/Person.hpp"
+#include "samples/Sauce.hpp"
+#include "samples/SharedBase.hpp"
+#include "samples/StdSharedBase.hpp"
+#include "samples/TreeNode.hpp"
+#include "samples/Vehicles.hpp"
 
 #include "libut/libut.hpp"
+#include "orbis/COSClass.hpp"
 
 namespace orbis::factory {
 
 namespace {
 
 /// Class infos are owned by the package from the moment they are handed over.
-template <class ClassInfo>
+template <class... ClassInfo>
 void load(COSPackage* package)
 {
-    package->addClass(new ClassInfo);
+    (package->addClass(new ClassInfo), ...);
+}
+
+/// Classes without a package stay when the package goes, so they may be there already.
+template <class ClassInfo>
+void loadGlobal(char const* name)
+{
+    if (!COSClass::getClass(COSNameID(name)))
+        COSClass::addGlobalClass(new ClassInfo);
 }
 
 void testPkgStuff()
@@ -44,6 +63,15 @@ char const* RootPackage::getDescription() const
 void RootPackage::initializePackage(COSPackage* package)
 {
     load<samples::CosAdder>(package);
+    load<samples::CosTreeNodeBase, samples::CosTreeNodeDerived>(package);
+    load<samples::BinaryGraphNodeWrapper>(package);
+    load<orbisFactorySharedTests::CosSharedBase, orbisFactorySharedTests::CosSharedDerived>(package);
+    load<orbisFactoryStdSharedTests::CosStdSharedBase, orbisFactoryStdSharedTests::CosStdSharedDerived>(package);
+    load<samples::COSSauce, samples::COSPasta, samples::COSAlfredo, samples::COSMarinara>(package);
+    load<samples::BasicAWrapper, samples::BasicBWrapper, samples::BasicTreeWrapper>(package);
+    load<samples::AWrapper, samples::BWrapper, samples::CWrapper, samples::DWrapper, samples::ZWrapper>(package);
+    load<samples::ItemWrapper, samples::PersonWrapper, samples::ContainerWrapper>(package);
+    loadGlobal<samples::OrbisFactoryBuiltInTesterClassInfo>("OrbisFactoryBuiltInTester");
 
     publish(package, describeFunctions().function("testPkgStuff", &testPkgStuff).function("dumpReg", &dumpReg));
 }

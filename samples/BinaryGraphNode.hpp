@@ -1,0 +1,66 @@
+#pragma once
+
+#include "orbis/factory/HandleClassInfo.hpp"
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace orbis::factory::samples {
+
+/// A crossing in a park, with a way to the left and one to the right. Ways keep no crossing alive: when one is gone,
+/// the ways to it lead nowhere.
+class BinaryGraphNode {
+public:
+    explicit BinaryGraphNode(std::string name);
+    BinaryGraphNode(BinaryGraphNode const&) = delete;
+    BinaryGraphNode& operator=(BinaryGraphNode const&) = delete;
+    virtual ~BinaryGraphNode();
+
+    std::string const& name() const { return name_; }
+
+    BinaryGraphNode* left() const { return left_; }
+    BinaryGraphNode* right() const { return right_; }
+    void setLeft(BinaryGraphNode* crossing) { lead(left_, crossing); }
+    void setRight(BinaryGraphNode* crossing) { lead(right_, crossing); }
+
+    /// Where one arrives who turns as told ("LRL"); null where a way leads nowhere.
+    BinaryGraphNode* walk(std::string const& turns);
+
+    std::uint32_t visits() const { return visits_; }
+    void setVisits(std::uint32_t visits) { visits_ = visits; }
+
+    /// What the signpost names: the next crossings. Whoever has read it is counted.
+    std::vector<BinaryGraphNode*> signpost() const;
+    void countReader() { ++readers_; }
+    std::uint32_t readers() const { return readers_; }
+
+private:
+    void lead(BinaryGraphNode*& way, BinaryGraphNode* crossing);
+
+    std::string name_;
+    BinaryGraphNode* left_ = nullptr;
+    BinaryGraphNode* right_ = nullptr;
+    std::multiset<BinaryGraphNode*> origins_; ///< of the ways that lead here
+    std::uint32_t visits_ = 0;
+    std::uint32_t readers_ = 0;
+};
+
+} // namespace orbis::factory::samples
+
+// Stands alone: pointers to it cross by the policy for classes without subclasses.
+template <>
+struct orbis::factory::HostClass<orbis::factory::samples::BinaryGraphNode> {
+    static constexpr char const* name = "orbis_factory.BinaryGraphNode";
+};
+
+namespace orbis::factory::samples {
+
+class BinaryGraphNodeWrapper final : public HandleClassInfo<BinaryGraphNode, 1> {
+public:
+    BinaryGraphNodeWrapper();
+    void initializeClass(COSClass* cls) override;
+};
+
+} // namespace orbis::factory::samples

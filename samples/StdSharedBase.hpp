@@ -1,0 +1,75 @@
+#pragma once
+
+#include "orbis/factory/StdShareableHandleClassInfo.hpp"
+
+#include <string>
+#include <vector>
+
+namespace orbisFactoryStdSharedTests {
+
+/// A dancer at a ball, owned through `std::shared_ptr`. Partners know each other by `std::weak_ptr`: two that owned
+/// each other would never end.
+class StdSharedBase : public orbis::factory::full::StdShareable {
+public:
+    using Pointer = std::shared_ptr<StdSharedBase>;
+
+    explicit StdSharedBase(std::string name);
+
+    std::string const& name() const { return name_; }
+    virtual std::string role() const;
+
+    Pointer partner() const { return partner_.lock(); }
+
+    /// For both; each leaves the partner that they had. Null ends the dance.
+    void setPartner(Pointer const& partner);
+
+    StdSharedBase* self() { return this; }
+    int holders() const;
+
+    /// Made by native code, which keeps no share of it.
+    static Pointer invite(std::string const& name, bool leads);
+
+    static std::vector<Pointer> inOrder(std::vector<StdSharedBase*> const& dancers);
+
+private:
+    std::string name_;
+    std::weak_ptr<StdSharedBase> partner_;
+};
+
+/// A dancer who leads.
+class StdSharedDerived : public StdSharedBase {
+public:
+    using StdSharedBase::StdSharedBase;
+
+    std::string role() const override;
+
+    /// Null when there is no partner, or when that one does not lead.
+    std::shared_ptr<StdSharedDerived> rival() const;
+};
+
+} // namespace orbisFactoryStdSharedTests
+
+template <>
+struct orbis::factory::HostClass<orbisFactoryStdSharedTests::StdSharedBase> {
+    static constexpr char const* name = "orbis_factory.StdSharedBase";
+};
+template <>
+struct orbis::factory::HostClass<orbisFactoryStdSharedTests::StdSharedDerived> {
+    static constexpr char const* name = "orbis_factory.StdSharedDerived";
+};
+
+namespace orbisFactoryStdSharedTests {
+
+class CosStdSharedBase final : public orbis::factory::StdShareableHandleClassInfo<StdSharedBase> {
+public:
+    CosStdSharedBase();
+    void initializeClass(orbis::COSClass* cls) override;
+};
+
+class CosStdSharedDerived final : public orbis::factory::StdShareableHandleClassInfo<StdSharedDerived> {
+public:
+    CosStdSharedDerived();
+    void initializeClass(orbis::COSClass* cls) override;
+};
+
+} // namespace orbisFactoryStdSharedTests

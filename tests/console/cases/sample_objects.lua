@@ -1,0 +1,144 @@
+-- The samples of objects: what they refuse, what they survive, and which side ends when the other one does.
+local of = orbis_factory
+local function refused(f, ...)
+  local ok, message = pcall(f, ...)
+  print(ok and "not refused" or tostring(message):gsub("VELMARA:native:exception: Native code failed: ", "native: "))
+end
+local function states(...)
+  local texts = {}
+  for _, object in ipairs({...}) do texts[#texts + 1] = isvalid(object) and "valid" or "ended" end
+  print(table.concat(texts, " "))
+end
+
+-- outlines: levels, loops, and who stands where
+local top = of.TreeNodeBase("1")
+local lowest = top
+for level = 2, 32 do
+  local node = of.TreeNodeBase(tostring(level))
+  lowest:add(node)
+  lowest = node
+end
+refused(lowest.add, lowest, of.TreeNodeDerived("33", 1))
+refused(of.TreeNodeBase("0").add, of.TreeNodeBase("0"), top)
+refused(top.add, top, lowest)
+refused(lowest.add, lowest, lowest)
+refused(top.add, top, nil)
+refused(top.remove, top, lowest)
+refused(of.TreeNodeDerived, "x", -1)
+refused(of.TreeNodeDerived, "x")
+refused(top.add, top, of.Container("x"))
+local middle = lowest.parent
+delete(middle)
+print(lowest.parent, isvalid(top), class(top.children))
+top:remove(top.children)
+print(top.children)
+local many = of.TreeNodeBase("many")
+for i = 1, 1000 do many:add(of.TreeNodeDerived("", i)) end
+for i, child in ipairs(many.children) do if i % 2 == 0 then delete(child) end end
+print(#many.children, many:pages())
+
+-- ways: loops and hubs, ended in any order
+local hub = of.BinaryGraphNode("hub")
+local spokes = {}
+for i = 1, 1000 do
+  spokes[i] = of.BinaryGraphNode(tostring(i))
+  spokes[i].left, spokes[i].right = hub, spokes[i - 1]
+end
+hub.left, hub.right = spokes[1], hub
+delete(spokes[1])
+print(hub.left, hub.right == hub, spokes[2].right, hub:walk("RRRR") == hub, hub:walk("L"), spokes[9]:walk("") == spokes[9])
+delete(hub)
+print(spokes[1000].left, spokes[1000]:walk(("R"):rep(998)).name)
+refused(spokes[2].walk, spokes[2], "LX")
+refused(function() spokes[2].left = of.Container("x") end)
+
+-- shared books and dancers
+local Book, Dancer = of.SharedBase, of.StdSharedBase
+refused(Book.shelve, nil)
+refused(Book.arrange, {Book("a"), of.Container("b")})
+refused(of.SharedDerived, "a", 0)
+local kept = Book("kept")
+kept:reserve() kept:reserve()
+print(kept.holders, select(2, kept:cancelReservation(), kept.holders), select(2, kept:cancelReservation(), kept.holders))
+Book.arrange({kept, kept})
+print(kept.holders, Book.find("none"), Book.take("none"), Book.take("kept") == kept, kept.holders)
+Book.arrange({})
+print(kept.holders, #Book.shelf())
+local ann, bob, eve = Dancer("Ann"), of.StdSharedDerived("Bob"), of.StdSharedDerived("Eve")
+refused(function() ann.partner = ann end)
+ann.partner = bob
+eve.partner = bob
+print(ann.partner, bob.partner == eve, bob.rival == eve, eve:role(), class(Dancer.inOrder({eve, ann})[2]), Dancer.inOrder({eve, ann})[1] == ann)
+bob.partner = nil
+print(eve.partner, #Dancer.inOrder({}))
+
+-- sauces, apples, vehicles: made by native code only
+refused(of.Alfredo)
+refused(of.Sauce.cook, "soup")
+local red, mild = of.Sauce.cook("marinara"), of.Sauce.cook("pasta sauce")
+print(red:shape(), mild:shape(), mild:taste(), of.Sauce.cook("sauce"):taste())
+refused(red.blend, red, red)
+refused(red.blend, red, mild)
+refused(function() while true do red:serve() end end)
+refused(of.Sauce.pourAway, nil)
+of.Sauce.pourAway(red)
+refused(function() return red:taste() end)
+refused(of.Sauce.pourAway, red)
+local tree = of.BasicTree()
+local one, two = tree:grow(), tree:grow()
+local apple = one:bear(900)
+one:ripen(apple)
+print(tree.sort, apple.grams, two.apples, #tree.branches)
+refused(two.ripen, two, apple)
+refused(two.drop, two, nil)
+refused(one.bear, one, 0)
+states(tree, one, two, apple)
+delete(tree)
+states(tree, one, two, apple)
+local depot = of.Z.depot()
+refused(of.Z)
+refused(depot.build, depot, "plane", "x")
+local car, boat = depot:build("car", "Car"), depot:build("boat", "Boat")
+print(car:tow(boat), depot.boats == boat, car:kind(), #depot.fleet)
+refused(car.tow, car, car)
+refused(function() return boat:drive() end)
+depot:scrap(boat)
+refused(car.tow, car, boat)
+refused(depot.scrap, depot, nil)
+
+-- items and persons
+local box, crate = of.Container("box"), of.Container("crate")
+local saw = box:add("saw", 2)
+refused(box.add, box, "balloon", -1)
+refused(box.addCopy, box, nil)
+refused(crate.discard, crate, saw)
+local copy = crate:addCopy(saw)
+print(copy.name, copy.borrower, crate:weight(), crate.heaviest == copy)
+local ada, bea = of.Person("Ada"), of.Person("Bea")
+ada:borrow(saw)
+refused(bea.borrow, bea, saw)
+refused(bea.giveBack, bea, saw)
+refused(bea.borrow, bea, nil)
+refused(of.Person.moveAway, nil)
+of.Person.moveAway(ada)
+print(saw.borrower, of.Person.find("Ada"), of.Person.count())
+bea:borrow(saw) bea:borrow(copy)
+delete(box)
+print(bea.borrowed == copy, isvalid(saw))
+bea = nil
+collectgarbage()
+print(of.Person.find("Bea").name)
+
+-- every owner ends with its virtual machine, with all that it owns
+withvm(function()
+  print(of.Person.count(), #of.Sauce.pots(), of.Z.depot().fleet)
+  of.Person("Ada"):borrow(of.Container("box"):add("saw", 1))
+  Book.arrange({Book("a"), Book("b")})
+  Book("reserved"):reserve()
+  of.Sauce.cook("alfredo")
+  of.Z.depot():build("amphibian", "Duck")
+  of.BasicTree("wild"):grow():bear(5)
+  OrbisFactoryBuiltInTester()
+end)
+unloadmodule("orbis_factory")
+states(top, kept, ann, car, crate, depot)
