@@ -1,4 +1,5 @@
 -- The samples of objects: what they refuse, what they survive, and which side ends when the other one does.
+print(OrbisFactoryBuiltInTester():getInt8()) -- before anything of its package was needed
 local of = orbis_factory
 local function refused(f, ...)
   local ok, message = pcall(f, ...)
