@@ -85,6 +85,7 @@ void bindObjectFunctions(lua_State* L)
     lua_register(L, "delete", guarded<deleteObjects>);
     lua_register(L, "isvalid", guarded<isValidValue>);
     lua_register(L, "objects", guarded<listObjects>);
+    lua_register(L, "references", guarded<listReferences>);
 }
 
 } // namespace velmara::console

@@ -48,7 +48,10 @@ end
 hub.left, hub.right = spokes[1], hub
 delete(spokes[1])
 print(hub.left, hub.right == hub, spokes[2].right, hub:walk("RRRR") == hub, hub:walk("L"), spokes[9]:walk("") == spokes[9])
+print(#references(of.BinaryGraphNode("alone")), pcall(references, 5))
+for _, reference in ipairs(references(spokes[3])) do print(reference.property, reference.object.name) end
 delete(hub)
+print(#references(spokes[2]))
 print(spokes[1000].left, spokes[1000]:walk(("R"):rep(998)).name)
 refused(spokes[2].walk, spokes[2], "LX")
 refused(function() spokes[2].left = of.Container("x") end)
