@@ -1,0 +1,45 @@
+#pragma once
+
+#include "orbis/factory/HandleClassInfo.hpp"
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace orbis::factory::samples {
+
+/// The rain gauge of a garden, which every virtual machine has: whole arrays of numbers, in and out.
+class C2 : public full::Wrappable {
+public:
+    static C2* gauge();
+
+    /// Millimetres, day by day; throws for less than nothing.
+    std::vector<double> const& days() const { return days_; }
+    void setDays(std::span<double const> days);
+
+    std::vector<double> sums() const;
+    std::vector<bool> wetterThan(double millimetres) const;
+
+    /// The days with these numbers, counted from 1; throws for others.
+    std::vector<float> pick(std::vector<std::int32_t> const& numbers) const;
+
+private:
+    std::vector<double> days_;
+};
+
+} // namespace orbis::factory::samples
+
+template <>
+struct orbis::factory::HostClass<orbis::factory::samples::C2> {
+    static constexpr char const* name = "orbis_factory.P1.P2.C2";
+};
+
+namespace orbis::factory::samples {
+
+class C2Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
+public:
+    C2Wrapper();
+    void initializeClass(COSClass* cls) override;
+};
+
+} // namespace orbis::factory::samples

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "orbis/factory/NonHandleClassInfo.hpp"
+#include "orbis/factory/ValuePolicy.hpp"
+
+namespace orbis::factory::samples {
+
+/// A place on a map, in metres from its middle. Shows every form of method.
+class MFVT {
+public:
+    MFVT() = default;
+    MFVT(double metresEast, double metresNorth) : east(metresEast), north(metresNorth) {}
+
+    void move(double metresEast, double metresNorth);
+    void move(MFVT const& by);
+    double distanceTo(MFVT const& other) const noexcept;
+
+    /// A turn to the right around the middle of the map; `quarters` may be negative.
+    static MFVT turned(MFVT const& place, int quarters);
+
+    double east = 0;
+    double north = 0;
+};
+
+} // namespace orbis::factory::samples
+
+template <>
+struct orbis::factory::HostClass<orbis::factory::samples::MFVT> {
+    static constexpr char const* name = "orbis_factory.MFVT";
+    using Policy = ValuePolicy;
+};
+
+namespace orbis::factory::samples {
+
+class MFVTCI final : public NonHandleClassInfo<MFVT, MFVT> {
+public:
+    MFVTCI();
+    void initializeClass(COSClass* cls) override;
+};
+
+} // namespace orbis::factory::samples

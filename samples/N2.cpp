@@ -1,0 +1,26 @@
+#include "samples/N2.hpp"
+
+#include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/describe.hpp"
+
+namespace orbis::factory::samples {
+
+N2* N2::gearbox()
+{
+    return &basic::HvmScoped<N2>::get();
+}
+
+N2Wrapper::N2Wrapper()
+    : HandleClassInfo(HostClass<N2>::name, "A gearbox, whose gears are an enumeration that scripts define")
+{
+}
+
+void N2Wrapper::initializeClass(COSClass* cls)
+{
+    publish(cls, describe<N2>()
+                     .staticMethod("gearbox", &N2::gearbox)
+                     .property("gear", &N2::gear, &N2::setGear)
+                     .property("gears", &N2::gears));
+}
+
+} // namespace orbis::factory::samples

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/HostEnumeration.hpp"
+
+#include <vector>
+
+namespace orbis::factory::samples {
+
+enum class Gear { Reverse = -1, Neutral, First, Second };
+
+/// A gearbox, which every virtual machine has. The class of its gears is written in the host language: the script
+/// defines it, and only the names must agree.
+class N2 : public full::Wrappable {
+public:
+    static N2* gearbox();
+
+    Gear gear() const { return gear_; }
+    void setGear(Gear gear) { gear_ = gear; }
+    std::vector<Gear> gears() const { return {Gear::Reverse, Gear::Neutral, Gear::First, Gear::Second}; }
+
+private:
+    Gear gear_ = Gear::Neutral;
+};
+
+} // namespace orbis::factory::samples
+
+template <>
+struct orbis::factory::HostEnumeration<orbis::factory::samples::Gear> {
+    using Gear = samples::Gear;
+    static constexpr char const* name = "vehicle.Gear";
+    static constexpr bool isVelmaraImplemented = true;
+    static constexpr Enumerator<Gear> enumerators[] = {
+        {"Reverse", Gear::Reverse}, {"Neutral", Gear::Neutral}, {"First", Gear::First}, {"Second", Gear::Second}};
+};
+
+template <>
+struct orbis::factory::HostClass<orbis::factory::samples::N2> {
+    static constexpr char const* name = "orbis_factory.NP1.N2";
+};
+
+namespace orbis::factory::samples {
+
+class N2Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
+public:
+    N2Wrapper();
+    void initializeClass(COSClass* cls) override;
+};
+
+} // namespace orbis::factory::samples

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "orbis/factory/HostClass.hpp"
+
+#include "orbis/COSClassInfo.hpp"
+
+#include <cstdint>
+#include <string>
+
+namespace orbis::factory::samples {
+
+/// A thermostat. Shows every form of property, and every attribute.
+class Prop {
+public:
+    static constexpr double absoluteZero = -273.15;
+
+    double target() const { return target_; }
+    void setTarget(double celsius);
+
+    /// The room is always a little behind.
+    double actual() const { return target_ - 0.5; }
+
+    std::string const& room() const { return room_; }
+    void setRoom(std::string room) { room_ = std::move(room); }
+
+    /// Everything is locked by a pin, which nobody can read.
+    void setPin(int pin) { pin_ = pin; }
+    bool unlock(int pin) const { return pin == pin_; }
+
+    /// Readings are lent, and counted until they come back.
+    double lendReading();
+    void takeReadingBack() { --lent_; }
+    int lent() const { return lent_; }
+
+    std::int32_t serial = 4711;
+    bool isOn = false;
+
+private:
+    double target_ = 20;
+    std::string room_ = "hall";
+    int pin_ = 0;
+    int lent_ = 0;
+};
+
+} // namespace orbis::factory::samples
+
+template <>
+struct orbis::factory::HostClass<orbis::factory::samples::Prop> {
+    static constexpr char const* name = "orbis_factory.Prop";
+};
+
+namespace orbis::factory::samples {
+
+/// Written directly on the host's base: the native object is the instance data of its host object.
+class PropWrapper final : public COSClassInfo {
+public:
+    char const* getName() const override { return HostClass<Prop>::name; }
+    char const* getDescription() const override { return "A thermostat; properties of every form, every attribute"; }
+    bool isHandle() const override { return true; }
+    void initializeClass(COSClass* cls) override;
+    void* createInstanceData() override { return new Prop; }
+    bool destroyInstanceData(COSInterface* object, void* data) override;
+};
+
+} // namespace orbis::factory::samples

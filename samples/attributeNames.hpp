@@ -1,0 +1,14 @@
+#pragma once
+
+#include "orbis/factory/MethodAttributes.hpp"
+#include "orbis/factory/PropertyAttributes.hpp"
+
+#include <string>
+
+namespace orbis::factory::samples {
+
+/// The attributes that differ from the default, in the words in which they are given; "" for none.
+std::string attributeNames(MethodAttributes attributes);
+std::string attributeNames(PropertyAttributes attributes);
+
+} // namespace orbis::factory::samples

@@ -1,0 +1,69 @@
+-- The tour: every facility of the library, shown by the sample classes. It checks what it prints.
+local folder = arg[0]:match("^.*[/\\]") or ""
+local wrong = 0
+
+local function section(title)
+  print()
+  print(title)
+end
+
+--- Prints a value, and checks it.
+local function show(text, value, expected)
+  local isRight = tostring(value) == tostring(expected) or value == expected
+  print(("  %-45s %s"):format(text, tostring(value)) .. (isRight and "" or "  WRONG, expected " .. tostring(expected)))
+  if not isRight then wrong = wrong + 1 end
+end
+
+--- Prints the error that a call ends with, in lines of at most 80 columns.
+local function refused(text, f, ...)
+  local succeeded, message = pcall(f, ...)
+  if succeeded then return show(text, "no error", "an error") end
+  print("  " .. text)
+  for line in tostring(message):gmatch("[^\n]+") do
+    local indent = "    " .. line:match("^ *")
+    local printed = indent
+    for word in line:gmatch("%S+") do
+      if #printed + #word > 78 then
+        print(printed)
+        printed = indent .. "  "
+      end
+      printed = printed .. (printed:match("%S$") and " " or "") .. word
+    end
+    print(printed)
+  end
+end
+
+local function visit(name)
+  assert(loadfile(folder .. "tour/" .. name .. ".lua"))(section, show, refused)
+end
+
+print("The classes of the package orbis_factory, one for each facility of the library")
+visit("values")
+visit("objects")
+visit("packages")
+
+--- The live objects but for enumerators, which have no native object and stay.
+local function living()
+  local list = objects()
+  for i = #list, 1, -1 do
+    if not list[i].native then table.remove(list, i) end
+  end
+  return list
+end
+
+section("The end: live objects, bindings, and nothing left")
+collectgarbage()
+show("live objects, once no script has them", #living(), 0)
+do
+  local left <close> = orbis_factory.Container("suitcase")
+  local saw <close> = left:add("souvenir", 0.2)
+  local place <close> = orbis_factory.MFVT(1, 2)
+  print(living())
+end
+show("given back at the end of the block", #living(), 0)
+print("  the registry of bindings:")
+orbis_factory.dumpReg()
+unloadmodule("orbis_factory")
+show("unloaded: the package", rawget(_G, "orbis_factory"), nil)
+show("mistakes on this tour", wrong, 0)
+assert(wrong == 0)
