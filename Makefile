@@ -6,7 +6,7 @@ export CTEST_PARALLEL_LEVEL ?= $(shell nproc)
 
 help: ## list the targets
 	@awk -F ':.*## ' '/^[a-z]+:.*## / { printf "  make %-9s %s\n", $$1, $$2 }' Makefile
-run: ## build the optimised console and run the sample script
+run: ## build the optimised console and run the tour of the samples
 	@scripts/run
 test: ## build for development and run every test
 	@scripts/test

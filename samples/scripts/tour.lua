@@ -7,10 +7,11 @@ local function section(title)
   print(title)
 end
 
---- Prints a value, and checks it.
+--- Prints a value, and checks it. Long ones stand in a line of their own.
 local function show(text, value, expected)
   local isRight = tostring(value) == tostring(expected) or value == expected
-  print(("  %-45s %s"):format(text, tostring(value)) .. (isRight and "" or "  WRONG, expected " .. tostring(expected)))
+  local given = tostring(value) .. (isRight and "" or "  WRONG, expected " .. tostring(expected))
+  print(("  %-42s "):format(text) .. (#given > 35 and "\n      " or "") .. given)
   if not isRight then wrong = wrong + 1 end
 end
 
@@ -64,6 +65,6 @@ show("given back at the end of the block", #living(), 0)
 print("  the registry of bindings:")
 orbis_factory.dumpReg()
 unloadmodule("orbis_factory")
-show("unloaded: the package", rawget(_G, "orbis_factory"), nil)
+show("unloaded: the package", orbis_factory, nil)
 show("mistakes on this tour", wrong, 0)
 assert(wrong == 0)

@@ -1,0 +1,2 @@
+-- run: ../../../samples/scripts/tour.lua
+-- The tour of the samples, as "make run" shows it.
