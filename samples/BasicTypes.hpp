@@ -53,6 +53,7 @@ namespace orbis::factory::samples {
 class BasicTypesWrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     BasicTypesWrapper();
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
     void initializeClass(COSClass* cls) override;
 };
 

@@ -47,6 +47,7 @@ namespace orbis::factory::samples {
 class C1Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     C1Wrapper();
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
     void initializeClass(COSClass* cls) override;
 };
 

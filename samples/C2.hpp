@@ -39,6 +39,7 @@ namespace orbis::factory::samples {
 class C2Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     C2Wrapper();
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
     void initializeClass(COSClass* cls) override;
 };
 

@@ -34,6 +34,7 @@ namespace orbis::factory::samples {
 class C3Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     C3Wrapper();
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
     void initializeClass(COSClass* cls) override;
 };
 

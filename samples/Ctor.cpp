@@ -13,7 +13,8 @@ namespace {
 double secondsOf(std::string const& text)
 {
     int hours = 0, minutes = 0, length = 0;
-    if (std::sscanf(text.c_str(), "%2d:%2d%n", &hours, &minutes, &length) != 2 ||
+    bool const isNumbers = text.find_first_not_of("0123456789:") == text.npos;
+    if (!isNumbers || std::sscanf(text.c_str(), "%2d:%2d%n", &hours, &minutes, &length) != 2 ||
         length != static_cast<int>(text.size()))
         throw Exception("\"" + text + "\" is no time: write hours:minutes.");
     return hours * 3600.0 + minutes * 60.0;

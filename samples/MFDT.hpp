@@ -46,6 +46,7 @@ namespace orbis::factory::samples {
 class MFDTCI final : public HandleClassInfo<MFDT, 0> {
 public:
     MFDTCI();
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
     void initializeClass(COSClass* cls) override;
 };
 

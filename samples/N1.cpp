@@ -60,7 +60,8 @@ samples::Date HostDataType<samples::Date>::fromHost(hvArray* value)
     unsigned month = 0, day = 0;
     std::sscanf(text.c_str(), "%4d-%2u-%2u%n", &year, &month, &day, &length);
     samples::Date const date{std::chrono::year(year), std::chrono::month(month), std::chrono::day(day)};
-    if (length != 10 || text.size() != 10 || year < 1 || !date.ok())
+    bool const isNumbers = text.find_first_not_of("0123456789-") == text.npos;
+    if (!isNumbers || length != 10 || text.size() != 10 || year < 1 || !date.ok())
         throw Exception("\"" + text + "\" is no date: write one as 2024-02-29.");
     return date;
 }

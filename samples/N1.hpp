@@ -45,6 +45,7 @@ namespace orbis::factory::samples {
 class N1Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     N1Wrapper();
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
     void initializeClass(COSClass* cls) override;
 };
 

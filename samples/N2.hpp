@@ -44,6 +44,7 @@ namespace orbis::factory::samples {
 class N2Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     N2Wrapper();
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
     void initializeClass(COSClass* cls) override;
 };
 

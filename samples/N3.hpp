@@ -42,6 +42,7 @@ namespace orbis::factory::samples {
 class N3Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     N3Wrapper();
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
     void initializeClass(COSClass* cls) override;
 };
 

@@ -42,6 +42,7 @@ namespace orbis::factory::samples {
 class CosVectorStringIO final : public HandleClassInfo<VectorStringIO, 0> {
 public:
     CosVectorStringIO();
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
     void initializeClass(COSClass* cls) override;
 };
 

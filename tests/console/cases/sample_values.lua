@@ -1,0 +1,149 @@
+-- The samples of values and packages: what they refuse, what they survive, and what their help says.
+local of = orbis_factory
+local function refused(f, ...)
+  local ok, message = pcall(f, ...)
+  print(ok and "not refused" or tostring(message):gsub("VELMARA:native:exception: Native code failed: ", "native: "))
+end
+local function assign(object, name, value) object[name] = value end
+local function list(...)
+  local texts = {}
+  for i, value in ipairs({...}) do texts[i] = tostring(value) end
+  print(table.concat(texts, " "))
+end
+local nan, huge = 0 / 0, math.huge
+
+-- help: packages of every form, classes that no package has
+for _, topic in ipairs {of, of.P1, of.P1.P2, of.P3, of.NP1, of.NP1.NP2, CppClass, of.Weekday, of.MFVT, of.Prop} do
+  help(topic)
+end
+help(of.Ctor)
+help("orbis_factory.MFDT.pay")
+refused(help, "orbis_factory.MFDT.seize")
+
+-- values: the native value stays as it was when a change is refused
+local week = of.Week(8)
+for _, hours in ipairs {25, -1, nan, huge} do
+  refused(week.setHours, week, "Monday", hours)
+  refused(of.Week, hours)
+end
+refused(week.setHours, week, {"Monday", "Funday"}, 1)
+refused(week.hoursOn, week, 8)
+refused(week.longerOfEach, week, null)
+print(week.total, #of.Week().daysOff)
+local function turned(quarters) return of.MFVT.turned(of.MFVT(1, 2), quarters) end
+list(turned(-2147483648).east, turned(2147483647).east, turned(-1).east, turned(5).north)
+refused(of.MFVT().move, of.MFVT(), null)
+list(of.MFVT(huge, 0):halfwayTo(of.MFVT(-huge, 0)).east ~= nil)
+
+-- constructors and signatures
+for _, text in ipairs {"", "1", "1:", "1:2:3", " 1:2", "a:b", "99:00", "-1:00"} do refused(of.Ctor, text) end
+refused(of.Ctor, 2147483647, 2147483647, 2147483647)
+refused(of.Ctor, nan)
+print(of.Ctor("23:59").text, of.Ctor(24, 0).text, of.Ctor(0.5).text)
+local shop = of.Signatures1("a\0b")
+local ok, message = pcall(shop.total, shop, table.unpack(array("double", 1, 1, 21) and {1, 2, 3, 4, 5, 6, 7, 8, 9, 10,
+  11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21}))
+print(ok, select(2, tostring(message):gsub("\n", "")), tostring(message):match("[^\n]*$"):sub(-15))
+print(shop:total(huge), shop:total(-huge), shop.takings ~= shop.takings, #shop.name)
+
+-- accounts: bounds at both ends
+refused(of.MFDT.open, 0)
+refused(of.MFDT.open, 1001)
+for _, made in ipairs {of.MFDT, of.BasicTypes, of.VectorStringIO, of.P1.C1, of.P1.P2.C2, of.P3.C3, of.NP1.N2,
+  of.NP1.NP2.N1, of.NP1.NP2.N3} do
+  refused(made)
+end
+local account = of.MFDT.open(1000)
+account:pay(2147483647)
+for _, cents in ipairs {-1, 2147483648, 0.5} do refused(account.pay, account, cents) end
+account:withdraw(2147483647)
+refused(account.withdraw, account, 1)
+refused(of.MFDT.attributesOf, "rob")
+delete(account)
+refused(account.pay, account, 1)
+print(of.MFDT.open(1000).cents, of.MFDT.open(1000):isEmpty())
+
+-- properties
+local prop = of.Prop()
+for _, celsius in ipairs {4.9, 36, nan} do refused(assign, prop, "target", celsius) end
+refused(assign, prop, "fahrenheit", 212)
+refused(assign, prop, "serial", 1)
+refused(assign, of.Prop, "absoluteZero", 0)
+refused(of.Prop.attributesOf, "")
+print(prop.target, prop.serial, prop.lent)
+local book = CppClass()
+refused(book.sign, book, 5)
+refused(book.sign, null, "x")
+refused(assign, book, "entry", "x")
+print(book:sign(""), book.entry == "")
+
+-- numbers and texts
+local form = of.BasicTypes.form()
+form:clear()
+for _, wrong in ipairs {{"anInt8", 128}, {"anInt16", -32769}, {"anInt32", 0.5}, {"anInt64", 2.0 ^ 63}, {"aUint8", -1},
+  {"aUint32", nan}, {"aUint64", -1}, {"aLogical", "x"}, {"aString", 5}, {"aUnicodeString", {1}}, {"aChar", 5}} do
+  refused(assign, form, wrong[1], wrong[2])
+end
+form.aSingle, form.aChar, form.word = 0.1, "xyz", "a\0b"
+refused(assign, form, "word", null)
+list(form.aSingle, form.aChar, form.aString, #form.unicodeWord, of.BasicTypes.bytes("a\0b"), of.BasicTypes.units(""))
+form.unicodeWord = ""
+print(form == of.BasicTypes.form(), form.aUnicodeString == "")
+print(withvm(function() return of.BasicTypes.form().aChar == "" end))
+
+-- containers of texts
+local guests = of.VectorStringIO.list()
+for _, wrong in ipairs {"Ada", {1}, {"Ada", null}, array("double", 1, 2, 2)} do refused(assign, guests, "guests", wrong) end
+guests.guests = array("cell", {})
+print(#guests.guests, #guests.names, of.VectorStringIO.sentence(array("cell", {})), of.VectorStringIO.sentence({"Ada"}))
+guests.guests = array("string", {"b", missing, "a\0"})
+print(#guests.guests, #guests.names)
+
+-- enumerations that the script must define first
+refused(function() return of.NP1.N2.gearbox().gear end)
+refused(assign, of.NP1.N2.gearbox(), "gear", "First")
+enumeration("vehicle.Gear", {"First", "Third"})
+refused(function() return of.NP1.N2.gearbox().gear end)
+refused(assign, of.NP1.N2.gearbox(), "gear", "Third")
+of.NP1.N2.gearbox().gear = 0
+print(of.NP1.N2.gearbox().gear)
+
+-- arrays: kept past their objects, and to the end of the virtual machine
+local room = of.P1.C1.cloakroom()
+print(of.P1.C1.label(null), of.P1.C1.label({}), of.P1.C1.label({room, room}), #of.P1.C1.tailor(null))
+local adder = of.Adder(5)
+room:hang({adder, adder}, {1, {2, "x"}})
+adder = nil
+collectgarbage()
+print(room.left[2].total, room.right[2][2], isvalid(room.left[1]))
+room:hang(array(of.Adder, {room.left[1]}), {adder})
+
+-- numbers by the array, values that may be missing, dates
+local gauge = of.P1.P2.C2.gauge()
+for _, days in ipairs {{-1}, {1, nan}, {"a"}} do refused(gauge.setDays, gauge, days) end
+gauge:setDays(array("int8", {{1, 3}, {2, 4}}))
+for _, number in ipairs {0, 5, -2147483648, 1.5} do refused(gauge.pick, gauge, number) end
+list(gauge.sums[4], #gauge:pick({}), gauge:wetterThan(nan)[1])
+local kitchen = of.P3.C3.kitchen()
+list(kitchen:brew("", huge, null), kitchen:brew("x\0y", -huge), kitchen.lastMinutes)
+refused(kitchen.brew, kitchen)
+refused(kitchen.brew, kitchen, "Assam", "long")
+refused(assign, kitchen, "lastMinutes", "long")
+local calendar = of.NP1.NP2.N1.calendar()
+for _, date in ipairs {"2024-2-29", "2100-02-29", "0000-01-01", "10000-01-01", "2024-13-01", "2024-01-01\0", "+024-01-01",
+  "", 5} do
+  refused(assign, calendar, "today", date)
+end
+calendar.today = "0001-01-01"
+refused(calendar.after, calendar, -1)
+refused(calendar.after, calendar, 2147483647)
+print(calendar:after(3652058), calendar:daysUntil("9999-12-31"))
+
+-- errors of native code leave the object as it was
+local office = of.NP1.NP2.N3.office()
+for _, kilograms in ipairs {0, -1, 20.1, nan} do refused(office.send, office, "Ada", kilograms) end
+for _, shelf in ipairs {-1, 3, -2147483648} do refused(office.shelf, office, shelf) end
+refused(office.stamp, office, -2147483648)
+refused(office.drop, office)
+office:send("Ada", 20)
+print(office.sent, office:shelf(2))
