@@ -11,7 +11,7 @@ end
 local function show(text, value, expected)
   local isRight = tostring(value) == tostring(expected) or value == expected
   local given = tostring(value) .. (isRight and "" or "  WRONG, expected " .. tostring(expected))
-  print(("  %-42s "):format(text) .. (#given > 35 and "\n      " or "") .. given)
+  print(#given > 35 and "  " .. text .. "\n      " .. given or ("  %-42s "):format(text) .. given)
   if not isRight then wrong = wrong + 1 end
 end
 
