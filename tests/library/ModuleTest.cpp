@@ -67,8 +67,10 @@ TEST_F(ModuleTest, TheRootPackageOffersItsClassesAndFunctions)
     for (std::string const& cls : record.classes)
         names += cls.substr(cls.rfind('.') + 1) + " ";
     EXPECT_EQ(names,
-              "A Adder Alfredo B BasicA BasicB BasicTree BinaryGraphNode C Container D Item Marinara Pasta Person "
-              "Sauce SharedBase SharedDerived StdSharedBase StdSharedDerived TreeNodeBase TreeNodeDerived Z ");
+              "A Adder Alfredo B BasicA BasicB BasicTree BasicTypes BinaryGraphNode C Container Ctor D Item MFDT MFVT "
+              "Marinara Pasta Person Prop Sauce SharedBase SharedDerived Signatures1 StdSharedBase StdSharedDerived "
+              "TreeNodeBase TreeNodeDerived VectorStringIO Week Weekday Z ");
+    EXPECT_EQ(record.packages, (std::vector<std::string>{"orbis_factory.NP1", "orbis_factory.P1", "orbis_factory.P3"}));
     ASSERT_EQ(record.functions.size(), 2u);
 
     auto const printed = [&](char const* function) {
