@@ -12,6 +12,18 @@
 
 namespace orbis::factory {
 
+namespace detail {
+
+/// Outside the exported class, so that its text stays a matter of each module.
+template <class E>
+char const* enumerationVectorText()
+{
+    static std::string const text = std::string(enumerationRecord<E>.hostName) + " vector";
+    return text.c_str();
+}
+
+} // namespace detail
+
 /// `std::vector` of enumerators, wherever their class is written. To the host it is one row of their objects; from the
 /// host it is all elements of an array of any size, in column order.
 class EnumClassArrayPolicy {};
@@ -58,8 +70,7 @@ public:
     template <class Vector>
     static char const* dataTypeText()
     {
-        static std::string const text = std::string(record<Vector>.hostName) + " vector";
-        return text.c_str();
+        return detail::enumerationVectorText<typename Vector::value_type>();
     }
 
 private:
