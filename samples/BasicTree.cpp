@@ -19,6 +19,7 @@ template <class T>
 std::vector<T*> pointersTo(std::vector<std::unique_ptr<T>> const& owned)
 {
     std::vector<T*> pointers;
+    pointers.reserve(owned.size());
     for (auto const& object : owned)
         pointers.push_back(object.get());
     return pointers;

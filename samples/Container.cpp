@@ -31,6 +31,7 @@ Container::~Container() = default;
 std::vector<Item*> Container::items() const
 {
     std::vector<Item*> items;
+    items.reserve(items_.size());
     for (auto const& item : items_)
         items.push_back(item.get());
     return items;

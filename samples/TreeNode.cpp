@@ -16,12 +16,13 @@ TreeNodeBase::~TreeNodeBase()
     for (auto const& child : children_)
         child->parent_ = nullptr;
     if (parent_)
-        parent_->remove(this);
+        parent_->children_.remove_if([this](auto const& child) { return child.get() == this; });
 }
 
 std::vector<TreeNodeBase*> TreeNodeBase::children() const
 {
     std::vector<TreeNodeBase*> children;
+    children.reserve(children_.size());
     for (auto const& child : children_)
         children.push_back(child.get());
     return children;

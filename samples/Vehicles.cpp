@@ -46,6 +46,7 @@ A* Z::build(std::string const& kind, std::string const& name)
 std::vector<A*> Z::fleet() const
 {
     std::vector<A*> fleet;
+    fleet.reserve(vehicles_.size());
     for (auto const& vehicle : vehicles_)
         fleet.push_back(vehicle.get());
     return fleet;

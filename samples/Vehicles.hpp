@@ -42,7 +42,7 @@ public:
 /// A boat that is a car: one vehicle, not two.
 class D : public B, public C {
 public:
-    explicit D(std::string name) : A(name), B(name), C(name) {}
+    explicit D(std::string const& name) : A(name), B(name), C(name) {}
     std::string kind() const override { return "amphibian"; }
 };
 
