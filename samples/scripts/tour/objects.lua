@@ -30,6 +30,7 @@ show("visits: counted by native code", gate.visits, 1)
 refused("... and set by nobody else", function() gate.visits = 9 end)
 show("signpost: the only way", gate.signpost == pond, true)
 show("told after each reading: readers", gate.readers, 1)
+show("what the host is told that it refers to", #references(gate), 2)
 delete(pond)
 show("the pond deleted: left", gate.left, nil)
 gate.left = gate
