@@ -1,5 +1,6 @@
 #include "bench/CallScenarios.hpp"
 #include "bench/EnumerationScenarios.hpp"
+#include "bench/PropertyScenarios.hpp"
 #include "bench/StringScenarios.hpp"
 
 #include <cstdio>
@@ -32,6 +33,7 @@ int main(int argc, char** argv)
 {
     using Calls = bench::CallScenarios;
     using Enumerations = bench::EnumerationScenarios;
+    using Properties = bench::PropertyScenarios;
     using Strings = bench::StringScenarios;
     struct Entry {
         char const* name;
@@ -51,6 +53,12 @@ int main(int argc, char** argv)
                                  {"callWithName", run<&Enumerations::callWithName>},
                                  {"callWithNumber", run<&Enumerations::callWithNumber>},
                                  {"construct", run<&Calls::construct>},
+                                 {"get", run<&Properties::get>},
+                                 {"handWrittenGet", run<&Properties::handWrittenGet>},
+                                 {"set", run<&Properties::set>},
+                                 {"handWrittenSet", run<&Properties::handWrittenSet>},
+                                 {"getByName", run<&Properties::getByName>},
+                                 {"setByName", run<&Properties::setByName>},
                                  {"stringIn", run<&Strings::stringIn, 1>},
                                  {"stringOut", run<&Strings::stringOut, 1>},
                                  {"narrowVectorIn", run<&Strings::narrowVectorIn, 1000>},

@@ -13,8 +13,16 @@
 
 /// Owns one virtual machine, current on the test's thread. After every test nothing of the host may be alive.
 class HvmTest : public ::testing::Test {
+public:
+    /// Looks for what does not fit together in the current virtual machine; set where there is a library that can.
+    inline static std::string (*check)() = nullptr;
+
 protected:
-    HvmTest() : hvm_(std::make_unique<velmara::Hvm>()) { scope_.emplace(*hvm_); }
+    HvmTest() : hvm_(std::make_unique<velmara::Hvm>())
+    {
+        scope_.emplace(*hvm_);
+        hvm_->reportLeaks([](std::string const& leak) { ADD_FAILURE() << leak; });
+    }
 
     ~HvmTest() override
     {
@@ -26,6 +34,9 @@ protected:
 
     void endHvm()
     {
+        if (hvm_ && check) {
+            EXPECT_EQ(check(), "");
+        }
         scope_.reset();
         hvm_.reset();
     }

@@ -43,10 +43,19 @@ COSInterfacePtr newInitializedInstance(COSNameID const& className)
     return found == table.end() ? nullptr : found->second;
 }
 
-/// An address that is a key already keeps its entry.
-void insert(void* object, COSInterface* host)
+[[gnu::noinline]] void rememberClass(FooRegistry& table, void const* object, COSNameID const& className)
 {
-    HvmScoped<FooRegistry>::get().bind(object, host);
+    if (!table.count(object))
+        (*table.classNames)[object] = static_cast<COSString>(className).c_str();
+}
+
+/// An address that is a key already keeps its entry.
+void insert(void* object, COSInterface* host, COSNameID const& className)
+{
+    FooRegistry& table = HvmScoped<FooRegistry>::get();
+    if (table.classNames) [[unlikely]]
+        rememberClass(table, object, className);
+    table.bind(object, host);
 }
 
 /// Erases the mapping of `object`; an empty pointer when it is no key.
@@ -77,7 +86,7 @@ std::unique_ptr<RegistryEntry> take(void const* object)
         COSInterfacePtr instance = newInitializedInstance(className);
         instance->setNativeObject(className, object);
         omSetArrayElement(array.get(), 0, instance);
-        insert(object, instance);
+        insert(object, instance, className);
     }
     return array.release();
 }
@@ -125,7 +134,7 @@ void BindingRegistry::announceForConstructor(void* const object, COSNameID const
     COSInterfacePtr instance = cosiGetArrayElement(constructed, 0);
     instance->setNativeObject(className, object);
     if (object && store)
-        insert(object, instance);
+        insert(object, instance, className);
 }
 
 hvArray* BindingRegistry::announceWithoutStoring(void* source, COSNameID const& className,
@@ -157,7 +166,7 @@ void BindingRegistry::hijack(void const* const oldObject, void* newObject, COSIn
     // A binding of the old address to another host object is left in place on purpose.
     bool const movesBinding = oldObject != newObject && find(oldObject) == host;
     host->setNativeObject(className, newObject);
-    insert(newObject, host);
+    insert(newObject, host, className);
     if (movesBinding)
         take(oldObject);
 }

@@ -2,6 +2,8 @@
 
 #include "orbis/factory/basic/HvmScoped.hpp"
 
+#include "basic/sharingHosts.hpp"
+
 #include "orbis/objectArrays.hpp"
 
 #include <boost/unordered_map.hpp>
@@ -34,6 +36,15 @@ void shareWithHost(hvArray_tag const* array, boost::shared_ptr<void> share)
 void shareWithHost(hvArray_tag const* array, std::shared_ptr<void> share)
 {
     give(array, std::move(share));
+}
+
+std::vector<COSInterface const*> sharingHosts()
+{
+    std::vector<COSInterface const*> hosts;
+    if (HostShares const* const shares = basic::HvmScoped<HostShares>::find())
+        for (auto const& [host, share] : *shares)
+            hosts.push_back(host);
+    return hosts;
 }
 
 bool hasShare(COSInterface const* host)

@@ -2,6 +2,9 @@
 
 #include "orbis/factory/basic/HvmScoped.hpp"
 
+#include "basic/addressText.hpp"
+
+#include "additions/additions.hpp"
 #include "libut/libut.hpp"
 #include "orbis/COSInterface.hpp"
 
@@ -10,11 +13,34 @@
 
 namespace orbis::factory::basic {
 
+namespace {
+
+void reportLeft(void const* object, boost::unordered_map<void const*, std::string> const& classNames) noexcept
+{
+    try {
+        std::string const text = "the native object " + addressText(object) + " is still bound as ";
+        additions::reportLeak((text + classNames.at(object)).c_str());
+    } catch (...) {
+        additions::reportLeak("a native object is still bound");
+    }
+}
+
+} // namespace
+
+FooRegistry::FooRegistry()
+{
+    if (additions::reportsLeaks())
+        classNames = std::make_unique<boost::unordered_map<void const*, std::string>>();
+}
+
 FooRegistry::~FooRegistry()
 {
     // Left entries are reclaimed without a word to their host objects, which may be gone.
-    for (auto const& [object, entry] : *this)
+    for (auto const& [object, entry] : *this) {
+        if (classNames)
+            reportLeft(object, *classNames);
         delete entry;
+    }
     if (spare_)
         delete spare_.mapped();
 }

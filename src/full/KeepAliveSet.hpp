@@ -1,6 +1,9 @@
 #pragma once
 
+#include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/full/SharingType.hpp"
+#include "orbis/factory/full/Wrappable.hpp"
 
 namespace orbis::factory::full {
 
@@ -22,6 +25,20 @@ struct KeepAliveSet {
         auto* const set = basic::HvmScoped<KeepAliveSet>::find();
         if (object && set)
             set->objects.erase(object);
+    }
+
+    /// An object that is kept for a host object and is bound to none; null when there is no such object.
+    static Wrappable const* findForsaken()
+    {
+        auto const* const set = basic::HvmScoped<KeepAliveSet>::find();
+        if (!set)
+            return nullptr;
+        for (Pointer const& object : set->objects) {
+            Wrappable const* const bound = object.get();
+            if (object->getSharingType() != SharingType::Shared && !basic::BindingRegistry::contains(bound))
+                return bound;
+        }
+        return nullptr;
     }
 
     Set objects;

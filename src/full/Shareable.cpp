@@ -3,6 +3,7 @@
 #include "orbis/factory/basic/BindingRegistry.hpp"
 
 #include "full/KeepAliveSet.hpp"
+#include "full/forsakenObjects.hpp"
 
 #include <boost/unordered_set.hpp>
 
@@ -49,6 +50,11 @@ void releaseReference(Shareable* object)
 {
     if (object)
         Kept::drop(object->shared_from_this());
+}
+
+Wrappable const* findForsakenShareable()
+{
+    return Kept::findForsaken();
 }
 
 bool canAcquireReference(Shareable*)

@@ -3,6 +3,7 @@
 #include "orbis/factory/basic/BindingRegistry.hpp"
 
 #include "full/KeepAliveSet.hpp"
+#include "full/forsakenObjects.hpp"
 
 #include <unordered_set>
 
@@ -49,6 +50,11 @@ void releaseReference(StdShareable* object)
 {
     if (object)
         Kept::drop(object->shared_from_this());
+}
+
+Wrappable const* findForsakenStdShareable()
+{
+    return Kept::findForsaken();
 }
 
 bool canAcquireReference(StdShareable*)

@@ -65,12 +65,13 @@ void Class::makeReady()
     if (state_ == State::Closed)
         throwHostError("VELMARA:class", "unpublished", {text(name_)});
     HvmState::Entry const entry(machine_);
+    auto empty = std::make_shared<ClassContents>(); // so that going back needs no memory
     state_ = State::Describing;
     try {
         describe();
     } catch (...) {
-        dropContents();
         state_ = State::Untouched;
+        dropContents(std::move(empty));
         throwHostError("VELMARA:class", "initialization", {text(name_), describeCurrentException()});
     }
     state_ = State::Ready;
@@ -87,11 +88,11 @@ void Class::describe()
     contents_->enumerators.makeObjects(*this);
 }
 
-void Class::dropContents()
+void Class::dropContents(std::shared_ptr<ClassContents> replacement)
 {
     for (Class* const superclass : contents_->superclasses)
         std::erase(superclass->subclasses_, this);
-    machine_.retire(std::exchange(contents_, std::make_shared<ClassContents>()));
+    machine_.retire(std::exchange(contents_, std::move(replacement)));
 }
 
 bool Class::isBusy() const
@@ -108,7 +109,7 @@ void Class::close()
         subclass.state_ = State::Untouched;
     }
     objects_.endAll();
-    dropContents();
+    dropContents(std::make_shared<ClassContents>());
 }
 
 bool Class::isA(Name ancestor) const

@@ -91,7 +91,7 @@ private:
     enum class State { Untouched, Describing, Ready, Closed };
 
     void describe();
-    void dropContents();
+    void dropContents(std::shared_ptr<ClassContents> replacement);
     void rebuildTables();
     void requireOpen(Name member) const;
     void requireNoEnumerator(Name member) const;

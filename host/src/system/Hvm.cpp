@@ -12,6 +12,11 @@ Hvm::Hvm() : state_(std::make_unique<HvmState>()) {}
 
 Hvm::~Hvm() = default;
 
+void Hvm::reportLeaks(std::function<void(std::string const&)> report)
+{
+    state_->setLeakReport(std::move(report));
+}
+
 Hvm::Scope::Scope(Hvm& hvm) : previous_(HvmState::makeCurrent(hvm.state_.get())) {}
 
 Hvm::Scope::~Scope()

@@ -42,6 +42,15 @@ HvmState& HvmState::required()
     return *current_;
 }
 
+void HvmState::reportLeak(char const* sentence) const noexcept
+{
+    try {
+        if (leakReport_)
+            leakReport_(sentence);
+    } catch (...) {
+    }
+}
+
 void HvmState::retire(std::shared_ptr<void> unpublished)
 {
     retired_.push_back(std::move(unpublished));

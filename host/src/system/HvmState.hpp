@@ -3,7 +3,10 @@
 #include "values/HvmStorage.hpp"
 #include "values/MessageCatalog.hpp"
 
+#include <functional>
 #include <memory>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace velmara {
@@ -47,6 +50,13 @@ public:
     TypeRepository& types() { return *types_; }
     ModuleList& modules() { return *modules_; }
 
+    using LeakReport = std::function<void(std::string const&)>;
+    void setLeakReport(LeakReport report) { leakReport_ = std::move(report); }
+    bool reportsLeaks() const { return static_cast<bool>(leakReport_); }
+
+    /// What the report throws is lost.
+    void reportLeak(char const* sentence) const noexcept;
+
     /// True once the virtual machine has begun to end: no more objects are made.
     bool isEnding() const { return isEnding_; }
 
@@ -82,6 +92,7 @@ private:
     static constinit thread_local HvmState* current_;
 
     std::unique_ptr<ModuleList> modules_; // first, so that the modules' code goes last
+    LeakReport leakReport_;
     HvmStorage storage_;
     MessageCatalog messages_;
     std::unique_ptr<TypeRepository> types_;

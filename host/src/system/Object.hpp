@@ -92,6 +92,19 @@ public:
     /// The native object for its own class, null when there is none.
     void const* ownNativeObject() const { return own_.native; }
 
+    /// Calls `visit(className, native)` for each native object that is recorded.
+    template <class Visit>
+    void forEachNativeObject(Visit const& visit) const
+    {
+        if (own_.native)
+            visit(own_.className, own_.native);
+        if (!further_)
+            return;
+        for (Slot const& slot : *further_)
+            if (slot.native)
+                visit(slot.className, slot.native);
+    }
+
 private:
     friend class ObjectList;
 

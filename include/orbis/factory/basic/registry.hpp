@@ -5,12 +5,15 @@
 
 #include <boost/unordered_map.hpp>
 
+#include <memory>
+#include <string>
+
 namespace orbis::factory::basic {
 
 /// The binding table of one host virtual machine: native address to an entry that the table owns. Whoever erases
 /// a mapping destroys its entry.
 struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
-    FooRegistry() = default;
+    FooRegistry();
     FooRegistry(FooRegistry const&) = delete;
     FooRegistry& operator=(FooRegistry const&) = delete;
     ~FooRegistry();
@@ -26,6 +29,9 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
 
     /// How many references handles hold on each host object.
     boost::unordered_map<COSInterface*, int> handleCounts;
+
+    /// The classes as which the addresses were bound last; only in a virtual machine that reports leaks.
+    std::unique_ptr<boost::unordered_map<void const*, std::string>> classNames;
 
 private:
     /// The mapping erased last, entry and all: objects that come and go one after the other take no memory.

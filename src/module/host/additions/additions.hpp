@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace orbis {
 class COSClass;
@@ -63,6 +64,23 @@ struct Enumerator {
 
 /// The enumerator that an object (null allowed) stands for, while its class is published; null for other objects.
 ORBIS_HOST_API Enumerator const* describeEnumerator(COSInterface const* object);
+
+/// A native object that a host object records for a class.
+struct RecordedObject {
+    COSInterface const* host;
+    char const* className;
+    void const* native; ///< not null
+};
+
+/// What the host objects of the current virtual machine record that have not ended.
+ORBIS_HOST_API std::vector<RecordedObject> recordedObjects();
+
+/// True when the current virtual machine reports, as it ends, what native code has left in it. Who keeps things in its
+/// storage then remembers what it takes to name them.
+ORBIS_HOST_API bool reportsLeaks();
+
+/// Reports one thing that is left, in a sentence; for the deleters of what the current virtual machine stores.
+ORBIS_HOST_API void reportLeak(char const* sentence) noexcept;
 
 /// A key and its text, in which {0}, {1}, ... stand for the arguments.
 struct Message {

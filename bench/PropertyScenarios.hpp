@@ -1,0 +1,136 @@
+#pragma once
+
+#include "bench/CallScenarios.hpp"
+
+#include "orbis/factory/impl/ClassGetter.hpp"
+#include "orbis/factory/impl/ClassSetter.hpp"
+#include "orbis/factory/impl/PropertyImpl.hpp"
+
+#include <cstddef>
+#include <stdexcept>
+
+namespace bench {
+
+class Gauge {
+public:
+    virtual ~Gauge() = default;
+    std::int32_t level() const;
+    void setLevel(std::int32_t level);
+
+private:
+    std::int32_t level_ = 1;
+};
+
+[[gnu::noinline]] inline std::int32_t Gauge::level() const
+{
+    return level_;
+}
+
+[[gnu::noinline]] inline void Gauge::setLevel(std::int32_t level)
+{
+    level_ = level;
+}
+
+inline constexpr char const* gaugeName = "bench_properties.Gauge";
+
+} // namespace bench
+
+template <>
+struct orbis::factory::HostClass<bench::Gauge> {
+    static constexpr char const* name = bench::gaugeName;
+};
+
+namespace bench {
+
+using orbis::COSInterface;
+using orbis::factory::impl::PropertyImplBase;
+
+class GaugeInfo final : public orbis::factory::HandleClassInfo<Gauge, 1> {
+public:
+    GaugeInfo() : HandleClassInfo(gaugeName, "") {}
+    void initializeClass(orbis::COSClass* cls) override
+    {
+        publish(cls,
+                orbis::factory::describe<Gauge>().constructor().property("level", &Gauge::level, &Gauge::setLevel));
+    }
+};
+
+/// What a careful author would write by hand, with the same host calls as the generated getter and setter.
+class HandWrittenLevel final : public PropertyImplBase {
+public:
+    HandWrittenLevel() : PropertyImplBase("level", "", {}) {}
+
+    orbis::COSDataTypePtr getDataType() const override { return "int32 scalar"; }
+    COSValue getValue(COSInterface* object) const override { return COSValue(nativeOf(object).level()); }
+    void setValue(COSInterface* object, COSValue value) const override
+    {
+        nativeOf(object).setLevel(value.scalar<std::int32_t>());
+    }
+    void releaseValue(COSInterface*, COSValue) const override {}
+    bool canContainInterfaces() const override { return false; }
+
+private:
+    static Gauge& nativeOf(COSInterface* object)
+    {
+        auto* const gauge = static_cast<Gauge*>(object->getNativeObject(COSNameID(gaugeName)));
+        if (!gauge)
+            throw std::runtime_error("no object");
+        return *gauge;
+    }
+};
+
+/// Reads and writes of a property, each a loop over `count` of them.
+class PropertyScenarios {
+public:
+    /// As the host does: it knows no more of a descriptor than its base class. What was read is given back.
+    [[gnu::noipa]] void read(orbis::COSPropInfo const& property, std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            property.releaseValue(host_, property.getValue(host_));
+    }
+
+    [[gnu::noipa]] void write(orbis::COSPropInfo const& property, std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            property.setValue(host_, COSValue(std::int32_t{7}));
+    }
+
+    void get(std::size_t count) { read(generated_, count); }
+    void handWrittenGet(std::size_t count) { read(handWritten_, count); }
+    void set(std::size_t count) { write(generated_, count); }
+    void handWrittenSet(std::size_t count) { write(handWritten_, count); }
+
+    void getByName(std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            fixture_.hvm.get(object_.get(), "level");
+    }
+
+    void setByName(std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            fixture_.hvm.set(object_.get(), "level", seven_.get());
+    }
+
+private:
+    using Getter = orbis::factory::impl::ClassGetter<std::int32_t, Gauge, decltype(&Gauge::level), std::int32_t>;
+    using Setter = orbis::factory::impl::ClassSetter<std::int32_t, Gauge, decltype(&Gauge::setLevel)>;
+
+    velmara::ArrayPtr publishAndConstruct()
+    {
+        orbis::factory::registerOrbisPackage("bench_properties",
+                                             [](orbis::COSPackage* package) { package->addClass(new GaugeInfo); });
+        return fixture_.hvm.construct(gaugeName);
+    }
+
+    Fixture fixture_;
+    velmara::ArrayPtr object_ = publishAndConstruct();
+    velmara::ArrayPtr seven_ = Fixture::number(7);
+    COSInterface* host_ = orbis::omGetArrayElement(object_.get(), 0);
+    Getter getter_{&Gauge::level};
+    Setter setter_{&Gauge::setLevel};
+    orbis::factory::impl::PropertyImpl generated_{"level", &getter_, &setter_, {}};
+    HandWrittenLevel handWritten_;
+};
+
+} // namespace bench

@@ -1,0 +1,110 @@
+#include "orbis/factory/check.hpp"
+
+#include "orbis/factory/basic/registry.hpp"
+
+#include "basic/addressText.hpp"
+#include "basic/sharingHosts.hpp"
+#include "full/forsakenObjects.hpp"
+
+#include "additions/additions.hpp"
+#include "libkwfoundation_usm/Detail.hpp"
+
+#include <algorithm>
+#include <vector>
+
+namespace orbis::factory {
+
+namespace {
+
+using additions::RecordedObject;
+
+/// What host objects record, in the order of their addresses.
+class HostView {
+public:
+    HostView() : records_(additions::recordedObjects())
+    {
+        std::ranges::sort(records_, std::less(), &RecordedObject::host);
+    }
+
+    std::vector<RecordedObject> const& records() const { return records_; }
+
+    /// What the object records; nothing for one that has ended or is invalid.
+    auto of(COSInterface const* host) const
+    {
+        return std::ranges::equal_range(records_, host, std::less<COSInterface const*>(), &RecordedObject::host);
+    }
+
+private:
+    std::vector<RecordedObject> records_;
+};
+
+std::string checkEntry(void const* object, basic::RegistryEntry const& entry, HostView const& hosts)
+{
+    std::string const bound = "the native object " + addressText(object);
+    if (entry.object != object)
+        return bound + " is bound under another address, " + addressText(entry.object);
+    if (entry.retracted)
+        return bound + " is bound though its host object was told of its end";
+    auto const records = hosts.of(entry.host);
+    if (records.empty())
+        return bound + " is bound to a host object that has ended, or is invalid: " + addressText(entry.host);
+    if (std::ranges::find(records, object, &RecordedObject::native) == records.end())
+        return bound + " is bound to a host object of " + records.front().className + " that stands for another, " +
+               addressText(records.front().native);
+    return {};
+}
+
+std::string checkBindings(HostView const& hosts)
+{
+    for (auto const& [object, entry] : basic::registry())
+        if (std::string found = checkEntry(object, *entry, hosts); !found.empty())
+            return found;
+    return {};
+}
+
+/// A native object is bound to one host object, or to none where the binding was released or there never was one.
+std::string checkRecords(HostView const& hosts)
+{
+    basic::FooRegistry const& table = basic::registry();
+    for (RecordedObject const& record : hosts.records()) {
+        auto const found = table.find(record.native);
+        if (found != table.end() && found->second->host != record.host)
+            return "a host object of " + std::string(record.className) + " stands for the native object " +
+                   addressText(record.native) + ", which is bound to another host object";
+    }
+    return {};
+}
+
+std::string checkShares(HostView const& hosts)
+{
+    for (COSInterface const* const host : detail::sharingHosts())
+        if (hosts.of(host).empty())
+            return "a host object that has ended, or is invalid, has a share in a native object: " + addressText(host);
+    return {};
+}
+
+std::string checkKept()
+{
+    void const* forsaken = full::findForsakenShareable();
+    if (!forsaken)
+        forsaken = full::findForsakenStdShareable();
+    return forsaken ? "the shared object " + addressText(forsaken) + " is kept for a host object, but has none"
+                    : std::string();
+}
+
+} // namespace
+
+std::string check()
+{
+    if (!foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())
+        return {};
+    HostView const hosts;
+    std::string found = checkBindings(hosts);
+    if (found.empty())
+        found = checkRecords(hosts);
+    if (found.empty())
+        found = checkShares(hosts);
+    return found.empty() ? checkKept() : found;
+}
+
+} // namespace orbis::factory

@@ -1,0 +1,168 @@
+#include "HvmTest.hpp"
+#include "library/Shared.hpp"
+
+#include "orbis/factory/check.hpp"
+
+#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/detail/hostShares.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <cstdio>
+#include <functional>
+
+using namespace orbis;
+using namespace orbis::factory;
+using basic::BindingRegistry;
+using velmara::ArrayPtr;
+
+namespace {
+
+/// From here on every test of this program ends with a look at its virtual machine.
+[[maybe_unused]] bool const isChecked = (HvmTest::check = &orbis::factory::check, true);
+
+struct Plain {
+    int value = 0;
+};
+
+class PlainInfo final : public HandleClassInfo<Plain, 0> {
+public:
+    PlainInfo() : HandleClassInfo("tests.Plain", "") {}
+    void initializeClass(COSClass*) override {}
+};
+
+void publishPlain()
+{
+    registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new PlainInfo); });
+}
+
+/// Two bound native objects with their host objects.
+struct Pair {
+    Plain first, second;
+    ArrayPtr firstArray{BindingRegistry::announce(&first, COSNameID("tests.Plain"))};
+    ArrayPtr secondArray{BindingRegistry::announce(&second, COSNameID("tests.Plain"))};
+
+    static COSInterface& hostOf(ArrayPtr const& array)
+    {
+        COSInterface* const host = omGetArrayElement(array.get(), 0);
+        return *host;
+    }
+    COSInterface& host() const { return hostOf(firstArray); }
+    basic::RegistryEntry& entry() { return *basic::registry().at(&first); }
+};
+
+class CheckTest : public HvmTest {
+protected:
+    CheckTest() { publishPlain(); }
+};
+
+TEST_F(CheckTest, TellsEachInconsistencyOnce)
+{
+    struct Case {
+        char const* expected; ///< part of the sentence
+        std::function<void(Pair&)> breakIt;
+        std::function<void(Pair&)> mend;
+    };
+    COSNameID const name("tests.Plain");
+    Plain stranger;
+    Case const cases[] = {
+        {"under another address", [&](Pair& pair) { pair.entry().object = &stranger; },
+         [](Pair& pair) { pair.entry().object = &pair.first; }},
+        {"was told of its end", [](Pair& pair) { pair.entry().retracted = true; },
+         [](Pair& pair) { pair.entry().retracted = false; }},
+        {"has ended, or is invalid", [](Pair& pair) { pair.host().setValid(false); },
+         [](Pair& pair) { BindingRegistry::release(&pair.first); }},
+        {"to a host object of tests.Plain that stands for another",
+         [&](Pair& pair) { pair.host().setNativeObject(name, &stranger); },
+         [&](Pair& pair) { pair.host().setNativeObject(name, &pair.first); }},
+        {"which is bound to another host object",
+         [&](Pair& pair) {
+             BindingRegistry::release(&pair.first);
+             pair.host().setNativeObject(name, &pair.second);
+         },
+         [&](Pair& pair) { pair.host().setNativeObject(name, &pair.first); }},
+        {"has a share in a native object",
+         [](Pair& pair) {
+             detail::shareWithHost(pair.firstArray.get(), std::make_shared<int>(1));
+             BindingRegistry::release(&pair.first);
+             pair.host().setValid(false);
+         },
+         [](Pair& pair) { detail::dropShare(&pair.host()); }},
+    };
+    for (Case const& broken : cases) {
+        Pair pair;
+        EXPECT_EQ(orbis::factory::check(), "");
+        broken.breakIt(pair);
+        EXPECT_NE(orbis::factory::check().find(broken.expected), std::string::npos)
+            << broken.expected << ": " << orbis::factory::check();
+        broken.mend(pair);
+        EXPECT_EQ(orbis::factory::check(), "") << broken.expected;
+    }
+}
+
+TEST_F(CheckTest, ReleasedBindingsAndValuesAreInOrder)
+{
+    Pair pair;
+    BindingRegistry::release(&pair.first);
+    EXPECT_EQ(orbis::factory::check(), "");
+    BindingRegistry::retract(&pair.second);
+    EXPECT_EQ(orbis::factory::check(), "");
+}
+
+template <class Kind>
+void checkForsaken()
+{
+    auto const shared = typename Shared<Kind>::Pointer(new Shared<Kind>);
+    full::acquireReference(shared);
+    EXPECT_EQ(orbis::factory::check(), "") << "who acquired it also releases it";
+    shared->type = full::SharingType::HostKept;
+    EXPECT_NE(orbis::factory::check().find("is kept for a host object, but has none"), std::string::npos);
+    full::releaseReference(shared);
+    EXPECT_EQ(orbis::factory::check(), "");
+}
+
+TEST_F(CheckTest, ObjectsKeptForNobodyAreFound)
+{
+    checkForsaken<Boost>();
+    checkForsaken<Std>();
+}
+
+TEST(Check, WithoutAVirtualMachineAllIsWell)
+{
+    EXPECT_EQ(orbis::factory::check(), "");
+}
+
+TEST(LeakReport, NamesWhatIsStillBoundAtTheEndWhereAskedFor)
+{
+    for (bool const isAskedFor : {true, false}) {
+        std::vector<std::string> leaks;
+        Plain left, ended, released;
+        {
+            velmara::Hvm hvm;
+            if (isAskedFor)
+                hvm.reportLeaks([&](std::string const& leak) {
+                    leaks.push_back(leak);
+                    throw 1; // is lost
+                });
+            velmara::Hvm::Scope const scope(hvm);
+            publishPlain();
+            COSNameID const name("tests.Plain");
+            ArrayPtr const array(BindingRegistry::announce(&left, name));
+            ArrayPtr const other(BindingRegistry::announce(&ended, name));
+            ArrayPtr const third(BindingRegistry::announce(&released, name));
+            BindingRegistry::release(&released);
+            Pair::hostOf(array).setValid(false); // behind the registry's back
+        }
+        char address[32];
+        std::snprintf(address, sizeof address, "0x%llx",
+                      static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(&left)));
+        std::vector<std::string> const expected{"the native object " + std::string(address) +
+                                                " is still bound as tests.Plain"};
+        EXPECT_EQ(leaks, isAskedFor ? expected : std::vector<std::string>());
+    }
+    EXPECT_EQ(velmara::liveCounts(), velmara::LiveCounts{});
+}
+
+} // namespace

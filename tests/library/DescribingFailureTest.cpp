@@ -1,0 +1,203 @@
+#include "HvmTest.hpp"
+#include "library/FailingAllocation.hpp"
+
+#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/describe.hpp"
+#include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
+
+#include "libkwfl/IMsgIDException.hpp"
+#include "orbis/COSClass.hpp"
+#include "orbis/COSMethodInfo.hpp"
+#include "orbis/COSPropInfo.hpp"
+
+#include <set>
+#include <stdexcept>
+
+using namespace orbis;
+using namespace orbis::factory;
+
+namespace {
+
+struct Base {
+    virtual ~Base() = default;
+    int weight = 1;
+};
+
+struct Derived : Base {
+    explicit Derived(int) {}
+    int doubled() const { return 2 * weight; }
+    std::string const& name() const { return name_; }
+    void setName(std::string name) { name_ = std::move(name); }
+    static int sum(int a, int b) { return a + b; }
+
+private:
+    std::string name_;
+};
+
+} // namespace
+
+template <>
+struct orbis::factory::HostClass<Base> {
+    static constexpr char const* name = "tests.Base";
+    using Root = Base;
+};
+template <>
+struct orbis::factory::HostClass<Derived> {
+    static constexpr char const* name = "tests.Derived";
+    using Root = Base;
+};
+
+namespace {
+
+struct BaseInfo final : HandleClassInfo<Base, 1> {
+    BaseInfo() : HandleClassInfo("tests.Base", "") {}
+    void initializeClass(COSClass* cls) override
+    {
+        publish(cls, describe<Base>().constructor().property("weight", &Base::weight));
+    }
+};
+
+ClassDescription describeDerived()
+{
+    return describe<Derived>()
+        .inherits<Base>()
+        .constructor<int>("weight")
+        .method("doubled", &Derived::doubled)
+        .staticMethod("sum", &Derived::sum, "a, b")
+        .property("name", &Derived::name, &Derived::setName)
+        .property("own", &Derived::weight)
+        .writeOnlyProperty("renamed", &Derived::setName);
+}
+
+struct DerivedInfo final : HandleClassInfo<Derived, 1> {
+    DerivedInfo() : HandleClassInfo("tests.Derived", "") {}
+    void initializeClass(COSClass* cls) override { publish(cls, describeDerived()); }
+};
+
+constexpr char const* members[] = {"tests.Derived.Derived", "tests.Derived.doubled", "tests.Derived.sum",
+                                   "tests.Derived.name",    "tests.Derived.own",     "tests.Derived.renamed"};
+
+/// Publishes the classes in the current virtual machine; nothing is described yet.
+void publishClasses(velmara::Hvm& hvm)
+{
+    registerOrbisPackage("tests", [](COSPackage* package) {
+        package->addClass(new BaseInfo);
+        package->addClass(new DerivedInfo);
+    });
+    hvm.lookUp("tests.Derived");
+    constexpr additions::Message text{"member_not_published", "{0} cannot be published: {1}"};
+    additions::addMessages("orbis_factory:orbis_factory", {&text, 1});
+}
+
+/// What describing says when its n-th allocation fails; empty when it has fewer. Asked again, it succeeds.
+std::string describeWithout(std::size_t n)
+{
+    velmara::Hvm hvm;
+    velmara::Hvm::Scope const scope(hvm);
+    publishClasses(hvm);
+    std::string text;
+    {
+        FailingAllocation const armed(n);
+        try {
+            hvm.describeClass("tests.Derived");
+        } catch (velmara::Error const& error) {
+            text = error.what();
+        }
+        if (text.empty() && FailingAllocation::hasFailed())
+            text = "went on without it";
+    }
+    velmara::ClassRecord const record = hvm.describeClass("tests.Derived");
+    EXPECT_EQ(record.methods.size(), 3u);
+    EXPECT_EQ(record.properties.size(), 4u);
+    EXPECT_EQ(record.superclasses, std::vector<std::string>{"tests.Base"});
+    return text;
+}
+
+TEST(DescribingFailure, WhicheverAllocationFailsTheNextRequestSucceeds)
+{
+    describeWithout(100000); // names are interned once in a process
+    std::set<std::string> named;
+    std::size_t n = 0;
+    for (std::string text; !(text = describeWithout(n)).empty(); ++n) {
+        ASSERT_EQ(velmara::liveCounts(), velmara::LiveCounts{}) << text;
+        if (text.starts_with("VELMARA:class:initialization")) {
+            EXPECT_NE(text.find("tests.Derived"), std::string::npos) << text;
+        }
+        for (char const* const member : members)
+            if (text.find(std::string(member) + " cannot be published") != std::string::npos)
+                named.insert(member);
+    }
+#if defined(__linux__)
+    EXPECT_EQ(named.size(), std::size(members));
+    EXPECT_GT(n, 50u);
+#endif
+}
+
+class DescribingFailureTest : public HvmTest {
+protected:
+    DescribingFailureTest() { publishClasses(hvm()); }
+};
+
+/// A host that refuses the n-th thing it is given.
+class RefusingClass final : public COSClass {
+public:
+    explicit RefusingClass(int accepted) : left_(accepted) {}
+    virtual ~RefusingClass() = default;
+
+    char const* getName() const override { return "Derived"; }
+    void addMethod(COSMethodInfo* method) override { take(std::unique_ptr<COSMethodInfo>(method)); }
+    void addProperty(COSPropInfo* property) override { take(std::unique_ptr<COSPropInfo>(property)); }
+    COSInterfacePtr newInstance() override { return {}; }
+    void initializeInstance(COSInterfacePtr) override {}
+
+private:
+    template <class Descriptor>
+    void take(std::unique_ptr<Descriptor>)
+    {
+        if (left_-- == 0)
+            throw std::runtime_error("refused");
+    }
+
+    int left_;
+};
+
+TEST_F(DescribingFailureTest, TheNthMemberIsNamed)
+{
+    ClassDescription const description = describe<Derived>()
+                                             .constructor<int>("weight")
+                                             .method("doubled", &Derived::doubled)
+                                             .staticMethod("sum", &Derived::sum, "a, b")
+                                             .property("name", &Derived::name, &Derived::setName)
+                                             .property("own", &Derived::weight)
+                                             .writeOnlyProperty("renamed", &Derived::setName);
+    RefusingClass taking(-1); // the first description registers data types
+    publish(&taking, description);
+    velmara::LiveCounts const before = velmara::liveCounts();
+    for (int n = 0; n < 6; ++n) {
+        RefusingClass cls(n);
+        try {
+            publish(&cls, description);
+            ADD_FAILURE() << members[n];
+        } catch (foundation::core::except::IMsgIDException const& error) {
+            EXPECT_EQ(error.getErrorID(), "orbis_factory:orbis_factory:member_not_published");
+            EXPECT_EQ(error.getArguments(), (std::vector<std::string>{members[n], "refused"}));
+        }
+        EXPECT_EQ(velmara::liveCounts(), before) << members[n];
+    }
+}
+
+TEST_F(DescribingFailureTest, PackageFunctionsAreNamedToo)
+{
+    registerOrbisPackage("twice", [](COSPackage* package) {
+        publish(package, describeFunctions().function("sum", &Derived::sum).function("sum", &Derived::sum));
+    });
+    try {
+        hvm().describePackage("twice");
+        ADD_FAILURE();
+    } catch (velmara::Error const& error) {
+        EXPECT_NE(std::string(error.what()).find("sum cannot be published"), std::string::npos) << error.what();
+    }
+}
+
+} // namespace

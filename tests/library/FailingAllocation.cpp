@@ -1,0 +1,49 @@
+#include "library/FailingAllocation.hpp"
+
+#include <cstdlib>
+#include <limits>
+#include <new>
+
+namespace {
+
+constexpr std::size_t never = std::numeric_limits<std::size_t>::max();
+thread_local std::size_t left = never;
+
+} // namespace
+
+FailingAllocation::FailingAllocation(std::size_t n)
+{
+    left = n;
+}
+
+FailingAllocation::~FailingAllocation()
+{
+    left = never;
+}
+
+bool FailingAllocation::hasFailed()
+{
+    return left == never;
+}
+
+// On Linux these serve the shared libraries, too; on Windows only the test program.
+void* operator new(std::size_t size)
+{
+    bool const fails = left == 0;
+    if (left != never)
+        left = fails ? never : left - 1;
+    void* const storage = fails ? nullptr : std::malloc(size == 0 ? 1 : size);
+    if (!storage)
+        throw std::bad_alloc();
+    return storage;
+}
+
+void operator delete(void* storage) noexcept
+{
+    std::free(storage);
+}
+
+void operator delete(void* storage, std::size_t) noexcept
+{
+    std::free(storage);
+}
