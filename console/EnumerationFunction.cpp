@@ -29,7 +29,7 @@ EnumeratorRecord enumerator(lua_State* L, lua_Integer next)
     lua_rawgeti(L, -2, 2);
     if (lua_type(L, -2) != LUA_TSTRING || !lua_isinteger(L, -1))
         failElement(L, -3);
-    EnumeratorRecord const made{std::string(textAt(L, -2)), lua_tointeger(L, -1)};
+    EnumeratorRecord made{std::string(textAt(L, -2)), lua_tointeger(L, -1)};
     lua_pop(L, 2);
     return made;
 }

@@ -24,7 +24,8 @@ std::optional<T> exactly(std::integral auto number)
         auto magnitude = static_cast<std::uint64_t>(number);
         if (std::cmp_less(number, 0))
             magnitude = 0 - magnitude;
-        int const digits = magnitude == 0 ? 0 : std::bit_width(magnitude >> std::countr_zero(magnitude));
+        auto const digits =
+            magnitude == 0 ? 0 : static_cast<int>(std::bit_width(magnitude >> std::countr_zero(magnitude)));
         return digits <= std::numeric_limits<T>::digits ? std::optional(static_cast<T>(number)) : std::nullopt;
     }
 }
