@@ -19,7 +19,7 @@ void C1::hang(hvArrayReferenceCountedProxy const& left, hvArrayReferenceCountedP
     right_ = right;
 }
 
-std::string C1::label(hvConstArrayProxy array)
+std::string C1::label(hvConstArrayProxy const& array)
 {
     if (!array())
         return "nothing";
@@ -28,7 +28,7 @@ std::string C1::label(hvConstArrayProxy array)
     return std::to_string(sizes[0]) + "-by-" + std::to_string(sizes[1]) + (isObject ? ", an object" : "");
 }
 
-hvArrayProxy C1::tailor(hvArrayProxy array)
+hvArrayProxy C1::tailor(hvArrayProxy const& array)
 {
     return array() ? hvCreateDeepCopy(array()) : nullptr;
 }

@@ -25,10 +25,10 @@ public:
     bool isOneArray() const { return left_ == right_; }
 
     /// Looks at an array: its sizes, and whether it holds exactly one object.
-    static std::string label(hvConstArrayProxy array);
+    static std::string label(hvConstArrayProxy const& array);
 
     /// A new array: a copy, with all arrays in it copied, too.
-    static hvArrayProxy tailor(hvArrayProxy array);
+    static hvArrayProxy tailor(hvArrayProxy const& array);
 
 private:
     hvArrayReferenceCountedProxy left_;

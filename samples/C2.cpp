@@ -33,6 +33,7 @@ std::vector<double> C2::sums() const
 std::vector<bool> C2::wetterThan(double millimetres) const
 {
     std::vector<bool> wetter;
+    wetter.reserve(days_.size());
     for (double const day : days_)
         wetter.push_back(day > millimetres);
     return wetter;
@@ -41,6 +42,7 @@ std::vector<bool> C2::wetterThan(double millimetres) const
 std::vector<float> C2::pick(std::vector<std::int32_t> const& numbers) const
 {
     std::vector<float> picked;
+    picked.reserve(numbers.size());
     for (std::int32_t const number : numbers) {
         if (number < 1 || static_cast<std::size_t>(number) > days_.size())
             throw Exception("There is no day " + std::to_string(number) + ".");

@@ -24,7 +24,8 @@ double secondsOf(std::string const& text)
 
 Ctor::Ctor(double seconds) : seconds_(seconds)
 {
-    if (!(seconds >= 0 && seconds <= 24 * 3600))
+    bool const isPartOfDay = seconds >= 0 && seconds <= 24 * 3600;
+    if (!isPartOfDay)
         throw Exception("A span has between 0 and 24 hours.");
 }
 

@@ -18,7 +18,8 @@ N3* N3::office()
 
 void N3::send(std::string const& recipient, double kilograms)
 {
-    if (!(kilograms > 0 && kilograms <= 20))
+    bool const canBeCarried = kilograms > 0 && kilograms <= 20;
+    if (!canBeCarried)
         throw Exception("The parcel for " + recipient + " is refused: it weighs more than 0 and up to 20 kilograms.");
     if (sent_ < 1'000'000)
         ++sent_;

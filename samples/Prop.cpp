@@ -78,7 +78,8 @@ std::string attributesOf(std::string const& property)
 
 void Prop::setTarget(double celsius)
 {
-    if (!(celsius >= 5 && celsius <= 35))
+    bool const isBearable = celsius >= 5 && celsius <= 35;
+    if (!isBearable)
         throw Exception("The target is between 5 and 35 degrees.");
     target_ = celsius;
 }

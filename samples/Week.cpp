@@ -23,7 +23,8 @@ Weekday weekday(std::size_t index)
 
 double partOfDay(double hours)
 {
-    if (!(hours >= 0 && hours <= 24))
+    bool const isPartOfDay = hours >= 0 && hours <= 24;
+    if (!isPartOfDay)
         throw Exception("A day has between 0 and 24 hours.");
     return hours;
 }

@@ -24,7 +24,8 @@ public:
 
     ObjectHandle& operator=(ObjectHandle const& other)
     {
-        reset(other.object_);
+        if (this != &other)
+            reset(other.object_);
         return *this;
     }
 

@@ -34,7 +34,7 @@ struct DefaultedCall {
     auto complete(F function) const
     {
         return [this, function](auto&&... given) -> decltype(auto) {
-            return call(function, static_cast<decltype(given)>(given)...);
+            return this->call(function, static_cast<decltype(given)>(given)...);
         };
     }
 
