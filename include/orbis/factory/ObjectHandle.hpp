@@ -29,7 +29,14 @@ public:
         return *this;
     }
 
-    ~ObjectHandle() { giveBack(); }
+    /// Without memory to look the host object up, that keeps its reference until the virtual machine ends.
+    ~ObjectHandle()
+    {
+        try {
+            giveBack();
+        } catch (...) {
+        }
+    }
 
     /// Refers to `object` (null allowed) from now on. When its host object cannot be made the handle becomes empty, and
     /// the host's error passes through.

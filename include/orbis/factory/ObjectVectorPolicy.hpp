@@ -104,6 +104,7 @@ struct ReferredByElements {
     static Enumeration<COSInterface*> of(Vector const& values)
     {
         std::vector<void const*> addresses;
+        addresses.reserve(values.size());
         for (auto const& value : values)
             addresses.push_back(boundAddressOf(value));
         return InterfaceListEnumeration::ofBound(addresses);
