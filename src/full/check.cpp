@@ -31,7 +31,7 @@ public:
     /// What the object records; nothing for one that has ended or is invalid.
     auto of(COSInterface const* host) const
     {
-        return std::ranges::equal_range(records_, host, std::less<COSInterface const*>(), &RecordedObject::host);
+        return std::ranges::equal_range(records_, host, std::less(), &RecordedObject::host);
     }
 
 private:

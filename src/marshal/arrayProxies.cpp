@@ -75,6 +75,7 @@ hvArrayReferenceCountedProxy::hvArrayReferenceCountedProxy(hvArrayReferenceCount
 {
 }
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): a proxy of the same array, which the same proxy is, too
 hvArrayReferenceCountedProxy& hvArrayReferenceCountedProxy::operator=(hvArrayReferenceCountedProxy const& other)
 {
     if (array_ == other.array_)

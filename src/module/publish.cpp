@@ -91,6 +91,7 @@ std::unique_ptr<OwnedProperty> makeProperty(PropertyRecord const& record)
 void setSuperclasses(COSClass* cls, std::vector<NativeClassRecord> const& superclasses)
 {
     std::vector<COSNameID> names;
+    names.reserve(superclasses.size());
     for (NativeClassRecord const& superclass : superclasses)
         names.emplace_back(superclass.hostName);
     if (!names.empty())
