@@ -6,8 +6,7 @@ end
 local function show(...)
   local a = array(...)
   local rows, columns = size(a)
-  print(class(a), rows, columns, #a)
-  print(a)
+  print(class(a), rows, columns, #a, a)
 end
 
 show("double")
@@ -90,31 +89,17 @@ for class, values in pairs({int8 = {-129, 128}, uint8 = {-1, 256, 0.5, 0 / 0, "1
     if ok or err.identifier ~= "VELMARA:console:element" then print(class, value, ok, err) end
   end
 end
-refused(array)
-refused(array, "in8", 1)
-refused(array, "orbis_factory", 1)
-refused(array, "int8", {1, 300})
-refused(array, "int8", {{1, 2}, {3, "x"}})
-refused(array, "int8", {{1, 2}, {3}})
-refused(array, "int8", {1, 2, x = 3})
-refused(array, "char", {"ab", "c"})
-refused(array, "char", "ab", 2, 3)
-refused(array, "string", array("char", {"ab", "cd"}))
-refused(array, "char", array("string", missing))
-refused(array, "cell", {print})
-refused(array, cases.Probe, orbis_factory.Adder())
-refused(array, "double", 0, -1, 2)
-refused(array, "double", 0, 1.5, 2)
-refused(array, "double", 0, 2)
-refused(array, "double", {1, 2, 3}, 2, 2)
-refused(array, "double", {1, 2, 3}, 0, 0)
-refused(function() a[7] = 1 end)
-refused(function() a[{3, 1}] = 1 end)
-refused(function() a[1] = 128 end)
-refused(function() a.x = 1 end)
-refused(function() return a.x end)
-refused(function() return a[{1}] end)
-refused(function() return a[1.5] end)
+for _, inputs in ipairs {{}, {"in8", 1}, {"orbis_factory", 1}, {"int8", {1, 300}}, {"int8", {{1, 2}, {3, "x"}}},
+  {"int8", {{1, 2}, {3}}}, {"int8", {1, 2, x = 3}}, {"char", {"ab", "c"}}, {"char", "ab", 2, 3},
+  {"string", array("char", {"ab", "cd"})}, {"char", array("string", missing)}, {"cell", {print}},
+  {cases.Probe, orbis_factory.Adder()}, {"double", 0, -1, 2}, {"double", 0, 1.5, 2}, {"double", 0, 2},
+  {"double", {1, 2, 3}, 2, 2}, {"double", {1, 2, 3}, 0, 0}} do
+  refused(array, table.unpack(inputs))
+end
+local function put(key, value) a[key] = value end
+local function at(key) return a[key] end
+for _, entry in ipairs {{7, 1}, {{3, 1}, 1}, {1, 128}, {"x", 1}} do refused(put, table.unpack(entry)) end
+for _, key in ipairs {"x", {1}, 1.5} do refused(at, key) end
 refused(function() s[1] = 5 end)
 refused(asarray, print)
 refused(asarray, p, "nothing")

@@ -24,23 +24,16 @@ print(table.concat(names, " "))
 for _, value in ipairs {"Purple", "red", "", 7, 1.5, true, null, {}, {"Red", "Red"}, cases.Probe()} do
   refused(cases.hue, value)
 end
-refused(cases.hues, {"Red", "Purple"})
-refused(cases.hues, {red, null})
-refused(index, Color, "Gren")
-refused(index, red, "Green")
-refused(assign, Color, "Red", 1)
-refused(Color)
-refused(delete, red)
-refused(delete, {red, Color.Blue})
+for _, call in ipairs {{cases.hues, {"Red", "Purple"}}, {cases.hues, {red, null}}, {index, Color, "Gren"},
+  {index, red, "Green"}, {assign, Color, "Red", 1}, {Color}, {delete, red}, {delete, {red, Color.Blue}}} do
+  refused(table.unpack(call))
+end
 print(isvalid(red))
-refused(enumeration, "palette.Color", {"A"})
-refused(enumeration, "palette.Empty", {})
-refused(enumeration, "palette.Twice", {"A", "A"})
-refused(enumeration, "palette.Wrong", {"A", {"B"}})
-refused(enumeration, "palette.Wrong", {1})
-refused(enumeration, "palette.Wrong", {{"A", math.maxinteger}, "B"})
-refused(enumeration, "palette..Wrong", {"A"})
-refused(enumeration, 5)
+for _, inputs in ipairs {{"palette.Color", {"A"}}, {"palette.Empty", {}}, {"palette.Twice", {"A", "A"}},
+  {"palette.Wrong", {"A", {"B"}}}, {"palette.Wrong", {1}}, {"palette.Wrong", {{"A", math.maxinteger}, "B"}},
+  {"palette..Wrong", {"A"}}, {5}} do
+  refused(enumeration, table.unpack(inputs))
+end
 print(palette.Color.Blue, pcall(index, palette, "Empty"))
 print(enumeration("Wide", {{"Low", math.mininteger}, {"High", math.maxinteger}}).High)
 withvm(function()

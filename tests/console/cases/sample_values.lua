@@ -4,6 +4,14 @@ local function refused(f, ...)
   local ok, message = pcall(f, ...)
   print(ok and "not refused" or tostring(message):gsub("VELMARA:native:exception: Native code failed: ", "native: "))
 end
+--- All of them are refused with the text; in that, %s is the value.
+local function allRefused(text, f, ...)
+  for _, value in ipairs {...} do
+    local ok, err = pcall(f, value)
+    local message = tostring(ok or err)
+    if message ~= text:format(value) then print(value, message) end
+  end
+end
 local function assign(object, name, value) object[name] = value end
 local function list(...)
   local texts = {}
@@ -12,11 +20,14 @@ local function list(...)
 end
 local nan, huge = 0 / 0, math.huge
 
--- help: packages of every form, classes that no package has
-for _, topic in ipairs {of, of.P1, of.P1.P2, of.P3, of.NP1, of.NP1.NP2, CppClass, of.Weekday, of.MFVT, of.Prop} do
-  help(topic)
+-- packages of every form, an enumeration; help on classes
+for _, topic in ipairs {of, of.P1, of.P1.P2, of.P3, of.NP1, of.NP1.NP2, of.Weekday} do
+  local names = {}
+  for name in pairs(topic) do names[#names + 1] = name end
+  table.sort(names)
+  list(topic, table.unpack(names))
 end
-help(of.Ctor)
+for _, topic in ipairs {of.P1, of.NP1, of.MFVT, of.Prop} do help(topic) end
 help("orbis_factory.MFDT.pay")
 refused(help, "orbis_factory.MFDT.seize")
 
@@ -36,7 +47,9 @@ refused(of.MFVT().move, of.MFVT(), null)
 list(of.MFVT(huge, 0):halfwayTo(of.MFVT(-huge, 0)).east ~= nil)
 
 -- constructors and signatures
-for _, text in ipairs {"", "1", "1:", "1:2:3", " 1:2", "a:b", "99:00", "-1:00"} do refused(of.Ctor, text) end
+local native = "VELMARA:native:exception: Native code failed: "
+allRefused(native .. '"%s" is no time: write hours:minutes.', of.Ctor, "", "1", "1:", "1:2:3", " 1:2", "a:b", "-1:00")
+refused(of.Ctor, "99:00")
 refused(of.Ctor, 2147483647, 2147483647, 2147483647)
 refused(of.Ctor, nan)
 print(of.Ctor("23:59").text, of.Ctor(24, 0).text, of.Ctor(0.5).text)
@@ -49,9 +62,11 @@ print(shop:total(huge), shop:total(-huge), shop.takings ~= shop.takings, #shop.n
 -- accounts: bounds at both ends
 refused(of.MFDT.open, 0)
 refused(of.MFDT.open, 1001)
-for _, made in ipairs {of.MFDT, of.BasicTypes, of.VectorStringIO, of.P1.C1, of.P1.P2.C2, of.P3.C3, of.NP1.N2,
-  of.NP1.NP2.N1, of.NP1.NP2.N3} do
-  refused(made)
+refused(of.MFDT)
+for _, made in ipairs {of.BasicTypes, of.VectorStringIO, of.P1.C1, of.P1.P2.C2, of.P3.C3, of.NP1.N2, of.NP1.NP2.N1,
+  of.NP1.NP2.N3} do
+  local ok, err = pcall(made)
+  if ok or err.identifier ~= "VELMARA:class:access" then print(made, ok, err) end
 end
 local account = of.MFDT.open(1000)
 account:pay(2147483647)
@@ -130,10 +145,11 @@ refused(kitchen.brew, kitchen)
 refused(kitchen.brew, kitchen, "Assam", "long")
 refused(assign, kitchen, "lastMinutes", "long")
 local calendar = of.NP1.NP2.N1.calendar()
-for _, date in ipairs {"2024-2-29", "2100-02-29", "0000-01-01", "10000-01-01", "2024-13-01", "2024-01-01\0", "+024-01-01",
-  "", 5} do
-  refused(assign, calendar, "today", date)
-end
+local function setToday(date) calendar.today = date end
+allRefused(native .. '"%s" is no date: write one as 2024-02-29.', setToday, "2024-2-29", "2100-02-29", "0000-01-01",
+  "10000-01-01", "2024-13-01", "+024-01-01", "")
+refused(setToday, "2024-01-01\0")
+refused(setToday, 5)
 calendar.today = "0001-01-01"
 refused(calendar.after, calendar, -1)
 refused(calendar.after, calendar, 2147483647)

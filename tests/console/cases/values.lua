@@ -9,37 +9,15 @@ local function text(value)
   return "{" .. table.concat(parts, ", ") .. "}"
 end
 
-local function show(value)
+for _, value in ipairs {1, 1.5, -0.0, 1 << 53, (1 << 53) + 1, math.mininteger, 0 / 0 ~= 0 / 0, math.huge, "", "a\0b",
+  "gr\u{fc}n \u{1f600}", {}, {1, 2.5, 3}, {1}, {(1 << 53) + 1, 2}, {true, false}, {{1, 2, 3}, {4, 5, 6}}, {{1}, {2}},
+  {{true}, {false}}, {{1, 2}, {3}}, {"a", "bc"}, {1, "a", true, {2, {3}}, null}, {{}, {}}} do
   local back = cases.echo(value)
   print(class(value), type(back), text(back))
 end
-
-show(1)
-show(1.5)
-show(-0.0)
-show(1 << 53)
-show((1 << 53) + 1)
-show(math.mininteger)
-show(0 / 0 ~= 0 / 0)
-show(math.huge)
 print(cases.echo(0 / 0) ~= cases.echo(0 / 0))
-show("")
-show("a\0b")
-show("gr\u{fc}n \u{1f600}")
 print(cases.echo("\xff\xc3(\xe2\x82") == "\u{fffd}\u{fffd}(\u{fffd}")
 print(text(cases.echo(nil)), text(cases.echo(null)))
-show({})
-show({1, 2.5, 3})
-show({1})
-show({(1 << 53) + 1, 2})
-show({true, false})
-show({{1, 2, 3}, {4, 5, 6}})
-show({{1}, {2}})
-show({{true}, {false}})
-show({{1, 2}, {3}})
-show({"a", "bc"})
-show({1, "a", true, {2, {3}}, null})
-show({{}, {}})
 local p, q = cases.Probe(), cases.Probe()
 local back = cases.echo({p, q})
 print(class({p, q}), back[1] == p, back[2] == q, class({p, 1}), class({p, null}))
