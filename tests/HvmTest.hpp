@@ -8,8 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 /// Owns one virtual machine, current on the test's thread. After every test nothing of the host may be alive.
 class HvmTest : public ::testing::Test {
@@ -48,6 +52,18 @@ protected:
         return array;
     }
 
+    /// NumericInputs as inputs of a call.
+    struct NumericInputs {
+        NumericInputs(std::initializer_list<double> numbers)
+        {
+            for (double const value : numbers)
+                arrays.push_back(owners.emplace_back(number(value)).get());
+        }
+
+        std::vector<velmara::ArrayPtr> owners;
+        std::vector<hvArray*> arrays;
+    };
+
     /// The element of a 1-by-1 array of the native type's class.
     template <class T>
     static T scalar(velmara::ArrayPtr const& array)
@@ -56,14 +72,36 @@ protected:
         return *static_cast<T const*>(orbis::additions::getData(array.get()));
     }
 
+    /// The inputs of a call.
+    template <class... A>
+    static std::array<hvArray*, sizeof...(A)> inputs(A const&... arrays)
+    {
+        return {arrays.get()...};
+    }
+
     /// The identifier of the error that `action` ends with; empty when it succeeds.
     template <class F>
     static std::string errorOf(F&& action)
     {
+        return caught(action, &velmara::Error::identifier);
+    }
+
+    /// `action` ends with an error whose message, identifier and text, has all the parts.
+    template <class F>
+    static void expectMessage(F&& action, std::vector<std::string> const& parts)
+    {
+        std::string const message = caught(action, &velmara::Error::what);
+        for (std::string const& part : parts)
+            EXPECT_NE(message.find(part), std::string::npos) << part << " in: " << message;
+    }
+
+    template <class F, class Answer>
+    static std::string caught(F&& action, Answer answer)
+    {
         try {
             action();
         } catch (velmara::Error const& error) {
-            return error.identifier();
+            return std::invoke(answer, error);
         }
         return {};
     }

@@ -1,13 +1,8 @@
 // expect: A getter is a data member, a member function without parameters, static data, or a free
-#include "orbis/factory/describe.hpp"
+#include "Published.hpp"
 
 struct Published {
     int value = 0;
-};
-
-template <>
-struct orbis::factory::HostClass<Published> {
-    static constexpr char const* name = "tests.Published";
 };
 
 #ifdef CONTROL

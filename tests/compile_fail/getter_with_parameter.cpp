@@ -1,5 +1,5 @@
 // expect: A getter is a data member, a member function without parameters, static data, or a free
-#include "orbis/factory/describe.hpp"
+#include "Published.hpp"
 
 struct Published {
 #ifdef CONTROL
@@ -7,11 +7,6 @@ struct Published {
 #else
     int value(int) const { return 0; }
 #endif
-};
-
-template <>
-struct orbis::factory::HostClass<Published> {
-    static constexpr char const* name = "tests.Published";
 };
 
 auto const described = orbis::factory::describe<Published>().property("value", &Published::value);

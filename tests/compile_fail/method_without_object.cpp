@@ -1,12 +1,7 @@
 // expect: A free function published as a method takes a pointer to the class first
-#include "orbis/factory/describe.hpp"
+#include "Published.hpp"
 
 struct Published {};
-
-template <>
-struct orbis::factory::HostClass<Published> {
-    static constexpr char const* name = "tests.Published";
-};
 
 #ifdef CONTROL
 int size(Published const*)

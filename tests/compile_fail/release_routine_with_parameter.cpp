@@ -1,5 +1,5 @@
 // expect: A release routine is a member function without parameters, or a free function
-#include "orbis/factory/describe.hpp"
+#include "Published.hpp"
 
 struct Published {
     int lock() { return 0; }
@@ -8,11 +8,6 @@ struct Published {
 #else
     void unlock(int) {}
 #endif
-};
-
-template <>
-struct orbis::factory::HostClass<Published> {
-    static constexpr char const* name = "tests.Published";
 };
 
 auto const described = orbis::factory::describe<Published>().property(

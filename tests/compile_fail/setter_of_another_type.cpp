@@ -1,5 +1,5 @@
 // expect: The setter takes another type than the getter gives: make the two types one.
-#include "orbis/factory/describe.hpp"
+#include "Published.hpp"
 
 struct Published {
     int value() const { return 0; }
@@ -8,11 +8,6 @@ struct Published {
 #else
     void setValue(double) {}
 #endif
-};
-
-template <>
-struct orbis::factory::HostClass<Published> {
-    static constexpr char const* name = "tests.Published";
 };
 
 auto const described = orbis::factory::describe<Published>().property("value", &Published::value, &Published::setValue);

@@ -1,5 +1,5 @@
 // expect: A setter is a data member that is not const, a member function that takes one value
-#include "orbis/factory/describe.hpp"
+#include "Published.hpp"
 
 struct Published {
 #ifdef CONTROL
@@ -7,11 +7,6 @@ struct Published {
 #else
     int const value = 0;
 #endif
-};
-
-template <>
-struct orbis::factory::HostClass<Published> {
-    static constexpr char const* name = "tests.Published";
 };
 
 auto const described = orbis::factory::describe<Published>().writeOnlyProperty("value", &Published::value);

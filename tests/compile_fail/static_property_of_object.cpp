@@ -1,5 +1,5 @@
 // expect: A static property has no object: give static data, or a free function
-#include "orbis/factory/describe.hpp"
+#include "Published.hpp"
 
 struct Published {
 #ifdef CONTROL
@@ -7,11 +7,6 @@ struct Published {
 #else
     int value = 0;
 #endif
-};
-
-template <>
-struct orbis::factory::HostClass<Published> {
-    static constexpr char const* name = "tests.Published";
 };
 
 auto const described = orbis::factory::describe<Published>().staticProperty("value", &Published::value);

@@ -1,5 +1,5 @@
 // expect: There is no marshaling policy for this native type: include the header of its policy, or specialise
-#include "orbis/factory/describe.hpp"
+#include "Published.hpp"
 
 struct Published {
 #ifdef CONTROL
@@ -7,11 +7,6 @@ struct Published {
 #else
     void take(long double) {}
 #endif
-};
-
-template <>
-struct orbis::factory::HostClass<Published> {
-    static constexpr char const* name = "tests.Published";
 };
 
 auto const described =

@@ -1,26 +1,13 @@
 // A module that is written on the host declarations alone, for what the console's script tests need: values of every
 // kind in both directions, properties, and members that fail.
+#include "host/TestDescriptors.hpp"
+
 #include "velmara/ArrayPtr.hpp"
 
-#include "additions/additions.hpp"
-#include "libhv/libhv.hpp"
-#include "orbis/COSClass.hpp"
-#include "orbis/COSClassInfo.hpp"
-#include "orbis/COSMethodInfo.hpp"
-#include "orbis/COSMethodSignature.hpp"
-#include "orbis/COSMethodSignaturePtr.hpp"
-#include "orbis/COSPackage.hpp"
-#include "orbis/COSPackageInfo.hpp"
-#include "orbis/COSPropInfo.hpp"
-#include "orbis/objectArrays.hpp"
-
-#include <functional>
 #include <initializer_list>
 #include <limits>
 #include <span>
 #include <stdexcept>
-#include <string>
-#include <vector>
 
 namespace {
 
@@ -77,59 +64,22 @@ struct Probe {
 
 constexpr char const* probeClass = "cases.Probe";
 
-class Property final : public COSPropInfo {
-public:
-    /// With `common` it is static and kept there, else in each object.
-    Property(char const* name, MemberAccess setAccess, Probe* common = nullptr)
-        : name_(name),
-          setAccess_(setAccess),
-          common_(common)
+/// A property that takes any value, which it keeps in `common` or in each object.
+struct Property final : described::Property {
+    Property(char const* propertyName, bool isWritable, Probe* common = nullptr)
     {
+        name = propertyName;
+        type = "any";
+        is_static = common;
+        auto const probeOf = [common](COSInterface* object) -> Probe& {
+            return common ? *common : *static_cast<Probe*>(object->getNativeObject(probeClass));
+        };
+        get = [=](COSInterface* object) { return COSValue(copyOf(probeOf(object).value.get()).release()); };
+        if (isWritable)
+            set = [=](COSInterface* object, COSValue value) { probeOf(object).value = copyOf(value.array()); };
     }
 
-    char const* getName() const override { return name_; }
     char const* getDescription() const override { return "any value"; }
-    char const* getDetailedDescription() const override { return ""; }
-    COSValue getDefaultValue() const override { return {}; }
-    COSDataTypePtr getDataType() const override { return "any"; }
-    MemberAccess getMemberGetAccess() const override { return MemberAccess::Public; }
-    MemberAccess getMemberSetAccess() const override { return setAccess_; }
-    bool isSealed() const override { return false; }
-    bool isInitAllowed() const override { return false; }
-    bool isDefaultAllowed() const override { return false; }
-    bool isResetAllowed() const override { return false; }
-    bool isAbstract() const override { return false; }
-    bool isTransient() const override { return false; }
-    bool isCopyAllowed() const override { return false; }
-    bool isListenerGetAllowed() const override { return false; }
-    bool isListenerSetAllowed() const override { return false; }
-    bool isInspectAllowed() const override { return true; }
-    bool isAbortSet() const override { return false; }
-    bool isVisible() const override { return true; }
-    bool isStatic() const override { return common_; }
-    bool isDependent() const override { return false; }
-    bool isGrandfathered() const override { return false; }
-    bool canContainInterfaces() const override { return false; }
-
-    COSValue getValue(COSInterface* object) const override
-    {
-        return COSValue(copyOf(probeOf(object).value.get()).release());
-    }
-    void setValue(COSInterface* object, COSValue value) const override
-    {
-        probeOf(object).value = copyOf(value.array());
-    }
-    void releaseValue(COSInterface*, COSValue) const override {}
-
-private:
-    Probe& probeOf(COSInterface* object) const
-    {
-        return common_ ? *common_ : *static_cast<Probe*>(object->getNativeObject(probeClass));
-    }
-
-    char const* name_;
-    MemberAccess setAccess_;
-    Probe* common_;
 };
 
 ArrayPtr pairOf(COSValue const& a, COSValue const& b)
@@ -174,9 +124,9 @@ public:
             new Method("same", true, "any", {{"any", "value"}}, [](auto in) { return copyOf(in[0].array()); }));
         cls->addMethod(
             new Method("give", true, "any", {{probeClass, "probe"}}, [](auto in) { return copyOf(in[0].array()); }));
-        cls->addProperty(new Property("value", MemberAccess::Public));
-        cls->addProperty(new Property("fixed", MemberAccess::NoAccess));
-        cls->addProperty(new Property("common", MemberAccess::Public, &common_));
+        cls->addProperty(new Property("value", true));
+        cls->addProperty(new Property("fixed", false));
+        cls->addProperty(new Property("common", true, &common_));
     }
 
 private:

@@ -1,5 +1,6 @@
 #include "HvmTest.hpp"
 #include "TestDescriptors.hpp"
+#include "library/texts.hpp"
 #include "messageIdOf.hpp"
 
 #include "libkwi18n/libkwi18n.hpp"
@@ -10,6 +11,7 @@
 
 using namespace described;
 using namespace orbis::additions;
+using texts::strings;
 using velmara::ArrayPtr;
 
 namespace {
@@ -54,17 +56,7 @@ void echo(Call const& call, std::string const& type)
 struct DataTypeTest : HvmTest {
     ArrayPtr call(std::string const& type, ArrayPtr const& input)
     {
-        hvArray_tag* const inputs[] = {input.get()};
-        return hvm().callStatic("DataTypeTest", type, inputs);
-    }
-
-    static ArrayPtr strings(std::vector<char16_t const*> const& texts)
-    {
-        ArrayPtr array(createStringMatrix(1, texts.size()));
-        for (std::size_t i = 0; i < texts.size(); ++i)
-            if (texts[i])
-                setString(array.get(), i, texts[i]);
-        return array;
+        return hvm().callStatic("DataTypeTest", type, inputs(input));
     }
 };
 
@@ -77,7 +69,7 @@ TEST_F(DataTypeTest, EachTypeTakesAndGivesWhatItSays)
                    square(createMatrix(2, 2, hvCHAR_CLASS)), cells(hvCreateCellMatrix(2, 1)),
                    thing = hvm().construct("DataTypeTest.Thing"),
                    things(orbis::omCreateORBISMatrix(1, 2, "DataTypeTest.Thing")), single = strings({u"one"}),
-                   several = strings({u"one", nullptr}), missing = strings({nullptr});
+                   several = strings({u"one", {}}), missing = strings({{}});
     struct {
         char const* type;
         std::vector<ArrayPtr const*> taken, refused;
@@ -121,16 +113,8 @@ TEST_F(DataTypeTest, RefusalsSayWhatToDo)
     publish(new Class("DataTypeTest", [](orbis::COSClass* cls) {
         cls->addMethod(new Method("read", "", {"unicodeString"}, {}, {.isStatic = true}));
     }));
-    std::pair<ArrayPtr, char const*> const cases[] = {
-        {number(1), "Text is needed here: one row of characters, or a string array of one element."},
-        {strings({nullptr}), "A missing string cannot be used here; give a text, which may be empty."},
-    };
-    for (auto const& [input, reason] : cases) {
-        try {
-            call("read", input);
-            FAIL();
-        } catch (velmara::Error const& error) {
-            EXPECT_NE(error.text().find(reason), std::string::npos) << error.text();
-        }
-    }
+    expectMessage([&] { call("read", number(1)); },
+                  {"Text is needed here: one row of characters, or a string array of one element."});
+    expectMessage([&] { call("read", strings({{}})); },
+                  {"A missing string cannot be used here; give a text, which may be empty."});
 }

@@ -1,5 +1,6 @@
 #include "HvmTest.hpp"
 #include "host/TestDescriptors.hpp"
+#include "library/texts.hpp"
 
 #include "libkwi18n/libkwi18n.hpp"
 
@@ -8,6 +9,7 @@
 using namespace orbis::additions;
 using orbis::COSClass;
 using orbis::COSInterfacePtr;
+using texts::strings;
 using velmara::ArrayPtr;
 
 namespace {
@@ -69,16 +71,6 @@ protected:
     static ArrayPtr doubles(std::vector<double> const& values) { return numbers(hvDOUBLE_CLASS, values); }
     static ArrayPtr nothing() { return ArrayPtr(createMatrix(0, 0, hvDOUBLE_CLASS)); }
 
-    /// Null is a missing string.
-    static ArrayPtr strings(std::vector<char16_t const*> const& texts)
-    {
-        ArrayPtr array(createStringMatrix(texts.size(), 1));
-        for (std::size_t i = 0; i < texts.size(); ++i)
-            if (texts[i])
-                setString(array.get(), i, texts[i]);
-        return array;
-    }
-
     template <class... A>
     static ArrayPtr cells(A... contents)
     {
@@ -100,9 +92,8 @@ protected:
     /// What the function gives for the input, or why it refuses it.
     std::string answer(char const* function, ArrayPtr const& input)
     {
-        hvArray* const inputs[] = {input.get()};
         try {
-            char* const given = hvArrayToString(hvm().callFunction(function, inputs).get());
+            char* const given = hvArrayToString(hvm().callFunction(function, inputs(input)).get());
             std::string const answer = given ? given : "";
             hvFreeEx(given);
             return answer;
@@ -126,30 +117,23 @@ TEST_F(EnumerationTest, ObjectsTextAndNumbersMeanEnumerators)
         std::string one;
         std::string many; // as for one where it is empty
     };
+    std::string const first = "element 0 (counted from 0): " + refusal,
+                      second = "element 1 (counted from 0): " + refusal;
     Case cases[] = {
-        {objects({"Blue"}), "Blue ", ""},
         {objects({"Crimson"}), "Red ", ""},
-        {text(u"Red"), "Red ", ""},
         {text(u"Grün"), "Grün ", ""},
         {strings({u"Crimson"}), "Red ", ""},
-        {doubles({1}), "Red ", ""},
         {numbers<std::int8_t>(hvINT8_CLASS, {-5}), "Grün ", ""},
         {numbers<std::uint64_t>(hvUINT64_CLASS, {std::uint64_t(1) << 40}), "Blue ", ""},
         {numbers<float>(hvSINGLE_CLASS, {-5}), "Grün ", ""},
-        {text(u"red"), refusal + "'red'", ""},
         {text(u"Re"), refusal + "'Re'", ""},
         {text(u"a name that is longer than any"), refusal + "'a name that is longer than any'", ""},
-        {text(u""), refusal + "''", ""},
-        {strings({u"Purple"}), refusal + "'Purple'", "element 0 (counted from 0): " + refusal + "'Purple'"},
-        {strings({nullptr}), refusal + "a missing string",
-         "element 0 (counted from 0): " + refusal + "a missing string"},
-        {doubles({7}), refusal + "7", "element 0 (counted from 0): " + refusal + "7"},
-        {doubles({1.5}), refusal + "1.5", "element 0 (counted from 0): " + refusal + "1.5"},
-        {doubles({1e19}), refusal + "1e+19", "element 0 (counted from 0): " + refusal + "1e+19"},
-        {doubles({nan}), refusal + "NaN", "element 0 (counted from 0): " + refusal + "NaN"},
+        {strings({u"Purple"}), refusal + "'Purple'", first + "'Purple'"},
+        {strings({{}}), refusal + "a missing string", first + "a missing string"},
+        {doubles({1e19}), refusal + "1e+19", first + "1e+19"},
+        {doubles({nan}), refusal + "NaN", first + "NaN"},
         {numbers<std::uint64_t>(hvUINT64_CLASS, {std::uint64_t(-5)}), refusal + "18446744073709551611",
-         "element 0 (counted from 0): " + refusal + "18446744073709551611"},
-        {numbers<bool>(hvLOGICAL_CLASS, {true}), refusal + "logical 1-by-1", ""},
+         first + "18446744073709551611"},
         {objects({"Red", "Blue"}), refusal + "t.Color 1-by-2", "Red Blue "},
         {objects({}), refusal + "t.Color 1-by-0", " "},
         {objects({nullptr}), refusal + "a null object", ""},
@@ -157,19 +141,13 @@ TEST_F(EnumerationTest, ObjectsTextAndNumbersMeanEnumerators)
         {objects({nullptr}, "t.Other"), refusal + "a null object", ""},
         {nothing(), refusal + "[]", " "},
         {doubles({1, -5}), refusal + "double 1-by-2", "Red Grün "},
-        {doubles({1, 2}), refusal + "double 1-by-2", "element 1 (counted from 0): " + refusal + "2"},
-        {strings({u"Red", u"Grün"}), refusal + "string 2-by-1", "Red Grün "},
-        {strings({u"Red", nullptr}), refusal + "string 2-by-1",
-         "element 1 (counted from 0): " + refusal + "a missing string"},
+        {doubles({1, 2}), refusal + "double 1-by-2", second + "2"},
+        {strings({u"Red", {}}), refusal + "string 1-by-2", second + "a missing string"},
         {cells(text(u"Blue"), objects({"Red"}), doubles({1}), strings({u"Crimson"})), refusal + "cell 1-by-4",
          "Blue Red Red Red "},
-        {cells(text(u"Blue"), ArrayPtr()), refusal + "cell 1-by-2",
-         "element 1 (counted from 0): " + refusal + "an empty cell"},
-        {cells(cells(text(u"Red"))), refusal + "cell 1-by-1", "element 0 (counted from 0): " + refusal + "cell 1-by-1"},
-        {cells(objects({"Red", "Blue"})), refusal + "cell 1-by-1",
-         "element 0 (counted from 0): " + refusal + "t.Color 1-by-2"},
-        {cells(objects({nullptr})), refusal + "cell 1-by-1",
-         "element 0 (counted from 0): " + refusal + "a null object"},
+        {cells(cells(text(u"Red"))), refusal + "cell 1-by-1", first + "cell 1-by-1"},
+        {cells(objects({"Red", "Blue"})), refusal + "cell 1-by-1", first + "t.Color 1-by-2"},
+        {cells(objects({nullptr})), refusal + "cell 1-by-1", first + "a null object"},
     };
     for (Case const& c : cases) {
         EXPECT_EQ(answer("t.one", c.input), c.one);
@@ -220,8 +198,7 @@ TEST_F(EnumerationTest, OneObjectForEachEnumeratorAndMachine)
     }
     EXPECT_EQ(answer("t.many", cells(ArrayPtr(hvCreateSharedDataCopy(foreign.get())))),
               "element 0 (counted from 0): " + refusal + "t.Color 1-by-1");
-    hvArray* const inputs[] = {foreign.get()};
-    EXPECT_EQ(errorOf([&] { hvm().callFunction("t.one", inputs); }), "VELMARA:object:otherVirtualMachine");
+    EXPECT_EQ(errorOf([&] { hvm().callFunction("t.one", inputs(foreign)); }), "VELMARA:object:otherVirtualMachine");
 }
 
 TEST_F(EnumerationTest, EndsWithItsClass)
@@ -233,8 +210,7 @@ TEST_F(EnumerationTest, EndsWithItsClass)
     EXPECT_EQ(describeEnumerator(red), nullptr);
     publish("t");
     EXPECT_EQ(answer("t.one", text(u"Red")), "Red ");
-    hvArray* const inputs[] = {held.get()};
-    EXPECT_EQ(errorOf([&] { hvm().callFunction("t.one", inputs); }), "VELMARA:object:invalid");
+    EXPECT_EQ(errorOf([&] { hvm().callFunction("t.one", inputs(held)); }), "VELMARA:object:invalid");
     COSInterfacePtr const last = getEnumerator("t.Color", "Red");
     endHvm();
     EXPECT_EQ(describeEnumerator(last), nullptr);
@@ -276,22 +252,12 @@ TEST_F(EnumerationTest, WrongDescriptionsAreRefused)
         velmara::Hvm::Scope const scope(machine);
         publish("t");
         COSClass::addGlobalClass(new Enumeration("Bad", c.describe));
-        try {
-            machine.describeClass("Bad");
-            ADD_FAILURE() << c.identifier;
-        } catch (velmara::Error const& error) {
-            EXPECT_NE(error.text().find(c.identifier), std::string::npos) << error.what();
-        }
+        expectMessage([&] { machine.describeClass("Bad"); }, {c.identifier});
     }
     described::publish(new described::Class("Plain", addColors));
     described::publish(new described::Class("Shade", [](COSClass* cls) { described::setSuperclass(cls, "t.Color"); }));
     for (auto const& [name, reason] : {std::pair("Plain", "notEnumeration"), std::pair("Shade", "class:sealed")})
-        try {
-            hvm().describeClass(name);
-            ADD_FAILURE() << name;
-        } catch (velmara::Error const& error) {
-            EXPECT_NE(error.text().find(reason), std::string::npos) << error.what();
-        }
+        expectMessage([&, name = name] { hvm().describeClass(name); }, {reason});
     EXPECT_ANY_THROW(addEnumerator(COSClass::getClass("t.Color"), "Late", 5));
     EXPECT_ANY_THROW(addEnumerator(nullptr, "None", 5));
 }

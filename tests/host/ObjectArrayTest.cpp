@@ -42,16 +42,6 @@ protected:
     std::function<void()> whenEnded_;
 };
 
-int externalCount(COSInterface* object)
-{
-    return object->getExternalReferenceCount();
-}
-
-int internalCount(COSInterface* object)
-{
-    return object->getInternalReferenceCount();
-}
-
 } // namespace
 
 TEST_F(ObjectArrayTest, ArraysHoldInternalReferencesAndHandlesExternalOnes)
@@ -70,10 +60,10 @@ TEST_F(ObjectArrayTest, ArraysHoldInternalReferencesAndHandlesExternalOnes)
         EXPECT_EQ(omGetArrayElement(shared.get(), size - 1), raw);
         EXPECT_EQ(orbis::cosiGetArrayElement(deep.get(), size - 1), raw);
         array.reset();
-        EXPECT_EQ(internalCount(raw), 2);
-        EXPECT_EQ(externalCount(raw), 1);
+        EXPECT_EQ(raw->getInternalReferenceCount(), 2);
+        EXPECT_EQ(raw->getExternalReferenceCount(), 1);
     }
-    EXPECT_EQ(internalCount(raw), 0);
+    EXPECT_EQ(raw->getInternalReferenceCount(), 0);
     EXPECT_EQ(log_, "");
     ArrayPtr const none(orbis::omCreateORBISScalar(nullptr));
     EXPECT_TRUE(orbis::omIsORBIS(none.get()));
@@ -105,7 +95,7 @@ TEST_F(ObjectArrayTest, ElementsAreOfTheArraysClass)
     EXPECT_EQ(messageIdOf([&] { omSetArrayElement(lefts.get(), 0, base); }), "VELMARA:array:wrongClass");
     EXPECT_EQ(messageIdOf([&] { omSetArrayElement(lefts.get(), 0, other); }), "VELMARA:array:wrongClass");
     EXPECT_EQ(omGetArrayElement(lefts.get(), 0), static_cast<COSInterface*>(left));
-    EXPECT_EQ(internalCount(base), 0);
+    EXPECT_EQ(base->getInternalReferenceCount(), 0);
 
     ArrayPtr const bases = matrix(3, "Base");
     omSetArrayElement(bases.get(), 0, left);
@@ -144,7 +134,7 @@ TEST_F(ObjectArrayTest, AnObjectThatEndsMayUseWhatHeldIt)
     whenEnded_ = [&] { EXPECT_EQ(handle, static_cast<COSInterface*>(next)); };
     handle = next;
     EXPECT_EQ(log_, "OO");
-    EXPECT_EQ(externalCount(next), 2);
+    EXPECT_EQ(next->getExternalReferenceCount(), 2);
 }
 
 TEST_F(ObjectArrayTest, HandlesAreStrongOrWeak)
@@ -154,14 +144,14 @@ TEST_F(ObjectArrayTest, HandlesAreStrongOrWeak)
     COSInterfacePtr weak(strong);
     weak.setReferenceType(COSReferenceType::Weak);
     COSInterfacePtr const weakCopy(weak);
-    EXPECT_EQ(externalCount(raw), 1);
+    EXPECT_EQ(raw->getExternalReferenceCount(), 1);
     COSInterfacePtr again(weak);
     again.setReferenceType(COSReferenceType::Strong);
-    EXPECT_EQ(externalCount(raw), 2);
+    EXPECT_EQ(raw->getExternalReferenceCount(), 2);
     auto& self = strong;
     strong = self;
     again = COSInterfacePtr();
-    EXPECT_EQ(externalCount(raw), 1);
+    EXPECT_EQ(raw->getExternalReferenceCount(), 1);
     EXPECT_EQ(weak, raw);
     EXPECT_EQ(&*weak, raw);
 

@@ -11,11 +11,7 @@ using orbis::COSPackage;
 using velmara::ArrayPtr;
 using velmara::NameKind;
 
-namespace {
-
-class PackageTest : public HvmTest {};
-
-} // namespace
+using PackageTest = HvmTest;
 
 TEST_F(PackageTest, PopulatedWhenFirstAskedForWhatItHolds)
 {
@@ -43,8 +39,7 @@ TEST_F(PackageTest, PopulatedWhenFirstAskedForWhatItHolds)
         EXPECT_EQ(hvm().lookUp(none), NameKind::None) << none;
     EXPECT_EQ(hvm().lookUp(std::string(200'000, '.')), NameKind::None);
     ArrayPtr const one = number(1);
-    hvArray_tag* const inputs[] = {one.get()};
-    EXPECT_EQ(scalar<double>(hvm().callFunction("p.f", inputs)), 5);
+    EXPECT_EQ(scalar<double>(hvm().callFunction("p.f", inputs(one))), 5);
     EXPECT_EQ(scalar<double>(hvm().callFunction("p.f")), 6);
     EXPECT_EQ(errorOf([&] { hvm().callFunction("p.g"); }), "VELMARA:function:unknown");
     velmara::PackageRecord const top = hvm().describePackage("");

@@ -75,9 +75,9 @@ TEST_F(VirtualMachineTest, ObjectsBelongToOneAndEndInIt)
         velmara::Hvm::Scope const scope(other);
         publishIn("other");
         foreign = other.construct("A");
-        hvArray_tag* const inputs[] = {mine.get()};
-        EXPECT_EQ(errorOf([&] { other.call(mine.get(), "take", inputs); }), "VELMARA:object:otherVirtualMachine");
-        EXPECT_EQ(errorOf([&] { other.call(foreign.get(), "take", inputs); }), "VELMARA:object:otherVirtualMachine");
+        EXPECT_EQ(errorOf([&] { other.call(mine.get(), "take", inputs(mine)); }), "VELMARA:object:otherVirtualMachine");
+        EXPECT_EQ(errorOf([&] { other.call(foreign.get(), "take", inputs(mine)); }),
+                  "VELMARA:object:otherVirtualMachine");
         EXPECT_EQ(errorOf([&] { other.deleteObjects(mine.get()); }), "VELMARA:object:otherVirtualMachine");
         hvm().deleteObjects(mine.get());
         givenBack.reset();

@@ -122,9 +122,7 @@ TEST_F(ArgumentLifetimeTest, AuthorsNameADataTypeForATypeOfTheirOwn)
     registerOrbisPackage("tests", [](COSPackage* package) {
         publish(package, describeFunctions().function("echo", [](Title title) { return title; }));
     });
-    ArrayPtr const title = strings({u"a"});
-    hvArray* const inputs[] = {title.get()};
-    EXPECT_EQ(textOf(hvm().callFunction("tests.echo", inputs)), u"a");
+    EXPECT_EQ(textOf(hvm().callFunction("tests.echo", inputs(strings({u"a"})))), u"a");
     EXPECT_EQ(hvm().describeFunction("tests.echo").inputs.at(0).dataType, "OrbisFactoryString scalar");
 }
 

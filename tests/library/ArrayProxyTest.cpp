@@ -72,15 +72,14 @@ TEST_F(ArrayProxyTest, NativeFunctionsTakeAndGiveArrays)
                              }));
     });
     for (ArrayPtr const& array : {texts::characters(u"ab"), texts::cells({nullptr, nullptr})}) {
-        hvArray* const inputs[] = {array.get()};
-        EXPECT_EQ(scalar<double>(hvm().callFunction("tests.size", inputs)), 2);
-        EXPECT_EQ(scalar<double>(hvm().callFunction("tests.size2", inputs)), 1);
-        EXPECT_EQ(hvm().callFunction("tests.swap", inputs), nullptr);
-        EXPECT_EQ(hvm().callFunction("tests.swap", inputs).get(), array.get()) << "with a reference of its own";
+        EXPECT_EQ(scalar<double>(hvm().callFunction("tests.size", inputs(array))), 2);
+        EXPECT_EQ(scalar<double>(hvm().callFunction("tests.size2", inputs(array))), 1);
+        EXPECT_EQ(hvm().callFunction("tests.swap", inputs(array)), nullptr);
+        EXPECT_EQ(hvm().callFunction("tests.swap", inputs(array)).get(), array.get()) << "with a reference of its own";
         kept = {};
         ArrayPtr const one = number(1);
-        hvArray* const two[] = {one.get(), array.get()};
-        EXPECT_EQ(hvm().callFunction("tests.echo", two).get(), array.get()) << "with a reference of its own";
+        EXPECT_EQ(hvm().callFunction("tests.echo", inputs(one, array)).get(), array.get())
+            << "with a reference of its own";
     }
     EXPECT_EQ(texts::textOf(hvm().callFunction("tests.make")), u"made");
     EXPECT_EQ(hvm().callFunction("tests.none"), nullptr);

@@ -1,13 +1,15 @@
 #include "HvmTest.hpp"
-#include "library/Tally.hpp"
+#include "library/Plain.hpp"
 
 #include "orbis/factory/CopyableSupport.hpp"
 #include "orbis/factory/H_ck.hpp"
 #include "orbis/factory/InterfaceEnumeration.hpp"
 #include "orbis/factory/RawClassPointerMarshaler.hpp"
+#include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/basic/registry.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
+#include "orbis/COSClass.hpp"
 #include "orbis/COSInterface.hpp"
 #include "orbis/objectArrays.hpp"
 
@@ -18,22 +20,9 @@ using velmara::ArrayPtr;
 
 namespace {
 
-/// Native objects here belong to the test, so the class info leaves them alone.
-struct Plain {
-    int value = 0;
-};
-
-class PlainInfo final : public HandleClassInfo<Plain, 0> {
-public:
-    PlainInfo() : HandleClassInfo("tests.Plain", "") {}
-    void initializeClass(COSClass*) override {}
-};
-
 /// A class info that makes its native object itself.
-class ValueInfo final : public HandleClassInfo<Plain, 0> {
-public:
-    ValueInfo() : HandleClassInfo("tests.Value", "") {}
-    void initializeClass(COSClass*) override {}
+struct ValueInfo final : PlainInfo {
+    ValueInfo() : PlainInfo("tests.Value") {}
     void* createInstanceData() override
     {
         auto* const made = new Plain;
@@ -51,10 +40,8 @@ class BindingRegistryTest : public HvmTest {
 protected:
     BindingRegistryTest()
     {
-        registerOrbisPackage("tests", [](COSPackage* package) {
-            package->addClass(new PlainInfo);
-            package->addClass(new ValueInfo);
-        });
+        publishPlain();
+        registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new ValueInfo); });
     }
 
     static ArrayPtr announce(void* object, bool* created = nullptr)
@@ -120,15 +107,6 @@ TEST_F(BindingRegistryTest, RetractInvalidatesAndReleaseDoesNot)
     EXPECT_EQ(BindingRegistry::find(&object), hostOf(again)) << "the late end of the old one must not touch the new";
 }
 
-TEST_F(BindingRegistryTest, RetractOutsideAVirtualMachineIsQuiet)
-{
-    Plain object;
-    ArrayPtr array = announce(&object);
-    array.reset();
-    endHvm();
-    EXPECT_FALSE(BindingRegistry::retract(&object));
-}
-
 TEST_F(BindingRegistryTest, TheHostObjectForgetsItsBindingWhenItEnds)
 {
     Plain object;
@@ -136,6 +114,8 @@ TEST_F(BindingRegistryTest, TheHostObjectForgetsItsBindingWhenItEnds)
     EXPECT_TRUE(BindingRegistry::contains(&object));
     array.reset();
     EXPECT_FALSE(BindingRegistry::contains(&object));
+    endHvm();
+    EXPECT_FALSE(BindingRegistry::retract(&object)) << "quiet outside a virtual machine";
 }
 
 TEST_F(BindingRegistryTest, ConstructorsStoreOnlyHandles)
@@ -286,7 +266,7 @@ TEST(BindingRegistry, VirtualMachinesHaveTablesOfTheirOwn)
     velmara::Hvm first, second;
     Plain object;
     velmara::Hvm::Scope const scope(first);
-    registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new PlainInfo); });
+    publishPlain();
     ArrayPtr const array(BindingRegistry::announce(&object, COSNameID("tests.Plain")));
     velmara::Hvm::Scope const inner(second);
     EXPECT_FALSE(BindingRegistry::contains(&object));

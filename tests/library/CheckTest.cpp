@@ -1,12 +1,11 @@
 #include "HvmTest.hpp"
+#include "library/Plain.hpp"
 #include "library/Shared.hpp"
 
 #include "orbis/factory/check.hpp"
 
-#include "orbis/factory/HandleClassInfo.hpp"
 #include "orbis/factory/basic/registry.hpp"
 #include "orbis/factory/detail/hostShares.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "orbis/objectArrays.hpp"
 
@@ -22,21 +21,6 @@ namespace {
 
 /// From here on every test of this program ends with a look at its virtual machine.
 [[maybe_unused]] bool const isChecked = (HvmTest::check = &orbis::factory::check, true);
-
-struct Plain {
-    int value = 0;
-};
-
-class PlainInfo final : public HandleClassInfo<Plain, 0> {
-public:
-    PlainInfo() : HandleClassInfo("tests.Plain", "") {}
-    void initializeClass(COSClass*) override {}
-};
-
-void publishPlain()
-{
-    registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new PlainInfo); });
-}
 
 /// Two bound native objects with their host objects.
 struct Pair {

@@ -1,12 +1,10 @@
 #include "HvmTest.hpp"
 #include "library/Shared.hpp"
+#include "library/publishClass.hpp"
 
-#include "orbis/factory/HandleClassInfo.hpp"
 #include "orbis/factory/NonHandleClassInfo.hpp"
 #include "orbis/factory/ValuePolicy.hpp"
 #include "orbis/factory/basic/registry.hpp"
-#include "orbis/factory/describe.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "orbis/objectArrays.hpp"
 
@@ -33,15 +31,7 @@ struct Counted {
     inline static int alive = 0;
 };
 
-class ClassInfoTest : public HvmTest {
-protected:
-    /// Binds `object` to a host object of the class.
-    ArrayPtr bind(COSClassInfo* info, void* object)
-    {
-        COSClass::addGlobalClass(info);
-        return ArrayPtr(basic::BindingRegistry::announce(object, COSNameID(info->getName())));
-    }
-};
+using ClassInfoTest = HvmTest;
 
 /// Destroys the instance data of bound objects by hand: what one of the templates does with the binding and with the
 /// native object.
@@ -124,42 +114,32 @@ struct orbis::factory::HostClass<Amount> {
 
 namespace {
 
-struct AmountInfo final : NonHandleClassInfo<Amount, Amount> {
-    AmountInfo() : NonHandleClassInfo("tests.Amount", "") {}
-    void initializeClass(COSClass* cls) override
-    {
-        publish(cls, describe<Amount>()
-                         .constructor()
-                         .constructor<double>("value")
-                         .method("get", &Amount::get)
-                         .method("add", &Amount::add)
-                         .method("plus", &Amount::plus)
-                         .method("same", &Amount::same)
-                         .method("orNull", &Amount::orNull)
-                         .method("isWaiting", &Amount::isWaiting)
-                         .staticMethod("ofOrMinusOne", &Amount::ofOrMinusOne)
-                         .property("twin", &Amount::same, &Amount::add));
-    }
-};
+using AmountInfo = Described<Amount, NonHandleClassInfo<Amount, Amount>>;
+
+void describeAmount(ClassDescriber<Amount>& amount)
+{
+    amount.constructor()
+        .constructor<double>("value")
+        .method("get", &Amount::get)
+        .method("add", &Amount::add)
+        .method("plus", &Amount::plus)
+        .method("same", &Amount::same)
+        .method("orNull", &Amount::orNull)
+        .method("isWaiting", &Amount::isWaiting)
+        .staticMethod("ofOrMinusOne", &Amount::ofOrMinusOne)
+        .property("twin", &Amount::same, &Amount::add);
+}
 
 class ValueClassTest : public HvmTest {
 protected:
-    ValueClassTest()
-    {
-        registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new AmountInfo); });
-    }
+    ValueClassTest() { publishClass<Amount, NonHandleClassInfo<Amount, Amount>>(&describeAmount); }
     ~ValueClassTest() override
     {
         endHvm();
         EXPECT_EQ(Amount::alive, 0);
     }
 
-    ArrayPtr amount(double value)
-    {
-        ArrayPtr const input = number(value);
-        hvArray* const inputs[] = {input.get()};
-        return hvm().construct("tests.Amount", inputs);
-    }
+    ArrayPtr amount(double value) { return hvm().construct("tests.Amount", inputs(number(value))); }
     ArrayPtr call(ArrayPtr const& object, char const* method, hvArray* input)
     {
         return hvm().call(object.get(), method, {&input, 1});
@@ -192,8 +172,7 @@ TEST_F(ValueClassTest, EachHostObjectHasItsOwnValue)
 TEST_F(ValueClassTest, NullIsForPointersOnly)
 {
     ArrayPtr const one = amount(1), none(omCreateORBISMatrix(0, 0, "tests.Amount"));
-    hvArray* const inputs[] = {none.get()};
-    EXPECT_EQ(scalar<double>(hvm().callStatic("tests.Amount", "ofOrMinusOne", inputs)), -1);
+    EXPECT_EQ(scalar<double>(hvm().callStatic("tests.Amount", "ofOrMinusOne", inputs(none))), -1);
     EXPECT_EQ(errorOf([&] { call(one, "add", none.get()); }), "orbis_factory:orbis_factory:null_self");
     EXPECT_EQ(call(one, "orNull", number(1).get())->get_number_of_elements(), 0u);
     EXPECT_EQ(valueOf(call(one, "orNull", number(0).get())), 1);
@@ -201,7 +180,7 @@ TEST_F(ValueClassTest, NullIsForPointersOnly)
 
 TEST_F(ValueClassTest, TheNativeValueGoesWithItsHostObject)
 {
-    AmountInfo info;
+    AmountInfo info(&describeAmount);
     EXPECT_FALSE(info.isHandle());
     void* const data = info.createInstanceData();
     EXPECT_TRUE(CopyableSupport::isInUnconstructedSet(data));

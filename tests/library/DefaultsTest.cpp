@@ -1,5 +1,6 @@
 #include "HvmTest.hpp"
 #include "library/Tally.hpp"
+#include "library/publishClass.hpp"
 
 #include "orbis/factory/StringViewPolicy.hpp"
 #include "orbis/factory/describeFunctions.hpp"
@@ -55,22 +56,16 @@ struct orbis::factory::HostClass<Early> {
 
 namespace {
 
-class ScaleInfo final : public HandleClassInfo<Scale, 1> {
-public:
-    ScaleInfo() : HandleClassInfo("tests.Scale", "") {}
-    void initializeClass(COSClass* cls) override
-    {
-        std::string const note = "a text that the description copies";
-        publish(cls, describe<Scale>()
-                         .constructor<std::int32_t, std::int32_t>("factor, offset", withDefaults(2, 1))
-                         .method("apply", &Scale::apply, "x, times", withDefaults(3), MethodAttributes::Sealed())
-                         .method("set", &Scale::set, "factor, note, tally", withDefaults(7, note, nullptr))
-                         .method(
-                             "forced", [](Scale* scale, std::int32_t x) { return scale->apply(x, 1); }, "scale, x",
-                             withDefaults(5))
-                         .staticMethod("digits", &digits, "a, b, c", withDefaults(1, 2, 3)));
-    }
-};
+void describeScale(ClassDescriber<Scale>& c)
+{
+    std::string const note = "a text that the description copies";
+    c.constructor<std::int32_t, std::int32_t>("factor, offset", withDefaults(2, 1))
+        .method("apply", &Scale::apply, "x, times", withDefaults(3), MethodAttributes::Sealed())
+        .method("set", &Scale::set, "factor, note, tally", withDefaults(7, note, nullptr))
+        .method(
+            "forced", [](Scale* scale, std::int32_t x) { return scale->apply(x, 1); }, "scale, x", withDefaults(5))
+        .staticMethod("digits", &digits, "a, b, c", withDefaults(1, 2, 3));
+}
 
 class EarlyInfo final : public HandleClassInfo<Early, 1> {
 public:
@@ -90,7 +85,7 @@ protected:
     {
         TallyInfo::publishIn("tests");
         registerOrbisPackage("tests", [](COSPackage* package) {
-            package->addClass(new ScaleInfo);
+            package->addClass(new Described<Scale>(&describeScale));
             package->addClass(new EarlyInfo);
             publish(package, describeFunctions()
                                  .function("digits", &digits, "a, b, c", withDefaults(4, 5))
@@ -100,23 +95,12 @@ protected:
         });
     }
 
-    struct Inputs {
-        Inputs(std::initializer_list<double> numbers)
-        {
-            for (double const value : numbers)
-                arrays.push_back(owners.emplace_back(number(value)).get());
-        }
-
-        std::vector<ArrayPtr> owners;
-        std::vector<hvArray*> arrays;
-    };
-
-    std::int32_t call(ArrayPtr const& object, char const* method, Inputs const& inputs)
+    std::int32_t call(ArrayPtr const& object, char const* method, NumericInputs const& inputs)
     {
         return scalar<std::int32_t>(hvm().call(object.get(), method, inputs.arrays));
     }
 
-    ArrayPtr scale(Inputs const& inputs, char const* name = "tests.Scale")
+    ArrayPtr scale(NumericInputs const& inputs, char const* name = "tests.Scale")
     {
         return hvm().construct(name, inputs.arrays);
     }
@@ -148,8 +132,9 @@ TEST_F(DefaultsTest, StaticMethodsAndFunctionsHaveThemToo)
         std::int32_t expected;
     };
     for (auto const& [given, expected] : {Case{{}, 123}, Case{{9}, 923}, Case{{9, 8}, 983}, Case{{9, 8, 7}, 987}}) {
-        EXPECT_EQ(scalar<std::int32_t>(hvm().callStatic("tests.Scale", "digits", Inputs(given).arrays)), expected);
-        auto const function = [&] { return hvm().callFunction("tests.digits", Inputs(given).arrays); };
+        EXPECT_EQ(scalar<std::int32_t>(hvm().callStatic("tests.Scale", "digits", NumericInputs(given).arrays)),
+                  expected);
+        auto const function = [&] { return hvm().callFunction("tests.digits", NumericInputs(given).arrays); };
         if (given.size() == 0)
             EXPECT_EQ(errorOf(function), "VELMARA:dispatch:noMatch");
         else
@@ -160,11 +145,8 @@ TEST_F(DefaultsTest, StaticMethodsAndFunctionsHaveThemToo)
 
 TEST_F(DefaultsTest, AnObjectThatIsThereAlreadyTakesTheValue)
 {
-    for (auto const& [object, expected] :
-         {std::pair(scale({}, "tests.Early").release(), 3), std::pair(scale({5}, "tests.Early").release(), 6)}) {
-        ArrayPtr const owner(object);
-        EXPECT_EQ(call(owner, "apply", {1, 1}), expected);
-    }
+    EXPECT_EQ(call(scale({}, "tests.Early"), "apply", {1, 1}), 3);
+    EXPECT_EQ(call(scale({5}, "tests.Early"), "apply", {1, 1}), 6);
 }
 
 TEST_F(DefaultsTest, ShorterSignaturesAreListed)

@@ -1,10 +1,8 @@
 #include "HvmTest.hpp"
 #include "library/FailingAllocation.hpp"
+#include "library/publishClass.hpp"
 
-#include "orbis/factory/HandleClassInfo.hpp"
-#include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSClass.hpp"
@@ -50,19 +48,9 @@ struct orbis::factory::HostClass<Derived> {
 
 namespace {
 
-struct BaseInfo final : HandleClassInfo<Base, 1> {
-    BaseInfo() : HandleClassInfo("tests.Base", "") {}
-    void initializeClass(COSClass* cls) override
-    {
-        publish(cls, describe<Base>().constructor().property("weight", &Base::weight));
-    }
-};
-
-ClassDescription describeDerived()
+ClassDescriber<Derived>& describeMembers(ClassDescriber<Derived>& derived)
 {
-    return describe<Derived>()
-        .inherits<Base>()
-        .constructor<int>("weight")
+    return derived.constructor<int>("weight")
         .method("doubled", &Derived::doubled)
         .staticMethod("sum", &Derived::sum, "a, b")
         .property("name", &Derived::name, &Derived::setName)
@@ -70,21 +58,14 @@ ClassDescription describeDerived()
         .writeOnlyProperty("renamed", &Derived::setName);
 }
 
-struct DerivedInfo final : HandleClassInfo<Derived, 1> {
-    DerivedInfo() : HandleClassInfo("tests.Derived", "") {}
-    void initializeClass(COSClass* cls) override { publish(cls, describeDerived()); }
-};
-
 constexpr char const* members[] = {"tests.Derived.Derived", "tests.Derived.doubled", "tests.Derived.sum",
                                    "tests.Derived.name",    "tests.Derived.own",     "tests.Derived.renamed"};
 
 /// Publishes the classes in the current virtual machine; nothing is described yet.
 void publishClasses(velmara::Hvm& hvm)
 {
-    registerOrbisPackage("tests", [](COSPackage* package) {
-        package->addClass(new BaseInfo);
-        package->addClass(new DerivedInfo);
-    });
+    publishClass<Base>([](auto& c) { c.constructor().property("weight", &Base::weight); });
+    publishClass<Derived>([](auto& c) { describeMembers(c.template inherits<Base>()); });
     hvm.lookUp("tests.Derived");
     constexpr additions::Message text{"member_not_published", "{0} cannot be published: {1}"};
     additions::addMessages("orbis_factory:orbis_factory", {&text, 1});
@@ -164,13 +145,8 @@ private:
 
 TEST_F(DescribingFailureTest, TheNthMemberIsNamed)
 {
-    ClassDescription const description = describe<Derived>()
-                                             .constructor<int>("weight")
-                                             .method("doubled", &Derived::doubled)
-                                             .staticMethod("sum", &Derived::sum, "a, b")
-                                             .property("name", &Derived::name, &Derived::setName)
-                                             .property("own", &Derived::weight)
-                                             .writeOnlyProperty("renamed", &Derived::setName);
+    auto description = describe<Derived>();
+    describeMembers(description);
     RefusingClass taking(-1); // the first description registers data types
     publish(&taking, description);
     velmara::LiveCounts const before = velmara::liveCounts();
@@ -192,12 +168,7 @@ TEST_F(DescribingFailureTest, PackageFunctionsAreNamedToo)
     registerOrbisPackage("twice", [](COSPackage* package) {
         publish(package, describeFunctions().function("sum", &Derived::sum).function("sum", &Derived::sum));
     });
-    try {
-        hvm().describePackage("twice");
-        ADD_FAILURE();
-    } catch (velmara::Error const& error) {
-        EXPECT_NE(std::string(error.what()).find("sum cannot be published"), std::string::npos) << error.what();
-    }
+    expectMessage([&] { hvm().describePackage("twice"); }, {"sum cannot be published"});
 }
 
 } // namespace

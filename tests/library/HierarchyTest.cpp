@@ -1,9 +1,7 @@
 #include "HvmTest.hpp"
+#include "library/publishClass.hpp"
 
-#include "orbis/factory/HandleClassInfo.hpp"
 #include "orbis/factory/basic/registry.hpp"
-#include "orbis/factory/describe.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "orbis/objectArrays.hpp"
 
@@ -104,46 +102,37 @@ struct orbis::factory::HostClass<Wheelmotor> {
 
 namespace {
 
-/// Describes the class `T` by `describer`.
-template <class T, class Bound>
-struct Info final : HandleClassInfo<Bound, 1> {
-    using Describer = void (*)(ClassDescriber<T>&);
-    explicit Info(Describer function) : HandleClassInfo<Bound, 1>(HostClass<T>::name, ""), describer(function) {}
-    void initializeClass(COSClass* cls) override
-    {
-        auto description = describe<T>();
-        description.constructor();
-        describer(description);
-        publish(cls, description);
-    }
-    Describer describer;
-};
-
 void describeNode(ClassDescriber<Node>& node)
 {
-    node.method("kind", &Node::kind)
+    node.constructor()
+        .method("kind", &Node::kind)
         .method("self", &Node::self)
         .staticMethod("next", &Node::next)
         .staticMethod("isNull", &Node::isNull)
         .property("weight", &Node::weight, &Node::setWeight);
 }
 
+void describeBranch(ClassDescriber<Branch>& branch)
+{
+    branch.constructor().inherits<Node>();
+}
+
+using NodeInfo = HandleClassInfo<Node, 1>;
+using PartInfo = HandleClassInfo<Part, 1>;
+
 class HierarchyTest : public HvmTest {
 protected:
     HierarchyTest()
     {
         // The subclasses are described before their superclass is, and in no order.
-        registerOrbisPackage("tests", [](COSPackage* package) {
-            package->addClass(new Info<Branch, Node>([](auto& branch) { branch.template inherits<Node>(); }));
-            package->addClass(new Info<Leaf, Leaf>(
-                [](auto& leaf) { leaf.template inherits<Node>().method("leafTag", &Leaf::leafTag); }));
-            package->addClass(new Info<Node, Node>(&describeNode));
-            package->addClass(new Info<Wheelmotor, Part>([](auto& c) { c.template inherits<Wheel, Motor>(); }));
-            package->addClass(new Info<Wheel, Part>([](auto& wheel) { wheel.template inherits<Part>(); }));
-            package->addClass(new Info<Motor, Part>([](auto& motor) { motor.template inherits<Part>(); }));
-            package->addClass(
-                new Info<Part, Part>([](auto& part) { part.method("id", &Part::id).method("self", &Part::self); }));
-        });
+        publishClass<Branch, NodeInfo>(&describeBranch);
+        publishClass<Leaf>(
+            [](auto& c) { c.constructor().template inherits<Node>().method("leafTag", &Leaf::leafTag); });
+        publishClass<Node>(&describeNode);
+        publishClass<Wheelmotor, PartInfo>([](auto& c) { c.constructor().template inherits<Wheel, Motor>(); });
+        publishClass<Wheel, PartInfo>([](auto& c) { c.constructor().template inherits<Part>(); });
+        publishClass<Motor, PartInfo>([](auto& c) { c.constructor().template inherits<Part>(); });
+        publishClass<Part>([](auto& c) { c.constructor().method("id", &Part::id).method("self", &Part::self); });
     }
     ~HierarchyTest() override
     {
@@ -204,8 +193,7 @@ TEST_F(HierarchyTest, ASuperclassIsNoSubclass)
     using Leaves = detail::MarshalerOf<Leaf*>;
     EXPECT_EQ(Leaves::fromHost<Leaf>(node.get()), nullptr);
     ArrayPtr const wheel = hvm().construct("tests.Wheel");
-    hvArray* const inputs[] = {wheel.get()};
-    EXPECT_EQ(errorOf([&] { hvm().callStatic("tests.Node", "isNull", inputs); }), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(errorOf([&] { hvm().callStatic("tests.Node", "isNull", inputs(wheel)); }), "VELMARA:dispatch:noMatch");
 }
 
 TEST_F(HierarchyTest, VirtualBasesAreBoundAsWrappable)
@@ -219,16 +207,14 @@ TEST_F(HierarchyTest, WhatIsUnpublishedIsNoLongerFound)
 {
     EXPECT_EQ(velmara::className(next(new Leaf).get()), "tests.Leaf");
     COSPackage::removePackage("tests");
-    registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new Info<Node, Node>(&describeNode)); });
+    publishClass<Node>(&describeNode);
     EXPECT_EQ(velmara::className(next(new Leaf).get()), "tests.Node");
 }
 
 TEST_F(HierarchyTest, AMissingSuperclassLeavesTheClassUnpublished)
 {
     COSPackage::removePackage("tests");
-    registerOrbisPackage("tests", [](COSPackage* package) {
-        package->addClass(new Info<Branch, Node>([](auto& branch) { branch.template inherits<Node>(); }));
-    });
+    publishClass<Branch, NodeInfo>(&describeBranch);
     for (int i = 0; i < 2; ++i)
         EXPECT_EQ(errorOf([&] { hvm().construct("tests.Branch"); }), "VELMARA:class:initialization");
 }

@@ -65,8 +65,7 @@ protected:
 
     ArrayPtr call(std::string const& function, ArrayPtr const& array)
     {
-        hvArray* const inputs[] = {array.get()};
-        return hvm().callFunction("vectors." + function, inputs);
+        return hvm().callFunction("vectors." + function, inputs(array));
     }
 
     template <class T>
@@ -143,12 +142,13 @@ TEST_F(NumericVectorTest, OtherNumbersAreConvertedOrRefusedWithTheirPosition)
         {"single", matrix<double>(1, 2, {0, 1e300}), "element 1"},
     };
     for (auto const& [function, array, reason] : cases) {
-        try {
-            EXPECT_EQ(call(function, array)->get_number_of_elements(), array->get_number_of_elements());
-            EXPECT_EQ(reason, nullptr);
-        } catch (velmara::Error const& error) {
-            EXPECT_NE(error.text().find(reason ? reason : "no reason"), std::string::npos) << error.text();
-        }
+        auto const action = [&, name = function, &given = array] {
+            EXPECT_EQ(call(name, given)->get_number_of_elements(), given->get_number_of_elements());
+        };
+        if (reason)
+            expectMessage(action, {reason});
+        else
+            EXPECT_EQ(errorOf(action), "");
     }
     ArrayPtr const result = call("int32", cases[0].array);
     EXPECT_EQ(static_cast<std::int32_t const*>(additions::getData(result.get()))[2], -2);

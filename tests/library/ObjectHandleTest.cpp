@@ -1,5 +1,6 @@
 #include "HvmTest.hpp"
 #include "library/Tally.hpp"
+#include "library/publishClass.hpp"
 
 #include "orbis/factory/ObjectHandle.hpp"
 #include "orbis/factory/basic/BindingRegistry.hpp"
@@ -49,14 +50,6 @@ Linked* Linked::next() const
 {
     return link ? link->get() : nullptr;
 }
-
-struct LinkedInfo final : HandleClassInfo<Linked, 1> {
-    LinkedInfo() : HandleClassInfo("tests.Linked", "") {}
-    void initializeClass(COSClass* cls) override
-    {
-        publish(cls, describe<Linked>().constructor().property("next", &Linked::next, &Linked::setNext));
-    }
-};
 
 class ObjectHandleTest : public HvmTest {
 protected:
@@ -115,7 +108,7 @@ TEST_F(ObjectHandleTest, TheNativeObjectMayGoFirst)
 TEST_F(ObjectHandleTest, ObjectsThatHoldEachOtherEndWithTheVirtualMachine)
 {
     COSPackage::removePackage("tests");
-    registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new LinkedInfo); });
+    publishClass<Linked>([](auto& c) { c.constructor().property("next", &Linked::next, &Linked::setNext); });
     ArrayPtr first = hvm().construct("tests.Linked"), second = hvm().construct("tests.Linked");
     hvm().set(first.get(), "next", second.get());
     second.reset();

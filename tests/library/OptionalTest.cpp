@@ -1,5 +1,6 @@
 #include "HvmTest.hpp"
 #include "library/Tally.hpp"
+#include "library/publishClass.hpp"
 
 #include "orbis/factory/NumericVectorPolicy.hpp"
 #include "orbis/factory/OptionalPolicy.hpp"
@@ -34,15 +35,6 @@ struct orbis::factory::HostClass<Settings> {
 
 namespace {
 
-class SettingsInfo final : public HandleClassInfo<Settings, 1> {
-public:
-    SettingsInfo() : HandleClassInfo("tests.Settings", "") {}
-    void initializeClass(COSClass* cls) override
-    {
-        publish(cls, describe<Settings>().constructor().property("limit", &Settings::limit, &Settings::setLimit));
-    }
-};
-
 std::optional<std::int32_t> halved(std::optional<std::int32_t> number)
 {
     return number && *number % 2 == 0 ? std::optional(*number / 2) : std::nullopt;
@@ -55,8 +47,9 @@ protected:
     OptionalTest()
     {
         TallyInfo::publishIn("tests");
+        publishClass<Settings>(
+            [](auto& c) { c.constructor().property("limit", &Settings::limit, &Settings::setLimit); });
         registerOrbisPackage("tests", [](COSPackage* package) {
-            package->addClass(new SettingsInfo);
             publish(package, describeFunctions()
                                  .function("halved", &halved)
                                  .function(
@@ -72,8 +65,7 @@ protected:
 
     ArrayPtr call(char const* function, ArrayPtr const& input)
     {
-        hvArray* const inputs[] = {input.get()};
-        return hvm().callFunction(std::string("tests.") + function, inputs);
+        return hvm().callFunction(std::string("tests.") + function, inputs(input));
     }
 
     static ArrayPtr matrix(std::size_t rows, std::size_t columns, hvClassID classID = hvDOUBLE_CLASS)
@@ -109,11 +101,7 @@ TEST_F(OptionalTest, WhatTheValueWouldRefuseIsRefused)
 {
     for (ArrayPtr const& input : {number(1.5), matrix(1, 0), matrix(0, 0, hvINT32_CLASS), matrix(0, 0, hvCHAR_CLASS)})
         EXPECT_EQ(errorOf([&] { call("halved", input); }), "VELMARA:dispatch:noMatch");
-    try {
-        call("halved", number(1.5));
-    } catch (velmara::Error const& error) {
-        EXPECT_NE(error.text().find("1.5 is no whole number"), std::string::npos) << error.text();
-    }
+    expectMessage([&] { call("halved", number(1.5)); }, {"1.5 is no whole number"});
     ArrayPtr const yes = matrix(1, 1, hvLOGICAL_CLASS);
     EXPECT_EQ(scalar<std::int32_t>(call("choice", yes)), 1);
     EXPECT_EQ(scalar<std::int32_t>(call("choice", number(5))), 2);

@@ -44,9 +44,8 @@ protected:
     /// What a call gives: its text, or the error.
     std::u16string outcome(std::string const& function, ArrayPtr const& input)
     {
-        hvArray* const inputs[] = {input.get()};
         try {
-            return textOf(hvm().callFunction("tests.of." + function, inputs));
+            return textOf(hvm().callFunction("tests.of." + function, inputs(input)));
         } catch (velmara::Error const& error) {
             return fl::i18n::to_ustring(error.what());
         }

@@ -53,25 +53,19 @@ TEST_F(PackagesTest, AFailingInitializerIsTriedAgain)
     EXPECT_EQ(runs, 2);
 }
 
-TEST_F(PackagesTest, RemovingAPackageEndsItsObjects)
+TEST_F(PackagesTest, RemovingAPackageOrTheVirtualMachineEndsItsObjects)
 {
-    TallyInfo::publishIn("tests");
-    auto const object = hvm().construct("tests.Tally");
-    EXPECT_EQ(Tally::alive, 1);
-    COSPackage::removePackage(COSNameID("tests"));
-    EXPECT_EQ(Tally::alive, 0);
-    EXPECT_FALSE(velmara::isValid(object.get()));
-    EXPECT_NE(errorOf([&] { hvm().call(object.get(), "value"); }), "");
-    EXPECT_NE(errorOf([&] { hvm().construct("tests.Tally"); }), "");
-}
-
-TEST_F(PackagesTest, TheEndOfTheVirtualMachineDeletesWhatItsObjectsOwn)
-{
-    TallyInfo::publishIn("tests");
-    auto const kept = hvm().construct("tests.Tally");
-    endHvm();
-    EXPECT_EQ(Tally::alive, 0);
-    EXPECT_FALSE(velmara::isValid(kept.get()));
+    for (bool const isEnd : {false, true}) {
+        TallyInfo::publishIn("tests");
+        auto const object = hvm().construct("tests.Tally");
+        EXPECT_EQ(Tally::alive, 1);
+        isEnd ? endHvm() : COSPackage::removePackage("tests");
+        EXPECT_EQ(Tally::alive, 0);
+        EXPECT_FALSE(velmara::isValid(object.get()));
+        if (!isEnd) {
+            EXPECT_NE(errorOf([&] { hvm().call(object.get(), "value"); }), "");
+        }
+    }
 }
 
 TEST_F(PackagesTest, OfTheTwoEndsOfAnObjectEitherMayComeFirst)

@@ -1,9 +1,8 @@
 #include "HvmTest.hpp"
+#include "host/messageIdOf.hpp"
+#include "library/publishClass.hpp"
 
-#include "orbis/factory/HandleClassInfo.hpp"
-#include "orbis/factory/describe.hpp"
 #include "orbis/factory/impl/PropertyImpl.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSDataType.hpp"
@@ -16,22 +15,14 @@ using P = PropertyAttributes;
 
 namespace {
 
-class Node {
-public:
+struct Node {
     virtual ~Node() = default;
-    int weight() const noexcept { return weight_; }
-    void setWeight(int weight)
-    {
-        if (weight < 0)
-            throw std::invalid_argument("a weight is not negative");
-        weight_ = weight;
-    }
-    Node* next() const { return next_; }
-    void setNext(Node* next) { next_ = next; }
+    int getWeight() const noexcept { return weight; }
+    void setWeight(int value) { weight = value; }
+    Node* getNext() const { return next; }
 
-private:
-    int weight_ = 1;
-    Node* next_ = nullptr;
+    int weight = 1;
+    Node* next = nullptr;
 };
 
 } // namespace
@@ -43,80 +34,17 @@ struct orbis::factory::HostClass<Node> {
 
 namespace {
 
-class NodeInfo final : public HandleClassInfo<Node, 1> {
-public:
-    NodeInfo() : HandleClassInfo("tests.Node", "") {}
-    void initializeClass(COSClass* cls) override
-    {
-        publish(cls, describe<Node>()
-                         .constructor()
-                         .property("weight", &Node::weight, &Node::setWeight)
-                         .property("next", &Node::next, &Node::setNext)
-                         .property("fixed", &Node::weight)
-                         .property("guarded", &Node::weight, &Node::setWeight, P::PrivateSetter() + P::Transient())
-                         .property(
-                             "doubled", [](Node const* node) { return node->weight() * 2; },
-                             [](Node* node, int value) { node->setWeight(value / 2); })
-                         .writeOnlyProperty("written", &Node::setWeight, P::Destructible())
-                         .staticProperty("kind", [] { return 3.5; }));
-    }
-};
-
-class PropertyTest : public HvmTest {
-protected:
-    PropertyTest()
-    {
-        registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new NodeInfo); });
-    }
-
-    std::int32_t read(ArrayPtr const& object, char const* name)
-    {
-        return scalar<std::int32_t>(hvm().get(object.get(), name));
-    }
-
-    void write(ArrayPtr const& object, char const* name, double value)
-    {
-        hvm().set(object.get(), name, number(value).get());
-    }
-};
-
-TEST_F(PropertyTest, ScriptsReadAndWriteTheNativeObject)
-{
-    ArrayPtr const node = hvm().construct("tests.Node");
-    write(node, "weight", 5);
-    EXPECT_EQ(read(node, "weight"), 5);
-    EXPECT_EQ(read(node, "fixed"), 5);
-    EXPECT_EQ(read(node, "doubled"), 10);
-    write(node, "doubled", 8);
-    EXPECT_EQ(read(node, "weight"), 4);
-    write(node, "written", 6);
-    EXPECT_EQ(read(node, "weight"), 6);
-    EXPECT_EQ(scalar<double>(hvm().getStatic("tests.Node", "kind")), 3.5);
-    EXPECT_NE(errorOf([&] { write(node, "weight", -1); }), "");
-    EXPECT_NE(errorOf([&] { write(node, "weight", 1.5); }), "");
-    for (char const* const refused : {"fixed", "guarded", "kind"})
-        EXPECT_NE(errorOf([&] { write(node, refused, 1); }), "") << refused;
-    EXPECT_NE(errorOf([&] { read(node, "written"); }), "");
-    EXPECT_EQ(read(node, "weight"), 6);
-}
-
-TEST_F(PropertyTest, ObjectsInPropertiesKeepTheirIdentity)
-{
-    ArrayPtr const first = hvm().construct("tests.Node");
-    ArrayPtr const second = hvm().construct("tests.Node");
-    EXPECT_EQ(hvm().get(first.get(), "next")->get_number_of_elements(), 0u);
-    hvm().set(first.get(), "next", second.get());
-    EXPECT_TRUE(velmara::isSameObject(hvm().get(first.get(), "next").get(), second.get()));
-}
+using PropertyTest = HvmTest;
 
 /// The descriptors themselves, as the host asks them.
 TEST_F(PropertyTest, MissingSidesHaveNoAccess)
 {
+    publishClass<Node>([](auto& c) { c.constructor().property("next", &Node::next); });
     ArrayPtr const array = hvm().construct("tests.Node");
     ArrayPtr const other = hvm().construct("tests.Node");
     COSInterface* const object = omGetArrayElement(array.get(), 0);
-    impl::ClassGetter<int, Node, int (Node::*)() const, int> getter(&Node::weight);
-    impl::ClassGetter<Node*, Node, Node* (Node::*)() const, Node*> objectGetter(&Node::next);
+    impl::ClassGetter<int, Node, int (Node::*)() const, int> getter(&Node::getWeight);
+    impl::ClassGetter<Node*, Node, Node* (Node::*)() const, Node*> objectGetter(&Node::getNext);
     impl::ClassSetter<int, Node, void (Node::*)(int)> setter(&Node::setWeight);
     impl::PropertyImpl const readOnly("r", &getter, P::Destructible());
     impl::PropertyImpl const writeOnly("w", &setter, {});
@@ -139,17 +67,9 @@ TEST_F(PropertyTest, MissingSidesHaveNoAccess)
         EXPECT_FALSE(property.getVXArrays(nullptr, object).hasMoreElements());
     }
     EXPECT_STREQ(writeOnly.getDataType()->scalarTypeName(), "int32 scalar");
-    auto const id = [](auto action) -> std::string {
-        try {
-            action();
-        } catch (foundation::core::except::IMsgIDException const& error) {
-            return error.getErrorID();
-        }
-        return "";
-    };
     for (std::string const& error :
-         {id([&] { writeOnly.getValue(object); }), id([&] { writeOnly.releaseValue(object, {}); }),
-          id([&] { readOnly.setValue(object, COSValue(1)); })})
+         {messageIdOf([&] { writeOnly.getValue(object); }), messageIdOf([&] { writeOnly.releaseValue(object, {}); }),
+          messageIdOf([&] { readOnly.setValue(object, COSValue(1)); })})
         EXPECT_EQ(error, "orbis_factory:orbis_factory:null_fcn_ptr");
 
     EXPECT_FALSE(held.getInterfaces(nullptr, object).hasMoreElements());

@@ -1,10 +1,9 @@
 #include "HvmTest.hpp"
 #include "library/Shared.hpp"
+#include "library/publishClass.hpp"
 
 #include "orbis/factory/SharedPointerPolicy.hpp"
-#include "orbis/factory/describe.hpp"
 #include "orbis/factory/full/BindingRegistry.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 #include "orbis/factory/sharedObjectVectors.hpp"
 
 #include "orbis/COSPropInfo.hpp"
@@ -17,20 +16,6 @@ using namespace orbis::factory;
 using velmara::ArrayPtr;
 
 namespace {
-
-template <class T, class Kind>
-struct Info final : Kind::template Info<T> {
-    using Describer = void (*)(ClassDescriber<T>&);
-    explicit Info(Describer function) : Kind::template Info<T>(HostClass<T>::name, ""), describer(function) {}
-    void initializeClass(COSClass* cls) override
-    {
-        auto description = describe<T>();
-        description.constructor();
-        describer(description);
-        publish(cls, description);
-    }
-    Describer describer;
-};
 
 /// What native code holds, and what it does with it at the call of a script.
 template <class Kind>
@@ -57,7 +42,12 @@ protected:
     using Object = Shared<Kind>;
     using Derived = SharedDerived<Kind>;
 
-    SharedObjectsTest() { publishClasses(); }
+    SharedObjectsTest()
+    {
+        publishClass<Derived, typename Kind::template Info<Derived>>(
+            [](auto& c) { c.constructor().template inherits<Object>(); });
+        publishClass<Object, typename Kind::template Info<Object>>(&describeBase);
+    }
     ~SharedObjectsTest() override
     {
         this->endHvm();
@@ -66,17 +56,10 @@ protected:
         EXPECT_EQ(Object::alive, 0);
     }
 
-    static void publishClasses()
-    {
-        registerOrbisPackage("tests", [](COSPackage* package) {
-            package->addClass(new Info<Derived, Kind>([](auto& c) { c.template inherits<Object>(); }));
-            package->addClass(new Info<Object, Kind>(&describeBase));
-        });
-    }
-
     static void describeBase(ClassDescriber<Object>& c)
     {
-        c.staticMethod("all", &N::all)
+        c.constructor()
+            .staticMethod("all", &N::all)
             .staticMethod("hold", &N::hold)
             .staticMethod("allRaw", &N::allRaw)
             .staticMethod("know", &N::know)

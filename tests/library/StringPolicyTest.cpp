@@ -1,11 +1,9 @@
 #include "HvmTest.hpp"
 #include "host/messageIdOf.hpp"
+#include "library/publishClass.hpp"
 #include "library/texts.hpp"
 
 #include "orbis/factory/Exception.hpp"
-#include "orbis/factory/HandleClassInfo.hpp"
-#include "orbis/factory/describe.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -115,26 +113,16 @@ struct orbis::factory::HostClass<Label> {
 
 namespace {
 
-class LabelInfo final : public HandleClassInfo<Label, 1> {
-public:
-    LabelInfo() : HandleClassInfo("tests.Label", "") {}
-    void initializeClass(COSClass* cls) override
-    {
-        publish(cls, describe<Label>()
-                         .constructor<std::string>("name")
-                         .method("tag", &Label::tag)
-                         .method("swap", &Label::swap)
-                         .property("name", &Label::name, &Label::setName)
-                         .property("title", &Label::title, &Label::setTitle));
-    }
-};
-
 TEST_F(StringPolicyTest, MembersOfEveryKindCarryStrings)
 {
-    registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new LabelInfo); });
-    ArrayPtr const name = characters(u"one");
-    hvArray* const inputs[] = {name.get()};
-    ArrayPtr const label = hvm().construct("tests.Label", inputs);
+    publishClass<Label>([](ClassDescriber<Label>& label) {
+        label.constructor<std::string>("name")
+            .method("tag", &Label::tag)
+            .method("swap", &Label::swap)
+            .property("name", &Label::name, &Label::setName)
+            .property("title", &Label::title, &Label::setTitle);
+    });
+    ArrayPtr const label = hvm().construct("tests.Label", inputs(characters(u"one")));
     EXPECT_EQ(textOf(hvm().call(label.get(), "tag")), u"one");
     hvm().set(label.get(), "name", strings({u"two"}).get());
     hvm().set(label.get(), "title", strings({u"\xD800"}).get());

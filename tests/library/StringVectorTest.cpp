@@ -36,8 +36,7 @@ protected:
 
     ArrayPtr call(char const* function, ArrayPtr const& input)
     {
-        hvArray* const inputs[] = {input.get()};
-        return hvm().callFunction(std::string("tests.") + function, inputs);
+        return hvm().callFunction(std::string("tests.") + function, inputs(input));
     }
 
     std::string callText(char const* function, ArrayPtr const& input)

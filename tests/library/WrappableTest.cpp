@@ -1,10 +1,8 @@
 #include "HvmTest.hpp"
+#include "library/publishClass.hpp"
 
-#include "orbis/factory/HandleClassInfo.hpp"
 #include "orbis/factory/basic/BindingRegistry.hpp"
-#include "orbis/factory/describe.hpp"
 #include "orbis/factory/full/BindingRegistry.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "orbis/objectArrays.hpp"
 
@@ -46,15 +44,6 @@ struct orbis::factory::HostClass<Thing> {
 
 namespace {
 
-template <int N>
-struct ThingInfo final : HandleClassInfo<Thing, N> {
-    ThingInfo() : HandleClassInfo<Thing, N>("tests.Thing", "") {}
-    void initializeClass(COSClass* cls) override
-    {
-        publish(cls, describe<Thing>().constructor().method("answer", &Thing::answer).method("self", &Thing::self));
-    }
-};
-
 class WrappableTest : public HvmTest {
 protected:
     ~WrappableTest() override
@@ -66,7 +55,8 @@ protected:
     template <int N>
     static void publishThing()
     {
-        registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new ThingInfo<N>); });
+        publishClass<Thing, HandleClassInfo<Thing, N>>(
+            [](auto& c) { c.constructor().method("answer", &Thing::answer).method("self", &Thing::self); });
     }
 
     static COSNameID name() { return "tests.Thing"; }

@@ -8,6 +8,6 @@ for _, value in ipairs({2147483648, -2147483649, 0.5, 0 / 0, math.huge, -math.hu
   local ok, err = pcall(a.getSum, a, value, 1)
   print(ok, err.identifier)
 end
-print(a.total)
+print(a.total, a:getSum(2147483647, 1), a.total)
 for _, inputs in ipairs {{0.5, 1}, {1}, {1, 2, 3}} do print(select(2, pcall(a.getSum, a, table.unpack(inputs)))) end
 print(select(2, pcall(orbis_factory.Adder, "x")))

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/HostClass.hpp"
+#include "orbis/factory/describe.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
+
+/// The class info `Base` of the class `T`, described by a function.
+template <class T, class Base = orbis::factory::HandleClassInfo<T, 1>>
+struct Described final : Base {
+    using Describer = void (*)(orbis::factory::ClassDescriber<T>&);
+
+    explicit Described(Describer describer) : Base(orbis::factory::HostClass<T>::name, ""), describer_(describer) {}
+
+    void initializeClass(orbis::COSClass* cls) override
+    {
+        auto description = orbis::factory::describe<T>();
+        describer_(description);
+        publish(cls, description);
+    }
+
+    Describer describer_;
+};
+
+/// Publishes the class `T` in the package "tests".
+template <class T, class Base = orbis::factory::HandleClassInfo<T, 1>>
+void publishClass(typename Described<T, Base>::Describer describer)
+{
+    orbis::factory::registerOrbisPackage(
+        "tests", [describer](orbis::COSPackage* package) { package->addClass(new Described<T, Base>(describer)); });
+}
