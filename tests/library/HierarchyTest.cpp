@@ -125,14 +125,20 @@ protected:
     HierarchyTest()
     {
         // The subclasses are described before their superclass is, and in no order.
-        publishClass<Branch, NodeInfo>(&describeBranch);
-        publishClass<Leaf>(
-            [](auto& c) { c.constructor().template inherits<Node>().method("leafTag", &Leaf::leafTag); });
-        publishClass<Node>(&describeNode);
-        publishClass<Wheelmotor, PartInfo>([](auto& c) { c.constructor().template inherits<Wheel, Motor>(); });
-        publishClass<Wheel, PartInfo>([](auto& c) { c.constructor().template inherits<Part>(); });
-        publishClass<Motor, PartInfo>([](auto& c) { c.constructor().template inherits<Part>(); });
-        publishClass<Part>([](auto& c) { c.constructor().method("id", &Part::id).method("self", &Part::self); });
+        registerOrbisPackage("tests", [](COSPackage* package) {
+            package->addClass(new Described<Branch, NodeInfo>(&describeBranch));
+            package->addClass(new Described<Leaf>(
+                [](auto& c) { c.constructor().template inherits<Node>().method("leafTag", &Leaf::leafTag); }));
+            package->addClass(new Described<Node>(&describeNode));
+            package->addClass(new Described<Wheelmotor, PartInfo>(
+                [](auto& c) { c.constructor().template inherits<Wheel, Motor>(); }));
+            package->addClass(
+                new Described<Wheel, PartInfo>([](auto& c) { c.constructor().template inherits<Part>(); }));
+            package->addClass(
+                new Described<Motor, PartInfo>([](auto& c) { c.constructor().template inherits<Part>(); }));
+            package->addClass(new Described<Part>(
+                [](auto& c) { c.constructor().method("id", &Part::id).method("self", &Part::self); }));
+        });
     }
     ~HierarchyTest() override
     {

@@ -44,9 +44,11 @@ protected:
 
     SharedObjectsTest()
     {
-        publishClass<Derived, typename Kind::template Info<Derived>>(
-            [](auto& c) { c.constructor().template inherits<Object>(); });
-        publishClass<Object, typename Kind::template Info<Object>>(&describeBase);
+        registerOrbisPackage("tests", [](COSPackage* package) {
+            package->addClass(new Described<Derived, typename Kind::template Info<Derived>>(
+                [](auto& c) { c.constructor().template inherits<Object>(); }));
+            package->addClass(new Described<Object, typename Kind::template Info<Object>>(&describeBase));
+        });
     }
     ~SharedObjectsTest() override
     {
