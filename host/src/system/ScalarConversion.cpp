@@ -101,13 +101,13 @@ std::string numberText(Array const& input, std::size_t index)
 std::string explainScalarRefusal(hvClassID target, Array const& input)
 {
     std::string const targetName(arrayClass(target).name);
+    bool const isLogicalTarget = target == hvLOGICAL_CLASS;
+    if (!isNumeric(input.classID()) && !(isLogicalTarget && input.classID() == hvLOGICAL_CLASS))
+        return (isLogicalTarget ? "needs a logical, not " : "needs a number, not ") + std::string(input.className());
     if (input.rows() != 1 || input.columns() != 1)
         return "needs one value, not " + std::to_string(input.rows()) + "-by-" + std::to_string(input.columns());
-    if (target == hvLOGICAL_CLASS)
-        return isNumeric(input.classID()) ? "needs true, false, 0 or 1, not " + numberText(input)
-                                          : "needs a logical, not " + std::string(input.className());
-    if (!isNumeric(input.classID()))
-        return "needs a number, not " + std::string(input.className());
+    if (isLogicalTarget)
+        return "needs true, false, 0 or 1, not " + numberText(input);
     double converted = 0;
     bool const isReal = withScalarType(input.classID(), [&]<class T>(T) {
         converted = static_cast<double>(*static_cast<T const*>(input.elements()));
