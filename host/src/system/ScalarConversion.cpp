@@ -102,7 +102,8 @@ std::string explainScalarRefusal(hvClassID target, Array const& input)
 {
     std::string const targetName(arrayClass(target).name);
     bool const isLogicalTarget = target == hvLOGICAL_CLASS;
-    if (!isNumeric(input.classID()) && !(isLogicalTarget && input.classID() == hvLOGICAL_CLASS))
+    bool const isOfKind = isNumeric(input.classID()) || (isLogicalTarget && input.classID() == hvLOGICAL_CLASS);
+    if (!isOfKind)
         return (isLogicalTarget ? "needs a logical, not " : "needs a number, not ") + std::string(input.className());
     if (input.rows() != 1 || input.columns() != 1)
         return "needs one value, not " + std::to_string(input.rows()) + "-by-" + std::to_string(input.columns());
