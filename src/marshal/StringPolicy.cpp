@@ -45,7 +45,7 @@ std::size_t unitsOf(std::string_view text)
     return units;
 }
 
-/// The whole of a character array's text, of which `utf8` is the part before its first zero.
+/// The whole of a character array's text, of which `utf8` is what stands before the first zero.
 std::string readAcrossZeros(hvArray const* in, std::string_view utf8)
 {
     std::size_t const units = in->get_number_of_elements();
