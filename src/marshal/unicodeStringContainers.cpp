@@ -1,10 +1,9 @@
 #include "orbis/factory/unicodeStringContainers.hpp"
 
 #include "orbis/factory/argumentErrors.hpp"
-#include "orbis/factory/detail/NewArray.hpp"
+#include "orbis/factory/detail/textCells.hpp"
 #include "orbis/factory/extractString.hpp"
 
-#include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
 
 #include <utility>
@@ -17,51 +16,16 @@ Marshaler<DataTypePolicy>& Marshaler<DataTypePolicy>::operator=(Marshaler&&) = d
 
 namespace {
 
-template <class Strings>
-hvArray* makeCells(Strings const& strings)
+hvArray* makeText(fl::ustring const& string)
 {
-    detail::NewArray cells(hvCreateCellMatrix(strings.size(), 1));
-    std::size_t index = 0;
-    for (fl::ustring const& string : strings) {
-        detail::NewArray text(hvCreateString_UTF16(string.c_str()));
-        hvSetCell(cells.get(), index++, text.get());
-        text.release();
-    }
-    return cells.release();
-}
-
-bool isOf(hvArray const* array, hvClassID classID)
-{
-    return array && array->_get_class_id_non_trivial() == classID;
-}
-
-/// The number of cells.
-std::size_t requireCells(hvArray const* array)
-{
-    if (!isOf(array, hvCELL_CLASS))
-        errorMustBeCellArray();
-    return array->get_number_of_elements();
-}
-
-/// Gives `append` the texts of a cell array of character arrays, in order.
-template <class Append>
-void readCells(hvArray const* cells, Append append)
-{
-    std::size_t const count = requireCells(cells);
-    for (std::size_t i = 0; i < count; ++i) {
-        hvArray const* const cell = additions::getCell(cells, i);
-        if (!isOf(cell, hvCHAR_CLASS))
-            errorMustBeString(i);
-        auto const* const text = static_cast<char16_t const*>(additions::getData(cell));
-        append(text, cell->get_number_of_elements());
-    }
+    return hvCreateString_UTF16(string.c_str());
 }
 
 } // namespace
 
 hvArray* HostDataType<std::vector<fl::ustring>>::toHost(std::vector<fl::ustring> const& strings)
 {
-    return makeCells(strings);
+    return detail::makeTextCells(strings, makeText);
 }
 
 std::vector<fl::ustring> HostDataType<std::vector<fl::ustring>>::fromHost(hvArray* value)
@@ -69,16 +33,16 @@ std::vector<fl::ustring> HostDataType<std::vector<fl::ustring>>::fromHost(hvArra
     if (isStringVector(value))
         return extractFromStringVector(value);
     std::vector<fl::ustring> strings;
-    if (value) {
-        strings.reserve(requireCells(value));
-        readCells(value, [&](char16_t const* text, std::size_t size) { strings.emplace_back(text, size); });
-    }
+    if (value)
+        detail::readTextCells(
+            value, [&](std::size_t count) { strings.reserve(count); },
+            [&](std::u16string_view text) { strings.emplace_back(text); });
     return strings;
 }
 
 hvArray* HostDataType<std::set<fl::ustring>>::toHost(std::set<fl::ustring> const& strings)
 {
-    return makeCells(strings);
+    return detail::makeTextCells(strings, makeText);
 }
 
 std::set<fl::ustring> HostDataType<std::set<fl::ustring>>::fromHost(hvArray* value)
@@ -94,7 +58,8 @@ std::set<fl::ustring> HostDataType<std::set<fl::ustring>>::fromHost(hvArray* val
         for (fl::ustring& text : extractFromStringVector(value))
             insert(std::move(text));
     } else if (value) {
-        readCells(value, [&](char16_t const* text, std::size_t size) { insert(fl::ustring(text, size)); });
+        detail::readTextCells(
+            value, [](std::size_t) {}, [&](std::u16string_view text) { insert(fl::ustring(text)); });
     }
     return strings;
 }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "orbis/factory/DataTypePolicy.hpp"
-#include "orbis/factory/argumentErrors.hpp"
 #include "orbis/factory/detail/NewArray.hpp"
 #include "orbis/factory/detail/narrowText.hpp"
+#include "orbis/factory/detail/textCells.hpp"
 
 #include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
@@ -24,17 +24,7 @@ template <>
 struct HostDataType<std::vector<std::string>> {
     static constexpr char const* name = "OrbisFactoryString vector";
 
-    static hvArray* toHost(std::vector<std::string> const& strings)
-    {
-        detail::NewArray cells(hvCreateCellMatrix(strings.size(), 1));
-        std::size_t index = 0;
-        for (std::string const& string : strings) {
-            detail::NewArray text(makeText(string));
-            hvSetCell(cells.get(), index++, text.get());
-            text.release();
-        }
-        return cells.release();
-    }
+    static hvArray* toHost(std::vector<std::string> const& strings) { return detail::makeTextCells(strings, makeText); }
 
     static std::vector<std::string> fromHost(hvArray* value)
     {
@@ -42,7 +32,9 @@ struct HostDataType<std::vector<std::string>> {
         if (Tarnwick::String::isString(value))
             readStrings(Tarnwick::String::getString(value), strings);
         else if (value)
-            readCells(value, strings);
+            detail::readTextCells(
+                value, [&](std::size_t count) { strings.reserve(count); },
+                [&](std::u16string_view text) { detail::appendNarrow(text, strings); });
         return strings;
     }
 
@@ -63,21 +55,6 @@ private:
         for (std::size_t i = 0; i < count; ++i) {
             if (char16_t const* const text = array.getText(i))
                 detail::appendNarrow({text, array.getLength(i)}, strings);
-        }
-    }
-
-    static void readCells(hvArray const* array, std::vector<std::string>& strings)
-    {
-        if (array->_get_class_id_non_trivial() != hvCELL_CLASS)
-            errorMustBeCellArray();
-        std::size_t const count = array->get_number_of_elements();
-        strings.reserve(count);
-        for (std::size_t i = 0; i < count; ++i) {
-            hvArray const* const cell = additions::getCell(array, i);
-            if (!cell || cell->_get_class_id_non_trivial() != hvCHAR_CLASS)
-                errorMustBeString(i);
-            auto const* const text = static_cast<char16_t const*>(additions::getData(cell));
-            detail::appendNarrow({text, cell->get_number_of_elements()}, strings);
         }
     }
 };
