@@ -10,12 +10,6 @@ namespace velmara {
 
 namespace {
 
-/// A logical is no number.
-bool isNumeric(hvClassID classID)
-{
-    return classID >= hvDOUBLE_CLASS && classID <= hvUINT64_CLASS;
-}
-
 template <class Source, class T>
 bool convertAll(Source const* from, std::size_t count, T* to)
 {

@@ -14,11 +14,6 @@ namespace velmara {
 
 namespace {
 
-bool isNumeric(hvClassID classID)
-{
-    return classID >= hvDOUBLE_CLASS && classID <= hvUINT64_CLASS;
-}
-
 Fit refuse(Array const&, orbis::COSValue&)
 {
     return noFit;

@@ -16,11 +16,6 @@ namespace velmara {
 
 namespace {
 
-bool isNumeric(Array const& input)
-{
-    return input.classID() >= hvDOUBLE_CLASS && input.classID() <= hvUINT64_CLASS;
-}
-
 /// The number at the index of a numeric array, when it is whole and in the range.
 std::optional<std::int64_t> wholeNumberAt(Array const& input, std::size_t index)
 {
@@ -80,13 +75,13 @@ Enumerator const* findEnumerator(Class const& enumeration, Array const& input)
     EnumeratorTable const& enumerators = enumeration.contents().enumerators;
     if (input.classID() == hvCHAR_CLASS && input.rows() == 1)
         return findByText(enumerators, input.text());
-    bool const isOne = input.size() == 1 && (isNumeric(input) || input.classID() == hvSTRING_CLASS);
+    bool const isOne = input.size() == 1 && (isNumeric(input.classID()) || input.classID() == hvSTRING_CLASS);
     return isOne ? findEnumeratorAt(enumeration, input, 0) : nullptr;
 }
 
 bool isListOfEnumerators(Array const& input)
 {
-    return isNumeric(input) || input.classID() == hvSTRING_CLASS || input.classID() == hvCELL_CLASS;
+    return isNumeric(input.classID()) || input.classID() == hvSTRING_CLASS || input.classID() == hvCELL_CLASS;
 }
 
 Enumerator const* findEnumeratorAt(Class const& enumeration, Array const& input, std::size_t index)

@@ -31,6 +31,12 @@ inline constexpr char const* nativeTypeName<std::int64_t> = "std::int64_t";
 template <>
 inline constexpr char const* nativeTypeName<std::uint64_t> = "std::uint64_t";
 
+/// True for the classes of numbers. A logical is no number.
+constexpr bool isNumeric(hvClassID classID)
+{
+    return classID >= hvDOUBLE_CLASS && classID <= hvUINT64_CLASS;
+}
+
 /// Calls `visit` with a zero of the native type of a numeric or logical class. `classID` must be one.
 template <class Visit>
 constexpr auto withScalarType(hvClassID classID, Visit visit)

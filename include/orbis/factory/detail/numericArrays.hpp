@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orbis/factory/detail/NewArray.hpp"
+
 #include "additions/additions.hpp"
 #include "libhv/hvArray.hpp"
 #include "orbis/COSValue.hpp"
@@ -62,9 +64,9 @@ hvArray* createRow(std::span<T const> values)
 /// Packed values are written one by one.
 inline hvArray* createRow(std::vector<bool> const& values)
 {
-    hvArray* const row = additions::createMatrix(1, values.size(), hvLOGICAL_CLASS);
-    std::copy(values.begin(), values.end(), static_cast<bool*>(additions::getWritableData(row)));
-    return row;
+    NewArray row(additions::createMatrix(1, values.size(), hvLOGICAL_CLASS));
+    std::copy(values.begin(), values.end(), static_cast<bool*>(additions::getWritableData(row.get())));
+    return row.release();
 }
 
 } // namespace orbis::factory::detail
