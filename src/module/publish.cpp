@@ -14,6 +14,7 @@
 
 #include <array>
 #include <memory>
+#include <stdexcept>
 #include <utility>
 
 namespace orbis::factory {
@@ -83,6 +84,8 @@ void add(COSClass* cls, char const* name, MemberRecord const& record, char const
 
 std::unique_ptr<OwnedProperty> makeProperty(PropertyRecord const& record)
 {
+    if (record.attributes.isStatic() && record.needsObject)
+        throw std::invalid_argument("a static property has no object: give static data, or functions that take none");
     return std::make_unique<OwnedProperty>(record.name, record.makeGetter ? record.makeGetter(record.getter) : nullptr,
                                            record.makeSetter ? record.makeSetter(record.setter) : nullptr,
                                            record.attributes);

@@ -1,4 +1,5 @@
 #include "HvmTest.hpp"
+#include "host/messageIdOf.hpp"
 #include "library/FailingAllocation.hpp"
 #include "library/publishClass.hpp"
 
@@ -161,6 +162,21 @@ TEST_F(DescribingFailureTest, TheNthMemberIsNamed)
         }
         EXPECT_EQ(velmara::liveCounts(), before) << members[n];
     }
+}
+
+TEST_F(DescribingFailureTest, AStaticPropertyNeedsNoObject)
+{
+    constexpr auto get = [] { return 1; };
+    constexpr auto isStatic = PropertyAttributes::Static;
+    auto const refused = [](auto const& describer) {
+        RefusingClass cls(-1);
+        return messageIdOf([&] { publish(&cls, describer); }) == "orbis_factory:orbis_factory:member_not_published";
+    };
+    EXPECT_FALSE(refused(describe<Derived>().property("x", get, isStatic())));
+    EXPECT_TRUE(refused(describe<Derived>().property("x", &Derived::doubled, isStatic())));
+    EXPECT_TRUE(refused(describe<Derived>().property("x", get, &Derived::weight, isStatic())));
+    EXPECT_TRUE(refused(describe<Derived>().property("x", releasedBy<[](Derived*) {}>(get), isStatic())));
+    EXPECT_TRUE(refused(describe<Derived>().writeOnlyProperty("x", &Derived::setName, isStatic())));
 }
 
 TEST_F(DescribingFailureTest, PackageFunctionsAreNamedToo)

@@ -21,6 +21,7 @@ struct PropertyRecord {
     impl::Callable getter = {};
     MakeSetter makeSetter = nullptr; ///< null for a read-only property
     impl::Callable setter = {};
+    bool needsObject = false; ///< to be read, written or released; a static property has none
 };
 
 } // namespace orbis::factory

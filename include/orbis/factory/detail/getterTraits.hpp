@@ -79,4 +79,12 @@ struct GetterTraits<T, M*> : ReadThrough<M const&, M const*, impl::DataGetter<st
 template <class T, auto Routine, class G>
 struct GetterTraits<T, ReleasedGetter<Routine, G>> : GetterTraits<T, G> {};
 
+/// The same where the routine is one of the object, whatever the getter is.
+template <class T, auto Routine, class G>
+    requires(GetterTraits<T, G>::isGetter &&
+             (MethodOf<std::remove_cv_t<decltype(Routine)>, T> || FunctionOn<std::remove_cv_t<decltype(Routine)>, T>))
+struct GetterTraits<T, ReleasedGetter<Routine, G>> : GetterTraits<T, G> {
+    static constexpr bool needsObject = true;
+};
+
 } // namespace orbis::factory::detail

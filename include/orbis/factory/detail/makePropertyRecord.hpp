@@ -25,6 +25,7 @@ void setGetter(PropertyRecord& record, G const& getter)
     using Traits = GetterTraits<T, G>;
     using Pointer = typename Traits::Pointer;
     record.getter = static_cast<Pointer>(unwrapped(getter));
+    record.needsObject |= Traits::needsObject;
     record.makeGetter = [](impl::Callable const& callable) -> std::unique_ptr<impl::Getter> {
         return std::make_unique<typename Traits::Getter>(callable.as<Pointer>(), releaseRoutine<T, G>);
     };
@@ -37,6 +38,7 @@ void setSetter(PropertyRecord& record, S const& setter)
     using Traits = SetterTraits<T, S>;
     using Pointer = typename Traits::Pointer;
     record.setter = static_cast<Pointer>(setter);
+    record.needsObject |= Traits::needsObject;
     record.makeSetter = [](impl::Callable const& callable) -> std::unique_ptr<impl::Setter> {
         return std::make_unique<typename Traits::Setter>(callable.as<Pointer>());
     };
