@@ -55,7 +55,7 @@ std::string signatureText(MethodRecord const& method)
 
 std::string propertyLine(PropertyRecord const& property)
 {
-    std::string line = property.name + ": " + property.dataType;
+    std::string line = property.name + ": " + (property.dataType.empty() ? "type not known yet" : property.dataType);
     if (property.isStatic)
         line += ", static";
     if (property.setAccess != MemberAccess::Public)

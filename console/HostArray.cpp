@@ -4,6 +4,7 @@
 #include "ArrayText.hpp"
 #include "NumericClass.hpp"
 #include "ScriptError.hpp"
+#include "Session.hpp"
 #include "ValueToHost.hpp"
 
 #include "velmara/ArrayPtr.hpp"
@@ -68,6 +69,7 @@ void tellCollector(lua_State* L, hvArray_tag const& array)
 
 void pushHostArray(lua_State* L, hvArray_tag const& array)
 {
+    Session::of(L).requireRunning();
     luaL_checkstack(L, 4, nullptr);
     auto* holder = new (lua_newuserdatauv(L, sizeof(Holder), 0)) Holder;
     pushArrayMetatable(L);

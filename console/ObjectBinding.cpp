@@ -133,6 +133,7 @@ void pushMetatable(lua_State* L, std::string_view className)
 
 void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
+    Session::of(L).requireRunning();
     luaL_checkstack(L, 10, nullptr);
     ArrayStack::Frame frame(Session::of(L).arrays());
     hvArray_tag* scalar = frame.push(ArrayPtr(orbis::omCreateORBISScalar(orbis::omGetArrayElement(array, index))));

@@ -1,6 +1,7 @@
 #include "Session.hpp"
 
 #include "ExitCode.hpp"
+#include "ScriptError.hpp"
 
 #include "velmara/LiveCounts.hpp"
 
@@ -35,8 +36,16 @@ Session::FreshMachine::FreshMachine(Session& session) : session_(session)
     session.machines_.push_back(std::move(machine));
 }
 
+void Session::requireRunning() const
+{
+    if (isEnding())
+        fail("ending", "the script has ended: finalizers are given no objects and arrays any more");
+}
+
 void Session::end()
 {
+    if (lua_)
+        lua_resetthread(lua_.get()); // variables to be closed, while all still works
     lua_.reset();
     arrays_.shrink(0);
     while (!machines_.empty())

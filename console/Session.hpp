@@ -47,6 +47,10 @@ public:
     /// True once the session has begun to end: only finalizers of the script run from then on.
     bool isEnding() const { return !lua_; }
 
+    /// To be called before the script is given something of the host: throws an `Error` once the session is ending,
+    /// as Lua would not finalize it any more.
+    void requireRunning() const;
+
     /// Closes the Lua state, then ends the machines. Done once; safe inside a running script that is never
     /// returned to.
     void end();

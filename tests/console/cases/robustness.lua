@@ -33,7 +33,7 @@ end
 collectgarbage()
 collectgarbage()
 print(count)
-setmetatable({}, {__gc = function() print("at the end", a.total) os.exit(9) end})
+setmetatable({}, {__gc = function() print("at the end", a.total, pcall(orbis_factory.Adder)) os.exit(9) end})
 
 -- what could break the process is not there
 print(load(string.dump(down)))
