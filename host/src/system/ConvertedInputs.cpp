@@ -34,6 +34,22 @@ bool isOneElement(Array const& input)
     return input.rows() == 1 && input.columns() == 1;
 }
 
+/// Throws what the conversion throws. "[]" is an empty list of whatever a list type holds: where a type does not take
+/// it, the type is asked again with an empty cell array.
+hvArray_tag* convert(TypeReference const& type, orbis::COSTypeConversion& conversion, hvArray_tag* input)
+{
+    hvArray_tag* converted = nullptr;
+    try {
+        conversion.convertFromHost(&converted, input);
+    } catch (...) {
+        if (!type.element || !isNothing(*Array::of(input)))
+            throw;
+        ArrayPtr const none(hvCreateCellMatrix(0, 0));
+        conversion.convertFromHost(&converted, none.get());
+    }
+    return converted;
+}
+
 } // namespace
 
 struct ConvertedInputs::Room {
@@ -150,7 +166,7 @@ Fit ConvertedInputs::addRegistered(TypeReference const& type, hvArray_tag* input
         return dataType->isVELMARAArrayType() ? convertedFit : noFit;
     hvArray_tag* converted = nullptr;
     try {
-        conversion->convertFromHost(&converted, input);
+        converted = convert(type, *conversion, input);
     } catch (...) {
         return noFit; // whoever needs the reason asks for it
     }
