@@ -1,6 +1,5 @@
 #include "samples/CppClass.hpp"
 
-#include "orbis/factory/Exception.hpp"
 #include "orbis/factory/OrbisMethod.hpp"
 #include "orbis/factory/StringPolicy.hpp"
 #include "orbis/factory/basic/BindingRegistry.hpp"
@@ -25,9 +24,7 @@ using Text = Marshaler<StringPolicy>;
 
 CppClass& nativeSelf(COSInterface* object)
 {
-    if (!object)
-        throw Exception("A guest book is needed.");
-    void* const book = object->getNativeObject(COSNameID(HostClass<CppClass>::name));
+    void* const book = object ? object->getNativeObject(COSNameID(HostClass<CppClass>::name)) : nullptr;
     impl::validateSelfPointer(book);
     return *static_cast<CppClass*>(book);
 }

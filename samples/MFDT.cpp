@@ -63,7 +63,7 @@ MFDT* MFDT::open(int number)
 
 void MFDT::pay(std::int32_t cents)
 {
-    constexpr std::int64_t most = 1'000'000'000'000'000;
+    constexpr std::int64_t most = 1'000'000'000'000;
     if (amount(cents) > most - cents_)
         throw Exception("The account is full.");
     cents_ += cents;

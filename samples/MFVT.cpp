@@ -45,20 +45,20 @@ MFVTCI::MFVTCI() : NonHandleClassInfo(HostClass<MFVT>::name, "A place on a map, 
 
 void MFVTCI::initializeClass(COSClass* cls)
 {
-    publish(cls,
-            describe<MFVT>()
-                .constructor()
-                .constructor<double, double>("east, north")
-                .method("move", overload<double, double>(&MFVT::move), "metresEast, metresNorth")
-                .method("move", overload<MFVT const&>(&MFVT::move), "by")
-                .method("distanceTo", &MFVT::distanceTo, "other")
-                .method("halfwayTo", &halfwayTo, "to")
-                .method(
-                    "isNorthOf", [](MFVT* place, MFVT const& other) { return place->north > other.north; }, "other")
-                .staticMethod("turned", &MFVT::turned, "place, quarters")
-                .staticMethod("pole", [] { return MFVT(0, 10'000'000); })
-                .property("east", &MFVT::east)
-                .property("north", &MFVT::north));
+    publish(cls, describe<MFVT>()
+                     .constructor()
+                     .constructor<double, double>("east, north")
+                     .method("move", overload<double, double>(&MFVT::move), "metresEast, metresNorth")
+                     .method("move", overload<MFVT const&>(&MFVT::move), "by")
+                     .method("distanceTo", &MFVT::distanceTo, "other")
+                     .method("halfwayTo", &halfwayTo, "from, to")
+                     .method(
+                         "isNorthOf", [](MFVT* place, MFVT const& other) { return place->north > other.north; },
+                         "place, other")
+                     .staticMethod("turned", &MFVT::turned, "place, quarters")
+                     .staticMethod("pole", [] { return MFVT(0, 10'000'000); })
+                     .property("east", &MFVT::east)
+                     .property("north", &MFVT::north));
 }
 
 } // namespace orbis::factory::samples

@@ -59,8 +59,7 @@ private:
 
 } // namespace orbis::factory::samples
 
-// One native base for all. Alfredo and Marinara have no subclasses, and a pointer to one is known to be one: no dynamic
-// cast is needed.
+// One native base for all. What crosses as a Marinara is known to be one: no dynamic cast is needed.
 template <>
 struct orbis::factory::HostClass<orbis::factory::samples::Sauce> {
     static constexpr char const* name = "orbis_factory.Sauce";
@@ -75,7 +74,6 @@ template <>
 struct orbis::factory::HostClass<orbis::factory::samples::Alfredo> {
     static constexpr char const* name = "orbis_factory.Alfredo";
     using Root = samples::Sauce;
-    using Policy = StaticCastPolicy;
 };
 template <>
 struct orbis::factory::HostClass<orbis::factory::samples::Marinara> {

@@ -43,28 +43,31 @@ visit("values")
 visit("objects")
 visit("packages")
 
---- The live objects but for enumerators, which have no native object and stay.
-local function living()
+--- The live objects that are meant.
+local function living(isMeant)
   local list = objects()
   for i = #list, 1, -1 do
-    if not list[i].native then table.remove(list, i) end
+    if not isMeant(list[i]) then table.remove(list, i) end
   end
   return list
 end
+local function isOurs(object) return object.class:match("^orbis_factory%.") end
+local function isNative(object) return object.native end -- all but enumerators, which stay
 
 section("The end: live objects, bindings, and nothing left")
 collectgarbage()
-show("live objects, once no script has them", #living(), 0)
+show("live objects, once no script has them", #living(isNative), 0)
 do
   local left <close> = orbis_factory.Container("suitcase")
   local saw <close> = left:add("souvenir", 0.2)
   local place <close> = orbis_factory.MFVT(1, 2)
-  print(living())
+  print(living(isNative))
 end
-show("given back at the end of the block", #living(), 0)
+show("given back at the end of the block", #living(isNative), 0)
 print("  the registry of bindings:")
 orbis_factory.dumpReg()
 unloadmodule("orbis_factory")
 show("unloaded: the package", orbis_factory, nil)
+show("left of the objects of its classes", #living(isOurs), 0)
 show("mistakes on this tour", wrong, 0)
 assert(wrong == 0)

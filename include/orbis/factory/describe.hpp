@@ -73,7 +73,7 @@ public:
     }
 
     /// A member function of `T` or of a base, or a free function or captureless lambda that takes a `T*` first: a
-    /// member by force, which refuses to be called without an object.
+    /// member by force, which refuses to be called without an object. The names of such a one begin with the object's.
     template <class F>
     ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodAttributes attributes = {})
     {

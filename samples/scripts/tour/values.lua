@@ -17,6 +17,8 @@ show("getSum(1, 2)", adder:getSum(1, 2), 3)
 show("twenty inputs", adder:getSumOfTwenty(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20), 210)
 show("the total of all, and of the start", adder.total, 223)
 refused("a fraction", adder.getSum, adder, 1, 2.5)
+local _, message = pcall(adder.getSumOfTwenty, adder, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, "12", 13, 14, 15, 16, 17, 18, 19, 20)
+show("the twelfth, by the name of the last ten", message.text:match("rest: needs.*"), "rest: needs a number, not char")
 
 section("Constructors: none, some, defaults, texts")
 show("Ctor()", of.Ctor().text, "0:00:00")

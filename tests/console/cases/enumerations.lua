@@ -31,7 +31,7 @@ end
 print(isvalid(red))
 for _, inputs in ipairs {{"palette.Color", {"A"}}, {"palette.Empty", {}}, {"palette.Twice", {"A", "A"}},
   {"palette.Wrong", {"A", {"B"}}}, {"palette.Wrong", {1}}, {"palette.Wrong", {{"A", math.maxinteger}, "B"}},
-  {"palette..Wrong", {"A"}}, {5}} do
+  {"palette..Wrong", {"A"}}, {"palette.Wrong", {""}}, {5}} do
   refused(enumeration, table.unpack(inputs))
 end
 print(palette.Color.Blue, pcall(index, palette, "Empty"))

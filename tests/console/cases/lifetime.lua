@@ -63,5 +63,6 @@ refused(value, kept)
 refused(kept.twin, kept)
 refused(unloadmodule, "console_cases")
 refused(loadmodule, "nowhere.so")
+refused(loadmodule, (loaded[1].file:gsub("orbis_factory(%.%w+)$", "velmara_host%1")))
 print(loadmodule(loaded[#loaded].file), isvalid(Probe), isvalid(kept))
 Probe().value = 1

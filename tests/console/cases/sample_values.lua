@@ -71,7 +71,9 @@ end
 local account = of.MFDT.open(1000)
 account:pay(2147483647)
 for _, cents in ipairs {-1, 2147483648, 0.5} do refused(account.pay, account, cents) end
-account:withdraw(2147483647)
+refused(function() while true do account:pay(2147483647) end end)
+while account.cents >= 2147483647 do account:withdraw(2147483647) end
+account:withdraw(account.cents)
 refused(account.withdraw, account, 1)
 refused(of.MFDT.attributesOf, "rob")
 delete(account)
@@ -109,12 +111,14 @@ print(withvm(function() return of.BasicTypes.form().aChar == "" end))
 -- containers of texts
 local guests = of.VectorStringIO.list()
 for _, wrong in ipairs {"Ada", {1}, {"Ada", null}, array("double", 1, 2, 2)} do refused(assign, guests, "guests", wrong) end
-guests.guests = array("cell", {})
+guests.guests = {}
 print(#guests.guests, #guests.names, of.VectorStringIO.sentence(array("cell", {})), of.VectorStringIO.sentence({"Ada"}))
+print(of.VectorStringIO.sentence({}), of.VectorStringIO.sentence(null), pcall(of.BasicTypes.units, {}))
 guests.guests = array("string", {"b", missing, "a\0"})
 print(#guests.guests, #guests.names)
 
 -- enumerations that the script must define first
+help("orbis_factory.NP1.N2.gear")
 refused(function() return of.NP1.N2.gearbox().gear end)
 refused(assign, of.NP1.N2.gearbox(), "gear", "First")
 enumeration("vehicle.Gear", {"First", "Third"})
