@@ -178,7 +178,10 @@ bool BindingRegistry::release(void const* const object)
 
 bool BindingRegistry::remove(void const* const object)
 {
-    return take(object) != nullptr;
+    std::unique_ptr<RegistryEntry> const entry = take(object);
+    if (entry)
+        registry().giveBackHandles(entry->host);
+    return entry != nullptr;
 }
 
 bool BindingRegistry::retract(void const* const object)
@@ -209,7 +212,7 @@ bool orbis::factory::detail::forgetBinding(COSInterface const* host, void const*
         return false;
     COSInterface* const bound = found->second->host;
     table.unbind(found);
-    if (!table.handleCounts.empty())
+    if (!table.handles.empty())
         table.giveBackHandles(bound);
     return true;
 }

@@ -70,12 +70,13 @@ void FooRegistry::unbind(iterator mapping)
 
 void FooRegistry::giveBackHandles(COSInterface* host)
 {
-    auto const found = handleCounts.find(host);
-    if (found == handleCounts.end())
-        return;
-    int const count = found->second;
-    handleCounts.erase(found); // first: the last reference to go may end other objects, and come back here
-    for (int i = 0; i < count; ++i)
+    auto const first = handles.lower_bound({host, nullptr});
+    auto last = first;
+    std::size_t count = 0;
+    for (; last != handles.end() && last->first == host; ++last)
+        ++count;
+    handles.erase(first, last); // first: the last reference to go may end other objects, and come back here
+    for (; count > 0; --count)
         host->removeReference();
 }
 

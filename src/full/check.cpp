@@ -83,6 +83,20 @@ std::string checkShares(HostView const& hosts)
     return {};
 }
 
+/// The binding is what a handle finds its host object by.
+std::string checkHandles(HostView const& hosts)
+{
+    basic::FooRegistry const& table = basic::registry();
+    auto const isBinding = [&](RecordedObject const& record) {
+        auto const found = table.find(record.native);
+        return found != table.end() && found->second->host == record.host;
+    };
+    for (auto const& [host, handle] : table.handles)
+        if (std::ranges::none_of(hosts.of(host), isBinding))
+            return "a handle at " + addressText(handle) + " holds a host object that is bound to no native object";
+    return {};
+}
+
 std::string checkKept()
 {
     void const* forsaken = full::findForsakenShareable();
@@ -104,6 +118,8 @@ std::string check()
         found = checkRecords(hosts);
     if (found.empty())
         found = checkShares(hosts);
+    if (found.empty())
+        found = checkHandles(hosts);
     return found.empty() ? checkKept() : found;
 }
 

@@ -5,6 +5,7 @@
 #include "orbis/factory/check.hpp"
 
 #include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/detail/handles.hpp"
 #include "orbis/factory/detail/hostShares.hpp"
 
 #include "orbis/objectArrays.hpp"
@@ -93,6 +94,9 @@ TEST_F(CheckTest, ReleasedBindingsAndValuesAreInOrder)
     EXPECT_EQ(orbis::factory::check(), "");
     BindingRegistry::retract(&pair.second);
     EXPECT_EQ(orbis::factory::check(), "");
+    detail::enterHandle(&pair.host(), &pair);
+    EXPECT_NE(orbis::factory::check().find("is bound to no native object"), std::string::npos);
+    detail::leaveHandle(&pair.host(), &pair);
 }
 
 template <class Kind>

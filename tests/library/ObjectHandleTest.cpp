@@ -94,15 +94,28 @@ TEST_F(ObjectHandleTest, AHandleHoldsOneReference)
     EXPECT_THROW(ObjectHandle<Linked>(reinterpret_cast<Linked*>(this)), std::exception) << "not published";
 }
 
-TEST_F(ObjectHandleTest, TheNativeObjectMayGoFirst)
+TEST_F(ObjectHandleTest, TheBindingMayGoFirst)
 {
     auto* const tally = new Tally;
-    Handle handle(tally), another(tally);
-    ArrayPtr const array(basic::BindingRegistry::announce(tally, COSNameID("tests.Tally")));
-    EXPECT_TRUE(basic::BindingRegistry::retract(tally));
-    delete tally;
-    handle.reset();
-    EXPECT_FALSE(velmara::isValid(array.get()));
+    COSNameID const name("tests.Tally");
+    for (bool const isRetracted : {true, false}) {
+        Handle left(tally), moved(tally);
+        ArrayPtr const array(basic::BindingRegistry::announce(tally, name));
+        COSInterface* const host = omGetArrayElement(array.get(), 0);
+        EXPECT_TRUE(isRetracted ? basic::BindingRegistry::retract(tally) : basic::BindingRegistry::release(tally));
+        EXPECT_EQ(host->getExternalReferenceCount(), 0) << "what the handles held was given back";
+        EXPECT_EQ(velmara::isValid(array.get()), !isRetracted);
+
+        // As if another object were born at the address.
+        Handle const handle(tally);
+        moved.reset(tally);
+        EXPECT_EQ(references(tally), 2);
+        left.reset();
+        EXPECT_EQ(references(tally), 2) << "a handle that was left behind takes nothing away";
+        host->setNativeObject(name, nullptr);
+        if (isRetracted) // keep it for the second time
+            basic::BindingRegistry::release(tally);
+    }
 }
 
 TEST_F(ObjectHandleTest, ObjectsThatHoldEachOtherEndWithTheVirtualMachine)

@@ -4,7 +4,7 @@
 #include "orbis/factory/MarshalingPolicy.hpp"
 #include "orbis/factory/RawClassPointerMarshaler.hpp"
 #include "orbis/factory/detail/NewArray.hpp"
-#include "orbis/factory/detail/handleCounts.hpp"
+#include "orbis/factory/detail/handles.hpp"
 
 #include "orbis/objectArrays.hpp"
 
@@ -42,7 +42,7 @@ public:
     /// the host's error passes through.
     void reset(T* object = nullptr)
     {
-        if (object == object_)
+        if (object == object_ && (!object || held()))
             return;
         giveBack();
         object_ = nullptr;
@@ -51,7 +51,7 @@ public:
         detail::NewArray array;
         Marshaler::template toHost<T>(object, array.place());
         COSInterfacePtr const host = omGetArrayElement(array.get(), 0);
-        detail::countHandle(host);
+        detail::enterHandle(host, this);
         incrementRefCount(host);
         object_ = object;
     }
@@ -64,16 +64,21 @@ public:
 private:
     using Marshaler = detail::MarshalerOf<T*>;
 
-    void giveBack()
+    /// The host object that this handle holds; null when the binding went before.
+    COSInterface* held() const
     {
         if (!object_ || !detail::canLookUpBindings())
-            return;
+            return nullptr;
         Enumeration<COSInterface*> bound = RawClassPointerMarshaler::toCosi(Marshaler::boundAddress(object_));
-        if (!bound.hasMoreElements())
-            return;
-        COSInterface* const host = bound.nextElement();
-        if (detail::uncountHandle(host))
-            decrementRefCount(host);
+        COSInterface* const host = bound.hasMoreElements() ? bound.nextElement() : nullptr;
+        return detail::isEntered(host, this) ? host : nullptr;
+    }
+
+    void giveBack()
+    {
+        COSInterface* const host = held();
+        detail::leaveHandle(host, this);
+        decrementRefCount(host);
     }
 
     T* object_ = nullptr;

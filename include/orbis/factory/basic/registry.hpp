@@ -6,7 +6,9 @@
 #include <boost/unordered_map.hpp>
 
 #include <memory>
+#include <set>
 #include <string>
+#include <utility>
 
 namespace orbis::factory::basic {
 
@@ -27,8 +29,8 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     /// Gives back the references that handles hold on `host`: its binding is gone, through which they would find it.
     void giveBackHandles(COSInterface* host);
 
-    /// How many references handles hold on each host object.
-    boost::unordered_map<COSInterface*, int> handleCounts;
+    /// The handles that hold a reference, each with the host object that it holds.
+    std::set<std::pair<COSInterface*, void const*>> handles;
 
     /// The classes as which the addresses were bound last; only in a virtual machine that reports leaks.
     std::unique_ptr<boost::unordered_map<void const*, std::string>> classNames;
