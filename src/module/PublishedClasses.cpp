@@ -19,6 +19,22 @@ bool isPublished(char const* hostName)
     return COSClass::getClass(COSNameID(hostName)) != nullptr;
 }
 
+/// Takes out the names for which `ask` can be called. The others stay for the next time: who asks for them by name is
+/// told why not.
+template <class Ask>
+void askFor(std::set<std::string>& names, Ask ask)
+{
+    std::set<std::string> failed;
+    for (std::string const& name : std::exchange(names, {})) {
+        try {
+            ask(name);
+        } catch (...) {
+            failed.insert(name);
+        }
+    }
+    names.merge(failed);
+}
+
 } // namespace
 
 PublishedClasses& PublishedClasses::ofCurrentHvm()
@@ -29,6 +45,11 @@ PublishedClasses& PublishedClasses::ofCurrentHvm()
 void PublishedClasses::expect(std::string const& hostName)
 {
     expected_.insert(hostName);
+}
+
+void PublishedClasses::expectPackage(std::string const& fullName)
+{
+    expectedPackages_.insert(fullName);
 }
 
 void PublishedClasses::add(NativeClassRecord const& native, std::vector<NativeClassRecord> const& superclasses)
@@ -50,7 +71,7 @@ char const* PublishedClasses::mostDerived(void const* bound, std::type_info cons
                    : nullptr;
     };
     Entry const* found = findExact();
-    if (!found && !expected_.empty()) {
+    if (!found && !(expected_.empty() && expectedPackages_.empty())) {
         describeExpected();
         found = findExact();
     }
@@ -83,13 +104,9 @@ bool PublishedClasses::isA(Entry const& entry, std::type_index ancestor) const
 void PublishedClasses::describeExpected()
 {
     unpublished_.clear();
-    for (std::string const& name : std::exchange(expected_, {})) {
-        try {
-            COSClass::getClass(COSNameID(name.c_str())); // has the host describe it
-        } catch (...) {
-            // Who asks for that class itself is told why it cannot be described.
-        }
-    }
+    // Asking for a class has the host populate its package, whether it is there or not, and describe it.
+    askFor(expectedPackages_, [](std::string const& name) { COSClass::getClass(COSNameID((name + ".*").c_str())); });
+    askFor(expected_, [](std::string const& name) { COSClass::getClass(COSNameID(name.c_str())); });
 }
 
 char const* PublishedClasses::best(void const* bound, NativeClassRecord const& known) const

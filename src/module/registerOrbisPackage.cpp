@@ -1,6 +1,7 @@
 #include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "module/ORBISPackageFromInitializer.hpp"
+#include "module/PublishedClasses.hpp"
 
 #include "orbis/COSNameID.hpp"
 
@@ -28,6 +29,7 @@ COSPackage* registerOrbisPackage(std::string const& fullName, std::function<void
         parent->addSubPackage(info.release());
     else
         COSPackage::addPackage(info.release());
+    PublishedClasses::ofCurrentHvm().expectPackage(fullName);
     return COSPackage::getPackage(COSNameID(fullName.c_str()));
 }
 

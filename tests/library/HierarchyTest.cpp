@@ -6,6 +6,7 @@
 #include "orbis/objectArrays.hpp"
 
 #include <functional>
+#include <stdexcept>
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -147,6 +148,15 @@ protected:
         EXPECT_EQ(Node::alive, 0);
     }
 
+    /// As it crosses as a pointer to `T`, before the host has looked for anything.
+    template <class T>
+    static ArrayPtr announce(T* object)
+    {
+        detail::NewArray array;
+        detail::MarshalerOf<T*>::template toHost<T>(object, array.place());
+        return ArrayPtr(array.release());
+    }
+
     ArrayPtr next(Node* node)
     {
         Node::make = [node] { return node; };
@@ -221,8 +231,21 @@ TEST_F(HierarchyTest, AMissingSuperclassLeavesTheClassUnpublished)
 {
     COSPackage::removePackage("tests");
     publishClass<Branch, NodeInfo>(&describeBranch);
+    publishClass<Part>([](auto& c) { c.constructor(); });
     for (int i = 0; i < 2; ++i)
         EXPECT_EQ(errorOf([&] { hvm().construct("tests.Branch"); }), "VELMARA:class:initialization");
+    EXPECT_EQ(velmara::className(announce<Part>(new Wheel).get()), "tests.Part") << "Branch is tried in vain";
+    publishClass<Node>(&describeNode);
+    EXPECT_EQ(velmara::className(next(new Branch).get()), "tests.Branch");
+}
+
+TEST_F(HierarchyTest, InitializersThatWaitRunWhereTheirClassesMayBeNeeded)
+{
+    COSPackage::removePackage("tests");
+    publishClass<Branch, NodeInfo>(&describeBranch); // waits
+    publishClass<Node>(&describeNode);               // runs at once
+    registerOrbisPackage("broken", [](COSPackage*) { throw std::runtime_error("no"); });
+    EXPECT_EQ(velmara::className(announce<Node>(new Branch).get()), "tests.Branch");
 }
 
 } // namespace
