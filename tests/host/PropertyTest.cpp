@@ -162,6 +162,7 @@ struct Asked final : described::Property {
     char const* getDescription() const override { return note("description", "short"); }
     char const* getDetailedDescription() const override { return note("detailed", "long"); }
     COSValue getDefaultValue() const override { return note("default", COSValue(1)); }
+    orbis::COSDataTypePtr getDataType() const override { return note("type", "double scalar"); }
     Access getMemberGetAccess() const override { return note("get", Access::Public); }
     Extended getExtendedGetAccess() const override { return note("extendedGet", Extended::None); }
     Access getMemberSetAccess() const override { return note("set", Access::Protected); }
@@ -200,7 +201,7 @@ TEST_F(PropertyTest, TheDescriptorIsAskedOnceInTheOrderOfItsDeclaration)
     Asked::questions.clear();
     velmara::PropertyRecord const record = hvm().describeClass("R").properties.at(0);
     EXPECT_EQ(Asked::questions,
-              "name description detailed default get extendedGet set extendedSet sealed internalDefault init "
+              "name description detailed default type get extendedGet set extendedSet sealed internalDefault init "
               "defaultAllowed reset abstract transient copy warn listenGet listenSet inspect abort visible "
               "neverAmbiguous priority static dependent grandfathered weak interfaces destructible ");
     EXPECT_EQ(record.detailedDescription, "long");

@@ -22,10 +22,10 @@ std::string text(char const* given)
     return given ? given : "";
 }
 
-PropertyTraits ask(orbis::COSPropInfo const& info)
+PropertyTraits ask(orbis::COSPropInfo const& info, bool hasDefault)
 {
     // Evaluated in the order in which they stand here.
-    return {.hasDefault = !info.getDefaultValue().isEmpty(),
+    return {.hasDefault = hasDefault,
             .getAccess = info.getMemberGetAccess(),
             .extendedGetAccess = info.getExtendedGetAccess(),
             .setAccess = info.getMemberSetAccess(),
@@ -67,20 +67,38 @@ Property::Property(std::unique_ptr<orbis::COSPropInfo> descriptor, Class const& 
       name(nameOf(*info)),
       definingClass(definer),
       description(text(info->getDescription())),
-      detailedDescription(text(info->getDetailedDescription())),
-      traits(ask(*info)),
-      canBeRead(!traits.isAbstract && isPublic(traits.getAccess, traits.extendedGetAccess)),
-      canBeWritten(!traits.isAbstract && isPublic(traits.setAccess, traits.extendedSetAccess))
+      detailedDescription(text(info->getDetailedDescription()))
 {
+    bool const hasDefault = !info->getDefaultValue().isEmpty();
+    askTypeQuietly();
+    traits = ask(*info, hasDefault);
+    canBeRead = !traits.isAbstract && isPublic(traits.getAccess, traits.extendedGetAccess);
+    canBeWritten = !traits.isAbstract && isPublic(traits.setAccess, traits.extendedSetAccess);
 }
 
-TypeReference const& Property::askType() const
+bool Property::askType() const
 {
     orbis::COSDataTypePtr const dataType = info->getDataType();
-    if (!dataType)
+    if (dataType)
+        type_.emplace(intern(dataType->scalarTypeName()));
+    return dataType;
+}
+
+void Property::askTypeQuietly() const noexcept
+{
+    try {
+        askType();
+    } catch (...) {
+        // Whoever needs it is told: the package of another class cannot be populated, say.
+    }
+}
+
+TypeReference const& Property::requireType() const
+{
+    if (!askType())
         throwHostError("VELMARA:property", "dataType",
                        {std::string(definingClass.name()->view()), std::string(name->view())});
-    return type_.emplace(intern(dataType->scalarTypeName()));
+    return *type_;
 }
 
 } // namespace velmara

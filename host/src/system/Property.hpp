@@ -16,12 +16,15 @@ class Class;
 
 /// A published property: its descriptor with the answers that it gave about itself.
 struct Property {
-    /// Asks all questions that need neither an object nor other classes, in the order in which they are declared.
+    /// Asks all questions that need no object, in the order in which they are declared.
     Property(std::unique_ptr<orbis::COSPropInfo> descriptor, Class const& definer);
 
-    /// The type of its values. Asked for when first needed, since a class may be described before the classes
-    /// of its properties are published; throws "VELMARA:property:dataType" while there is no such type.
-    TypeReference const& type() const { return type_ ? *type_ : askType(); }
+    /// The type of its values. Asked for again when it is needed and was not there before, since a class may be
+    /// described before the classes of its properties are published; throws "VELMARA:property:dataType" while there is
+    /// no such type.
+    TypeReference const& type() const { return type_ ? *type_ : requireType(); }
+
+    bool hasType() const { return type_ || askType(); }
 
     std::unique_ptr<orbis::COSPropInfo> info;
     Name name;
@@ -29,11 +32,13 @@ struct Property {
     std::string description;
     std::string detailedDescription;
     PropertyTraits traits;
-    bool canBeRead; ///< by a script, if there is an object where it needs one
-    bool canBeWritten;
+    bool canBeRead = false; ///< by a script, if there is an object where it needs one
+    bool canBeWritten = false;
 
 private:
-    TypeReference const& askType() const;
+    bool askType() const;
+    void askTypeQuietly() const noexcept;
+    TypeReference const& requireType() const;
 
     mutable std::optional<TypeReference> type_;
 };

@@ -64,19 +64,12 @@ MethodRecord record(Method const& method)
             .signature = signatureLine(method)};
 }
 
-/// The type that the descriptor names, empty while there is no such type.
-std::string dataTypeOf(Property const& property)
-{
-    orbis::COSDataTypePtr const type = property.info->getDataType();
-    return type ? text(type->scalarTypeName()) : "";
-}
-
 PropertyRecord record(Property const& property)
 {
     PropertyRecord listed;
     static_cast<PropertyTraits&>(listed) = property.traits;
     listed.name = text(property.name);
-    listed.dataType = dataTypeOf(property);
+    listed.dataType = property.hasType() ? text(property.type().name) : ""; // while there is no such type
     listed.description = property.description;
     listed.detailedDescription = property.detailedDescription;
     listed.definingClass = text(property.definingClass.name());
