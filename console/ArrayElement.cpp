@@ -17,6 +17,7 @@
 #include "string_matrix/string_matrix.hpp"
 
 #include <charconv>
+#include <cmath>
 #include <string>
 
 namespace velmara::console {
@@ -61,6 +62,8 @@ std::string valueText(lua_State* L, int index)
 {
     if (lua_type(L, index) != LUA_TNUMBER)
         return kindAt(L, index);
+    if (std::isnan(lua_tonumber(L, index)))
+        return "NaN";        // its sign, and how systems write it, tell nothing
     lua_pushvalue(L, index); // a number is turned into text where it stands
     std::string text = lua_tostring(L, -1);
     lua_pop(L, 1);

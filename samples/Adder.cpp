@@ -86,10 +86,10 @@ void* CosAdder::createInstanceData()
     return new Adder;
 }
 
-bool CosAdder::destroyInstanceData(COSInterface*, void* data)
+bool CosAdder::destroyInstanceData(COSInterface* object, void* data)
 {
     std::unique_ptr<Adder> const adder(static_cast<Adder*>(data));
-    return basic::BindingRegistry::release(data);
+    return HandleClassInfo::destroyInstanceData(object, data);
 }
 
 } // namespace orbis::factory::samples

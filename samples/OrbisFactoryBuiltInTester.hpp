@@ -3,24 +3,29 @@
 #include "orbis/factory/HandleClassInfo.hpp"
 
 #include <cstdint>
+#include <limits>
 
 namespace orbis::factory::samples {
 
 /// Gives a value of every primitive type: where it has one, the greatest.
 class OrbisFactoryBuiltInTester : public full::Wrappable {
 public:
-    double getDouble() const;
-    float getSingle() const;
-    std::int8_t getInt8() const;
-    std::int16_t getInt16() const;
-    std::int32_t getInt32() const;
-    std::int64_t getInt64() const;
-    std::uint8_t getUint8() const;
-    std::uint16_t getUint16() const;
-    std::uint32_t getUint32() const;
-    std::uint64_t getUint64() const;
-    bool getLogical() const;
-    char getChar() const;
+    double getDouble() const { return greatest<double>; }
+    float getSingle() const { return greatest<float>; }
+    std::int8_t getInt8() const { return greatest<std::int8_t>; }
+    std::int16_t getInt16() const { return greatest<std::int16_t>; }
+    std::int32_t getInt32() const { return greatest<std::int32_t>; }
+    std::int64_t getInt64() const { return greatest<std::int64_t>; }
+    std::uint8_t getUint8() const { return greatest<std::uint8_t>; }
+    std::uint16_t getUint16() const { return greatest<std::uint16_t>; }
+    std::uint32_t getUint32() const { return greatest<std::uint32_t>; }
+    std::uint64_t getUint64() const { return greatest<std::uint64_t>; }
+    bool getLogical() const { return true; }
+    char getChar() const { return '~'; }
+
+private:
+    template <class T>
+    static constexpr T greatest = std::numeric_limits<T>::max();
 };
 
 } // namespace orbis::factory::samples

@@ -34,6 +34,10 @@ public:
 
     std::int32_t serial = 4711;
     bool isOn = false;
+    std::string maker = "Velm & Sons";
+    std::int32_t fuse = 16;
+    std::string diary;
+    std::string wiring = "three wires";
 
 private:
     double target_ = 20;

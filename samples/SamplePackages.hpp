@@ -10,7 +10,7 @@ namespace orbis::factory::samples {
 class P1PackageWrapper final : public COSPackageInfo {
 public:
     char const* getName() const override { return "orbis_factory.P1"; }
-    char const* getDescription() const override { return "A package in a package"; }
+    char const* getDescription() const override { return "A package inside the root package"; }
     void initializePackage(COSPackage* package) override;
 };
 
@@ -18,7 +18,7 @@ public:
 class P2PackageWrapper final : public COSPackageInfo {
 public:
     char const* getName() const override { return "orbis_factory.P1.P2"; }
-    char const* getDescription() const override { return "A package in that, registered by it"; }
+    char const* getDescription() const override { return "A package inside P1, which registers it"; }
     void initializePackage(COSPackage* package) override;
 };
 
@@ -26,7 +26,7 @@ public:
 class P3PackageWrapper final : public COSPackageInfo {
 public:
     char const* getName() const override { return "orbis_factory.P3"; }
-    char const* getDescription() const override { return "A package beside the first"; }
+    char const* getDescription() const override { return "A package beside P1"; }
     void initializePackage(COSPackage* package) override;
 };
 

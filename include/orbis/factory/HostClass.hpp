@@ -14,9 +14,8 @@ namespace orbis::factory {
 ///     };
 ///
 /// Optional members:
-///  - `using Root`: for the classes of a hierarchy, the topmost one, which must be polymorphic and names itself:
-///  objects
-///    are bound as it. Classes derived from `full::Wrappable` are bound as that, and need no `Root`;
+///  - `using Root`: for the classes of a hierarchy, the topmost one, which must be polymorphic and names itself: all
+///    objects are bound as it. Classes derived from `full::Wrappable` are bound as that, and need no `Root`;
 ///  - `using Policy`: how pointers to the class cross, when not as `MarshalingPolicy` says; `ValuePolicy` for a value
 ///    class.
 template <class T>

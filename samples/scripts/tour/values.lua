@@ -84,12 +84,12 @@ show("a constant", of.Prop.absoluteZero, -273.15)
 for _, known in ipairs {"target: AbortSet DefaultAllowed", "actual: Transient", "room: InitAllowed CopyAllowed",
   "isOn: ResetAllowed InspectAllowed", "serial: Sealed NoAccessSetter", "fahrenheit: Dependent",
   "isOff: ListenerGetAllowed ListenerSetAllowed", "reading: ForceMembership", "lent: Hidden", "pin: NoAccessGetter",
-  "key: Grandfathered PrivateSetter", "fuse: Destructible ProtectedSetter", "diary: PrivateGetter",
+  "maker: Grandfathered PrivateSetter", "fuse: Destructible ProtectedSetter", "diary: PrivateGetter",
   "wiring: CanContainInterfaces ProtectedGetter", "humidity: Abstract", "outside: Static"} do
   local property, attributes = known:match("(.*): (.*)")
   show(property, of.Prop.attributesOf(property), attributes)
 end
-for _, name in ipairs {"serial", "actual", "key", "fuse", "target"} do refused(name .. " = 1", set, prop, name, 1) end
+for _, name in ipairs {"serial", "actual", "maker", "fuse", "target"} do refused(name .. " = 1", set, prop, name, 1) end
 for _, name in ipairs {"pin", "diary", "wiring", "humidity"} do refused(name, get, prop, name) end
 
 section("Descriptors made by hand: a class without a package")

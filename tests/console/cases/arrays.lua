@@ -98,7 +98,7 @@ for _, inputs in ipairs {{}, {"in8", 1}, {"orbis_factory", 1}, {"int8", {1, 300}
 end
 local function put(key, value) a[key] = value end
 local function at(key) return a[key] end
-for _, entry in ipairs {{7, 1}, {{3, 1}, 1}, {1, 128}, {"x", 1}} do refused(put, table.unpack(entry)) end
+for _, entry in ipairs {{7, 1}, {{3, 1}, 1}, {1, 128}, {1, 0 / 0}, {"x", 1}} do refused(put, table.unpack(entry)) end
 for _, key in ipairs {"x", {1}, 1.5} do refused(at, key) end
 refused(function() s[1] = 5 end)
 refused(asarray, print)
