@@ -13,6 +13,7 @@ are in `arg` and `...`.
   --module PATH        load the module at PATH first; may be repeated
   --no-builtin         do not load the built-in module orbis_factory
   --check-leaks        check at the end that nothing of the host is left
+  --report-leaks       name at the end each native object that is still bound
   --help, --version
 
 Exit codes: 0 success; 1 a script or module failed ("identifier: text" and
@@ -58,6 +59,8 @@ void parseOption(CommandLine& line, std::string const& option, Words& words)
         line.loadsBuiltIn = false;
     else if (option == "--check-leaks")
         line.checksLeaks = true;
+    else if (option == "--report-leaks")
+        line.reportsLeaks = true;
     else if (option == "--help" || option == "-h")
         line.task = Task::Help;
     else if (option == "--version")

@@ -16,6 +16,7 @@ struct CommandLine {
     std::vector<std::string> modules;   ///< files to load
     bool loadsBuiltIn = true;
     bool checksLeaks = false;
+    bool reportsLeaks = false;
     bool asksForPrompt = false;
 };
 

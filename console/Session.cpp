@@ -11,6 +11,15 @@
 
 namespace velmara::console {
 
+namespace {
+
+void reportLeaksOf(Hvm& machine)
+{
+    machine.reportLeaks([](std::string const& leak) { std::fprintf(stderr, "velmara: leak: %s\n", leak.c_str()); });
+}
+
+} // namespace
+
 Session::Session() : lua_(luaL_newstate())
 {
     if (!lua_)
@@ -31,6 +40,8 @@ Session& Session::of(lua_State* L)
 Session::FreshMachine::FreshMachine(Session& session) : session_(session)
 {
     auto machine = std::make_unique<Hvm>();
+    if (session.reportsLeaks_)
+        reportLeaksOf(*machine);
     for (ModuleRecord const& module : session.hvm().modules())
         machine->loadModule(std::u8string(module.file.begin(), module.file.end()));
     session.machines_.push_back(std::move(machine));
@@ -50,6 +61,13 @@ void Session::end()
     arrays_.shrink(0);
     while (!machines_.empty())
         machines_.pop_back();
+}
+
+void Session::reportLeaks()
+{
+    reportsLeaks_ = true;
+    for (auto const& machine : machines_)
+        reportLeaksOf(*machine);
 }
 
 int Session::finish(int code)

@@ -58,6 +58,10 @@ public:
     /// Asks for a check at the end of the run that nothing of the host is left.
     void checkLeaks() { checksLeaks_ = true; }
 
+    /// Has what native code leaves in a virtual machine reported on stderr as that ends. To be asked for before modules
+    /// are loaded.
+    void reportLeaks();
+
     /// Ends the session and gives the exit code: `code`, or `leakExitCode` when asked-for checks find something.
     int finish(int code);
 
@@ -66,6 +70,7 @@ private:
     ArrayStack arrays_;
     LuaState lua_;
     bool checksLeaks_ = false;
+    bool reportsLeaks_ = false;
     bool keepsNextArray_ = false;
 };
 

@@ -22,6 +22,8 @@ int run(CommandLine line)
     Session session;
     if (line.checksLeaks)
         session.checkLeaks();
+    if (line.reportsLeaks)
+        session.reportLeaks();
     return session.finish(
         runConsole(session, line, line.loadsBuiltIn ? moduleBesideProgram("orbis_factory") : std::filesystem::path()));
 }

@@ -152,6 +152,12 @@ ArrayPtr characters()
 
 class Cases final : public COSPackageInfo {
 public:
+    ~Cases() override
+    {
+        if (leaves_)
+            additions::reportLeak("what the case left");
+    }
+
     char const* getName() const override { return "cases"; }
 
     void initializePackage(COSPackage* package) override
@@ -176,6 +182,10 @@ public:
         add("column", {}, [](auto) { return matrix<float>(2, 1, {0.5F, 2.0F}); });
         add("characters", {}, [](auto) { return characters(); });
         add("cells", {}, [](auto) { return ArrayPtr(hvCreateCellMatrix(1, 2)); });
+        add("leave", {}, [this](auto) {
+            leaves_ = true;
+            return matrix<bool>(1, 1, {true});
+        });
         add("nobody", {}, [](auto) { return ArrayPtr(omCreateORBISMatrix(0, 0, probeClass)); });
         add("nests", {{"double scalar", "depth"}}, [](auto in) {
             ArrayPtr nest(hvCreateCellMatrix(1, 1));
@@ -190,6 +200,7 @@ public:
 
 private:
     int alive_ = 0; // probes
+    bool leaves_ = false;
 };
 
 } // namespace
