@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <memory>
 #include <regex>
+#include <thread>
 #include <utility>
 
 #if defined(_WIN32)
@@ -49,6 +50,26 @@ TEST_F(ModuleTest, InitialisationCountsOncePerVirtualMachine)
     VXTerminate_orbis_factory();
     VXInitialize_orbis_factory();
     EXPECT_NE(rootPackage(), nullptr);
+}
+
+TEST_F(ModuleTest, TwoVirtualMachinesOnTwoThreadsShareNothing)
+{
+    auto const settle = [this](double start) {
+        for (int round = 0; round < 10; ++round) {
+            velmara::Hvm machine;
+            velmara::Hvm::Scope const scope(machine);
+            VXInitialize_orbis_factory();
+            velmara::ArrayPtr const name(hvCreateString("Ada"));
+            auto const ada = machine.construct("orbis_factory.Person", inputs(name)); // refused where there is an Ada
+            machine.setStatic("orbis_factory.Prop", "outside", number(start).get());
+            auto const adder = machine.construct("orbis_factory.Adder", inputs(number(start)));
+            machine.call(adder.get(), "getSum", inputs(number(1), number(2)));
+            EXPECT_EQ(scalar<std::int32_t>(machine.get(adder.get(), "total")), start + 3);
+            EXPECT_EQ(scalar<double>(machine.getStatic("orbis_factory.Prop", "outside")), start);
+        }
+    };
+    std::jthread const other(settle, 5);
+    settle(3);
 }
 
 TEST_F(ModuleTest, AnInitialisationThatFailsIsNotRemembered)

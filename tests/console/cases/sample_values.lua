@@ -27,8 +27,7 @@ for _, topic in ipairs {of, of.P1, of.P1.P2, of.P3, of.NP1, of.NP1.NP2, of.Weekd
   table.sort(names)
   list(topic, table.unpack(names))
 end
-for _, topic in ipairs {of.P1, of.MFVT, of.Prop} do help(topic) end
-help("orbis_factory.MFDT.pay")
+for _, topic in ipairs {of.P1, of.MFVT, "orbis_factory.Prop.pin", "orbis_factory.Prop.absoluteZero"} do help(topic) end
 refused(help, "orbis_factory.MFDT.seize")
 
 -- values: the native value stays as it was when a change is refused
