@@ -11,8 +11,8 @@ book:add(of.TreeNodeBase("Part I"))
 book.children[2]:add(of.TreeNodeDerived("Lifetimes", 40))
 collectgarbage()
 show("pages of the book", book:pages(), 43)
-show("children: what each one is", class(book.children[1]), "orbis_factory.TreeNodeDerived")
-show("", class(book.children[2]), "orbis_factory.TreeNodeBase")
+show("children: what each one is", class(book.children[1]) .. " " .. class(book.children[2]),
+  "orbis_factory.TreeNodeDerived orbis_factory.TreeNodeBase")
 local chapter = book.children[2].children -- a row of one is the object itself
 show("one native object, one host object", chapter == book.children[2].children, true)
 show("parent of the parent", chapter.parent.parent == book, true)
@@ -25,7 +25,7 @@ show("but for the chapter, which the script has", chapter:pages(), 40)
 section("Properties that hold objects: ways in a park, which keep nothing alive")
 local gate, pond = of.BinaryGraphNode("gate"), of.BinaryGraphNode("pond")
 gate.left, gate.right, pond.right = pond, pond, gate
-show("gate, left, right", gate:walk("LR") == gate, true)
+show("left of the gate, then right", gate:walk("LR").name, "gate")
 show("visits: counted by native code", gate.visits, 1)
 refused("... and set by nobody else", function() gate.visits = 9 end)
 show("signpost: the ways that it names", #gate.signpost, 2)
@@ -34,9 +34,9 @@ show("what the host is told that it refers to", #references(gate), 4)
 delete(pond)
 show("the pond deleted: left", gate.left, nil)
 gate.left = gate
-show("left = gate, then left = nil", gate.left == gate, true)
+show("left = gate", gate.left == gate, true)
 gate.left = nil
-show("", gate.left, nil)
+show("left = nil", gate.left, nil)
 
 section("Shared with boost::shared_ptr: a library's books")
 local Book = of.SharedBase
