@@ -1,5 +1,6 @@
 #include "bench/CallScenarios.hpp"
 #include "bench/EnumerationScenarios.hpp"
+#include "bench/OwnershipScenarios.hpp"
 #include "bench/PropertyScenarios.hpp"
 #include "bench/StringScenarios.hpp"
 
@@ -53,6 +54,10 @@ int main(int argc, char** argv)
                                  {"callWithName", run<&Enumerations::callWithName>},
                                  {"callWithNumber", run<&Enumerations::callWithNumber>},
                                  {"construct", run<&Calls::construct>},
+                                 {"createValue", run<&bench::ownership::Values::create>},
+                                 {"createWrappable", run<&bench::ownership::Wrappables::create>},
+                                 {"createShareable", run<&bench::ownership::BoostShareds::create>},
+                                 {"createStdShareable", run<&bench::ownership::StdShareds::create>},
                                  {"get", run<&Properties::get>},
                                  {"handWrittenGet", run<&Properties::handWrittenGet>},
                                  {"set", run<&Properties::set>},
