@@ -151,14 +151,20 @@ void Class::setSuperclasses(std::span<orbis::COSNameID const> names)
     contents_->superclasses = std::move(classes);
 }
 
-Object& Class::makeObject()
+[[gnu::noinline]] void Class::refuseObject() const
 {
     if (machine_.isEnding())
         throwHostError("VELMARA:hvm", "ending");
     if (!isReady())
         throwHostError("VELMARA:class", "notInitialized", {text(name_)});
     requireNoEnumeration();
-    return *new Object(*this);
+}
+
+Object& Class::makeObject()
+{
+    if (machine_.isEnding() || !isReady() || isEnumeration_) [[unlikely]]
+        refuseObject();
+    return Object::make(*this);
 }
 
 orbis::COSInterfacePtr Class::newInstance()

@@ -93,6 +93,8 @@ private:
     void describe();
     void dropContents(std::shared_ptr<ClassContents> replacement);
     void rebuildTables();
+    /// Throws why no object of the class can be made.
+    void refuseObject() const;
     void requireOpen(Name member) const;
     void requireNoEnumerator(Name member) const;
     [[noreturn]] void refuseDuplicate(Name member) const;

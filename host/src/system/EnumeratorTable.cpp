@@ -34,7 +34,8 @@ void EnumeratorTable::add(Name className, std::string_view name, std::int64_t va
 void EnumeratorTable::makeObjects(Class& cls)
 {
     for (std::size_t i = 0; i < enumerators_.size(); ++i)
-        enumerators_[i].object.reset(orbis::omCreateORBISScalar(orbis::COSInterfacePtr(new Object(cls, i))));
+        enumerators_[i].object.reset(
+            orbis::omCreateORBISScalar(orbis::COSInterfacePtr(&Object::makeEnumerator(cls, i))));
 }
 
 std::vector<std::size_t>::const_iterator EnumeratorTable::placeOf(std::int64_t value) const

@@ -46,8 +46,10 @@ Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, Class const* de
     takesObject = definer && !isStatic && !isConstructor;
     if (takesObject && inputs.empty())
         throwHostError("VELMARA:member", "noObjectInput", {std::string(definer->name()->view()), info->getName()});
-    isPlain = isAccessible() && !isAbstract && !isConstructor && inputCount <= mostPlainInputs &&
-              std::ranges::all_of(explicitInputs(), isScalar) && (!outputType || isScalar(outputs.front()));
+    bool const takesScalars = isAccessible() && !isAbstract && inputCount <= mostPlainInputs &&
+                              std::ranges::all_of(explicitInputs(), isScalar);
+    isPlain = takesScalars && !isConstructor && (!outputType || isScalar(outputs.front()));
+    isPlainConstructor = takesScalars && isConstructor;
 }
 
 bool Method::hasSameInputs(Method const& other) const
@@ -80,9 +82,10 @@ void MethodGroup::remove(Method const& method)
 
 void MethodGroup::findPlain()
 {
-    Method const* const found = accessible == 1 && methods.front()->isPlain ? methods.front() : nullptr;
-    plainOfObject = found && found->takesObject ? found : nullptr;
-    plain = found && !found->takesObject ? found : nullptr;
+    Method const* const only = accessible == 1 ? methods.front() : nullptr;
+    plainOfObject = only && only->isPlain && only->takesObject ? only : nullptr;
+    plain = only && only->isPlain && !only->takesObject ? only : nullptr;
+    plainConstructor = only && only->isPlainConstructor ? only : nullptr;
 }
 
 } // namespace velmara

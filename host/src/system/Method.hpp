@@ -48,6 +48,9 @@ struct Method {
     /// are called by a shorter way.
     bool isPlain;
     static constexpr std::size_t mostPlainInputs = 8;
+
+    /// The same for a constructor, but for its result, which is the object.
+    bool isPlainConstructor;
 };
 
 /// The methods of one name among which the dispatch chooses.
@@ -64,6 +67,7 @@ struct MethodGroup {
     /// The one that may be called, where there is just one and it is plain: with an object, or without.
     Method const* plainOfObject = nullptr;
     Method const* plain = nullptr;
+    Method const* plainConstructor = nullptr;
 
 private:
     void findPlain();

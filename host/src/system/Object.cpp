@@ -12,7 +12,7 @@
 namespace velmara {
 
 // Objects have the size of arrays, and come and go with them.
-void* Object::operator new(std::size_t size)
+inline void* Object::operator new(std::size_t size)
 {
     static_assert(sizeof(Object) <= SmallMemory::size);
     ThreadShare* const share = shareOfThisThread;
@@ -20,33 +20,40 @@ void* Object::operator new(std::size_t size)
     return memory ? memory : SmallMemory::allocate();
 }
 
-void Object::operator delete(void* memory) noexcept
+inline void Object::operator delete(void* memory) noexcept
 {
     SmallMemory::giveBack(memory, ownThreadShare());
 }
 
-Object::Object(Class& cls) : own_{.className = cls.name()}, class_(&cls), machine_(&cls.machine())
+inline Object::Object(Class& cls, std::size_t enumerator)
+    : enumerator_(static_cast<std::uint16_t>(enumerator)),
+      own_{.className = cls.name()},
+      class_(&cls),
+      machine_(&cls.machine())
 {
     cls.objects().add(*this);
     ++liveCountsOfThisThread().objects;
 }
 
-Object::Object(Class& cls, std::size_t enumerator) : Object(cls)
-{
-    enumerator_ = static_cast<std::uint16_t>(enumerator + 1);
-}
-
-Object::~Object()
+inline Object::~Object()
 {
     --liveCountsOfThisThread().objects;
 }
 
-void Object::initialize()
+Object& Object::make(Class& cls)
 {
-    if (!isValid())
-        throwHostError("VELMARA:object", "invalid", {std::string(className()->view())});
-    if (isInitialized_)
-        throwHostError("VELMARA:object", "initialized", {std::string(className()->view())});
+    return *new Object(cls);
+}
+
+Object& Object::makeEnumerator(Class& cls, std::size_t enumerator)
+{
+    return *new Object(cls, enumerator + 1);
+}
+
+[[gnu::flatten]] void Object::initialize()
+{
+    if (!isValid() || isInitialized_) [[unlikely]]
+        throwHostError("VELMARA:object", isValid() ? "initialized" : "invalid", {std::string(className()->view())});
     HvmState::Entry const entry(*machine_);
     isInitialized_ = true;
     try {
@@ -61,10 +68,11 @@ void Object::initialize()
 
 void Object::createInstanceData(Class& cls)
 {
-    slotOf(cls.name()); // room first: what the class makes must not be lost
+    if (&cls != class_)
+        furtherSlotOf(cls.name()); // room first: what the class makes must not be lost
     void* const data = cls.info().createInstanceData();
     if (isValid()) [[likely]] {
-        Slot& slot = slotOf(cls.name());
+        Slot& slot = &cls == class_ ? own_ : furtherSlotOf(cls.name());
         slot.native = data;
         slot.made = true;
         slot.recorded = data != nullptr;
@@ -98,7 +106,13 @@ void Object::destroyInstanceData(Class& cls) noexcept
     }
 }
 
-void Object::end() noexcept
+void Object::freeIfUnreferenced() noexcept
+{
+    if (state_ == State::Ended && external_ + internal_ + weak_ == 0)
+        delete this;
+}
+
+[[gnu::flatten]] void Object::end() noexcept
 {
     if (isEnded())
         return;
@@ -123,12 +137,6 @@ void Object::lastReferenceGone() noexcept
         freeIfUnreferenced();
     else
         end();
-}
-
-void Object::freeIfUnreferenced() noexcept
-{
-    if (state_ == State::Ended && external_ + internal_ + weak_ == 0)
-        delete this;
 }
 
 void Object::setNativeObject(orbis::COSNameID const& name, void* object)

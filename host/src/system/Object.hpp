@@ -22,15 +22,12 @@ class Object final : public orbis::COSInterface {
 public:
     /// A new object of `cls` with no reference yet, entered in the class's list. It has no instance data until
     /// `initialize`.
-    explicit Object(Class& cls);
+    static Object& make(Class& cls);
 
     /// The object of an enumerator of `cls`: it is never initialized, so it has no instance data.
-    Object(Class& cls, std::size_t enumerator);
+    static Object& makeEnumerator(Class& cls, std::size_t enumerator);
 
     static constexpr std::size_t mostEnumerators = std::numeric_limits<std::uint16_t>::max();
-
-    static void* operator new(std::size_t size);
-    static void operator delete(void* memory) noexcept;
 
     void addExternal() { ++external_; }
     void addInternal() { ++internal_; }
@@ -119,7 +116,11 @@ private:
         void* native = nullptr;
     };
 
+    explicit Object(Class& cls, std::size_t enumerator = 0);
     ~Object();
+
+    static void* operator new(std::size_t size);
+    static void operator delete(void* memory) noexcept;
 
     void lastReferenceGone() noexcept;
     void freeIfUnreferenced() noexcept;

@@ -78,7 +78,10 @@ Class* PackageTree::findClass(std::string_view fullName)
 {
     auto const find = [this, fullName]() -> Class* {
         Class* const* const found = classes_.findText(fullName);
-        return found && !(*found)->isClosed() ? *found : nullptr;
+        if (!found || (*found)->isClosed())
+            return nullptr;
+        recentClasses_.remember(fullName, **found);
+        return *found;
     };
     if (Class* const found = find())
         return found;
@@ -230,6 +233,7 @@ void PackageTree::leave(Class const& cls)
     Class* const* const found = classes_.find(cls.name());
     if (found && *found == &cls) {
         classes_.erase(cls.name());
+        recentClasses_.clear();
         machine_.types().forgetClass(cls.name());
     }
 }

@@ -2,6 +2,7 @@
 
 #include "system/NameMap.hpp"
 #include "system/Package.hpp"
+#include "system/RecentClasses.hpp"
 
 #include <functional>
 #include <memory>
@@ -26,6 +27,9 @@ public:
     /// Null when there is none; the class is not described by this.
     Class* findClass(std::string_view fullName);
     Class* findClass(Name fullName);
+
+    /// The class if it was found lately under this name. It may have been closed since.
+    Class* recentClass(std::string_view fullName) const { return recentClasses_.find(fullName); }
 
     /// A class without a package. Packages publish these as they are populated, so those at the top level are, but for
     /// what cannot be.
@@ -73,6 +77,7 @@ private:
     HvmState& machine_;
     NameMap<Package*> packages_;
     NameMap<Class*> classes_;
+    RecentClasses recentClasses_;
     std::vector<Undo>* record_ = nullptr;
     std::unique_ptr<Package> root_;
 };

@@ -16,7 +16,7 @@
 
 namespace velmara {
 
-Class& requireClass(HvmState& machine, std::string_view fullName)
+Class& requireAnyClass(HvmState& machine, std::string_view fullName)
 {
     Class* cls = machine.packages().findClass(fullName);
     if (!cls)

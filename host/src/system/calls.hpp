@@ -1,16 +1,24 @@
 #pragma once
 
+#include "system/Class.hpp"
 #include "system/Dispatch.hpp"
+#include "system/HvmState.hpp"
+#include "system/PackageTree.hpp"
 #include "system/objectValidity.hpp"
 
 #include <string_view>
 
 namespace velmara {
 
-class Class;
+/// `requireClass` for every class.
+Class& requireAnyClass(HvmState& machine, std::string_view fullName);
 
 /// The class of that full name, described. Throws "VELMARA:class:unknown" when there is none.
-Class& requireClass(HvmState& machine, std::string_view fullName);
+inline Class& requireClass(HvmState& machine, std::string_view fullName)
+{
+    Class* const recent = machine.packages().recentClass(fullName);
+    return recent && recent->isReady() ? *recent : requireAnyClass(machine, fullName);
+}
 
 /// Throws "VELMARA:object:notObject" for what is no object array.
 void requireObjectArray(hvArray_tag const* array);

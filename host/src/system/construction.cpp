@@ -12,7 +12,7 @@ namespace velmara {
 namespace {
 
 /// A new object, held by its array from the beginning.
-ArrayPtr makeObject(Class& cls)
+[[gnu::always_inline]] inline ArrayPtr makeObject(Class& cls)
 {
     ArrayPtr array(Array::createObjects(cls.name(), 1, 1));
     Object& object = cls.makeObject();
@@ -22,12 +22,13 @@ ArrayPtr makeObject(Class& cls)
 }
 
 /// Calls a constructor for a new object. When it fails, the object ends with its array.
-ArrayPtr invokeConstructor(Class& cls, Method const& constructor, ConvertedInputs const& inputs)
+[[gnu::always_inline]] inline ArrayPtr invokeConstructor(Class& cls, Method const& constructor, int inputCount,
+                                                         orbis::COSValue const* inputs)
 {
     ArrayPtr object = makeObject(cls);
     orbis::COSValue output(object.get());
     int outputCount = 0;
-    constructor.info->invoke(nullptr, outputCount, &output, inputs.count(), inputs.values());
+    constructor.info->invoke(nullptr, outputCount, &output, inputCount, inputs);
     if (output.array() != object.get()) {
         ArrayPtr const foreign(output.array());
         throwHostError("VELMARA:result", "type",
@@ -36,23 +37,34 @@ ArrayPtr invokeConstructor(Class& cls, Method const& constructor, ConvertedInput
     return object;
 }
 
-ArrayPtr constructObject(HvmState& machine, std::string_view className, Inputs inputs)
+/// With every constructor and every input.
+[[gnu::noinline]] ArrayPtr constructAny(Class& cls, Inputs inputs)
+{
+    MethodGroup const& constructors = cls.tables().constructors;
+    if (constructors.methods.empty()) {
+        if (!inputs.empty())
+            throwHostError("VELMARA:class", "noConstructor", {std::string(cls.name()->view())});
+        return makeObject(cls);
+    }
+    CallInputs const call{nullptr, inputs};
+    ConvertedInputs converted(call.capacity());
+    Method const& constructor = choose(constructors, call, converted);
+    return invokeConstructor(cls, constructor, converted.count(), converted.values());
+}
+
+[[gnu::always_inline]] inline ArrayPtr constructObject(HvmState& machine, std::string_view className, Inputs inputs)
 {
     Class& cls = requireClass(machine, className);
     if (cls.isEnumeration()) [[unlikely]]
         cls.requireNoEnumeration();
     if (char const* const refusal = cls.constructionRefusal()) [[unlikely]]
         throwHostError("VELMARA:class", refusal, {std::string(cls.name()->view())});
-    MethodGroup const& constructors = cls.tables().constructors;
-    if (constructors.methods.empty()) {
-        if (!inputs.empty())
-            throwHostError("VELMARA:class", "noConstructor", {std::string(className)});
-        return makeObject(cls);
+    if (Method const* const constructor = cls.tables().constructors.plainConstructor) [[likely]] {
+        PlainInputs plain;
+        if (plain.read(*constructor, inputs)) [[likely]]
+            return invokeConstructor(cls, *constructor, static_cast<int>(constructor->inputCount), plain.values());
     }
-    CallInputs const call{nullptr, inputs};
-    ConvertedInputs converted(call.capacity());
-    Method const& constructor = choose(constructors, call, converted);
-    return invokeConstructor(cls, constructor, converted);
+    return constructAny(cls, inputs);
 }
 
 } // namespace
