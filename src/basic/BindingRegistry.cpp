@@ -3,7 +3,7 @@
 #include "orbis/factory/CopyableSupport.hpp"
 #include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/basic/registry.hpp"
-#include "orbis/factory/detail/forgetBinding.hpp"
+#include "orbis/factory/detail/bindings.hpp"
 #include "orbis/factory/detail/hostShares.hpp"
 #include "orbis/factory/errorIdentities.hpp"
 
@@ -43,21 +43,6 @@ COSInterfacePtr newInitializedInstance(COSNameID const& className)
     return found == table.end() ? nullptr : found->second;
 }
 
-[[gnu::noinline]] void rememberClass(FooRegistry& table, void const* object, COSNameID const& className)
-{
-    if (!table.count(object))
-        (*table.classNames)[object] = static_cast<COSString>(className).c_str();
-}
-
-/// An address that is a key already keeps its entry.
-void insert(void* object, COSInterface* host, COSNameID const& className)
-{
-    FooRegistry& table = HvmScoped<FooRegistry>::get();
-    if (table.classNames) [[unlikely]]
-        rememberClass(table, object, className);
-    table.bind(object, host);
-}
-
 /// Erases the mapping of `object`; an empty pointer when it is no key.
 std::unique_ptr<RegistryEntry> take(void const* object)
 {
@@ -86,7 +71,7 @@ std::unique_ptr<RegistryEntry> take(void const* object)
         COSInterfacePtr instance = newInitializedInstance(className);
         instance->setNativeObject(className, object);
         omSetArrayElement(array.get(), 0, instance);
-        insert(object, instance, className);
+        registry().bind(object, instance, className);
     }
     return array.release();
 }
@@ -130,11 +115,9 @@ COSInterfacePtr BindingRegistry::announceInternal(void* object, COSNameID const&
 void BindingRegistry::announceForConstructor(void* const object, COSNameID const& className, hvArray* constructed,
                                              bool store)
 {
-    CopyableSupport::removeFromUnconstructedSet(object);
-    COSInterfacePtr instance = cosiGetArrayElement(constructed, 0);
-    instance->setNativeObject(className, object);
-    if (object && store)
-        insert(object, instance, className);
+    CopyableSupport::removeFromUnconstructedSet(object); // before anything can fail
+    COSInterfacePtr const instance = cosiGetArrayElement(constructed, 0);
+    detail::bindConstructed(instance, className, object, store);
 }
 
 hvArray* BindingRegistry::announceWithoutStoring(void* source, COSNameID const& className,
@@ -166,7 +149,7 @@ void BindingRegistry::hijack(void const* const oldObject, void* newObject, COSIn
     // A binding of the old address to another host object is left in place on purpose.
     bool const movesBinding = oldObject != newObject && find(oldObject) == host;
     host->setNativeObject(className, newObject);
-    insert(newObject, host, className);
+    registry().bind(newObject, host, className);
     if (movesBinding)
         take(oldObject);
 }
@@ -202,17 +185,3 @@ bool BindingRegistry::retract(void const* const object)
 }
 
 } // namespace orbis::factory::basic
-
-bool orbis::factory::detail::forgetBinding(COSInterface const* host, void const* object)
-{
-    using namespace basic;
-    FooRegistry& table = HvmScoped<FooRegistry>::get();
-    auto const found = object ? table.find(object) : table.end();
-    if (found == table.end() || (host && found->second->host != host))
-        return false;
-    COSInterface* const bound = found->second->host;
-    table.unbind(found);
-    if (!table.handles.empty())
-        table.giveBackHandles(bound);
-    return true;
-}

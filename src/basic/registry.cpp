@@ -45,29 +45,6 @@ FooRegistry::~FooRegistry()
         delete spare_.mapped();
 }
 
-void FooRegistry::bind(void* object, COSInterface* host)
-{
-    if (spare_) {
-        spare_.key() = object;
-        *spare_.mapped() = RegistryEntry(object, host);
-        auto result = insert(std::move(spare_));
-        spare_ = std::move(result.node);
-        return;
-    }
-    auto entry = std::make_unique<RegistryEntry>(object, host);
-    if (emplace(object, entry.get()).second)
-        static_cast<void>(entry.release());
-}
-
-void FooRegistry::unbind(iterator mapping)
-{
-    std::unique_ptr<RegistryEntry> const entry(spare_ ? mapping->second : nullptr);
-    if (entry)
-        erase(mapping);
-    else
-        spare_ = extract(mapping);
-}
-
 void FooRegistry::giveBackHandles(COSInterface* host)
 {
     auto const first = handles.lower_bound({host, nullptr});

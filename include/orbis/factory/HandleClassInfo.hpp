@@ -2,7 +2,7 @@
 
 #include "orbis/factory/HostClass.hpp"
 #include "orbis/factory/OrbisFactoryClassInfo.hpp"
-#include "orbis/factory/detail/forgetBinding.hpp"
+#include "orbis/factory/detail/bindings.hpp"
 #include "orbis/factory/detail/hostShares.hpp"
 
 #include <type_traits>

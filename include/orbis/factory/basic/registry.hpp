@@ -3,6 +3,8 @@
 #include "orbis/factory/basic/RegistryEntry.hpp"
 #include "orbis/factory/export.hpp"
 
+#include "orbis/COSNameID.hpp"
+
 #include <boost/unordered_map.hpp>
 
 #include <memory>
@@ -21,7 +23,7 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     ~FooRegistry();
 
     /// Adds a new entry, unless there is one for `object`. `host` is held by someone else.
-    void bind(void* object, COSInterface* host);
+    void bind(void* object, COSInterface* host, COSNameID const& className);
 
     /// Erases a mapping and destroys its entry.
     void unbind(iterator mapping);
@@ -36,6 +38,9 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     std::unique_ptr<boost::unordered_map<void const*, std::string>> classNames;
 
 private:
+    void bindFirst(void* object, COSInterface* host);
+    void rememberClass(void const* object, COSNameID const& className);
+
     /// The mapping erased last, entry and all: objects that come and go one after the other take no memory.
     node_type spare_;
 };

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "orbis/factory/HvArrayPolicy.hpp"
-#include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/detail/Argument.hpp"
 #include "orbis/factory/detail/CallableTraits.hpp"
 #include "orbis/factory/detail/NativeOwnership.hpp"
+#include "orbis/factory/detail/bindings.hpp"
 #include "orbis/factory/impl/Invoker.hpp"
 #include "orbis/factory/impl/validateSelfPointer.hpp"
 
@@ -102,17 +102,18 @@ struct ConstructorRoutine<T, TypeList<A...>, Completion> {
     {
         hvArray* const constructed = outputs[0].array();
         COSNameID const className(HostClass<T>::name);
-        T* const existing =
-            MarshalerOf<T*>::template fromBound<T>(cosiGetArrayElement(constructed, 0)->getNativeObject(className));
+        COSInterfacePtr const held = cosiGetArrayElement(constructed, 0);
+        COSInterface* const host = held;
+        T* const existing = MarshalerOf<T*>::template fromBound<T>(host->getNativeObject(className));
         ArgumentsOf<A...> arguments(inputs);
         auto const completion = invoker->target.template as<Completion>();
         if (existing) {
             assign(*existing, arguments, completion);
-            announce(existing, className, constructed);
+            bind(host, className, existing);
         } else {
             auto made = arguments.apply(completion.complete(
                 [](auto&&... values) { return NativeOwnership<T>::make(static_cast<decltype(values)>(values)...); }));
-            announce(made.get(), className, constructed);
+            bind(host, className, made.get());
             NativeOwnership<T>::handOver(std::move(made), constructed);
         }
         if (outputCount == 0)
@@ -120,11 +121,10 @@ struct ConstructorRoutine<T, TypeList<A...>, Completion> {
     }
 
 private:
-    static void announce(T* object, COSNameID const& className, hvArray* constructed)
+    static void bind(COSInterface* host, COSNameID const& className, T* object)
     {
         using Bound = MarshalerOf<T*>;
-        basic::BindingRegistry::announceForConstructor(Bound::boundAddress(object), className, constructed,
-                                                       Bound::isHandle);
+        bindConstructed(host, className, Bound::boundAddress(object), Bound::isHandle);
     }
 
     static void assign([[maybe_unused]] T& existing, [[maybe_unused]] ArgumentsOf<A...>& arguments,
