@@ -4,6 +4,7 @@
 #include "orbis/factory/HandleClassInfo.hpp"
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/impl/OrbisConstructor.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "velmara/Hvm.hpp"
@@ -98,6 +99,7 @@ public:
         object = hvm.construct(adderName);
         orbis::COSInterface* const host = orbis::omGetArrayElement(object.get(), 0);
         native = static_cast<Adder*>(host->getNativeObject(COSNameID(adderName)));
+        bind(constructor, AdderInfo::description().members().at(0));
         bind(member, AdderInfo::description().members().at(1));
         bind(function.method(), orbis::factory::describeFunctions().function("add", &addFree).functions().at(0));
     }
@@ -114,7 +116,8 @@ public:
 private:
     velmara::Hvm::Scope scope_;
 
-    static void bind(orbis::factory::impl::MethodImpl& method, orbis::factory::MemberRecord const& record)
+    template <class Method>
+    static void bind(Method& method, orbis::factory::MemberRecord const& record)
     {
         method.invoker().invokeFn = record.invokeFn;
         method.invoker().setTarget(record.target);
@@ -123,6 +126,8 @@ private:
 public:
     velmara::ArrayPtr object;
     Adder* native = nullptr;
+    orbis::factory::impl::OrbisConstructor constructor{"Adder", {}, ""};
+    AdderInfo info;
     orbis::factory::impl::MethodImpl member{"add", {}, ""};
     orbis::factory::FunctionInfo function{"add", {}};
     HandWrittenAdd handWritten;

@@ -54,6 +54,7 @@ int main(int argc, char** argv)
                                  {"callWithName", run<&Enumerations::callWithName>},
                                  {"callWithNumber", run<&Enumerations::callWithNumber>},
                                  {"construct", run<&Calls::construct>},
+                                 {"bind", run<&Calls::bind>},
                                  {"createValue", run<&bench::ownership::Values::create>},
                                  {"createWrappable", run<&bench::ownership::Wrappables::create>},
                                  {"createShareable", run<&bench::ownership::BoostShareds::create>},
