@@ -2,6 +2,7 @@
 
 #include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/detail/hostShares.hpp"
 #include "orbis/factory/full/SharingType.hpp"
 #include "orbis/factory/full/Wrappable.hpp"
 
@@ -25,6 +26,25 @@ struct KeepAliveSet {
         auto* const set = basic::HvmScoped<KeepAliveSet>::find();
         if (object && set)
             set->objects.erase(object);
+    }
+
+    /// See `detail::releaseHostKept...`.
+    static void dropForHost(COSInterface const* host, void* bound)
+    {
+        auto* const set = basic::HvmScoped<KeepAliveSet>::find();
+        if (!set || set->objects.empty())
+            return;
+        // Owns nothing, and is only compared. The address of the first base is the object's own.
+        auto const kept = set->objects.find(Pointer(Pointer(), static_cast<typename Pointer::element_type*>(bound)));
+        if (kept == set->objects.end())
+            return;
+        COSInterface const* const holder = basic::BindingRegistry::find(bound);
+        if (host && holder && holder != host && !detail::hasShare(host))
+            return; // it is a new object at the address
+        Pointer const object = *kept;
+        SharingType const type = object->getSharingType();
+        if (type == SharingType::HostKept || type == SharingType::HostKeptAlone)
+            drop(object);
     }
 
     /// An object that is kept for a host object and is bound to none; null when there is no such object.

@@ -1,6 +1,7 @@
 #include "orbis/factory/full/StdShareable.hpp"
 
 #include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/detail/releaseHostKept.hpp"
 
 #include "full/KeepAliveSet.hpp"
 #include "full/forsakenObjects.hpp"
@@ -63,3 +64,8 @@ bool canAcquireReference(StdShareable*)
 }
 
 } // namespace orbis::factory::full
+
+void orbis::factory::detail::releaseHostKeptStdShareable(COSInterface const* object, void* data)
+{
+    full::Kept::dropForHost(object, data);
+}

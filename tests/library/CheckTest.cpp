@@ -4,6 +4,7 @@
 
 #include "orbis/factory/check.hpp"
 
+#include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/basic/registry.hpp"
 #include "orbis/factory/detail/handles.hpp"
 #include "orbis/factory/detail/hostShares.hpp"

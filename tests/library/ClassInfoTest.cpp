@@ -5,10 +5,12 @@
 #include "orbis/factory/NonHandleClassInfo.hpp"
 #include "orbis/factory/ValuePolicy.hpp"
 #include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/full/BindingRegistry.hpp"
 
 #include "orbis/objectArrays.hpp"
 
 #include <memory>
+#include <thread>
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -69,7 +71,7 @@ TYPED_TEST(SharedClassInfoTest, TheSharingTypeSaysWhoseTheKeptReferenceIs)
     using Object = Shared<TypeParam>;
     for (auto const& [type, isReleased] :
          {std::pair(SharingType::HostKept, true), std::pair(SharingType::Shared, false),
-          std::pair(SharingType::HostKeptAlone, true)}) {
+          std::pair(SharingType::HostKeptAlone, true), std::pair(SharingType(5), false)}) {
         Bare<typename TypeParam::template Info<Object>> info;
         typename Object::Pointer const object(new Object);
         object->type = type;
@@ -84,6 +86,18 @@ TYPED_TEST(SharedClassInfoTest, TheSharingTypeSaysWhoseTheKeptReferenceIs)
         EXPECT_EQ(object.use_count(), isReleased ? 1 : 2);
         releaseReference(object.get());
     }
+}
+
+TYPED_TEST(SharedClassInfoTest, AnObjectThatEndedUntoldIsNotAsked)
+{
+    using Object = Shared<TypeParam>;
+    publishClass<Object, typename TypeParam::template Info<Object>>([](auto& c) { c.constructor(); });
+    typename Object::Pointer object(new Object);
+    ArrayPtr const array(full::BindingRegistry::announce(object.get(), COSNameID(TypeParam::name)));
+    std::thread([&] { object.reset(); }).join(); // no virtual machine is current there
+    EXPECT_EQ(Object::alive, 0);
+    this->hvm().deleteObjects(array.get());
+    EXPECT_TRUE(basic::registry().empty());
 }
 
 // A value class.

@@ -22,7 +22,7 @@ public:
     /// Forgets the binding and gives up what the host object held; true when there was a binding.
     bool destroyInstanceData(COSInterface* object, void* data) override
     {
-        detail::releaseHostKept<full::StdShareable>(object, data);
+        detail::releaseHostKeptStdShareable(object, data);
         return HandleClassInfo<T, 0>::destroyInstanceData(object, data);
     }
 };
