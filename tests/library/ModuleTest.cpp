@@ -54,7 +54,7 @@ TEST_F(ModuleTest, InitialisationCountsOncePerVirtualMachine)
 
 TEST_F(ModuleTest, TwoVirtualMachinesOnTwoThreadsShareNothing)
 {
-    auto const settle = [this](double start) {
+    auto const settle = [](double start) {
         for (int round = 0; round < 10; ++round) {
             velmara::Hvm machine;
             velmara::Hvm::Scope const scope(machine);
