@@ -2,11 +2,10 @@
 
 #include "bench/CallScenarios.hpp"
 
-#include "orbis/factory/impl/ClassGetter.hpp"
-#include "orbis/factory/impl/ClassSetter.hpp"
-#include "orbis/factory/impl/PropertyImpl.hpp"
+#include "orbis/factory/impl/PropertyImplBase.hpp"
 
 #include <cstddef>
+#include <memory>
 #include <stdexcept>
 
 namespace bench {
@@ -48,10 +47,11 @@ using orbis::factory::impl::PropertyImplBase;
 class GaugeInfo final : public orbis::factory::HandleClassInfo<Gauge, 1> {
 public:
     GaugeInfo() : HandleClassInfo(gaugeName, "") {}
-    void initializeClass(orbis::COSClass* cls) override
+    void initializeClass(orbis::COSClass* cls) override { publish(cls, description()); }
+
+    static orbis::factory::ClassDescription description()
     {
-        publish(cls,
-                orbis::factory::describe<Gauge>().constructor().property("level", &Gauge::level, &Gauge::setLevel));
+        return orbis::factory::describe<Gauge>().constructor().property("level", &Gauge::level, &Gauge::setLevel);
     }
 };
 
@@ -95,9 +95,9 @@ public:
             property.setValue(host_, COSValue(std::int32_t{7}));
     }
 
-    void get(std::size_t count) { read(generated_, count); }
+    void get(std::size_t count) { read(*described_, count); }
     void handWrittenGet(std::size_t count) { read(handWritten_, count); }
-    void set(std::size_t count) { write(generated_, count); }
+    void set(std::size_t count) { write(*described_, count); }
     void handWrittenSet(std::size_t count) { write(handWritten_, count); }
 
     void getByName(std::size_t count)
@@ -113,8 +113,12 @@ public:
     }
 
 private:
-    using Getter = orbis::factory::impl::ClassGetter<std::int32_t, Gauge, decltype(&Gauge::level), std::int32_t>;
-    using Setter = orbis::factory::impl::ClassSetter<std::int32_t, Gauge, decltype(&Gauge::setLevel)>;
+    /// The descriptor that the host is given.
+    static std::unique_ptr<orbis::COSPropInfo> describedLevel()
+    {
+        orbis::factory::PropertyRecord const record = GaugeInfo::description().properties().at(0);
+        return record.make(record);
+    }
 
     velmara::ArrayPtr publishAndConstruct()
     {
@@ -127,9 +131,7 @@ private:
     velmara::ArrayPtr object_ = publishAndConstruct();
     velmara::ArrayPtr seven_ = Fixture::number(7);
     COSInterface* host_ = orbis::omGetArrayElement(object_.get(), 0);
-    Getter getter_{&Gauge::level};
-    Setter setter_{&Gauge::setLevel};
-    orbis::factory::impl::PropertyImpl generated_{"level", &getter_, &setter_, {}};
+    std::unique_ptr<orbis::COSPropInfo> described_ = describedLevel();
     HandWrittenLevel handWritten_;
 };
 

@@ -6,7 +6,6 @@
 #include "orbis/factory/impl/OrbisConstructor.hpp"
 
 #include "module/KeepingDescriptor.hpp"
-#include "module/OwnedProperty.hpp"
 #include "module/PublishedClasses.hpp"
 #include "module/notPublished.hpp"
 
@@ -82,13 +81,11 @@ void add(COSClass* cls, char const* name, MemberRecord const& record, char const
     });
 }
 
-std::unique_ptr<OwnedProperty> makeProperty(PropertyRecord const& record)
+std::unique_ptr<impl::PropertyImpl> makeProperty(PropertyRecord const& record)
 {
     if (record.attributes.isStatic() && record.needsObject)
         throw std::invalid_argument("a static property has no object: give static data, or functions that take none");
-    return std::make_unique<OwnedProperty>(record.name, record.makeGetter ? record.makeGetter(record.getter) : nullptr,
-                                           record.makeSetter ? record.makeSetter(record.setter) : nullptr,
-                                           record.attributes);
+    return record.make(record);
 }
 
 void setSuperclasses(COSClass* cls, std::vector<NativeClassRecord> const& superclasses)

@@ -1,10 +1,13 @@
 #include "HvmTest.hpp"
+#include "host/messageIdOf.hpp"
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/NumericVectorPolicy.hpp"
 #include "orbis/factory/StringViewPolicy.hpp"
 #include "orbis/factory/stringVectors.hpp"
 
+#include "libkwfl/IMsgIDException.hpp"
+#include "orbis/COSDataType.hpp"
 #include "orbis/objectArrays.hpp"
 
 #include <algorithm>
@@ -202,16 +205,24 @@ TEST_F(PropertyFormsTest, ReleaseRoutinesRunOnceForEachValue)
     EXPECT_EQ(native().locks, -10) << "writing reads nothing";
 }
 
-TEST_F(PropertyFormsTest, DescribedWithoutAHost)
+TEST_F(PropertyFormsTest, DescriptorsAreMadeFromTheDescription)
 {
     ClassDescriber<Image> description;
     describeImage(description);
-    auto const find = [&](std::string_view name) {
-        return *std::ranges::find(description.properties(), name, &PropertyRecord::name);
+    auto const made = [&](std::string_view name) {
+        PropertyRecord const& record = *std::ranges::find(description.properties(), name, &PropertyRecord::name);
+        return record.make(record);
     };
-    EXPECT_FALSE(find("pi").attributes.isVisible());
-    EXPECT_EQ(find("shown").attributes.getMemberSetAccess(), MemberAccess::NoAccess);
-    EXPECT_STREQ(find("title").makeSetter(find("title").setter)->dataTypeName(), "char vector");
+    EXPECT_FALSE(made("pi")->isVisible());
+    EXPECT_EQ(made("shown")->getMemberSetAccess(), MemberAccess::NoAccess);
+    EXPECT_STREQ(made("title")->getDataType()->scalarTypeName(), "char vector");
+    COSInterface* const host = omGetArrayElement(object_.get(), 0);
+    for (std::string const& error : {messageIdOf([&] { made("extent")->getValue(host); }),
+                                     messageIdOf([&] { made("extent")->releaseValue(host, {}); }),
+                                     messageIdOf([&] { made("scale")->setValue(host, COSValue(1.0)); })})
+        EXPECT_EQ(error, "orbis_factory:orbis_factory:null_fcn_ptr");
+    native().next = &native();
+    EXPECT_EQ(made("next")->getInterfaces(nullptr, host).nextElement(), host);
 }
 
 } // namespace

@@ -2,8 +2,7 @@
 
 #include "orbis/factory/PropertyAttributes.hpp"
 #include "orbis/factory/impl/Callable.hpp"
-#include "orbis/factory/impl/Getter.hpp"
-#include "orbis/factory/impl/Setter.hpp"
+#include "orbis/factory/impl/PropertyImpl.hpp"
 
 #include <memory>
 
@@ -12,16 +11,14 @@ namespace orbis::factory {
 /// One property as it is described: what its descriptor will be made of, without a host. All texts live as long as
 /// the program (they are literals).
 struct PropertyRecord {
-    using MakeGetter = std::unique_ptr<impl::Getter> (*)(impl::Callable const& function);
-    using MakeSetter = std::unique_ptr<impl::Setter> (*)(impl::Callable const& function);
+    using Make = std::unique_ptr<impl::PropertyImpl> (*)(PropertyRecord const& record);
 
     char const* name;
     PropertyAttributes attributes;
-    MakeGetter makeGetter = nullptr; ///< null for a write-only property
-    impl::Callable getter = {};
-    MakeSetter makeSetter = nullptr; ///< null for a read-only property
-    impl::Callable setter = {};
-    bool needsObject = false; ///< to be read, written or released; a static property has none
+    Make make = nullptr;        ///< makes the descriptor, with a getter and a setter of its own
+    impl::Callable getter = {}; ///< null for a write-only property
+    impl::Callable setter = {}; ///< null for a read-only property
+    bool needsObject = false;   ///< to be read, written or released; a static property has none
 };
 
 } // namespace orbis::factory

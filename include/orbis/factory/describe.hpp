@@ -142,9 +142,7 @@ public:
         if constexpr (detail::isWritableData<T, G>)
             return property(name, getter, getter, attributes);
         else if constexpr (detail::canRead<T, G>()) {
-            PropertyRecord record{name, attributes};
-            detail::setGetter<T>(record, getter);
-            add(record);
+            add(detail::propertyRecord<T>(name, getter, detail::NoAccess(), attributes));
         }
         return *this;
     }
@@ -156,10 +154,7 @@ public:
     {
         if constexpr (detail::canRead<T, G>() && detail::canWrite<T, S>()) {
             if constexpr (detail::areOneType<T, G, S>()) {
-                PropertyRecord record{name, attributes};
-                detail::setGetter<T>(record, getter);
-                detail::setSetter<T>(record, setter);
-                add(record);
+                add(detail::propertyRecord<T>(name, getter, setter, attributes));
             }
         }
         return *this;
@@ -169,9 +164,7 @@ public:
     ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyAttributes attributes = {})
     {
         if constexpr (detail::canWrite<T, S>()) {
-            PropertyRecord record{name, attributes};
-            detail::setSetter<T>(record, setter);
-            add(record);
+            add(detail::propertyRecord<T>(name, detail::NoAccess(), setter, attributes));
         }
         return *this;
     }

@@ -14,9 +14,12 @@
 namespace orbis::factory::detail {
 
 /// The native object recorded for `className` in `object`; null for null, and when nothing is recorded.
-inline void* nativeObject(COSInterface const* object, char const* className)
+[[gnu::always_inline]] inline void* nativeObject(COSInterface const* object, char const* className)
 {
-    return object ? object->getNativeObject(COSNameID(className)) : nullptr;
+    if (!object)
+        return nullptr;
+    COSNameID const name(className); // first: else the function to call is kept meanwhile
+    return object->getNativeObject(name);
 }
 
 /// The native object recorded for `className` in the first object of `array`; null when the array is empty, its

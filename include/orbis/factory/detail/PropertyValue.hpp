@@ -9,7 +9,7 @@ namespace orbis::factory::detail {
 
 /// The native object behind `object`; throws the `null_self` error when there is none.
 template <class T>
-T& nativeSelf(COSInterface const* object)
+[[gnu::always_inline]] inline T& nativeSelf(COSInterface const* object)
 {
     T* const self = MarshalerOf<T*>::template fromObject<T>(object);
     if (!self) [[unlikely]]
@@ -19,7 +19,7 @@ T& nativeSelf(COSInterface const* object)
 
 /// What `function` gives, as a value of the type `V`.
 template <class V, class F>
-COSValue toValue(F&& function)
+[[gnu::always_inline]] inline COSValue toValue(F&& function)
 {
     COSValue value;
     int outputCount = 1;

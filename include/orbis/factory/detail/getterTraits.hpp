@@ -30,10 +30,10 @@ struct GetterTraits {
     static constexpr bool isGetter = false;
 };
 
-template <class R, class P, class Reader, bool NeedsObject>
+template <class R, class P, class Reader>
 struct ReadThrough {
     static constexpr bool isGetter = true;
-    static constexpr bool needsObject = NeedsObject;
+    static constexpr bool needsObject = Reader::needsObject;
     using Result = R;
     using Pointer = P;
     using Getter = Reader;
@@ -43,8 +43,7 @@ template <class T, class G, class Traits = CallableTraits<G>>
 using ReadThroughMethod =
     ReadThrough<typename Traits::Result, typename Traits::template PointerIn<T>,
                 impl::ClassGetter<typename Traits::Result, T, typename Traits::template PointerIn<T>,
-                                  std::remove_cvref_t<typename Traits::Result>>,
-                true>;
+                                  std::remove_cvref_t<typename Traits::Result>>>;
 
 template <class T, MethodOf<T> G>
     requires(CallableTraits<G>::arity == 0)
@@ -53,20 +52,19 @@ struct GetterTraits<T, G> : ReadThroughMethod<T, G> {};
 template <class T, class M, class C>
     requires std::is_object_v<M> && std::is_base_of_v<C, T>
 struct GetterTraits<T, M C::*>
-    : ReadThrough<M const&, M T::*, impl::ClassGetter<M const&, T, M T::*, std::remove_cv_t<M>>, true> {};
+    : ReadThrough<M const&, M T::*, impl::ClassGetter<M const&, T, M T::*, std::remove_cv_t<M>>> {};
 
 template <class T, class G, class Traits = CallableTraits<G>>
 using ReadThroughFunctionOn = ReadThrough<typename Traits::Result, typename Traits::Pointer,
                                           impl::AdaptedClassGetter<typename Traits::Result, T, typename Traits::Pointer,
-                                                                   std::remove_cvref_t<typename Traits::Result>>,
-                                          true>;
+                                                                   std::remove_cvref_t<typename Traits::Result>>>;
 
 template <class T, FunctionOn<T> G>
     requires(CallableTraits<G>::arity == 1)
 struct GetterTraits<T, G> : ReadThroughFunctionOn<T, G> {};
 
 template <class R>
-using ReadThroughFunction = ReadThrough<R, R (*)(), impl::ClasslessGetter<R, std::remove_cvref_t<R>>, false>;
+using ReadThroughFunction = ReadThrough<R, R (*)(), impl::ClasslessGetter<R, std::remove_cvref_t<R>>>;
 
 template <class T, FreeFunction G>
     requires(CallableTraits<G>::arity == 0)
@@ -74,7 +72,7 @@ struct GetterTraits<T, G> : ReadThroughFunction<typename CallableTraits<G>::Resu
 
 template <class T, class M>
     requires std::is_object_v<M>
-struct GetterTraits<T, M*> : ReadThrough<M const&, M const*, impl::DataGetter<std::remove_cv_t<M>>, false> {};
+struct GetterTraits<T, M*> : ReadThrough<M const&, M const*, impl::DataGetter<std::remove_cv_t<M>>> {};
 
 template <class T, auto Routine, class G>
 struct GetterTraits<T, ReleasedGetter<Routine, G>> : GetterTraits<T, G> {};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/PropertyRecord.hpp"
+#include "orbis/factory/detail/DescribedProperty.hpp"
 #include "orbis/factory/detail/releaseRoutine.hpp"
 #include "orbis/factory/detail/setterTraits.hpp"
 
@@ -18,30 +19,58 @@ G const& unwrapped(ReleasedGetter<Routine, G> const& released)
     return released.getter;
 }
 
-/// Gives the record a getter of `T` that reads through `getter`.
+/// How a described getter of `T` is kept in the record, and what is made of that for the descriptor.
 template <class T, class G>
-void setGetter(PropertyRecord& record, G const& getter)
-{
-    using Traits = GetterTraits<T, G>;
-    using Pointer = typename Traits::Pointer;
-    record.getter = static_cast<Pointer>(unwrapped(getter));
-    record.needsObject |= Traits::needsObject;
-    record.makeGetter = [](impl::Callable const& callable) -> std::unique_ptr<impl::Getter> {
-        return std::make_unique<typename Traits::Getter>(callable.as<Pointer>(), releaseRoutine<T, G>);
-    };
-}
+struct DescribedGetter {
+    using Pointer = typename GetterTraits<T, G>::Pointer;
+    using Access = typename GetterTraits<T, G>::Getter;
+    static constexpr bool needsObject = GetterTraits<T, G>::needsObject;
 
-/// Gives the record a setter of `T` that writes through `setter`.
+    static impl::Callable keep(G const& getter) { return static_cast<Pointer>(unwrapped(getter)); }
+    static Access make(impl::Callable const& kept) { return Access(kept.as<Pointer>(), releaseRoutine<T, G>); }
+};
+
+/// The same for a setter.
 template <class T, class S>
-void setSetter(PropertyRecord& record, S const& setter)
+struct DescribedSetter {
+    using Pointer = typename SetterTraits<T, S>::Pointer;
+    using Access = typename SetterTraits<T, S>::Setter;
+    static constexpr bool needsObject = SetterTraits<T, S>::needsObject;
+
+    static impl::Callable keep(S const& setter) { return static_cast<Pointer>(setter); }
+    static Access make(impl::Callable const& kept) { return Access(kept.as<Pointer>()); }
+};
+
+template <class T>
+struct DescribedGetter<T, NoAccess> {
+    using Access = NoAccess;
+    static constexpr bool needsObject = false;
+
+    static impl::Callable keep(NoAccess) { return {}; }
+    static Access make(impl::Callable const&) { return {}; }
+};
+
+template <class T>
+struct DescribedSetter<T, NoAccess> : DescribedGetter<T, NoAccess> {};
+
+/// A property of `T` with a getter, a setter, or both.
+template <class T, class G, class S>
+PropertyRecord propertyRecord(char const* name, G const& getter, S const& setter, PropertyAttributes attributes)
 {
-    using Traits = SetterTraits<T, S>;
-    using Pointer = typename Traits::Pointer;
-    record.setter = static_cast<Pointer>(setter);
-    record.needsObject |= Traits::needsObject;
-    record.makeSetter = [](impl::Callable const& callable) -> std::unique_ptr<impl::Setter> {
-        return std::make_unique<typename Traits::Setter>(callable.as<Pointer>());
+    using Reading = DescribedGetter<T, G>;
+    using Writing = DescribedSetter<T, S>;
+    using Reader = typename Reading::Access;
+    using Writer = typename Writing::Access;
+    PropertyRecord record{name, attributes};
+    record.make = [](PropertyRecord const& made) -> std::unique_ptr<impl::PropertyImpl> {
+        return std::make_unique<DescribedProperty<Reader, Writer, isReleased<G>>>(
+            made.name, [&] { return Reading::make(made.getter); }, [&] { return Writing::make(made.setter); },
+            made.attributes);
     };
+    record.getter = Reading::keep(getter);
+    record.setter = Writing::keep(setter);
+    record.needsObject = Reading::needsObject || Writing::needsObject;
+    return record;
 }
 
 } // namespace orbis::factory::detail

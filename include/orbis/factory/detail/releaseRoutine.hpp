@@ -30,6 +30,13 @@ inline constexpr impl::ReleaseRoutine releaseRoutine = nullptr;
 template <class T, auto Routine, class G>
 inline constexpr impl::ReleaseRoutine releaseRoutine<T, ReleasedGetter<Routine, G>> = &release<T, Routine>;
 
+/// True for a getter that has a release routine. (Sanitizers keep function addresses from being compared for this.)
+template <class G>
+inline constexpr bool isReleased = false;
+
+template <auto Routine, class G>
+inline constexpr bool isReleased<ReleasedGetter<Routine, G>> = true;
+
 /// False for what is no release routine of `T`.
 template <class T, class G>
 inline constexpr bool isReleasable = true;

@@ -15,10 +15,10 @@ struct SetterTraits {
     static constexpr bool isSetter = false;
 };
 
-template <class A, class P, class Writer, bool NeedsObject>
+template <class A, class P, class Writer>
 struct WrittenThrough {
     static constexpr bool isSetter = true;
-    static constexpr bool needsObject = NeedsObject;
+    static constexpr bool needsObject = Writer::needsObject;
     using Value = A;
     using Pointer = P;
     using Setter = Writer;
@@ -44,7 +44,7 @@ using SetterValue = typename ValueAmong<typename CallableTraits<S>::Parameters>:
 template <class T, class S>
 using WrittenThroughMethod =
     WrittenThrough<SetterValue<S>, typename CallableTraits<S>::template PointerIn<T>,
-                   impl::ClassSetter<SetterValue<S>, T, typename CallableTraits<S>::template PointerIn<T>>, true>;
+                   impl::ClassSetter<SetterValue<S>, T, typename CallableTraits<S>::template PointerIn<T>>>;
 
 template <class T, MethodOf<T> S>
     requires(CallableTraits<S>::arity == 1)
@@ -52,19 +52,18 @@ struct SetterTraits<T, S> : WrittenThroughMethod<T, S> {};
 
 template <class T, class M, class C>
     requires std::is_object_v<M> && (!std::is_const_v<M>) && std::is_base_of_v<C, T>
-struct SetterTraits<T, M C::*> : WrittenThrough<M, M T::*, impl::ClassSetter<M, T, M T::*>, true> {};
+struct SetterTraits<T, M C::*> : WrittenThrough<M, M T::*, impl::ClassSetter<M, T, M T::*>> {};
 
 template <class T, class S, class Pointer = typename CallableTraits<S>::Pointer>
 using WrittenThroughFunctionOn =
-    WrittenThrough<SetterValue<S>, Pointer, impl::AdaptedClassSetter<SetterValue<S>, T, Pointer>, true>;
+    WrittenThrough<SetterValue<S>, Pointer, impl::AdaptedClassSetter<SetterValue<S>, T, Pointer>>;
 
 template <class T, FunctionOn<T> S>
     requires(CallableTraits<S>::arity == 2)
 struct SetterTraits<T, S> : WrittenThroughFunctionOn<T, S> {};
 
 template <class S, class Pointer = typename CallableTraits<S>::Pointer>
-using WrittenThroughFunction =
-    WrittenThrough<SetterValue<S>, Pointer, impl::ClasslessSetter<SetterValue<S>, Pointer>, false>;
+using WrittenThroughFunction = WrittenThrough<SetterValue<S>, Pointer, impl::ClasslessSetter<SetterValue<S>, Pointer>>;
 
 template <class T, FreeFunction S>
     requires(CallableTraits<S>::arity == 1)
@@ -72,6 +71,6 @@ struct SetterTraits<T, S> : WrittenThroughFunction<S> {};
 
 template <class T, class M>
     requires std::is_object_v<M> && (!std::is_const_v<M>)
-struct SetterTraits<T, M*> : WrittenThrough<M, M*, impl::DataSetter<M>, false> {};
+struct SetterTraits<T, M*> : WrittenThrough<M, M*, impl::DataSetter<M>> {};
 
 } // namespace orbis::factory::detail

@@ -8,6 +8,8 @@ namespace orbis::factory::impl {
 template <class R, class T, class F, class V>
 class AdaptedClassGetter final : public CallableGetter<AdaptedClassGetter<R, T, F, V>, R, V> {
 public:
+    static constexpr bool needsObject = true;
+
     explicit AdaptedClassGetter(F function, ReleaseRoutine release = nullptr)
         : CallableGetter<AdaptedClassGetter, R, V>(release),
           function_(function)

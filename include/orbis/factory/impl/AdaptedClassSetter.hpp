@@ -9,6 +9,8 @@ namespace orbis::factory::impl {
 template <class A, class T, class F>
 class AdaptedClassSetter final : public Setter {
 public:
+    static constexpr bool needsObject = true;
+
     explicit AdaptedClassSetter(F function) : function_(function) {}
 
     void setValue(COSInterface* object, COSValue value) const override

@@ -10,6 +10,8 @@ namespace orbis::factory::impl {
 template <class R, class T, class F, class V>
 class ClassGetter final : public CallableGetter<ClassGetter<R, T, F, V>, R, V> {
 public:
+    static constexpr bool needsObject = true;
+
     explicit ClassGetter(F member, ReleaseRoutine release = nullptr)
         : CallableGetter<ClassGetter, R, V>(release),
           member_(member)

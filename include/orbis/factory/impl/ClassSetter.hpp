@@ -11,6 +11,8 @@ namespace orbis::factory::impl {
 template <class A, class T, class F>
 class ClassSetter final : public Setter {
 public:
+    static constexpr bool needsObject = true;
+
     explicit ClassSetter(F member) : member_(member) {}
 
     void setValue(COSInterface* object, COSValue value) const override

@@ -8,6 +8,8 @@ namespace orbis::factory::impl {
 template <class R, class V>
 class ClasslessGetter final : public CallableGetter<ClasslessGetter<R, V>, R, V> {
 public:
+    static constexpr bool needsObject = false;
+
     explicit ClasslessGetter(R (*function)(), ReleaseRoutine release = nullptr)
         : CallableGetter<ClasslessGetter, R, V>(release),
           function_(function)

@@ -9,6 +9,8 @@ namespace orbis::factory::impl {
 template <class A, class F>
 class ClasslessSetter final : public Setter {
 public:
+    static constexpr bool needsObject = false;
+
     explicit ClasslessSetter(F function) : function_(function) {}
 
     void setValue(COSInterface*, COSValue value) const override

@@ -8,6 +8,8 @@ namespace orbis::factory::impl {
 template <class V>
 class DataGetter final : public CallableGetter<DataGetter<V>, V const&, V> {
 public:
+    static constexpr bool needsObject = false;
+
     explicit DataGetter(V const* data, ReleaseRoutine release = nullptr)
         : CallableGetter<DataGetter, V const&, V>(release),
           data_(data)

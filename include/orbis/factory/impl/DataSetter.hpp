@@ -9,6 +9,8 @@ namespace orbis::factory::impl {
 template <class A>
 class DataSetter final : public Setter {
 public:
+    static constexpr bool needsObject = false;
+
     explicit DataSetter(A* data) : data_(data) {}
 
     void setValue(COSInterface*, COSValue value) const override
