@@ -1,5 +1,6 @@
 #include "samples/CppClass.hpp"
 
+#include "orbis/factory/Exception.hpp"
 #include "orbis/factory/OrbisMethod.hpp"
 #include "orbis/factory/StringPolicy.hpp"
 #include "orbis/factory/basic/BindingRegistry.hpp"
@@ -24,7 +25,9 @@ using Text = Marshaler<StringPolicy>;
 
 CppClass& nativeSelf(COSInterface* object)
 {
-    void* const book = object ? object->getNativeObject(COSNameID(HostClass<CppClass>::name)) : nullptr;
+    if (!object)
+        throw Exception("A guest book is needed.");
+    void* const book = object->getNativeObject(COSNameID(HostClass<CppClass>::name));
     impl::validateSelfPointer(book);
     return *static_cast<CppClass*>(book);
 }
