@@ -1,5 +1,6 @@
 #pragma once
 
+#include "system/EndQueue.hpp"
 #include "values/HvmStorage.hpp"
 #include "values/MessageCatalog.hpp"
 
@@ -49,6 +50,7 @@ public:
     PackageTree& packages() { return *packages_; }
     TypeRepository& types() { return *types_; }
     ModuleList& modules() { return *modules_; }
+    EndQueue& endQueue() { return endQueue_; }
 
     using LeakReport = std::function<void(std::string const&)>;
     void setLeakReport(LeakReport report) { leakReport_ = std::move(report); }
@@ -98,6 +100,7 @@ private:
     std::unique_ptr<TypeRepository> types_;
     std::unique_ptr<PackageTree> packages_;
     std::vector<std::shared_ptr<void>> retired_;
+    EndQueue endQueue_;
     int entries_ = 0;
     bool isStorageActive_ = true;
     bool isEnding_ = false;

@@ -121,6 +121,7 @@ void Object::freeIfUnreferenced() noexcept
     class_->objects().remove(*this);
     {
         HvmState::Entry const entry(*machine_);
+        EndQueue::Nesting const nesting(machine_->endQueue());
         if (hasInstanceData)
             destroyInstanceData();
         forgetNativeObjects();
@@ -135,7 +136,13 @@ void Object::lastReferenceGone() noexcept
 {
     if (isEnded())
         freeIfUnreferenced();
-    else
+    else if (!machine_->endQueue().postpone(*this))
+        end();
+}
+
+void Object::endIfUnreferenced() noexcept
+{
+    if (external_ + internal_ == 0)
         end();
 }
 

@@ -76,6 +76,7 @@ public:
     /// Gives up the instance data, the most derived class's first, and leaves the object invalid, without class
     /// and virtual machine. Nothing escapes; a second call does nothing.
     void end() noexcept;
+    void endIfUnreferenced() noexcept;
 
     void setNativeObject(orbis::COSNameID const& className, void* object) override;
     void* getNativeObject(orbis::COSNameID const& className) const override;
