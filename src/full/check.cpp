@@ -62,19 +62,6 @@ std::string checkBindings(HostView const& hosts)
     return {};
 }
 
-/// A native object is bound to one host object, or to none where the binding was released or there never was one.
-std::string checkRecords(HostView const& hosts)
-{
-    basic::FooRegistry const& table = basic::registry();
-    for (RecordedObject const& record : hosts.records()) {
-        auto const found = table.find(record.native);
-        if (found != table.end() && found->second->host != record.host)
-            return "a host object of " + std::string(record.className) + " stands for the native object " +
-                   addressText(record.native) + ", which is bound to another host object";
-    }
-    return {};
-}
-
 std::string checkShares(HostView const& hosts)
 {
     for (COSInterface const* const host : detail::sharingHosts())
@@ -114,8 +101,6 @@ std::string check()
         return {};
     HostView const hosts;
     std::string found = checkBindings(hosts);
-    if (found.empty())
-        found = checkRecords(hosts);
     if (found.empty())
         found = checkShares(hosts);
     if (found.empty())
