@@ -150,8 +150,11 @@ void BindingRegistry::hijack(void const* const oldObject, void* newObject, COSIn
     bool const movesBinding = oldObject != newObject && find(oldObject) == host;
     host->setNativeObject(className, newObject);
     registry().bind(newObject, host, className);
-    if (movesBinding)
-        take(oldObject);
+    if (!movesBinding)
+        return;
+    take(oldObject);
+    if (find(newObject) != host) // which was bound already: no binding is left
+        registry().giveBackHandles(host);
 }
 
 bool BindingRegistry::release(void const* const object)

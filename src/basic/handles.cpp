@@ -6,9 +6,9 @@
 
 namespace orbis::factory::detail {
 
-void enterHandle(COSInterface* host, void const* handle)
+bool enterHandle(COSInterface* host, void const* handle)
 {
-    basic::registry().handles.emplace(host, handle);
+    return basic::registry().handles.emplace(host, handle).second;
 }
 
 bool isEntered(COSInterface* host, void const* handle)

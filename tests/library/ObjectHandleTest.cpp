@@ -16,17 +16,7 @@ using Handle = ObjectHandle<Tally>;
 
 namespace {
 
-/// Refers to others of its kind; deleted with its host object.
-struct Linked {
-    Linked() { ++alive; }
-    Linked(Linked const&) = delete;
-    Linked& operator=(Linked const&) = delete;
-    virtual ~Linked() { --alive; }
-    void setNext(Linked* object);
-    Linked* next() const;
-    std::unique_ptr<struct LinkedHandle> link;
-    inline static int alive = 0;
-};
+struct Linked;
 
 } // namespace
 
@@ -37,19 +27,17 @@ struct orbis::factory::HostClass<Linked> {
 
 namespace {
 
-struct LinkedHandle : ObjectHandle<Linked> {
-    using ObjectHandle<Linked>::ObjectHandle;
+/// Refers to others of its kind; deleted with its host object.
+struct Linked {
+    Linked() { ++alive; }
+    Linked(Linked const&) = delete;
+    Linked& operator=(Linked const&) = delete;
+    virtual ~Linked() { --alive; }
+    void setNext(Linked* object) { link.reset(object); }
+    Linked* next() const { return link.get(); }
+    ObjectHandle<Linked> link;
+    inline static int alive = 0;
 };
-
-void Linked::setNext(Linked* object)
-{
-    link = std::make_unique<LinkedHandle>(object);
-}
-
-Linked* Linked::next() const
-{
-    return link ? link->get() : nullptr;
-}
 
 class ObjectHandleTest : public HvmTest {
 protected:
@@ -118,10 +106,22 @@ TEST_F(ObjectHandleTest, TheBindingMayGoFirst)
     }
 }
 
-TEST_F(ObjectHandleTest, ObjectsThatHoldEachOtherEndWithTheVirtualMachine)
+TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
 {
     COSPackage::removePackage("tests");
     publishClass<Linked>([](auto& c) { c.constructor().property("next", &Linked::next, &Linked::setNext); });
+    auto* head = new Linked;
+    for (int i = 0; i < 100000; ++i) {
+        auto* const longer = new Linked;
+        longer->setNext(head);
+        head = longer;
+    }
+    ObjectHandle<Linked> chain(head);
+    chain.reset(head->next()); // which only the one that ends now referred to
+    EXPECT_EQ(Linked::alive, 100000);
+    chain.reset();
+    EXPECT_EQ(Linked::alive, 0);
+
     ArrayPtr first = hvm().construct("tests.Linked"), second = hvm().construct("tests.Linked");
     hvm().set(first.get(), "next", second.get());
     second.reset();

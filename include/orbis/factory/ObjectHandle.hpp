@@ -33,7 +33,7 @@ public:
     ~ObjectHandle()
     {
         try {
-            giveBack();
+            giveBack(held());
         } catch (...) {
         }
     }
@@ -42,17 +42,19 @@ public:
     /// the host's error passes through.
     void reset(T* object = nullptr)
     {
-        if (object == object_ && (!object || held()))
+        // Ends after all else: the owner of this handle may go with it, and so may what only it refers to.
+        COSInterfacePtr const last = held();
+        if (object == object_ && (!object || last))
             return;
-        giveBack();
+        giveBack(last);
         object_ = nullptr;
         if (!object)
             return;
         detail::NewArray array;
-        Marshaler::template toHost<T>(object, array.place());
+        detail::MarshalerOf<T*>::template toHost<T>(object, array.place());
         COSInterfacePtr const host = omGetArrayElement(array.get(), 0);
-        detail::enterHandle(host, this);
-        incrementRefCount(host);
+        if (detail::enterHandle(host, this))
+            incrementRefCount(host);
         object_ = object;
     }
 
@@ -62,21 +64,19 @@ public:
     explicit operator bool() const { return object_ != nullptr; }
 
 private:
-    using Marshaler = detail::MarshalerOf<T*>;
-
     /// The host object that this handle holds; null when the binding went before.
     COSInterface* held() const
     {
         if (!object_ || !detail::canLookUpBindings())
             return nullptr;
-        Enumeration<COSInterface*> bound = RawClassPointerMarshaler::toCosi(Marshaler::boundAddress(object_));
+        Enumeration<COSInterface*> bound =
+            RawClassPointerMarshaler::toCosi(detail::MarshalerOf<T*>::boundAddress(object_));
         COSInterface* const host = bound.hasMoreElements() ? bound.nextElement() : nullptr;
         return detail::isEntered(host, this) ? host : nullptr;
     }
 
-    void giveBack()
+    void giveBack(COSInterface* host)
     {
-        COSInterface* const host = held();
         detail::leaveHandle(host, this);
         decrementRefCount(host);
     }

@@ -9,8 +9,9 @@
 /// one that was left behind takes nothing from others, when its object's address is a new object's.
 namespace orbis::factory::detail {
 
-/// To be told before the reference is taken; throws `std::bad_alloc` and the host's error where no machine is current.
-ORBIS_FACTORY_API void enterHandle(COSInterface* host, void const* handle);
+/// To be told before the reference is taken: false when the handle has it already, as one may that was emptied where
+/// another virtual machine was current. Throws `std::bad_alloc`, and the host's error where no machine is current.
+ORBIS_FACTORY_API bool enterHandle(COSInterface* host, void const* handle);
 
 /// False when the registry gave the reference back already.
 ORBIS_FACTORY_API bool isEntered(COSInterface* host, void const* handle);
