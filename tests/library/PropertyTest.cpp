@@ -36,6 +36,23 @@ namespace {
 
 using PropertyTest = HvmTest;
 
+/// A getter of a type of its own, or none.
+struct Typed final : impl::Getter {
+    explicit Typed(char const* type) : type_(type) {}
+    COSValue getValue(COSInterface*) const override { return {}; }
+    char const* dataTypeName() const override { return type_; }
+    void releaseValue(COSInterface*, COSValue) const override {}
+    Enumeration<COSInterface*> getInterfaces(COSInterface*) const override { return {}; }
+    bool canContainInterfaces() const override { return false; }
+
+    char const* type_;
+};
+
+struct Told final : impl::PropertyImpl {
+    using PropertyImpl::PropertyImpl;
+    char const* getDescription() const override { return "told"; }
+};
+
 /// The descriptors themselves, as the host asks them.
 TEST_F(PropertyTest, MissingSidesHaveNoAccess)
 {
@@ -66,7 +83,13 @@ TEST_F(PropertyTest, MissingSidesHaveNoAccess)
         EXPECT_FALSE(property.isDestructible()) << "the host's default, whatever the attributes say";
         EXPECT_FALSE(property.getVXArrays(nullptr, object).hasMoreElements());
     }
-    EXPECT_STREQ(writeOnly.getDataType()->scalarTypeName(), "int32 scalar");
+    Typed typed("double scalar"), untyped(nullptr);
+    Told const told("t", &typed, &setter, {});
+    EXPECT_STREQ(told.getDetailedDescription(), "told");
+    impl::PropertyImpl const unnamed("u", &untyped, &setter, {});
+    EXPECT_STREQ(told.getDataType()->scalarTypeName(), "double scalar");
+    for (impl::PropertyImpl const* const property : {&unnamed, &writeOnly})
+        EXPECT_STREQ(property->getDataType()->scalarTypeName(), "int32 scalar");
     for (std::string const& error :
          {messageIdOf([&] { writeOnly.getValue(object); }), messageIdOf([&] { writeOnly.releaseValue(object, {}); }),
           messageIdOf([&] { readOnly.setValue(object, COSValue(1)); })})
