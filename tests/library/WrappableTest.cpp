@@ -86,21 +86,6 @@ TEST_F(WrappableTest, TheNativeObjectMayGoFirst)
     EXPECT_FALSE(velmara::isValid(array.get()));
 }
 
-TEST_F(WrappableTest, TheHostObjectMayGoFirst)
-{
-    publishThing<0>();
-    Thing thing;
-    announce(&thing).reset();
-    EXPECT_EQ(BindingRegistry::find(&thing), nullptr);
-    EXPECT_EQ(Thing::alive, 1);
-    ArrayPtr const array = announce(&thing);
-    EXPECT_TRUE(BindingRegistry::release(&thing));
-    EXPECT_FALSE(BindingRegistry::release(&thing));
-    EXPECT_FALSE(BindingRegistry::retract(&thing));
-    EXPECT_TRUE(velmara::isValid(array.get()));
-    hostOf(array)->setNativeObject(name(), nullptr);
-}
-
 TEST_F(WrappableTest, DeletedWithItsHostObjectItGoesOnce)
 {
     publishThing<1>();
