@@ -72,7 +72,9 @@ public:
 private:
     static Gauge& nativeOf(COSInterface* object)
     {
-        auto* const gauge = static_cast<Gauge*>(object->getNativeObject(COSNameID(gaugeName)));
+        Gauge* gauge = nullptr;
+        if (object)
+            gauge = static_cast<Gauge*>(object->getNativeObject(COSNameID(gaugeName)));
         if (!gauge)
             throw std::runtime_error("no object");
         return *gauge;

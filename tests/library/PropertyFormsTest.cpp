@@ -221,6 +221,9 @@ TEST_F(PropertyFormsTest, DescriptorsAreMadeFromTheDescription)
                                      messageIdOf([&] { made("extent")->releaseValue(host, {}); }),
                                      messageIdOf([&] { made("scale")->setValue(host, COSValue(1.0)); })})
         EXPECT_EQ(error, "orbis_factory:orbis_factory:null_fcn_ptr");
+    for (std::string const& error : {messageIdOf([&] { made("scale")->getValue(nullptr); }),
+                                     messageIdOf([&] { made("extent")->setValue(nullptr, COSValue(1.0)); })})
+        EXPECT_EQ(error, "orbis_factory:orbis_factory:null_self");
     native().next = &native();
     EXPECT_EQ(made("next")->getInterfaces(nullptr, host).nextElement(), host);
 }

@@ -32,22 +32,18 @@ public:
 
     COSValue getValue(COSInterface* object) const override
     {
-        if constexpr (isRead) {
-            assumeGiven<Getter>(object);
+        if constexpr (isRead)
             return this->getter.getValue(object);
-        } else {
+        else
             return PropertyImpl::getValue(object);
-        }
     }
 
     void setValue(COSInterface* object, COSValue value) const override
     {
-        if constexpr (isWritten) {
-            assumeGiven<Setter>(object);
+        if constexpr (isWritten)
             this->setter.setValue(object, value);
-        } else {
+        else
             PropertyImpl::setValue(object, value);
-        }
     }
 
     void releaseValue(COSInterface* object, COSValue value) const override
@@ -70,14 +66,6 @@ private:
     static Access* pointer(NoAccess const&)
     {
         return nullptr;
-    }
-
-    /// Only a static property is read and written without an object, and `publish` takes none that needs one.
-    template <class Access>
-    static void assumeGiven(COSInterface const* object)
-    {
-        if (Access::needsObject && !object)
-            __builtin_unreachable();
     }
 };
 
