@@ -8,23 +8,31 @@ namespace orbis::factory::detail {
 
 bool enterHandle(COSInterface* host, void const* handle)
 {
-    return basic::registry().handles.emplace(host, handle).second;
+    basic::FooRegistry& table = basic::registry();
+    COSInterface*& held = table.heldByHandles[handle];
+    if (held == host)
+        return false;
+    table.handles.emplace(host, handle);
+    table.handles.erase({held, handle});
+    held = host;
+    return true;
 }
 
-bool isEntered(COSInterface* host, void const* handle)
+COSInterface* heldBy(void const* handle)
 {
-    return basic::registry().handles.contains({host, handle});
+    if (!foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())
+        return nullptr;
+    auto const& table = basic::registry().heldByHandles;
+    auto const found = table.find(handle);
+    return found == table.end() ? nullptr : found->second;
 }
 
-void leaveHandle(COSInterface* host, void const* handle)
+void leaveHandle(void const* handle)
 {
-    if (host)
+    if (COSInterface* const host = heldBy(handle)) {
         basic::registry().handles.erase({host, handle});
-}
-
-bool canLookUpBindings()
-{
-    return foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive();
+        basic::registry().heldByHandles.erase(handle);
+    }
 }
 
 } // namespace orbis::factory::detail

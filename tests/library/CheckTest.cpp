@@ -92,7 +92,7 @@ TEST_F(CheckTest, ReleasedBindingsAndValuesAreInOrder)
     EXPECT_EQ(orbis::factory::check(), "");
     detail::enterHandle(&pair.host(), &pair);
     EXPECT_NE(orbis::factory::check().find("is bound to no native object"), std::string::npos);
-    detail::leaveHandle(&pair.host(), &pair);
+    detail::leaveHandle(&pair);
 }
 
 template <class Kind>

@@ -2,7 +2,6 @@
 
 #include "orbis/factory/H_ck.hpp"
 #include "orbis/factory/MarshalingPolicy.hpp"
-#include "orbis/factory/RawClassPointerMarshaler.hpp"
 #include "orbis/factory/detail/NewArray.hpp"
 #include "orbis/factory/detail/handles.hpp"
 
@@ -65,19 +64,12 @@ public:
 
 private:
     /// The host object that this handle holds; null when the binding went before.
-    COSInterface* held() const
-    {
-        if (!object_ || !detail::canLookUpBindings())
-            return nullptr;
-        Enumeration<COSInterface*> bound =
-            RawClassPointerMarshaler::toCosi(detail::MarshalerOf<T*>::boundAddress(object_));
-        COSInterface* const host = bound.hasMoreElements() ? bound.nextElement() : nullptr;
-        return detail::isEntered(host, this) ? host : nullptr;
-    }
+    COSInterface* held() const { return object_ ? detail::heldBy(this) : nullptr; }
 
     void giveBack(COSInterface* host)
     {
-        detail::leaveHandle(host, this);
+        if (host)
+            detail::leaveHandle(this);
         decrementRefCount(host);
     }
 

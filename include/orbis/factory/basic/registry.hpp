@@ -31,8 +31,9 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     /// Gives back the references that handles hold on `host`: its binding is gone, through which they would find it.
     void giveBackHandles(COSInterface* host);
 
-    /// The handles that hold a reference, each with the host object that it holds.
+    /// The handles that hold a reference, by the host object that they hold, and the other way round.
     std::set<std::pair<COSInterface*, void const*>> handles;
+    boost::unordered_map<void const*, COSInterface*> heldByHandles;
 
     /// The classes as which the addresses were bound last; only in a virtual machine that reports leaks.
     std::unique_ptr<boost::unordered_map<void const*, std::string>> classNames;
