@@ -7,7 +7,10 @@
 
 #include "orbis/objectArrays.hpp"
 
+#include <algorithm>
+#include <cstddef>
 #include <memory>
+#include <new>
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -18,8 +21,15 @@ namespace {
 
 struct Linked;
 
+/// Where its base is, only a living object tells.
+struct Floating : virtual full::Wrappable {};
+
 } // namespace
 
+template <>
+struct orbis::factory::HostClass<Floating> {
+    static constexpr char const* name = "tests.Floating";
+};
 template <>
 struct orbis::factory::HostClass<Linked> {
     static constexpr char const* name = "tests.Linked";
@@ -132,6 +142,18 @@ TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
     first.reset();
     second.reset();
     EXPECT_EQ(Linked::alive, 2);
+}
+
+TEST_F(ObjectHandleTest, AnObjectThatEndedIsNotLookedAt)
+{
+    publishClass<Floating, HandleClassInfo<Floating, 0>>([](auto& c) { c.constructor(); });
+    alignas(Floating) std::byte place[sizeof(Floating)];
+    auto* const floating = new (place) Floating;
+    ObjectHandle<Floating> handle(floating);
+    floating->~Floating();
+    std::ranges::fill(place, std::byte{0});
+    handle.reset();
+    EXPECT_FALSE(handle);
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 namespace orbis::factory {
 
 /// Base of the handles with which a native object keeps the host object of another native object alive. A handle
-/// holds the native pointer only; the host object is looked up from it.
+/// holds the native pointer only; the host object is looked up.
 class ORBIS_FACTORY_API H_ck {
 public:
     H_ck& operator=(H_ck const&);
