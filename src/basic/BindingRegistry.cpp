@@ -55,6 +55,12 @@ std::unique_ptr<RegistryEntry> take(void const* object)
     return entry;
 }
 
+void rememberUnbound(COSInterface const* host, void const* object)
+{
+    if (auto const& history = registry().history)
+        history->unbound.emplace(host, object);
+}
+
 [[gnu::always_inline]] inline hvArray* arrayOf(COSInterface* host, COSNameID const& className)
 {
     ArrayOwner array(omCreateORBISMatrix(1, 1, className));
@@ -150,10 +156,13 @@ void BindingRegistry::hijack(void const* const oldObject, void* newObject, COSIn
     bool const movesBinding = oldObject != newObject && find(oldObject) == host;
     host->setNativeObject(className, newObject);
     registry().bind(newObject, host, className);
+    bool const isBound = find(newObject) == host; // to none where the address had a binding already
+    if (!isBound)
+        rememberUnbound(host, newObject);
     if (!movesBinding)
         return;
     take(oldObject);
-    if (find(newObject) != host) // which was bound already: no binding is left
+    if (!isBound)
         registry().giveBackHandles(host);
 }
 
@@ -164,10 +173,13 @@ bool BindingRegistry::release(void const* const object)
 
 bool BindingRegistry::remove(void const* const object)
 {
-    std::unique_ptr<RegistryEntry> const entry = take(object);
-    if (entry)
-        registry().giveBackHandles(entry->host);
-    return entry != nullptr;
+    COSInterface* const host = find(object);
+    if (!host)
+        return false;
+    rememberUnbound(host, object); // while nothing is done: it may be out of memory
+    take(object);
+    registry().giveBackHandles(host);
+    return true;
 }
 
 bool BindingRegistry::retract(void const* const object)

@@ -11,8 +11,8 @@ namespace orbis::factory {
 
 void basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const& className)
 {
-    if (classNames) [[unlikely]]
-        rememberClass(object, className);
+    if (history) [[unlikely]]
+        remember(object, host, className);
     if (!spare_) [[unlikely]]
         return bindFirst(object, host);
     spare_.key() = object;
@@ -28,10 +28,12 @@ void basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const&
         static_cast<void>(entry.release());
 }
 
-[[gnu::noinline]] void basic::FooRegistry::rememberClass(void const* object, COSNameID const& className)
+[[gnu::noinline]] void basic::FooRegistry::remember(void const* object, COSInterface* host, COSNameID const& className)
 {
-    if (!count(object))
-        (*classNames)[object] = static_cast<COSString>(className).c_str();
+    if (count(object))
+        return;
+    history->classNames[object] = static_cast<COSString>(className).c_str();
+    history->unbound.erase({host, object});
 }
 
 void basic::FooRegistry::unbind(iterator mapping)

@@ -15,11 +15,11 @@ namespace orbis::factory::basic {
 
 namespace {
 
-void reportLeft(void const* object, boost::unordered_map<void const*, std::string> const& classNames) noexcept
+void reportLeft(void const* object, BindingHistory const& history) noexcept
 {
     try {
         std::string const text = "the native object " + addressText(object) + " is still bound as ";
-        additions::reportLeak((text + classNames.at(object)).c_str());
+        additions::reportLeak((text + history.classNames.at(object)).c_str());
     } catch (...) {
         additions::reportLeak("a native object is still bound");
     }
@@ -30,15 +30,15 @@ void reportLeft(void const* object, boost::unordered_map<void const*, std::strin
 FooRegistry::FooRegistry()
 {
     if (additions::reportsLeaks())
-        classNames = std::make_unique<boost::unordered_map<void const*, std::string>>();
+        history = std::make_unique<BindingHistory>();
 }
 
 FooRegistry::~FooRegistry()
 {
     // Left entries are reclaimed without a word to their host objects, which may be gone.
     for (auto const& [object, entry] : *this) {
-        if (classNames)
-            reportLeft(object, *classNames);
+        if (history)
+            reportLeft(object, *history);
         delete entry;
     }
     if (spare_)

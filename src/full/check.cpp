@@ -62,6 +62,22 @@ std::string checkBindings(HostView const& hosts)
     return {};
 }
 
+/// A native object is bound to the host object that stands for it, or to none, unless that binding was given up.
+std::string checkRecords(HostView const& hosts)
+{
+    basic::FooRegistry const& table = basic::registry();
+    if (!table.history)
+        return {}; // any of them may have been released
+    for (RecordedObject const& record : hosts.records()) {
+        auto const found = table.find(record.native);
+        bool const isOthers = found != table.end() && found->second->host != record.host;
+        if (isOthers && !table.history->unbound.contains({record.host, record.native}))
+            return "a host object of " + std::string(record.className) + " stands for the native object " +
+                   addressText(record.native) + ", which is bound to another host object";
+    }
+    return {};
+}
+
 std::string checkShares(HostView const& hosts)
 {
     for (COSInterface const* const host : detail::sharingHosts())
@@ -101,6 +117,8 @@ std::string check()
         return {};
     HostView const hosts;
     std::string found = checkBindings(hosts);
+    if (found.empty())
+        found = checkRecords(hosts);
     if (found.empty())
         found = checkShares(hosts);
     if (found.empty())

@@ -63,6 +63,12 @@ TEST_F(CheckTest, TellsEachInconsistencyOnce)
         {"to a host object of tests.Plain that stands for another",
          [&](Pair& pair) { pair.host().setNativeObject(name, &stranger); },
          [&](Pair& pair) { pair.host().setNativeObject(name, &pair.first); }},
+        {"which is bound to another host object",
+         [&](Pair& pair) {
+             BindingRegistry::release(&pair.first);
+             pair.host().setNativeObject(name, &pair.second);
+         },
+         [&](Pair& pair) { pair.host().setNativeObject(name, &pair.first); }},
         {"has a share in a native object",
          [](Pair& pair) {
              detail::shareWithHost(pair.firstArray.get(), std::make_shared<int>(1));

@@ -14,6 +14,15 @@
 
 namespace orbis::factory::basic {
 
+/// What debugging asks for beside the bindings.
+struct BindingHistory {
+    /// The classes as which the addresses were bound last.
+    boost::unordered_map<void const*, std::string> classNames;
+
+    /// Host objects that stand for a native object still though their binding was given up, with its address.
+    std::set<std::pair<COSInterface const*, void const*>> unbound;
+};
+
 /// The binding table of one host virtual machine: native address to an entry that the table owns. Whoever erases
 /// a mapping destroys its entry.
 struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
@@ -35,12 +44,11 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     std::set<std::pair<COSInterface*, void const*>> handles;
     boost::unordered_map<void const*, COSInterface*> heldByHandles;
 
-    /// The classes as which the addresses were bound last; only in a virtual machine that reports leaks.
-    std::unique_ptr<boost::unordered_map<void const*, std::string>> classNames;
+    std::unique_ptr<BindingHistory> history; ///< only in a virtual machine that reports leaks
 
 private:
     void bindFirst(void* object, COSInterface* host);
-    void rememberClass(void const* object, COSNameID const& className);
+    void remember(void const* object, COSInterface* host, COSNameID const& className);
 
     /// The mapping erased last, entry and all: objects that come and go one after the other take no memory.
     node_type spare_;
