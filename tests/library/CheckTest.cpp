@@ -93,7 +93,7 @@ TEST_F(CheckTest, ReleasedBindingsAndValuesAreInOrder)
     Pair pair;
     BindingRegistry::release(&pair.first);
     ArrayPtr const again(BindingRegistry::announce(&pair.first, COSNameID("tests.Plain")));
-    EXPECT_EQ(orbis::factory::check(), "") << "two host objects stand for it, as told";
+    EXPECT_EQ(orbis::factory::check(), "") << "two host objects stand for it";
     BindingRegistry::retract(&pair.second);
     EXPECT_EQ(orbis::factory::check(), "");
     detail::enterHandle(&pair.host(), &pair);
