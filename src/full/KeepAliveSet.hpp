@@ -41,7 +41,8 @@ struct KeepAliveSet {
         COSInterface const* const holder = basic::BindingRegistry::find(bound);
         if (host && holder && holder != host && !detail::hasShare(host))
             return; // it is a new object at the address
-        Pointer const object = *kept;
+        // Held, as native code that is asked may change the set.
+        Pointer const object = *kept; // NOLINT(performance-unnecessary-copy-initialization)
         SharingType const type = object->getSharingType();
         if (type == SharingType::HostKept || type == SharingType::HostKeptAlone)
             drop(object);

@@ -76,12 +76,10 @@ Property::Property(std::unique_ptr<orbis::COSPropInfo> descriptor, Class const& 
     canBeWritten = !traits.isAbstract && isPublic(traits.setAccess, traits.extendedSetAccess);
 }
 
-bool Property::askType() const
+TypeReference const* Property::askType() const
 {
     orbis::COSDataTypePtr const dataType = info->getDataType();
-    if (dataType)
-        type_.emplace(intern(dataType->scalarTypeName()));
-    return dataType;
+    return dataType ? &type_.emplace(intern(dataType->scalarTypeName())) : nullptr;
 }
 
 void Property::askTypeQuietly() const noexcept
@@ -95,10 +93,10 @@ void Property::askTypeQuietly() const noexcept
 
 TypeReference const& Property::requireType() const
 {
-    if (!askType())
-        throwHostError("VELMARA:property", "dataType",
-                       {std::string(definingClass.name()->view()), std::string(name->view())});
-    return *type_;
+    if (TypeReference const* const type = askType())
+        return *type;
+    throwHostError("VELMARA:property", "dataType",
+                   {std::string(definingClass.name()->view()), std::string(name->view())});
 }
 
 } // namespace velmara

@@ -24,7 +24,7 @@ struct Property {
     /// no such type.
     TypeReference const& type() const { return type_ ? *type_ : requireType(); }
 
-    bool hasType() const { return type_ || askType(); }
+    bool hasType() const { return type_ || askType() != nullptr; }
 
     std::unique_ptr<orbis::COSPropInfo> info;
     Name name;
@@ -36,7 +36,7 @@ struct Property {
     bool canBeWritten = false;
 
 private:
-    bool askType() const;
+    TypeReference const* askType() const;
     void askTypeQuietly() const noexcept;
     TypeReference const& requireType() const;
 
