@@ -89,6 +89,19 @@ TEST_F(VirtualMachineTest, ObjectsBelongToOneAndEndInIt)
     EXPECT_EQ(errorOf([&] { hvm().call(foreign.get(), "take"); }), "VELMARA:object:invalid");
 }
 
+TEST_F(VirtualMachineTest, NoScopeComesBackToOneThatHasEnded)
+{
+    using Scope = velmara::Hvm::Scope;
+    auto first = std::make_unique<velmara::Hvm>(), second = std::make_unique<velmara::Hvm>();
+    auto inFirst = std::make_unique<Scope>(*first), inSecond = std::make_unique<Scope>(*second);
+    auto inMine = std::make_unique<Scope>(hvm());
+    first.reset();
+    inFirst.reset(); // out of order
+    second.reset();
+    inMine.reset();
+    EXPECT_FALSE(Storage::isRequiredContextActive());
+}
+
 TEST_F(VirtualMachineTest, SeveralRunAtOnceOnTheirOwnThreads)
 {
     auto const work = [](int seed) {

@@ -40,7 +40,8 @@ public:
     /// To be asked for before modules are used: it costs memory and time for what is made from then on.
     void reportLeaks(std::function<void(std::string const&)> report);
 
-    /// Makes a virtual machine current on this thread, and the one before current again at its end.
+    /// Makes a virtual machine current on this thread, and the one before current again at its end, unless that has
+    /// ended meanwhile.
     class VELMARA_API Scope {
     public:
         explicit Scope(Hvm& hvm);
@@ -49,7 +50,13 @@ public:
         ~Scope();
 
     private:
+        friend class HvmState;
+
+        /// Has no scope of this thread come back to `ended`.
+        static void forget(HvmState const& ended);
+
         HvmState* previous_;
+        Scope* outer_;
     };
 
     /// Loads a module by its file and runs its `VXInitialize_NAME`, where NAME is the file's stem without a

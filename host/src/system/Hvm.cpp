@@ -6,6 +6,8 @@
 #include "system/listings.hpp"
 #include "system/objectListing.hpp"
 
+#include <utility>
+
 namespace velmara {
 
 Hvm::Hvm() : state_(std::make_unique<HvmState>()) {}
@@ -17,11 +19,28 @@ void Hvm::reportLeaks(std::function<void(std::string const&)> report)
     state_->setLeakReport(std::move(report));
 }
 
-Hvm::Scope::Scope(Hvm& hvm) : previous_(HvmState::makeCurrent(hvm.state_.get())) {}
+namespace {
+constinit thread_local Hvm::Scope* innermost = nullptr;
+} // namespace
+
+Hvm::Scope::Scope(Hvm& hvm) : previous_(HvmState::makeCurrent(hvm.state_.get())), outer_(std::exchange(innermost, this))
+{
+}
 
 Hvm::Scope::~Scope()
 {
     HvmState::makeCurrent(previous_);
+    Scope** inner = &innermost; // mostly this one, but they may end in any order
+    while (*inner != this)
+        inner = &(*inner)->outer_;
+    *inner = outer_;
+}
+
+void Hvm::Scope::forget(HvmState const& ended)
+{
+    for (Scope* scope = innermost; scope; scope = scope->outer_)
+        if (scope->previous_ == &ended)
+            scope->previous_ = nullptr;
 }
 
 ModuleRecord Hvm::loadModule(std::filesystem::path const& file)

@@ -1,5 +1,7 @@
 #include "system/HvmState.hpp"
 
+#include "velmara/Hvm.hpp"
+
 #include "system/ModuleList.hpp"
 #include "system/PackageTree.hpp"
 #include "system/TypeRepository.hpp"
@@ -33,6 +35,7 @@ HvmState::~HvmState()
     packages_->clear(); // what deleters may have published
     types_->clear();
     makeCurrent(previous == this ? nullptr : previous);
+    Hvm::Scope::forget(*this);
 }
 
 HvmState& HvmState::required()
