@@ -41,10 +41,9 @@ public:
     /// the host's error passes through.
     void reset(T* object = nullptr)
     {
-        // Ends after all else: the owner of this handle may go with it, and so may what only it refers to.
-        COSInterfacePtr const last = held();
-        if (object == object_ && (!object || last))
-            return;
+        // Ends after all else: the owner of this handle may go with it, and so may what only it refers to. An empty
+        // handle finds what one at its place left behind that ended in another virtual machine.
+        COSInterfacePtr const last = detail::heldBy(this);
         giveBack(last);
         object_ = nullptr;
         if (!object)
