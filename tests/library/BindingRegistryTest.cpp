@@ -44,40 +44,28 @@ protected:
         registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new ValueInfo); });
     }
 
-    static ArrayPtr announce(void* object, bool* created = nullptr)
-    {
-        bool made = false;
-        ArrayPtr array(BindingRegistry::announce(object, plain(), made));
-        if (created)
-            *created = made;
-        return array;
-    }
-
+    static ArrayPtr announce(void* object) { return ArrayPtr(BindingRegistry::announce(object, plain())); }
     static COSInterface* hostOf(ArrayPtr const& array) { return omGetArrayElement(array.get(), 0); }
     static COSNameID plain() { return COSNameID("tests.Plain"); }
 };
 
-TEST_F(BindingRegistryTest, AnAddressIsAlwaysTheSameHostObject)
+TEST_F(BindingRegistryTest, EachWayToAnnounceGivesTheSameHostObject)
 {
     Plain object;
     EXPECT_EQ(basic::registry().bucket_count(), 16u);
     EXPECT_EQ(basic::registry().max_load_factor(), 1.0f);
-    bool created = false;
-    ArrayPtr const first = announce(&object, &created);
-    EXPECT_TRUE(created);
-    EXPECT_EQ(hostOf(first)->getNativeObject(plain()), &object);
+    bool created = true;
+    ArrayPtr const first = announce(&object);
     ArrayPtr const second(BindingRegistry::announce(static_cast<void const*>(&object), plain(), created));
     EXPECT_FALSE(created);
     EXPECT_TRUE(velmara::isSameObject(first.get(), second.get()));
-    EXPECT_EQ(BindingRegistry::find(&object), hostOf(first));
     EXPECT_EQ(static_cast<COSInterface*>(BindingRegistry::announceInternal(&object, plain(), created)), hostOf(first));
-    EXPECT_EQ(basic::registry().size(), 1u);
 }
 
 TEST_F(BindingRegistryTest, NullIsNoObject)
 {
     bool created = true;
-    ArrayPtr const none = announce(nullptr, &created);
+    ArrayPtr const none(BindingRegistry::announce(static_cast<void*>(nullptr), plain(), created));
     EXPECT_FALSE(created);
     EXPECT_EQ(none->get_number_of_elements(), 0u);
     EXPECT_EQ(velmara::className(none.get()), "tests.Plain");
@@ -85,37 +73,6 @@ TEST_F(BindingRegistryTest, NullIsNoObject)
     EXPECT_TRUE(basic::registry().empty());
     EXPECT_FALSE(BindingRegistry::release(nullptr));
     EXPECT_FALSE(RawClassPointerMarshaler::toCosi(nullptr).hasMoreElements());
-}
-
-TEST_F(BindingRegistryTest, RetractInvalidatesAndReleaseDoesNot)
-{
-    Plain object;
-    ArrayPtr array = announce(&object);
-    EXPECT_TRUE(BindingRegistry::release(&object));
-    EXPECT_FALSE(BindingRegistry::release(&object));
-    EXPECT_TRUE(velmara::isValid(array.get()));
-
-    array = announce(&object);
-    EXPECT_TRUE(BindingRegistry::retract(&object));
-    EXPECT_FALSE(BindingRegistry::retract(&object));
-    EXPECT_FALSE(velmara::isValid(array.get()));
-    EXPECT_FALSE(BindingRegistry::contains(&object));
-
-    ArrayPtr const again = announce(&object);
-    EXPECT_FALSE(velmara::isSameObject(array.get(), again.get()));
-    array.reset();
-    EXPECT_EQ(BindingRegistry::find(&object), hostOf(again)) << "the late end of the old one must not touch the new";
-}
-
-TEST_F(BindingRegistryTest, TheHostObjectForgetsItsBindingWhenItEnds)
-{
-    Plain object;
-    ArrayPtr array = announce(&object);
-    EXPECT_TRUE(BindingRegistry::contains(&object));
-    array.reset();
-    EXPECT_FALSE(BindingRegistry::contains(&object));
-    endHvm();
-    EXPECT_FALSE(BindingRegistry::retract(&object)) << "quiet outside a virtual machine";
 }
 
 TEST_F(BindingRegistryTest, ConstructorsStoreOnlyHandles)
@@ -259,18 +216,6 @@ TEST_F(BindingRegistryTest, TheUnconstructedSetKeepsEachAddressOnce)
         EXPECT_FALSE(CopyableSupport::isInUnconstructedSet(&places[i]));
     }
     EXPECT_TRUE(CopyableSupport::isInUnconstructedSet(nullptr));
-}
-
-TEST(BindingRegistry, VirtualMachinesHaveTablesOfTheirOwn)
-{
-    velmara::Hvm first, second;
-    Plain object;
-    velmara::Hvm::Scope const scope(first);
-    publishPlain();
-    ArrayPtr const array(BindingRegistry::announce(&object, COSNameID("tests.Plain")));
-    velmara::Hvm::Scope const inner(second);
-    EXPECT_FALSE(BindingRegistry::contains(&object));
-    EXPECT_FALSE(BindingRegistry::retract(&object));
 }
 
 } // namespace

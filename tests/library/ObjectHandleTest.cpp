@@ -92,30 +92,6 @@ TEST_F(ObjectHandleTest, AHandleHoldsOneReference)
     EXPECT_THROW(ObjectHandle<Linked>(reinterpret_cast<Linked*>(this)), std::exception) << "not published";
 }
 
-TEST_F(ObjectHandleTest, TheBindingMayGoFirst)
-{
-    auto* const tally = new Tally;
-    COSNameID const name("tests.Tally");
-    for (bool const isRetracted : {true, false}) {
-        Handle left(tally), moved(tally);
-        ArrayPtr const array(basic::BindingRegistry::announce(tally, name));
-        COSInterface* const host = omGetArrayElement(array.get(), 0);
-        EXPECT_TRUE(isRetracted ? basic::BindingRegistry::retract(tally) : basic::BindingRegistry::release(tally));
-        EXPECT_EQ(host->getExternalReferenceCount(), 0) << "what the handles held was given back";
-        EXPECT_EQ(velmara::isValid(array.get()), !isRetracted);
-
-        // As if another object were born at the address.
-        Handle const handle(tally);
-        moved.reset(tally);
-        EXPECT_EQ(references(tally), 2);
-        left.reset();
-        EXPECT_EQ(references(tally), 2) << "a handle that was left behind takes nothing away";
-        host->setNativeObject(name, nullptr);
-        if (isRetracted) // keep it for the second time
-            basic::BindingRegistry::release(tally);
-    }
-}
-
 TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
 {
     COSPackage::removePackage("tests");

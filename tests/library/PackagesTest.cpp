@@ -1,7 +1,7 @@
 #include "HvmTest.hpp"
-#include "library/Tally.hpp"
 
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -51,45 +51,6 @@ TEST_F(PackagesTest, AFailingInitializerIsTriedAgain)
     EXPECT_NE(errorOf([&] { hvm().describePackage("flaky"); }), "");
     EXPECT_EQ(hvm().describePackage("flaky").functions.size(), 1u);
     EXPECT_EQ(runs, 2);
-}
-
-TEST_F(PackagesTest, RemovingAPackageOrTheVirtualMachineEndsItsObjects)
-{
-    for (bool const isEnd : {false, true}) {
-        TallyInfo::publishIn("tests");
-        auto const object = hvm().construct("tests.Tally");
-        EXPECT_EQ(Tally::alive, 1);
-        isEnd ? endHvm() : COSPackage::removePackage("tests");
-        EXPECT_EQ(Tally::alive, 0);
-        EXPECT_FALSE(velmara::isValid(object.get()));
-        if (!isEnd) {
-            EXPECT_NE(errorOf([&] { hvm().call(object.get(), "value"); }), "");
-        }
-    }
-}
-
-TEST_F(PackagesTest, OfTheTwoEndsOfAnObjectEitherMayComeFirst)
-{
-    TallyInfo::publishIn("tests");
-    auto hostFirst = hvm().construct("tests.Tally");
-    hostFirst.reset();
-    EXPECT_EQ(Tally::alive, 0);
-
-    auto const nativeFirst = hvm().construct("tests.Tally");
-    auto* const native = static_cast<Tally*>(
-        static_cast<COSInterface*>(orbis::omGetArrayElement(nativeFirst.get(), 0))->getNativeObject("tests.Tally"));
-    EXPECT_TRUE(basic::BindingRegistry::retract(native));
-    delete native;
-    EXPECT_FALSE(velmara::isValid(nativeFirst.get()));
-
-    // A binding that was released leaves its native object to its releaser.
-    auto released = hvm().construct("tests.Tally");
-    auto* const freed = static_cast<Tally*>(
-        static_cast<COSInterface*>(orbis::omGetArrayElement(released.get(), 0))->getNativeObject("tests.Tally"));
-    EXPECT_TRUE(basic::BindingRegistry::release(freed));
-    released.reset();
-    EXPECT_EQ(Tally::alive, 1);
-    delete freed;
 }
 
 } // namespace

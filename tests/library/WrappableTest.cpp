@@ -6,9 +6,6 @@
 
 #include "orbis/objectArrays.hpp"
 
-#include <memory>
-#include <optional>
-
 using namespace orbis;
 using namespace orbis::factory;
 using full::BindingRegistry;
@@ -52,10 +49,9 @@ protected:
         EXPECT_EQ(Thing::alive, 0);
     }
 
-    template <int N>
     static void publishThing()
     {
-        publishClass<Thing, HandleClassInfo<Thing, N>>(
+        publishClass<Thing, HandleClassInfo<Thing, 0>>(
             [](auto& c) { c.constructor().method("answer", &Thing::answer).method("self", &Thing::self); });
     }
 
@@ -64,50 +60,9 @@ protected:
     static COSInterfacePtr hostOf(ArrayPtr const& array) { return omGetArrayElement(array.get(), 0); }
 };
 
-TEST_F(WrappableTest, TheNativeObjectMayGoFirst)
-{
-    publishThing<0>();
-    std::optional<Thing> thing(std::in_place);
-    ArrayPtr const array = announce(&*thing);
-    COSInterfacePtr const host = hostOf(array);
-    EXPECT_EQ(BindingRegistry::find(&*thing), static_cast<COSInterface*>(host));
-    EXPECT_NE(static_cast<void*>(&*thing), static_cast<full::Wrappable*>(&*thing)) << "or this tests nothing";
-    EXPECT_EQ(scalar<std::int32_t>(hvm().call(array.get(), "answer")), 42);
-    EXPECT_TRUE(velmara::isSameObject(hvm().call(array.get(), "self").get(), array.get()));
-    full::Wrappable* const address = &*thing;
-    thing.reset();
-    EXPECT_FALSE(velmara::isValid(array.get()));
-    EXPECT_EQ(BindingRegistry::find(address), nullptr);
-
-    thing.emplace(); // at the same place
-    ArrayPtr const again = announce(&*thing);
-    EXPECT_FALSE(velmara::isSameObject(again.get(), array.get()));
-    EXPECT_TRUE(velmara::isValid(again.get()));
-    EXPECT_FALSE(velmara::isValid(array.get()));
-}
-
-TEST_F(WrappableTest, DeletedWithItsHostObjectItGoesOnce)
-{
-    publishThing<1>();
-    ArrayPtr script = hvm().construct("tests.Thing");
-    ArrayPtr const native = announce(new Thing), released = announce(new Thing), deleted = announce(new Thing);
-    EXPECT_EQ(Thing::alive, 4);
-    script.reset();
-    EXPECT_EQ(Thing::alive, 3);
-    auto const thingOf = [](ArrayPtr const& array) {
-        return static_cast<full::Wrappable*>(hostOf(array)->getNativeObject(name()));
-    };
-    std::unique_ptr<full::Wrappable> const owner(thingOf(released));
-    BindingRegistry::release(owner.get());
-    delete thingOf(deleted);
-    for (ArrayPtr const* const array : {&released, &deleted, &native})
-        hvm().deleteObjects(array->get());
-    EXPECT_EQ(Thing::alive, 1) << "only what was still bound";
-}
-
 TEST_F(WrappableTest, CopiesAreUnbound)
 {
-    publishThing<0>();
+    publishThing();
     Thing thing;
     ArrayPtr const array = announce(&thing);
     {
@@ -122,7 +77,7 @@ TEST_F(WrappableTest, CopiesAreUnbound)
 
 TEST_F(WrappableTest, ConstructorsStoreTheBinding)
 {
-    publishThing<0>();
+    publishThing();
     Thing thing;
     ArrayPtr const array(omCreateORBISMatrix(1, 1, name()));
     COSInterfacePtr const instance = COSClass::getClass(name())->newInstance();
@@ -137,22 +92,9 @@ TEST_F(WrappableTest, ConstructorsStoreTheBinding)
     EXPECT_EQ(none->get_number_of_elements(), 0u);
 }
 
-TEST_F(WrappableTest, AfterTheVirtualMachineNothingIsTold)
-{
-    publishThing<0>();
-    auto thing = std::make_unique<Thing>();
-    ArrayPtr const array = announce(thing.get());
-    endHvm();
-    EXPECT_EQ(Thing::alive, 1);
-    thing.reset();
-    velmara::Hvm another;
-    velmara::Hvm::Scope const scope(another);
-    Thing().self();
-}
-
 TEST_F(WrappableTest, AnObjectOfAnotherClassIsNull)
 {
-    publishThing<0>();
+    publishThing();
     Unlike unlike;
     ArrayPtr const array = announce(&unlike);
     using Pointers = detail::MarshalerOf<Thing*>;
