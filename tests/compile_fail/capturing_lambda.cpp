@@ -4,9 +4,5 @@
 void describeIt()
 {
     [[maybe_unused]] int offset = 1;
-#ifdef CONTROL
-    orbis::factory::describeFunctions().function("shift", [](int a) { return a + 1; });
-#else
-    orbis::factory::describeFunctions().function("shift", [offset](int a) { return a + offset; });
-#endif
+    orbis::factory::describeFunctions().function("shift", [EITHER(, offset)](int a) { return a + EITHER(1, offset); });
 }

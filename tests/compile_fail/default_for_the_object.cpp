@@ -7,9 +7,5 @@ struct Published {};
 
 void move(Published* point, double distance);
 
-auto const described = orbis::factory::describe<Published>().method("move", &move, "point, distance",
-#ifdef CONTROL
-                                                                    orbis::factory::withDefaults(1.0));
-#else
-                                                                    orbis::factory::withDefaults(nullptr, 1.0));
-#endif
+auto const described = orbis::factory::describe<Published>().method(
+    "move", &move, "point, distance", orbis::factory::withDefaults(EITHER(1.0, nullptr, 1.0)));

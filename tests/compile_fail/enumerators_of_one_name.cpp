@@ -3,16 +3,10 @@
 
 enum class Color { Red, Green };
 
-#ifdef CONTROL
-constexpr char const* second = "Green";
-#else
-constexpr char const* second = "Red";
-#endif
-
 template <>
 struct orbis::factory::HostEnumeration<Color> {
     static constexpr char const* name = "tests.Color";
-    static constexpr Enumerator<Color> enumerators[] = {{"Red", Color::Red}, {second, Color::Green}};
+    static constexpr Enumerator<Color> enumerators[] = {{"Red", Color::Red}, {EITHER("Green", "Red"), Color::Green}};
 };
 
 orbis::factory::EnumerationClassInfo<Color> const info("");

@@ -5,8 +5,4 @@
 double power(double base, int exponent);
 
 auto const described = orbis::factory::describeFunctions().function("power", &power, "base, exponent",
-#ifdef CONTROL
-                                                                    orbis::factory::withDefaults(1, 2));
-#else
-                                                                    orbis::factory::withDefaults(2.5));
-#endif
+                                                                    orbis::factory::withDefaults(EITHER(2, 2.5)));

@@ -5,12 +5,8 @@ struct Published {
     int value = 0;
 };
 
-#ifdef CONTROL
-using Other = Published;
-#else
 struct Other {
     int value = 0;
 };
-#endif
 
-auto const described = orbis::factory::describe<Published>().property("value", &Other::value);
+auto const described = orbis::factory::describe<Published>().property("value", &EITHER(Published, Other)::value);

@@ -2,11 +2,7 @@
 #include "Published.hpp"
 
 struct Published {
-#ifdef CONTROL
-    int value() const { return 0; }
-#else
-    int value(int) const { return 0; }
-#endif
+    int value(EITHER(, int)) const { return 0; }
 };
 
 auto const described = orbis::factory::describe<Published>().property("value", &Published::value);

@@ -2,13 +2,11 @@
 #include "orbis/factory/HandleClassInfo.hpp"
 
 struct Native {
-#ifdef CONTROL
-    virtual ~Native() = default;
-#endif
+    EITHER(virtual ~Native() = default;, )
 };
 
 class Info final : public orbis::factory::HandleClassInfo<Native, 1> {
 public:
-    Info() : HandleClassInfo("tests.Native", "") {}
+    using HandleClassInfo::HandleClassInfo;
     void initializeClass(orbis::COSClass*) override {}
 };

@@ -3,13 +3,6 @@
 
 struct Published {};
 
-#ifdef CONTROL
-int size(Published const*)
-#else
-int size(int)
-#endif
-{
-    return 0;
-}
+int size(EITHER(Published const*, int));
 
 auto const described = orbis::factory::describe<Published>().method("size", &size);

@@ -6,10 +6,6 @@ struct Point {
     double x, y;
 };
 
-#ifdef CONTROL
-void move(std::optional<double> distance);
-#else
-void move(std::optional<Point> distance);
-#endif
+void move(std::optional<EITHER(double, Point)> distance);
 
 auto const described = orbis::factory::describeFunctions().function("move", &move, "distance");

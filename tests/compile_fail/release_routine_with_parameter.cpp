@@ -3,11 +3,7 @@
 
 struct Published {
     int lock() { return 0; }
-#ifdef CONTROL
-    void unlock() {}
-#else
-    void unlock(int) {}
-#endif
+    void unlock(EITHER(, int)) {}
 };
 
 auto const described = orbis::factory::describe<Published>().property(

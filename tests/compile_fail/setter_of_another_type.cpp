@@ -3,11 +3,7 @@
 
 struct Published {
     int value() const { return 0; }
-#ifdef CONTROL
-    void setValue(int const&) {}
-#else
-    void setValue(double) {}
-#endif
+    void setValue(EITHER(int const&, double)) {}
 };
 
 auto const described = orbis::factory::describe<Published>().property("value", &Published::value, &Published::setValue);

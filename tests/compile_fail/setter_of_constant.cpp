@@ -2,11 +2,7 @@
 #include "Published.hpp"
 
 struct Published {
-#ifdef CONTROL
-    int value = 0;
-#else
-    int const value = 0;
-#endif
+    int EITHER(, const) value = 0;
 };
 
 auto const described = orbis::factory::describe<Published>().writeOnlyProperty("value", &Published::value);

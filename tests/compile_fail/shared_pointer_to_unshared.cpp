@@ -1,17 +1,9 @@
 // expect: Objects of this class cross in std::shared_ptr: derive the class from full::StdShareable.
+#include "Published.hpp"
+
 #include "orbis/factory/SharedPointerPolicy.hpp"
-#include "orbis/factory/describe.hpp"
 
-#ifdef CONTROL
-struct Native : orbis::factory::full::StdShareable {};
-#else
-struct Native {};
-#endif
+struct Published : orbis::factory::full::EITHER(StdShareable, Wrappable) {};
 
-template <>
-struct orbis::factory::HostClass<Native> {
-    static constexpr char const* name = "tests.Native";
-};
-
-auto const description =
-    orbis::factory::describe<Native>().staticMethod("make", [] { return std::make_shared<Native>(); });
+auto const described =
+    orbis::factory::describe<Published>().staticMethod("make", [] { return std::make_shared<Published>(); });

@@ -2,11 +2,7 @@
 #include "Published.hpp"
 
 struct Published {
-#ifdef CONTROL
-    inline static int value = 0;
-#else
-    int value = 0;
-#endif
+    EITHER(inline static, ) int value = 0;
 };
 
 auto const described = orbis::factory::describe<Published>().staticProperty("value", &Published::value);

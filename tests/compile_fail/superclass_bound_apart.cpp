@@ -14,9 +14,7 @@ struct orbis::factory::HostClass<Base> {
 template <>
 struct orbis::factory::HostClass<Derived> {
     static constexpr char const* name = "tests.Derived";
-#ifdef CONTROL
-    using Root = Base;
-#endif
+    EITHER(using Root = Base;, )
 };
 
 auto const description = orbis::factory::describe<Derived>().inherits<Base>();

@@ -2,11 +2,7 @@
 #include "Published.hpp"
 
 struct Published {
-#ifdef CONTROL
-    void take(double) {}
-#else
-    void take(long double) {}
-#endif
+    void take(EITHER(double, long double)) {}
 };
 
 auto const described =

@@ -1,15 +1,11 @@
 // expect: The class that this pointer points to is not published: specialise orbis::factory::HostClass for it
+#include "Published.hpp"
+
 #include "orbis/factory/describeFunctions.hpp"
 
+struct Published {};
 struct Unknown {};
 
-#ifdef CONTROL
-template <>
-struct orbis::factory::HostClass<Unknown> {
-    static constexpr char const* name = "tests.Unknown";
-};
-#endif
-
-void use(Unknown*) {}
+void use(EITHER(Published, Unknown) *);
 
 auto const described = orbis::factory::describeFunctions().function("use", &use);

@@ -3,14 +3,6 @@
 
 enum class Color { Red, Green };
 
-#ifdef CONTROL
-template <>
-struct orbis::factory::HostEnumeration<Color> {
-    static constexpr char const* name = "tests.Color";
-    static constexpr Enumerator<Color> enumerators[] = {{"Red", Color::Red}, {"Green", Color::Green}};
-};
-#endif
-
-void paint(Color) {}
+void paint(EITHER(int, Color));
 
 auto const described = orbis::factory::describeFunctions().function("paint", &paint);

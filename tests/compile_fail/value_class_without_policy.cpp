@@ -7,9 +7,7 @@ struct Native {};
 template <>
 struct orbis::factory::HostClass<Native> {
     static constexpr char const* name = "tests.Native";
-#ifdef CONTROL
-    using Policy = ValuePolicy;
-#endif
+    EITHER(using Policy = ValuePolicy;, )
 };
 
 class Info final : public orbis::factory::NonHandleClassInfo<Native> {
