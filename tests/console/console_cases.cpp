@@ -20,36 +20,19 @@ struct Parameter {
     char const* name;
 };
 
-class Method final : public COSMethodInfo {
-public:
-    Method(char const* name, bool isStatic, char const* output, std::vector<Parameter> const& inputs, Body body)
-        : name_(name),
-          isStatic_(isStatic),
-          body_(std::move(body))
+/// A method that names its inputs, and gives an array.
+struct Method final : described::Method {
+    Method(char const* name, bool isStatic, char const* output, std::vector<Parameter> const& inputs, Body const& body)
+        : described::Method(name, output, {},
+                            [body](described::Call const& call) {
+                                std::span const given(call.inputs, static_cast<std::size_t>(call.inputCount));
+                                call.give(COSValue(body(given).release()));
+                            },
+                            {.isStatic = isStatic})
     {
-        signature_ = COSMethodSignature::createMethodSignature();
-        signature_->addOutput(output, "result");
         for (Parameter const& input : inputs)
             signature_->addInput(input.type, input.name);
     }
-
-    char const* getName() const override { return name_; }
-    bool isStatic() const override { return isStatic_; }
-    COSMethodSignature const* getMethodSignature() const override { return signature_; }
-
-    void invoke(COSClient const*, int& outputCount, COSValue* outputs, int inputCount,
-                COSValue const* inputs) const override
-    {
-        ArrayPtr result = body_(std::span(inputs, static_cast<std::size_t>(inputCount)));
-        outputs[0] = COSValue(result.release());
-        outputCount = 1;
-    }
-
-private:
-    char const* name_;
-    bool isStatic_;
-    COSMethodSignaturePtr signature_;
-    Body body_;
 };
 
 ArrayPtr copyOf(hvArray_tag const* array)
@@ -90,26 +73,20 @@ ArrayPtr pairOf(COSValue const& a, COSValue const& b)
     return pair;
 }
 
-class ProbeInfo final : public COSClassInfo {
-public:
-    explicit ProbeInfo(int& alive) : alive_(alive) {}
+struct ProbeInfo final : described::Class {
+    explicit ProbeInfo(int& alive) : Class(probeClass)
+    {
+        create = [&alive]() -> void* {
+            ++alive;
+            return new Probe;
+        };
+        destroy = [&alive](COSInterface*, void* data) {
+            --alive;
+            delete static_cast<Probe*>(data);
+        };
+    }
 
-    char const* getName() const override { return probeClass; }
     char const* getDescription() const override { return "Holds any value, and gives it back."; }
-    bool isHandle() const override { return true; }
-
-    void* createInstanceData() override
-    {
-        ++alive_;
-        return new Probe;
-    }
-
-    bool destroyInstanceData(COSInterface*, void* data) override
-    {
-        --alive_;
-        delete static_cast<Probe*>(data);
-        return true;
-    }
 
     void initializeClass(COSClass* cls) override
     {
@@ -131,7 +108,6 @@ public:
 
 private:
     Probe common_;
-    int& alive_;
 };
 
 template <class T>
@@ -163,8 +139,8 @@ public:
     void initializePackage(COSPackage* package) override
     {
         package->addClass(new ProbeInfo(alive_));
-        auto const add = [&](char const* name, std::vector<Parameter> const& inputs, Body body) {
-            package->addFunction(new Method(name, true, "any", inputs, std::move(body)));
+        auto const add = [&](char const* name, std::vector<Parameter> const& inputs, Body const& body) {
+            package->addFunction(new Method(name, true, "any", inputs, body));
         };
         constexpr std::uint64_t most = std::numeric_limits<std::uint64_t>::max();
         add("echo", {{"any", "value"}}, [](auto in) { return copyOf(in[0].array()); });

@@ -205,24 +205,6 @@ TEST_F(DispatchTest, ArraysThatAreNoScalarsAreRefused)
     EXPECT_EQ(errorOf([&] { callF({nullptr}); }), "VELMARA:dispatch:nullInput");
 }
 
-TEST_F(DispatchTest, FailureInsideIsFinal)
-{
-    int calls = 0;
-    publish(new Class("F", [&calls](orbis::COSClass* cls) {
-        auto const fail = [&calls](Call const&) {
-            ++calls;
-            throw std::runtime_error("broken");
-        };
-        cls->addMethod(new Method("f", "", {"double scalar"}, fail, {.isStatic = true}));
-        cls->addMethod(new Method("f", "", {"any"}, fail, {.isStatic = true}));
-        cls->addMethod(new Method("g", "", {}, [](Call const&) { throw 7; }, {.isStatic = true}));
-    }));
-    ArrayPtr const one = number(1);
-    EXPECT_EQ(errorOf([&] { hvm().callStatic("F", "f", inputs(one)); }), "VELMARA:native:exception");
-    EXPECT_EQ(calls, 1);
-    EXPECT_EQ(errorOf([&] { hvm().callStatic("F", "g"); }), "VELMARA:native:unknown");
-}
-
 TEST_F(DispatchTest, ObjectsFitTheirClassAndItsSuperclassesTheNearestBest)
 {
     publish(new Class("A"));

@@ -216,15 +216,6 @@ TEST_F(EnumerationTest, EndsWithItsClass)
     EXPECT_EQ(describeEnumerator(last), nullptr);
 }
 
-TEST_F(EnumerationTest, NoObjectsAreMadeOrEnded)
-{
-    EXPECT_EQ(errorOf([&] { hvm().construct("t.Color"); }), "VELMARA:enumeration:noObjects");
-    EXPECT_ANY_THROW(COSClass::getClass("t.Color")->newInstance());
-    ArrayPtr const both = objects({"Red", "Blue"});
-    EXPECT_EQ(errorOf([&] { hvm().deleteObjects(both.get()); }), "VELMARA:enumeration:noDelete");
-    EXPECT_TRUE(velmara::isValid(both.get()));
-}
-
 TEST_F(EnumerationTest, WrongDescriptionsAreRefused)
 {
     struct Case {
@@ -260,6 +251,7 @@ TEST_F(EnumerationTest, WrongDescriptionsAreRefused)
         expectMessage([&, name = name] { hvm().describeClass(name); }, {reason});
     EXPECT_ANY_THROW(addEnumerator(COSClass::getClass("t.Color"), "Late", 5));
     EXPECT_ANY_THROW(addEnumerator(nullptr, "None", 5));
+    EXPECT_ANY_THROW(COSClass::getClass("t.Color")->newInstance());
 }
 
 TEST_F(EnumerationTest, ResultsAreEnumerators)

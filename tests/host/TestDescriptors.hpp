@@ -76,11 +76,13 @@ public:
             body_({outputCount, outputs, inputCount, inputs});
     }
 
+protected:
+    orbis::COSMethodSignaturePtr signature_;
+
 private:
     std::string name_;
     Body body_;
     MethodTraits traits_;
-    orbis::COSMethodSignaturePtr signature_;
 };
 
 /// A method that answers with a number.

@@ -5,8 +5,6 @@
 #include "libkwfoundation_usm/Detail.hpp"
 #include "orbis/COSTypeRepository.hpp"
 
-#include <thread>
-
 using namespace described;
 using orbis::COSInterfacePtr;
 using velmara::ArrayPtr;
@@ -100,23 +98,4 @@ TEST_F(VirtualMachineTest, NoScopeComesBackToOneThatHasEnded)
     second.reset();
     inMine.reset();
     EXPECT_FALSE(Storage::isRequiredContextActive());
-}
-
-TEST_F(VirtualMachineTest, SeveralRunAtOnceOnTheirOwnThreads)
-{
-    auto const work = [](int seed) {
-        for (int round = 0; round < 20; ++round) {
-            velmara::Hvm machine;
-            velmara::Hvm::Scope const scope(machine);
-            std::string const name = "Class" + std::to_string(seed * round);
-            publish(new Class(name, [&](orbis::COSClass* cls) { cls->addMethod(answering("f", {name}, seed)); }));
-            for (int i = 0; i < 50; ++i) {
-                ArrayPtr const object = machine.construct(name);
-                EXPECT_EQ(scalar<double>(machine.call(object.get(), "f")), seed);
-            }
-        }
-    };
-    std::thread first(work, 1), second(work, 2);
-    first.join();
-    second.join();
 }

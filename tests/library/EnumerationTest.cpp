@@ -103,9 +103,6 @@ protected:
                                            [] {
                                                return std::vector{Color::Red, Color(9)};
                                            })
-                                 .function("kind", [](Color) { return 1; })
-                                 .function("kind", [](std::vector<Color>) { return 2; })
-                                 .function("kind", [](double) { return 3; })
                                  .function("mode", [](int mode) { return Mode(mode); })
                                  .function("numberOfMode", [](Mode mode) { return int(mode); })
                                  .function("modes", [](std::vector<Mode> modes) { return modes; }));
@@ -163,18 +160,6 @@ TEST_F(EnumerationTest, CrossesByName)
     EXPECT_EQ(names(call("orRed", text("Blue"))), "1-by-n Blue");
     expectMessage([&] { call("next", text("Purple")); },
                   {"color: needs one of Blue, Red, Crimson, Green, not 'Purple'"});
-}
-
-TEST_F(EnumerationTest, OverloadsAreChosenByIt)
-{
-    ArrayPtr const two = call("reversed", ArrayPtr(omCreateORBISMatrix(1, 0, "tests.Color")));
-    std::pair<ArrayPtr, int> const cases[] = {{color("Red"), 1},
-                                              {text("Red"), 1},
-                                              {call("reversed", text("Red")), 1},
-                                              {ArrayPtr(omCreateORBISMatrix(1, 0, "tests.Color")), 2},
-                                              {number(1), 3}};
-    for (auto const& [input, kind] : cases)
-        EXPECT_EQ(scalar<std::int32_t>(call("kind", input)), kind);
 }
 
 TEST_F(EnumerationTest, InMembersOfEveryKind)

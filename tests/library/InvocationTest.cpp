@@ -31,29 +31,6 @@ protected:
     }
 };
 
-TEST_F(InvocationTest, CallsFromTheHostReachTheNativeObject)
-{
-    ArrayPtr const object = tally(5);
-    EXPECT_EQ(scalar<std::int32_t>(call(object, "add", {1, 2})), 8);
-    EXPECT_EQ(scalar<std::int32_t>(call(object, "value")), 8);
-    EXPECT_EQ(call(object, "reset"), nullptr);
-    EXPECT_EQ(scalar<std::int32_t>(call(object, "value")), 0);
-    EXPECT_EQ(scalar<double>(call(object, "mean", {1, 2, 1})), 3.0);
-    EXPECT_EQ(scalar<std::int32_t>(call(object, "doubled", {3})), 0);
-    EXPECT_EQ(scalar<std::int32_t>(call(hvm().construct("tests.Tally"), "value")), 0);
-}
-
-TEST_F(InvocationTest, ObjectsKeepTheirIdentity)
-{
-    ArrayPtr const small = tally(1);
-    ArrayPtr const large = tally(2);
-    EXPECT_TRUE(velmara::isSameObject(call(small, "self").get(), small.get()));
-    EXPECT_TRUE(velmara::isSameObject(hvm().call(small.get(), "larger", inputs(large)).get(), large.get()));
-    ArrayPtr const none(omCreateORBISMatrix(0, 0, "tests.Tally"));
-    EXPECT_TRUE(scalar<bool>(hvm().call(small.get(), "isNull", inputs(none))));
-    EXPECT_EQ(Tally::alive, 2);
-}
-
 TEST_F(InvocationTest, NullSelfIsRefusedWhereAnObjectIsRequired)
 {
     ArrayPtr const none(omCreateORBISMatrix(0, 0, "tests.Tally"));
@@ -73,13 +50,6 @@ TEST_F(InvocationTest, OnlyTheFirstElementOfAnObjectArrayIsMeant)
     call(both, "reset");
     EXPECT_EQ(scalar<std::int32_t>(call(first, "value")), 0);
     EXPECT_EQ(scalar<std::int32_t>(call(second, "value")), 2);
-}
-
-TEST_F(InvocationTest, NativeFailuresBecomeErrorsAndChangeNothing)
-{
-    ArrayPtr const object = tally(1);
-    expectMessage([&] { call(object, "fail", {1}); }, {"failed inside"});
-    EXPECT_EQ(scalar<std::int32_t>(call(object, "value")), 1);
 }
 
 TEST_F(InvocationTest, MembersAreDescribedToTheHost)

@@ -5,8 +5,6 @@
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
-#include <stdexcept>
-
 /// A native class that counts how many of it are alive.
 class Tally {
 public:
@@ -24,10 +22,7 @@ public:
     int value() const noexcept { return value_; }
     void reset() { value_ = 0; }
     Tally* self() { return this; }
-    Tally const* larger(Tally const* other) const { return other && other->value_ > value_ ? other : this; }
-    bool isNull(Tally const* other) const { return !other; }
     double mean(float x, double y, bool twice) const { return (x + y) / 2 * (twice ? 2 : 1); }
-    int fail(int) { throw std::runtime_error("failed inside"); }
 
     inline static int alive = 0;
 
@@ -64,10 +59,7 @@ public:
                          .method("value", &Tally::value, MethodAttributes::Sealed())
                          .method("reset", &Tally::reset)
                          .method("self", &Tally::self)
-                         .method("larger", &Tally::larger, "other")
-                         .method("isNull", &Tally::isNull)
                          .method("mean", &Tally::mean)
-                         .method("fail", &Tally::fail)
                          .method("forced", &valueOrMinusOne)
                          .method(
                              "doubled", [](Tally* tally, int by) { return tally->value() * by; }, "tally, by")

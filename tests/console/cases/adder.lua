@@ -8,5 +8,6 @@ print(select("#", a:reset()), a.total)
 local sum = a.getSum
 print(sum(a, 20, 22), sum(b, 1, 1), Adder.getSum(b, 2, 2), sum == a.getSum)
 print(a == a, a == b, Adder == orbis_factory.Adder, a ~= nil, a == 1)
+print(b:getSum(2147483647, 1), b.total)
 print(orbis_factory, Adder)
 orbis_factory.dumpReg = nil -- refused: see the report

@@ -1,9 +1,10 @@
 -- The samples of objects: what they refuse, what they survive, and which side ends when the other one does.
 print(OrbisFactoryBuiltInTester():getInt8()) -- before anything of its package was needed
 local of = orbis_factory
-local function refused(f, ...)
+local function refused(f, ...) -- of the candidates' reasons, the last one's
   local ok, message = pcall(f, ...)
-  print(ok and "not refused" or tostring(message):gsub("VELMARA:native:exception: Native code failed: ", "native: "))
+  message = tostring(message):gsub("VELMARA:native:exception: Native code failed: ", "native: ")
+  print(ok and "not refused" or message:match("[^\n]*$"))
 end
 local function states(...)
   local texts = {}
