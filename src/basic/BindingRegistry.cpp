@@ -55,12 +55,6 @@ std::unique_ptr<RegistryEntry> take(void const* object)
     return entry;
 }
 
-void rememberUnbound(COSInterface const* host, void const* object)
-{
-    if (auto const& history = registry().history)
-        history->unbound.emplace(host, object);
-}
-
 [[gnu::always_inline]] inline hvArray* arrayOf(COSInterface* host, COSNameID const& className)
 {
     ArrayOwner array(omCreateORBISMatrix(1, 1, className));
@@ -156,13 +150,10 @@ void BindingRegistry::hijack(void const* const oldObject, void* newObject, COSIn
     bool const movesBinding = oldObject != newObject && find(oldObject) == host;
     host->setNativeObject(className, newObject);
     registry().bind(newObject, host, className);
-    bool const isBound = find(newObject) == host; // to none where the address had a binding already
-    if (!isBound)
-        rememberUnbound(host, newObject);
     if (!movesBinding)
         return;
     take(oldObject);
-    if (!isBound)
+    if (find(newObject) != host) // which was bound already: no binding is left
         registry().giveBackHandles(host);
 }
 
@@ -176,7 +167,8 @@ bool BindingRegistry::remove(void const* const object)
     COSInterface* const host = find(object);
     if (!host)
         return false;
-    rememberUnbound(host, object); // while nothing is done: it may be out of memory
+    if (auto const& history = registry().history) // while nothing is done: it may be out of memory
+        history->unbound.emplace(host, object);
     take(object);
     registry().giveBackHandles(host);
     return true;

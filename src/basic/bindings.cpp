@@ -30,10 +30,13 @@ void basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const&
 
 [[gnu::noinline]] void basic::FooRegistry::remember(void const* object, COSInterface* host, COSNameID const& className)
 {
-    if (count(object))
-        return;
-    history->classNames[object] = static_cast<COSString>(className).c_str();
-    history->unbound.erase({host, object});
+    auto const found = find(object);
+    if (found == end()) {
+        history->classNames[object] = static_cast<COSString>(className).c_str();
+        history->unbound.erase({host, object});
+    } else if (found->second->host != host) {
+        history->unbound.emplace(host, object);
+    }
 }
 
 void basic::FooRegistry::unbind(iterator mapping)

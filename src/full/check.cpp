@@ -62,12 +62,12 @@ std::string checkBindings(HostView const& hosts)
     return {};
 }
 
-/// A native object is bound to the host object that stands for it, or to none, unless that binding was given up.
+/// A native object is bound to the host object that stands for it, or to none, but for what was done on purpose.
 std::string checkRecords(HostView const& hosts)
 {
     basic::FooRegistry const& table = basic::registry();
     if (!table.history)
-        return {}; // any of them may have been released
+        return {}; // any of them may have been done on purpose
     for (RecordedObject const& record : hosts.records()) {
         auto const found = table.find(record.native);
         bool const isOthers = found != table.end() && found->second->host != record.host;

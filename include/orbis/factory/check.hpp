@@ -10,7 +10,7 @@ namespace orbis::factory {
 /// that keep shared objects alive, and what the host objects themselves record, both ways. Gives the first
 /// inconsistency as one sentence, and an empty text when there is none, or no virtual machine is current. Host objects
 /// that stand for a native object that is bound to another one are found only in a virtual machine that reports leaks,
-/// as only that remembers which bindings were given up on purpose.
+/// as only that remembers what was released or bound twice on purpose.
 ///
 /// Threading: on the thread of the virtual machine, while no object of it is being made or destroyed.
 ORBIS_FACTORY_API std::string check();

@@ -19,7 +19,7 @@ struct BindingHistory {
     /// The classes as which the addresses were bound last.
     boost::unordered_map<void const*, std::string> classNames;
 
-    /// Host objects that stand for a native object still though their binding was given up, with its address.
+    /// Host objects that stand for a native object though their binding was given up, or the address had one already.
     std::set<std::pair<COSInterface const*, void const*>> unbound;
 };
 
