@@ -16,7 +16,7 @@ char const* const generalHelp = R"(velmara runs Lua 5.4 scripts that use the cla
 
   help(x) methods(x) properties(x)   on a package, a class, an object, a name
   class(x) isvalid(x) delete(x)      the class of x; is it alive; end it now
-  objects()                          all live objects and who refers to them
+  objects()                          all live objects: owners, references
   references(x)                      what the properties of x refer to
   modules() loadmodule(path) unloadmodule(name)
   withvm(function, ...)              call it in a virtual machine of its own

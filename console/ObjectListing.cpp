@@ -18,8 +18,8 @@ constexpr std::size_t columnCount = 7;
 using Line = std::array<std::string, columnCount>;
 
 /// The fields of a record, and the list's heads.
-constexpr std::array<char const*, columnCount> fields = {"class",    "kind", "valid", "external",
-                                                         "internal", "weak", "native"};
+constexpr std::array<char const*, columnCount> fields = {"class",    "owner", "valid", "external",
+                                                         "internal", "weak",  "native"};
 
 void setField(lua_State* L, char const* name, std::string const& text)
 {
@@ -43,7 +43,7 @@ void pushRecord(lua_State* L, ObjectRecord const& object)
 {
     lua_createtable(L, 0, columnCount);
     setField(L, "class", object.className);
-    setField(L, "kind", std::string(object.isHandle ? "handle" : "value"));
+    setField(L, "owner", object.owner);
     setField(L, "valid", object.isValid);
     setField(L, "external", object.externalReferences);
     setField(L, "internal", object.internalReferences);

@@ -44,6 +44,7 @@ public:
     void initializeClass(COSClass* cls) override;
     void* createInstanceData() override;
     bool destroyInstanceData(COSInterface* object, void* data) override;
+    char const* nativeOwner() const override { return "host"; }
 };
 
 } // namespace orbis::factory::samples

@@ -61,6 +61,7 @@ do
   local left <close> = orbis_factory.Container("suitcase")
   local saw <close> = left:add("souvenir", 0.2)
   local place <close> = orbis_factory.MFVT(1, 2)
+  local tale <close> = orbis_factory.SharedBase("Tale")
   print(living(isNative))
 end
 show("given back at the end of the block", #living(isNative), 0)

@@ -36,4 +36,9 @@ bool OrbisFactoryClassInfo::slot10Flag() const
     return true;
 }
 
+char const* OrbisFactoryClassInfo::nativeOwner() const
+{
+    return "native";
+}
+
 } // namespace orbis::factory

@@ -227,7 +227,7 @@ TEST_F(ObjectTest, LiveObjectsAreListedWithWhoHoldsThem)
     auto const line = [](velmara::ObjectRecord const& object) {
         return object.className + ' ' + std::to_string(object.externalReferences) +
                std::to_string(object.internalReferences) + std::to_string(object.weakReferences) +
-               (object.isHandle ? 'h' : 'v') + (object.isValid ? 'y' : 'n') + (object.nativeObject ? 'y' : 'n');
+               object.owner.at(0) + (object.isValid ? 'y' : 'n') + (object.nativeObject ? 'y' : 'n');
     };
     std::vector<std::string> lines(listed.size());
     std::ranges::transform(listed, lines.begin(), line);

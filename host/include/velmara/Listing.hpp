@@ -74,7 +74,7 @@ struct PackageRecord {
 /// A host object that has not ended. The counts tell who keeps it alive.
 struct ObjectRecord {
     std::string className;
-    bool isHandle = true; ///< of a handle class: the object refers to its native object; else it holds a value
+    std::string owner; ///< of the native object, as its class info tells; else whether that has "handle"s or "value"s
     bool isValid = true;
     int externalReferences = 0;         ///< handles that native code holds
     int internalReferences = 0;         ///< arrays that hold it: the script's, and those in cells and in calls

@@ -3,14 +3,24 @@
 #include "system/HvmState.hpp"
 #include "system/PackageTree.hpp"
 
+#include "additions/NativeOwner.hpp"
+
 namespace velmara {
 
 namespace {
 
+std::string ownerOf(orbis::COSClassInfo const& info)
+{
+    if (!info.isHandle())
+        return "value";
+    auto const* const owner = dynamic_cast<orbis::additions::NativeOwner const*>(&info);
+    return owner ? owner->nativeOwner() : "handle";
+}
+
 ObjectRecord record(Object const& object, Class const& cls)
 {
     return {.className = std::string(object.className()->view()),
-            .isHandle = cls.info().isHandle(),
+            .owner = ownerOf(cls.info()),
             .isValid = object.isValid(),
             .externalReferences = object.getExternalReferenceCount(),
             .internalReferences = object.getInternalReferenceCount(),
@@ -36,3 +46,5 @@ std::vector<ObjectRecord> listObjects(HvmState& machine)
 }
 
 } // namespace velmara
+
+orbis::additions::NativeOwner::~NativeOwner() = default;

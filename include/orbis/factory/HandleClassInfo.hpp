@@ -43,6 +43,7 @@ public:
     }
 
     bool isHandle() const override { return true; }
+    char const* nativeOwner() const override { return N == 1 ? "host" : "native"; }
 };
 
 } // namespace orbis::factory

@@ -2,6 +2,7 @@
 
 #include "orbis/factory/export.hpp"
 
+#include "additions/NativeOwner.hpp"
 #include "orbis/COSClassInfo.hpp"
 
 #include <string>
@@ -9,7 +10,7 @@
 namespace orbis::factory {
 
 /// Base of the class infos: holds the class's full dotted name and its one-line description.
-class ORBIS_FACTORY_API OrbisFactoryClassInfo : public COSClassInfo {
+class ORBIS_FACTORY_API OrbisFactoryClassInfo : public COSClassInfo, public additions::NativeOwner {
 public:
     OrbisFactoryClassInfo(std::string const& name, std::string const& description);
     ~OrbisFactoryClassInfo() override;
@@ -20,6 +21,9 @@ public:
     /// What `getDescription` gives, also when a subclass overrides that.
     char const* getDetailedDescription() const override;
     bool slot10Flag() const override;
+
+    /// "native", unless a subclass says otherwise.
+    char const* nativeOwner() const override;
 
 private:
     std::string name_;

@@ -25,6 +25,8 @@ public:
         detail::releaseHostKeptStdShareable(object, data);
         return HandleClassInfo<T, 0>::destroyInstanceData(object, data);
     }
+
+    char const* nativeOwner() const override { return "shared"; }
 };
 
 } // namespace orbis::factory

@@ -5,7 +5,7 @@ local twin = p:twin()
 p.value = {a, a}
 print(objects())
 local list = objects()
-print(#list, list[2].class, list[2].kind, list[2].valid, list[2].external, list[2].internal, list[2].weak, list[2].native)
+print(#list, list[2].class, list[2].owner, list[2].valid, list[2].external, list[2].internal, list[2].weak, list[2].native)
 p.value = null
 twin = nil
 delete(a)
