@@ -70,6 +70,14 @@ public:
         }
     }
 
+    /// What of that is the native object's own.
+    [[gnu::noipa]] static void destroy(Adder* adder) { delete adder; }
+    void allocate(std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            destroy(new Adder);
+    }
+
 private:
     Fixture fixture_;
     velmara::ArrayPtr one_ = Fixture::number(1);

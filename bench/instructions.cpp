@@ -55,6 +55,7 @@ int main(int argc, char** argv)
                                  {"callWithNumber", run<&Enumerations::callWithNumber>},
                                  {"construct", run<&Calls::construct>},
                                  {"bind", run<&Calls::bind>},
+                                 {"allocate", run<&Calls::allocate>},
                                  {"createValue", run<&bench::ownership::Values::create>},
                                  {"createWrappable", run<&bench::ownership::Wrappables::create>},
                                  {"createShareable", run<&bench::ownership::BoostShareds::create>},

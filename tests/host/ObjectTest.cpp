@@ -226,8 +226,8 @@ TEST_F(ObjectTest, LiveObjectsAreListedWithWhoHoldsThem)
     std::vector<velmara::ObjectRecord> const listed = hvm().objects();
     auto const line = [](velmara::ObjectRecord const& object) {
         return object.className + ' ' + std::to_string(object.externalReferences) +
-               std::to_string(object.internalReferences) + std::to_string(object.weakReferences) +
-               object.owner.at(0) + (object.isValid ? 'y' : 'n') + (object.nativeObject ? 'y' : 'n');
+               std::to_string(object.internalReferences) + std::to_string(object.weakReferences) + object.owner.at(0) +
+               (object.isValid ? 'y' : 'n') + (object.nativeObject ? 'y' : 'n');
     };
     std::vector<std::string> lines(listed.size());
     std::ranges::transform(listed, lines.begin(), line);
