@@ -46,5 +46,3 @@ std::vector<ObjectRecord> listObjects(HvmState& machine)
 }
 
 } // namespace velmara
-
-orbis::additions::NativeOwner::~NativeOwner() = default;

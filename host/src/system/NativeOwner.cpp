@@ -1,0 +1,7 @@
+#include "additions/NativeOwner.hpp"
+
+namespace orbis::additions {
+
+NativeOwner::~NativeOwner() = default;
+
+} // namespace orbis::additions
