@@ -7,8 +7,9 @@
 #include "orbis/factory/detail/hostShares.hpp"
 #include "orbis/factory/errorIdentities.hpp"
 
+#include "marshal/throwError.hpp"
+
 #include "libhv/libhv.hpp"
-#include "libkwfl/Exception.hpp"
 #include "libkwfoundation_usm/Detail.hpp"
 #include "orbis/COSClass.hpp"
 #include "orbis/COSInterface.hpp"
@@ -22,16 +23,18 @@ namespace {
 
 using ArrayOwner = std::unique_ptr<hvArray, hvDestroy_deleter>;
 
-COSInterfacePtr newInitializedInstance(COSNameID const& className)
+COSClass& requireClass(COSNameID const& className)
 {
     COSClass* const cls = COSClass::getClass(className);
-    if (!cls) {
-        using orbis_factory::orbis_factory::no_such_class;
-        throw foundation::core::except::Exception<no_such_class, std::exception, void>(
-            no_such_class(static_cast<COSString>(className).c_str()));
-    }
-    COSInterfacePtr instance = cls->newInstance();
-    cls->initializeInstance(instance);
+    if (!cls)
+        throwError(orbis_factory::orbis_factory::no_such_class(static_cast<COSString>(className).c_str()));
+    return *cls;
+}
+
+COSInterfacePtr newInitializedInstance(COSClass& cls)
+{
+    COSInterfacePtr instance = cls.newInstance();
+    cls.initializeInstance(instance);
     return instance;
 }
 
@@ -43,15 +46,18 @@ COSInterfacePtr newInitializedInstance(COSNameID const& className)
     return found == table.end() ? nullptr : found->second;
 }
 
-/// Erases the mapping of `object`; an empty pointer when it is no key.
+/// Erases the mapping of `object`; an empty pointer when it is no key. Makes no table: destructors must not need
+/// memory.
 std::unique_ptr<RegistryEntry> take(void const* object)
 {
-    FooRegistry& table = HvmScoped<FooRegistry>::get();
-    auto const found = table.find(object);
-    if (found == table.end())
+    FooRegistry* const table = HvmScoped<FooRegistry>::find();
+    if (!table)
+        return nullptr;
+    auto const found = table->find(object);
+    if (found == table->end())
         return nullptr;
     std::unique_ptr<RegistryEntry> entry(found->second);
-    table.erase(found);
+    table->erase(found);
     return entry;
 }
 
@@ -68,7 +74,7 @@ std::unique_ptr<RegistryEntry> take(void const* object)
     std::size_t const size = object ? 1 : 0;
     ArrayOwner array(omCreateORBISMatrix(size, size, className));
     if (object) {
-        COSInterfacePtr instance = newInitializedInstance(className);
+        COSInterfacePtr instance = newInitializedInstance(requireClass(className));
         instance->setNativeObject(className, object);
         omSetArrayElement(array.get(), 0, instance);
         registry().bind(object, instance, className);
@@ -123,8 +129,9 @@ void BindingRegistry::announceForConstructor(void* const object, COSNameID const
 hvArray* BindingRegistry::announceWithoutStoring(void* source, COSNameID const& className,
                                                  void (*copy)(void* destination, void* source))
 {
+    COSClass& cls = requireClass(className);
     ArrayOwner result(omCreateORBISMatrix(1, 1, className));
-    COSInterfacePtr instance = newInitializedInstance(className);
+    COSInterfacePtr instance = newInitializedInstance(cls);
     void* const destination = instance->getNativeObject(className);
     copy(destination, source);
     CopyableSupport::removeFromUnconstructedSet(destination);

@@ -2,7 +2,7 @@
 
 #include "orbis/factory/errorIdentities.hpp"
 
-#include "libkwfl/Exception.hpp"
+#include "marshal/throwError.hpp"
 
 namespace orbis::factory::impl {
 
@@ -12,17 +12,12 @@ namespace {
 template <class Side>
 Side const& required(Side const* side)
 {
-    using orbis_factory::orbis_factory::null_fcn_ptr;
     if (!side)
-        throw foundation::core::except::Exception<null_fcn_ptr, std::exception, void>(null_fcn_ptr());
+        throwError(orbis_factory::orbis_factory::null_fcn_ptr());
     return *side;
 }
 
 } // namespace
-
-Getter::~Getter() = default;
-
-Setter::~Setter() = default;
 
 PropertyImpl::PropertyImpl(String const& name, Getter* getter, Setter* setter, PropertyAttributes attributes)
     : PropertyImplBase(name, "", attributes),

@@ -1,10 +1,8 @@
 #include "HvmTest.hpp"
-#include "host/messageIdOf.hpp"
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/impl/PropertyImpl.hpp"
 
-#include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSDataType.hpp"
 #include "orbis/objectArrays.hpp"
 
@@ -90,11 +88,6 @@ TEST_F(PropertyTest, MissingSidesHaveNoAccess)
     EXPECT_STREQ(told.getDataType()->scalarTypeName(), "double scalar");
     for (impl::PropertyImpl const* const property : {&unnamed, &writeOnly})
         EXPECT_STREQ(property->getDataType()->scalarTypeName(), "int32 scalar");
-    for (std::string const& error :
-         {messageIdOf([&] { writeOnly.getValue(object); }), messageIdOf([&] { writeOnly.releaseValue(object, {}); }),
-          messageIdOf([&] { readOnly.setValue(object, COSValue(1)); })})
-        EXPECT_EQ(error, "orbis_factory:orbis_factory:null_fcn_ptr");
-
     EXPECT_FALSE(held.getInterfaces(nullptr, object).hasMoreElements());
     hvm().set(array.get(), "next", other.get());
     auto interfaces = held.getInterfaces(nullptr, object);

@@ -1,4 +1,5 @@
 #include "HvmTest.hpp"
+#include "library/FailingAllocation.hpp"
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/basic/BindingRegistry.hpp"
@@ -62,6 +63,10 @@ protected:
 
 TEST_F(WrappableTest, CopiesAreUnbound)
 {
+    {
+        FailingAllocation const armed(0);
+        Thing const unbound; // ends before anything was bound
+    }
     publishThing();
     Thing thing;
     ArrayPtr const array = announce(&thing);
