@@ -21,6 +21,7 @@ public:
     virtual ~Settings() = default;
     std::optional<double> limit() const { return limit_; }
     void setLimit(std::optional<double> limit) { limit_ = limit; }
+    std::optional<Tally*> rival;
 
 private:
     std::optional<double> limit_;
@@ -47,8 +48,11 @@ protected:
     OptionalTest()
     {
         TallyInfo::publishIn("tests");
-        publishClass<Settings>(
-            [](auto& c) { c.constructor().property("limit", &Settings::limit, &Settings::setLimit); });
+        publishClass<Settings>([](auto& c) {
+            c.constructor()
+                .property("limit", &Settings::limit, &Settings::setLimit)
+                .property("rival", &Settings::rival);
+        });
         registerOrbisPackage("tests", [](COSPackage* package) {
             publish(package, describeFunctions()
                                  .function("halved", &halved)
@@ -117,6 +121,11 @@ TEST_F(OptionalTest, PropertiesCanBeEmpty)
     hvm().set(settings.get(), "limit", matrix(0, 0).get());
     EXPECT_TRUE(isNothing(hvm().get(settings.get(), "limit")));
     EXPECT_EQ(errorOf([&] { hvm().set(settings.get(), "limit", matrix(2, 2).get()); }), "VELMARA:property:value");
+
+    EXPECT_TRUE(hvm().references(settings.get()).empty());
+    ArrayPtr const rival = hvm().construct("tests.Tally");
+    hvm().set(settings.get(), "rival", rival.get());
+    EXPECT_TRUE(velmara::isSameObject(hvm().references(settings.get()).at(0).object.get(), rival.get()));
 }
 
 TEST_F(OptionalTest, TheDataTypeTreatsEmptySlotsAsValues)

@@ -3,6 +3,7 @@
 #include "orbis/factory/MarshalingPolicy.hpp"
 #include "orbis/factory/detail/Argument.hpp"
 #include "orbis/factory/detail/ArgumentHolder.hpp"
+#include "orbis/factory/detail/ReferredObjects.hpp"
 
 #include "additions/additions.hpp"
 #include "orbis/COSNameID.hpp"
@@ -76,5 +77,21 @@ struct MarshalingPolicy<std::optional<T>> {
     static_assert(detail::canCross<T>());
     using Type = OptionalPolicy;
 };
+
+namespace detail {
+
+/// What the value refers to, when there is one.
+template <class T>
+    requires ReferredObjects<T>::any
+struct ReferredObjects<std::optional<T>> {
+    static constexpr bool any = true;
+
+    static Enumeration<COSInterface*> of(std::optional<T> const& value)
+    {
+        return value ? ReferredObjects<T>::of(*value) : Enumeration<COSInterface*>();
+    }
+};
+
+} // namespace detail
 
 } // namespace orbis::factory
