@@ -1,11 +1,8 @@
 #include "module/PublishedClasses.hpp"
 
-#include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/basic/HvmScoped.hpp"
-#include "orbis/factory/detail/announceMostDerived.hpp"
 
 #include "orbis/COSClass.hpp"
-#include "orbis/objectArrays.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -14,9 +11,14 @@ namespace orbis::factory {
 
 namespace {
 
+/// A class that cannot be described is none. Who asks for it by name is told why not.
 bool isPublished(char const* hostName)
 {
-    return COSClass::getClass(COSNameID(hostName)) != nullptr;
+    try {
+        return COSClass::getClass(COSNameID(hostName)) != nullptr;
+    } catch (...) {
+        return false;
+    }
 }
 
 /// Takes out the names for which `ask` can be called. The others stay for the next time: who asks for them by name is
@@ -122,19 +124,5 @@ char const* PublishedClasses::best(void const* bound, NativeClassRecord const& k
             best = candidate;
     return best.hostName;
 }
-
-namespace detail {
-
-hvArray* announceMostDerived(void* bound, std::type_info const& dynamicType, NativeClassRecord const& staticClass)
-{
-    if (COSInterface* const host = basic::BindingRegistry::find(bound))
-        return omCreateORBISScalar(host);
-    if (!bound || dynamicType == *staticClass.type)
-        return basic::BindingRegistry::announce(bound, COSNameID(staticClass.hostName));
-    char const* const name = PublishedClasses::ofCurrentHvm().mostDerived(bound, dynamicType, staticClass);
-    return basic::BindingRegistry::announce(bound, COSNameID(name));
-}
-
-} // namespace detail
 
 } // namespace orbis::factory

@@ -60,7 +60,8 @@ struct Stray : Node {};
 
 // A hierarchy of wrappable classes needs no root of its own; it is a diamond.
 struct Part : full::Wrappable {
-    int id() const { return 7; }
+    int id() const { return number; }
+    int number = 7;
     Part* self() { return this; }
 };
 struct Wheel : virtual Part {};
@@ -131,8 +132,12 @@ protected:
             package->addClass(new Described<Leaf>(
                 [](auto& c) { c.constructor().template inherits<Node>().method("leafTag", &Leaf::leafTag); }));
             package->addClass(new Described<Node>(&describeNode));
-            package->addClass(new Described<Wheelmotor, PartInfo>(
-                [](auto& c) { c.constructor().template inherits<Wheel, Motor>(); }));
+            package->addClass(new Described<Wheelmotor, PartInfo>([](auto& c) {
+                c.constructor()
+                    .template inherits<Wheel, Motor>()
+                    .method("own", &Part::id)
+                    .property("number", &Part::number);
+            }));
             package->addClass(
                 new Described<Wheel, PartInfo>([](auto& c) { c.constructor().template inherits<Part>(); }));
             package->addClass(
@@ -215,7 +220,9 @@ TEST_F(HierarchyTest, ASuperclassIsNoSubclass)
 TEST_F(HierarchyTest, VirtualBasesAreBoundAsWrappable)
 {
     ArrayPtr const object = hvm().construct("tests.Wheelmotor");
-    EXPECT_EQ(scalar<std::int32_t>(hvm().call(object.get(), "id")), 7);
+    hvm().set(object.get(), "number", number(8).get());
+    for (char const* const id : {"id", "own"})
+        EXPECT_EQ(scalar<std::int32_t>(hvm().call(object.get(), id)), 8);
     EXPECT_TRUE(velmara::isSameObject(hvm().call(object.get(), "self").get(), object.get()));
 }
 
@@ -227,14 +234,15 @@ TEST_F(HierarchyTest, WhatIsUnpublishedIsNoLongerFound)
     EXPECT_EQ(velmara::className(next(new Leaf).get()), "tests.Node");
 }
 
-TEST_F(HierarchyTest, AMissingSuperclassLeavesTheClassUnpublished)
+TEST_F(HierarchyTest, WhatCannotBeDescribedIsUnpublished)
 {
     COSPackage::removePackage("tests");
     publishClass<Branch, NodeInfo>(&describeBranch);
-    publishClass<Part>([](auto& c) { c.constructor(); });
+    publishClass<Part>([](auto& c) { c.constructor().method("id", &Part::id, MethodAttributes::Sealed()); });
+    publishClass<Wheel, PartInfo>([](auto& c) { c.template inherits<Part>().method("id", &Part::id); });
     for (int i = 0; i < 2; ++i)
         EXPECT_EQ(errorOf([&] { hvm().construct("tests.Branch"); }), "VELMARA:class:initialization");
-    EXPECT_EQ(velmara::className(announce<Part>(new Wheel).get()), "tests.Part") << "Branch is tried in vain";
+    EXPECT_EQ(velmara::className(announce<Part>(new Wheel).get()), "tests.Part") << "tried in vain";
     publishClass<Node>(&describeNode);
     EXPECT_EQ(velmara::className(next(new Branch).get()), "tests.Branch");
 }

@@ -47,8 +47,16 @@ struct CallableTraits<R (*)(First, A...)> {
 template <class R, class... A>
 struct CallableTraits<R (*)(A...) noexcept> : CallableTraits<R (*)(A...)> {};
 
+/// A pointer to a member of a base as one to a member of the derived class, so that members of one type share their
+/// code; that of a virtual base stays as it is.
+template <class InBase, class InDerived>
+using MemberPointerIn = std::conditional_t<std::is_convertible_v<InBase, InDerived>, InDerived, InBase>;
+
 template <class C, class R, bool IsConst, class... A>
 struct MemberTraits {
+    template <class T>
+    using PointerTo = std::conditional_t<IsConst, R (T::*)(A...) const, R (T::*)(A...)>;
+
     static constexpr CallableKind kind = CallableKind::Member;
     static constexpr std::size_t arity = sizeof...(A);
     using Result = R;
@@ -57,7 +65,7 @@ struct MemberTraits {
 
     /// The same function as a member of a class derived from its own.
     template <class T>
-    using PointerIn = std::conditional_t<IsConst, R (T::*)(A...) const, R (T::*)(A...)>;
+    using PointerIn = MemberPointerIn<PointerTo<C>, PointerTo<T>>;
 };
 
 template <class C, class R, class... A>

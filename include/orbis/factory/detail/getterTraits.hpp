@@ -52,7 +52,8 @@ struct GetterTraits<T, G> : ReadThroughMethod<T, G> {};
 template <class T, class M, class C>
     requires std::is_object_v<M> && std::is_base_of_v<C, T>
 struct GetterTraits<T, M C::*>
-    : ReadThrough<M const&, M T::*, impl::ClassGetter<M const&, T, M T::*, std::remove_cv_t<M>>> {};
+    : ReadThrough<M const&, MemberPointerIn<M C::*, M T::*>,
+                  impl::ClassGetter<M const&, T, MemberPointerIn<M C::*, M T::*>, std::remove_cv_t<M>>> {};
 
 template <class T, class G, class Traits = CallableTraits<G>>
 using ReadThroughFunctionOn = ReadThrough<typename Traits::Result, typename Traits::Pointer,

@@ -52,7 +52,8 @@ struct SetterTraits<T, S> : WrittenThroughMethod<T, S> {};
 
 template <class T, class M, class C>
     requires std::is_object_v<M> && (!std::is_const_v<M>) && std::is_base_of_v<C, T>
-struct SetterTraits<T, M C::*> : WrittenThrough<M, M T::*, impl::ClassSetter<M, T, M T::*>> {};
+struct SetterTraits<T, M C::*>
+    : WrittenThrough<M, MemberPointerIn<M C::*, M T::*>, impl::ClassSetter<M, T, MemberPointerIn<M C::*, M T::*>>> {};
 
 template <class T, class S, class Pointer = typename CallableTraits<S>::Pointer>
 using WrittenThroughFunctionOn =
