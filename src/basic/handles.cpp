@@ -6,16 +6,12 @@
 
 namespace orbis::factory::detail {
 
-bool enterHandle(COSInterface* host, void const* handle)
+void enterHandle(COSInterface* host, void const* handle)
 {
     basic::FooRegistry& table = basic::registry();
     COSInterface*& held = table.heldByHandles[handle];
-    if (held == host)
-        return false;
     table.handles.emplace(host, handle);
-    table.handles.erase({held, handle});
     held = host;
-    return true;
 }
 
 COSInterface* heldBy(void const* handle)

@@ -10,4 +10,7 @@ namespace orbis::factory::detail {
 /// not looked at: one may have ended by mistake.
 std::vector<COSInterface const*> sharingHosts();
 
+/// True when `host`, which is not looked at either, is one of them.
+bool hasShare(COSInterface const* host);
+
 } // namespace orbis::factory::detail

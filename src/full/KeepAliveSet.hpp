@@ -2,9 +2,10 @@
 
 #include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/basic/HvmScoped.hpp"
-#include "orbis/factory/detail/hostShares.hpp"
 #include "orbis/factory/full/SharingType.hpp"
 #include "orbis/factory/full/Wrappable.hpp"
+
+#include "basic/sharingHosts.hpp"
 
 namespace orbis::factory::full {
 

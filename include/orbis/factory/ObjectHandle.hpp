@@ -51,8 +51,8 @@ public:
         detail::NewArray array;
         detail::MarshalerOf<T*>::template toHost<T>(object, array.place());
         COSInterfacePtr const host = omGetArrayElement(array.get(), 0);
-        if (detail::enterHandle(host, this))
-            incrementRefCount(host);
+        detail::enterHandle(host, this);
+        incrementRefCount(host);
         object_ = object;
     }
 

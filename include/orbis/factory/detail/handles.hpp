@@ -9,9 +9,9 @@
 /// when its object's address is a new object's, and does not look at its object, which may have ended.
 namespace orbis::factory::detail {
 
-/// To be told before the reference is taken: false when the handle has it already, as one may that was emptied where
-/// another virtual machine was current. Throws `std::bad_alloc`, and the host's error where no machine is current.
-ORBIS_FACTORY_API bool enterHandle(COSInterface* host, void const* handle);
+/// To be told before a handle that holds nothing here takes its reference. Throws `std::bad_alloc`, and the host's
+/// error where no virtual machine is current.
+ORBIS_FACTORY_API void enterHandle(COSInterface* host, void const* handle);
 
 /// The host object that the handle holds; null when the registry gave the reference back already, and when no virtual
 /// machine is current.

@@ -16,8 +16,6 @@ namespace orbis::factory::detail {
 ORBIS_FACTORY_API void shareWithHost(hvArray_tag const* array, boost::shared_ptr<void> share);
 ORBIS_FACTORY_API void shareWithHost(hvArray_tag const* array, std::shared_ptr<void> share);
 
-ORBIS_FACTORY_API bool hasShare(COSInterface const* host);
-
 /// Gives up the share of `host`, which may end the native object. False when it has none, and when no virtual machine
 /// is current.
 ORBIS_FACTORY_API bool dropShare(COSInterface const* host);
