@@ -1,4 +1,4 @@
-// expect: A getter is a data member, a member function without parameters, static data, or a free
+// expect: A getter is a data member or a member function without parameters, of the class or a public
 #include "Published.hpp"
 
 struct Published {

@@ -1,4 +1,4 @@
-// expect: A setter is a data member that is not const, a member function that takes one value
+// expect: A setter is a data member that is not const or a member function that takes one value, of the
 #include "Published.hpp"
 
 struct Published {

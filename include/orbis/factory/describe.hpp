@@ -72,8 +72,9 @@ public:
         return addAll(defaults.template shortenConstructor<T, A...>(members().back()));
     }
 
-    /// A member function of `T` or of a base, or a free function or captureless lambda that takes a `T*` first: a
-    /// member by force, which refuses to be called without an object. The names of such a one begin with the object's.
+    /// A member function of `T` or of a public base, or a free function or captureless lambda that takes a `T*` first:
+    /// a member by force, which refuses to be called without an object. The names of such a one begin with the
+    /// object's.
     template <class F>
     ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodAttributes attributes = {})
     {
@@ -160,6 +161,7 @@ public:
         return *this;
     }
 
+    /// A property that is only written, through a setter as above.
     template <class S>
     ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyAttributes attributes = {})
     {
@@ -212,8 +214,10 @@ private:
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
         using Pointer = typename Traits<F>::template PointerIn<T>;
-        constexpr bool isMember = std::is_base_of_v<typename Traits<F>::Class, T>;
-        static_assert(isMember, "This is a member function of another class: publish it with the class that has it.");
+        constexpr bool isMember = std::derived_from<T, typename Traits<F>::Class>;
+        static_assert(isMember,
+                      "This is no member function of the class or a public base: publish it with the class that has "
+                      "it.");
         if constexpr (isMember && detail::signatureCanCross<Result>(Parameters{}))
             add(detail::memberFunctionRecord<T, Pointer, Result, Parameters>(name, function, names, attributes));
     }

@@ -3,6 +3,7 @@
 #include "orbis/factory/HostClass.hpp"
 #include "orbis/factory/MarshalingPolicy.hpp"
 
+#include <concepts>
 #include <type_traits>
 
 namespace orbis::factory::detail {
@@ -16,11 +17,11 @@ inline constexpr bool standsAlone =
 template <class T, class B>
 consteval bool isSuperclass()
 {
-    static_assert(std::is_base_of_v<B, T> && !std::is_same_v<B, T>,
-                  "The superclass is no base class of the class: inherits<...>() names base classes.");
+    static_assert(std::derived_from<T, B> && !std::is_same_v<B, T>,
+                  "The superclass is no public base class of the class: inherits<...>() names such ones.");
     static_assert(PublishedClass<B>, "The superclass has no host name: specialise orbis::factory::HostClass for it, "
                                      "beside the class.");
-    if constexpr (PublishedClass<B> && std::is_base_of_v<B, T> && !std::is_same_v<B, T>) {
+    if constexpr (PublishedClass<B> && std::derived_from<T, B> && !std::is_same_v<B, T>) {
         constexpr bool areValues = ValueClass<T> || ValueClass<B>;
         static_assert(!areValues, "Value classes have no superclasses: publish classes with superclasses as handles.");
         constexpr bool areBoundAlike =

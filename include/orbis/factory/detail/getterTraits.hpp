@@ -7,15 +7,16 @@
 #include "orbis/factory/impl/DataGetter.hpp"
 #include "orbis/factory/releasedBy.hpp"
 
+#include <concepts>
 #include <type_traits>
 
 /// What can be published as a getter of the class `T`, and which getter reads through it.
 namespace orbis::factory::detail {
 
-/// A member function of `T` or of a base.
+/// A member function of `T` or of a public base.
 template <class F, class T>
 concept MethodOf =
-    CallableTraits<F>::kind == CallableKind::Member && std::is_base_of_v<typename CallableTraits<F>::Class, T>;
+    CallableTraits<F>::kind == CallableKind::Member && std::derived_from<T, typename CallableTraits<F>::Class>;
 
 template <class F>
 concept FreeFunction = CallableTraits<F>::kind == CallableKind::Free;
@@ -50,7 +51,7 @@ template <class T, MethodOf<T> G>
 struct GetterTraits<T, G> : ReadThroughMethod<T, G> {};
 
 template <class T, class M, class C>
-    requires std::is_object_v<M> && std::is_base_of_v<C, T>
+    requires std::is_object_v<M> && std::derived_from<T, C>
 struct GetterTraits<T, M C::*>
     : ReadThrough<M const&, MemberPointerIn<M C::*, M T::*>,
                   impl::ClassGetter<M const&, T, MemberPointerIn<M C::*, M T::*>, std::remove_cv_t<M>>> {};

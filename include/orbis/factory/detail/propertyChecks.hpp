@@ -24,8 +24,10 @@ template <class T, class G>
 consteval bool canRead()
 {
     constexpr bool isGetter = GetterTraits<T, G>::isGetter;
-    static_assert(isGetter, "A getter is a data member, a member function without parameters, static data, or a free "
-                            "function or captureless lambda that takes a pointer to the class, or nothing.");
+    static_assert(isGetter,
+                  "A getter is a data member or a member function without parameters, of the class or a public "
+                  "base, static data, or a free function or captureless lambda that takes a pointer to "
+                  "the class, or nothing.");
     static_assert(isReleasable<T, G>, "A release routine is a member function without parameters, or a free function "
                                       "or captureless lambda that takes a pointer to the class, or nothing.");
     if constexpr (isGetter && isReleasable<T, G>)
@@ -38,9 +40,10 @@ template <class T, class S>
 consteval bool canWrite()
 {
     constexpr bool isSetter = SetterTraits<T, S>::isSetter;
-    static_assert(isSetter, "A setter is a data member that is not const, a member function that takes one value, "
-                            "static data that is not const, or a free function or captureless lambda that takes the "
-                            "value, after a pointer to the class where it needs the object.");
+    static_assert(isSetter,
+                  "A setter is a data member that is not const or a member function that takes one value, of the "
+                  "class or a public base, static data that is not const, or a free function or captureless "
+                  "lambda that takes the value, after a pointer to the class where it needs the object.");
     if constexpr (isSetter)
         return canCross<typename SetterTraits<T, S>::Value>();
     else

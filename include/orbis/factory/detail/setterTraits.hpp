@@ -51,7 +51,7 @@ template <class T, MethodOf<T> S>
 struct SetterTraits<T, S> : WrittenThroughMethod<T, S> {};
 
 template <class T, class M, class C>
-    requires std::is_object_v<M> && (!std::is_const_v<M>) && std::is_base_of_v<C, T>
+    requires std::is_object_v<M> && (!std::is_const_v<M>) && std::derived_from<T, C>
 struct SetterTraits<T, M C::*>
     : WrittenThrough<M, MemberPointerIn<M C::*, M T::*>, impl::ClassSetter<M, T, MemberPointerIn<M C::*, M T::*>>> {};
 
