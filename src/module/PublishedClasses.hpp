@@ -23,6 +23,8 @@ public:
 
     /// A package of that name has an initializer that waits, which may publish classes.
     void expectPackage(std::string const& fullName);
+
+    /// The class is described now.
     void add(NativeClassRecord const& native, std::vector<NativeClassRecord> const& superclasses);
 
     /// The name of the most derived class that the object bound at `bound` is of: one that is published, and is

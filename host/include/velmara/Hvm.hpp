@@ -75,6 +75,7 @@ public:
     ArrayPtr callStatic(std::string_view className, std::string_view method, Inputs inputs = {});
     ArrayPtr callFunction(std::string_view fullName, Inputs inputs = {});
 
+    /// Reads and writes a property of `object`, likewise. `value` stays the caller's.
     ArrayPtr get(hvArray_tag* object, std::string_view property);
     void set(hvArray_tag* object, std::string_view property, hvArray_tag* value);
     ArrayPtr getStatic(std::string_view className, std::string_view property);

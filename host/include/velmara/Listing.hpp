@@ -74,7 +74,8 @@ struct PackageRecord {
 /// A host object that has not ended. The counts tell who keeps it alive.
 struct ObjectRecord {
     std::string className;
-    std::string owner; ///< of the native object, as its class info tells; else whether that has "handle"s or "value"s
+    std::string owner; ///< who ends the native object: "host", "native" or "shared" as its class info tells; else
+                       ///< "value" or "handle" for what the class has
     bool isValid = true;
     int externalReferences = 0;         ///< handles that native code holds
     int internalReferences = 0;         ///< arrays that hold it: the script's, and those in cells and in calls

@@ -12,6 +12,8 @@ namespace orbis::factory {
 /// Base of the class infos: holds the class's full dotted name and its one-line description.
 class ORBIS_FACTORY_API OrbisFactoryClassInfo : public COSClassInfo, public additions::NativeOwner {
 public:
+    /// Remembers for the current virtual machine, if there is one, that the class may be published: a pointer to a base
+    /// of it is looked for there, too.
     OrbisFactoryClassInfo(std::string const& name, std::string const& description);
     ~OrbisFactoryClassInfo() override;
 

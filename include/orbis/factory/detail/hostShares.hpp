@@ -12,7 +12,8 @@
 /// The shares that host objects of the current virtual machine have in shared native objects.
 namespace orbis::factory::detail {
 
-/// Gives the first object of `array` the share, in place of the one it has.
+/// Gives the first object of `array`, which has one, the share, in place of the one it has. Throws `std::bad_alloc`,
+/// and the host's error where no virtual machine is current.
 ORBIS_FACTORY_API void shareWithHost(hvArray_tag const* array, boost::shared_ptr<void> share);
 ORBIS_FACTORY_API void shareWithHost(hvArray_tag const* array, std::shared_ptr<void> share);
 
