@@ -1,10 +1,22 @@
 #include "orbis/factory/detail/handles.hpp"
 
+#include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/basic/registry.hpp"
 
 #include "libkwfoundation_usm/Detail.hpp"
 
 namespace orbis::factory::detail {
+
+namespace {
+
+/// Null when nothing is bound, and when the virtual machine has begun to give up its storage.
+basic::FooRegistry* activeTable()
+{
+    bool const isActive = foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive();
+    return isActive ? basic::HvmScoped<basic::FooRegistry>::find() : nullptr;
+}
+
+} // namespace
 
 void enterHandle(COSInterface* host, void const* handle)
 {
@@ -14,21 +26,25 @@ void enterHandle(COSInterface* host, void const* handle)
     held = host;
 }
 
-COSInterface* heldBy(void const* handle)
+COSInterface* heldBy(void const* handle) noexcept
 {
-    if (!foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())
+    basic::FooRegistry const* const table = activeTable();
+    if (!table)
         return nullptr;
-    auto const& table = basic::registry().heldByHandles;
-    auto const found = table.find(handle);
-    return found == table.end() ? nullptr : found->second;
+    auto const found = table->heldByHandles.find(handle);
+    return found == table->heldByHandles.end() ? nullptr : found->second;
 }
 
-void leaveHandle(void const* handle)
+void leaveHandle(void const* handle) noexcept
 {
-    if (COSInterface* const host = heldBy(handle)) {
-        basic::registry().handles.erase({host, handle});
-        basic::registry().heldByHandles.erase(handle);
-    }
+    basic::FooRegistry* const table = activeTable();
+    if (!table)
+        return;
+    auto const found = table->heldByHandles.find(handle);
+    if (found == table->heldByHandles.end())
+        return;
+    table->handles.erase({found->second, handle});
+    table->heldByHandles.erase(found);
 }
 
 } // namespace orbis::factory::detail

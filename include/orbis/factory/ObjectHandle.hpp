@@ -11,7 +11,8 @@ namespace orbis::factory {
 
 /// With which a native object refers to another one that is published: while the handle refers to it, its host object
 /// does not end, and where the class info deletes it with that, neither does the native object. A native object without
-/// a host object gets one. Empty, or as if it were, when the native object goes first.
+/// a host object gets one. When the native object goes first the handle holds nothing any more, but still gives its
+/// address: who lets it go first resets the handle then, or does not look through it.
 ///
 /// Threading: on the thread of the virtual machine. After its end a handle does nothing.
 template <PublishedClass T>
@@ -28,14 +29,7 @@ public:
         return *this;
     }
 
-    /// Without memory to look the host object up, that keeps its reference until the virtual machine ends.
-    ~ObjectHandle()
-    {
-        try {
-            giveBack(held());
-        } catch (...) {
-        }
-    }
+    ~ObjectHandle() { giveBack(held()); }
 
     /// Refers to `object` (null allowed) from now on. When its host object cannot be made the handle becomes empty, and
     /// the host's error passes through.

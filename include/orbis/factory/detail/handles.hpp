@@ -15,9 +15,9 @@ ORBIS_FACTORY_API void enterHandle(COSInterface* host, void const* handle);
 
 /// The host object that the handle holds; null when the registry gave the reference back already, and when no virtual
 /// machine is current.
-ORBIS_FACTORY_API COSInterface* heldBy(void const* handle);
+ORBIS_FACTORY_API COSInterface* heldBy(void const* handle) noexcept;
 
 /// To be told before the reference is given back.
-ORBIS_FACTORY_API void leaveHandle(void const* handle);
+ORBIS_FACTORY_API void leaveHandle(void const* handle) noexcept;
 
 } // namespace orbis::factory::detail
