@@ -75,7 +75,7 @@ struct PackageRecord {
 struct ObjectRecord {
     std::string className;
     std::string owner; ///< who ends the native object: "host", "native" or "shared" as its class info tells; else
-                       ///< "value" or "handle" for what the class has
+                       ///< "value", "enumerator" or "handle" for what the class has
     bool isValid = true;
     int externalReferences = 0;         ///< handles that native code holds
     int internalReferences = 0;         ///< arrays that hold it: the script's, and those in cells and in calls

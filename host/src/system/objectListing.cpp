@@ -13,14 +13,16 @@ std::string ownerOf(orbis::COSClassInfo const& info)
 {
     if (!info.isHandle())
         return "value";
+    if (info.isEnumeration())
+        return "enumerator";
     auto const* const owner = dynamic_cast<orbis::additions::NativeOwner const*>(&info);
     return owner ? owner->nativeOwner() : "handle";
 }
 
-ObjectRecord record(Object const& object, Class const& cls)
+ObjectRecord record(Object const& object, std::string const& owner)
 {
     return {.className = std::string(object.className()->view()),
-            .owner = ownerOf(cls.info()),
+            .owner = owner,
             .isValid = object.isValid(),
             .externalReferences = object.getExternalReferenceCount(),
             .internalReferences = object.getInternalReferenceCount(),
@@ -30,8 +32,10 @@ ObjectRecord record(Object const& object, Class const& cls)
 
 void addObjects(Package const& package, std::vector<ObjectRecord>& listed)
 {
-    for (auto const& cls : package.classes())
-        cls->objects().forEach([&](Object const& object) { listed.push_back(record(object, *cls)); });
+    for (auto const& cls : package.classes()) {
+        std::string const owner = ownerOf(cls->info());
+        cls->objects().forEach([&](Object const& object) { listed.push_back(record(object, owner)); });
+    }
     for (auto const& inner : package.packages())
         addObjects(*inner, listed);
 }

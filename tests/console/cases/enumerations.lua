@@ -9,7 +9,7 @@ local function assign(object, key, value) object[key] = value end
 local Color = enumeration("palette.Color", {"Red", {"Green", 5}, "Blue", {"Crimson", 0}})
 print(Color, palette.Color == Color, class(Color))
 local red = palette.Color.Red
-print(red, class(red), isvalid(red), tostring(red) == "Red")
+print(red, class(red), isvalid(red), tostring(red) == "Red", objects()[1].owner)
 print(red == Color.Red, red == Color.Crimson, red == Color.Green, red == "Red", Color.Crimson)
 print(cases.hue("Blue"), cases.hue(5), cases.hue(red) == red, cases.hue(cases.hue("Crimson")))
 for _, hues in ipairs {{red, Color.Blue}, {"Green", red, 6}, {0, 5}, "Blue", {"Red"}, {}} do
