@@ -3,6 +3,7 @@
 #include "orbis/factory/MarshalingPolicy.hpp"
 #include "orbis/factory/detail/NewArray.hpp"
 #include "orbis/factory/detail/ReferredObjects.hpp"
+#include "orbis/factory/detail/hostShares.hpp"
 #include "orbis/factory/export.hpp"
 #include "orbis/factory/full/Shareable.hpp"
 #include "orbis/factory/full/StdShareable.hpp"

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "orbis/factory/detail/NativeOwnership.hpp"
-#include "orbis/factory/detail/hostShares.hpp"
+#include "orbis/factory/detail/SharedOwnership.hpp"
 #include "orbis/factory/export.hpp"
 #include "orbis/factory/full/SharingType.hpp"
 #include "orbis/factory/full/Wrappable.hpp"
@@ -44,25 +43,12 @@ ORBIS_FACTORY_API bool canAcquireReference(Shareable* object);
 
 namespace orbis::factory::detail {
 
-/// Shared from the beginning: the host object has a share, and all share one count.
 template <std::derived_from<full::Shareable> T>
-struct NativeOwnership<T> {
+struct NativeOwnership<T> : SharedOwnership<T, full::Shareable> {
     template <class... A>
     static boost::shared_ptr<T> make(A&&... arguments)
     {
         return boost::make_shared<T>(std::forward<A>(arguments)...);
-    }
-
-    static void handOver(boost::shared_ptr<T> const& made, hvArray_tag const* constructed)
-    {
-        shareWithHost(constructed, made);
-    }
-
-    /// An object that no shared pointer owns is not shared either: its host object becomes invalid when it ends.
-    static void share(T const* object, hvArray_tag const* array)
-    {
-        if (auto const owner = object ? object->weak_from_this().lock() : nullptr)
-            shareWithHost(array, boost::const_pointer_cast<full::Shareable>(owner));
     }
 };
 
