@@ -55,7 +55,7 @@ void Hvm::unloadModule(std::string_view name)
 
 std::vector<ModuleRecord> Hvm::modules() const
 {
-    return state_->modules().records();
+    return callInto(*state_, [&] { return state_->modules().records(); });
 }
 
 NameKind Hvm::lookUp(std::string_view fullName)
@@ -80,7 +80,7 @@ MethodRecord Hvm::describeFunction(std::string_view fullName)
 
 std::vector<ObjectRecord> Hvm::objects() const
 {
-    return listObjects(*state_);
+    return callInto(*state_, [&] { return listObjects(*state_); });
 }
 
 } // namespace velmara
