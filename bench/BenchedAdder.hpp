@@ -4,7 +4,6 @@
 #include "orbis/factory/HandleClassInfo.hpp"
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/impl/OrbisConstructor.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "velmara/Hvm.hpp"
@@ -99,7 +98,6 @@ public:
         object = hvm.construct(adderName);
         orbis::COSInterface* const host = orbis::omGetArrayElement(object.get(), 0);
         native = static_cast<Adder*>(host->getNativeObject(COSNameID(adderName)));
-        bind(constructor, AdderInfo::description().members().at(0));
         bind(member, AdderInfo::description().members().at(1));
         bind(function.method(), orbis::factory::describeFunctions().function("add", &addFree).functions().at(0));
     }
@@ -126,8 +124,6 @@ private:
 public:
     velmara::ArrayPtr object;
     Adder* native = nullptr;
-    orbis::factory::impl::OrbisConstructor constructor{"Adder", {}, ""};
-    AdderInfo info;
     orbis::factory::impl::MethodImpl member{"add", {}, ""};
     orbis::factory::FunctionInfo function{"add", {}};
     HandWrittenAdd handWritten;

@@ -4,8 +4,6 @@
 
 #include "orbis/factory/basic/BindingRegistry.hpp"
 
-#include "orbis/COSClass.hpp"
-
 #include <cstddef>
 
 namespace bench {
@@ -54,23 +52,7 @@ public:
             fixture_.hvm.construct(adderName);
     }
 
-    /// What of this is the library's: the constructor and the class info, with the native object's memory.
-    void bind(std::size_t count)
-    {
-        COSNameID const name(adderName);
-        COSInterfacePtr const held = orbis::COSClass::getClass(name)->newInstance();
-        velmara::ArrayPtr const array(orbis::omCreateORBISScalar(held));
-        orbis::COSInterface* const host = held;
-        for (std::size_t i = 0; i < count; ++i) {
-            int outputCount = 1;
-            COSValue output(array.get());
-            fixture_.constructor.invoke(nullptr, outputCount, &output, 0, nullptr);
-            fixture_.info.destroyInstanceData(host, host->getNativeObject(name));
-            host->setNativeObject(name, nullptr);
-        }
-    }
-
-    /// What of that is the native object's own.
+    /// What of this is the native object's own.
     [[gnu::noipa]] static void destroy(Adder* adder) { delete adder; }
     void allocate(std::size_t count)
     {

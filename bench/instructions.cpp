@@ -54,7 +54,6 @@ int main(int argc, char** argv)
                                  {"callWithName", run<&Enumerations::callWithName>},
                                  {"callWithNumber", run<&Enumerations::callWithNumber>},
                                  {"construct", run<&Calls::construct>},
-                                 {"bind", run<&Calls::bind>},
                                  {"allocate", run<&Calls::allocate>},
                                  {"createValue", run<&bench::ownership::Values::create>},
                                  {"createWrappable", run<&bench::ownership::Wrappables::create>},

@@ -122,8 +122,11 @@ void BindingRegistry::announceForConstructor(void* const object, COSNameID const
                                              bool store)
 {
     CopyableSupport::removeFromUnconstructedSet(object); // before anything can fail
-    COSInterfacePtr const instance = cosiGetArrayElement(constructed, 0);
-    detail::bindConstructed(instance, className, object, store);
+    COSInterfacePtr instance = cosiGetArrayElement(constructed, 0);
+    if (object && store)
+        detail::bindConstructed(instance, className, object);
+    else
+        instance->setNativeObject(className, object);
 }
 
 hvArray* BindingRegistry::announceWithoutStoring(void* source, COSNameID const& className,

@@ -1,40 +1,24 @@
 #include "orbis/factory/CopyableSupport.hpp"
 
 #include "orbis/factory/basic/HvmScoped.hpp"
-
-#include <boost/container/flat_set.hpp>
+#include "orbis/factory/basic/registry.hpp"
 
 namespace orbis::factory::CopyableSupport {
 
-namespace {
-
-// A sorted array: it holds the few objects that are between their creation and their binding.
-struct UnconstructedSet {
-    boost::container::flat_set<void const*> objects;
-};
-
-boost::container::flat_set<void const*>& objects()
-{
-    return basic::HvmScoped<UnconstructedSet>::get().objects;
-}
-
-} // namespace
-
 void addToUnconstructedSet(void const* object)
 {
-    objects().insert(object);
+    basic::registry().unconstructed.insert(object);
 }
 
 bool isInUnconstructedSet(void const* object)
 {
-    return objects().contains(object);
+    return basic::registry().unconstructed.contains(object);
 }
 
 void removeFromUnconstructedSet(void const* object)
 {
-    auto* const set = basic::HvmScoped<UnconstructedSet>::find();
-    if (set && !set->objects.empty())
-        set->objects.erase(object);
+    if (auto* const table = basic::HvmScoped<basic::FooRegistry>::find())
+        table->unconstructed.erase(object);
 }
 
 } // namespace orbis::factory::CopyableSupport

@@ -15,8 +15,10 @@ void basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const&
         remember(object, host, className);
     if (!spare_) [[unlikely]]
         return bindFirst(object, host);
-    spare_.key() = object;
-    *spare_.mapped() = RegistryEntry(object, host);
+    RegistryEntry& entry = *spare_.mapped();
+    void const*& key = spare_.key();
+    entry = RegistryEntry(object, host);
+    key = object;
     insert(end(), std::move(spare_)); // with a place given, what is not inserted stays where it is
 }
 
@@ -39,36 +41,45 @@ void basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const&
     }
 }
 
-void basic::FooRegistry::unbind(iterator mapping)
+bool basic::FooRegistry::unbind(void const* object, COSInterface const* host)
 {
-    if (!spare_) [[likely]] {
-        spare_ = extract(mapping);
-        return;
+    node_type mapping = extract(object);
+    if (!mapping) [[unlikely]]
+        return false;
+    COSInterface* const bound = mapping.mapped()->host;
+    if (bound != host && host) [[unlikely]] {
+        putBack(std::move(mapping));
+        return false;
     }
-    std::unique_ptr<RegistryEntry> const entry(mapping->second);
-    erase(mapping);
+    if (!spare_) [[likely]]
+        spare_ = std::move(mapping);
+    else
+        delete mapping.mapped();
+    if (!handles.empty()) [[unlikely]]
+        giveBackHandles(bound);
+    return true;
+}
+
+/// Nothing can fail: there is room for what was there.
+[[gnu::noinline]] void basic::FooRegistry::putBack(node_type mapping) noexcept
+{
+    insert(end(), std::move(mapping));
 }
 
 // These two are on the way of every object from its construction to its end: what they call stands in them.
-[[gnu::flatten]] void detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object, bool store)
-{
-    CopyableSupport::removeFromUnconstructedSet(object);
-    host->setNativeObject(className, object);
-    if (object && store)
-        basic::HvmScoped<basic::FooRegistry>::get().bind(object, host, className);
-}
-
-[[gnu::flatten]] bool detail::forgetBinding(COSInterface const* host, void const* object)
+[[gnu::flatten]] void detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object)
 {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
-    auto const found = object ? table.find(object) : table.end();
-    if (found == table.end() || (host && found->second->host != host))
-        return false;
-    COSInterface* const bound = found->second->host;
-    table.unbind(found);
-    if (!table.handles.empty())
-        table.giveBackHandles(bound);
-    return true;
+    if (!table.unconstructed.empty()) [[unlikely]]
+        CopyableSupport::removeFromUnconstructedSet(object);
+    host->setNativeObject(className, object);
+    table.bind(object, host, className);
+}
+
+[[gnu::flatten]] void* detail::forgetBinding(COSInterface const* host, void* object)
+{
+    basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
+    return table.unbind(object, host) ? object : nullptr;
 }
 
 } // namespace orbis::factory

@@ -148,11 +148,23 @@ void Object::endIfUnreferenced() noexcept
 
 void Object::setNativeObject(orbis::COSNameID const& name, void* object)
 {
-    if (isValid()) {
-        Slot& slot = slotOf(name.interned());
-        slot.native = object;
-        slot.recorded = true;
-    } else if (object)
+    if (!isValid()) [[unlikely]]
+        return refuseNativeObject(object);
+    if (name.interned() == own_.className) [[likely]]
+        own_.record(object);
+    else
+        recordFurther(name.interned(), object);
+}
+
+[[gnu::noinline]] void Object::recordFurther(Name className, void* object)
+{
+    furtherSlotOf(className).record(object);
+}
+
+/// An invalid object has none, and gets none.
+[[gnu::noinline]] void Object::refuseNativeObject(void const* object) const
+{
+    if (object)
         throwHostError("VELMARA:object", "invalid", {std::string(className()->view())});
 }
 

@@ -115,6 +115,12 @@ private:
         bool recorded = false;
         Name className = nullptr;
         void* native = nullptr;
+
+        void record(void* object)
+        {
+            native = object;
+            recorded = true;
+        }
     };
 
     explicit Object(Class& cls, std::size_t enumerator = 0);
@@ -126,9 +132,10 @@ private:
     void lastReferenceGone() noexcept;
     void freeIfUnreferenced() noexcept;
 
-    Slot& slotOf(Name className) { return className == own_.className ? own_ : furtherSlotOf(className); }
     Slot& furtherSlotOf(Name className);
     Slot* findFurther(Name className) const;
+    void refuseNativeObject(void const* object) const;
+    void recordFurther(Name className, void* object);
     void createInstanceData(Class& cls);
     void destroyInstanceData() noexcept;
     void destroyInstanceData(Class& cls) noexcept;

@@ -1,6 +1,9 @@
 #include "orbis/COSInterfacePtr.hpp"
 
 #include "system/Object.hpp"
+#include "values/arrayArguments.hpp"
+
+#include "orbis/objectArrays.hpp"
 
 #include <utility>
 
@@ -87,6 +90,18 @@ void COSInterfacePtr::setReferenceType(COSReferenceType type)
     COSInterface* const held = *this;
     hold(held, type);
     letGo(std::exchange(object_, held), std::exchange(type_, type));
+}
+
+// These two stand where the constructor of the handle that they make can stand in them: most calls pass through one.
+
+COSInterfacePtr omGetArrayElement(hvArray_tag const* array, std::size_t index)
+{
+    return velmara::requireObject(array, index).objects()[index];
+}
+
+COSInterfacePtr cosiGetArrayElement(hvArray_tag const* array, std::size_t index)
+{
+    return velmara::requireObject(array, index).objects()[index];
 }
 
 } // namespace orbis

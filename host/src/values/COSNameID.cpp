@@ -18,12 +18,8 @@ using velmara::Name;
 
 class NamesByAddress {
 public:
-    /// Null when the name last made from a text at this address is another one, or none.
-    Name known(char const* text) const
-    {
-        Name const recent = recent_[placeOf(text)].load(std::memory_order_acquire);
-        return recent && text && std::strcmp(recent->text, text) == 0 ? recent : nullptr;
-    }
+    /// The name last made from a text at this address, or null. It may have been made from another text.
+    Name recent(char const* text) const { return recent_[placeOf(text)].load(std::memory_order_acquire); }
 
     [[gnu::noinline]] Name find(char const* text)
     {
@@ -44,9 +40,9 @@ constinit NamesByAddress namesByAddress;
 
 } // namespace
 
-COSNameID::COSNameID(char const* name) : name_(namesByAddress.known(name))
+COSNameID::COSNameID(char const* name) : name_(namesByAddress.recent(name))
 {
-    if (!name_) [[unlikely]]
+    if (!name_ || !name || std::strcmp(name_->text, name) != 0) [[unlikely]]
         name_ = namesByAddress.find(name);
     ++velmara::liveCountsOfThisThread().heldNames;
 }

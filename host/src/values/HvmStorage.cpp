@@ -5,11 +5,11 @@
 
 namespace velmara {
 
-HvmStorage::Entry* HvmStorage::findAmong(Entry* first, std::type_info const& type)
+HvmStorage::Entry* HvmStorage::findAmong(Entry* first, std::type_info const& type) const
 {
-    while (first && *first->type != type)
+    while (first != &none_ && *first->type != type)
         first = first->sameID;
-    return first;
+    return first != &none_ ? first : nullptr;
 }
 
 HvmStorage::Holder& HvmStorage::findOrInsert(std::uint64_t id, std::type_info const& type, Holder&& value)
@@ -23,8 +23,10 @@ HvmStorage::Holder& HvmStorage::insert(std::uint64_t id, std::type_info const& t
     // Everything that may fail comes first: a refused value stays the caller's, and the one before stays stored.
     if (!isStorageID(id))
         throwHostError("VELMARA:hvm", "unknownStorageID", {std::to_string(id)});
-    if (id >= byID_.size())
-        byID_.resize(id + 1);
+    if (id >= byID_.size()) {
+        byID_.resize(id + 1, &none_);
+        known_ = byID_;
+    }
     std::list<Entry> made;
     made.push_back({id, &type, Holder(nullptr, value.get_deleter())});
     made.front().holder = std::move(value);

@@ -3,6 +3,7 @@
 #include "libkwfoundation_usm/Detail.hpp"
 
 #include <list>
+#include <span>
 #include <vector>
 
 namespace velmara {
@@ -36,27 +37,29 @@ private:
         std::uint64_t id;
         std::type_info const* type;
         Holder holder;
-        Entry* sameID = nullptr; ///< the next entry of this id, of another type
+        Entry* sameID = nullptr; ///< the next entry of this id, of another type; `none_` after the last
         std::list<Entry>::iterator place = {};
     };
 
     Entry* findEntry(std::uint64_t id, std::type_info const& type) const
     {
-        Entry* const entry = id < byID_.size() ? byID_[id] : nullptr;
-        if (!entry || entry->type == &type) [[likely]]
-            return entry;
-        return findAmong(entry, type);
+        if (id >= known_.size()) [[unlikely]]
+            return nullptr;
+        Entry* const entry = known_[id];
+        return entry->type == &type ? entry : findAmong(entry, type);
     }
 
     /// The entry of that type from `first` on: one id may be used with several types, and one type may have several
     /// addresses.
-    static Entry* findAmong(Entry* first, std::type_info const& type);
+    Entry* findAmong(Entry* first, std::type_info const& type) const;
 
     Holder& store(std::list<Entry>& made);
     void remove(Entry& entry);
 
+    Entry none_{.id = 0, .type = nullptr, .holder = Holder(nullptr, nullptr)}; ///< stands where an id has no entry
     std::list<Entry> inOrder_;
     std::vector<Entry*> byID_;
+    std::span<Entry*> known_; ///< of `byID_`: its size is read at every access, and no difference to be worked out
 };
 
 } // namespace velmara

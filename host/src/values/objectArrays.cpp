@@ -49,16 +49,6 @@ hvArray* omCreateORBISMatrix(std::size_t m, std::size_t n, COSNameID const& clas
     return Array::createObjects(className.interned(), m, n);
 }
 
-COSInterfacePtr omGetArrayElement(hvArray_tag const* array, std::size_t index)
-{
-    return requireObject(array, index).objects()[index];
-}
-
-COSInterfacePtr cosiGetArrayElement(hvArray_tag const* array, std::size_t index)
-{
-    return omGetArrayElement(array, index);
-}
-
 void omSetArrayElement(hvArray_tag* array, std::size_t index, COSInterfacePtr const& object)
 {
     if (array && object.getReferenceType() == COSReferenceType::Strong) [[likely]] {

@@ -31,15 +31,15 @@ public:
     /// Only then the native object is deleted, if it is this class info's to delete.
     bool destroyInstanceData(COSInterface* object, void* data) override
     {
-        bool const wasBound = detail::forgetBinding(object, data);
-        bool wasShared = false;
+        void* const forgotten = detail::forgetBinding(object, data);
+        bool isOwn = N == 1;
         if constexpr (std::is_same_v<RootClass<T>, full::Wrappable>) // may be a shared one
-            wasShared = detail::dropShare(object);
+            isOwn = !detail::dropShare(object) && isOwn;
         if constexpr (N == 1) {
-            if (wasBound && !wasShared)
-                delete static_cast<RootClass<T>*>(data);
+            if (isOwn)
+                delete static_cast<RootClass<T>*>(forgotten);
         }
-        return wasBound;
+        return forgotten != nullptr;
     }
 
     bool isHandle() const override { return true; }

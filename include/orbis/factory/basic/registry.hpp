@@ -5,6 +5,7 @@
 
 #include "orbis/COSNameID.hpp"
 
+#include <boost/container/flat_set.hpp>
 #include <boost/unordered_map.hpp>
 
 #include <memory>
@@ -34,8 +35,9 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     /// Adds a new entry, unless there is one for `object`. `host` is held by someone else.
     void bind(void* object, COSInterface* host, COSNameID const& className);
 
-    /// Erases a mapping and destroys its entry.
-    void unbind(iterator mapping);
+    /// Erases the mapping of `object`, where it is one to `host` (null for any host object), destroys its entry and
+    /// gives back what handles hold. True when there was one.
+    bool unbind(void const* object, COSInterface const* host);
 
     /// Gives back the references that handles hold on `host`: its binding is gone, through which they would find it.
     void giveBackHandles(COSInterface* host);
@@ -44,10 +46,14 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     std::set<std::pair<COSInterface*, void const*>> handles;
     boost::unordered_map<void const*, COSInterface*> heldByHandles;
 
+    /// The native objects between their creation and their binding: few, so they are a sorted array.
+    boost::container::flat_set<void const*> unconstructed;
+
     std::unique_ptr<BindingHistory> history; ///< only in a virtual machine that reports leaks
 
 private:
     void bindFirst(void* object, COSInterface* host);
+    void putBack(node_type mapping) noexcept;
     void remember(void const* object, COSInterface* host, COSNameID const& className);
 
     /// The mapping erased last, entry and all: objects that come and go one after the other take no memory.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/factory/CopyableSupport.hpp"
 #include "orbis/factory/HvArrayPolicy.hpp"
 #include "orbis/factory/detail/Argument.hpp"
 #include "orbis/factory/detail/CallableTraits.hpp"
@@ -124,7 +125,13 @@ private:
     static void bind(COSInterface* host, COSNameID const& className, T* object)
     {
         using Bound = MarshalerOf<T*>;
-        bindConstructed(host, className, Bound::boundAddress(object), Bound::isHandle);
+        void* const address = Bound::boundAddress(object);
+        if constexpr (Bound::isHandle) {
+            bindConstructed(host, className, address);
+        } else {
+            CopyableSupport::removeFromUnconstructedSet(address);
+            host->setNativeObject(className, address);
+        }
     }
 
     static void assign([[maybe_unused]] T& existing, [[maybe_unused]] ArgumentsOf<A...>& arguments,
