@@ -27,14 +27,35 @@ struct Bare final : Base {
 };
 
 struct Counted {
-    Counted() { ++alive; }
+    Counted()
+    {
+        ++alive;
+        CopyableSupport::addToUnconstructedSet(this);
+    }
     Counted(Counted const&) = delete;
     Counted& operator=(Counted const&) = delete;
     virtual ~Counted() { --alive; }
     inline static int alive = 0;
 };
 
+} // namespace
+
+template <>
+struct orbis::factory::HostClass<Counted> {
+    static constexpr char const* name = "tests.Counted";
+};
+
+namespace {
+
 using ClassInfoTest = HvmTest;
+
+TEST_F(ClassInfoTest, AConstructedObjectIsNoLongerWaiting)
+{
+    publishClass<Counted>([](auto& c) { c.constructor(); });
+    ArrayPtr const made = hvm().construct("tests.Counted");
+    ASSERT_EQ(basic::registry().size(), 1u);
+    EXPECT_FALSE(CopyableSupport::isInUnconstructedSet(basic::registry().begin()->first));
+}
 
 /// Destroys the instance data of bound objects by hand: what one of the templates does with the binding and with the
 /// native object.
