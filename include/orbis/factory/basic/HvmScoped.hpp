@@ -9,8 +9,8 @@
 namespace orbis::factory::basic {
 
 /// The one `T` of the current virtual machine, made on first use and deleted when that ends, after its host objects.
-/// What would be global belongs here, such as what owns native objects that scripts use. Threading: on the thread of
-/// the virtual machine.
+/// What would be global belongs here, such as what owns native objects that scripts use. Modules cannot count on
+/// sharing it: each may have one of its own. Threading: on the thread of the virtual machine.
 template <class T>
 class HvmScoped {
     using Storage = foundation::usm::Detail<foundation::usm::scope::Hvm>;

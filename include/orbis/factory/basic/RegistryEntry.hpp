@@ -7,7 +7,7 @@ namespace orbis::factory::basic {
 /// One binding of the registry. It holds no reference on the host object: the table keeps no object alive.
 class RegistryEntry {
 public:
-    /// The reference that `boundTo` carries is given back before the constructor returns.
+    /// The reference that `boundTo` carries goes with it.
     RegistryEntry(void* nativeObject, COSInterfacePtr boundTo) : object(nativeObject), host(boundTo) {}
 
     /// The same for an object that someone else holds meanwhile.
