@@ -5,6 +5,7 @@
 #include "ObjectBinding.hpp"
 #include "ObjectListing.hpp"
 #include "Proxy.hpp"
+#include "ReferenceListing.hpp"
 #include "ScriptError.hpp"
 #include "ValueToHost.hpp"
 

@@ -1,7 +1,5 @@
 #include "ObjectListing.hpp"
 
-#include "HostCall.hpp"
-#include "ObjectBinding.hpp"
 #include "ScriptError.hpp"
 #include "Session.hpp"
 
@@ -113,23 +111,6 @@ int listObjects(lua_State* L)
         lua_setfield(L, -2, "__tostring");
     }
     lua_setmetatable(L, -2);
-    return 1;
-}
-
-int listReferences(lua_State* L)
-{
-    luaL_checkstack(L, 6, nullptr);
-    HostCall call(L);
-    std::vector<Reference> const references = call.hvm().references(call.keep(checkObject(L, 1)));
-    lua_createtable(L, static_cast<int>(references.size()), 0);
-    lua_Integer number = 0;
-    for (Reference const& reference : references) {
-        lua_createtable(L, 0, 2);
-        setField(L, "property", reference.property);
-        pushObject(L, reference.object.get(), 0);
-        lua_setfield(L, -2, "object");
-        lua_rawseti(L, -2, ++number);
-    }
     return 1;
 }
 

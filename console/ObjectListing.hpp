@@ -8,7 +8,4 @@ namespace velmara::console {
 /// prints as an aligned list.
 int listObjects(lua_State* L);
 
-/// `references(object)`, likewise: a sequence of tables with the `property` and the `object` that it refers to.
-int listReferences(lua_State* L);
-
 } // namespace velmara::console
