@@ -164,7 +164,7 @@ void BindingRegistry::hijack(void const* const oldObject, void* newObject, COSIn
         return;
     take(oldObject);
     if (find(newObject) != host) // which was bound already: no binding is left
-        registry().giveBackHandles(host);
+        registry().handles.giveBack(host);
 }
 
 bool BindingRegistry::release(void const* const object)
@@ -180,7 +180,7 @@ bool BindingRegistry::remove(void const* const object)
     if (auto const& history = registry().history) // while nothing is done: it may be out of memory
         history->unbound.emplace(host, object);
     take(object);
-    registry().giveBackHandles(host);
+    registry().handles.giveBack(host);
     return true;
 }
 
@@ -196,7 +196,7 @@ bool BindingRegistry::retract(void const* const object)
         COSInterfacePtr host = entry->host;
         host->setValid(false);
         detail::dropShare(host); // it ends without another word to its class info
-        registry().giveBackHandles(host);
+        registry().handles.giveBack(host);
     }
     return true;
 }

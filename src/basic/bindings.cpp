@@ -56,7 +56,7 @@ bool basic::FooRegistry::unbind(void const* object, COSInterface const* host)
     else
         delete mapping.mapped();
     if (!handles.empty()) [[unlikely]]
-        giveBackHandles(bound);
+        handles.giveBack(bound);
     return true;
 }
 
@@ -70,7 +70,7 @@ bool basic::FooRegistry::unbind(void const* object, COSInterface const* host)
 [[gnu::flatten]] void detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object)
 {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
-    if (!table.unconstructed.empty()) [[unlikely]]
+    if (table.unconstructed && !table.unconstructed->empty()) [[unlikely]]
         CopyableSupport::removeFromUnconstructedSet(object);
     host->setNativeObject(className, object);
     table.bind(object, host, className);

@@ -20,31 +20,19 @@ basic::FooRegistry* activeTable()
 
 void enterHandle(COSInterface* host, void const* handle)
 {
-    basic::FooRegistry& table = basic::registry();
-    COSInterface*& held = table.heldByHandles[handle];
-    table.handles.emplace(host, handle);
-    held = host;
+    basic::registry().handles.enter(host, handle);
 }
 
 COSInterface* heldBy(void const* handle) noexcept
 {
     basic::FooRegistry const* const table = activeTable();
-    if (!table)
-        return nullptr;
-    auto const found = table->heldByHandles.find(handle);
-    return found == table->heldByHandles.end() ? nullptr : found->second;
+    return table ? table->handles.heldBy(handle) : nullptr;
 }
 
 void leaveHandle(void const* handle) noexcept
 {
-    basic::FooRegistry* const table = activeTable();
-    if (!table)
-        return;
-    auto const found = table->heldByHandles.find(handle);
-    if (found == table->heldByHandles.end())
-        return;
-    table->handles.erase({found->second, handle});
-    table->heldByHandles.erase(found);
+    if (basic::FooRegistry* const table = activeTable())
+        table->handles.leave(handle);
 }
 
 } // namespace orbis::factory::detail

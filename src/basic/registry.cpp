@@ -44,18 +44,6 @@ FooRegistry::~FooRegistry()
         delete spare_.mapped();
 }
 
-void FooRegistry::giveBackHandles(COSInterface* host)
-{
-    auto const first = handles.lower_bound({host, nullptr});
-    auto last = first;
-    std::size_t count = 0;
-    for (; last != handles.end() && last->first == host; ++last, ++count)
-        heldByHandles.erase(last->second);
-    handles.erase(first, last); // first: the last reference to go may end other objects, and come back here
-    for (; count > 0; --count)
-        host->removeReference();
-}
-
 FooRegistry& registry()
 {
     return HvmScoped<FooRegistry>::get();

@@ -94,7 +94,7 @@ std::string checkHandles(HostView const& hosts)
         auto const found = table.find(record.native);
         return found != table.end() && found->second->host == record.host;
     };
-    for (auto const& [host, handle] : table.handles)
+    for (auto const& [host, handle] : table.handles.all())
         if (std::ranges::none_of(hosts.of(host), isBinding))
             return "a handle at " + addressText(handle) + " holds a host object that is bound to no native object";
     return {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/factory/basic/HandleReferences.hpp"
 #include "orbis/factory/basic/RegistryEntry.hpp"
 #include "orbis/factory/export.hpp"
 
@@ -39,16 +40,10 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     /// gives back what handles hold. True when there was one.
     bool unbind(void const* object, COSInterface const* host);
 
-    /// Gives back the references that handles hold on `host`: its binding is gone, through which they would find it.
-    void giveBackHandles(COSInterface* host);
+    /// What `CopyableSupport` keeps, null before its first use: every constructor looks whether something is in it.
+    boost::container::flat_set<void const*> const* unconstructed = nullptr;
 
-    /// The handles that hold a reference, by the host object that they hold, and the other way round.
-    std::set<std::pair<COSInterface*, void const*>> handles;
-    boost::unordered_map<void const*, COSInterface*> heldByHandles;
-
-    /// The native objects between their creation and their binding: few, so they are a sorted array.
-    boost::container::flat_set<void const*> unconstructed;
-
+    HandleReferences handles;
     std::unique_ptr<BindingHistory> history; ///< only in a virtual machine that reports leaks
 
 private:
