@@ -81,8 +81,8 @@ consteval bool areOneType()
 /// True for data that is read and written through one pointer.
 template <class T, class D>
 inline constexpr bool isWritableData =
-    (std::is_member_object_pointer_v<D> || std::is_pointer_v<D>)&&GetterTraits<T, D>::isGetter &&
-    SetterTraits<T, D>::isSetter;
+    (std::is_member_object_pointer_v<D> || (std::is_pointer_v<D> && !std::is_function_v<std::remove_pointer_t<D>>)) &&
+    GetterTraits<T, D>::isGetter && SetterTraits<T, D>::isSetter;
 
 /// Getters and setters of static properties take no object.
 template <class Traits>
