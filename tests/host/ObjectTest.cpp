@@ -161,23 +161,25 @@ TEST_F(ObjectTest, FailedInstanceDataIsTakenBack)
     EXPECT_EQ(log_, "ABCbaABaAAB");
 }
 
-TEST_F(ObjectTest, MadeInvalidWhileItsDataIsMade)
+TEST_F(ObjectTest, MadeInvalidOrEndedWhileItsDataIsMade)
 {
     auto* const info = new Class("S");
-    COSInterface* self = nullptr;
-    int alive = 0;
+    ArrayPtr object;
+    int alive = 0, made = 0;
     info->create = [&]() -> void* {
-        self->setValid(false);
+        ++made == 1 ? objectIn(object)->setValid(false) : hvm().deleteObjects(object.get());
         ++alive;
         return &alive;
     };
     info->destroy = [&](COSInterface*, void*) { --alive; };
     publish(info);
     orbis::COSClass* const cls = orbis::COSClass::getClass("S");
-    COSInterfacePtr const object = cls->newInstance();
-    self = object;
-    EXPECT_EQ(messageIdOf([&] { cls->initializeInstance(object); }), "VELMARA:object:invalid");
-    EXPECT_EQ(alive, 0);
+    for (int i = 0; i < 2; ++i) {
+        object.reset(omCreateORBISScalar(cls->newInstance()));
+        auto const initialize = [&] { cls->initializeInstance(objectIn(object)); };
+        EXPECT_EQ(messageIdOf(initialize), "VELMARA:object:invalid");
+        EXPECT_EQ(alive, 0);
+    }
 }
 
 TEST_F(ObjectTest, ConstructorsRunOnAnInitialisedObjectAndFailCleanly)

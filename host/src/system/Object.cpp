@@ -60,7 +60,8 @@ Object& Object::makeEnumerator(Class& cls, std::size_t enumerator)
         auto const& classes = class_->linearization();
         std::for_each(classes.rbegin(), classes.rend(), [this](Class* cls) { createInstanceData(*cls); });
     } catch (...) {
-        destroyInstanceData();
+        if (!isEnded()) // else that is done, and there is no class any more
+            destroyInstanceData();
         isInitialized_ = false;
         throw;
     }
