@@ -9,7 +9,7 @@
 
 namespace orbis::factory {
 
-void basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const& className)
+bool basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const& className)
 {
     if (history) [[unlikely]]
         remember(object, host, className);
@@ -20,14 +20,17 @@ void basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const&
     entry = RegistryEntry(object, host);
     key = object;
     insert(end(), std::move(spare_)); // with a place given, what is not inserted stays where it is
+    return spare_.empty();
 }
 
 /// The same where no mapping is kept.
-[[gnu::noinline]] void basic::FooRegistry::bindFirst(void* object, COSInterface* host)
+[[gnu::noinline]] bool basic::FooRegistry::bindFirst(void* object, COSInterface* host)
 {
     auto entry = std::make_unique<RegistryEntry>(object, host);
-    if (emplace(object, entry.get()).second)
-        static_cast<void>(entry.release());
+    if (!emplace(object, entry.get()).second)
+        return false;
+    static_cast<void>(entry.release());
+    return true;
 }
 
 [[gnu::noinline]] void basic::FooRegistry::remember(void const* object, COSInterface* host, COSNameID const& className)
@@ -67,13 +70,13 @@ bool basic::FooRegistry::unbind(void const* object, COSInterface const* host)
 }
 
 // These two are on the way of every object from its construction to its end: what they call stands in them.
-[[gnu::flatten]] void detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object)
+[[gnu::flatten]] bool detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object)
 {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
     if (table.unconstructed && !table.unconstructed->empty()) [[unlikely]]
         CopyableSupport::removeFromUnconstructedSet(object);
     host->setNativeObject(className, object);
-    table.bind(object, host, className);
+    return table.bind(object, host, className);
 }
 
 [[gnu::flatten]] void* detail::forgetBinding(COSInterface const* host, void* object)

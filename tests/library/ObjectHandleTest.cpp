@@ -40,6 +40,7 @@ namespace {
 /// Refers to others of its kind; deleted with its host object.
 struct Linked {
     Linked() { ++alive; }
+    explicit Linked(int) : Linked() { setNext(this); }
     Linked(Linked const&) = delete;
     Linked& operator=(Linked const&) = delete;
     virtual ~Linked() { --alive; }
@@ -95,7 +96,9 @@ TEST_F(ObjectHandleTest, AHandleHoldsOneReference)
 TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
 {
     COSPackage::removePackage("tests");
-    publishClass<Linked>([](auto& c) { c.constructor().property("next", &Linked::next, &Linked::setNext); });
+    publishClass<Linked>([](auto& c) {
+        c.constructor().template constructor<int>("any").property("next", &Linked::next, &Linked::setNext);
+    });
     auto* head = new Linked;
     for (int i = 0; i < 100000; ++i) {
         auto* const longer = new Linked;
@@ -117,6 +120,7 @@ TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
     hvm().deleteObjects(hvm().construct("tests.Linked").get());
     first.reset();
     second.reset();
+    expectMessage([&] { hvm().construct("tests.Linked", NumericInputs{1}.arrays); }, {"before it was done"});
     EXPECT_EQ(Linked::alive, 2);
 }
 

@@ -33,8 +33,8 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     FooRegistry& operator=(FooRegistry const&) = delete;
     ~FooRegistry();
 
-    /// Adds a new entry, unless there is one for `object`. `host` is held by someone else.
-    void bind(void* object, COSInterface* host, COSNameID const& className);
+    /// Adds a new entry; false when there is one for `object`, which stays. `host` is held by someone else.
+    bool bind(void* object, COSInterface* host, COSNameID const& className);
 
     /// Erases the mapping of `object`, where it is one to `host` (null for any host object), destroys its entry and
     /// gives back what handles hold. True when there was one.
@@ -47,7 +47,7 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     std::unique_ptr<BindingHistory> history; ///< only in a virtual machine that reports leaks
 
 private:
-    void bindFirst(void* object, COSInterface* host);
+    bool bindFirst(void* object, COSInterface* host);
     void putBack(node_type mapping) noexcept;
     void remember(void const* object, COSInterface* host, COSNameID const& className);
 
