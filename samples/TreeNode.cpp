@@ -16,7 +16,7 @@ TreeNodeBase::~TreeNodeBase()
     for (auto const& child : children_)
         child->parent_ = nullptr;
     if (parent_)
-        parent_->children_.remove_if([this](auto const& child) { return child.get() == this; });
+        parent_->children_.remove_if([this](auto const& child) { return child == this; });
 }
 
 std::vector<TreeNodeBase*> TreeNodeBase::children() const
@@ -45,7 +45,7 @@ void TreeNodeBase::add(TreeNodeBase* child)
 
 void TreeNodeBase::remove(TreeNodeBase* child)
 {
-    auto const found = std::ranges::find(children_, child, &ObjectHandle<TreeNodeBase>::get);
+    auto const found = std::ranges::find_if(children_, [=](auto const& handle) { return handle == child; });
     if (found == children_.end())
         throw Exception("This does not stand below \"" + title_ + "\".");
     child->parent_ = nullptr;

@@ -116,8 +116,11 @@ TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
     second.reset();
     EXPECT_EQ(Linked::alive, 2);
     second = hvm().get(first.get(), "next");
+    hvm().deleteObjects(second.get());
+    EXPECT_EQ(hvm().get(first.get(), "next")->get_number_of_elements(), 0u);
+    second = hvm().construct("tests.Linked");
+    hvm().set(first.get(), "next", second.get());
     hvm().set(second.get(), "next", first.get());
-    hvm().deleteObjects(hvm().construct("tests.Linked").get());
     first.reset();
     second.reset();
     expectMessage([&] { hvm().construct("tests.Linked", NumericInputs{1}.arrays); }, {"before it was done"});
@@ -132,8 +135,10 @@ TEST_F(ObjectHandleTest, AnObjectThatEndedIsNotLookedAt)
     ObjectHandle<Floating> handle(floating);
     floating->~Floating();
     std::ranges::fill(place, std::byte{0});
+    EXPECT_TRUE(!handle && handle == floating);
+    EXPECT_EQ(ObjectHandle<Floating>(handle).get(), nullptr);
     handle.reset();
-    EXPECT_FALSE(handle);
+    EXPECT_FALSE(handle == floating);
 }
 
 } // namespace

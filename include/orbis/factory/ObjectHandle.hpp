@@ -11,8 +11,8 @@ namespace orbis::factory {
 
 /// With which a native object refers to another one that is published: while the handle refers to it, its host object
 /// does not end, and where the class info deletes it with that, neither does the native object. A native object without
-/// a host object gets one. When the native object goes first the handle holds nothing any more, but still gives its
-/// address: who lets it go first resets the handle then, or does not look through it.
+/// a host object gets one. Empty, or as if it were, when the native object goes first, as scripts may have it: then it
+/// is told apart by its address only.
 ///
 /// Threading: on the thread of the virtual machine. After its end a handle does nothing.
 template <PublishedClass T>
@@ -20,12 +20,12 @@ class ObjectHandle : public H_ck {
 public:
     ObjectHandle() = default;
     explicit ObjectHandle(T* object) { reset(object); }
-    ObjectHandle(ObjectHandle const& other) : ObjectHandle(other.object_) {}
+    ObjectHandle(ObjectHandle const& other) : ObjectHandle(other.get()) {}
 
     ObjectHandle& operator=(ObjectHandle const& other)
     {
         if (this != &other)
-            reset(other.object_);
+            reset(other.get());
         return *this;
     }
 
@@ -50,10 +50,16 @@ public:
         object_ = object;
     }
 
-    T* get() const { return object_; }
+    /// The object; null when the handle is empty, or as if it were.
+    T* get() const { return held() ? object_ : nullptr; }
+    explicit operator bool() const { return get() != nullptr; }
+
+    /// For handles that are known not to be empty.
     T* operator->() const { return object_; }
     T& operator*() const { return *object_; }
-    explicit operator bool() const { return object_ != nullptr; }
+
+    /// True when the handle was made to refer to `object`, which may be gone or on its way.
+    bool operator==(T const* object) const { return object_ == object; }
 
 private:
     /// The host object that this handle holds; null when the binding went before.
