@@ -20,7 +20,7 @@ bool basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const&
     entry = RegistryEntry(object, host);
     key = object;
     insert(end(), std::move(spare_)); // with a place given, what is not inserted stays where it is
-    return spare_.empty();
+    return spare_.empty() || isBoundTo(object, host);
 }
 
 /// The same where no mapping is kept.
@@ -28,9 +28,15 @@ bool basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const&
 {
     auto entry = std::make_unique<RegistryEntry>(object, host);
     if (!emplace(object, entry.get()).second)
-        return false;
+        return isBoundTo(object, host);
     static_cast<void>(entry.release());
     return true;
+}
+
+[[gnu::noinline]] bool basic::FooRegistry::isBoundTo(void const* object, COSInterface const* host) const
+{
+    auto const found = find(object);
+    return found != end() && found->second->host == host;
 }
 
 [[gnu::noinline]] void basic::FooRegistry::remember(void const* object, COSInterface* host, COSNameID const& className)

@@ -4,6 +4,7 @@
 #include "orbis/factory/FunctionInfo.hpp"
 #include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/impl/OrbisConstructor.hpp"
 
 #include "orbis/COSMethodSignature.hpp"
 #include "orbis/objectArrays.hpp"
@@ -153,7 +154,14 @@ public:
 TEST_F(InvocationTest, ConstructorsUseTheNativeObjectThatIsThereAlready)
 {
     registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new FixedInfo); });
-    EXPECT_EQ(scalar<std::int32_t>(call(hvm().construct("tests.Fixed"), "get")), 7);
+    ArrayPtr const made = hvm().construct("tests.Fixed");
+    impl::OrbisConstructor again("Fixed", {}, "");
+    again.invoker().invokeFn = ClassDescription(describe<Fixed>().constructor()).members().at(0).invokeFn;
+    COSValue output(made.get());
+    int outputCount = 0;
+    again.invoke(nullptr, outputCount, &output, 0, nullptr);
+    EXPECT_EQ(outputCount, 1);
+    EXPECT_EQ(scalar<std::int32_t>(call(made, "get")), 7);
     ArrayPtr const start = number(1);
     EXPECT_NE(errorOf([&] { hvm().construct("tests.Fixed", inputs(start)); }), "");
 }

@@ -50,7 +50,7 @@ public:
         object_ = object;
     }
 
-    /// The object; null when the handle is empty, or as if it were.
+    /// The object; null when the handle is empty, or as if it were, and while its virtual machine is not current.
     T* get() const { return held() ? object_ : nullptr; }
     explicit operator bool() const { return get() != nullptr; }
 

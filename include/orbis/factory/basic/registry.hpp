@@ -33,7 +33,8 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     FooRegistry& operator=(FooRegistry const&) = delete;
     ~FooRegistry();
 
-    /// Adds a new entry; false when there is one for `object`, which stays. `host` is held by someone else.
+    /// Adds a new entry, unless there is one for `object`; false when that is one to another host object. `host` is
+    /// held by someone else.
     bool bind(void* object, COSInterface* host, COSNameID const& className);
 
     /// Erases the mapping of `object`, where it is one to `host` (null for any host object), destroys its entry and
@@ -48,6 +49,7 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
 
 private:
     bool bindFirst(void* object, COSInterface* host);
+    bool isBoundTo(void const* object, COSInterface const* host) const;
     void putBack(node_type mapping) noexcept;
     void remember(void const* object, COSInterface* host, COSNameID const& className);
 
