@@ -51,14 +51,8 @@ COSInterfacePtr newInitializedInstance(COSClass& cls)
 std::unique_ptr<RegistryEntry> take(void const* object)
 {
     FooRegistry* const table = HvmScoped<FooRegistry>::find();
-    if (!table)
-        return nullptr;
-    auto const found = table->find(object);
-    if (found == table->end())
-        return nullptr;
-    std::unique_ptr<RegistryEntry> entry(found->second);
-    table->erase(found);
-    return entry;
+    auto const mapping = table ? table->extract(object) : FooRegistry::node_type();
+    return std::unique_ptr<RegistryEntry>(mapping ? mapping.mapped() : nullptr);
 }
 
 [[gnu::always_inline]] inline hvArray* arrayOf(COSInterface* host, COSNameID const& className)

@@ -11,40 +11,36 @@ namespace {
 
 // A sorted array: it holds the few objects that are between their creation and their binding.
 struct UnconstructedSet {
-    UnconstructedSet() { basic::registry().unconstructed = &objects; }
-    UnconstructedSet(UnconstructedSet const&) = delete;
-    UnconstructedSet& operator=(UnconstructedSet const&) = delete;
-
-    ~UnconstructedSet()
-    {
-        if (auto* const table = basic::HvmScoped<basic::FooRegistry>::find())
-            table->unconstructed = nullptr;
-    }
-
     boost::container::flat_set<void const*> objects;
+    bool& isAny = basic::registry().isAnyUnconstructed; // of the table that was there before, and so goes later
 };
 
-boost::container::flat_set<void const*>& objects()
+UnconstructedSet& unconstructed()
 {
-    return basic::HvmScoped<UnconstructedSet>::get().objects;
+    return basic::HvmScoped<UnconstructedSet>::get();
 }
 
 } // namespace
 
 void addToUnconstructedSet(void const* object)
 {
-    objects().insert(object);
+    UnconstructedSet& set = unconstructed();
+    set.objects.insert(object);
+    set.isAny = true;
 }
 
 bool isInUnconstructedSet(void const* object)
 {
-    return objects().contains(object);
+    return unconstructed().objects.contains(object);
 }
 
 void removeFromUnconstructedSet(void const* object)
 {
-    if (auto* const set = basic::HvmScoped<UnconstructedSet>::find())
-        set->objects.erase(object);
+    auto* const set = basic::HvmScoped<UnconstructedSet>::find();
+    if (!set || !set->isAny)
+        return;
+    set->objects.erase(object);
+    set->isAny = !set->objects.empty();
 }
 
 } // namespace orbis::factory::CopyableSupport

@@ -79,7 +79,7 @@ bool basic::FooRegistry::unbind(void const* object, COSInterface const* host)
 [[gnu::flatten]] bool detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object)
 {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
-    if (table.unconstructed && !table.unconstructed->empty()) [[unlikely]]
+    if (table.isAnyUnconstructed) [[unlikely]]
         CopyableSupport::removeFromUnconstructedSet(object);
     host->setNativeObject(className, object);
     return table.bind(object, host, className);

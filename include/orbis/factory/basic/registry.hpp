@@ -6,7 +6,6 @@
 
 #include "orbis/COSNameID.hpp"
 
-#include <boost/container/flat_set.hpp>
 #include <boost/unordered_map.hpp>
 
 #include <memory>
@@ -41,8 +40,8 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     /// gives back what handles hold. True when there was one.
     bool unbind(void const* object, COSInterface const* host);
 
-    /// What `CopyableSupport` keeps, null before its first use: every constructor looks whether something is in it.
-    boost::container::flat_set<void const*> const* unconstructed = nullptr;
+    /// Whether the unconstructed set has something in it, for constructors, which look at this table anyway.
+    bool isAnyUnconstructed = false;
 
     HandleReferences handles;
     std::unique_ptr<BindingHistory> history; ///< only in a virtual machine that reports leaks
