@@ -53,7 +53,6 @@ public:
     }
 
     /// What of this is the native object's own.
-    [[gnu::noipa]] static void destroy(Adder* adder) { delete adder; }
     void allocate(std::size_t count)
     {
         for (std::size_t i = 0; i < count; ++i)
@@ -61,6 +60,8 @@ public:
     }
 
 private:
+    [[gnu::noipa]] static void destroy(Adder* adder) { delete adder; }
+
     Fixture fixture_;
     velmara::ArrayPtr one_ = Fixture::number(1);
     velmara::ArrayPtr two_ = Fixture::number(2);

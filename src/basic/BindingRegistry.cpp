@@ -3,7 +3,6 @@
 #include "orbis/factory/CopyableSupport.hpp"
 #include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/basic/registry.hpp"
-#include "orbis/factory/detail/bindings.hpp"
 #include "orbis/factory/detail/hostShares.hpp"
 #include "orbis/factory/errorIdentities.hpp"
 
@@ -117,10 +116,9 @@ void BindingRegistry::announceForConstructor(void* const object, COSNameID const
 {
     CopyableSupport::removeFromUnconstructedSet(object); // before anything can fail
     COSInterfacePtr instance = cosiGetArrayElement(constructed, 0);
+    instance->setNativeObject(className, object);
     if (object && store)
-        detail::bindConstructed(instance, className, object);
-    else
-        instance->setNativeObject(className, object);
+        registry().bind(object, instance, className);
 }
 
 hvArray* BindingRegistry::announceWithoutStoring(void* source, COSNameID const& className,

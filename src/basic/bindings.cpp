@@ -1,6 +1,7 @@
 #include "orbis/factory/detail/bindings.hpp"
 
 #include "orbis/factory/CopyableSupport.hpp"
+#include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/basic/registry.hpp"
 
@@ -75,14 +76,27 @@ bool basic::FooRegistry::unbind(void const* object, COSInterface const* host)
     insert(end(), std::move(mapping));
 }
 
+namespace {
+
+/// The host object that stood for the address is one of an object that died untold, or the constructor itself handed
+/// its object out: with two of them, the end of one would leave the other one on freed memory.
+[[gnu::noinline]] void rebind(COSInterface* host, COSNameID const& className, void* object)
+{
+    basic::BindingRegistry::retract(object);
+    basic::registry().bind(object, host, className);
+}
+
+} // namespace
+
 // These two are on the way of every object from its construction to its end: what they call stands in them.
-[[gnu::flatten]] bool detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object)
+[[gnu::flatten]] void detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object)
 {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
     if (table.isAnyUnconstructed) [[unlikely]]
         CopyableSupport::removeFromUnconstructedSet(object);
     host->setNativeObject(className, object);
-    return table.bind(object, host, className);
+    if (!table.bind(object, host, className)) [[unlikely]]
+        rebind(host, className, object);
 }
 
 [[gnu::flatten]] void* detail::forgetBinding(COSInterface const* host, void* object)

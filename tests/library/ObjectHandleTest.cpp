@@ -123,7 +123,11 @@ TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
     hvm().set(second.get(), "next", first.get());
     first.reset();
     second.reset();
-    expectMessage([&] { hvm().construct("tests.Linked", NumericInputs{1}.arrays); }, {"before it was done"});
+    ArrayPtr const handedOut = hvm().construct("tests.Linked", NumericInputs{1}.arrays);
+    COSInterfacePtr const host = omGetArrayElement(handedOut.get(), 0);
+    EXPECT_EQ(basic::BindingRegistry::find(host->getNativeObject(COSNameID("tests.Linked"))), host);
+    EXPECT_EQ(hvm().get(handedOut.get(), "next")->get_number_of_elements(), 0u);
+    hvm().deleteObjects(handedOut.get());
     EXPECT_EQ(Linked::alive, 2);
 }
 

@@ -101,7 +101,7 @@ COSInterfacePtr omGetArrayElement(hvArray_tag const* array, std::size_t index)
 
 COSInterfacePtr cosiGetArrayElement(hvArray_tag const* array, std::size_t index)
 {
-    return velmara::requireObject(array, index).objects()[index];
+    return omGetArrayElement(array, index);
 }
 
 } // namespace orbis

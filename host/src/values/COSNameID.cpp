@@ -12,10 +12,10 @@ namespace orbis {
 
 namespace {
 
-/// The names last made from texts at some addresses. Mostly a name is made from one literal again and again: then
-/// one comparison with the name found there last is enough. Any entry may be replaced by any thread.
 using velmara::Name;
 
+/// The names last made from texts at some addresses. Mostly a name is made from one literal again and again: then
+/// one comparison with the name found there last is enough. Any entry may be replaced by any thread.
 class NamesByAddress {
 public:
     /// The name last made from a text at this address, or null. It may have been made from another text.

@@ -3,6 +3,9 @@
 #include "values/hostError.hpp"
 #include "values/storageIDs.hpp"
 
+#include <algorithm>
+#include <utility>
+
 namespace velmara {
 
 HvmStorage::Entry* HvmStorage::findAmong(Entry* first, std::type_info const& type) const
@@ -23,16 +26,22 @@ HvmStorage::Holder& HvmStorage::insert(std::uint64_t id, std::type_info const& t
     // Everything that may fail comes first: a refused value stays the caller's, and the one before stays stored.
     if (!isStorageID(id))
         throwHostError("VELMARA:hvm", "unknownStorageID", {std::to_string(id)});
-    if (id >= byID_.size()) {
-        byID_.resize(id + 1, &none_);
-        known_ = byID_;
-    }
+    if (id >= idCount_)
+        growTo(id + 1);
     std::list<Entry> made;
     made.push_back({id, &type, Holder(nullptr, value.get_deleter())});
     made.front().holder = std::move(value);
     while (erase(id, type)) {
     }
     return store(made);
+}
+
+void HvmStorage::growTo(std::size_t idCount)
+{
+    auto larger = std::make_unique<Entry*[]>(idCount);
+    std::fill_n(std::copy_n(byID_.get(), idCount_, larger.get()), idCount - idCount_, &none_);
+    byID_ = std::move(larger);
+    idCount_ = idCount;
 }
 
 HvmStorage::Holder& HvmStorage::store(std::list<Entry>& made)

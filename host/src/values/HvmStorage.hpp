@@ -2,9 +2,9 @@
 
 #include "libkwfoundation_usm/Detail.hpp"
 
+#include <cstddef>
 #include <list>
-#include <span>
-#include <vector>
+#include <memory>
 
 namespace velmara {
 
@@ -43,9 +43,9 @@ private:
 
     Entry* findEntry(std::uint64_t id, std::type_info const& type) const
     {
-        if (id >= known_.size()) [[unlikely]]
+        if (id >= idCount_) [[unlikely]]
             return nullptr;
-        Entry* const entry = known_[id];
+        Entry* const entry = byID_[id];
         return entry->type == &type ? entry : findAmong(entry, type);
     }
 
@@ -53,13 +53,14 @@ private:
     /// addresses.
     Entry* findAmong(Entry* first, std::type_info const& type) const;
 
+    void growTo(std::size_t idCount);
     Holder& store(std::list<Entry>& made);
     void remove(Entry& entry);
 
     Entry none_{.id = 0, .type = nullptr, .holder = Holder(nullptr, nullptr)}; ///< stands where an id has no entry
     std::list<Entry> inOrder_;
-    std::vector<Entry*> byID_;
-    std::span<Entry*> known_; ///< of `byID_`: its size is read at every access, and no difference to be worked out
+    std::unique_ptr<Entry*[]> byID_; ///< no vector, whose size is a difference to be worked out at every access
+    std::size_t idCount_ = 0;
 };
 
 } // namespace velmara

@@ -32,11 +32,11 @@ public:
     bool destroyInstanceData(COSInterface* object, void* data) override
     {
         void* const forgotten = detail::forgetBinding(object, data);
-        bool isOwn = N == 1;
-        if constexpr (std::is_same_v<RootClass<T>, full::Wrappable>) // may be a shared one
-            isOwn = !detail::dropShare(object) && isOwn;
+        bool isShared = false;
+        if constexpr (std::is_same_v<RootClass<T>, full::Wrappable>)
+            isShared = detail::dropShare(object);
         if constexpr (N == 1) {
-            if (isOwn)
+            if (!isShared)
                 delete static_cast<RootClass<T>*>(forgotten);
         }
         return forgotten != nullptr;

@@ -80,10 +80,6 @@ struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
 /// Throws the error of a constructor that cannot give its arguments to the object that exists already.
 [[noreturn]] ORBIS_FACTORY_API void refuseReconstruction(char const* className);
 
-/// Throws the error of a constructor that has handed its object out, which would be two objects to the host. The one
-/// that it is bound to becomes invalid; `host`, the one under construction, forgets it.
-[[noreturn]] ORBIS_FACTORY_API void refuseEarlyBinding(COSInterface* host, COSNameID const& className, void* bound);
-
 /// A constructor that is given all of its arguments.
 struct NoDefaults {
     static constexpr bool hasValues = false;
@@ -131,8 +127,7 @@ private:
         using Bound = MarshalerOf<T*>;
         void* const address = Bound::boundAddress(object);
         if constexpr (Bound::isHandle) {
-            if (!bindConstructed(host, className, address)) [[unlikely]]
-                refuseEarlyBinding(host, className, address);
+            bindConstructed(host, className, address);
         } else {
             CopyableSupport::removeFromUnconstructedSet(address);
             host->setNativeObject(className, address);

@@ -8,9 +8,9 @@
 /// What constructors and class infos do with bindings.
 namespace orbis::factory::detail {
 
-/// `basic::BindingRegistry::announceForConstructor` of a handle class, for a host object that the caller holds and a
-/// native object that is not null. False when that is bound to another host object already, and stays so.
-ORBIS_FACTORY_API bool bindConstructed(COSInterface* host, COSNameID const& className, void* object);
+/// Records `object`, which is not null and has just been constructed, behind `host`, which the caller holds, and binds
+/// it. Another host object that is bound to the address becomes invalid.
+ORBIS_FACTORY_API void bindConstructed(COSInterface* host, COSNameID const& className, void* object);
 
 /// Forgets the binding of `object` to `host` (null for any host object) for a class info whose host object ends: gives
 /// `object` when there was one, else null. An address that was released and has been bound to another host object since
