@@ -3,7 +3,6 @@
 #include "orbis/factory/CopyableSupport.hpp"
 #include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/basic/registry.hpp"
-#include "orbis/factory/detail/hostShares.hpp"
 #include "orbis/factory/errorIdentities.hpp"
 
 #include "marshal/throwError.hpp"
@@ -15,6 +14,7 @@
 #include "orbis/objectArrays.hpp"
 
 #include <memory>
+#include <utility>
 
 namespace orbis::factory::basic {
 
@@ -43,15 +43,6 @@ COSInterfacePtr newInitializedInstance(COSClass& cls)
     FooRegistry const& table = HvmScoped<FooRegistry>::get();
     auto const found = table.find(object);
     return found == table.end() ? nullptr : found->second;
-}
-
-/// Erases the mapping of `object`; an empty pointer when it is no key. Makes no table: destructors must not need
-/// memory.
-std::unique_ptr<RegistryEntry> take(void const* object)
-{
-    FooRegistry* const table = HvmScoped<FooRegistry>::find();
-    auto const mapping = table ? table->extract(object) : FooRegistry::node_type();
-    return std::unique_ptr<RegistryEntry>(mapping ? mapping.mapped() : nullptr);
 }
 
 [[gnu::always_inline]] inline hvArray* arrayOf(COSInterface* host, COSNameID const& className)
@@ -116,9 +107,10 @@ void BindingRegistry::announceForConstructor(void* const object, COSNameID const
 {
     CopyableSupport::removeFromUnconstructedSet(object); // before anything can fail
     COSInterfacePtr instance = cosiGetArrayElement(constructed, 0);
-    instance->setNativeObject(className, object);
-    if (object && store)
-        registry().bind(object, instance, className);
+    void const* const previous = instance->getNativeObject(className);
+    FooRegistry& table = registry();
+    table.bindInPlaceOf(previous, store ? object : nullptr, instance, className);
+    table.record(instance, className, object);
 }
 
 hvArray* BindingRegistry::announceWithoutStoring(void* source, COSNameID const& className,
@@ -148,15 +140,17 @@ COSInterface* BindingRegistry::find(void const* const object)
 void BindingRegistry::hijack(void const* const oldObject, void* newObject, COSInterface* host,
                              COSNameID const& className)
 {
+    FooRegistry& table = registry();
+    COSInterfacePtr const held = host; // maybe only by what is released below
     // A binding of the old address to another host object is left in place on purpose.
-    bool const movesBinding = oldObject != newObject && find(oldObject) == host;
-    host->setNativeObject(className, newObject);
-    registry().bind(newObject, host, className);
-    if (!movesBinding)
-        return;
-    take(oldObject);
-    if (find(newObject) != host) // which was bound already: no binding is left
-        registry().handles.giveBack(host);
+    bool const movesBinding = oldObject != newObject && table.isBoundTo(oldObject, host);
+    void const* const previous = host->getNativeObject(className);
+    table.bindInPlaceOf(movesBinding && previous == oldObject ? nullptr : previous, newObject, host, className);
+    table.record(host, className, newObject);
+    if (movesBinding)
+        table.unbind(oldObject, host);
+    if (previous != newObject)
+        table.shares.drop(host);
 }
 
 bool BindingRegistry::release(void const* const object)
@@ -166,30 +160,30 @@ bool BindingRegistry::release(void const* const object)
 
 bool BindingRegistry::remove(void const* const object)
 {
+    FooRegistry& table = registry();
     COSInterface* const host = find(object);
     if (!host)
         return false;
-    if (auto const& history = registry().history) // while nothing is done: it may be out of memory
-        history->unbound.emplace(host, object);
-    take(object);
-    registry().handles.giveBack(host);
-    return true;
+    if (table.history) // while nothing is done: it may be out of memory
+        table.history->unbound.emplace(host, object);
+    return table.unbind(object, host);
 }
 
 bool BindingRegistry::retract(void const* const object)
 {
     if (!foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())
         return false;
-    std::unique_ptr<RegistryEntry> const entry = take(object);
-    if (!entry)
+    FooRegistry* const table = HvmScoped<FooRegistry>::find(); // none is made: destructors must not need memory
+    if (!table)
         return false;
-    if (!entry->retracted) {
-        entry->retracted = true;
-        COSInterfacePtr host = entry->host;
-        host->setValid(false);
-        detail::dropShare(host); // it ends without another word to its class info
-        registry().handles.giveBack(host);
-    }
+    auto const found = table->find(object);
+    if (found == table->end())
+        return false;
+    bool const isTold = std::exchange(found->second->retracted, true);
+    COSInterfacePtr host = isTold ? nullptr : found->second->host;
+    table->erase(object, nullptr);
+    if (host)
+        host->setValid(false); // with which go its share and what handles hold
     return true;
 }
 

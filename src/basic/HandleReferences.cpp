@@ -2,38 +2,67 @@
 
 namespace orbis::factory::basic {
 
-void HandleReferences::enter(COSInterface* host, void const* handle)
+void HandleReferences::add(HandleReference const& reference)
 {
-    COSInterface*& held = byHandle_[handle];
-    byHost_.emplace(host, handle);
-    held = host;
+    auto const [place, isNew] = byHandle_.try_emplace(reference.handle);
+    try {
+        place->second = held_.insert(reference);
+    } catch (...) {
+        byHandle_.erase(place);
+        throw;
+    }
 }
 
-COSInterface* HandleReferences::heldBy(void const* handle) const noexcept
+HandleReference const* HandleReferences::find(void const* handle) const noexcept
 {
     auto const found = byHandle_.find(handle);
-    return found == byHandle_.end() ? nullptr : found->second;
+    return found == byHandle_.end() ? nullptr : &*found->second;
 }
 
-void HandleReferences::leave(void const* handle) noexcept
+void HandleReferences::remove(void const* handle) noexcept
 {
     auto const found = byHandle_.find(handle);
-    if (found == byHandle_.end())
-        return;
-    byHost_.erase({found->second, handle});
+    held_.erase(found->second);
     byHandle_.erase(found);
 }
 
-void HandleReferences::giveBack(COSInterface* host)
+void HandleReferences::defer(void const* handle) noexcept
 {
-    auto const first = byHost_.lower_bound({host, nullptr});
-    auto last = first;
-    std::size_t count = 0;
-    for (; last != byHost_.end() && last->first == host; ++last, ++count)
-        byHandle_.erase(last->second);
-    byHost_.erase(first, last); // first: the last reference to go may end other objects, and come back here
+    auto const found = byHandle_.find(handle);
+    deferred_.insert(held_.extract(found->second));
+    byHandle_.erase(found);
+}
+
+/// Gives how many there were.
+int HandleReferences::erase(References& references, COSInterface const* host, void const* bound,
+                            boost::unordered_map<void const*, References::iterator>* byHandle) noexcept
+{
+    int count = 0;
+    for (auto it = references.lower_bound(host); it != references.end() && it->host == host;) {
+        if (bound && it->bound != bound) {
+            ++it;
+            continue;
+        }
+        if (byHandle)
+            byHandle->erase(it->handle);
+        it = references.erase(it);
+        ++count;
+    }
+    return count;
+}
+
+void HandleReferences::release(COSInterface* host, void const* bound) noexcept
+{
+    // All are forgotten first: the last reference to go may end other objects, and come back here.
+    int count = erase(held_, host, bound, &byHandle_) + erase(deferred_, host, bound, nullptr);
     for (; count > 0; --count)
         host->removeReference();
+}
+
+void HandleReferences::releaseDeferred() noexcept
+{
+    while (!deferred_.empty())
+        deferred_.extract(deferred_.begin()).value().host->removeReference();
 }
 
 } // namespace orbis::factory::basic

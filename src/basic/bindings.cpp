@@ -34,10 +34,18 @@ bool basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const&
     return true;
 }
 
-[[gnu::noinline]] bool basic::FooRegistry::isBoundTo(void const* object, COSInterface const* host) const
+[[gnu::noinline]] bool basic::FooRegistry::isBoundTo(void const* object, COSInterface const* host) const noexcept
 {
     auto const found = find(object);
     return found != end() && found->second->host == host;
+}
+
+bool basic::FooRegistry::bindInPlaceOf(void const* previous, void* object, COSInterface* host,
+                                       COSNameID const& className)
+{
+    if (previous && previous != object && isBoundTo(previous, host))
+        superseded.emplace(host, previous);
+    return !object || bind(object, host, className);
 }
 
 [[gnu::noinline]] void basic::FooRegistry::remember(void const* object, COSInterface* host, COSNameID const& className)
@@ -51,23 +59,31 @@ bool basic::FooRegistry::bind(void* object, COSInterface* host, COSNameID const&
     }
 }
 
-bool basic::FooRegistry::unbind(void const* object, COSInterface const* host)
+std::optional<COSInterface*> basic::FooRegistry::erase(void const* object, COSInterface const* host) noexcept
 {
     node_type mapping = extract(object);
     if (!mapping) [[unlikely]]
-        return false;
+        return std::nullopt;
     COSInterface* const bound = mapping.mapped()->host;
     if (bound != host && host) [[unlikely]] {
         putBack(std::move(mapping));
-        return false;
+        return std::nullopt;
     }
     if (!spare_) [[likely]]
         spare_ = std::move(mapping);
     else
         delete mapping.mapped();
-    if (!handles.empty()) [[unlikely]]
-        handles.giveBack(bound);
-    return true;
+    if (history) [[unlikely]]
+        history->classNames.erase(object);
+    return bound;
+}
+
+bool basic::FooRegistry::unbind(void const* object, COSInterface const* host) noexcept
+{
+    std::optional<COSInterface*> const bound = erase(object, host);
+    if (bound && !handles.empty()) [[unlikely]]
+        handles.release(*bound, object);
+    return bound.has_value();
 }
 
 /// Nothing can fail: there is room for what was there.
@@ -76,10 +92,57 @@ bool basic::FooRegistry::unbind(void const* object, COSInterface const* host)
     insert(end(), std::move(mapping));
 }
 
+void basic::FooRegistry::Observer::nativeForgotten(COSInterface* host, void const* native, bool isDestroyed) noexcept
+{
+    if (!table_.isBoundTo(native, host))
+        return;
+    if (table_.history && isDestroyed)
+        table_.reportBound(native);
+    table_.erase(native, host);
+}
+
+void basic::FooRegistry::Observer::objectGone(COSInterface* host) noexcept
+{
+    if (!table_.superseded.empty() || !table_.handles.empty() || !table_.shares.empty() || table_.history)
+        table_.forgetHost(host);
+}
+
+void basic::FooRegistry::Observer::callBoundary() noexcept
+{
+    table_.handles.releaseDeferred();
+}
+
+[[gnu::noinline]] void basic::FooRegistry::forgetHost(COSInterface* host) noexcept
+{
+    for (auto it = superseded.lower_bound({host, nullptr}); it != superseded.end() && it->first == host;) {
+        erase(it->second, host);
+        it = superseded.erase(it);
+    }
+    if (history) {
+        auto& unbound = history->unbound;
+        for (auto it = unbound.lower_bound({host, nullptr}); it != unbound.end() && it->first == host;)
+            it = unbound.erase(it);
+    }
+    // Both run foreign code.
+    handles.release(host, nullptr);
+    shares.drop(host);
+}
+
+void basic::FooRegistry::record(COSInterface* host, COSNameID const& className, void* object)
+{
+    try {
+        host->setNativeObject(className, object);
+    } catch (...) {
+        if (host->getNativeObject(className) != object)
+            unbind(object, host);
+        throw;
+    }
+}
+
 namespace {
 
-/// The host object that stood for the address is one of an object that died untold, or the constructor itself handed
-/// its object out: with two of them, the end of one would leave the other one on freed memory.
+/// Stale binding: the previous object at the address was destroyed without `retract`, or the constructor itself handed
+/// its object out. With two host objects, the end of one would leave the other one on freed memory.
 [[gnu::noinline]] void rebind(COSInterface* host, COSNameID const& className, void* object)
 {
     basic::BindingRegistry::retract(object);
@@ -94,9 +157,9 @@ namespace {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
     if (table.isAnyUnconstructed) [[unlikely]]
         CopyableSupport::removeFromUnconstructedSet(object);
-    host->setNativeObject(className, object);
     if (!table.bind(object, host, className)) [[unlikely]]
         rebind(host, className, object);
+    table.record(host, className, object);
 }
 
 [[gnu::flatten]] void* detail::forgetBinding(COSInterface const* host, void* object)

@@ -3,6 +3,7 @@
 #include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/basic/registry.hpp"
 
+#include "additions/ObjectObserver.hpp"
 #include "libkwfoundation_usm/Detail.hpp"
 
 namespace orbis::factory::detail {
@@ -10,29 +11,53 @@ namespace orbis::factory::detail {
 namespace {
 
 /// Null when nothing is bound, and when the virtual machine has begun to give up its storage.
-basic::FooRegistry* activeTable()
+basic::HandleReferences* activeReferences() noexcept
 {
-    bool const isActive = foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive();
-    return isActive ? basic::HvmScoped<basic::FooRegistry>::find() : nullptr;
+    if (!foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())
+        return nullptr;
+    basic::FooRegistry* const table = basic::HvmScoped<basic::FooRegistry>::find();
+    return table ? &table->handles : nullptr;
+}
+
+basic::HandleReference const* referenceOf(void const* handle) noexcept
+{
+    basic::HandleReferences const* const references = activeReferences();
+    return references ? references->find(handle) : nullptr;
 }
 
 } // namespace
 
-void enterHandle(COSInterface* host, void const* handle)
+void enterHandle(COSInterface* host, void const* bound, void const* target, void const* handle)
 {
-    basic::registry().handles.enter(host, handle);
+    basic::registry().handles.add({host, bound, target, handle});
 }
 
 COSInterface* heldBy(void const* handle) noexcept
 {
-    basic::FooRegistry const* const table = activeTable();
-    return table ? table->handles.heldBy(handle) : nullptr;
+    basic::HandleReference const* const reference = referenceOf(handle);
+    return reference ? reference->host : nullptr;
 }
 
-void leaveHandle(void const* handle) noexcept
+bool isHeldBy(void const* handle, void const* target) noexcept
 {
-    if (basic::FooRegistry* const table = activeTable())
-        table->handles.leave(handle);
+    basic::HandleReference const* const reference = referenceOf(handle);
+    return reference && reference->target == target;
+}
+
+void releaseForHandle(void const* handle) noexcept
+{
+    if (COSInterface* const host = heldBy(handle)) {
+        activeReferences()->remove(handle);
+        host->removeReference();
+    }
+}
+
+void releaseForHandleLater(void const* handle) noexcept
+{
+    if (!heldBy(handle))
+        return;
+    activeReferences()->defer(handle);
+    additions::requestCallBoundary();
 }
 
 } // namespace orbis::factory::detail

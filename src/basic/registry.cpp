@@ -12,24 +12,21 @@
 
 namespace orbis::factory::basic {
 
-namespace {
-
-void reportLeft(void const* object, BindingHistory const& history) noexcept
+void FooRegistry::reportBound(void const* object) const noexcept
 {
     try {
         std::string const text = "the native object " + addressText(object) + " is still bound as ";
-        additions::reportLeak((text + history.classNames.at(object)).c_str());
+        additions::reportLeak((text + history->classNames.at(object)).c_str());
     } catch (...) {
         additions::reportLeak("a native object is still bound");
     }
 }
 
-} // namespace
-
-FooRegistry::FooRegistry()
+FooRegistry::FooRegistry() : observer_(*this)
 {
     if (additions::reportsLeaks())
         history = std::make_unique<BindingHistory>();
+    additions::observeObjects(&observer_);
 }
 
 FooRegistry::~FooRegistry()
@@ -37,7 +34,7 @@ FooRegistry::~FooRegistry()
     // Left entries are reclaimed without a word to their host objects, which may be gone.
     for (auto const& [object, entry] : *this) {
         if (history)
-            reportLeft(object, *history);
+            reportBound(object);
         delete entry;
     }
     if (spare_)

@@ -2,10 +2,9 @@
 
 #include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/basic/registry.hpp"
 #include "orbis/factory/full/SharingType.hpp"
 #include "orbis/factory/full/Wrappable.hpp"
-
-#include "basic/sharingHosts.hpp"
 
 namespace orbis::factory::full {
 
@@ -40,7 +39,7 @@ struct KeepAliveSet {
         if (kept == set->objects.end())
             return;
         COSInterface const* const holder = basic::BindingRegistry::find(bound);
-        if (host && holder && holder != host && !detail::hasShare(host))
+        if (host && holder && holder != host && !basic::registry().shares.has(host))
             return; // it is a new object at the address
         // Held, as native code that is asked may change the set.
         Pointer const object = *kept; // NOLINT(performance-unnecessary-copy-initialization)

@@ -3,7 +3,6 @@
 #include "orbis/factory/basic/registry.hpp"
 
 #include "basic/addressText.hpp"
-#include "basic/sharingHosts.hpp"
 #include "full/forsakenObjects.hpp"
 
 #include "additions/additions.hpp"
@@ -48,7 +47,8 @@ std::string checkEntry(void const* object, basic::RegistryEntry const& entry, Ho
     auto const records = hosts.of(entry.host);
     if (records.empty())
         return bound + " is bound to a host object that has ended, or is invalid: " + addressText(entry.host);
-    if (std::ranges::find(records, object, &RecordedObject::native) == records.end())
+    if (std::ranges::find(records, object, &RecordedObject::native) == records.end() &&
+        !basic::registry().superseded.contains({entry.host, object}))
         return bound + " is bound to a host object of " + records.front().className + " that stands for another, " +
                addressText(records.front().native);
     return {};
@@ -80,24 +80,23 @@ std::string checkRecords(HostView const& hosts)
 
 std::string checkShares(HostView const& hosts)
 {
-    for (COSInterface const* const host : detail::sharingHosts())
+    std::string found;
+    basic::registry().shares.forEachHost([&](COSInterface const* host) {
         if (hosts.of(host).empty())
-            return "a host object that has ended, or is invalid, has a share in a native object: " + addressText(host);
-    return {};
+            found = "a host object that has ended, or is invalid, has a share in a native object: " + addressText(host);
+    });
+    return found;
 }
 
-/// The binding is what a handle finds its host object by.
-std::string checkHandles(HostView const& hosts)
+std::string checkHandles()
 {
+    std::string found;
     basic::FooRegistry const& table = basic::registry();
-    auto const isBinding = [&](RecordedObject const& record) {
-        auto const found = table.find(record.native);
-        return found != table.end() && found->second->host == record.host;
-    };
-    for (auto const& [host, handle] : table.handles.all())
-        if (std::ranges::none_of(hosts.of(host), isBinding))
-            return "a handle at " + addressText(handle) + " holds a host object that is bound to no native object";
-    return {};
+    table.handles.forEach([&](basic::HandleReference const& reference) {
+        if (!table.isBoundTo(reference.bound, reference.host))
+            found = "a handle at " + addressText(reference.handle) + " holds a host object by a binding that is gone";
+    });
+    return found;
 }
 
 std::string checkKept()
@@ -115,6 +114,7 @@ std::string check()
 {
     if (!foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())
         return {};
+    basic::registry().handles.releaseDeferred();
     HostView const hosts;
     std::string found = checkBindings(hosts);
     if (found.empty())
@@ -122,7 +122,7 @@ std::string check()
     if (found.empty())
         found = checkShares(hosts);
     if (found.empty())
-        found = checkHandles(hosts);
+        found = checkHandles();
     return found.empty() ? checkKept() : found;
 }
 

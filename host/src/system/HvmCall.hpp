@@ -10,6 +10,7 @@ namespace velmara {
 template <class Operation>
 auto callInto(HvmState& machine, Operation const& operation)
 {
+    HvmState::CallBoundary const boundary(machine);
     HvmState::Entry const entry(machine);
     try {
         return operation();

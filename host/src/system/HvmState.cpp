@@ -7,6 +7,8 @@
 #include "system/TypeRepository.hpp"
 #include "values/hostError.hpp"
 
+#include "additions/ObjectObserver.hpp"
+
 #include <utility>
 
 namespace velmara {
@@ -31,6 +33,7 @@ HvmState::~HvmState()
         packages_->clear();
     }
     isStorageActive_ = false;
+    observer_ = nullptr;
     storage_.clear();
     packages_->clear(); // what deleters may have published
     types_->clear();
@@ -59,6 +62,15 @@ void HvmState::retire(std::shared_ptr<void> unpublished)
     retired_.push_back(std::move(unpublished));
     if (entries_ == 0)
         destroyRetired();
+}
+
+void HvmState::passCallBoundary() noexcept
+{
+    if (entries_ != 0 || !observer_)
+        return;
+    isBoundaryRequested_ = false;
+    Entry const entry(*this);
+    observer_->callBoundary();
 }
 
 void HvmState::destroyRetired()

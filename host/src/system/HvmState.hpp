@@ -10,6 +10,10 @@
 #include <utility>
 #include <vector>
 
+namespace orbis::additions {
+class ObjectObserver;
+}
+
 namespace velmara {
 
 class ModuleList;
@@ -62,6 +66,15 @@ public:
     /// True once the virtual machine has begun to end: no more objects are made.
     bool isEnding() const { return isEnding_; }
 
+    using ObjectObserver = orbis::additions::ObjectObserver;
+    void setObserver(ObjectObserver* observer) { observer_ = observer; }
+
+    /// Null also once the virtual machine has begun to give up its storage.
+    ObjectObserver* observer() const { return observer_; }
+
+    /// Has the observer called between the outermost call into the virtual machine and the next one.
+    void requestCallBoundary() { isBoundaryRequested_ = true; }
+
     /// Destroys what was unpublished, as soon as no native code that may still use it is running.
     void retire(std::shared_ptr<void> unpublished);
 
@@ -85,8 +98,27 @@ public:
         HvmState* previous_;
     };
 
+    /// The begin and the end of one call into the virtual machine. To be made before its `Entry`.
+    class CallBoundary {
+    public:
+        explicit CallBoundary(HvmState& state) : state_(state) { pass(); }
+        CallBoundary(CallBoundary const&) = delete;
+        CallBoundary& operator=(CallBoundary const&) = delete;
+        ~CallBoundary() { pass(); }
+
+    private:
+        void pass() noexcept
+        {
+            if (state_.isBoundaryRequested_) [[unlikely]]
+                state_.passCallBoundary();
+        }
+
+        HvmState& state_;
+    };
+
 private:
     void destroyRetired();
+    void passCallBoundary() noexcept;
 
 #if defined(__linux__)
     [[gnu::tls_model("initial-exec")]]
@@ -101,7 +133,9 @@ private:
     std::unique_ptr<PackageTree> packages_;
     std::vector<std::shared_ptr<void>> retired_;
     EndQueue endQueue_;
+    ObjectObserver* observer_ = nullptr;
     int entries_ = 0;
+    bool isBoundaryRequested_ = false;
     bool isStorageActive_ = true;
     bool isEnding_ = false;
 };

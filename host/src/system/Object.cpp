@@ -6,6 +6,8 @@
 #include "values/SmallMemory.hpp"
 #include "values/hostError.hpp"
 
+#include "additions/ObjectObserver.hpp"
+
 #include <algorithm>
 #include <utility>
 
@@ -101,10 +103,13 @@ void Object::destroyInstanceData(Class& cls) noexcept
         return;
     void* const data = std::exchange(slot->native, nullptr);
     slot->made = false;
+    bool isReleased = false;
     try {
-        cls.info().destroyInstanceData(this, data);
+        isReleased = cls.info().destroyInstanceData(this, data);
     } catch (...) {
     }
+    if (data && !isReleased && machine_->observer())
+        machine_->observer()->nativeForgotten(this, data, true);
 }
 
 void Object::freeIfUnreferenced() noexcept
@@ -125,6 +130,7 @@ void Object::freeIfUnreferenced() noexcept
         EndQueue::Nesting const nesting(machine_->endQueue());
         if (hasInstanceData)
             destroyInstanceData();
+        notifyObserver();
         forgetNativeObjects();
         class_ = nullptr;
         machine_ = nullptr;
@@ -181,10 +187,26 @@ void* Object::getNativeObject(orbis::COSNameID const& name) const
 
 void Object::setValid(bool valid)
 {
-    if (!valid)
-        forgetNativeObjects();
     if (!isEnded())
         state_ = valid ? State::Valid : State::Invalid;
+    if (valid || !machine_)
+        return;
+    addExternal(); // who is notified may release the last reference
+    {
+        HvmState::Entry const entry(*machine_);
+        notifyObserver();
+    }
+    forgetNativeObjects();
+    removeExternal();
+}
+
+void Object::notifyObserver() noexcept
+{
+    orbis::additions::ObjectObserver* const observer = machine_->observer();
+    if (!observer)
+        return;
+    forEachNativeObject([&](Name, void* native) { observer->nativeForgotten(this, native, isEnded()); });
+    observer->objectGone(this);
 }
 
 void Object::forgetNativeObjects() noexcept

@@ -140,6 +140,7 @@ private:
     void destroyInstanceData() noexcept;
     void destroyInstanceData(Class& cls) noexcept;
     void forgetNativeObjects() noexcept;
+    void notifyObserver() noexcept;
 
     std::int32_t external_ = 0;
     std::int32_t internal_ = 0;

@@ -12,6 +12,8 @@ namespace orbis::factory {
 /// that stand for a native object that is bound to another one are found only in a virtual machine that reports leaks,
 /// as only that remembers what was released or bound twice on purpose.
 ///
+/// What handles left to be released later is released before.
+///
 /// Threading: on the thread of the virtual machine, while no object of it is being made or destroyed.
 ORBIS_FACTORY_API std::string check();
 

@@ -96,8 +96,7 @@ public:
     {
         if (!std::exchange(native.isAlive, false))
             return;
-        if (native.next)
-            refer(native, nullptr, nullptr);
+        refer(native, nullptr, nullptr);
         if (isWrapped_)
             invalidate(native);
     }

@@ -249,7 +249,7 @@ private:
     {
         if (!native.isHeld || (isOwned<K> && native.isElsewhere(model_.current)))
             return;
-        if (!isWrapped<K> || (isOwned<K> && native.next))
+        if (!isWrapped<K>)
             retract(native);
         destroy(native);
         model_.drop(native);
@@ -280,6 +280,13 @@ private:
 
     void compare()
     {
+        for (auto const& machine : machines_) { // releases what handles have left, too
+            std::optional<velmara::Hvm::Scope> scope;
+            if (machine)
+                scope.emplace(*machine);
+            if (std::string const found = orbis::factory::check(); wrong_.empty())
+                wrong_ = found;
+        }
         std::set<int> expected;
         std::size_t bound = 0;
         for (Native& native : model_.natives) {
@@ -306,8 +313,6 @@ private:
             check(object->getNativeObject(name) == (host->native ? host->native->address : nullptr), "native object");
         }
         check(model_.current < 0 || orbis::factory::basic::registry().size() == bound, "the size of the registry");
-        if (wrong_.empty())
-            wrong_ = orbis::factory::check();
     }
 
     Model model_{isOwned<K>, isWrapped<K>, isShared<K>};

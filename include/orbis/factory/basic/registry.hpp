@@ -1,14 +1,17 @@
 #pragma once
 
 #include "orbis/factory/basic/HandleReferences.hpp"
+#include "orbis/factory/basic/HostShares.hpp"
 #include "orbis/factory/basic/RegistryEntry.hpp"
 #include "orbis/factory/export.hpp"
 
+#include "additions/ObjectObserver.hpp"
 #include "orbis/COSNameID.hpp"
 
 #include <boost/unordered_map.hpp>
 
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -17,7 +20,7 @@ namespace orbis::factory::basic {
 
 /// What debugging asks for beside the bindings.
 struct BindingHistory {
-    /// The classes as which the addresses were bound last.
+    /// The classes as which the addresses are bound.
     boost::unordered_map<void const*, std::string> classNames;
 
     /// Host objects that stand for a native object though their binding was given up, or the address had one already.
@@ -25,35 +28,64 @@ struct BindingHistory {
 };
 
 /// The binding table of one host virtual machine: native address to an entry that the table owns. Whoever erases
-/// a mapping destroys its entry.
+/// a mapping destroys its entry. What else depends on a host object stands here, too, and goes with it.
 struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     FooRegistry();
     FooRegistry(FooRegistry const&) = delete;
     FooRegistry& operator=(FooRegistry const&) = delete;
     ~FooRegistry();
 
+    bool isBoundTo(void const* object, COSInterface const* host) const noexcept;
+
     /// Adds a new entry, unless there is one for `object`; false when that is one to another host object. `host` is
-    /// held by someone else.
+    /// held by someone else. Throws `std::bad_alloc`.
     bool bind(void* object, COSInterface* host, COSNameID const& className);
 
+    /// The same before `object` takes the place of `previous` (null allowed) as what `host` records: should that stay
+    /// bound, too, it is so until `host` is destroyed. Throws `std::bad_alloc`.
+    bool bindInPlaceOf(void const* previous, void* object, COSInterface* host, COSNameID const& className);
+
+    /// Has `host` record `object` (null allowed), which was just bound to it if at all: not any more when that fails.
+    void record(COSInterface* host, COSNameID const& className, void* object);
+
     /// Erases the mapping of `object`, where it is one to `host` (null for any host object), destroys its entry and
-    /// gives back what handles hold. True when there was one.
-    bool unbind(void const* object, COSInterface const* host);
+    /// releases what handles hold by it. True when there was one.
+    bool unbind(void const* object, COSInterface const* host) noexcept;
+
+    /// Likewise, but handles keep what they hold. The host object that was bound; nothing when there was none.
+    std::optional<COSInterface*> erase(void const* object, COSInterface const* host) noexcept;
 
     /// Whether the unconstructed set has something in it, for constructors, which look at this table anyway.
     bool isAnyUnconstructed = false;
 
     HandleReferences handles;
+    HostShares shares;
     std::unique_ptr<BindingHistory> history; ///< only in a virtual machine that reports leaks
 
+    /// Addresses that are bound to a host object which records another one since.
+    std::set<std::pair<COSInterface const*, void const*>> superseded;
+
 private:
+    class Observer final : public additions::ObjectObserver {
+    public:
+        explicit Observer(FooRegistry& table) : table_(table) {}
+        void nativeForgotten(COSInterface* host, void const* native, bool isDestroyed) noexcept override;
+        void objectGone(COSInterface* host) noexcept override;
+        void callBoundary() noexcept override;
+
+    private:
+        FooRegistry& table_;
+    };
+
     bool bindFirst(void* object, COSInterface* host);
-    bool isBoundTo(void const* object, COSInterface const* host) const;
     void putBack(node_type mapping) noexcept;
     void remember(void const* object, COSInterface* host, COSNameID const& className);
+    void forgetHost(COSInterface* host) noexcept;
+    void reportBound(void const* object) const noexcept;
 
     /// The mapping erased last, entry and all: objects that come and go one after the other take no memory.
     node_type spare_;
+    Observer observer_;
 };
 
 /// The table of the current virtual machine, made on first use. Throws the host's error when none is current.

@@ -1,0 +1,18 @@
+#include "additions/ObjectObserver.hpp"
+
+#include "system/HvmState.hpp"
+
+namespace orbis::additions {
+
+void observeObjects(ObjectObserver* observer)
+{
+    velmara::HvmState::required().setObserver(observer);
+}
+
+void requestCallBoundary() noexcept
+{
+    if (velmara::HvmState* const machine = velmara::HvmState::current())
+        machine->requestCallBoundary();
+}
+
+} // namespace orbis::additions
