@@ -5,6 +5,9 @@
 #include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/basic/registry.hpp"
 
+#include "additions/NativeOwner.hpp"
+#include "orbis/objectArrays.hpp"
+
 #include <memory>
 #include <utility>
 
@@ -166,6 +169,32 @@ namespace {
 {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
     return table.unbind(object, host) ? object : nullptr;
+}
+
+void detail::discardUnbound(void* object, char const* className) noexcept
+{
+    try {
+        if (!object || basic::BindingRegistry::contains(object))
+            return;
+        if (additions::NativeOwner* const owner = additions::nativeOwnerOf(COSNameID(className)))
+            owner->discardNative(object);
+    } catch (...) {
+        // The class cannot be described: what it would do with the object is not known.
+    }
+}
+
+void detail::releaseResult(void const* object, hvArray_tag const* row) noexcept
+{
+    basic::FooRegistry& table = basic::registry();
+    auto const found = table.find(object);
+    if (found == table.end())
+        return;
+    COSInterface* const host = found->second->host;
+    int elements = 0;
+    for (std::size_t i = 0; i < row->get_number_of_elements(); ++i)
+        elements += static_cast<COSInterface*>(omGetArrayElement(row, i)) == host;
+    if (host->getExternalReferenceCount() == 0 && host->getInternalReferenceCount() == elements)
+        table.unbind(object, host);
 }
 
 } // namespace orbis::factory

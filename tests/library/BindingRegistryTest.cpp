@@ -7,6 +7,7 @@
 #include "orbis/factory/RawClassPointerMarshaler.hpp"
 #include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/detail/hostShares.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSClass.hpp"
@@ -115,8 +116,45 @@ TEST_F(BindingRegistryTest, HijackMovesOnlyTheBindingOfTheSameHostObject)
     EXPECT_FALSE(BindingRegistry::contains(&other));
     BindingRegistry::hijack(&q, &q, host, plain());
     EXPECT_EQ(BindingRegistry::find(&q), host);
-    for (Plain const* const object : {&p, &q})
-        BindingRegistry::release(object);
+    BindingRegistry::hijack(&q, nullptr, host, plain());
+    EXPECT_FALSE(BindingRegistry::contains(nullptr) || BindingRegistry::contains(&q));
+    EXPECT_EQ(host->getNativeObject(plain()), nullptr);
+    BindingRegistry::release(&p);
+}
+
+TEST_F(BindingRegistryTest, NoBindingOutlivesItsHostObject)
+{
+    using Change = void (*)(hvArray* array, COSInterface* host, Plain& p, Plain& q);
+    for (Change const change : std::initializer_list<Change>{
+             [](hvArray*, COSInterface* host, Plain&, Plain& q) { BindingRegistry::hijack(&q, &q, host, plain()); },
+             [](hvArray* array, COSInterface*, Plain&, Plain& q) {
+                 BindingRegistry::announceForConstructor(&q, plain(), array, true);
+             },
+             [](hvArray* array, COSInterface*, Plain&, Plain&) {
+                 BindingRegistry::announceForConstructor(nullptr, plain(), array, true);
+             },
+             [](hvArray*, COSInterface* host, Plain&, Plain&) { host->setValid(false); },
+         }) {
+        Plain p, q;
+        ArrayPtr array = announce(&p);
+        change(array.get(), hostOf(array), p, q);
+        array.reset();
+        EXPECT_EQ(BindingRegistry::find(&p), nullptr);
+        EXPECT_EQ(BindingRegistry::find(&q), nullptr);
+        EXPECT_TRUE(basic::registry().empty());
+    }
+}
+
+TEST_F(BindingRegistryTest, AHostObjectThatMovesGivesItsShareUp)
+{
+    Plain p, q;
+    auto const shared = std::make_shared<int>(1);
+    ArrayPtr const array = announce(&p);
+    detail::shareWithHost(array.get(), shared);
+    BindingRegistry::hijack(&p, &p, hostOf(array), plain());
+    EXPECT_EQ(shared.use_count(), 2);
+    BindingRegistry::hijack(&p, &q, hostOf(array), plain());
+    EXPECT_EQ(shared.use_count(), 1);
 }
 
 TEST_F(BindingRegistryTest, ValuesAreCopiedWithoutABinding)

@@ -3,6 +3,7 @@
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/NonHandleClassInfo.hpp"
+#include "orbis/factory/ObjectVectorPolicy.hpp"
 #include "orbis/factory/ValuePolicy.hpp"
 #include "orbis/factory/basic/registry.hpp"
 #include "orbis/factory/full/BindingRegistry.hpp"
@@ -10,7 +11,9 @@
 #include "orbis/objectArrays.hpp"
 
 #include <memory>
+#include <stdexcept>
 #include <thread>
+#include <vector>
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -48,6 +51,43 @@ struct orbis::factory::HostClass<Counted> {
 namespace {
 
 using ClassInfoTest = HvmTest;
+
+/// Makes so many host objects of its class, and then no more. Deletes its native objects.
+struct LimitedInfo final : HandleClassInfo<Counted, 1> {
+    LimitedInfo() : HandleClassInfo("tests.Counted", "") {}
+    void initializeClass(COSClass* cls) override
+    {
+        publish(cls, describe<Counted>().staticMethod("all", [] { return all; }).staticMethod("last", [] {
+            return all.back();
+        }));
+    }
+    void* createInstanceData() override
+    {
+        if (remaining-- == 0)
+            throw std::runtime_error("no more");
+        return nullptr;
+    }
+    inline static int remaining = 0;
+    inline static std::vector<Counted*> all;
+};
+
+TEST_F(ClassInfoTest, AResultThatCannotCrossIsStillItsOwners)
+{
+    registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new LimitedInfo); });
+    auto& all = LimitedInfo::all = {new Counted, new Counted, new Counted};
+    LimitedInfo::remaining = 1;
+    ArrayPtr const before = hvm().callStatic("tests.Counted", "last");
+    std::swap(all.front(), all.back());
+    LimitedInfo::remaining = 1;
+    EXPECT_THROW(hvm().callStatic("tests.Counted", "all"), velmara::Error);
+    EXPECT_EQ(Counted::alive, 3);
+    EXPECT_EQ(basic::registry().size(), 1u) << "what was bound before stays bound";
+
+    LimitedInfo::remaining = 0;
+    EXPECT_THROW(hvm().callStatic("tests.Counted", "last"), velmara::Error);
+    EXPECT_EQ(Counted::alive, 2) << "one that is given alone is the host's, which has no object to delete it with";
+    delete all[1];
+}
 
 TEST_F(ClassInfoTest, AConstructedObjectIsNoLongerWaiting)
 {

@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <memory>
 #include <new>
+#include <vector>
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -24,8 +25,14 @@ struct Linked;
 /// Where its base is, only a living object tells.
 struct Floating : virtual full::Wrappable {};
 
+struct Ringed;
+
 } // namespace
 
+template <>
+struct orbis::factory::HostClass<Ringed> {
+    static constexpr char const* name = "tests.Ringed";
+};
 template <>
 struct orbis::factory::HostClass<Floating> {
     static constexpr char const* name = "tests.Floating";
@@ -47,6 +54,16 @@ struct Linked {
     void setNext(Linked* object) { link.reset(object); }
     Linked* next() const { return link.get(); }
     ObjectHandle<Linked> link;
+    inline static int alive = 0;
+};
+
+/// Belongs to its host object, and may be deleted by native code, too.
+struct Ringed : full::Wrappable {
+    Ringed() { ++alive; }
+    Ringed(Ringed const&) = delete;
+    Ringed& operator=(Ringed const&) = delete;
+    ~Ringed() override { --alive; }
+    std::vector<ObjectHandle<Ringed>> others;
     inline static int alive = 0;
 };
 
@@ -129,6 +146,48 @@ TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
     EXPECT_EQ(hvm().get(handedOut.get(), "next")->get_number_of_elements(), 0u);
     hvm().deleteObjects(handedOut.get());
     EXPECT_EQ(Linked::alive, 2);
+}
+
+TEST_F(ObjectHandleTest, NativeCodeMayDeleteAnObjectInARing)
+{
+    publishClass<Ringed>([](auto& c) { c.constructor(); });
+    for (int const length : {1, 2, 5}) {
+        std::vector<Ringed*> ring;
+        for (int i = 0; i < length; ++i)
+            ring.push_back(new Ringed);
+        for (int i = 0; i < length; ++i)
+            ring[i]->others.emplace_back(ring[(i + 1) % length]);
+        delete ring.front();
+        EXPECT_EQ(Ringed::alive, length - 1);
+        static_cast<void>(hvm().objects()); // between two calls nothing can be on its way out
+        EXPECT_EQ(Ringed::alive, 0) << length;
+    }
+}
+
+TEST_F(ObjectHandleTest, AHandleBelongsToOneBinding)
+{
+    auto const moved = std::make_unique<Tally>();
+    Handle handle(new Tally);
+    Tally* const first = handle.get();
+    COSInterfacePtr host = basic::BindingRegistry::find(first);
+    basic::BindingRegistry::hijack(first, moved.get(), host, COSNameID("tests.Tally"));
+    delete first;
+    EXPECT_EQ(handle.get(), nullptr);
+    EXPECT_EQ(host->getExternalReferenceCount(), 1) << "only this one";
+    basic::BindingRegistry::release(moved.get());
+
+    auto* const here = new Tally;
+    handle.reset(here);
+    {
+        velmara::Hvm another;
+        velmara::Hvm::Scope const scope(another);
+        TallyInfo::publishIn("tests");
+        handle.reset(new Tally);
+        EXPECT_NE(handle.get(), nullptr);
+    }
+    EXPECT_EQ(Tally::alive, 2);
+    EXPECT_EQ(handle.get(), nullptr) << "what it referred to has ended";
+    EXPECT_EQ(references(here), 1);
 }
 
 TEST_F(ObjectHandleTest, AnObjectThatEndedIsNotLookedAt)

@@ -44,6 +44,12 @@ public:
 
     bool isHandle() const override { return true; }
     char const* nativeOwner() const override { return N == 1 ? "host" : "native"; }
+
+    void discardNative(void* native) noexcept override
+    {
+        if constexpr (N == 1)
+            delete static_cast<RootClass<T>*>(native);
+    }
 };
 
 } // namespace orbis::factory

@@ -12,15 +12,15 @@
 namespace orbis::factory {
 
 /// A strong reference from one native object to another one that is published: while the handle holds it, the host
-/// object of the other one is not destroyed, and where the class info deletes the native object with that, neither is the
-/// native object. A native object without a host object gets one.
+/// object of the other one is not destroyed, and where the class info deletes the native object with that, neither is
+/// the native object. A native object without a host object gets one.
 ///
 /// The handle reads as empty once the binding by which it found the host object is gone: when the native object was
 /// destroyed first, as scripts may have it, when it was released, and when its host object was bound to another one.
 ///
 /// A reference on an object bound as a `full::Wrappable` is released when the call from the host that is running has
-/// returned, or the next one begins: native code may delete the handle's owner, to which the object may lead back. Other
-/// references are released at once.
+/// returned, or the next one begins: native code may delete the handle's owner, to which the object may lead back.
+/// Other references are released at once.
 ///
 /// Threading: on the thread of the virtual machine. After its end a handle does nothing.
 template <PublishedClass T>

@@ -36,13 +36,14 @@ public:
     static void toHost(Vector const& values, hvArray** out)
     {
         detail::NewArray row(omCreateORBISMatrix(1, values.size(), COSNameID(HostClass<Class<Vector>>::name)));
-        for (std::size_t i = 0; i < values.size(); ++i) {
-            if (!values[i])
-                continue;
-            detail::NewArray scalar;
-            detail::MarshalerOf<Element<Vector>>::template toHost<detail::MarshaledTypeOf<Element<Vector>>>(
-                values[i], scalar.place());
-            omSetArrayElement(row.get(), i, omGetArrayElement(scalar.get(), 0));
+        try {
+            for (std::size_t i = 0; i < values.size(); ++i)
+                setElement(row.get(), i, values[i]);
+        } catch (...) {
+            if constexpr (std::is_pointer_v<Element<Vector>>)
+                for (auto const& value : values)
+                    detail::releaseResult(detail::boundAddressOf(value), row.get());
+            throw;
         }
         if constexpr (detail::MarshalerOf<Class<Vector>*>::isHeterogeneous)
             omSetClassOfHeterogeneousArray(row.get());
@@ -78,6 +79,16 @@ public:
     }
 
 private:
+    template <class Pointer>
+    static void setElement(hvArray_tag* row, std::size_t i, Pointer const& value)
+    {
+        if (!value)
+            return;
+        detail::NewArray scalar;
+        detail::MarshalerOf<Pointer>::template toHost<detail::MarshaledTypeOf<Pointer>>(value, scalar.place());
+        omSetArrayElement(row, i, omGetArrayElement(scalar.get(), 0));
+    }
+
     template <class Pointer>
     static auto fromObject(COSInterface const* object)
     {

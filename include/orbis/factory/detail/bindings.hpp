@@ -2,6 +2,7 @@
 
 #include "orbis/factory/export.hpp"
 
+#include "libhv/hvArray.hpp"
 #include "orbis/COSInterface.hpp"
 #include "orbis/COSNameID.hpp"
 
@@ -16,5 +17,13 @@ ORBIS_FACTORY_API void bindConstructed(COSInterface* host, COSNameID const& clas
 /// `object` when there was one, else null. An address that was released and has been bound to another host object since
 /// is that one's.
 ORBIS_FACTORY_API void* forgetBinding(COSInterface const* host, void* object);
+
+/// Deletes a native object, the result of a call, that could not be bound, where the class info of `className` would
+/// delete it with its host object. Null and what is bound are left alone.
+ORBIS_FACTORY_API void discardUnbound(void* object, char const* className) noexcept;
+
+/// Releases the binding of `object` (null allowed) where nothing but elements of `row` holds its host object: it was
+/// bound to become the result of a call that fails, and stays whose it was.
+ORBIS_FACTORY_API void releaseResult(void const* object, hvArray_tag const* row) noexcept;
 
 } // namespace orbis::factory::detail
