@@ -1,5 +1,6 @@
 # What every target is compiled and linked with.
 option(ORBIS_BUILD_TESTS "Build the tests (needs GoogleTest)" ON)
+option(ORBIS_BUILD_FUZZERS "Build the programs in fuzz/ (needs clang)" OFF)
 option(ORBIS_BUILD_BENCH "Build the measurements in bench/ (needs Google Benchmark)" OFF)
 
 set(CMAKE_CXX_STANDARD 20)

@@ -1,13 +1,19 @@
 #include "HvmTest.hpp"
+#include "library/Plain.hpp"
+#include "library/libraryFile.hpp"
+
+#include "orbis/factory/basic/BindingRegistry.hpp"
 
 #include "orbis/COSNameID.hpp"
 #include "orbis/COSPackage.hpp"
 
 #include <algorithm>
+#include <barrier>
 #include <memory>
 #include <regex>
 #include <thread>
 #include <utility>
+#include <vector>
 
 #if defined(_WIN32)
 #include <windows.h>
@@ -52,13 +58,17 @@ TEST_F(ModuleTest, InitialisationCountsOncePerVirtualMachine)
     EXPECT_NE(rootPackage(), nullptr);
 }
 
-TEST_F(ModuleTest, TwoVirtualMachinesOnTwoThreadsShareNothing)
+TEST_F(ModuleTest, EightVirtualMachinesOnEightThreadsShareNothing)
 {
-    auto const settle = [](double start) {
+    constexpr int count = 8;
+    std::barrier together(count);
+    auto const settle = [&](double start) {
         for (int round = 0; round < 10; ++round) {
+            together.arrive_and_wait(); // the last ones end while these begin
             velmara::Hvm machine;
             velmara::Hvm::Scope const scope(machine);
-            VXInitialize_orbis_factory();
+            publishPlain();
+            static_cast<void>(machine.loadModule(libraryFile));
             velmara::ArrayPtr const name(hvCreateString("Ada"));
             auto const ada = machine.construct("orbis_factory.Person", inputs(name)); // refused where there is an Ada
             machine.setStatic("orbis_factory.Prop", "outside", number(start).get());
@@ -66,10 +76,20 @@ TEST_F(ModuleTest, TwoVirtualMachinesOnTwoThreadsShareNothing)
             machine.call(adder.get(), "getSum", inputs(number(1), number(2)));
             EXPECT_EQ(scalar<std::int32_t>(machine.get(adder.get(), "total")), start + 3);
             EXPECT_EQ(scalar<double>(machine.getStatic("orbis_factory.Prop", "outside")), start);
+            Plain native;
+            velmara::ArrayPtr const host(
+                orbis::factory::basic::BindingRegistry::announce(&native, orbis::COSNameID("tests.Plain")));
+            together.arrive_and_wait();
+            machine.unloadModule("orbis_factory");
+            EXPECT_FALSE(velmara::isValid(adder.get()));
+            static_cast<void>(machine.loadModule(libraryFile));
+            EXPECT_TRUE(velmara::isValid(machine.construct("orbis_factory.Person", inputs(name)).get()));
         }
     };
-    std::jthread const other(settle, 5);
-    settle(3);
+    std::vector<std::jthread> others;
+    for (int i = 1; i < count; ++i)
+        others.emplace_back(settle, i);
+    settle(count);
 }
 
 TEST_F(ModuleTest, AnInitialisationThatFailsIsNotRemembered)

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <random>
 
 namespace {
 
@@ -10,7 +11,7 @@ template <int... K>
 std::string walk(unsigned seed, std::integer_sequence<int, K...>)
 {
     std::string wrong;
-    static_cast<void>((... && (wrong = lifetimes::Walk<K>(seed).run(250)).empty()));
+    static_cast<void>((... && (wrong = lifetimes::Walk<K>(std::mt19937(seed)).run(250)).empty()));
     return wrong;
 }
 

@@ -11,9 +11,12 @@
 #include "additions/additions.hpp"
 #include "orbis/objectArrays.hpp"
 
+#include <functional>
 #include <map>
 #include <optional>
-#include <random>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace lifetimes {
 
@@ -22,7 +25,8 @@ namespace lifetimes {
 template <int K>
 class Walk {
 public:
-    explicit Walk(unsigned seed) : random_(seed)
+    /// `random` gives any number from 0 to 255 at least.
+    explicit Walk(std::function<unsigned()> random) : random_(std::move(random))
     {
         begin(0);
         begin(1);
@@ -317,7 +321,7 @@ private:
 
     Model model_{isOwned<K>, isWrapped<K>, isShared<K>};
     std::map<int, Pointer<K>> owners_; ///< by the numbers of what native code holds
-    std::mt19937 random_;
+    std::function<unsigned()> random_;
     std::unique_ptr<velmara::Hvm> machines_[2];
     std::optional<velmara::Hvm::Scope> scope_;
     std::vector<Slot> slots_;

@@ -1,0 +1,55 @@
+// Names that scripts and descriptions write: of packages, classes, members, data types.
+#include "fuzz/require.hpp"
+
+#include "velmara/Hvm.hpp"
+#include "velmara/LiveCounts.hpp"
+
+#include "orbis/COSDataTypePtr.hpp"
+#include "orbis/COSTypeRepository.hpp"
+
+namespace {
+
+template <class F>
+bool succeeds(F&& action)
+{
+    try {
+        action();
+    } catch (velmara::Error const& error) {
+        require(!error.identifier().empty(), "an error has no identifier");
+        return false;
+    } catch (std::exception const&) {
+        return false; // of the declared interface
+    }
+    return true;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
+{
+    std::string const name(reinterpret_cast<char const*>(data), size);
+    {
+        static velmara::Hvm hvm;
+        velmara::Hvm::Scope const scope(hvm);
+        static auto const loaded = hvm.loadModule(LIBRARY_FILE);
+        static auto const live = velmara::liveCounts();
+
+        velmara::NameKind const kind = hvm.lookUp(name);
+        using velmara::NameKind;
+        require(kind == NameKind::Class || !succeeds([&] { static_cast<void>(hvm.construct(name)); }),
+                "it is no class");
+        require(succeeds([&] { static_cast<void>(hvm.describePackage(name)); }) ==
+                    (kind == NameKind::Package || name.empty()),
+                "whether it is a package");
+        require(succeeds([&] { static_cast<void>(hvm.describeFunction(name)); }) == (kind == NameKind::Function),
+                "whether it is a function");
+        static_cast<void>(succeeds([&] { static_cast<void>(hvm.callStatic("orbis_factory.Adder", name)); }));
+        static_cast<void>(succeeds([&] { static_cast<void>(hvm.getStatic("orbis_factory.Prop", name)); }));
+        static_cast<void>(succeeds([&] { static_cast<void>(hvm.getEnumerator("orbis_factory.NP1.N2.Day", name)); }));
+        static_cast<void>(succeeds([&] { orbis::COSDataTypePtr const type(name.c_str()); }));
+        static_cast<void>(succeeds(
+            [&] { orbis::COSTypeRepository::getConversion(orbis::COSNameID("any"), orbis::COSNameID(name.c_str())); }));
+        require(velmara::liveCounts() == live, "something is left");
+    }
+    return 0;
+}
