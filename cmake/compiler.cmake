@@ -15,8 +15,12 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
-set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
-set(CMAKE_BUILD_RPATH "$ORIGIN")
+
+# Where a binary looks for the libraries: the same two folders in the build and when installed. No file is edited when it
+# is installed, so none is padded with empty elements, which would mean the current folder.
+include(GNUInstallDirs)
+set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
+set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
 # g++ 12 sees overlapping copies in std::string's concatenation where there are none (its bug 105329).
 add_compile_options(-Wall -Wextra -Wshadow -Wno-restrict)
@@ -29,4 +33,5 @@ if(WIN32)
 else()
     add_compile_options(-fno-plt -fno-semantic-interposition)
     add_link_options(-Wl,-z,defs)
+    include(${CMAKE_CURRENT_LIST_DIR}/hardening.cmake)
 endif()

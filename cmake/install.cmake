@@ -1,10 +1,8 @@
 # `cmake --install`: the library, the host, the console, their headers, and a package that find_package(orbis_factory)
 # finds. On Windows the compiler's run-time libraries go with them.
-include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/orbis_factory)
-set_target_properties(orbis_factory velmara_host velmara PROPERTIES INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 target_compile_features(orbis_factory PUBLIC cxx_std_20)
 
 foreach(target orbis_factory velmara_host orbis_host_declarations)

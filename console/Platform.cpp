@@ -73,7 +73,7 @@ bool isInputTerminal()
 std::filesystem::path moduleBesideProgram(std::string const& name)
 {
     std::filesystem::path const folder = programPath().parent_path();
-    for (std::filesystem::path const& candidate : {folder, folder.parent_path() / "lib"})
+    for (std::filesystem::path const& candidate : {folder, folder.parent_path() / VELMARA_LIBRARY_FOLDER})
         if (std::filesystem::exists(candidate / fileNameOf(name)))
             return candidate / fileNameOf(name);
     return {};
