@@ -7,12 +7,9 @@
 #include "Session.hpp"
 #include "ValueToHost.hpp"
 
-#include "velmara/ArrayPtr.hpp"
-
 #include <algorithm>
 #include <limits>
 #include <new>
-#include <utility>
 
 namespace velmara::console {
 
@@ -20,14 +17,12 @@ namespace {
 
 constexpr char const* arrayType = "velmara.array";
 
-struct Holder {
-    ArrayPtr array;
-};
+using Holder = GivenArrays::Holder;
 
 int release(lua_State* L)
 {
-    // The array last: objects in it that end run native code.
-    ArrayPtr const given = std::exchange(static_cast<Holder*>(luaL_checkudata(L, 1, arrayType))->array, nullptr);
+    auto& holder = *static_cast<Holder*>(luaL_checkudata(L, 1, arrayType));
+    Session::of(L).given().takeBack(holder).reset(); // last, as objects in it that end run native code
     return 0;
 }
 
@@ -74,7 +69,7 @@ void pushHostArray(lua_State* L, hvArray_tag const& array)
     auto* holder = new (lua_newuserdatauv(L, sizeof(Holder), 0)) Holder;
     pushArrayMetatable(L);
     lua_setmetatable(L, -2);
-    holder->array.reset(hvCreateSharedDataCopy(&array));
+    Session::of(L).given().give(*holder, ArrayPtr(hvCreateSharedDataCopy(&array)));
     tellCollector(L, array);
 }
 
@@ -86,7 +81,7 @@ bool isHostArray(lua_State* L, int index)
 hvArray_tag* testHostArray(lua_State* L, int index)
 {
     auto const* holder = static_cast<Holder*>(luaL_testudata(L, index, arrayType));
-    return holder ? holder->array.get() : nullptr;
+    return holder ? holder->array : nullptr;
 }
 
 hvArray_tag* checkHostArray(lua_State* L, int index)

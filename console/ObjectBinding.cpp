@@ -17,9 +17,7 @@ namespace {
 
 char const objectMark = 0; // its address is the key of the mark in an object's metatable
 
-struct Holder {
-    ArrayPtr array;
-};
+using Holder = GivenArrays::Holder;
 
 Holder* holderAt(lua_State* L, int index)
 {
@@ -30,16 +28,16 @@ Holder* holderAt(lua_State* L, int index)
 
 int release(lua_State* L)
 {
-    holderAt(L, 1)->array.reset();
+    Session::of(L).given().takeBack(*holderAt(L, 1)).reset();
     return 0;
 }
 
 /// The name of the enumerator at `index`; null for other objects.
 char const* enumeratorName(lua_State* L, int index)
 {
-    ArrayPtr const& array = holderAt(L, index)->array;
+    hvArray_tag const* const array = holderAt(L, index)->array;
     auto const* const enumerator =
-        array ? orbis::additions::describeEnumerator(orbis::omGetArrayElement(array.get(), 0)) : nullptr;
+        array ? orbis::additions::describeEnumerator(orbis::omGetArrayElement(array, 0)) : nullptr;
     return enumerator ? enumerator->name : nullptr;
 }
 
@@ -57,7 +55,7 @@ int toText(lua_State* L)
 int compare(lua_State* L)
 {
     bool const areHeld = isObject(L, 1) && isObject(L, 2) && holderAt(L, 1)->array && holderAt(L, 2)->array;
-    lua_pushboolean(L, areHeld && isSameObject(holderAt(L, 1)->array.get(), holderAt(L, 2)->array.get()));
+    lua_pushboolean(L, areHeld && isSameObject(holderAt(L, 1)->array, holderAt(L, 2)->array));
     return 1;
 }
 
@@ -143,7 +141,7 @@ void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index)
     pushMetatable(L, className(scalar));
     lua_setmetatable(L, -2);
     scalar->add_reference();
-    holder->array.reset(scalar);
+    Session::of(L).given().give(*holder, ArrayPtr(scalar));
 }
 
 bool isObject(lua_State* L, int index)
@@ -160,7 +158,7 @@ hvArray_tag* checkObject(lua_State* L, int index)
     Holder const* holder = holderAt(L, index);
     if (!holder->array)
         fail("closed", "this object of " + std::string(objectClass(L, index)) + " was given back");
-    return holder->array.get();
+    return holder->array;
 }
 
 std::string_view objectClass(lua_State* L, int index)
@@ -175,7 +173,7 @@ std::string_view objectClass(lua_State* L, int index)
 bool isValidObject(lua_State* L, int index)
 {
     Holder const* holder = holderAt(L, index);
-    return holder->array && isValid(holder->array.get());
+    return holder->array && isValid(holder->array);
 }
 
 } // namespace velmara::console

@@ -59,6 +59,7 @@ void Session::end()
         lua_resetthread(lua_.get()); // variables to be closed, while all still works
     lua_.reset();
     arrays_.shrink(0);
+    given_.clear();
     while (!machines_.empty())
         machines_.pop_back();
 }

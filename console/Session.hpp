@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ArrayStack.hpp"
+#include "GivenArrays.hpp"
 #include "LuaApi.hpp"
 
 #include "velmara/Hvm.hpp"
@@ -12,7 +13,8 @@
 namespace velmara::console {
 
 /// One run of the console: a Lua state, the virtual machines that its script uses, and the host arrays on their way
-/// between the two. They end in the one order in which every host object is given back before its machine ends.
+/// between the two or held by the script. They end in the one order in which every host object is given back before its
+/// machine ends.
 class Session {
 public:
     Session();
@@ -25,6 +27,7 @@ public:
 
     lua_State* lua() const { return lua_.get(); }
     ArrayStack& arrays() { return arrays_; }
+    GivenArrays& given() { return given_; }
 
     /// The virtual machine in use: the innermost one.
     Hvm& hvm() { return *machines_.back(); }
@@ -68,6 +71,7 @@ public:
 private:
     std::vector<std::unique_ptr<Hvm>> machines_;
     ArrayStack arrays_;
+    GivenArrays given_;
     LuaState lua_;
     bool checksLeaks_ = false;
     bool reportsLeaks_ = false;

@@ -66,3 +66,15 @@ refused(loadmodule, "nowhere.so")
 refused(loadmodule, (loaded[1].file:gsub("orbis_factory(%.%w+)$", "velmara_host%1")))
 print(loadmodule(loaded[#loaded].file), isvalid(Probe), isvalid(kept))
 Probe().value = 1
+
+-- where no stack is left, Lua frees without finalizing
+local held
+local function dropAtDepth(n)
+  if n > 0 then return pcall(dropAtDepth, n - 1) end
+  held = nil
+  collectgarbage()
+end
+for depth = 150, 199 do
+  held = {cases.Probe(), array("int8", {1})}
+  dropAtDepth(depth)
+end
