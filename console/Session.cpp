@@ -24,7 +24,7 @@ Session::Session() : lua_(luaL_newstate())
 {
     if (!lua_)
         throw std::bad_alloc();
-    machines_.push_back(std::make_unique<Hvm>());
+    machines_.push_back(makeMachine());
     // Lua copies this space of the main thread into every coroutine.
     Session* self = this;
     std::memcpy(lua_getextraspace(lua_.get()), &self, sizeof self);
@@ -37,11 +37,21 @@ Session& Session::of(lua_State* L)
     return *session;
 }
 
-Session::FreshMachine::FreshMachine(Session& session) : session_(session)
+std::unique_ptr<Hvm> Session::makeMachine()
 {
     auto machine = std::make_unique<Hvm>();
-    if (session.reportsLeaks_)
+    machine->reportTerminations([this](std::string const& module, char const* reason) {
+        std::fprintf(stderr, "velmara: module %s failed to terminate: %s\n", module.c_str(), reason);
+        hasFailed_ = true;
+    });
+    if (reportsLeaks_)
         reportLeaksOf(*machine);
+    return machine;
+}
+
+Session::FreshMachine::FreshMachine(Session& session) : session_(session)
+{
+    auto machine = session.makeMachine();
     for (ModuleRecord const& module : session.hvm().modules())
         machine->loadModule(std::u8string(module.file.begin(), module.file.end()));
     session.machines_.push_back(std::move(machine));
@@ -74,6 +84,8 @@ void Session::reportLeaks()
 int Session::finish(int code)
 {
     end();
+    if (hasFailed_ && code == exitSuccess)
+        code = exitScriptError;
     if (!checksLeaks_)
         return code;
     LiveCounts const left = liveCounts();

@@ -69,10 +69,14 @@ public:
     int finish(int code);
 
 private:
+    /// A virtual machine that reports what goes wrong at its end.
+    std::unique_ptr<Hvm> makeMachine();
+
     std::vector<std::unique_ptr<Hvm>> machines_;
     ArrayStack arrays_;
     GivenArrays given_;
     LuaState lua_;
+    bool hasFailed_ = false; ///< a module did, at the end of its virtual machine
     bool checksLeaks_ = false;
     bool reportsLeaks_ = false;
     bool keepsNextArray_ = false;

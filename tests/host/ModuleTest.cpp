@@ -68,11 +68,26 @@ TEST_F(ModuleTest, WhatIsNoModuleIsRefused)
     fs::remove_all(folder);
 }
 
-TEST_F(ModuleTest, OneThatFailsToStartIsNotLoaded)
+TEST_F(ModuleTest, WhatItsEntryPointsThrowNamesTheModule)
 {
-    orbis::COSPackage::addPackage(new described::Package("refuse_modules"));
-    EXPECT_EQ(errorOf([&] { hvm().loadModule(moduleFile()); }), "VELMARA:native:exception");
+    std::vector<std::string> const parts = {"VELMARA:native:exception", "\"host_test_module\"", "refused"};
+    auto const load = [&] { hvm().loadModule(moduleFile()); };
+    auto const unload = [&] { hvm().unloadModule("host_test_module"); };
+    auto const refuse = [] { orbis::COSPackage::addPackage(new described::Package("refuse_modules")); };
+    refuse();
+    expectMessage(load, parts);
     EXPECT_TRUE(hvm().modules().empty());
     orbis::COSPackage::removePackage("refuse_modules");
-    EXPECT_EQ(errorOf([&] { hvm().loadModule(moduleFile()); }), "");
+    load();
+    refuse();
+    expectMessage(unload, parts);
+    orbis::COSPackage::removePackage("refuse_modules");
+
+    std::string reported;
+    hvm().reportTerminations(
+        [&](std::string const& module, char const* reason) { reported += module + ": " + reason; });
+    load();
+    refuse();
+    endHvm();
+    EXPECT_EQ(reported, "host_test_module: refused");
 }

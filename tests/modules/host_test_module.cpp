@@ -1,5 +1,5 @@
-// A module of nothing but host declarations: it adds one package, and refuses to start where a package
-// "refuse_modules" is.
+// A module of nothing but host declarations: it adds one package, and refuses to start and to terminate
+// where a package "refuse_modules" is.
 #include "orbis/COSPackage.hpp"
 #include "orbis/COSPackageInfo.hpp"
 
@@ -25,16 +25,26 @@ char const* host_test_module_version = "1.2.3.4";
 MODULE_EXPORT char const* host_test_module_build_date;
 char const* host_test_module_build_date = "Jan  1 2024";
 
-MODULE_EXPORT void VXInitialize_host_test_module()
+namespace {
+
+void refuse()
 {
     if (orbis::COSPackage::getPackage("refuse_modules"))
         throw std::runtime_error("refused");
+}
+
+} // namespace
+
+MODULE_EXPORT void VXInitialize_host_test_module()
+{
+    refuse();
     if (!orbis::COSPackage::getPackage("host_test_module"))
         orbis::COSPackage::addPackage(new ModulePackage);
 }
 
 MODULE_EXPORT void VXTerminate_host_test_module()
 {
+    refuse();
     orbis::COSPackage::removePackage("host_test_module");
 }
 

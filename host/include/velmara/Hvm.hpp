@@ -40,6 +40,11 @@ public:
     /// To be asked for before modules are used: it costs memory and time for what is made from then on.
     void reportLeaks(std::function<void(std::string const&)> report);
 
+    /// Has `report` called, as the virtual machine ends, for each module whose `VXTerminate_NAME` throws: with the
+    /// module's name, and with what the exception says of itself. It throws nothing; where none is set such failures
+    /// are lost.
+    void reportTerminations(std::function<void(std::string const& module, char const* reason)> report);
+
     /// Makes a virtual machine current on this thread, and the one before current again at its end, unless that has
     /// ended meanwhile.
     class VELMARA_API Scope {

@@ -19,6 +19,11 @@ void Hvm::reportLeaks(std::function<void(std::string const&)> report)
     state_->setLeakReport(std::move(report));
 }
 
+void Hvm::reportTerminations(std::function<void(std::string const&, char const*)> report)
+{
+    state_->setTerminationReport(std::move(report));
+}
+
 namespace {
 constinit thread_local Hvm::Scope* innermost = nullptr;
 } // namespace

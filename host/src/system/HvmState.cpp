@@ -29,7 +29,7 @@ HvmState::~HvmState()
     {
         Entry const entry(*this);
         packages_->endAllObjects();
-        modules_->terminateAll();
+        modules_->terminateAll(terminationReport_);
         packages_->clear();
     }
     isStorageActive_ = false;

@@ -60,6 +60,9 @@ public:
     void setLeakReport(LeakReport report) { leakReport_ = std::move(report); }
     bool reportsLeaks() const { return static_cast<bool>(leakReport_); }
 
+    using TerminationReport = std::function<void(std::string const&, char const*)>;
+    void setTerminationReport(TerminationReport report) { terminationReport_ = std::move(report); }
+
     /// What the report throws is lost.
     void reportLeak(char const* sentence) const noexcept;
 
@@ -127,6 +130,7 @@ private:
 
     std::unique_ptr<ModuleList> modules_; // first, so that the modules' code goes last
     LeakReport leakReport_;
+    TerminationReport terminationReport_;
     HvmStorage storage_;
     MessageCatalog messages_;
     std::unique_ptr<TypeRepository> types_;

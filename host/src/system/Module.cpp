@@ -1,6 +1,8 @@
 #include "system/Module.hpp"
 
+#include "system/errorTranslation.hpp"
 #include "system/pathText.hpp"
+#include "values/MessageCatalog.hpp"
 #include "values/hostError.hpp"
 
 #include "additions/additions.hpp"
@@ -63,14 +65,33 @@ void Module::addMessages() const
 void Module::initialize()
 {
     addMessages();
-    initialize_();
+    try {
+        initialize_();
+    } catch (...) {
+        rethrowFailure("initialization");
+    }
     isLoaded_ = true;
 }
 
 void Module::terminate()
 {
+    try {
+        terminateAsItIs();
+    } catch (...) {
+        rethrowFailure("termination");
+    }
+}
+
+void Module::terminateAsItIs()
+{
     isLoaded_ = false;
     terminate_();
+}
+
+void Module::rethrowFailure(char const* key) const
+{
+    Error const error = currentError();
+    throw Error(error.identifier(), messageText("VELMARA:module", key, {record_.name, error.text()}));
 }
 
 std::string moduleName(std::filesystem::path const& file)

@@ -22,15 +22,24 @@ public:
     ModuleRecord const& record() const { return record_; }
     bool isLoaded() const { return isLoaded_; }
 
-    /// Adds the module's texts and runs its initialisation; it is loaded when that succeeds.
+    /// Adds the module's texts and runs its initialisation; it is loaded when that succeeds. What it throws becomes an
+    /// `Error` that names the module.
     void initialize();
+
+    /// The module is not loaded any more, also when this fails; likewise.
     void terminate();
+
+    /// The same, but what the module throws leaves as it is, so that no memory is needed.
+    void terminateAsItIs();
 
 private:
     using EntryPoint = void (*)();
 
     EntryPoint entryPoint(std::string const& prefix) const;
     std::string versionWord(char const* suffix) const;
+
+    /// Inside a handler: throws the failure with the identifier that it has, in the sentence `key`.
+    [[noreturn]] void rethrowFailure(char const* key) const;
 
     /// Adds the texts that the module brings to the current virtual machine's catalogs.
     void addMessages() const;

@@ -1,5 +1,6 @@
 #include "system/ModuleList.hpp"
 
+#include "system/errorTranslation.hpp"
 #include "system/pathText.hpp"
 #include "values/hostError.hpp"
 
@@ -46,13 +47,16 @@ std::vector<ModuleRecord> ModuleList::records() const
     return records;
 }
 
-void ModuleList::terminateAll() noexcept
+void ModuleList::terminateAll(FailureReport const& report) noexcept
 {
     for (std::size_t i = modules_.size(); i-- > 0;) {
+        Module& module = *modules_[i];
         try {
-            if (modules_[i]->isLoaded())
-                modules_[i]->terminate();
+            if (module.isLoaded())
+                module.terminateAsItIs();
         } catch (...) {
+            if (report)
+                report(module.name(), whatOfCurrentException());
         }
     }
 }

@@ -3,7 +3,9 @@
 #include "system/Module.hpp"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -22,8 +24,12 @@ public:
 
     std::vector<ModuleRecord> records() const;
 
-    /// Terminates what is loaded, the last one first. Failures are passed over.
-    void terminateAll() noexcept;
+    /// A module's name, and why it failed to terminate.
+    using FailureReport = std::function<void(std::string const&, char const*)>;
+
+    /// Terminates what is loaded, the last one first. Each that fails is told to `report`, which may be empty and
+    /// throws nothing. Needs no memory.
+    void terminateAll(FailureReport const& report) noexcept;
 
 private:
     Module& open(std::filesystem::path const& file);

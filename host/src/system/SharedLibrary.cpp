@@ -1,7 +1,11 @@
 #include "system/SharedLibrary.hpp"
 
+#include "system/imageSize.hpp"
 #include "system/pathText.hpp"
+#include "values/MessageCatalog.hpp"
 #include "values/hostError.hpp"
+
+#include <fstream>
 
 #if defined(_WIN32)
 #include <windows.h>
@@ -10,6 +14,31 @@
 #endif
 
 namespace velmara {
+
+namespace {
+
+/// A file that is shorter than it says would be mapped, and end the process as soon as the missing part is touched.
+void requireWhole(std::filesystem::path const& file)
+{
+    std::ifstream content(file, std::ios::binary);
+    std::uintmax_t const needed = imageSize(content);
+    std::error_code failed;
+    std::uintmax_t const size = std::filesystem::file_size(file, failed);
+    if (!failed && size < needed)
+        throwHostError(
+            "VELMARA:module", "cannotLoad",
+            {pathText(file), messageText("VELMARA:module", "cutOff", {std::to_string(size), std::to_string(needed)})});
+}
+
+void* mapLibrary(std::filesystem::path const& file);
+
+} // namespace
+
+SharedLibrary::SharedLibrary(std::filesystem::path const& file)
+{
+    requireWhole(file);
+    handle_ = mapLibrary(file);
+}
 
 #if defined(_WIN32)
 
@@ -26,14 +55,15 @@ std::string lastErrorText()
     return length > 0 ? std::string(text, length) : "error " + std::to_string(code);
 }
 
-} // namespace
-
-SharedLibrary::SharedLibrary(std::filesystem::path const& file)
-    : handle_(LoadLibraryExW(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH))
+void* mapLibrary(std::filesystem::path const& file)
 {
-    if (!handle_)
+    void* const handle = LoadLibraryExW(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    if (!handle)
         throwHostError("VELMARA:module", "cannotLoad", {pathText(file), lastErrorText()});
+    return handle;
 }
+
+} // namespace
 
 SharedLibrary::~SharedLibrary()
 {
@@ -47,13 +77,19 @@ void* SharedLibrary::find(std::string const& symbol) const
 
 #else
 
-SharedLibrary::SharedLibrary(std::filesystem::path const& file) : handle_(dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL))
+namespace {
+
+void* mapLibrary(std::filesystem::path const& file)
 {
-    if (!handle_) {
+    void* const handle = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!handle) {
         char const* const reason = dlerror();
         throwHostError("VELMARA:module", "cannotLoad", {pathText(file), reason ? reason : ""});
     }
+    return handle;
 }
+
+} // namespace
 
 SharedLibrary::~SharedLibrary()
 {

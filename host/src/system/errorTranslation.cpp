@@ -10,8 +10,6 @@
 
 namespace velmara {
 
-namespace {
-
 Error currentError()
 {
     constexpr char const* native = "VELMARA:native";
@@ -31,8 +29,6 @@ Error currentError()
     }
 }
 
-} // namespace
-
 void rethrowAsError()
 {
     throw currentError();
@@ -46,6 +42,19 @@ std::string describeCurrentException()
 std::string textOfCurrentException()
 {
     return currentError().text();
+}
+
+char const* whatOfCurrentException() noexcept
+{
+    try {
+        throw;
+    } catch (foundation::core::except::IException const& error) {
+        return error.what();
+    } catch (std::exception const& error) {
+        return error.what();
+    } catch (...) {
+        return "something that is no exception was thrown";
+    }
 }
 
 } // namespace velmara

@@ -1,12 +1,16 @@
 #pragma once
 
+#include "velmara/Error.hpp"
+
 #include <string>
 
 namespace velmara {
 
-/// Inside a handler: throws what is being handled as a `velmara::Error`. An exception with a message identity
-/// keeps it; others become "VELMARA:native:exception" with their text, and what is no exception at all
-/// "VELMARA:native:unknown".
+/// Inside a handler: what is being handled as a `velmara::Error`. An exception with a message identity keeps it; others
+/// become "VELMARA:native:exception" with their text, and what is no exception at all "VELMARA:native:unknown".
+Error currentError();
+
+/// Inside a handler: throws that error.
 [[noreturn]] void rethrowAsError();
 
 /// Inside a handler: what is being handled in one text, with its identifier.
@@ -14,5 +18,8 @@ std::string describeCurrentException();
 
 /// Inside a handler: the text alone.
 std::string textOfCurrentException();
+
+/// Inside a handler: what the exception says of itself, for as long as it is handled. Needs no memory.
+char const* whatOfCurrentException() noexcept;
 
 } // namespace velmara
