@@ -8,6 +8,7 @@ enum ExitCode : int {
     exitScriptError = 1, ///< a script or a module failed
     exitUsage = 2,       ///< wrong options, or a script that cannot be read
     exitLeaks = 3,       ///< `--check-leaks` found something
+    exitOutput = 4,      ///< what was printed could not be written
 };
 
 } // namespace velmara::console

@@ -2,11 +2,12 @@
 
 #include "ErrorReport.hpp"
 
+#include <array>
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iostream>
-#include <iterator>
+#include <memory>
+#include <system_error>
 
 namespace velmara::console {
 
@@ -40,6 +41,35 @@ void setArguments(lua_State* L, std::string const& name, std::vector<std::string
         lua_rawseti(L, -2, static_cast<lua_Integer>(i + 1));
     }
     lua_setglobal(L, "arg");
+}
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+std::FILE* openFile(std::filesystem::path const& file)
+{
+#if defined(_WIN32)
+    return _wfopen(file.c_str(), L"rb");
+#else
+    return std::fopen(file.c_str(), "rbe");
+#endif
+}
+
+[[noreturn]] void failReading()
+{
+    throw std::system_error(errno, std::generic_category());
+}
+
+std::string readAll(std::FILE* file)
+{
+    std::string content;
+    std::array<char, 4096> part;
+    while (std::size_t const length = std::fread(part.data(), 1, part.size(), file))
+        content.append(part.data(), length);
+    if (std::ferror(file))
+        failReading();
+    return content;
 }
 
 } // namespace
@@ -85,10 +115,11 @@ bool runScript(lua_State* L, std::string_view code, std::string const& chunkName
 std::string readScript(std::string const& file)
 {
     if (file == "-")
-        return {std::istreambuf_iterator<char>(std::cin), {}};
-    std::ifstream stream(std::filesystem::path(std::u8string(file.begin(), file.end())), std::ios::binary);
-    stream.exceptions(std::ios::badbit | std::ios::failbit);
-    return {std::istreambuf_iterator<char>(stream), {}};
+        return readAll(stdin);
+    std::unique_ptr<std::FILE, FileCloser> const stream(openFile(std::u8string(file.begin(), file.end())));
+    if (!stream)
+        failReading();
+    return readAll(stream.get());
 }
 
 } // namespace velmara::console

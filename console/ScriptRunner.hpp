@@ -20,7 +20,8 @@ bool callScript(lua_State* L, int arguments);
 bool runScript(lua_State* L, std::string_view code, std::string const& chunkName, std::string const& name,
                std::vector<std::string> const& arguments);
 
-/// The file's content, or that of standard input for "-". Throws `std::ios_base::failure` when it cannot be read.
+/// The file's content, or that of standard input for "-". Throws `std::system_error` with
+/// the system's reason when it cannot be read.
 std::string readScript(std::string const& file);
 
 } // namespace velmara::console

@@ -1,6 +1,7 @@
 #include "Session.hpp"
 
 #include "ExitCode.hpp"
+#include "Output.hpp"
 #include "ScriptError.hpp"
 
 #include "velmara/LiveCounts.hpp"
@@ -86,17 +87,22 @@ int Session::finish(int code)
     end();
     if (hasFailed_ && code == exitSuccess)
         code = exitScriptError;
+    return finishOutput(findLeaks() ? exitLeaks : code);
+}
+
+bool Session::findLeaks() const
+{
     if (!checksLeaks_)
-        return code;
+        return false;
     LiveCounts const left = liveCounts();
     if (left == LiveCounts{})
-        return code;
+        return false;
     std::fprintf(
         stderr, "velmara: left at the end: %lld objects, %lld arrays, %lld class infos, %lld descriptors, %lld names\n",
         static_cast<long long>(left.objects), static_cast<long long>(left.arrays),
         static_cast<long long>(left.classInfos), static_cast<long long>(left.descriptors),
         static_cast<long long>(left.heldNames));
-    return exitLeaks;
+    return true;
 }
 
 } // namespace velmara::console

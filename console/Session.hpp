@@ -65,12 +65,16 @@ public:
     /// are loaded.
     void reportLeaks();
 
-    /// Ends the session and gives the exit code: `code`, or `leakExitCode` when asked-for checks find something.
+    /// Ends the session and gives the exit code: `code`, or that of what went wrong beside it: a module that fails at
+    /// the end, leaks where they are checked, lost output.
     int finish(int code);
 
 private:
     /// A virtual machine that reports what goes wrong at its end.
     std::unique_ptr<Hvm> makeMachine();
+
+    /// Reports what is left of the host, where that was asked for.
+    bool findLeaks() const;
 
     std::vector<std::unique_ptr<Hvm>> machines_;
     ArrayStack arrays_;

@@ -1,5 +1,6 @@
 #include "Console.hpp"
 #include "ExitCode.hpp"
+#include "Output.hpp"
 #include "Platform.hpp"
 
 #include <cstdio>
@@ -13,7 +14,7 @@ int run(CommandLine line)
     using Task = CommandLine::Task;
     if (line.task == Task::Help || line.task == Task::Version) {
         std::fputs(line.task == Task::Help ? usageText : "velmara " VELMARA_VERSION "\n", stdout);
-        return exitSuccess;
+        return finishOutput(exitSuccess);
     }
     if (line.task == Task::Prompt && !line.asksForPrompt && !isInputTerminal()) {
         line.task = Task::Script;
@@ -32,6 +33,7 @@ int run(CommandLine line)
 
 int main(int count, char** words)
 {
+    occupyStandardStreams();
     try {
         return run(parseCommandLine(commandLineWords(count, words)));
     } catch (UsageError const& error) {
