@@ -12,13 +12,14 @@ are in `arg` and `...`.
   -i                   a prompt, also where standard input is no terminal
   --module PATH        load the module at PATH first; may be repeated
   --no-builtin         do not load the built-in module orbis_factory
+  --restricted         for scripts of strangers: no files, processes, modules
   --check-leaks        check at the end that nothing of the host is left
   --report-leaks       name at the end each native object that is still bound
   --help, --version
 
 Exit codes: 0 success; 1 a script or module failed ("identifier: text" and
 where in the script go to standard error); 2 wrong options or a script that
-cannot be read; 3 --check-leaks found something.
+cannot be read; 3 --check-leaks found something; 4 output was lost.
 )";
 
 namespace {
@@ -57,6 +58,8 @@ void parseOption(CommandLine& line, std::string const& option, Words& words)
         line.modules.push_back(words.takeValue(option));
     else if (option == "--no-builtin")
         line.loadsBuiltIn = false;
+    else if (option == "--restricted")
+        line.isRestricted = true;
     else if (option == "--check-leaks")
         line.checksLeaks = true;
     else if (option == "--report-leaks")

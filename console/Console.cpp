@@ -9,6 +9,7 @@
 #include "ObjectFunctions.hpp"
 #include "PackageBinding.hpp"
 #include "Prompt.hpp"
+#include "RestrictedLibraries.hpp"
 #include "ScriptError.hpp"
 #include "ScriptLibraries.hpp"
 #include "ScriptRunner.hpp"
@@ -29,10 +30,14 @@ struct Run {
 
 void prepare(lua_State* L, Run const& run)
 {
-    openScriptLibraries(L);
+    if (run.line.isRestricted)
+        openRestrictedLibraries(L);
+    else {
+        openScriptLibraries(L);
+        bindModuleFunctions(L);
+    }
     bindArrayFunctions(L);
     bindObjectFunctions(L);
-    bindModuleFunctions(L);
     bindEnumerationFunction(L);
     bindHelpFunctions(L);
     bindGlobals(L);
@@ -69,8 +74,8 @@ int runConsole(Session& session, CommandLine const& line, std::filesystem::path 
     if (line.task == CommandLine::Task::Script)
         try {
             code = readScript(line.script);
-        } catch (std::ios_base::failure const&) {
-            std::fprintf(stderr, "velmara: cannot read %s\n", line.script.c_str());
+        } catch (std::system_error const& error) {
+            std::fprintf(stderr, "velmara: cannot read %s: %s\n", line.script.c_str(), error.code().message().c_str());
             return exitUsage;
         }
     Run run{session, line, builtIn, code};

@@ -18,8 +18,9 @@ char const* const generalHelp = R"(velmara runs Lua 5.4 scripts that use the cla
   class(x) isvalid(x) delete(x)      the class of x; is it alive; end it now
   objects()                          all live objects: owners, references
   references(x)                      what the properties of x refer to
-  modules() loadmodule(path) unloadmodule(name)
-  withvm(function, ...)              call it in a virtual machine of its own
+  modules() loadmodule(path) unloadmodule(name)     these and withvm are not
+  withvm(function, ...)              there with --restricted; calls the function
+                                     in a virtual machine of its own
   enumeration("package.Name", {"A", "B", {"C", 7}})   define an enumeration
 
 Errors are caught with pcall: a table with identifier, text and where.

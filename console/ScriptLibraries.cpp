@@ -3,9 +3,12 @@
 #include "ExitCode.hpp"
 #include "ScriptError.hpp"
 #include "Session.hpp"
+#include "TextLoading.hpp"
 
+#include <algorithm>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 
 namespace velmara::console {
 
@@ -22,20 +25,6 @@ int exitProcess(lua_State* L)
     if (session.isEnding())
         fail("ending", "os.exit: the script has ended already");
     std::exit(session.finish(code));
-}
-
-/// Lua's own function (upvalue 1) with the mode "t" as its argument `Mode`.
-template <int Mode>
-int loadText(lua_State* L)
-{
-    if (lua_gettop(L) < Mode)
-        lua_settop(L, Mode);
-    lua_pushliteral(L, "t");
-    lua_replace(L, Mode);
-    lua_pushvalue(L, lua_upvalueindex(1));
-    lua_insert(L, 1);
-    lua_call(L, lua_gettop(L) - 1, LUA_MULTRET);
-    return lua_gettop(L);
 }
 
 int runFile(lua_State* L)
@@ -67,17 +56,27 @@ int searchScript(lua_State* L)
     return 2;
 }
 
-template <int Mode>
-void loadTextOnly(lua_State* L, char const* name)
+/// Without the current folder: whoever can write to it would decide what runs.
+void setSearchPath(lua_State* L)
 {
-    lua_getglobal(L, name);
-    lua_pushcclosure(L, loadText<Mode>, 1);
-    lua_setglobal(L, name);
+    lua_getfield(L, -1, "path");
+    std::string_view left = textAt(L, -1);
+    std::string path;
+    while (!left.empty()) {
+        std::string_view const element = left.substr(0, left.find(*LUA_PATH_SEP));
+        left.remove_prefix(std::min(element.size() + 1, left.size()));
+        if (!element.starts_with('.'))
+            path.append(path.empty() ? "" : LUA_PATH_SEP).append(element);
+    }
+    pushText(L, path);
+    lua_setfield(L, -3, "path");
+    lua_pop(L, 1);
 }
 
 void limitPackages(lua_State* L)
 {
     lua_getglobal(L, LUA_LOADLIBNAME);
+    setSearchPath(L);
     for (char const* name : {"loadlib", "cpath"}) {
         lua_pushnil(L);
         lua_setfield(L, -2, name);
@@ -114,9 +113,10 @@ void limitDebug(lua_State* L)
 
 void openScriptLibraries(lua_State* L)
 {
+    lua_pushboolean(L, true);
+    lua_setfield(L, LUA_REGISTRYINDEX, "LUA_NOENV"); // the environment says nothing on where scripts are found
     luaL_openlibs(L);
-    loadTextOnly<3>(L, "load");
-    loadTextOnly<2>(L, "loadfile");
+    limitLoadingToText(L);
     lua_register(L, "dofile", runFile);
     limitPackages(L);
     limitDebug(L);
