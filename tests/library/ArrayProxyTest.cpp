@@ -1,8 +1,11 @@
 #include "HvmTest.hpp"
 #include "library/Tally.hpp"
+#include "library/publishClass.hpp"
 #include "library/texts.hpp"
 
+#include "orbis/factory/OptionalPolicy.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/withDefaults.hpp"
 
 #include "orbis/objectArrays.hpp"
 
@@ -85,6 +88,61 @@ TEST_F(ArrayProxyTest, NativeFunctionsTakeAndGiveArrays)
     EXPECT_EQ(hvm().callFunction("tests.none"), nullptr);
     for (char const* const function : {"tests.size", "tests.size2", "tests.swap"})
         EXPECT_EQ(hvm().describeFunction(function).inputs.at(0).dataType, "any");
+}
+
+/// Keeps an array that the test owns.
+struct Shelf {
+    virtual ~Shelf() = default;
+
+    static hvArray* kept;
+
+    hvArrayProxy const& byReference() const { return array; }
+
+    hvArrayProxy const array = kept;
+    std::optional<hvConstArrayProxy> const optional = kept;
+    std::optional<hvArrayProxy> const none = {};
+};
+
+hvArray* Shelf::kept = nullptr;
+
+} // namespace
+
+template <>
+struct orbis::factory::HostClass<Shelf> {
+    static constexpr char const* name = "tests.Shelf";
+};
+
+namespace {
+
+TEST_F(ArrayProxyTest, ArraysThatAreNotNewStayWhoseTheyWere)
+{
+    ArrayPtr const kept = texts::characters(u"kept"), given = texts::characters(u"given");
+    Shelf::kept = kept.get();
+    publishClass<Shelf>([](auto& c) {
+        c.constructor()
+            .property("array", &Shelf::array)
+            .property("optional", &Shelf::optional)
+            .property("byReference", &Shelf::byReference)
+            .property("none", &Shelf::none)
+            .staticMethod("refer", [](hvArrayProxy const& a) -> hvArrayProxy const& { return a; })
+            .staticMethod("wrap", [](hvArrayProxy a) { return std::optional(a); })
+            .staticMethod("pass", [](std::optional<hvConstArrayProxy> const& a) { return a; })
+            .staticMethod(
+                "choose", [](Counted a) { return std::optional<hvArrayProxy>(a()); }, "a",
+                withDefaults(Counted(Shelf::kept)));
+    });
+    ArrayPtr const shelf = hvm().construct("tests.Shelf");
+    auto const before = velmara::liveCounts();
+    for (int repeated = 0; repeated != 3; ++repeated) {
+        for (char const* const property : {"array", "optional", "byReference"})
+            EXPECT_EQ(hvm().get(shelf.get(), property).get(), kept.get());
+        EXPECT_EQ(velmara::liveCounts(), before);
+        EXPECT_EQ(hvm().get(shelf.get(), "none")->get_number_of_elements(), 0u);
+        for (char const* const function : {"refer", "wrap", "pass", "choose"})
+            EXPECT_EQ(hvm().callStatic("tests.Shelf", function, inputs(given)).get(), given.get());
+        EXPECT_EQ(hvm().callStatic("tests.Shelf", "choose").get(), kept.get());
+        EXPECT_EQ(velmara::liveCounts(), before);
+    }
 }
 
 } // namespace

@@ -50,6 +50,13 @@ public:
         return "char";
     }
 
+    /// What it points to is not its own.
+    template <class T>
+    static consteval bool isView()
+    {
+        return true;
+    }
+
 private:
     static char* copyText(hvArray* in);
 };

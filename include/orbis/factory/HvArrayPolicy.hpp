@@ -1,11 +1,10 @@
 #pragma once
 
 #include "orbis/factory/MarshalingPolicy.hpp"
+#include "orbis/factory/detail/PassedArray.hpp"
 #include "orbis/factory/export.hpp"
 #include "orbis/factory/hvArrayProxy.hpp"
 #include "orbis/factory/hvConstArrayProxy.hpp"
-
-#include <type_traits>
 
 namespace orbis::factory {
 
@@ -41,6 +40,13 @@ public:
     {
         return "any";
     }
+
+    /// What it points to is not its own.
+    template <class T>
+    static consteval bool isView()
+    {
+        return true;
+    }
 };
 
 template <>
@@ -55,9 +61,11 @@ struct MarshalingPolicy<hvConstArrayProxy> {
 
 namespace detail {
 
-template <class T>
-inline constexpr bool isArrayProxy =
-    std::is_same_v<std::remove_cvref_t<T>, hvArrayProxy> || std::is_same_v<std::remove_cvref_t<T>, hvConstArrayProxy>;
+template <>
+struct PassedArray<hvArrayProxy> : ProxiedArray<hvArrayProxy> {};
+
+template <>
+struct PassedArray<hvConstArrayProxy> : ProxiedArray<hvConstArrayProxy> {};
 
 } // namespace detail
 

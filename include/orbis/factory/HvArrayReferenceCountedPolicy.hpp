@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/MarshalingPolicy.hpp"
+#include "orbis/factory/detail/PassedArray.hpp"
 #include "orbis/factory/export.hpp"
 #include "orbis/factory/hvArrayReferenceCountedProxy.hpp"
 
@@ -47,5 +48,12 @@ template <>
 struct MarshalingPolicy<hvArrayReferenceCountedProxy> {
     using Type = HvArrayReferenceCountedPolicy;
 };
+
+namespace detail {
+
+template <>
+struct PassedArray<hvArrayReferenceCountedProxy> : ProxiedArray<hvArrayReferenceCountedProxy> {};
+
+} // namespace detail
 
 } // namespace orbis::factory

@@ -103,6 +103,16 @@ using MarshalerOf = Marshaler<typename MarshalingPolicy<typename NativeType<T>::
 template <class T>
 using MarshaledTypeOf = typename MarshaledType<typename NativeType<T>::Type>::Type;
 
+/// True for a type whose values refer to memory that is not theirs, as its policy says.
+template <HasPolicy T>
+consteval bool isView()
+{
+    if constexpr (requires { MarshalerOf<T>::template isView<MarshaledTypeOf<T>>(); })
+        return MarshalerOf<T>::template isView<MarshaledTypeOf<T>>();
+    else
+        return false;
+}
+
 /// The text of the data type that a signature records for a native type.
 template <class T>
 char const* dataTypeText()

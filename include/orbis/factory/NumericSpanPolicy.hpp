@@ -40,6 +40,13 @@ public:
     {
         return detail::vectorTypeText<typename Span::value_type>();
     }
+
+    /// The elements are not its own.
+    template <class Span>
+    static consteval bool isView()
+    {
+        return true;
+    }
 };
 
 template <COSScalar T>

@@ -78,6 +78,12 @@ public:
         return text.c_str();
     }
 
+    template <class Vector>
+    static consteval bool isView()
+    {
+        return detail::isView<Element<Vector>>();
+    }
+
 private:
     template <class Pointer>
     static void setElement(hvArray_tag* row, std::size_t i, Pointer const& value)

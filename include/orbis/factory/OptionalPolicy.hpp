@@ -3,6 +3,7 @@
 #include "orbis/factory/MarshalingPolicy.hpp"
 #include "orbis/factory/detail/Argument.hpp"
 #include "orbis/factory/detail/ArgumentHolder.hpp"
+#include "orbis/factory/detail/PassedArray.hpp"
 #include "orbis/factory/detail/ReferredObjects.hpp"
 
 #include "additions/additions.hpp"
@@ -70,6 +71,12 @@ public:
             std::string(detail::dataTypeText<typename Optional::value_type>()) + " or empty";
         return text.c_str();
     }
+
+    template <class Optional>
+    static consteval bool isView()
+    {
+        return detail::isView<typename Optional::value_type>();
+    }
 };
 
 template <class T>
@@ -79,6 +86,15 @@ struct MarshalingPolicy<std::optional<T>> {
 };
 
 namespace detail {
+
+/// The array of the value, when there is one.
+template <class T>
+    requires PassedArray<T>::any
+struct PassedArray<std::optional<T>> {
+    static constexpr bool any = true;
+
+    static hvArray* of(std::optional<T> const& value) { return value ? PassedArray<T>::of(*value) : nullptr; }
+};
 
 /// What the value refers to, when there is one.
 template <class T>

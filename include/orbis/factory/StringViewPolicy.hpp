@@ -60,6 +60,13 @@ public:
     {
         return TextMarshaler<View>::template dataTypeText<Text<View>>();
     }
+
+    /// The text is not its own.
+    template <class View>
+    static consteval bool isView()
+    {
+        return true;
+    }
 };
 
 template <>

@@ -51,7 +51,15 @@ struct InstanceData {
 class ValuePolicy {};
 
 template <>
-class Marshaler<ValuePolicy> : public detail::ObjectPointerMarshaler<detail::InstanceData> {};
+class Marshaler<ValuePolicy> : public detail::ObjectPointerMarshaler<detail::InstanceData> {
+public:
+    /// The object lives and ends with its host object, which knows of no pointers to it.
+    template <ValueClass T>
+    static consteval bool isView()
+    {
+        return true;
+    }
+};
 
 /// The same for the values themselves and references to them. Where the host gives no object, the `null_self` error is
 /// thrown.
@@ -75,6 +83,12 @@ public:
         if (!value)
             impl::validateSelfPointer(value);
         return *value;
+    }
+
+    template <ValueClass T>
+    static consteval bool isView()
+    {
+        return false;
     }
 };
 

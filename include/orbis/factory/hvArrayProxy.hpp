@@ -8,8 +8,9 @@
 namespace orbis::factory {
 
 /// A host array as it is, for native functions that want no conversion. Null is allowed. It owns nothing: an argument
-/// stays the host's, and lives for the call; a result is a new array, which it hands over, or an argument as it was
-/// given. To keep arrays, and to return those that are kept, use `hvArrayReferenceCountedProxy`.
+/// stays the host's, and lives for the call; a result by value is a new array, which it hands over, or an argument as
+/// it was given; a result by reference, and data that is read, is an array that native code keeps. To keep arrays, and
+/// to return them by value, use `hvArrayReferenceCountedProxy`.
 class ORBIS_FACTORY_API hvArrayProxy {
 public:
     hvArrayProxy(hvArray* array);

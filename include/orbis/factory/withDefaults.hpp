@@ -8,6 +8,32 @@
 
 namespace orbis::factory {
 
+namespace detail {
+
+/// True when a default value, as the author gives it, can be kept; stops compilation with a sentence when it cannot.
+template <class D>
+consteval bool canBeDefault()
+{
+    using Kept = std::decay_t<D>;
+    using Given = std::remove_reference_t<D>;
+    using Target = std::remove_cv_t<std::remove_pointer_t<Kept>>;
+    constexpr bool isLiteral = std::is_array_v<Given> && std::is_const_v<std::remove_extent_t<Given>>;
+    constexpr bool isBarePointer = std::is_pointer_v<Kept> && std::is_object_v<Target> && !PublishedClass<Target>;
+    constexpr bool ownsMemory = [] {
+        if constexpr (HasPolicy<Kept>)
+            return !isBarePointer && !isView<Kept>();
+        else
+            return !isBarePointer;
+    }();
+    static_assert(isLiteral || ownsMemory,
+                  "A default value is kept for later calls and would refer to memory that is not its own: give a "
+                  "literal, or a value that owns its memory (std::string, std::vector, "
+                  "hvArrayReferenceCountedProxy).");
+    return isLiteral || ownsMemory;
+}
+
+} // namespace detail
+
 /// Values for the last parameters of a member, which callers may leave out.
 template <class... D>
 class Defaults {
@@ -39,10 +65,12 @@ private:
 ///     .method("scale", &Shape::scale, "x, factor", withDefaults(2.0))
 ///
 /// The member is then published with further, shorter signatures, and what a call leaves out is taken from here. The
-/// values are copied, and converted to the parameters' types at each such call.
+/// values are copied, and converted to the parameters' types at each such call. Views and pointers are refused, but for
+/// text literals.
 template <class... D>
 Defaults<std::decay_t<D>...> withDefaults(D&&... values)
 {
+    static_assert((detail::canBeDefault<D>() && ...));
     return Defaults<std::decay_t<D>...>(std::tuple<std::decay_t<D>...>(std::forward<D>(values)...));
 }
 

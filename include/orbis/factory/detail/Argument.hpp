@@ -2,6 +2,7 @@
 
 #include "orbis/factory/MarshalingPolicy.hpp"
 #include "orbis/factory/detail/NewArray.hpp"
+#include "orbis/factory/detail/PassedArray.hpp"
 #include "orbis/factory/detail/bindings.hpp"
 
 #include "orbis/COSValue.hpp"
@@ -116,12 +117,29 @@ void storeObject(Pointer object, hvArray** out)
     }
 }
 
-/// Calls `function` and stores what it gives, if anything, as the one output.
+/// True for a result that hands the host an array that need not be a new one.
+template <class Result>
+consteval bool passesForeignArray()
+{
+    using Native = std::remove_cvref_t<Result>;
+    if constexpr (PassedArray<Native>::any)
+        return isView<Native>();
+    else
+        return false;
+}
+
+/// Calls `function` and stores what it gives, if anything, as the one output. The array of a result that is a reference
+/// stays the native side's: the host gets a reference more.
 template <class Result, class F>
 void storeResult(int& outputCount, COSValue* outputs, F&& function)
 {
     if constexpr (std::is_void_v<Result>) {
         std::forward<F>(function)();
+    } else if constexpr (std::is_reference_v<Result> && passesForeignArray<Result>()) {
+        auto const& kept = std::forward<F>(function)();
+        storeResult<std::remove_cvref_t<Result>>(outputCount, outputs, [&] { return kept; });
+        if (hvArray* const array = PassedArray<std::remove_cvref_t<Result>>::of(kept))
+            array->add_reference();
     } else {
         using Native = MarshaledTypeOf<Result>;
         if constexpr (TravelsInSlot<Result>) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orbis/factory/detail/PassedArray.hpp"
+
 #include <cstddef>
 #include <functional>
 #include <tuple>
@@ -36,6 +38,18 @@ struct DefaultedCall {
         return [this, function](auto&&... given) -> decltype(auto) {
             return this->call(function, static_cast<decltype(given)>(given)...);
         };
+    }
+
+    /// True when one of the values carries this array.
+    bool givesArray(hvArray const* array) const
+    {
+        auto const carries = [=]<class D>([[maybe_unused]] D const& value) {
+            if constexpr (PassedArray<D>::any)
+                return PassedArray<D>::of(value) == array;
+            else
+                return false;
+        };
+        return std::apply([&](auto const&... value) { return (carries(value) || ...); }, record->values);
     }
 
 private:

@@ -19,15 +19,18 @@
 /// so functions of one type share their routine.
 namespace orbis::factory::detail {
 
-/// A function may return an array proxy that it was given: the host, whose that array stays, then gets a reference
-/// more.
-template <class Result>
-void shareGivenArray([[maybe_unused]] COSValue const& output, [[maybe_unused]] COSValue const* inputs,
-                     [[maybe_unused]] int inputCount)
+/// A function may return an array that it was given, as an input or as a default value: that one stays whose it was,
+/// and the host gets a reference more.
+template <class Result, class Target>
+void shareGivenArray([[maybe_unused]] COSValue const* outputs, [[maybe_unused]] COSValue const* inputs,
+                     [[maybe_unused]] int inputCount, [[maybe_unused]] Target const& target)
 {
-    if constexpr (isArrayProxy<Result>) {
-        hvArray* const array = output.array();
-        if (array && std::any_of(inputs, inputs + inputCount, [=](COSValue in) { return in.array() == array; }))
+    if constexpr (!std::is_reference_v<Result> && passesForeignArray<Result>()) {
+        hvArray* const array = outputs->array();
+        bool isGiven = std::any_of(inputs, inputs + inputCount, [=](COSValue in) { return in.array() == array; });
+        if constexpr (requires { target.givesArray(array); })
+            isGiven = isGiven || target.givesArray(array);
+        if (array && isGiven)
             array->add_reference();
     }
 }
@@ -48,7 +51,7 @@ struct FreeFunctionRoutine<Pointer, Result, TypeList<A...>> {
         }
         storeResult<Result>(outputCount, outputs,
                             [&]() -> Result { return arguments.apply(invoker->target.template as<Pointer>()); });
-        shareGivenArray<Result>(*outputs, inputs, inputCount);
+        shareGivenArray<Result>(outputs, inputs, inputCount, invoker->target.template as<Pointer>());
     }
 };
 
@@ -73,7 +76,7 @@ struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
                     return target(self, static_cast<decltype(values)>(values)...);
             });
         });
-        shareGivenArray<Result>(*outputs, inputs, inputCount);
+        shareGivenArray<Result>(outputs, inputs, inputCount, invoker->target.template as<Pointer>());
     }
 };
 

@@ -36,6 +36,26 @@ consteval bool canRead()
         return false;
 }
 
+/// Data, of an object or static, and not a function.
+template <class S>
+concept DataPointer =
+    std::is_member_object_pointer_v<S> || (std::is_pointer_v<S> && std::is_object_v<std::remove_pointer_t<S>>);
+
+/// What a setter takes is gone after the call, so that data takes only what owns its memory.
+template <class T, class S>
+consteval bool canKeep()
+{
+    if constexpr (DataPointer<S>) {
+        constexpr bool ownsMemory = !isView<typename SetterTraits<T, S>::Value>();
+        static_assert(ownsMemory, "This data would keep what is gone after the call that writes it: make it own its "
+                                  "memory (std::string, std::vector, hvArrayReferenceCountedProxy, an object by "
+                                  "value), or give a setter function that copies, or a getter function alone.");
+        return ownsMemory;
+    } else {
+        return true;
+    }
+}
+
 template <class T, class S>
 consteval bool canWrite()
 {
@@ -44,9 +64,12 @@ consteval bool canWrite()
                   "A setter is a data member that is not const or a member function that takes one value, of the "
                   "class or a public base, static data that is not const, or a free function or captureless "
                   "lambda that takes the value, after a pointer to the class where it needs the object.");
-    if constexpr (isSetter)
-        return canCross<typename SetterTraits<T, S>::Value>();
-    else
+    if constexpr (isSetter) {
+        if constexpr (canCross<typename SetterTraits<T, S>::Value>())
+            return canKeep<T, S>();
+        else
+            return false;
+    } else
         return false;
 }
 
@@ -80,9 +103,7 @@ consteval bool areOneType()
 
 /// True for data that is read and written through one pointer.
 template <class T, class D>
-inline constexpr bool isWritableData =
-    (std::is_member_object_pointer_v<D> || (std::is_pointer_v<D> && !std::is_function_v<std::remove_pointer_t<D>>)) &&
-    GetterTraits<T, D>::isGetter && SetterTraits<T, D>::isSetter;
+inline constexpr bool isWritableData = DataPointer<D> && GetterTraits<T, D>::isGetter && SetterTraits<T, D>::isSetter;
 
 /// Getters and setters of static properties take no object.
 template <class Traits>

@@ -5,6 +5,8 @@
 #include "orbis/factory/impl/Getter.hpp"
 #include "orbis/factory/impl/ReleaseRoutine.hpp"
 
+#include <type_traits>
+
 namespace orbis::factory::impl {
 
 /// What the getters have in common. `Derived` gives `read(object)`, the native value of the type `R`; `V` is the type
@@ -16,7 +18,8 @@ public:
 
     COSValue getValue(COSInterface* object) const override
     {
-        return detail::toValue<V>([&]() -> R { return derived().read(object); });
+        using Value = std::conditional_t<std::is_reference_v<R>, V const&, V>;
+        return detail::toValue<Value>([&]() -> R { return derived().read(object); });
     }
 
     char const* dataTypeName() const override { return detail::dataTypeText<V>(); }
