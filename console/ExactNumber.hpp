@@ -11,8 +11,8 @@
 
 namespace velmara::console {
 
-/// The number as a `T`, or nothing when it does not fit: whole numbers must be exact, also in floating types; only
-/// fractions are rounded, and not down to nothing. These are the host's rules for the inputs of calls.
+/// The number as a `T`, or nothing when it does not fit: integers, and whole numbers as `double`, must be exact; `float`
+/// rounds, and only what would become infinite does not fit. These are the host's rules for the inputs of calls.
 template <class T>
 std::optional<T> exactly(std::integral auto number)
 {
@@ -20,6 +20,8 @@ std::optional<T> exactly(std::integral auto number)
         return number == 0 || number == 1 ? std::optional(number != 0) : std::nullopt;
     } else if constexpr (std::integral<T>) {
         return std::in_range<T>(number) ? std::optional(static_cast<T>(number)) : std::nullopt;
+    } else if constexpr (std::same_as<T, float>) {
+        return static_cast<float>(number);
     } else {
         auto magnitude = static_cast<std::uint64_t>(number);
         if (std::cmp_less(number, 0))
@@ -42,12 +44,8 @@ std::optional<T> exactly(double number)
         bool const fits = number >= lowest && number < beyond && std::trunc(number) == number;
         return fits ? std::optional(static_cast<T>(number)) : std::nullopt;
     } else {
-        if (std::isfinite(number) && std::fabs(number) > std::numeric_limits<T>::max())
-            return std::nullopt;
         auto const rounded = static_cast<T>(number);
-        bool const isWhole = std::trunc(number) == number;
-        bool const fits = !std::isfinite(number) || (isWhole ? static_cast<double>(rounded) == number : rounded != 0);
-        return fits ? std::optional(rounded) : std::nullopt;
+        return std::isfinite(rounded) || !std::isfinite(number) ? std::optional(rounded) : std::nullopt;
     }
 }
 

@@ -127,6 +127,26 @@ TEST_F(DispatchTest, NoMatchSaysWhyForEachAndWhatWasGiven)
               "  f(a: double scalar, b: double scalar): takes 2 inputs");
 }
 
+TEST_F(DispatchTest, OfManyTheNearestAreListed)
+{
+    std::vector<std::vector<std::string>> overloads;
+    for (std::size_t size = 0; size != 20; ++size)
+        overloads.emplace_back(size, size % 2 == 1 ? "char vector" : "double scalar");
+    overloads.push_back({"double scalar", "char vector"});
+    publishOverloads(overloads);
+    ArrayPtr const one = array(1.0), yes = array(true);
+    EXPECT_EQ(caught(
+                  [&] {
+                      callF({one.get(), yes.get()});
+                  },
+                  &velmara::Error::text),
+              "No \"f\" takes (double 1-by-1, logical 1-by-1):\n"
+              "  f(a: double scalar, b: double scalar): b: needs a number, not logical\n"
+              "  f(a: double scalar, b: char vector): b: needs text, not logical\n"
+              "  f(a: char vector): takes 1 input\n"
+              "  ... and 18 more");
+}
+
 TEST_F(DispatchTest, NumbersAreNeverCut)
 {
     struct Row {
@@ -142,7 +162,7 @@ TEST_F(DispatchTest, NumbersAreNeverCut)
         {"uint32 scalar", {2 * two31 - 1}, {2 * two31}},
         {"int64 scalar", {-two63}, {two63}},
         {"uint64 scalar", {two63}, {2 * two63, huge}},
-        {"single scalar", {0.1, notANumber, -INFINITY}, {16777217, huge, 1e-300}},
+        {"single scalar", {0.1, notANumber, -INFINITY, 16777217, 1e11, 1e-300}, {huge, 3.5e38}},
         {"double scalar", {two53}, {}},
         {"logical scalar", {1}, {2, notANumber}},
     };
@@ -185,8 +205,10 @@ TEST_F(DispatchTest, WholeNumbersOfOtherClassesKeepTheirValue)
     EXPECT_EQ(call("double scalar", large), "");
     EXPECT_EQ(call("uint64 scalar", large), "");
     EXPECT_EQ(call("single scalar", large), "");
+    EXPECT_EQ(call("single scalar", odd), "") << "rounded, as a fraction is";
     EXPECT_EQ(call("int8 scalar", negative), "");
-    EXPECT_EQ(seen, (std::vector<double>{std::ldexp(1, 60), std::ldexp(1, 60), std::ldexp(1, 60), -5}));
+    EXPECT_EQ(seen,
+              (std::vector<double>{std::ldexp(1, 60), std::ldexp(1, 60), std::ldexp(1, 60), std::ldexp(1, 53), -5}));
     EXPECT_EQ(call("double scalar", odd), "VELMARA:dispatch:noMatch");
     EXPECT_EQ(call("uint64 scalar", negative), "VELMARA:dispatch:noMatch");
     EXPECT_EQ(call("int8 scalar", large), "VELMARA:dispatch:noMatch");
@@ -222,7 +244,8 @@ TEST_F(DispatchTest, ObjectsFitTheirClassAndItsSuperclassesTheNearestBest)
                    pair(orbis::omCreateORBISMatrix(1, 2, "A"));
     orbis::omSetArrayElement(pair.get(), 0, orbis::omGetArrayElement(c.get(), 0));
     EXPECT_EQ(callF({none.get()}), 1);
-    EXPECT_EQ(callF({pair.get()}), 1) << "the first object is meant";
+    EXPECT_EQ(errorOf([&] { callF({pair.get()}); }), "VELMARA:dispatch:noMatch");
+    expectMessage([&] { callF({pair.get()}); }, {"f(a: A): a: needs one object, not 1-by-2"});
     EXPECT_EQ(callF({pair.get(), yes.get()}), 2);
     EXPECT_EQ(errorOf([&] { callF({x.get(), yes.get()}); }), "VELMARA:dispatch:noMatch");
     hvm().deleteObjects(a.get());

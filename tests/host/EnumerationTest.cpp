@@ -219,20 +219,20 @@ TEST_F(EnumerationTest, EndsWithItsClass)
 TEST_F(EnumerationTest, WrongDescriptionsAreRefused)
 {
     struct Case {
-        char const* identifier;
+        char const* reason;
         std::function<void(COSClass*)> describe;
     };
     Case const cases[] = {
-        {"enumeration:empty", [](COSClass*) {}},
-        {"enumeration:name", [](COSClass* cls) { addEnumerator(cls, "", 1); }},
-        {"enumeration:name", [](COSClass* cls) { addEnumerator(cls, nullptr, 1); }},
-        {"enumeration:duplicate", [](COSClass* cls) { addColors(cls), addEnumerator(cls, "Blue", 9); }},
-        {"enumeration:superclass", [](COSClass* cls) { addColors(cls), described::setSuperclass(cls, "t.Other"); }},
-        {"class:duplicateMember",
+        {"described: Enumeration \"Bad\" has no enumerators", [](COSClass*) {}},
+        {"An enumerator of \"Bad\" needs a name", [](COSClass* cls) { addEnumerator(cls, "", 1); }},
+        {"An enumerator of \"Bad\" needs a name", [](COSClass* cls) { addEnumerator(cls, nullptr, 1); }},
+        {"has an enumerator \"Blue\" already", [](COSClass* cls) { addColors(cls), addEnumerator(cls, "Blue", 9); }},
+        {"cannot have superclasses", [](COSClass* cls) { addColors(cls), described::setSuperclass(cls, "t.Other"); }},
+        {"has a member \"Red\" already",
          [](COSClass* cls) { addColors(cls), cls->addMethod(described::answering("Red", {"x.Bad"}, 1)); }},
-        {"class:duplicateMember",
+        {"has a member \"Red\" already",
          [](COSClass* cls) { cls->addMethod(described::answering("Red", {"x.Bad"}, 1)), addColors(cls); }},
-        {"enumeration:tooMany",
+        {"cannot have more than 65535 values",
          [](COSClass* cls) {
              for (int i = 0; i <= 0xFFFF; ++i)
                  addEnumerator(cls, ("e" + std::to_string(i)).c_str(), i);
@@ -243,11 +243,11 @@ TEST_F(EnumerationTest, WrongDescriptionsAreRefused)
         velmara::Hvm::Scope const scope(machine);
         publish("t");
         COSClass::addGlobalClass(new Enumeration("Bad", c.describe));
-        expectMessage([&] { machine.describeClass("Bad"); }, {c.identifier});
+        expectMessage([&] { machine.describeClass("Bad"); }, {c.reason});
     }
     described::publish(new described::Class("Plain", addColors));
     described::publish(new described::Class("Shade", [](COSClass* cls) { described::setSuperclass(cls, "t.Color"); }));
-    for (auto const& [name, reason] : {std::pair("Plain", "notEnumeration"), std::pair("Shade", "class:sealed")})
+    for (auto const& [name, reason] : {std::pair("Plain", "is no enumeration"), std::pair("Shade", "which is sealed")})
         expectMessage([&, name = name] { hvm().describeClass(name); }, {reason});
     EXPECT_ANY_THROW(addEnumerator(COSClass::getClass("t.Color"), "Late", 5));
     EXPECT_ANY_THROW(addEnumerator(nullptr, "None", 5));

@@ -1,4 +1,5 @@
 #include "HvmTest.hpp"
+#include "host/TestDescriptors.hpp"
 
 #include "libkwfl/Exception.hpp"
 #include "libkwfl/bad_alloc.hpp"
@@ -52,6 +53,12 @@ TEST_F(ExceptionTest, TextsAreFilledWithTheArguments)
     }
     addText("{0} and {1}");
     EXPECT_EQ(textOf({"{1}", "two"}), "{1} and two");
+    std::string const withZero("a\0b", 3);
+    described::publish(new described::Class("Z", [&](orbis::COSClass* cls) {
+        cls->addMethod(new described::Method("f", "", {}, [&](auto&&) { throw TestedError(tested_key({withZero})); },
+                                             {.isStatic = true}));
+    }));
+    EXPECT_EQ(caught([&] { hvm().callStatic("Z", "f"); }, &velmara::Error::text), withZero + " and {1}");
     // A position and UTF-16 text, as errors about elements of containers have them.
     TestedError const made(
         tested_key({std::to_string(SIZE_MAX), IUserException::convert_str(u"k\xE4\xD83D\xDE00\xD800")}));

@@ -65,7 +65,7 @@ void Package::addSubPackage(orbis::COSPackageInfo* info)
     std::string const own = name ? name : "";
     std::string const full = std::string(fullName()) + "." + own;
     if (own.find('.') != std::string::npos)
-        throwHostError("VELMARA:package", "name", {own});
+        throwHostError("VELMARA:package", "name", {own, "the name of a package in another one holds no dot"});
     tree_.addPackage(std::move(owned), full);
 }
 

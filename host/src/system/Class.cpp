@@ -72,7 +72,7 @@ void Class::makeReady()
     } catch (...) {
         state_ = State::Untouched;
         dropContents(std::move(empty));
-        throwHostError("VELMARA:class", "initialization", {text(name_), describeCurrentException()});
+        throwHostError("VELMARA:class", "initialization", {text(name_), textOfCurrentException()});
     }
     state_ = State::Ready;
 }

@@ -3,6 +3,7 @@
 #include "system/Class.hpp"
 #include "system/ElementConversion.hpp"
 #include "system/HvmState.hpp"
+#include "system/Object.hpp"
 #include "system/PackageTree.hpp"
 #include "system/ScalarConversion.hpp"
 #include "system/TypeRepository.hpp"
@@ -69,6 +70,17 @@ void ConvertedInputs::makeRoom(std::size_t capacity)
     room_.reset(new Room(capacity));
     values_ = room_->values.data();
     owned_ = room_->owned.data();
+}
+
+Fit ConvertedInputs::addSelf(TypeReference const& type, hvArray_tag* self)
+{
+    Array const& array = *Array::of(self);
+    checkObjects(HvmState::required(), array.objects());
+    Fit const fit = type.kind == TypeKind::Named && !type.element ? firstObjectFit(type.name, array) : noFit;
+    if (fit == noFit)
+        return add(type, self);
+    addAsIs(self);
+    return fit;
 }
 
 Fit ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
@@ -215,6 +227,30 @@ std::string explainTextRefusal(Array const& array)
     return array.size() == 1 ? "needs text, not a missing string" : "needs one text, not several strings or none";
 }
 
+std::string sizeOf(Array const& array)
+{
+    return std::to_string(array.rows()) + "-by-" + std::to_string(array.columns());
+}
+
+/// The first element of cells or objects that is no `wanted`; empty where all are, or `input` holds neither.
+std::string explainElement(Name wanted, Array const& input)
+{
+    bool const areCells = input.classID() == hvCELL_CLASS;
+    for (std::size_t i = 0; (areCells || input.classID() == hvOBJECT_CLASS) && i < input.size(); ++i) {
+        std::string given;
+        if (areCells && !input.cells()[i])
+            given = "an empty cell";
+        else if (areCells && firstObjectFit(wanted, *input.cells()[i]) == noFit)
+            given = input.cells()[i]->className();
+        else if (Object const* const object = areCells ? nullptr : input.objects()[i])
+            given = classFit(object->className(), wanted) == noFit ? object->className()->view() : std::string_view();
+        if (!given.empty())
+            return "element " + std::to_string(i) + " (counted from 0): needs " + std::string(wanted->view()) +
+                   ", not " + given;
+    }
+    return {};
+}
+
 } // namespace
 
 std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
@@ -240,6 +276,11 @@ std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
     if (Class const* const enumeration = findEnumeration(type))
         return type.element ? explainEnumeratorsRefusal(*enumeration, array)
                             : explainEnumeratorRefusal(*enumeration, array);
+    if (!type.element && array.classID() == hvOBJECT_CLASS && array.size() > 1)
+        return "needs one object, not " + sizeOf(array);
+    std::string const element = type.element ? explainElement(type.element, array) : std::string();
+    if (!element.empty())
+        return element;
     return "needs " + wanted + ", not " + given;
 }
 

@@ -42,6 +42,9 @@ public:
         return fit;
     }
 
+    /// Adds the object that a method is called on: of several, its first one decides.
+    Fit addSelf(TypeReference const& type, hvArray_tag* self);
+
     /// Adds an array that is known to fit.
     void addAsIs(hvArray_tag* input) { values_[count_++] = orbis::COSValue(input); }
 

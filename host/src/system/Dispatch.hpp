@@ -25,7 +25,7 @@ template <class Visit>
     if (method.takesObject) {
         if (parameter->type.name == Array::of(call.self)->objectClass()) [[likely]]
             converted.addAsIs(call.self);
-        else if (converted.add(parameter->type, call.self) == noFit)
+        else if (converted.addSelf(parameter->type, call.self) == noFit)
             return false;
         ++parameter;
     }

@@ -30,7 +30,7 @@ void Package::populate()
         tree_.recording([this] { info_->initializePackage(this); });
     } catch (...) {
         state_ = State::Untouched;
-        throwHostError("VELMARA:package", "population", {std::string(fullName()), describeCurrentException()});
+        throwHostError("VELMARA:package", "population", {std::string(fullName()), textOfCurrentException()});
     }
     state_ = State::Populated;
 }

@@ -125,7 +125,9 @@ MethodGroup const* PackageTree::findFunctions(std::string_view fullName)
 void PackageTree::requireFree(std::string_view fullName) const
 {
     if (!isDottedName(fullName))
-        throwHostError("VELMARA:package", "name", {std::string(fullName)});
+        throwHostError(
+            "VELMARA:package", "name",
+            {std::string(fullName), fullName.empty() ? "the name is empty" : "a part between dots is empty"});
     auto const parts = splitLast(fullName);
     std::string_view const own = parts.second;
     Package* const package = findPublishedPackage(parts.first);

@@ -36,7 +36,7 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
     case TypeKind::Named:
         break;
     }
-    return (type.element ? objectVectorFit(type.element, given) : objectFit(type.name, given)) != noFit;
+    return (type.element ? objectVectorFit(type.element, given) : firstObjectFit(type.name, given)) != noFit;
 }
 
 [[noreturn]] void refuse(TypeReference const* type, std::string_view member)

@@ -114,7 +114,7 @@ std::string explainScalarRefusal(hvClassID target, Array const& input)
         return numberText(input) + " is no whole number";
     if (isIntegerTarget)
         return numberText(input) + " is not in the range " + rangeText(target);
-    if (target == hvSINGLE_CLASS && isReal && !isWhole(converted))
+    if (target == hvSINGLE_CLASS)
         return numberText(input) + " is not in the range of single";
     return numberText(input) + " cannot be represented exactly as " + targetName;
 }

@@ -13,8 +13,8 @@ namespace velmara {
 /// Reads a 1-by-1 array of one class as a native scalar of another. Values are never cut:
 /// - integers take numbers of any class that are whole and in range;
 /// - double takes every number that it can represent exactly;
-/// - single takes whole numbers that it can represent exactly, and rounds others to the nearest, unless they lie
-///   outside its range (larger than its largest, or not zero and rounded to zero); infinities and NaN pass;
+/// - single rounds every number to the nearest that it has, but those that would become infinite; infinities and NaN
+///   pass;
 /// - logical takes logicals, and the numbers 0 and 1. A logical is no number.
 /// `out` is written only when the array fits.
 using ScalarConverter = Fit (*)(Array const& input, orbis::COSValue& out);

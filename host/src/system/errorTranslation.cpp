@@ -5,6 +5,7 @@
 #include "velmara/Error.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
+#include "libkwi18n/libkwi18n.hpp"
 
 #include <exception>
 
@@ -19,7 +20,9 @@ Error currentError()
         return error;
     } catch (foundation::core::except::IMsgIDException const& error) {
         std::string const& identifier = error.getErrorID();
-        return {identifier.empty() ? "VELMARA:native:exception" : identifier, error.what()};
+        // Not `what()`, which ends at a zero in an argument.
+        return {identifier.empty() ? "VELMARA:native:exception" : identifier,
+                fl::i18n::to_string(error.GetUnicodeMessageTxt())};
     } catch (foundation::core::except::IException const& error) {
         return {"VELMARA:native:exception", messageText(native, "exception", {error.what()})};
     } catch (std::exception const& error) {
@@ -32,11 +35,6 @@ Error currentError()
 void rethrowAsError()
 {
     throw currentError();
-}
-
-std::string describeCurrentException()
-{
-    return currentError().what();
 }
 
 std::string textOfCurrentException()

@@ -13,10 +13,7 @@ Error currentError();
 /// Inside a handler: throws that error.
 [[noreturn]] void rethrowAsError();
 
-/// Inside a handler: what is being handled in one text, with its identifier.
-std::string describeCurrentException();
-
-/// Inside a handler: the text alone.
+/// Inside a handler: the text of what is being handled, without its identifier.
 std::string textOfCurrentException();
 
 /// Inside a handler: what the exception says of itself, for as long as it is handled. Needs no memory.

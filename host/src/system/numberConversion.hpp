@@ -9,14 +9,13 @@
 
 namespace velmara {
 
-/// True when the whole number has no more significant bits than the floating type holds.
-template <std::floating_point T>
-bool isExactIn(std::integral auto number)
+/// True when the whole number has no more significant bits than `double` holds.
+inline bool isExactDouble(std::integral auto number)
 {
     auto magnitude = static_cast<std::uint64_t>(number);
     if (number < 0)
         magnitude = 0 - magnitude;
-    return magnitude == 0 || std::bit_width(magnitude >> std::countr_zero(magnitude)) <= std::numeric_limits<T>::digits;
+    return magnitude == 0 || std::bit_width(magnitude >> std::countr_zero(magnitude)) <= std::numeric_limits<double>::digits;
 }
 
 inline bool isWhole(double number)
@@ -36,7 +35,7 @@ bool convertNumber(std::integral auto number, T& out)
         return std::in_range<T>(number);
     } else {
         out = static_cast<T>(number);
-        return isExactIn<T>(number);
+        return std::same_as<T, float> || isExactDouble(number);
     }
 }
 
@@ -47,14 +46,8 @@ bool convertNumber(double number, T& out)
         out = number;
         return true;
     } else if constexpr (std::same_as<T, float>) {
-        if (!std::isfinite(number)) {
-            out = static_cast<float>(number);
-            return true;
-        }
-        if (std::fabs(number) > std::numeric_limits<float>::max())
-            return false;
         out = static_cast<float>(number);
-        return isWhole(number) ? static_cast<double>(out) == number : out != 0;
+        return std::isfinite(out) || !std::isfinite(number);
     } else if constexpr (std::same_as<T, bool>) {
         out = number != 0;
         return number == 0 || number == 1;

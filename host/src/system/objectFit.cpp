@@ -18,14 +18,6 @@ Fit hierarchyFit(Class const* cls, Name ancestor)
     return distance < 0 ? noFit : fitOfDistance(distance);
 }
 
-Fit classFit(Name className, Name ancestor)
-{
-    if (className == ancestor)
-        return exactFit;
-    HvmState* const machine = HvmState::current();
-    return machine ? hierarchyFit(machine->packages().findPublishedClass(className), ancestor) : noFit;
-}
-
 bool isEnumeration(Name className)
 {
     HvmState* const machine = HvmState::current();
@@ -40,7 +32,15 @@ Fit emptyFit(Array const& input)
 
 } // namespace
 
-Fit objectFit(Name className, Array const& input)
+Fit classFit(Name className, Name ancestor)
+{
+    if (className == ancestor)
+        return exactFit;
+    HvmState* const machine = HvmState::current();
+    return machine ? hierarchyFit(machine->packages().findPublishedClass(className), ancestor) : noFit;
+}
+
+Fit firstObjectFit(Name className, Array const& input)
 {
     Object const* const first =
         input.classID() == hvOBJECT_CLASS && input.size() != 0 ? input.objects().front() : nullptr;
@@ -49,6 +49,11 @@ Fit objectFit(Name className, Array const& input)
     if (!first)
         return input.classID() == hvOBJECT_CLASS ? classFit(input.objectClass(), className) : emptyFit(input);
     return first->className() == className ? exactFit : hierarchyFit(first->classOf(), className);
+}
+
+Fit objectFit(Name className, Array const& input)
+{
+    return input.classID() == hvOBJECT_CLASS && input.size() > 1 ? noFit : firstObjectFit(className, input);
 }
 
 Fit objectVectorFit(Name element, Array const& input)

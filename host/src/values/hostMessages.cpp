@@ -71,7 +71,7 @@ constexpr HostMessage messages[] = {
     {"VELMARA:package", "busy", "Package \"{0}\" cannot be removed while it, or a class of it, is being described."},
     {"VELMARA:package", "closed", "Nothing can be added to package \"{0}\", which is being removed."},
     {"VELMARA:package", "duplicate", "\"{0}\" is published already."},
-    {"VELMARA:package", "name", "\"{0}\" is no name for this."},
+    {"VELMARA:package", "name", "Nothing can be published as \"{0}\": {1}."},
     {"VELMARA:package", "null", "A package is needed here, but there is none."},
     {"VELMARA:package", "population", "Package \"{0}\" could not be populated: {1}"},
     {"VELMARA:package", "unknown", "There is no package \"{0}\"."},
