@@ -2,6 +2,7 @@
 
 #include "ArrayElement.hpp"
 #include "HostArray.hpp"
+#include "Proxy.hpp"
 #include "ScriptError.hpp"
 #include "Session.hpp"
 #include "ValueToHost.hpp"
@@ -14,9 +15,9 @@ namespace velmara::console {
 
 namespace {
 
-[[noreturn]] void refuseIndex(lua_State* L, int index)
+[[noreturn]] void refuseIndex(std::string const& given)
 {
-    fail("index", "an array is indexed with a whole number or {row, column}, not with " + kindAt(L, index));
+    fail("index", "an array is indexed with a whole number or {row, column}, not with " + given);
 }
 
 /// The value at `index` from 1 on as one from 0 on; nothing when it is not in 1 to `size`.
@@ -25,7 +26,7 @@ std::optional<std::size_t> readIndex(lua_State* L, int index, std::size_t size)
     int isInteger = 0;
     lua_Integer const number = lua_type(L, index) == LUA_TNUMBER ? lua_tointegerx(L, index, &isInteger) : 0;
     if (!isInteger)
-        refuseIndex(L, index);
+        refuseIndex(lua_type(L, 2) == LUA_TTABLE ? "a table that holds " + valueText(L, index) : valueText(L, index));
     if (number < 1 || static_cast<lua_Unsigned>(number) > size)
         return std::nullopt;
     return static_cast<std::size_t>(number - 1);
@@ -36,8 +37,10 @@ std::optional<std::size_t> readPosition(lua_State* L, hvArray_tag const& array)
 {
     if (lua_type(L, 2) != LUA_TTABLE)
         return readIndex(L, 2, array.get_number_of_elements());
+    if (!proxyName(L, 2).empty())
+        refuseIndex(kindAt(L, 2));
     if (lua_rawlen(L, 2) != 2)
-        refuseIndex(L, 2);
+        refuseIndex("a table of length " + std::to_string(lua_rawlen(L, 2)));
     std::size_t const* const sizes = array.get_dimensions();
     lua_rawgeti(L, 2, 1);
     lua_rawgeti(L, 2, 2);

@@ -57,19 +57,6 @@ void replaceNil(lua_State* L)
     pushNull(L);
 }
 
-/// "300", "a table", ...: a value in an error text.
-std::string valueText(lua_State* L, int index)
-{
-    if (lua_type(L, index) != LUA_TNUMBER)
-        return kindAt(L, index);
-    if (std::isnan(lua_tonumber(L, index)))
-        return "NaN";        // its sign, and how systems write it, tell nothing
-    lua_pushvalue(L, index); // a number is turned into text where it stands
-    std::string text = lua_tostring(L, -1);
-    lua_pop(L, 1);
-    return text;
-}
-
 [[noreturn]] void refuse(lua_State* L, int value, hvArray_tag const& array, std::size_t index, char const* reason)
 {
     std::size_t const rows = array.get_dimensions()[0];
@@ -181,7 +168,7 @@ void storeObject(lua_State* L, int value, hvArray_tag* array, std::size_t index)
     if (isNull(L, value))
         return orbis::omSetArrayElement(array, index, nullptr);
     if (!isObject(L, value) || !hvIsA(checkObject(L, value), className(array).c_str()))
-        refuse(L, value, *array, index, "is no object of it (write null for none)");
+        refuse(L, value, *array, index, "is no object of this class (write null for none)");
     orbis::omSetArrayElement(array, index, orbis::omGetArrayElement(checkObject(L, value), 0));
 }
 

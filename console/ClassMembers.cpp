@@ -33,6 +33,22 @@ bool startsWithObject(lua_State* L, Hvm& hvm)
     return hvIsA(checkObject(L, 1), lua_tostring(L, lua_upvalueindex(classUpvalue)));
 }
 
+ArrayPtr callStatic(lua_State* L, HostCall& call)
+{
+    std::string const cls(textAt(L, lua_upvalueindex(classUpvalue)));
+    std::string const name(textAt(L, lua_upvalueindex(memberUpvalue)));
+    try {
+        return call.hvm().callStatic(cls, name, call.inputs(1));
+    } catch (Error const& error) {
+        bool const hasColon =
+            isObject(L, 1) && objectClass(L, 1) == cls && error.identifier() == "VELMARA:dispatch:noMatch";
+        if (!hasColon)
+            throw;
+        throw Error(error.identifier(),
+                    error.text() + "\n  \"" + name + "\" is static: write " + cls + '.' + name + "(...), with a dot");
+    }
+}
+
 int callMember(lua_State* L)
 {
     std::string_view const name = textAt(L, lua_upvalueindex(memberUpvalue));
@@ -45,7 +61,7 @@ int callMember(lua_State* L)
         fail("noObject", std::string(name) + " needs an object of " +
                              std::string(textAt(L, lua_upvalueindex(classUpvalue))) +
                              " first: write object:" + std::string(name) + "(...)");
-    return call.finish(call.hvm().callStatic(textAt(L, lua_upvalueindex(classUpvalue)), name, call.inputs(1)));
+    return call.finish(callStatic(L, call));
 }
 
 int callPackageFunction(lua_State* L)

@@ -88,8 +88,8 @@ void ElementSource::takeRows(std::size_t count)
         std::size_t const columns = elementsOf(L_, lua_gettop(L_)).count;
         lua_pop(L_, 1);
         if (row != 0 && columns != shape_.columns)
-            fail("table", "row " + std::to_string(row + 1) + " has " + std::to_string(columns) +
-                              " elements, the rows before it " + std::to_string(shape_.columns));
+            fail("table", "all rows have one length: that of row " + std::to_string(row + 1) + " is " +
+                              std::to_string(columns) + ", that of those before it " + std::to_string(shape_.columns));
         shape_ = {count, columns};
     }
 }
@@ -107,8 +107,9 @@ bool ElementSource::takeTexts(std::size_t count, ArrayStack::Frame& frame)
         if (!characters)
             characters = frame.push(ArrayPtr(orbis::additions::createMatrix(count, text->size(), hvCHAR_CLASS)));
         if (text->size() != characters->get_dimensions()[1])
-            fail("table", "row " + std::to_string(row + 1) + " has " + std::to_string(text->size()) +
-                              " characters, the rows before it " + std::to_string(characters->get_dimensions()[1]));
+            fail("table", "all rows have one length: that of row " + std::to_string(row + 1) + " is " +
+                              std::to_string(text->size()) + ", that of those before it " +
+                              std::to_string(characters->get_dimensions()[1]));
         auto* const data = static_cast<char16_t*>(orbis::additions::getWritableData(characters));
         for (std::size_t column = 0; column < text->size(); ++column)
             data[column * count + row] = (*text)[column];

@@ -13,9 +13,9 @@ namespace velmara::console {
 
 namespace {
 
-[[noreturn]] void failElement(lua_State* L, int index)
+[[noreturn]] void failElement(std::string const& given)
 {
-    fail("enumeration", "an enumerator is a name or {name, integer}, not " + kindAt(L, index));
+    fail("enumeration", "an enumerator is a name or {name, integer}, not " + given);
 }
 
 /// The enumerator that is described on top of the stack.
@@ -24,11 +24,11 @@ EnumeratorRecord enumerator(lua_State* L, lua_Integer next)
     if (lua_type(L, -1) == LUA_TSTRING)
         return {std::string(textAt(L, -1)), next};
     if (!lua_istable(L, -1))
-        failElement(L, -1);
+        failElement(valueText(L, -1));
     lua_rawgeti(L, -1, 1);
     lua_rawgeti(L, -2, 2);
     if (lua_type(L, -2) != LUA_TSTRING || !lua_isinteger(L, -1))
-        failElement(L, -3);
+        failElement("{" + valueText(L, -2) + ", " + valueText(L, -1) + "}");
     EnumeratorRecord made{std::string(textAt(L, -2)), lua_tointeger(L, -1)};
     lua_pop(L, 2);
     return made;

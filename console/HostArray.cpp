@@ -49,6 +49,8 @@ void pushArrayMetatable(lua_State* L)
     luaL_setfuncs(L, functions, 0);
     lua_pushliteral(L, "array");
     lua_setfield(L, -2, "__metatable");
+    lua_pushliteral(L, "host array"); // in Lua's own errors
+    lua_setfield(L, -2, "__name");
 }
 
 /// Lua sees a few bytes of an array, and would collect those out of use far too late.

@@ -28,6 +28,8 @@ void makeNothing(lua_State* L, Names const& made)
     lua_pushstring(L, made.text);
     lua_pushvalue(L, -1);
     lua_setfield(L, -3, "__metatable");
+    lua_pushvalue(L, -1);
+    lua_setfield(L, -3, "__name");
     lua_pushcclosure(L, toText, 1);
     lua_setfield(L, -2, "__tostring");
     lua_setmetatable(L, -2);

@@ -62,7 +62,7 @@ int compare(lua_State* L)
 std::string_view memberName(lua_State* L, int index)
 {
     if (lua_type(L, index) != LUA_TSTRING)
-        fail("unknownMember", "a member's name is a string, not " + kindAt(L, index));
+        fail("unknownMember", "a member's name is a string, not " + valueText(L, index));
     return textAt(L, index);
 }
 

@@ -48,7 +48,7 @@ NameKind checkKind(lua_State* L)
 std::string checkKey(lua_State* L)
 {
     if (lua_type(L, 2) != LUA_TSTRING)
-        fail("unknownName", std::string(proxyName(L, 1)) + " is indexed with " + kindAt(L, 2) + ", not with a name");
+        fail("unknownName", std::string(proxyName(L, 1)) + " is indexed with a name, not with " + valueText(L, 2));
     return std::string(textAt(L, 2));
 }
 
@@ -150,6 +150,8 @@ void pushPackageMetatable(lua_State* L)
     luaL_setfuncs(L, functions, 0);
     lua_pushliteral(L, "package");
     lua_setfield(L, -2, "__metatable");
+    lua_pushliteral(L, "host name"); // in Lua's own errors
+    lua_setfield(L, -2, "__name");
 }
 
 void bindGlobals(lua_State* L)

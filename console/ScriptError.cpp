@@ -5,6 +5,7 @@
 #include "velmara/Error.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
+#include "libkwi18n/libkwi18n.hpp"
 
 #include <exception>
 #include <new>
@@ -73,7 +74,7 @@ int callGuarded(lua_State* L, lua_CFunction body)
     } catch (Error const& error) {
         pushError(L, error.identifier(), error.text());
     } catch (foundation::core::except::IMsgIDException const& error) {
-        pushError(L, error.getErrorID(), error.what());
+        pushError(L, error.getErrorID(), fl::i18n::to_string(error.GetUnicodeMessageTxt()));
     } catch (std::bad_alloc const&) {
         pushError(L, "VELMARA:console:memory", "not enough memory");
     } catch (std::exception const& error) {

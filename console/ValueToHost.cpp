@@ -13,6 +13,8 @@
 #include "libhv/libhv.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 
+#include <cmath>
+
 namespace velmara::console {
 
 namespace {
@@ -81,6 +83,18 @@ std::string kindAt(lua_State* L, int index)
         break;
     }
     return std::string("a ") + luaL_typename(L, index);
+}
+
+std::string valueText(lua_State* L, int index)
+{
+    if (lua_type(L, index) != LUA_TNUMBER)
+        return kindAt(L, index);
+    if (std::isnan(lua_tonumber(L, index)))
+        return "NaN";        // its sign, and how systems write it, tell nothing
+    lua_pushvalue(L, index); // a number is turned into text where it stands
+    std::string text = lua_tostring(L, -1);
+    lua_pop(L, 1);
+    return text;
 }
 
 ArrayPtr toHost(lua_State* L, int index, Conversion& conversion)

@@ -30,6 +30,9 @@ inline ArrayPtr toHost(lua_State* L, int index)
 /// "a table", "a function", ...: what stands at `index`, for error texts.
 std::string kindAt(lua_State* L, int index);
 
+/// The same, but a number is written out: "300".
+std::string valueText(lua_State* L, int index);
+
 /// True for the integers that every double between zero and them is exact for.
 constexpr bool isExactDouble(lua_Integer value)
 {

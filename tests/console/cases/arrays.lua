@@ -12,7 +12,7 @@ end
 show("double")
 show("double", {}, 0, 3)
 show("double", {{1, 2.5}, {-0.0, 1 / 0}, {0 / 0, -1 / 0}})
-show("single", {0.1, 2.0 ^ 100})
+show("single", {0.1, 2.0 ^ 100, 123456789, 1e11, 1e-60})
 show("int32", {1, 2, 3, 4, 5, 6}, 3, 2)
 show("uint64", {"18446744073709551615", 2.0 ^ 63, array("uint64", "9223372036854775808"), 5})
 show("int64", math.mininteger)
@@ -82,7 +82,7 @@ print(isvalid(probes), isvalid(probes[1]))
 
 for class, values in pairs({int8 = {-129, 128}, uint8 = {-1, 256, 0.5, 0 / 0, "1"}, uint64 = {-1, "", "1x", 2.0 ^ 64, "18446744073709551616"},
                             int64 = {2.0 ^ 63, "1"}, double = {(1 << 53) + 1, "1", p, missing},
-                            single = {16777217, 1e30, 1e39, 1e-60}, logical = {2, "true", null},
+                            single = {1e39, -3.5e38}, logical = {2, "true", null},
                             char = {65536, -1, 0.5, null}, string = {1, null, false}, ["cases.Probe"] = {1, missing}}) do
   for _, value in ipairs(values) do
     local ok, err = pcall(array, class, {value})
@@ -99,8 +99,11 @@ end
 local function put(key, value) a[key] = value end
 local function at(key) return a[key] end
 for _, entry in ipairs {{7, 1}, {{3, 1}, 1}, {1, 128}, {1, 0 / 0}, {"x", 1}} do refused(put, table.unpack(entry)) end
-for _, key in ipairs {"x", {1}, 1.5} do refused(at, key) end
+for _, key in ipairs {"x", {1}, 1.5, {1, 0.5}, cases} do refused(at, key) end
 refused(function() s[1] = 5 end)
+refused(function() return a + 1 end)
+refused(function() return missing < null end)
+refused(function() return cases .. 1 end)
 refused(asarray, print)
 refused(asarray, p, "nothing")
 refused(asarray, cases.echo)

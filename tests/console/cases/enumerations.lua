@@ -30,7 +30,7 @@ for _, call in ipairs {{cases.hues, {"Red", "Purple"}}, {cases.hues, {red, null}
 end
 print(isvalid(red))
 for _, inputs in ipairs {{"palette.Color", {"A"}}, {"palette.Empty", {}}, {"palette.Twice", {"A", "A"}},
-  {"palette.Wrong", {"A", {"B"}}}, {"palette.Wrong", {1}}, {"palette.Wrong", {{"A", math.maxinteger}, "B"}},
+  {"palette.Wrong", {"A", {"B"}}}, {"palette.Wrong", {{"A", 1.5}}}, {"palette.Wrong", {1}}, {"palette.Wrong", {{"A", math.maxinteger}, "B"}},
   {"palette..Wrong", {"A"}}, {"palette.Wrong", {""}}, {5}} do
   refused(enumeration, table.unpack(inputs))
 end
