@@ -1,45 +1,54 @@
 #include "orbis/factory/errorIdentities.hpp"
 
+#include "marshal/messages.hpp"
+
 namespace orbis_factory::orbis_factory {
 
 namespace {
-constexpr char const* catalog = "orbis_factory:orbis_factory";
+
+/// Brings the catalog's texts to the virtual machine in which an error is to be made.
+char const* catalog()
+{
+    orbis::factory::addMessages();
+    return "orbis_factory:orbis_factory";
+}
+
 } // namespace
 
-must_be_cell_array::must_be_cell_array() : BaseMsgID(catalog, "must_be_cell_array") {}
+must_be_cell_array::must_be_cell_array() : BaseMsgID(catalog(), "must_be_cell_array") {}
 
 must_be_cell_array::~must_be_cell_array() = default;
 
-must_be_string::must_be_string(std::size_t index) : BaseMsgID(catalog, "must_be_string", {std::to_string(index)}) {}
+must_be_string::must_be_string(std::size_t index) : BaseMsgID(catalog(), "must_be_string", {std::to_string(index)}) {}
 
 must_be_string::~must_be_string() = default;
 
 member_not_published::member_not_published(std::string const& member, std::string const& reason)
-    : BaseMsgID(catalog, "member_not_published", {member, reason})
+    : BaseMsgID(catalog(), "member_not_published", {member, reason})
 {
 }
 
 member_not_published::~member_not_published() = default;
 
-no_duplicates::no_duplicates(std::string const& text) : BaseMsgID(catalog, "no_duplicates", {text}) {}
+no_duplicates::no_duplicates(std::string const& text) : BaseMsgID(catalog(), "no_duplicates", {text}) {}
 
 no_duplicates::~no_duplicates() = default;
 
-null_self::null_self() : BaseMsgID(catalog, "null_self") {}
+null_self::null_self() : BaseMsgID(catalog(), "null_self") {}
 
 null_self::~null_self() = default;
 
-null_fcn_ptr::null_fcn_ptr() : BaseMsgID(catalog, "null_fcn_ptr") {}
+null_fcn_ptr::null_fcn_ptr() : BaseMsgID(catalog(), "null_fcn_ptr") {}
 
 null_fcn_ptr::~null_fcn_ptr() = default;
 
-no_such_class::no_such_class(char const* className) : BaseMsgID(catalog, "no_such_class", {className}) {}
+no_such_class::no_such_class(char const* className) : BaseMsgID(catalog(), "no_such_class", {className}) {}
 
 no_such_class::~no_such_class() = default;
 
 no_such_enumerator::no_such_enumerator(std::string const& className, std::string const& enumerator,
                                        std::string const& known)
-    : BaseMsgID(catalog, "no_such_enumerator", {className, enumerator, known})
+    : BaseMsgID(catalog(), "no_such_enumerator", {className, enumerator, known})
 {
 }
 

@@ -1,5 +1,6 @@
 #include "orbis/factory/export.hpp"
 
+#include "marshal/messages.hpp"
 #include "module/PerHVMInitialization.hpp"
 #include "module/functionTable.hpp"
 #include "module/rootPackage.hpp"
@@ -17,6 +18,7 @@ ORBIS_FACTORY_API void VXInitialize_orbis_factory()
     if (!PerHVMInitialization<RootPackage>::set())
         return;
     try {
+        addMessages();
         orbis::COSPackage::addPackage(makeRootPackage().release());
     } catch (...) {
         PerHVMInitialization<RootPackage>::clear();

@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "library/libraryFile.hpp"
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/EnumerationClassInfo.hpp"
@@ -90,7 +89,6 @@ class EnumerationTest : public HvmTest {
 protected:
     EnumerationTest()
     {
-        hvm().loadModule(libraryFile); // brings the texts
         registerOrbisPackage("tests", [](COSPackage* package) {
             package->addClass(new EnumerationClassInfo<Color>("What a lamp shines in"));
             package->addClass(new Described<Lamp>(&describeLamp));

@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "library/libraryFile.hpp"
 #include "library/texts.hpp"
 
 #include "orbis/factory/argumentErrors.hpp"
@@ -78,7 +77,6 @@ TEST_F(StringContainerTest, TextsCrossBothWaysInTheContainersOrder)
 
 TEST_F(StringContainerTest, EveryMistakeHasItsErrorInTheScript)
 {
-    hvm().loadModule(libraryFile); // brings the texts
     ArrayPtr const a = characters(u"a"), omega = characters(u"\u03A9"), one = number(1), string = strings({u"b"});
     struct Case {
         char const* function;

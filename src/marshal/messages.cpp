@@ -1,6 +1,13 @@
+#include "marshal/messages.hpp"
+
 #include "orbis/factory/export.hpp"
 
 #include "additions/additions.hpp"
+#include "libkwfoundation_usm/Detail.hpp"
+
+#include <cstdint>
+#include <iterator>
+#include <typeinfo>
 
 namespace {
 
@@ -21,10 +28,30 @@ constexpr orbis::additions::Message texts[] = {
     {nullptr, nullptr},
 };
 
-constexpr orbis::additions::MessageList catalogs[] = {{"orbis_factory:orbis_factory", texts}, {nullptr, nullptr}};
+constexpr char const* catalog = "orbis_factory:orbis_factory";
+
+constexpr orbis::additions::MessageList catalogs[] = {{catalog, texts}, {nullptr, nullptr}};
+
+/// Stands in the storage of a virtual machine that has the texts.
+struct Added {};
 
 } // namespace
 
 extern "C" {
 ORBIS_FACTORY_API orbis::additions::MessageList const* orbis_factory_messages = catalogs;
 }
+
+namespace orbis::factory {
+
+void addMessages()
+{
+    using Storage = foundation::usm::Detail<foundation::usm::scope::Hvm>;
+    static std::uint64_t const id = Storage::getNextID(typeid(Added));
+    if (!Storage::isRequiredContextActive() || Storage::find(id, typeid(Added)))
+        return;
+    additions::addMessages(catalog, {std::begin(texts), std::end(texts) - 1});
+    Storage::insert(id, typeid(Added),
+                    Storage::Holder(new Added, [](void* object) { delete static_cast<Added*>(object); }));
+}
+
+} // namespace orbis::factory
