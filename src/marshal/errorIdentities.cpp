@@ -38,6 +38,13 @@ null_self::null_self() : BaseMsgID(catalog(), "null_self") {}
 
 null_self::~null_self() = default;
 
+null_input::null_input(std::string const& what, char const* className)
+    : BaseMsgID(catalog(), "null_input", {what, className})
+{
+}
+
+null_input::~null_input() = default;
+
 null_fcn_ptr::null_fcn_ptr() : BaseMsgID(catalog(), "null_fcn_ptr") {}
 
 null_fcn_ptr::~null_fcn_ptr() = default;

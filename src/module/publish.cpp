@@ -5,8 +5,8 @@
 #include "orbis/factory/impl/MethodImpl.hpp"
 #include "orbis/factory/impl/OrbisConstructor.hpp"
 
-#include "module/KeepingDescriptor.hpp"
 #include "module/PublishedClasses.hpp"
+#include "module/makeDescriptor.hpp"
 #include "module/notPublished.hpp"
 
 #include "additions/additions.hpp"
@@ -75,7 +75,7 @@ template <class Descriptor>
 void add(COSClass* cls, char const* name, MemberRecord const& record, char const* hostName)
 {
     publishing(hostName, name, [&] {
-        auto descriptor = makeDescriptor<Descriptor>(record.kept, name, attributesOf(record), "");
+        auto descriptor = makeDescriptor<Descriptor>(record, name, attributesOf(record), "");
         bind(*descriptor, record, hostName);
         cls->addMethod(descriptor.release());
     });
@@ -122,7 +122,7 @@ void publish(COSPackage* package, FunctionDescription const& description)
     detail::initStringDataTypes();
     for (MemberRecord const& record : description.functions()) {
         publishing(nullptr, record.name, [&] {
-            auto function = makeDescriptor<FunctionInfo>(record.kept, record.name, attributesOf(record));
+            auto function = makeDescriptor<FunctionInfo>(record, record.name, attributesOf(record));
             bind(function->method(), record, nullptr);
             package->addFunction(function.release());
         });

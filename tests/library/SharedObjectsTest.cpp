@@ -159,7 +159,7 @@ TYPED_TEST(SharedObjectsTest, RowsHaveTheMostSpecificCommonClass)
     omSetArrayElement(hidden.get(), 0, COSClass::getClass(TypeParam::name)->newInstance()); // no native object
     for (char const* const method : {"hold", "know"}) {
         EXPECT_EQ(this->errorOf([&] { this->call(method, foreign); }), "VELMARA:dispatch:noMatch");
-        EXPECT_EQ(this->errorOf([&] { this->call(method, hidden); }), "orbis_factory:orbis_factory:null_self");
+        EXPECT_EQ(this->errorOf([&] { this->call(method, hidden); }), "orbis_factory:orbis_factory:null_input");
     }
 }
 

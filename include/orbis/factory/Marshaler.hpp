@@ -12,7 +12,9 @@ namespace orbis::factory {
 ///  - `dataTypeText<T>()` is the name of the host data type that signatures record, a text that lives on;
 ///  - `dataTypeName<T>()` is the same as a `COSNameID`; only policies of objects need it;
 ///  - `isView<T>()`, `consteval`, is true when native values refer to memory that is not theirs, which for an argument
-///    is gone after the call; false when it is left out. Views are no writable data members and no default values.
+///    is gone after the call; false when it is left out. Views are no writable data members and no default values;
+///  - `refusesNull<T>()`, `consteval`, is true when `fromHost` throws with `detail::refuseNullInput`; false when it is
+///    left out.
 ///
 /// To carry a type of your own, specialise this for a policy of your own, and `MarshalingPolicy` for the type.
 template <class Policy>

@@ -113,6 +113,16 @@ consteval bool isView()
         return false;
 }
 
+/// True for a type whose values cannot be no object, as its policy says.
+template <HasPolicy T>
+consteval bool refusesNull()
+{
+    if constexpr (requires { MarshalerOf<T>::template refusesNull<MarshaledTypeOf<T>>(); })
+        return MarshalerOf<T>::template refusesNull<MarshaledTypeOf<T>>();
+    else
+        return false;
+}
+
 /// The text of the data type that a signature records for a native type.
 template <class T>
 char const* dataTypeText()

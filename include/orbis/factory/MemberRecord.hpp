@@ -26,6 +26,7 @@ struct MemberRecord {
     std::vector<char const*> inputTypes; ///< without the object of a member function
     impl::Invoker::InvokeFn invokeFn;
     impl::Callable target;
+    bool refusesNull = false;              ///< for an input that is needed as an object
     std::shared_ptr<void const> kept = {}; ///< what `target` points to, when that is no function
 };
 

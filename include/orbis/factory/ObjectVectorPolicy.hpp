@@ -4,7 +4,7 @@
 #include "orbis/factory/MarshalingPolicy.hpp"
 #include "orbis/factory/detail/NewArray.hpp"
 #include "orbis/factory/detail/ReferredObjects.hpp"
-#include "orbis/factory/impl/validateSelfPointer.hpp"
+#include "orbis/factory/detail/refuseNullInput.hpp"
 
 #include "orbis/objectArrays.hpp"
 
@@ -20,7 +20,7 @@ namespace orbis::factory {
 ///
 /// To the host it is one row, typed as the class, or as the most specific class that all elements have in common where
 /// the class has published subclasses. From the host it is all elements of an array of any size, in column order; an
-/// object without a native object of the class is refused with the `null_self` error.
+/// object without a native object of the class is refused with the `null_input` error.
 class ObjectVectorPolicy {};
 
 template <>
@@ -60,7 +60,7 @@ public:
         values.reserve(count);
         for (std::size_t i = 0; i < count; ++i) {
             COSInterfacePtr const object = omGetArrayElement(in, i);
-            values.push_back(fromObject<Element<Vector>>(object));
+            values.push_back(fromObject<Element<Vector>>(object, in));
         }
         return values;
     }
@@ -76,6 +76,12 @@ public:
     {
         static std::string const text = std::string(HostClass<Class<Vector>>::name) + " vector";
         return text.c_str();
+    }
+
+    template <class Vector>
+    static consteval bool refusesNull()
+    {
+        return true;
     }
 
     template <class Vector>
@@ -96,11 +102,12 @@ private:
     }
 
     template <class Pointer>
-    static auto fromObject(COSInterface const* object)
+    static auto fromObject(COSInterface const* object, hvArray_tag const* in)
     {
         auto element = detail::MarshalerOf<Pointer>::template fromObject<detail::MarshaledTypeOf<Pointer>>(object);
         if (object && !element)
-            impl::validateSelfPointer(nullptr);
+            detail::refuseNullInput(
+                in, HostClass<std::remove_const_t<typename std::pointer_traits<Pointer>::element_type>>::name);
         return element;
     }
 };

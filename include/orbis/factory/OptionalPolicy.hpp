@@ -73,6 +73,12 @@ public:
     }
 
     template <class Optional>
+    static consteval bool refusesNull()
+    {
+        return detail::refusesNull<typename Optional::value_type>();
+    }
+
+    template <class Optional>
     static consteval bool isView()
     {
         return detail::isView<typename Optional::value_type>();

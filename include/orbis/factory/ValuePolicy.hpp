@@ -3,6 +3,7 @@
 #include "orbis/factory/Marshaler.hpp"
 #include "orbis/factory/MarshalingPolicy.hpp"
 #include "orbis/factory/detail/ObjectPointerMarshaler.hpp"
+#include "orbis/factory/detail/refuseNullInput.hpp"
 #include "orbis/factory/impl/validateSelfPointer.hpp"
 
 #include <type_traits>
@@ -61,7 +62,7 @@ public:
     }
 };
 
-/// The same for the values themselves and references to them. Where the host gives no object, the `null_self` error is
+/// The same for the values themselves and references to them. Where the host gives no object, the `null_input` error is
 /// thrown.
 class ValueObjectPolicy {};
 
@@ -81,8 +82,14 @@ public:
     {
         T const* const value = Pointers::fromHost<T>(in);
         if (!value)
-            impl::validateSelfPointer(value);
+            detail::refuseNullInput(in, HostClass<T>::name);
         return *value;
+    }
+
+    template <ValueClass T>
+    static consteval bool refusesNull()
+    {
+        return true;
     }
 
     template <ValueClass T>

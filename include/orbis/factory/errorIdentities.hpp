@@ -46,6 +46,14 @@ public:
     ~null_self() override;
 };
 
+/// An input, or a value to be written, is needed as an object and holds none, or one without a native object.
+/// Arguments: what it is, as the beginning of a sentence; the class's name.
+class ORBIS_FACTORY_API null_input : public resource_core::BaseMsgID {
+public:
+    null_input(std::string const& what, char const* className);
+    ~null_input() override;
+};
+
 /// A property was used through a getter or setter that it does not have.
 class ORBIS_FACTORY_API null_fcn_ptr : public resource_core::BaseMsgID {
 public:

@@ -26,6 +26,12 @@ std::vector<char const*> inputTypes(TypeList<A...>)
     return {dataTypeText<A>()...};
 }
 
+template <class... A>
+consteval bool refusesNullAmong(TypeList<A...>)
+{
+    return (refusesNull<A>() || ...);
+}
+
 template <class Pointer, class Result, class Parameters>
 MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, MethodAttributes attributes)
 {
@@ -36,7 +42,8 @@ MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* 
             .outputType = dataTypeText<Result>(),
             .inputTypes = inputTypes(Parameters{}),
             .invokeFn = &FreeFunctionRoutine<Pointer, Result, Parameters>::invoke,
-            .target = function};
+            .target = function,
+            .refusesNull = refusesNullAmong(Parameters{})};
 }
 
 template <class T, class Pointer, class Result, class Parameters>
@@ -49,7 +56,8 @@ MemberRecord memberFunctionRecord(char const* name, Pointer function, char const
             .outputType = dataTypeText<Result>(),
             .inputTypes = inputTypes(Parameters{}),
             .invokeFn = &MemberFunctionRoutine<T, Pointer, Result, Parameters>::invoke,
-            .target = function};
+            .target = function,
+            .refusesNull = refusesNullAmong(Parameters{})};
 }
 
 template <class T, class... A>
@@ -62,7 +70,8 @@ MemberRecord constructorRecord(char const* names, MethodAttributes attributes)
             .outputType = HostClass<T>::name,
             .inputTypes = inputTypes(TypeList<A...>{}),
             .invokeFn = &ConstructorRoutine<T, TypeList<A...>>::invoke,
-            .target = {}};
+            .target = {},
+            .refusesNull = refusesNullAmong(TypeList<A...>{})};
 }
 
 } // namespace orbis::factory::detail

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "orbis/factory/errorIdentities.hpp"
+
+#include "libhv/hvArray.hpp"
+#include "libkwfl/Exception.hpp"
+
+#include <string>
+
+namespace orbis::factory {
+
+/// The error of an input without the native object that it needs. It is thrown where nobody knows what the input is
+/// called; who does throws it anew.
+class NullInput final
+    : public foundation::core::except::Exception<orbis_factory::orbis_factory::null_input, std::exception, void> {
+public:
+    NullInput(std::string const& name, hvArray_tag const* input, char const* className)
+        : Exception(orbis_factory::orbis_factory::null_input(name, className)),
+          input_(input),
+          className_(className)
+    {
+    }
+
+    hvArray_tag const* input() const { return input_; }
+    char const* className() const { return className_; }
+
+private:
+    hvArray_tag const* input_;
+    char const* className_; ///< lives as long as the program
+};
+
+} // namespace orbis::factory
