@@ -27,7 +27,7 @@ public:
         {
             if (conversion.depth_ >= deepest)
                 fail("nesting", std::string(what) + " nested deeper than " + std::to_string(deepest) +
-                                    " levels, or in itself, cannot be converted");
+                                    " levels, or in themselves, cannot be converted");
             if (++conversion.met_ > most)
                 fail("memory", "more than a million " + std::string(what) + " in one value cannot be converted");
             ++conversion.depth_;

@@ -28,13 +28,7 @@ void note(lua_State* L, int index, Elements& elements)
 /// The key at `index`, for an error text.
 std::string keyText(lua_State* L, int index)
 {
-    if (lua_type(L, index) != LUA_TSTRING && lua_type(L, index) != LUA_TNUMBER)
-        return kindAt(L, index);
-    lua_pushvalue(L, index); // a number is turned into text where it stands
-    lua_tolstring(L, -1, nullptr);
-    std::string text = '\'' + std::string(textAt(L, -1)) + '\'';
-    lua_pop(L, 1);
-    return text;
+    return lua_type(L, index) == LUA_TSTRING ? '\'' + std::string(textAt(L, index)) + '\'' : valueText(L, index);
 }
 
 } // namespace

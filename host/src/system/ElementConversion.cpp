@@ -34,6 +34,19 @@ ArrayPtr elementOf(Array const& input, std::size_t index)
     return ArrayPtr(element);
 }
 
+/// The first cell that does not hold what is wanted; empty where all do.
+std::string explainCell(hvClassID target, Array const& input)
+{
+    for (std::size_t i = 0; i < input.size(); ++i) {
+        Array const* const cell = input.cells()[i];
+        orbis::COSValue converted;
+        if (!cell || scalarConverters(target)[cell->classID()](*cell, converted) == noFit)
+            return "; element " + std::to_string(i) +
+                   " (counted from 0): " + (cell ? explainScalarRefusal(target, *cell) : "is an empty cell");
+    }
+    return {};
+}
+
 } // namespace
 
 ArrayPtr convertElements(hvClassID target, Array const& input)
@@ -54,7 +67,8 @@ std::string explainElementsRefusal(hvClassID target, Array const& input)
 {
     if (!isNumeric(input.classID()))
         return std::string(target == hvLOGICAL_CLASS ? "needs logicals" : "needs numbers") + ", not " +
-               std::string(input.className());
+               std::string(input.className()) +
+               (input.classID() == hvCELL_CLASS ? explainCell(target, input) : std::string());
     ScalarConverter const convert = scalarConverters(target)[input.classID()];
     for (std::size_t i = 0; i < input.size(); ++i) {
         ArrayPtr const element = elementOf(input, i);

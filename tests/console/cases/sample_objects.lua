@@ -56,11 +56,13 @@ print(#references(spokes[2]))
 print(spokes[1000].left, spokes[1000]:walk(("R"):rep(998)).name)
 refused(spokes[2].walk, spokes[2], "LX")
 refused(function() spokes[2].left = of.Container("x") end)
+refused(function() spokes[2].left = {spokes[3], spokes[4]} end)
 
 -- shared books and dancers
 local Book, Dancer = of.SharedBase, of.StdSharedBase
 refused(Book.shelve, nil)
 refused(Book.arrange, {Book("a"), of.Container("b")})
+refused(Book.arrange, {Book("a"), 3})
 refused(Book.arrange, array(Book, {null}))
 refused(of.SharedDerived, "a", 0)
 local kept = Book("kept")

@@ -44,6 +44,7 @@ print(week.total, #of.Week().daysOff)
 local function turned(quarters) return of.MFVT.turned(of.MFVT(1, 2), quarters) end
 list(turned(-2147483648).east, turned(2147483647).east, turned(-1).east, turned(5).north)
 refused(of.MFVT().move, of.MFVT(), null)
+refused(of.MFVT().move, of.MFVT(), {of.MFVT(), of.MFVT()})
 list(of.MFVT(huge, 0):halfwayTo(of.MFVT(-huge, 0)).east ~= nil)
 
 -- constructors and signatures
