@@ -11,8 +11,9 @@
 
 namespace velmara::console {
 
-/// The number as a `T`, or nothing when it does not fit: integers, and whole numbers as `double`, must be exact; `float`
-/// rounds, and only what would become infinite does not fit. These are the host's rules for the inputs of calls.
+/// The number as a `T`, or nothing when it does not fit: integers, and whole numbers as `double`, must be exact;
+/// `float` rounds, and only what would become infinite does not fit. These are the host's rules for the inputs of
+/// calls.
 template <class T>
 std::optional<T> exactly(std::integral auto number)
 {

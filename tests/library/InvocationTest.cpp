@@ -94,14 +94,12 @@ TEST_F(InvocationTest, OutputCountsAreRaisedOnlyForResults)
         EXPECT_EQ(output.scalarClass(), hvINT32_CLASS);
     }
     int count = 0;
-    COSValue output;
-    reset.invoke(nullptr, count, &output, 1, inputs);
-    EXPECT_EQ(count, 0);
-    EXPECT_TRUE(output.isEmpty());
+    reset.invoke(nullptr, count, nullptr, 1, inputs);
+    EXPECT_EQ(count, 0) << "there is no output to be touched, either";
 
     ArrayPtr const none(omCreateORBISMatrix(0, 0, "tests.Tally"));
     COSValue const null[] = {COSValue(none.get())};
-    EXPECT_THROW(reset.invoke(nullptr, count, &output, 1, null), std::exception);
+    EXPECT_THROW(reset.invoke(nullptr, count, nullptr, 1, null), std::exception);
     EXPECT_EQ(count, 0);
 }
 

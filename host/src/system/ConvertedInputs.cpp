@@ -278,7 +278,7 @@ std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
                             : explainEnumeratorRefusal(*enumeration, array);
     if (!type.element && array.classID() == hvOBJECT_CLASS && array.size() > 1)
         return "needs one object, not " + sizeOf(array);
-    std::string const element = type.element ? explainElement(type.element, array) : std::string();
+    std::string element = type.element ? explainElement(type.element, array) : std::string();
     if (!element.empty())
         return element;
     return "needs " + wanted + ", not " + given;
