@@ -15,7 +15,8 @@ inline bool isExactDouble(std::integral auto number)
     auto magnitude = static_cast<std::uint64_t>(number);
     if (number < 0)
         magnitude = 0 - magnitude;
-    return magnitude == 0 || std::bit_width(magnitude >> std::countr_zero(magnitude)) <= std::numeric_limits<double>::digits;
+    return magnitude == 0 ||
+           std::bit_width(magnitude >> std::countr_zero(magnitude)) <= std::numeric_limits<double>::digits;
 }
 
 inline bool isWhole(double number)
