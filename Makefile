@@ -2,7 +2,7 @@ export CMAKE_BUILD_PARALLEL_LEVEL ?= $(shell nproc)
 export CTEST_PARALLEL_LEVEL ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run test check sanitize windows bench clean
+.PHONY: help run test check sanitize windows bench faults fuzz coverage mutants threads memory nightly clean
 
 help: ## list the targets
 	@awk -F ':.*## ' '/^[a-z]+:.*## / { printf "  make %-9s %s\n", $$1, $$2 }' Makefile
@@ -18,5 +18,17 @@ windows: ## cross-compile for Windows and run the tests under Wine
 	@scripts/windows
 bench: ## measure: times, and instruction counts beside their goals
 	@scripts/bench
+fuzz: ## run each fuzz target for 30 seconds
+	@scripts/fuzz
+coverage: ## measure which lines and branches of the library the tests reach
+	@scripts/coverage
+mutants: ## break the library in small ways, and tell what no test notices
+	@scripts/mutants
+threads: ## every test under the thread sanitizer
+	@scripts/threads
+memory: ## the tour under valgrind
+	@scripts/memory
+nightly: ## every harness, each to its end: some hours
+	@scripts/nightly
 clean: ## remove everything that was built
 	@rm -rf build
