@@ -83,7 +83,8 @@ TEST_F(ModuleTest, EightVirtualMachinesOnEightThreadsShareNothing)
             machine.unloadModule("orbis_factory");
             EXPECT_FALSE(velmara::isValid(adder.get()));
             static_cast<void>(machine.loadModule(libraryFile));
-            EXPECT_TRUE(velmara::isValid(machine.construct("orbis_factory.Person", inputs(name)).get()));
+            EXPECT_THROW(static_cast<void>(machine.construct("orbis_factory.Person", inputs(name))), velmara::Error)
+                << "the town outlasts the module";
         }
     };
     std::vector<std::jthread> others;
