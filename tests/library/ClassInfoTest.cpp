@@ -84,6 +84,9 @@ TEST_F(ClassInfoTest, AResultThatCannotCrossIsStillItsOwners)
     EXPECT_EQ(basic::registry().size(), 1u) << "what was bound before stays bound";
 
     LimitedInfo::remaining = 0;
+    EXPECT_THROW(hvm().getStatic("tests.Counted", "held"), velmara::Error);
+    EXPECT_EQ(Counted::alive, 3);
+    LimitedInfo::remaining = 0;
     EXPECT_THROW(hvm().callStatic("tests.Counted", "last"), velmara::Error);
     EXPECT_EQ(Counted::alive, 2) << "one that is given alone is the host's, which has no object to delete it with";
     delete all[1];
@@ -249,7 +252,8 @@ TEST_F(ValueClassTest, NullIsForPointersOnly)
 {
     ArrayPtr const one = amount(1), none(omCreateORBISMatrix(0, 0, "tests.Amount"));
     EXPECT_EQ(scalar<double>(hvm().callStatic("tests.Amount", "ofOrMinusOne", inputs(none))), -1);
-    expectMessage([&] { call(one, "add", none.get()); }, {"orbis_factory:orbis_factory:null_input: Input \"p0\" must be"});
+    expectMessage([&] { call(one, "add", none.get()); },
+                  {"orbis_factory:orbis_factory:null_input: Input \"p0\" must be"});
     expectMessage([&] { hvm().set(one.get(), "twin", none.get()); }, {":null_input: The value must be an object"});
     EXPECT_EQ(call(one, "orNull", number(1).get())->get_number_of_elements(), 0u);
     EXPECT_EQ(valueOf(call(one, "orNull", number(0).get())), 1);

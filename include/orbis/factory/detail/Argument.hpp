@@ -3,7 +3,6 @@
 #include "orbis/factory/MarshalingPolicy.hpp"
 #include "orbis/factory/detail/NewArray.hpp"
 #include "orbis/factory/detail/PassedArray.hpp"
-#include "orbis/factory/detail/bindings.hpp"
 
 #include "orbis/COSValue.hpp"
 
@@ -100,23 +99,6 @@ private:
 template <class... T>
 using ArgumentsOf = Arguments<std::index_sequence_for<T...>, T...>;
 
-/// Pointers to objects that are bound when they cross.
-template <class T>
-concept HandlePointer = std::is_pointer_v<T> && requires { requires MarshalerOf<T>::isHandle; };
-
-/// Stores the object that a call gave. The host's from here on, it does not leak when that cannot take it.
-template <HandlePointer Pointer>
-void storeObject(Pointer object, hvArray** out)
-{
-    using Class = std::remove_const_t<std::remove_pointer_t<Pointer>>;
-    try {
-        MarshalerOf<Pointer>::template toHost<Class>(object, out);
-    } catch (...) {
-        discardUnbound(MarshalerOf<Pointer>::boundAddress(const_cast<Class*>(object)), HostClass<Class>::name);
-        throw;
-    }
-}
-
 /// True for a result that hands the host an array that need not be a new one.
 template <class Result>
 consteval bool passesForeignArray()
@@ -144,10 +126,6 @@ void storeResult(int& outputCount, COSValue* outputs, F&& function)
         using Native = MarshaledTypeOf<Result>;
         if constexpr (TravelsInSlot<Result>) {
             MarshalerOf<Result>::template toHost<Native>(std::forward<F>(function)(), outputs);
-        } else if constexpr (HandlePointer<std::remove_cvref_t<Result>>) {
-            NewArray array;
-            storeObject<std::remove_cvref_t<Result>>(std::forward<F>(function)(), array.place());
-            *outputs = COSValue(array.release());
         } else {
             NewArray array;
             MarshalerOf<Result>::template toHost<Native>(std::forward<F>(function)(), array.place());

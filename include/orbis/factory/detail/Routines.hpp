@@ -35,6 +35,29 @@ void shareGivenArray([[maybe_unused]] COSValue const* outputs, [[maybe_unused]] 
     }
 }
 
+/// Pointers to objects that are bound when they cross.
+template <class T>
+concept HandlePointer = std::is_pointer_v<T> && requires { requires MarshalerOf<T>::isHandle; };
+
+/// `storeResult`, for what a member gives when it is called: an object that it gives is the host's from then on, and
+/// does not leak when that cannot take it.
+template <class Result, class F>
+void storeCallResult(int& outputCount, COSValue* outputs, F&& function)
+{
+    if constexpr (HandlePointer<Result>) {
+        using Class = std::remove_const_t<std::remove_pointer_t<Result>>;
+        Result const object = std::forward<F>(function)();
+        try {
+            storeResult<Result>(outputCount, outputs, [&] { return object; });
+        } catch (...) {
+            discardUnbound(MarshalerOf<Result>::boundAddress(const_cast<Class*>(object)), HostClass<Class>::name);
+            throw;
+        }
+    } else {
+        storeResult<Result>(outputCount, outputs, std::forward<F>(function));
+    }
+}
+
 template <class Pointer, class Result, class Parameters>
 struct FreeFunctionRoutine;
 
@@ -49,8 +72,8 @@ struct FreeFunctionRoutine<Pointer, Result, TypeList<A...>> {
             if constexpr (std::is_pointer_v<std::remove_cvref_t<decltype(arguments.first())>>)
                 impl::validateSelfPointer(arguments.first(), *invoker);
         }
-        storeResult<Result>(outputCount, outputs,
-                            [&]() -> Result { return arguments.apply(invoker->target.template as<Pointer>()); });
+        storeCallResult<Result>(outputCount, outputs,
+                                [&]() -> Result { return arguments.apply(invoker->target.template as<Pointer>()); });
         shareGivenArray<Result>(outputs, inputs, inputCount, invoker->target.template as<Pointer>());
     }
 };
@@ -67,7 +90,7 @@ struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
         ArgumentsOf<A...> arguments(inputs + 1);
         if (!self) [[unlikely]]
             impl::validateSelfPointer(self);
-        storeResult<Result>(outputCount, outputs, [&]() -> Result {
+        storeCallResult<Result>(outputCount, outputs, [&]() -> Result {
             return arguments.apply([&](auto&&... values) -> Result {
                 auto const target = invoker->target.template as<Pointer>();
                 if constexpr (std::is_member_function_pointer_v<Pointer>)
