@@ -5,6 +5,8 @@
 #include "ScriptError.hpp"
 #include "ScriptFrames.hpp"
 
+#include "velmara/Error.hpp"
+
 #include <algorithm>
 #include <cctype>
 
@@ -70,7 +72,7 @@ std::string suggestion(lua_State* L, std::string const& text)
     return didYouMean(text.substr(name, text.size() - 2 - name), completions(L, ""));
 }
 
-Report reportOf(lua_State* L, int index, char const* identifier)
+Report reportOf(lua_State* L, int index, std::string const& identifier)
 {
     if (isError(L, index))
         return {field(L, index, "identifier"), field(L, index, "text"), field(L, index, "where")};
@@ -110,9 +112,9 @@ int reportError(lua_State* L)
 std::string describeError(lua_State* L, int index, int status)
 {
     index = lua_absindex(L, index);
-    char const* identifier = status == LUA_ERRSYNTAX ? "VELMARA:script:syntax"
-                             : status == LUA_ERRMEM  ? "VELMARA:script:memory"
-                                                     : "VELMARA:script:error";
+    std::string const identifier = status == LUA_ERRSYNTAX ? "VELMARA:script:syntax"
+                                   : status == LUA_ERRMEM  ? Error::outOfMemory().identifier()
+                                                           : "VELMARA:script:error";
     return format(reportOf(L, index, identifier), {}, 0);
 }
 

@@ -2,6 +2,7 @@
 
 #include "ArrayAccess.hpp"
 #include "ArrayText.hpp"
+#include "NamedMetatable.hpp"
 #include "NumericClass.hpp"
 #include "ScriptError.hpp"
 #include "Session.hpp"
@@ -33,10 +34,8 @@ int toText(lua_State* L)
     return 1;
 }
 
-void pushArrayMetatable(lua_State* L)
+void fillArrayMetatable(lua_State* L)
 {
-    if (!luaL_newmetatable(L, arrayType))
-        return;
     luaL_Reg const functions[] = {{"__gc", release},
                                   {"__close", release},
                                   {"__index", guarded<readArray>},
@@ -67,9 +66,9 @@ void tellCollector(lua_State* L, hvArray_tag const& array)
 void pushHostArray(lua_State* L, hvArray_tag const& array)
 {
     Session::of(L).requireRunning();
-    luaL_checkstack(L, 4, nullptr);
+    luaL_checkstack(L, 6, nullptr);
     auto* holder = new (lua_newuserdatauv(L, sizeof(Holder), 0)) Holder;
-    pushArrayMetatable(L);
+    pushNamedMetatable(L, arrayType, [L] { fillArrayMetatable(L); });
     lua_setmetatable(L, -2);
     Session::of(L).given().give(*holder, ArrayPtr(hvCreateSharedDataCopy(&array)));
     tellCollector(L, array);

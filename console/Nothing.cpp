@@ -1,5 +1,7 @@
 #include "Nothing.hpp"
 
+#include "NamedMetatable.hpp"
+
 namespace velmara::console {
 
 namespace {
@@ -24,14 +26,15 @@ char const valueKeys[2] = {}; // their addresses are the keys of the values
 void makeNothing(lua_State* L, Names const& made)
 {
     lua_newuserdatauv(L, 0, 0);
-    luaL_newmetatable(L, made.type);
-    lua_pushstring(L, made.text);
-    lua_pushvalue(L, -1);
-    lua_setfield(L, -3, "__metatable");
-    lua_pushvalue(L, -1);
-    lua_setfield(L, -3, "__name");
-    lua_pushcclosure(L, toText, 1);
-    lua_setfield(L, -2, "__tostring");
+    pushNamedMetatable(L, made.type, [&] {
+        lua_pushstring(L, made.text);
+        lua_pushvalue(L, -1);
+        lua_setfield(L, -3, "__metatable");
+        lua_pushvalue(L, -1);
+        lua_setfield(L, -3, "__name");
+        lua_pushcclosure(L, toText, 1);
+        lua_setfield(L, -2, "__tostring");
+    });
     lua_setmetatable(L, -2);
 }
 

@@ -1,5 +1,6 @@
 #include "ObjectListing.hpp"
 
+#include "NamedMetatable.hpp"
 #include "ScriptError.hpp"
 #include "Session.hpp"
 
@@ -106,10 +107,10 @@ int listObjects(lua_State* L)
         pushRecord(L, object);
         lua_rawseti(L, -2, ++number);
     }
-    if (luaL_newmetatable(L, "velmara.objects")) {
+    pushNamedMetatable(L, "velmara.objects", [L] {
         lua_pushcfunction(L, guarded<toText>);
         lua_setfield(L, -2, "__tostring");
-    }
+    });
     lua_setmetatable(L, -2);
     return 1;
 }

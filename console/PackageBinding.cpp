@@ -3,6 +3,7 @@
 #include "ClassBinding.hpp"
 #include "ClassMembers.hpp"
 #include "CloseMatches.hpp"
+#include "NamedMetatable.hpp"
 #include "Proxy.hpp"
 #include "ScriptError.hpp"
 #include "Session.hpp"
@@ -140,10 +141,10 @@ std::vector<std::string> packageContents(PackageRecord const& package)
     return names;
 }
 
-void pushPackageMetatable(lua_State* L)
+namespace {
+
+void fillPackageMetatable(lua_State* L)
 {
-    if (!luaL_newmetatable(L, "velmara.package"))
-        return;
     luaL_Reg const functions[] = {{"__index", guarded<read>},      {"__newindex", guarded<write>},
                                   {"__call", guarded<call>},       {"__pairs", guarded<pairs>},
                                   {"__tostring", guarded<toText>}, {nullptr, nullptr}};
@@ -152,6 +153,13 @@ void pushPackageMetatable(lua_State* L)
     lua_setfield(L, -2, "__metatable");
     lua_pushliteral(L, "host name"); // in Lua's own errors
     lua_setfield(L, -2, "__name");
+}
+
+} // namespace
+
+void pushPackageMetatable(lua_State* L)
+{
+    pushNamedMetatable(L, "velmara.package", [L] { fillPackageMetatable(L); });
 }
 
 void bindGlobals(lua_State* L)

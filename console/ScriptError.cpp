@@ -1,5 +1,6 @@
 #include "ScriptError.hpp"
 
+#include "NamedMetatable.hpp"
 #include "ScriptFrames.hpp"
 
 #include "velmara/Error.hpp"
@@ -42,10 +43,10 @@ void pushError(lua_State* L, std::string_view identifier, std::string_view text)
     setField(L, "text", text);
     if (auto const frames = scriptFrames(L, 0, 1); !frames.empty())
         setField(L, "where", frames.front().position);
-    if (luaL_newmetatable(L, "velmara.error")) {
-        lua_pushcfunction(L, errorToText);
+    pushNamedMetatable(L, "velmara.error", [L] {
+        lua_pushcfunction(L, guarded<errorToText>);
         lua_setfield(L, -2, "__tostring");
-    }
+    });
     lua_setmetatable(L, -2);
 }
 
@@ -76,7 +77,7 @@ int callGuarded(lua_State* L, lua_CFunction body)
     } catch (foundation::core::except::IMsgIDException const& error) {
         pushError(L, error.getErrorID(), fl::i18n::to_string(error.GetUnicodeMessageTxt()));
     } catch (std::bad_alloc const&) {
-        pushError(L, "VELMARA:console:memory", "not enough memory");
+        pushError(L, Error::outOfMemory().identifier(), Error::outOfMemory().text());
     } catch (std::exception const& error) {
         pushError(L, "VELMARA:console:internal", error.what());
     } // no `catch (...)`: Lua's own errors must reach Lua

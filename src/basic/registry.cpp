@@ -31,6 +31,7 @@ FooRegistry::FooRegistry() : observer_(*this)
 
 FooRegistry::~FooRegistry()
 {
+    additions::observeObjects(nullptr);
     // Left entries are reclaimed without a word to their host objects, which may be gone.
     for (auto const& [object, entry] : *this) {
         if (history)

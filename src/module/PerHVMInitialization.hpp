@@ -17,13 +17,15 @@ public:
     /// False when it was set already.
     static bool set()
     {
-        if (Storage::find(id(), typeid(PerHVMInitialization)))
+        if (isSet())
             return false;
         Storage::insert(id(), typeid(PerHVMInitialization), Storage::Holder(new PerHVMInitialization, [](void* object) {
                             delete static_cast<PerHVMInitialization*>(object);
                         }));
         return true;
     }
+
+    static bool isSet() { return Storage::find(id(), typeid(PerHVMInitialization)) != nullptr; }
 
     /// False when it was not set.
     static bool clear() { return Storage::erase(id(), typeid(PerHVMInitialization)); }

@@ -2,39 +2,51 @@
 
 #include "orbis/factory/basic/HvmScoped.hpp"
 
+#include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSClass.hpp"
 
 #include <algorithm>
+#include <iterator>
+#include <optional>
 #include <utility>
 
 namespace orbis::factory {
 
 namespace {
 
-/// A class that cannot be described is none. Who asks for it by name is told why not.
-bool isPublished(char const* hostName)
+/// The class of that name, null when there is none; nothing when it cannot be told, because the class cannot be
+/// described or its package not be populated: who asks for it by name is told why. Other failures pass through.
+std::optional<COSClass*> findDescribed(char const* hostName)
 {
     try {
-        return COSClass::getClass(COSNameID(hostName)) != nullptr;
-    } catch (...) {
-        return false;
+        return COSClass::getClass(COSNameID(hostName));
+    } catch (foundation::core::except::IMsgIDException const& error) {
+        std::string const& identifier = error.getErrorID();
+        if (identifier != "VELMARA:class:initialization" && identifier != "VELMARA:package:population")
+            throw;
+        return std::nullopt;
     }
 }
 
-/// Takes out the names for which `ask` can be called. The others stay for the next time: who asks for them by name is
-/// told why not.
-template <class Ask>
-void askFor(std::set<std::string>& names, Ask ask)
+bool isPublished(char const* hostName)
 {
-    std::set<std::string> failed;
-    for (std::string const& name : std::exchange(names, {})) {
-        try {
-            ask(name);
-        } catch (...) {
-            failed.insert(name);
-        }
-    }
-    names.merge(failed);
+    return findDescribed(hostName).value_or(nullptr) != nullptr;
+}
+
+/// Asks for classes, and takes the names out for which that can be told. The others stay for the next time.
+void askFor(std::set<std::string>& names, char const* suffix)
+{
+    struct Waiting {
+        explicit Waiting(std::set<std::string>& all) : outer(all) { names.swap(outer); }
+        Waiting(Waiting const&) = delete;
+        Waiting& operator=(Waiting const&) = delete;
+        ~Waiting() { outer.merge(names); }
+
+        std::set<std::string>& outer; ///< to which asking may add
+        std::set<std::string> names;
+    } waiting(names);
+    for (auto name = waiting.names.begin(); name != waiting.names.end();)
+        name = findDescribed((*name + suffix).c_str()) ? waiting.names.erase(name) : std::next(name);
 }
 
 } // namespace
@@ -107,8 +119,8 @@ void PublishedClasses::describeExpected()
 {
     unpublished_.clear();
     // Asking for a class has the host populate its package, whether it is there or not, and describe it.
-    askFor(expectedPackages_, [](std::string const& name) { COSClass::getClass(COSNameID((name + ".*").c_str())); });
-    askFor(expected_, [](std::string const& name) { COSClass::getClass(COSNameID(name.c_str())); });
+    askFor(expectedPackages_, ".*");
+    askFor(expected_, "");
 }
 
 char const* PublishedClasses::best(void const* bound, NativeClassRecord const& known) const

@@ -28,8 +28,10 @@ ORBIS_FACTORY_API void VXInitialize_orbis_factory()
 
 ORBIS_FACTORY_API void VXTerminate_orbis_factory()
 {
-    if (PerHVMInitialization<RootPackage>::clear())
-        orbis::COSPackage::removePackage(orbis::COSNameID("orbis_factory"));
+    if (!PerHVMInitialization<RootPackage>::isSet())
+        return;
+    orbis::COSPackage::removePackage(orbis::COSNameID("orbis_factory"));
+    PerHVMInitialization<RootPackage>::clear();
 }
 
 ORBIS_FACTORY_API void const* QueryVXFcnTable_orbis_factory()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <new>
 #include <utility>
 
 namespace orbis::factory {
@@ -8,12 +9,14 @@ namespace orbis::factory {
 /// why. `owner` is the full name of its class, or null.
 [[noreturn]] void throwNotPublished(char const* owner, char const* member);
 
-/// Runs `publishMember`; its failure names the member.
+/// Runs `publishMember`; its failure names the member, but for a shortage of memory.
 template <class F>
 void publishing(char const* owner, char const* member, F&& publishMember)
 {
     try {
         std::forward<F>(publishMember)();
+    } catch (std::bad_alloc const&) {
+        throw;
     } catch (...) {
         throwNotPublished(owner, member);
     }

@@ -23,13 +23,13 @@ COSPackage* registerOrbisPackage(std::string const& fullName, std::function<void
     std::string const leaf = isNested ? fullName.substr(dot + 1) : fullName;
     std::string const parentName = isNested ? fullName.substr(0, dot) : std::string();
 
+    PublishedClasses::ofCurrentHvm().expectPackage(fullName);
     auto info = std::make_unique<ORBISPackageFromInitializer>(leaf, std::move(initializer));
     COSPackage* const parent = registerOrbisPackage(parentName, [](COSPackage*) {});
     if (parent)
         parent->addSubPackage(info.release());
     else
         COSPackage::addPackage(info.release());
-    PublishedClasses::ofCurrentHvm().expectPackage(fullName);
     return COSPackage::getPackage(COSNameID(fullName.c_str()));
 }
 

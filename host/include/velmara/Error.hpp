@@ -3,6 +3,7 @@
 #include "velmara/export.hpp"
 
 #include <exception>
+#include <memory>
 #include <string>
 
 namespace velmara {
@@ -11,17 +12,20 @@ namespace velmara {
 class VELMARA_API Error : public std::exception {
 public:
     Error(std::string identifier, std::string text);
-    Error(Error const&);
+    Error(Error const&) noexcept;
     ~Error() override;
+
+    /// What a shortage of memory becomes, wherever it arises: "VELMARA:memory:exhausted". Once a virtual machine was
+    /// made, asking for it takes none.
+    static Error const& outOfMemory();
 
     std::string const& identifier() const;
     std::string const& text() const;
     char const* what() const noexcept override;
 
 private:
-    std::string identifier_;
-    std::string text_;
-    std::string what_;
+    struct Texts;
+    std::shared_ptr<Texts const> texts_; ///< copies share them: passing an error on takes no memory
 };
 
 } // namespace velmara

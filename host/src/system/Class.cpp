@@ -53,7 +53,7 @@ Class::Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, HvmState& mac
       name_(name),
       ownName_(lastPart(name)),
       machine_(machine),
-      contents_(std::make_shared<ClassContents>()),
+      contents_(std::make_unique<ClassContents>()),
       isEnumeration_(info_->isEnumeration())
 {
 }
@@ -65,13 +65,15 @@ void Class::makeReady()
     if (state_ == State::Closed)
         throwHostError("VELMARA:class", "unpublished", {text(name_)});
     HvmState::Entry const entry(machine_);
-    auto empty = std::make_shared<ClassContents>(); // so that going back needs no memory
+    if (!empty_)
+        empty_ = std::make_unique<ClassContents>();
     state_ = State::Describing;
     try {
         describe();
     } catch (...) {
         state_ = State::Untouched;
-        dropContents(std::move(empty));
+        dropContents();
+        rethrowShortage();
         throwHostError("VELMARA:class", "initialization", {text(name_), textOfCurrentException()});
     }
     state_ = State::Ready;
@@ -88,11 +90,13 @@ void Class::describe()
     contents_->enumerators.makeObjects(*this);
 }
 
-void Class::dropContents(std::shared_ptr<ClassContents> replacement)
+void Class::dropContents() noexcept
 {
+    if (!empty_)
+        return; // there are none
     for (Class* const superclass : contents_->superclasses)
         std::erase(superclass->subclasses_, this);
-    machine_.retire(std::exchange(contents_, std::move(replacement)));
+    machine_.retire(std::exchange(contents_, std::move(empty_)));
 }
 
 bool Class::isBusy() const
@@ -109,7 +113,7 @@ void Class::close()
         subclass.state_ = State::Untouched;
     }
     objects_.endAll();
-    dropContents(std::make_shared<ClassContents>());
+    dropContents();
 }
 
 bool Class::isA(Name ancestor) const

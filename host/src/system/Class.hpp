@@ -2,6 +2,7 @@
 
 #include "system/ClassContents.hpp"
 #include "system/ObjectList.hpp"
+#include "system/Retirable.hpp"
 
 #include "orbis/COSClass.hpp"
 #include "orbis/COSClassInfo.hpp"
@@ -16,7 +17,7 @@ namespace velmara {
 class HvmState;
 
 /// A published class. It is described by its class info when it is first needed.
-class Class final : public orbis::COSClass {
+class Class final : public orbis::COSClass, public Retirable {
 public:
     Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, HvmState& machine);
 
@@ -91,8 +92,12 @@ private:
     enum class State { Untouched, Describing, Ready, Closed };
 
     void describe();
-    void dropContents(std::shared_ptr<ClassContents> replacement);
+    void dropContents() noexcept;
+
+    using NewTables = std::vector<std::pair<Class*, std::unique_ptr<MemberTables>>>;
+    void buildTables(NewTables& tables);
     void rebuildTables();
+
     /// Throws why no object of the class can be made.
     void refuseObject() const;
     void requireOpen(Name member) const;
@@ -112,13 +117,15 @@ private:
     Name name_;
     Name ownName_;
     HvmState& machine_;
-    std::shared_ptr<ClassContents> contents_;
-    std::vector<Class*> subclasses_; ///< direct ones that are described or being described
+    std::unique_ptr<ClassContents> contents_;
+    std::unique_ptr<ClassContents> empty_; ///< what takes the place of contents: there is one once there are any
+    std::vector<Class*> subclasses_;       ///< direct ones that are described or being described
     ObjectList objects_;
     char const* constructionRefusal_ = nullptr;
     State state_ = State::Untouched;
     bool isEnumeration_;
     bool isLoading_ = false; ///< a class info was asked to load a member
+    bool isStale_ = false;   ///< what was loaded is not in the tables yet
 };
 
 } // namespace velmara

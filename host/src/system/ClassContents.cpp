@@ -51,9 +51,9 @@ void addProperties(MemberTables& tables, Class const& cls, Class const& definer)
 
 } // namespace
 
-std::shared_ptr<MemberTables> buildMemberTables(std::vector<Class*> const& linearization)
+std::unique_ptr<MemberTables> buildMemberTables(std::vector<Class*> const& linearization)
 {
-    auto tables = std::make_shared<MemberTables>();
+    auto tables = std::make_unique<MemberTables>();
     Class const& cls = *linearization.front();
     for (auto const& method : cls.contents().methods)
         if (method->isConstructor)

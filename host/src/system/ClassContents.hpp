@@ -5,6 +5,7 @@
 #include "system/NameMap.hpp"
 #include "system/Property.hpp"
 #include "system/RecentNames.hpp"
+#include "system/Retirable.hpp"
 
 #include <memory>
 #include <vector>
@@ -12,7 +13,7 @@
 namespace velmara {
 
 /// The members of a class by name, inherited ones included.
-struct MemberTables {
+struct MemberTables : Retirable {
     MethodGroup constructors;
     NameMap<MethodGroup> methodGroups;
     mutable RecentNames<MethodGroup> recentMethods;
@@ -21,7 +22,7 @@ struct MemberTables {
 };
 
 /// What a class info adds while it describes its class. It is dropped as a whole when describing fails.
-struct ClassContents {
+struct ClassContents : Retirable {
     std::vector<std::unique_ptr<Method>> methods; ///< the class's own, in the order of description
     std::vector<std::unique_ptr<Property>> properties;
     EnumeratorTable enumerators;
@@ -30,11 +31,11 @@ struct ClassContents {
     /// The class itself first, then its superclasses: each before its own superclasses.
     std::vector<Class*> linearization;
 
-    std::shared_ptr<MemberTables> tables = std::make_shared<MemberTables>();
+    std::unique_ptr<MemberTables> tables = std::make_unique<MemberTables>();
 };
 
 /// The tables of the class that stands first in the linearisation. Refuses members that redefine sealed ones of a
 /// superclass.
-std::shared_ptr<MemberTables> buildMemberTables(std::vector<Class*> const& linearization);
+std::unique_ptr<MemberTables> buildMemberTables(std::vector<Class*> const& linearization);
 
 } // namespace velmara

@@ -43,6 +43,7 @@ hvArray_tag* convert(TypeReference const& type, orbis::COSTypeConversion& conver
     try {
         conversion.convertFromHost(&converted, input);
     } catch (...) {
+        rethrowShortage();
         if (!type.element || !isNothing(*Array::of(input)))
             throw;
         ArrayPtr const none(hvCreateCellMatrix(0, 0));
@@ -180,6 +181,7 @@ Fit ConvertedInputs::addRegistered(TypeReference const& type, hvArray_tag* input
     try {
         converted = convert(type, *conversion, input);
     } catch (...) {
+        rethrowShortage();
         return noFit; // whoever needs the reason asks for it
     }
     dataType->getReference(); // it may be unregistered before its value is given back
@@ -213,6 +215,7 @@ std::string explainConversion(orbis::COSDataType& type, orbis::COSTypeConversion
         conversion.convertFromHost(&converted, input);
         type.releaseValue(orbis::COSValue(converted));
     } catch (...) {
+        rethrowShortage();
         return textOfCurrentException();
     }
     return "was refused";

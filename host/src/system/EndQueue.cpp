@@ -2,17 +2,23 @@
 
 #include "system/Object.hpp"
 
+#include <new>
+
 namespace velmara {
 
-bool EndQueue::enqueue(Object& object) noexcept
+EndQueue::EndQueue()
+{
+    waiting_.reserve(256);
+}
+
+void EndQueue::enqueue(Object& object) noexcept
 {
     try {
         waiting_.push_back(&object);
-    } catch (...) {
-        return false;
+        object.addWeak();
+    } catch (std::bad_alloc const&) {
+        // It ends with its class.
     }
-    object.addWeak();
-    return true;
 }
 
 void EndQueue::endWaiting() noexcept

@@ -10,7 +10,7 @@ class Object;
 /// Where ends are nested too deeply, further ones wait here for the outermost to come back.
 class EndQueue {
 public:
-    EndQueue() = default;
+    EndQueue();
     EndQueue(EndQueue const&) = delete;
     EndQueue& operator=(EndQueue const&) = delete;
 
@@ -32,13 +32,20 @@ public:
         EndQueue& queue_;
     };
 
-    /// Has an object without references end later, unless it has got one until then. False when it is to end now.
-    bool postpone(Object& object) noexcept { return depth_ >= deepest && enqueue(object); }
+    /// Has an object without references end later, unless it has got one until then. False when it is to end now. Of a
+    /// great many objects those for which there is no memory end as late as their classes.
+    bool postpone(Object& object) noexcept
+    {
+        if (depth_ < deepest)
+            return false;
+        enqueue(object);
+        return true;
+    }
 
 private:
     static constexpr int deepest = 100;
 
-    bool enqueue(Object& object) noexcept;
+    void enqueue(Object& object) noexcept;
     void endWaiting() noexcept;
 
     int depth_ = 0;

@@ -4,29 +4,39 @@
 
 namespace velmara {
 
+struct Error::Texts {
+    std::string identifier;
+    std::string text;
+    std::string what = identifier + ": " + text;
+};
+
 Error::Error(std::string identifier, std::string text)
-    : identifier_(std::move(identifier)),
-      text_(std::move(text)),
-      what_(identifier_ + ": " + text_)
+    : texts_(std::make_shared<Texts const>(Texts{std::move(identifier), std::move(text)}))
 {
 }
 
-Error::Error(Error const&) = default;
+Error::Error(Error const&) noexcept = default;
 Error::~Error() = default;
+
+Error const& Error::outOfMemory()
+{
+    static Error const error("VELMARA:memory:exhausted", "There is not enough memory.");
+    return error;
+}
 
 std::string const& Error::identifier() const
 {
-    return identifier_;
+    return texts_->identifier;
 }
 
 std::string const& Error::text() const
 {
-    return text_;
+    return texts_->text;
 }
 
 char const* Error::what() const noexcept
 {
-    return what_.c_str();
+    return texts_->what.c_str();
 }
 
 } // namespace velmara

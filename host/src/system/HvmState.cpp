@@ -1,5 +1,6 @@
 #include "system/HvmState.hpp"
 
+#include "velmara/Error.hpp"
 #include "velmara/Hvm.hpp"
 
 #include "system/ModuleList.hpp"
@@ -20,6 +21,7 @@ HvmState::HvmState()
       types_(std::make_unique<TypeRepository>()),
       packages_(std::make_unique<PackageTree>(*this))
 {
+    Error::outOfMemory(); // made while there is memory
 }
 
 HvmState::~HvmState()
@@ -57,11 +59,12 @@ void HvmState::reportLeak(char const* sentence) const noexcept
     }
 }
 
-void HvmState::retire(std::shared_ptr<void> unpublished)
+void HvmState::retire(std::unique_ptr<Retirable> unpublished) noexcept
 {
-    retired_.push_back(std::move(unpublished));
+    if (unpublished)
+        retired_.add(std::move(unpublished));
     if (entries_ == 0)
-        destroyRetired();
+        retired_.destroyAll();
 }
 
 void HvmState::passCallBoundary() noexcept
@@ -71,13 +74,6 @@ void HvmState::passCallBoundary() noexcept
     isBoundaryRequested_ = false;
     Entry const entry(*this);
     observer_->callBoundary();
-}
-
-void HvmState::destroyRetired()
-{
-    // Destroying runs foreign code, which may unpublish more.
-    while (!retired_.empty())
-        std::exchange(retired_, {}).clear();
 }
 
 } // namespace velmara

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "system/EndQueue.hpp"
+#include "system/Retirable.hpp"
 #include "values/HvmStorage.hpp"
 #include "values/MessageCatalog.hpp"
 
@@ -78,8 +79,8 @@ public:
     /// Has the observer called between the outermost call into the virtual machine and the next one.
     void requestCallBoundary() { isBoundaryRequested_ = true; }
 
-    /// Destroys what was unpublished, as soon as no native code that may still use it is running.
-    void retire(std::shared_ptr<void> unpublished);
+    /// Destroys what was unpublished (null allowed), as soon as no native code that may still use it is running.
+    void retire(std::unique_ptr<Retirable> unpublished) noexcept;
 
     /// A stay in the virtual machine: makes it current, and keeps what is unpublished meanwhile until the
     /// outermost stay is over.
@@ -92,7 +93,7 @@ public:
         ~Entry()
         {
             if (--state_.entries_ == 0 && !state_.retired_.empty())
-                state_.destroyRetired();
+                state_.retired_.destroyAll();
             makeCurrent(previous_);
         }
 
@@ -120,7 +121,6 @@ public:
     };
 
 private:
-    void destroyRetired();
     void passCallBoundary() noexcept;
 
 #if defined(__linux__)
@@ -135,7 +135,7 @@ private:
     MessageCatalog messages_;
     std::unique_ptr<TypeRepository> types_;
     std::unique_ptr<PackageTree> packages_;
-    std::vector<std::shared_ptr<void>> retired_;
+    RetiredList retired_;
     EndQueue endQueue_;
     ObjectObserver* observer_ = nullptr;
     int entries_ = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "system/Retirable.hpp"
 #include "system/Signature.hpp"
 
 #include "orbis/COSMethodInfo.hpp"
@@ -13,7 +14,7 @@ namespace velmara {
 class Class;
 
 /// A published callable member: its descriptor with the answers that the dispatch needs, asked once.
-struct Method {
+struct Method : Retirable {
     /// `definer` is null for a package function. Throws "VELMARA:member:name" for a descriptor without a name.
     Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, Class const* definer);
 

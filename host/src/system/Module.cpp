@@ -1,5 +1,7 @@
 #include "system/Module.hpp"
 
+#include "system/HvmState.hpp"
+#include "system/PackageTree.hpp"
 #include "system/errorTranslation.hpp"
 #include "system/pathText.hpp"
 #include "values/MessageCatalog.hpp"
@@ -66,7 +68,7 @@ void Module::initialize()
 {
     addMessages();
     try {
-        initialize_();
+        HvmState::required().packages().changing(initialize_);
     } catch (...) {
         rethrowFailure("initialization");
     }
@@ -84,8 +86,8 @@ void Module::terminate()
 
 void Module::terminateAsItIs()
 {
-    isLoaded_ = false;
     terminate_();
+    isLoaded_ = false;
 }
 
 void Module::rethrowFailure(char const* key) const

@@ -22,11 +22,11 @@ public:
     ModuleRecord const& record() const { return record_; }
     bool isLoaded() const { return isLoaded_; }
 
-    /// Adds the module's texts and runs its initialisation; it is loaded when that succeeds. What it throws becomes an
-    /// `Error` that names the module.
+    /// Adds the module's texts and runs its initialisation; it is loaded when that succeeds. When it fails, what it
+    /// published is taken back, and what it throws becomes an `Error` that names the module.
     void initialize();
 
-    /// The module is not loaded any more, also when this fails; likewise.
+    /// The module stays loaded when this fails; likewise.
     void terminate();
 
     /// The same, but what the module throws leaves as it is, so that no memory is needed.

@@ -77,6 +77,16 @@ public:
         --size_;
     }
 
+    /// The name of an entry that `isMeant(name, value)`, null when there is none.
+    template <class Predicate>
+    Name findIf(Predicate const& isMeant) const
+    {
+        for (Entry const& entry : entries_)
+            if (entry.name && isMeant(entry.name, entry.value))
+                return entry.name;
+        return nullptr;
+    }
+
     /// Calls `visit(name, value)` for every entry, in no particular order.
     template <class Visit>
     void forEach(Visit visit) const

@@ -4,9 +4,10 @@
 
 namespace orbis::additions {
 
-void observeObjects(ObjectObserver* observer)
+void observeObjects(ObjectObserver* observer) noexcept
 {
-    velmara::HvmState::required().setObserver(observer);
+    if (velmara::HvmState* const machine = velmara::HvmState::current())
+        machine->setObserver(observer);
 }
 
 void requestCallBoundary() noexcept

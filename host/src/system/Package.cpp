@@ -3,6 +3,7 @@
 #include "system/HvmState.hpp"
 #include "system/PackageTree.hpp"
 #include "system/errorTranslation.hpp"
+#include "system/makeRoom.hpp"
 #include "values/hostError.hpp"
 
 #include <algorithm>
@@ -10,15 +11,7 @@
 
 namespace velmara {
 
-Package::Package(PackageTree& tree, Package* parent, Name name, std::unique_ptr<orbis::COSPackageInfo> info)
-    : tree_(tree),
-      parent_(parent),
-      name_(name),
-      info_(std::move(info))
-{
-    if (!info_)
-        state_ = State::Populated;
-}
+Package::Package(PackageTree& tree, Package* parent, Name name) : tree_(tree), parent_(parent), name_(name) {}
 
 void Package::populate()
 {
@@ -27,9 +20,10 @@ void Package::populate()
     HvmState::Entry const entry(tree_.machine());
     state_ = State::Populating;
     try {
-        tree_.recording([this] { info_->initializePackage(this); });
+        tree_.populating([this] { info()->initializePackage(this); });
     } catch (...) {
         state_ = State::Untouched;
+        rethrowShortage();
         throwHostError("VELMARA:package", "population", {std::string(fullName()), textOfCurrentException()});
     }
     state_ = State::Populated;
@@ -37,13 +31,13 @@ void Package::populate()
 
 void Package::adopt(std::unique_ptr<orbis::COSPackageInfo> info)
 {
-    info_ = std::move(info);
+    info_ = std::make_unique<Info>(std::move(info));
     state_ = State::Untouched;
 }
 
-void Package::disown()
+void Package::disown() noexcept
 {
-    tree_.machine().retire(std::shared_ptr<orbis::COSPackageInfo>(std::move(info_)));
+    tree_.machine().retire(std::move(info_));
     state_ = State::Populated;
 }
 
@@ -62,6 +56,16 @@ void Package::close()
         classes_[i]->close();
 }
 
+void Package::clear() noexcept
+{
+    close();
+    for (auto& cls : std::exchange(classes_, {}))
+        tree_.machine().retire(std::move(cls));
+    for (auto& package : std::exchange(packages_, {}))
+        tree_.machine().retire(std::move(package));
+    state_ = State::Populated;
+}
+
 void Package::endAllObjects()
 {
     // By index: ending runs foreign code, which may publish more.
@@ -76,10 +80,10 @@ MethodGroup const* Package::findFunctions(std::string_view ownName)
     auto const find = [this, ownName] {
         Name const name = findInterned(ownName);
         auto const* const group = name ? functionGroups_.find(name) : nullptr;
-        return group ? group->get() : nullptr;
+        return group && !(*group)->methods.empty() ? group->get() : nullptr;
     };
     MethodGroup const* found = find();
-    if (!found && info_ && info_->attemptToLoadFunction(std::string(ownName).c_str()))
+    if (!found && info() && info()->attemptToLoadFunction(std::string(ownName).c_str()))
         found = find();
     return found;
 }
@@ -93,17 +97,17 @@ void Package::requireOpen() const
 Package& Package::place(std::unique_ptr<Package> package)
 {
     requireOpen();
-    Package& placed = *packages_.emplace_back(std::move(package));
-    tree_.enter(placed);
-    return placed;
+    makeRoom(packages_);
+    tree_.enter(*package, [this, added = package.get()] { remove(*added); });
+    return *packages_.emplace_back(std::move(package));
 }
 
 Class& Package::place(std::unique_ptr<Class> cls)
 {
     requireOpen();
-    Class& placed = *classes_.emplace_back(std::move(cls));
-    tree_.enter(placed);
-    return placed;
+    makeRoom(classes_);
+    tree_.enter(*cls, [this, added = cls.get()] { remove(*added); });
+    return *classes_.emplace_back(std::move(cls));
 }
 
 namespace {
@@ -126,27 +130,22 @@ void Package::remove(Package& package)
 {
     package.close();
     tree_.leave(package);
-    tree_.machine().retire(std::shared_ptr<Package>(takeOut(packages_, package)));
+    tree_.machine().retire(takeOut(packages_, package));
 }
 
 void Package::remove(Class& cls)
 {
     cls.close();
     tree_.leave(cls);
-    tree_.machine().retire(std::shared_ptr<Class>(takeOut(classes_, cls)));
+    tree_.machine().retire(takeOut(classes_, cls));
 }
 
 void Package::remove(Method& function)
 {
-    std::shared_ptr<Method> taken = takeOut(functions_, function);
+    std::unique_ptr<Method> taken = takeOut(functions_, function);
     if (!taken)
         return;
-    std::unique_ptr<MethodGroup>& group = functionGroups_[function.name];
-    group->remove(function);
-    if (group->methods.empty()) {
-        tree_.machine().retire(std::shared_ptr<MethodGroup>(std::move(group)));
-        functionGroups_.erase(function.name);
-    }
+    (*functionGroups_.find(function.name))->remove(function);
     tree_.machine().retire(std::move(taken));
 }
 
@@ -157,14 +156,18 @@ void Package::addFunction(orbis::COSMethodInfo* function)
     std::string const full = std::string(fullName()) + "." + std::string(added->name->view());
     std::unique_ptr<MethodGroup>* group = functionGroups_.find(added->name);
     auto const isSame = [&added](Method const* other) { return other->hasSameInputs(*added); };
-    if (!group)
+    if (!group || (*group)->methods.empty())
         tree_.requireFree(full);
     else if (std::ranges::any_of((*group)->methods, isSame))
         throwHostError("VELMARA:package", "duplicate", {full});
-    if (!group)
-        *(group = &functionGroups_[added->name]) = std::make_unique<MethodGroup>();
+    makeRoom(functions_);
+    tree_.makeRoomToRecord();
+    if (!group) {
+        auto made = std::make_unique<MethodGroup>();
+        *(group = &functionGroups_[added->name]) = std::move(made);
+    }
+    (*group)->add(*added);
     Method& placed = *functions_.emplace_back(std::move(added));
-    (*group)->add(placed);
     tree_.record([this, &placed] { remove(placed); });
 }
 

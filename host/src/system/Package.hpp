@@ -2,6 +2,7 @@
 
 #include "system/Class.hpp"
 #include "system/Method.hpp"
+#include "system/Retirable.hpp"
 
 #include "orbis/COSPackage.hpp"
 #include "orbis/COSPackageInfo.hpp"
@@ -14,18 +15,19 @@ namespace velmara {
 
 class PackageTree;
 
-/// A package of the tree: the packages, classes and functions that it owns. Without an info it only holds others.
-class Package final : public orbis::COSPackage {
+/// A package of the tree: the packages, classes and functions that it owns. Without an info, as at first, it only holds
+/// others.
+class Package final : public orbis::COSPackage, public Retirable {
 public:
     enum class State { Untouched, Populating, Populated, Closed };
 
     /// `name` is the full dotted one; null for the tree's root.
-    Package(PackageTree& tree, Package* parent, Name name, std::unique_ptr<orbis::COSPackageInfo> info);
+    Package(PackageTree& tree, Package* parent, Name name);
 
     Name name() const { return name_; }
     std::string_view fullName() const { return name_ ? name_->view() : std::string_view(); }
     Package* parent() const { return parent_; }
-    orbis::COSPackageInfo* info() const { return info_.get(); }
+    orbis::COSPackageInfo* info() const { return info_ ? info_->info.get() : nullptr; }
     State state() const { return state_; }
 
     /// True when it was made only to hold others and holds none.
@@ -37,7 +39,7 @@ public:
 
     /// Gives an info to a package that was only made to hold others.
     void adopt(std::unique_ptr<orbis::COSPackageInfo> info);
-    void disown();
+    void disown() noexcept;
 
     /// True while the package, or a package or class in it, is being described: it cannot be removed now.
     bool isBusy() const;
@@ -45,6 +47,9 @@ public:
     /// Ends all that the package holds.
     void close();
     void endAllObjects();
+
+    /// Ends all that the package holds, and holds nothing from then on.
+    void clear() noexcept;
 
     std::vector<std::unique_ptr<Package>> const& packages() const { return packages_; }
     std::vector<std::unique_ptr<Class>> const& classes() const { return classes_; }
@@ -66,18 +71,23 @@ public:
     void addFunction(orbis::COSMethodInfo* function) override;
 
 private:
+    struct Info : Retirable {
+        explicit Info(std::unique_ptr<orbis::COSPackageInfo> given) : info(std::move(given)) {}
+        std::unique_ptr<orbis::COSPackageInfo> info;
+    };
+
     /// Throws "VELMARA:package:closed" once the package is being removed.
     void requireOpen() const;
 
     PackageTree& tree_;
     Package* parent_;
     Name name_;
-    std::unique_ptr<orbis::COSPackageInfo> info_;
+    std::unique_ptr<Info> info_;
     std::vector<std::unique_ptr<Package>> packages_;
     std::vector<std::unique_ptr<Class>> classes_;
     std::vector<std::unique_ptr<Method>> functions_;
-    NameMap<std::unique_ptr<MethodGroup>> functionGroups_;
-    State state_ = State::Untouched;
+    NameMap<std::unique_ptr<MethodGroup>> functionGroups_; ///< empty ones included
+    State state_ = State::Populated;
 };
 
 } // namespace velmara

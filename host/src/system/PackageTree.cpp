@@ -2,7 +2,10 @@
 
 #include "system/HvmState.hpp"
 #include "system/TypeRepository.hpp"
+#include "system/makeRoom.hpp"
 #include "values/hostError.hpp"
+
+#include "libkwfl/IMsgIDException.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -35,20 +38,16 @@ T* findByText(NameMap<T*> const& map, std::string_view fullName)
 
 } // namespace
 
-PackageTree::PackageTree(HvmState& machine)
-    : machine_(machine),
-      root_(std::make_unique<Package>(*this, nullptr, nullptr, nullptr))
-{
-}
+PackageTree::PackageTree(HvmState& machine) : machine_(machine), root_(*this, nullptr, nullptr) {}
 
-Package* PackageTree::findPublishedPackage(std::string_view fullName) const
+Package* PackageTree::findPublishedPackage(std::string_view fullName)
 {
-    return fullName.empty() ? root_.get() : findByText(packages_, fullName);
+    return fullName.empty() ? &root_ : findByText(packages_, fullName);
 }
 
 Package* PackageTree::findPackage(std::string_view fullName)
 {
-    Package* package = root_.get();
+    Package* package = &root_;
     for (std::size_t end = 0; package && end < fullName.size();) {
         std::size_t const begin = end == 0 ? 0 : end + 1;
         end = std::min(fullName.find('.', begin), fullName.size());
@@ -101,10 +100,12 @@ Class* PackageTree::findGlobalClass(std::string_view name)
     if (name.find('.') != std::string_view::npos)
         return nullptr;
     Class* found = findClass(name);
-    for (std::size_t i = 0; i < root_->packages().size() && !found; ++i) {
+    for (std::size_t i = 0; i < root_.packages().size() && !found; ++i) {
         try {
-            root_->packages()[i]->populate();
-        } catch (...) {
+            root_.packages()[i]->populate();
+        } catch (foundation::core::except::IMsgIDException const& error) {
+            if (error.getErrorID() != "VELMARA:package:population")
+                throw;
             // Who asks for that package itself is told why.
         }
         found = findClass(name);
@@ -122,7 +123,7 @@ MethodGroup const* PackageTree::findFunctions(std::string_view fullName)
     return package->findFunctions(own);
 }
 
-void PackageTree::requireFree(std::string_view fullName) const
+void PackageTree::requireFree(std::string_view fullName)
 {
     if (!isDottedName(fullName))
         throwHostError(
@@ -144,9 +145,7 @@ Package& PackageTree::findOrMake(std::string_view fullName)
         return *found;
     requireFree(fullName);
     Package& parent = findOrMake(splitLast(fullName).first);
-    Package& made = parent.place(std::make_unique<Package>(*this, &parent, intern(fullName), nullptr));
-    record([&parent, &made] { parent.remove(made); });
-    return made;
+    return parent.place(std::make_unique<Package>(*this, &parent, intern(fullName)));
 }
 
 void PackageTree::addPackage(std::unique_ptr<orbis::COSPackageInfo> info, std::string_view fullName)
@@ -154,9 +153,12 @@ void PackageTree::addPackage(std::unique_ptr<orbis::COSPackageInfo> info, std::s
     Package* const existing = fullName.empty() ? nullptr : findPublishedPackage(fullName);
     if (!existing || existing->info())
         requireFree(fullName);
-    Package& package = findOrMake(fullName);
-    package.adopt(std::move(info));
-    record([&package] { package.disown(); });
+    changing([&] {
+        Package& package = findOrMake(fullName);
+        makeRoomToRecord();
+        package.adopt(std::move(info));
+        record([&package] { package.disown(); });
+    });
 }
 
 void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info, Package& package)
@@ -166,15 +168,16 @@ void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info, Package& p
     requireFree(fullName);
     if (package.name() && splitLast(fullName).first != package.fullName())
         throwHostError("VELMARA:class", "otherPackage", {std::string(fullName), std::string(package.fullName())});
-    Class& cls = package.place(std::make_unique<Class>(std::move(info), intern(fullName), machine_));
-    record([&package, &cls] { package.remove(cls); });
+    package.place(std::make_unique<Class>(std::move(info), intern(fullName), machine_));
 }
 
 void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info)
 {
     requireFree(info->getName());
-    Package& package = findOrMake(splitLast(info->getName()).first);
-    addClass(std::move(info), package);
+    changing([&] {
+        Package& package = findOrMake(splitLast(info->getName()).first);
+        addClass(std::move(info), package);
+    });
 }
 
 namespace {
@@ -207,19 +210,19 @@ void PackageTree::removePackage(Name fullName)
 
 void PackageTree::endAllObjects()
 {
-    root_->endAllObjects();
+    root_.endAllObjects();
 }
 
-void PackageTree::clear()
+void PackageTree::clear() noexcept
 {
-    root_->close();
+    root_.close();
     packages_ = {};
     classes_ = {};
-    machine_.retire(
-        std::shared_ptr<Package>(std::exchange(root_, std::make_unique<Package>(*this, nullptr, nullptr, nullptr))));
+    recentClasses_.clear();
+    root_.clear();
 }
 
-void PackageTree::leave(Package const& package)
+void PackageTree::leave(Package const& package) noexcept
 {
     Package* const* const found = packages_.find(package.name());
     if (found && *found == &package)
@@ -230,7 +233,7 @@ void PackageTree::leave(Package const& package)
         leave(*cls);
 }
 
-void PackageTree::leave(Class const& cls)
+void PackageTree::leave(Class const& cls) noexcept
 {
     Class* const* const found = classes_.find(cls.name());
     if (found && *found == &cls) {
@@ -240,26 +243,48 @@ void PackageTree::leave(Class const& cls)
     }
 }
 
-void PackageTree::record(Undo undo)
+void PackageTree::record(Undo undo) noexcept
 {
-    if (record_)
-        record_->push_back(std::move(undo));
+    if (changes_ != 0 && !isUndoing_)
+        record_.push_back(std::move(undo));
 }
 
-void PackageTree::recording(std::function<void()> const& populate)
+void PackageTree::makeRoomToRecord()
 {
-    std::vector<Undo> added;
-    std::vector<Undo>* const outer = std::exchange(record_, &added);
+    makeRoom(record_);
+}
+
+void PackageTree::changing(std::function<void()> const& change)
+{
+    std::size_t const before = record_.size();
+    ++changes_;
     try {
-        populate();
-        record_ = outer;
+        change();
     } catch (...) {
-        record_ = nullptr;
-        for (auto undo = added.rbegin(); undo != added.rend(); ++undo)
-            (*undo)();
-        record_ = outer;
+        undoTo(before);
+        --changes_;
         throw;
     }
+    if (--changes_ == 0)
+        record_.clear();
+}
+
+void PackageTree::populating(std::function<void()> const& populate)
+{
+    std::size_t const before = record_.size();
+    changing(populate);
+    record_.resize(std::min(before, record_.size()));
+}
+
+void PackageTree::undoTo(std::size_t recorded) noexcept
+{
+    bool const wasUndoing = std::exchange(isUndoing_, true);
+    while (record_.size() > recorded) {
+        Undo const undo = std::move(record_.back());
+        record_.pop_back();
+        undo();
+    }
+    isUndoing_ = wasUndoing;
 }
 
 } // namespace velmara

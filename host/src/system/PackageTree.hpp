@@ -19,7 +19,7 @@ public:
     explicit PackageTree(HvmState& machine);
 
     HvmState& machine() const { return machine_; }
-    Package& root() { return *root_; }
+    Package& root() { return root_; }
 
     /// Null when there is none. The parents are populated when they were not yet, and asked to load the package.
     Package* findPackage(std::string_view fullName);
@@ -49,37 +49,53 @@ public:
 
     void endAllObjects();
 
-    /// Removes everything.
-    void clear();
-
-    /// For packages, which own what is published: what is found under its full name from now on, and no longer.
-    void enter(Package& package) { packages_[package.name()] = &package; }
-    void enter(Class& cls) { classes_[cls.name()] = &cls; }
-    void leave(Package const& package);
-    void leave(Class const& cls);
-
-    /// Throws "VELMARA:package:name" for what is no dotted name, and "VELMARA:package:duplicate" for one that is
-    /// taken.
-    void requireFree(std::string_view fullName) const;
+    /// Removes everything. Needs no memory.
+    void clear() noexcept;
 
     using Undo = std::function<void()>;
 
-    /// Keeps `undo` for the case that the population that is under way fails.
-    void record(Undo undo);
+    /// For packages, which own what is published: what is found under its full name from now on, and no longer. `undo`
+    /// is recorded. A failure changes nothing.
+    template <class T>
+    void enter(T& published, Undo undo)
+    {
+        makeRoomToRecord();
+        entriesOf(published)[published.name()] = &published;
+        record(std::move(undo));
+    }
+    void leave(Package const& package) noexcept;
+    void leave(Class const& cls) noexcept;
 
-    /// Runs `populate`; when it throws, all that was recorded meanwhile is undone, last things first.
-    void recording(std::function<void()> const& populate);
+    /// Throws "VELMARA:package:name" for what is no dotted name, and "VELMARA:package:duplicate" for one that is
+    /// taken.
+    void requireFree(std::string_view fullName);
+
+    /// Keeps `undo` for the case that what is under way fails. There must be room for it.
+    void record(Undo undo) noexcept;
+    void makeRoomToRecord();
+
+    /// Runs `change`; when it throws, all that was recorded meanwhile is undone, last things first. When it succeeds it
+    /// is undone with what it is part of.
+    void changing(std::function<void()> const& change);
+
+    /// The same for what stays when it has succeeded, whatever becomes of what had it done.
+    void populating(std::function<void()> const& populate);
 
 private:
+    NameMap<Package*>& entriesOf(Package const&) { return packages_; }
+    NameMap<Class*>& entriesOf(Class const&) { return classes_; }
+    void undoTo(std::size_t recorded) noexcept;
     Package& findOrMake(std::string_view fullName);
-    Package* findPublishedPackage(std::string_view fullName) const;
+    Package* findPublishedPackage(std::string_view fullName);
 
     HvmState& machine_;
     NameMap<Package*> packages_;
     NameMap<Class*> classes_;
     RecentClasses recentClasses_;
-    std::vector<Undo>* record_ = nullptr;
-    std::unique_ptr<Package> root_;
+    std::vector<Undo> record_;
+    int changes_ = 0; ///< that are under way
+    bool isUndoing_ = false;
+    Package root_;
 };
 
 } // namespace velmara

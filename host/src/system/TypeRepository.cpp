@@ -88,10 +88,9 @@ void TypeRepository::remove(Name name)
 
 void TypeRepository::addConversion(Name from, Name to, std::unique_ptr<orbis::COSTypeConversion> conversion)
 {
-    auto& conversion_ = conversions_[to][from];
-    if (conversion_)
+    if (findConversion(from, to))
         throwHostError("VELMARA:type", "duplicateConversion", {text(from), text(to)});
-    conversion_ = std::move(conversion);
+    conversions_[to][from] = std::move(conversion);
 }
 
 void TypeRepository::removeConversion(Name from, Name to)
@@ -111,14 +110,17 @@ orbis::COSTypeConversion* TypeRepository::findConversion(Name from, Name to) con
     return found ? found->get() : nullptr;
 }
 
-void TypeRepository::forgetClass(Name className)
+void TypeRepository::forgetClass(Name className) noexcept
 {
-    for (char const* const suffix : {"", " vector", " or empty"}) {
-        Name const name = findInterned(text(className) + suffix);
-        Entry* const entry = name ? types_.find(name) : nullptr;
-        if (!entry || entry->isRegistered)
-            continue;
-        Held const removed = std::move(entry->type);
+    auto const isOfClass = [className](Name name, Entry const& entry) {
+        std::string_view const type = name->view();
+        if (entry.isRegistered || !type.starts_with(className->view()))
+            return false;
+        std::string_view const suffix = type.substr(className->view().size());
+        return suffix.empty() || suffix == " vector" || suffix == " or empty";
+    };
+    while (Name const name = types_.findIf(isOfClass)) {
+        Held const removed = std::move(types_.find(name)->type);
         types_.erase(name);
     }
 }

@@ -32,8 +32,8 @@ public:
     void removeConversion(Name from, Name to);
     orbis::COSTypeConversion* findConversion(Name from, Name to) const;
 
-    /// Drops the data types of a class that is no longer published.
-    void forgetClass(Name className);
+    /// Drops the data types of a class that is no longer published. Needs no memory.
+    void forgetClass(Name className) noexcept;
     void clear();
 
 private:

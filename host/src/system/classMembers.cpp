@@ -54,13 +54,22 @@ void Class::addProperty(orbis::COSPropInfo* property)
     contents_->properties.push_back(std::move(added));
 }
 
+void Class::buildTables(NewTables& tables)
+{
+    if (!isReady())
+        return; // it was unpublished meanwhile
+    tables.emplace_back(this, buildMemberTables(linearization()));
+    for (Class* const subclass : subclasses_)
+        subclass->buildTables(tables);
+}
+
 void Class::rebuildTables()
 {
+    NewTables rebuilt;
+    buildTables(rebuilt);
     // A call that is under way may still look at the old tables.
-    machine_.retire(std::exchange(contents_->tables, buildMemberTables(linearization())));
-    for (Class* const subclass : subclasses_)
-        if (subclass->isReady())
-            subclass->rebuildTables();
+    for (auto& [cls, tables] : rebuilt)
+        machine_.retire(std::exchange(cls->contents_->tables, std::move(tables)));
 }
 
 template <class Find, class Attempt>
@@ -72,15 +81,21 @@ auto Class::load(Find find, Attempt attempt)
         if (cls.isLoading_)
             continue;
         cls.isLoading_ = true;
+        bool const wasStale = cls.isStale_;
         try {
-            if (attempt(cls.info()))
+            if (wasStale || attempt(cls.info())) {
+                cls.isStale_ = true;
                 cls.rebuildTables();
+                cls.isStale_ = false;
+            }
         } catch (...) {
             cls.isLoading_ = false;
             throw;
         }
         cls.isLoading_ = false;
         found = find();
+        if (wasStale)
+            --i; // its class info is yet to be asked
     }
     return found;
 }

@@ -67,7 +67,7 @@ void Hvm::defineEnumeration(std::string_view fullName, std::span<EnumeratorRecor
     callInto(*state_, [&] {
         PackageTree& packages = state_->packages();
         packages.findClass(fullName); // has the packages on the way populated
-        packages.recording([&] {
+        packages.changing([&] {
             packages.addClass(std::make_unique<DefinedEnumeration>(fullName, enumerators));
             requireClass(*state_, fullName);
         });

@@ -8,16 +8,21 @@
 #include "libkwi18n/libkwi18n.hpp"
 
 #include <exception>
+#include <new>
 
 namespace velmara {
 
-Error currentError()
+namespace {
+
+Error translatedError()
 {
     constexpr char const* native = "VELMARA:native";
     try {
         throw;
     } catch (Error const& error) {
         return error;
+    } catch (std::bad_alloc const&) {
+        throw;
     } catch (foundation::core::except::IMsgIDException const& error) {
         std::string const& identifier = error.getErrorID();
         // Not `what()`, which ends at a zero in an argument.
@@ -29,6 +34,27 @@ Error currentError()
         return {"VELMARA:native:exception", messageText(native, "exception", {error.what()})};
     } catch (...) {
         return {"VELMARA:native:unknown", messageText(native, "unknown", {})};
+    }
+}
+
+} // namespace
+
+Error currentError()
+{
+    try {
+        return translatedError();
+    } catch (std::bad_alloc const&) {
+        return Error::outOfMemory();
+    }
+}
+
+void rethrowShortage()
+{
+    try {
+        throw;
+    } catch (std::bad_alloc const&) {
+        throw;
+    } catch (...) { // all else is the caller's
     }
 }
 

@@ -6,12 +6,16 @@
 
 namespace velmara {
 
-/// Inside a handler: what is being handled as a `velmara::Error`. An exception with a message identity keeps it; others
-/// become "VELMARA:native:exception" with their text, and what is no exception at all "VELMARA:native:unknown".
+/// Inside a handler: what is being handled as a `velmara::Error`. An exception with a message identity keeps it; a
+/// shortage of memory is `Error::outOfMemory` wherever it arises; others become "VELMARA:native:exception" with their
+/// text, and what is no exception at all "VELMARA:native:unknown".
 Error currentError();
 
 /// Inside a handler: throws that error.
 [[noreturn]] void rethrowAsError();
+
+/// Inside a handler: passes on a shortage of memory, which is no fault of what it came from.
+void rethrowShortage();
 
 /// Inside a handler: the text of what is being handled, without its identifier.
 std::string textOfCurrentException();

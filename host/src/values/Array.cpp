@@ -27,6 +27,8 @@ Array* Array::createAround(Payload& payload, hvClassID classID, std::size_t rows
         array->elements_ = payload.elements();
         return array;
     } catch (...) {
+        if (classID == hvSTRING_CLASS)
+            std::destroy_n(static_cast<StringElement*>(payload.elements()), rows * columns);
         payload.free();
         throw;
     }

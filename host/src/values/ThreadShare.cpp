@@ -1,6 +1,9 @@
 #include "values/ThreadShare.hpp"
 
+#include <algorithm>
 #include <mutex>
+#include <new>
+#include <thread>
 
 #include <pthread.h>
 
@@ -15,23 +18,20 @@ constinit thread_local ThreadShare* shareOfThisThread [[gnu::tls_model("initial-
 namespace {
 
 struct alignas(64) Share : ThreadShare {
-    bool isTaken = true;
+    bool isTaken = false;
     Share* next = nullptr;
 };
 
-// None is ever freed: things may be counted until the very end of the process.
+// None is ever freed: things may be counted until the very end of the process. There is always one more than threads
+// have taken, so that the next thread can count although there is no memory.
+constinit Share firstShares[16] = {};
 constinit Share* shares = nullptr;
-
-std::mutex& sharesMutex()
-{
-    static auto& mutex = *new std::mutex;
-    return mutex;
-}
+constinit std::mutex sharesMutex;
 
 void giveShareBack(void* share)
 {
     shareOfThisThread = nullptr;
-    std::scoped_lock lock(sharesMutex());
+    std::scoped_lock lock(sharesMutex);
     static_cast<Share*>(share)->isTaken = false;
 }
 
@@ -48,25 +48,46 @@ void keepUntilThreadEnd(Share* share)
         pthread_setspecific(atThreadEnd.key, share);
 }
 
-Share* findOrMakeShare()
+void addShare(Share* share)
 {
-    std::scoped_lock lock(sharesMutex());
-    for (Share* share = shares; share; share = share->next) {
-        if (!share->isTaken) {
-            share->isTaken = true;
-            return share;
-        }
-    }
-    auto* share = new Share;
+    if (!share)
+        return;
     share->next = shares;
-    return shares = share;
+    shares = share;
+}
+
+Share* findFree()
+{
+    Share* share = shares;
+    while (share && share->isTaken)
+        share = share->next;
+    return share;
+}
+
+/// Null when there is neither a free one nor memory.
+Share* takeFree()
+{
+    std::scoped_lock lock(sharesMutex);
+    if (!shares)
+        std::ranges::for_each(firstShares, [](Share& share) { addShare(&share); });
+    if (!findFree())
+        addShare(new (std::nothrow) Share);
+    Share* const share = findFree();
+    if (!share)
+        return nullptr;
+    share->isTaken = true;
+    if (!findFree())
+        addShare(new (std::nothrow) Share);
+    return share;
 }
 
 } // namespace
 
 ThreadShare& takeThreadShare() noexcept
 {
-    Share* share = findOrMakeShare();
+    Share* share = takeFree();
+    for (; !share; share = takeFree())
+        std::this_thread::yield(); // until another thread ends, or gives memory back
     shareOfThisThread = share;
     keepUntilThreadEnd(share);
     return *share;
@@ -74,7 +95,7 @@ ThreadShare& takeThreadShare() noexcept
 
 LiveCounts liveCounts()
 {
-    std::scoped_lock lock(sharesMutex());
+    std::scoped_lock lock(sharesMutex);
     LiveCounts sum;
     for (Share const* share = shares; share; share = share->next) {
         sum.objects += share->counts.objects;

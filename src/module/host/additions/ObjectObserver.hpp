@@ -24,9 +24,8 @@ protected:
 };
 
 /// Makes `observer` (null for none) the observer of the current virtual machine's objects, in place of the one before.
-/// It stays the caller's, and lives as long as the virtual machine's storage at least. Throws
-/// "VELMARA:hvm:noVirtualMachine" when no virtual machine is current.
-ORBIS_HOST_API void observeObjects(ObjectObserver* observer);
+/// It stays the caller's, who takes it away before it is destroyed. Does nothing when no virtual machine is current.
+ORBIS_HOST_API void observeObjects(ObjectObserver* observer) noexcept;
 
 /// Asks for one `callBoundary` of the current virtual machine's observer. Does nothing when none is current.
 ORBIS_HOST_API void requestCallBoundary() noexcept;
