@@ -14,6 +14,8 @@ check: ## formatting, static analysis, headers that stand alone
 	@scripts/check
 sanitize: ## every test under the address, undefined behaviour and leak sanitizers
 	@scripts/sanitize
+faults: ## all that can fail, failing: every allocation and callback of the tour and more
+	@scripts/faults
 windows: ## cross-compile for Windows and run the tests under Wine
 	@scripts/windows
 bench: ## measure: times, and instruction counts beside their goals

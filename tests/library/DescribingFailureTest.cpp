@@ -1,6 +1,5 @@
 #include "HvmTest.hpp"
 #include "host/messageIdOf.hpp"
-#include "library/FailingAllocation.hpp"
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/describeFunctions.hpp"
@@ -10,7 +9,6 @@
 #include "orbis/COSMethodInfo.hpp"
 #include "orbis/COSPropInfo.hpp"
 
-#include <set>
 #include <stdexcept>
 
 using namespace orbis;
@@ -70,50 +68,6 @@ void publishClasses(velmara::Hvm& hvm)
     hvm.lookUp("tests.Derived");
     constexpr additions::Message text{"member_not_published", "{0} cannot be published: {1}"};
     additions::addMessages("orbis_factory:orbis_factory", {&text, 1});
-}
-
-/// What describing says when its n-th allocation fails; empty when it has fewer. Asked again, it succeeds.
-std::string describeWithout(std::size_t n)
-{
-    velmara::Hvm hvm;
-    velmara::Hvm::Scope const scope(hvm);
-    publishClasses(hvm);
-    std::string text;
-    {
-        FailingAllocation const armed(n);
-        try {
-            hvm.describeClass("tests.Derived");
-        } catch (velmara::Error const& error) {
-            text = error.what();
-        }
-        if (text.empty() && FailingAllocation::hasFailed())
-            text = "went on without it";
-    }
-    velmara::ClassRecord const record = hvm.describeClass("tests.Derived");
-    EXPECT_EQ(record.methods.size(), 3u);
-    EXPECT_EQ(record.properties.size(), 4u);
-    EXPECT_EQ(record.superclasses, std::vector<std::string>{"tests.Base"});
-    return text;
-}
-
-TEST(DescribingFailure, WhicheverAllocationFailsTheNextRequestSucceeds)
-{
-    describeWithout(100000); // names are interned once in a process
-    std::set<std::string> named;
-    std::size_t n = 0;
-    for (std::string text; !(text = describeWithout(n)).empty(); ++n) {
-        ASSERT_EQ(velmara::liveCounts(), velmara::LiveCounts{}) << text;
-        if (text.starts_with("VELMARA:class:initialization")) {
-            EXPECT_NE(text.find("tests.Derived"), std::string::npos) << text;
-        }
-        for (char const* const member : members)
-            if (text.find(std::string(member) + " cannot be published") != std::string::npos)
-                named.insert(member);
-    }
-#if defined(__linux__)
-    EXPECT_EQ(named.size(), std::size(members));
-    EXPECT_GT(n, 50u);
-#endif
 }
 
 class DescribingFailureTest : public HvmTest {

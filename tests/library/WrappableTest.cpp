@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "library/FailingAllocation.hpp"
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/basic/BindingRegistry.hpp"
@@ -63,10 +62,6 @@ protected:
 
 TEST_F(WrappableTest, CopiesAreUnbound)
 {
-    {
-        FailingAllocation const armed(0);
-        Thing const unbound; // ends before anything was bound
-    }
     publishThing();
     Thing thing;
     ArrayPtr const array = announce(&thing);

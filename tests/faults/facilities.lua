@@ -1,0 +1,53 @@
+local value = probe.Value(1.5)
+value.metres = value.metres + 1
+print(value.metres, value.length, value.loan, value:stretch(2))
+value.length = value.length + 1
+print(value.metres, pcall(function() return value.nothing end))
+return value
+
+local handle, other = probe.Handle(1), probe.Handle(2)
+handle.other = other
+print(handle.other == other, handle.other.metres)
+handle.other = nil
+delete(other)
+print(other, handle.loan)
+return handle
+
+local native = probe.inner.most.makeNative()
+native.metres = 3
+print(native.metres, probe.inner.most.makeNative() == native)
+return {native, probe.Handle(2)}
+
+local derived = probe.inner.most.makeDerived()
+print(class(derived), derived.metres, derived.length)
+return {derived, probe.Shared(3)}
+
+print(probe.inner.most.sum({1, 2.5, 3}), pcall(probe.inner.most.sum, {"text"}))
+return probe.inner.most.sum({1})
+
+local text = {}
+for i = 1, 30 do text[i] = "text that is not short: " .. i end
+local strings = orbis_factory.P1.C1.tailor(array("string", {text}))
+return {strings, {strings, {strings}}, array("int16", {{1, 2}, {3, 4}}), null, text[1]}
+
+pcall(enumeration, "vehicle.Gear", {"First", "Second", "Neutral", "Reverse"})
+local box = orbis_factory.NP1.N2.gearbox()
+box.gear = "Second"
+print(box.gear, #box.gears)
+return orbis_factory.Weekday.Monday
+
+for _, name in ipairs {"orbis_factory.Person", "probe.Shared", "orbis_factory.Weekday"} do help(name) end
+print(withvm(function() return probe.Value(2).metres end))
+return objects()[1] and #objects() > 0
+
+local book = orbis_factory.TreeNodeBase("Book")
+book:add(orbis_factory.TreeNodeDerived("Preface", 3))
+print(book:pages(), book.children.parent == book, #references(book))
+return book
+
+local node -- a chain longer than ends are nested
+for i = 1, 110 do
+  local outer = probe.Handle(i)
+  outer.other, node = node, outer
+end
+print(node.metres)

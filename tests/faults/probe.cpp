@@ -1,0 +1,235 @@
+// A module with a native callback of each kind, each of which throws where the program has it throw.
+#include "library/publishClass.hpp"
+
+#include "orbis/factory/DataTypePolicy.hpp"
+#include "orbis/factory/Exception.hpp"
+#include "orbis/factory/NonHandleClassInfo.hpp"
+#include "orbis/factory/NumericVectorPolicy.hpp"
+#include "orbis/factory/ObjectHandle.hpp"
+#include "orbis/factory/SharedPointerPolicy.hpp"
+#include "orbis/factory/StdShareableHandleClassInfo.hpp"
+#include "orbis/factory/ValuePolicy.hpp"
+#include "orbis/factory/describeFunctions.hpp"
+
+#include "orbis/COSPackage.hpp"
+#include "orbis/COSPackageInfo.hpp"
+
+#include <memory>
+#include <new>
+#include <stdexcept>
+#include <vector>
+
+#include <dlfcn.h>
+
+using namespace orbis;
+using namespace orbis::factory;
+
+namespace {
+
+void callback(char const* name = "callback")
+{
+    static auto* const reach = reinterpret_cast<int (*)(char const*)>(dlsym(RTLD_DEFAULT, "reachCallback"));
+    switch (reach(name)) {
+    case 1:
+        throw Exception("thrown on purpose");
+    case 2:
+        throw std::runtime_error("thrown on purpose");
+    case 3:
+        throw std::bad_alloc();
+    case 4:
+        throw 4;
+    default:
+        return;
+    }
+}
+
+/// Crosses as a number.
+struct Length {
+    double metres;
+};
+
+/// What the classes have in common; `Base` says how they are owned.
+template <class Base, int = 0>
+struct Thing : Base {
+    explicit Thing(double metres = 0) : metres_(metres) { callback(); }
+    double metres() const { return callback(), metres_; }
+    void setMetres(double metres) { callback(), metres_ = metres; }
+    Length length() const { return {metres_}; }
+    void setLength(Length length) { metres_ = length.metres; }
+    double stretch(Length by) { return callback(), metres_ += by.metres; }
+    void takeBack() { callback("release routine"); }
+
+private:
+    double metres_;
+};
+
+struct Empty {};
+struct Handle;
+
+} // namespace
+
+#define PUBLISHED(Type, ...)                                                                                           \
+    template <>                                                                                                        \
+    struct orbis::factory::HostClass<Type> {                                                                           \
+        static constexpr char const* name = "probe." #Type;                                                            \
+        __VA_ARGS__                                                                                                    \
+    };
+PUBLISHED(Handle)
+
+namespace {
+
+using Value = Thing<Empty>;
+
+/// Deleted with its host object.
+struct Handle : Thing<full::Wrappable> {
+    using Thing::Thing;
+    Handle* other() const { return other_.get(); }
+    void setOther(Handle* other) { other_.reset(other); }
+
+private:
+    ObjectHandle<Handle> other_;
+};
+
+struct Shared : Thing<full::StdShareable> {
+    using Thing::Thing;
+};
+
+struct Derived : Shared {
+    using Shared::Shared;
+};
+
+struct Native : Thing<full::Wrappable, 1> {
+    using Thing::Thing;
+};
+
+/// What native code keeps whatever becomes of its host objects.
+struct {
+    std::vector<std::unique_ptr<Native>> own;
+    std::vector<std::shared_ptr<Shared>> shared;
+} natives;
+
+Native* makeNative()
+{
+    return natives.own.emplace_back(std::make_unique<Native>(1)).get();
+}
+
+std::shared_ptr<Shared> makeDerived()
+{
+    return natives.shared.emplace_back(std::make_shared<Derived>(2));
+}
+
+double sum(std::vector<double> const& numbers)
+{
+    callback();
+    double result = 0;
+    for (double const number : numbers)
+        result += number;
+    return result;
+}
+
+} // namespace
+
+PUBLISHED(Value, using Policy = ValuePolicy;)
+PUBLISHED(Shared)
+PUBLISHED(Derived)
+PUBLISHED(Native)
+
+template <>
+struct orbis::factory::HostDataType<Length> {
+    static constexpr char const* name = "double vector";
+    static hvArray* toHost(Length length)
+    {
+        callback("conversion");
+        hvArray* const value = additions::createMatrix(1, 1, hvDOUBLE_CLASS);
+        *static_cast<double*>(additions::getWritableData(value)) = length.metres;
+        return value;
+    }
+    static Length fromHost(hvArray* value)
+    {
+        callback("conversion");
+        return {*static_cast<double const*>(additions::getData(value))};
+    }
+};
+
+namespace {
+
+/// A class info whose every answer may fail; what it has to give back is given back before.
+template <class T, class Base>
+struct Info final : Base {
+    Info() : Base(HostClass<T>::name, "") {}
+
+    bool classIsAbstract() const override { return callback("class info"), false; }
+    bool attemptToLoadMethod(char const*) override { return callback("class info"), false; }
+    void* createInstanceData() override { return callback("class info"), Base::createInstanceData(); }
+    bool destroyInstanceData(COSInterface* object, void* data) override
+    {
+        bool const result = Base::destroyInstanceData(object, data);
+        callback("class info");
+        return result;
+    }
+    void initializeClass(COSClass* cls) override
+    {
+        callback("class info");
+        auto description = describe<T>();
+        description.template constructor<double>("metres");
+        if constexpr (std::is_same_v<T, Derived>)
+            description.template inherits<Shared>();
+        else
+            description.property("metres", &T::metres, &T::setMetres)
+                .property("length", &T::length, &T::setLength)
+                .property("loan", releasedBy<&T::takeBack>(&T::metres))
+                .method("stretch", &T::stretch, "by");
+        if constexpr (std::is_same_v<T, Handle>)
+            description.property("other", &Handle::other, &Handle::setOther);
+        publish(cls, description);
+        callback("class info");
+    }
+};
+
+struct Root final : COSPackageInfo {
+    char const* getName() const override { return "probe"; }
+    void initializePackage(COSPackage* package) override
+    {
+        package->addClass(new Info<Value, NonHandleClassInfo<Value>>);
+        package->addClass(new Info<Handle, HandleClassInfo<full::Wrappable, 1>>);
+        package->addClass(new Info<Shared, StdShareableHandleClassInfo<Shared>>);
+        package->addClass(new Info<Derived, StdShareableHandleClassInfo<Derived>>);
+        package->addClass(new Info<Native, HandleClassInfo<full::Wrappable, 0>>);
+        callback("initializer");
+        registerOrbisPackage("probe.inner.most", [](COSPackage* inner) {
+            publish(inner, describeFunctions()
+                               .function("sum", &sum, "numbers")
+                               .function("makeNative", &makeNative)
+                               .function("makeDerived", &makeDerived));
+            callback("initializer");
+        });
+        callback("initializer");
+    }
+};
+
+} // namespace
+
+#define ENTRY_POINT extern "C" __attribute__((visibility("default")))
+
+ENTRY_POINT void dropNatives()
+{
+    natives = {};
+}
+
+ENTRY_POINT void VXInitialize_faults_probe()
+{
+    callback("initializer");
+    if (!COSPackage::getPackage("probe"))
+        COSPackage::addPackage(new Root);
+    callback("initializer");
+}
+
+ENTRY_POINT void VXTerminate_faults_probe()
+{
+    COSPackage::removePackage("probe");
+}
+
+ENTRY_POINT void* QueryVXFcnTable_faults_probe()
+{
+    return nullptr;
+}
