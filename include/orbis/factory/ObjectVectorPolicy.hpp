@@ -4,6 +4,7 @@
 #include "orbis/factory/MarshalingPolicy.hpp"
 #include "orbis/factory/detail/NewArray.hpp"
 #include "orbis/factory/detail/ReferredObjects.hpp"
+#include "orbis/factory/detail/bindings.hpp"
 #include "orbis/factory/detail/refuseNullInput.hpp"
 
 #include "orbis/objectArrays.hpp"
