@@ -27,54 +27,6 @@ std::string taken(char* text, void (*release)(void*))
 
 } // namespace
 
-TEST(TextTest, WellFormedTextCrossesUnchanged)
-{
-    std::pair<std::string, std::u16string> const texts[] = {
-        {"", u""},
-        {"plain text of some length", u"plain text of some length"},
-        {"zero\0inside"s, u"zero\0inside"s},
-        {"\x7F\xC2\x80\xDF\xBF", u"\x7F\x80\x7FF"},
-        {"\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF", u"\x800\xD7FF\xE000\xFFFF"},
-        {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", u"\xD800\xDC00\xDBFF\xDFFF"},
-        {"eight...\xC3\xA4 and eight more \xF0\x9F\x98\x80", u"eight...\xE4 and eight more \xD83D\xDE00"},
-    };
-    for (auto const& [utf8, utf16] : texts) {
-        EXPECT_EQ(to_ustring(utf8), utf16) << utf8;
-        EXPECT_EQ(to_string(utf16), utf8);
-    }
-    using foundation::core::except::IUserException;
-    EXPECT_EQ(IUserException::convert_str("\xC3\xA4"s), u"\xE4");
-    EXPECT_EQ(IUserException::convert_str(u"\xE4"s), "\xC3\xA4");
-    EXPECT_EQ(IUserException::ToUstringImpl(nullptr), u"");
-}
-
-// One replacement for each maximal part that could have begun a character.
-TEST(TextTest, IllFormedTextIsReplacedPartByPart)
-{
-    std::pair<std::string, std::u16string> const texts[] = {
-        {"\x80", u"\xFFFD"},
-        {"\xC0\xAF", u"\xFFFD\xFFFD"},
-        {"\xE0\x80\x80", u"\xFFFD\xFFFD\xFFFD"},
-        {"\xED\xA0\x80", u"\xFFFD\xFFFD\xFFFD"},
-        {"\xF0\x8F\xBF\xBF", u"\xFFFD\xFFFD\xFFFD\xFFFD"},
-        {"\xF4\x90\x80\x80", u"\xFFFD\xFFFD\xFFFD\xFFFD"},
-        {"\xF5\xFF", u"\xFFFD\xFFFD"},
-        {"\xE2\x82", u"\xFFFD"},
-        {"\xF0\x9F\x98", u"\xFFFD"},
-        {"\xE2\x82z", u"\xFFFDz"},
-        {"\xF0\x9F\xC3\xA4", u"\xFFFD\xE4"},
-        {"\x61\xF1\x80\x80\xE1\x80\xC2\x62\x80\x63\x80\xBF\x64", u"a\xFFFD\xFFFD\xFFFD"
-                                                                 u"b\xFFFD"
-                                                                 u"c\xFFFD\xFFFD"
-                                                                 u"d"},
-    };
-    for (auto const& [utf8, utf16] : texts)
-        EXPECT_EQ(to_ustring(utf8), utf16) << testing::PrintToString(utf8);
-    EXPECT_EQ(to_string(u"\xD800"), "\xEF\xBF\xBD");
-    EXPECT_EQ(to_string(u"\xDC00\xD800z"), "\xEF\xBF\xBD\xEF\xBF\xBDz");
-    EXPECT_EQ(to_string(u"\xD800\xD83D\xDE00"), "\xEF\xBF\xBD\xF0\x9F\x98\x80");
-}
-
 TEST_F(TextArrayTest, CharacterArraysHoldUtf16)
 {
     struct {
@@ -107,14 +59,23 @@ TEST_F(TextArrayTest, CharacterArraysHoldUtf16)
     EXPECT_EQ(hvArray2String(nullptr), nullptr);
 }
 
-// ASCII is copied in blocks of several sizes: all lengths around them, and what is no ASCII at every place.
+// ASCII is copied in blocks of several sizes: all lengths around them, and what is no ASCII at every place. One
+// replacement stands for each maximal part that could have begun a character.
 TEST_F(TextArrayTest, TextOfEveryLengthIsWholeInBothForms)
 {
     std::tuple<std::string, std::u16string, std::string> const others[] = {
         {"", u"", ""},
-        {"\xC3\xA9", u"\xE9", "\xC3\xA9"},
-        {"\xF0\x9F\x98\x80", u"\xD83D\xDE00", "\xF0\x9F\x98\x80"},
-        {"\xE2\x82", u"\xFFFD", "\xEF\xBF\xBD"}};
+        {"\x7F\xC2\x80\xDF\xBF", u"\x7F\x80\x7FF", "\x7F\xC2\x80\xDF\xBF"},
+        {"\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF", u"\x800\xD7FF\xE000\xFFFF",
+         "\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF"},
+        {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", u"\xD800\xDC00\xDBFF\xDFFF", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
+        {"\xED\xA0\x80", u"\xFFFD\xFFFD\xFFFD", "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"},
+        {"\x80\xC0\xAF", u"\xFFFD\xFFFD\xFFFD", "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"},
+        {"\xE0\x80\xF0\x8F", u"\xFFFD\xFFFD\xFFFD\xFFFD", "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"},
+        {"\xF4\x90\xF5\xFF", u"\xFFFD\xFFFD\xFFFD\xFFFD", "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"},
+        {"\xE2\x82.\xF0\x9F\x98", u"\xFFFD.\xFFFD", "\xEF\xBF\xBD.\xEF\xBF\xBD"},
+        {"\xF1\x80\x80\xE1\x80\xC2", u"\xFFFD\xFFFD\xFFFD", "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"},
+        {"\xF0\x9F\xC3\xA4", u"\xFFFD\xE4", "\xEF\xBF\xBD\xC3\xA4"}};
     std::string const letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
     for (std::size_t size = 0; size <= letters.size(); ++size) {
         for (std::size_t place = 0; place <= size; ++place) {
@@ -133,6 +94,14 @@ TEST_F(TextArrayTest, TextOfEveryLengthIsWholeInBothForms)
             }
         }
     }
+    EXPECT_EQ(to_ustring("zero\0inside"s), u"zero\0inside"s);
+    EXPECT_EQ(to_string(u"zero\0inside"s), "zero\0inside"s);
+    EXPECT_EQ(to_string(u"\xDC00\xD800z\xD800\xD83D\xDE00\xD800"),
+              "\xEF\xBF\xBD\xEF\xBF\xBDz\xEF\xBF\xBD\xF0\x9F\x98\x80\xEF\xBF\xBD");
+    using foundation::core::except::IUserException;
+    EXPECT_EQ(IUserException::convert_str("\xC3\xA4"s), u"\xE4");
+    EXPECT_EQ(IUserException::convert_str(u"\xE4"s), "\xC3\xA4");
+    EXPECT_EQ(IUserException::ToUstringImpl(nullptr), u"");
 }
 
 TEST_F(TextArrayTest, TextsAndArraysEndOnAnyThread)

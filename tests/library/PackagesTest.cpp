@@ -40,17 +40,4 @@ TEST_F(PackagesTest, InitializersRunAtOnceOnlyForPackagesThatExist)
     EXPECT_EQ(hvm().describePackage("").packages, std::vector<std::string>{"outer"});
 }
 
-TEST_F(PackagesTest, AFailingInitializerIsTriedAgain)
-{
-    int runs = 0;
-    registerOrbisPackage("flaky", [&](COSPackage* package) {
-        publish(package, describeFunctions().function("f", [] {}));
-        if (++runs == 1)
-            throw std::runtime_error("not yet");
-    });
-    EXPECT_NE(errorOf([&] { hvm().describePackage("flaky"); }), "");
-    EXPECT_EQ(hvm().describePackage("flaky").functions.size(), 1u);
-    EXPECT_EQ(runs, 2);
-}
-
 } // namespace

@@ -1,9 +1,9 @@
 #include "HvmTest.hpp"
 #include "host/messageIdOf.hpp"
-#include "library/publishClass.hpp"
 #include "library/texts.hpp"
 
-#include "orbis/factory/Exception.hpp"
+#include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -83,62 +83,16 @@ TEST_F(StringPolicyTest, WhatIsNoTextIsRefused)
     }
 }
 
-class Label {
-public:
-    explicit Label(std::string name) : name_(std::move(name)) {}
-    virtual ~Label() = default;
-    char const* tag() const { return name_.c_str(); }
-    std::string const& name() const { return name_; }
-    void setName(std::string const& name)
-    {
-        if (name.empty())
-            throw Exception("a name is needed");
-        name_ = name;
-    }
-    fl::ustring title() const { return title_; }
-    void setTitle(fl::ustring title) { title_ = std::move(title); }
-    char swap(char16_t const*, char c) { return c; }
-
-private:
-    std::string name_;
-    fl::ustring title_;
-};
-
-} // namespace
-
-template <>
-struct orbis::factory::HostClass<Label> {
-    static constexpr char const* name = "tests.Label";
-};
-
-namespace {
-
-TEST_F(StringPolicyTest, MembersOfEveryKindCarryStrings)
+TEST_F(StringPolicyTest, EachTypeHasItsDataType)
 {
-    publishClass<Label>([](ClassDescriber<Label>& label) {
-        label.constructor<std::string>("name")
-            .method("tag", &Label::tag)
-            .method("swap", &Label::swap)
-            .property("name", &Label::name, &Label::setName)
-            .property("title", &Label::title, &Label::setTitle);
+    registerOrbisPackage("tests", [](COSPackage* package) {
+        publish(package, describeFunctions().function(
+                             "f", [](std::string const&, char const*, char16_t const*, char, fl::ustring) {}));
     });
-    ArrayPtr const label = hvm().construct("tests.Label", inputs(characters(u"one")));
-    EXPECT_EQ(textOf(hvm().call(label.get(), "tag")), u"one");
-    hvm().set(label.get(), "name", strings({u"two"}).get());
-    hvm().set(label.get(), "title", strings({u"\xD800"}).get());
-    EXPECT_EQ(errorOf([&] { hvm().set(label.get(), "name", characters(u"").get()); }), "VELMARA:native:exception");
-    EXPECT_EQ(errorOf([&] { hvm().set(label.get(), "title", number(1).get()); }), "VELMARA:property:value");
-    EXPECT_EQ(textOf(hvm().get(label.get(), "name")), u"two");
-    EXPECT_EQ(textOf(hvm().get(label.get(), "title")), u"\xD800");
-
     std::string types;
-    auto const record = hvm().describeClass("tests.Label");
-    for (auto const& method : record.methods)
-        for (auto const& parameter : method.inputs)
-            types += parameter.dataType + ", ";
-    for (auto const& property : record.properties)
-        types += property.dataType + ", ";
-    EXPECT_EQ(types, "char vector, tests.Label, tests.Label, char, char, char vector, OrbisFactoryString scalar, ");
+    for (auto const& input : hvm().describeFunction("tests.f").inputs)
+        types += input.dataType + ", ";
+    EXPECT_EQ(types, "char vector, char, char, char, OrbisFactoryString scalar, ");
 }
 
 } // namespace
