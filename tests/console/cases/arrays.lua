@@ -3,6 +3,7 @@ local function refused(f, ...)
   local ok, err = pcall(f, ...)
   print(not ok and tostring(err) or "not refused")
 end
+local function eachRefused(calls) for _, call in ipairs(calls) do refused(table.unpack(call)) end end
 local function show(...)
   local a = array(...)
   local rows, columns = size(a)
@@ -104,18 +105,12 @@ refused(function() s[1] = 5 end)
 refused(function() return a + 1 end)
 refused(function() return missing < null end)
 refused(function() return cases .. 1 end)
-refused(asarray, print)
-refused(asarray, p, "nothing")
-refused(asarray, cases.echo)
-refused(size)
-refused(tolua)
+eachRefused {{asarray, print}, {asarray, p, "nothing"}, {asarray, cases.echo}, {size}, {tolua}}
 print(a, s)
 
 -- sizes beyond all memory, and little that stands for as much
-refused(array, "double", 0, math.maxinteger, math.maxinteger)
-refused(array, "double", 0, 1 << 32, 1 << 32)
-refused(array, "int8", 0, 1 << 31, 1)
-refused(array, "string", "x", 1 << 24, 1)
+eachRefused {{array, "double", 0, math.maxinteger, math.maxinteger}, {array, "double", 0, 1 << 32, 1 << 32},
+  {array, "int8", 0, 1 << 31, 1}, {array, "string", "x", 1 << 24, 1}}
 local doubled, other = array("cell", {1}), array("cell", {1})
 for _ = 1, 100 do doubled, other = array("cell", {doubled, doubled}), array("cell", {other, other}) end
 print(doubled == other, cases.echo(doubled) == other)
@@ -144,5 +139,4 @@ print(closed)
 refused(function() return closed[1] end)
 refused(function() closed[1] = 1 end)
 refused(function() return #closed end)
-refused(cases.echo, closed)
-refused(array, "double", closed)
+eachRefused {{cases.echo, closed}, {array, "double", closed}}

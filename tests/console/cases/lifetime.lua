@@ -3,6 +3,7 @@ local function refused(f, ...)
   local result = table.pack(pcall(f, ...))
   print(result[1], result[1] and result[2] or result[2].identifier)
 end
+local function eachRefused(calls) for _, call in ipairs(calls) do refused(table.unpack(call)) end end
 local function value(object) return object.value end
 
 local p = cases.Probe()
@@ -10,16 +11,12 @@ p.value = 1
 local twin = p:twin()
 delete(p)
 print(p, isvalid(p), isvalid(twin), class(p), p == twin)
-refused(value, p)
-refused(p.twin, p)
-refused(twin.twin, p)
+eachRefused {{value, p}, {p.twin, p}, {twin.twin, p}}
 refused(function() p.value = 2 end)
 refused(cases.echo, {p})
 delete(p)
 delete({cases.Probe(), cases.Probe()})
-refused(delete, 5)
-refused(delete, cases)
-refused(delete, {1})
+eachRefused {{delete, 5}, {delete, cases}, {delete, {1}}}
 
 do
   local closed <close> = cases.Probe()
@@ -58,12 +55,8 @@ unloadmodule("console_cases")
 print(cases, kept, isvalid(kept), isvalid(Probe), Probe, package)
 refused(Probe)
 refused(function() return package.Probe end)
-refused(echo, 1)
-refused(value, kept)
-refused(kept.twin, kept)
-refused(unloadmodule, "console_cases")
-refused(loadmodule, "nowhere.so")
-refused(loadmodule, (loaded[1].file:gsub("orbis_factory(%.%w+)$", "velmara_host%1")))
+eachRefused {{echo, 1}, {value, kept}, {kept.twin, kept}, {unloadmodule, "console_cases"}, {loadmodule, "nowhere.so"},
+  {loadmodule, (loaded[1].file:gsub("orbis_factory(%.%w+)$", "velmara_host%1"))}}
 print(loadmodule(loaded[#loaded].file), isvalid(Probe), isvalid(kept))
 Probe().value = 1
 

@@ -2,19 +2,12 @@
 local function refused(...)
   print(select(2, pcall(cases.echo, ...)))
 end
+local function eachRefused(calls) for _, call in ipairs(calls) do refused(table.unpack(call)) end end
 
-refused(print)
-refused(coroutine.create(print))
-refused(io.stdout)
-refused(cases)
-refused(cases.Probe)
-refused({orbis_factory.Adder})
-refused({x = 1})
-refused({1, 2, [4] = 4})
+eachRefused {{print}, {coroutine.create(print)}, {io.stdout}, {cases}, {cases.Probe}, {{orbis_factory.Adder}},
+  {{x = 1}}, {{1, 2, [4] = 4}}}
 refused({1, nil, 3})
-refused({[1.5] = 1})
-refused({0.5, (1 << 53) + 1})
-refused({{1}, {x = 2}})
+eachRefused {{{[1.5] = 1}}, {{0.5, (1 << 53) + 1}}, {{{1}, {x = 2}}}}
 local cycle = {}
 cycle[1] = cycle
 refused(cycle)
@@ -24,7 +17,6 @@ print(#cases.echo(deep))
 refused({deep})
 local given = cases.Probe()
 do local closed <close> = given end
-refused(given)
-refused({given})
+eachRefused {{given}, {{given}}}
 print(pcall(cases.echo))
 print(select("#", pcall(cases.echo, 1, 2)))

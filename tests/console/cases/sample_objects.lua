@@ -6,6 +6,7 @@ local function refused(f, ...) -- of the candidates' reasons, the last one's
   message = tostring(message):gsub("VELMARA:native:exception: Native code failed: ", "native: ")
   print(ok and "not refused" or message:match("[^\n]*$"))
 end
+local function eachRefused(calls) for _, call in ipairs(calls) do refused(table.unpack(call)) end end
 local function states(...)
   local texts = {}
   for _, object in ipairs({...}) do texts[#texts + 1] = isvalid(object) and "valid" or "ended" end
@@ -20,15 +21,9 @@ for level = 2, 32 do
   lowest:add(node)
   lowest = node
 end
-refused(lowest.add, lowest, of.TreeNodeDerived("33", 1))
-refused(of.TreeNodeBase("0").add, of.TreeNodeBase("0"), top)
-refused(top.add, top, lowest)
-refused(lowest.add, lowest, lowest)
-refused(top.add, top, nil)
-refused(top.remove, top, lowest)
-refused(of.TreeNodeDerived, "x", -1)
-refused(of.TreeNodeDerived, "x")
-refused(top.add, top, of.Container("x"))
+eachRefused {{lowest.add, lowest, of.TreeNodeDerived("33", 1)}, {of.TreeNodeBase("0").add, of.TreeNodeBase("0"), top},
+  {top.add, top, lowest}, {lowest.add, lowest, lowest}, {top.add, top, null}, {top.remove, top, lowest},
+  {of.TreeNodeDerived, "x", -1}, {of.TreeNodeDerived, "x"}, {top.add, top, of.Container("x")}}
 local middle = lowest.parent
 delete(middle)
 print(lowest.parent, isvalid(top), class(top.children))
@@ -60,11 +55,8 @@ refused(function() spokes[2].left = {spokes[3], spokes[4]} end)
 
 -- shared books and dancers
 local Book, Dancer = of.SharedBase, of.StdSharedBase
-refused(Book.shelve, nil)
-refused(Book.arrange, {Book("a"), of.Container("b")})
-refused(Book.arrange, {Book("a"), 3})
-refused(Book.arrange, array(Book, {null}))
-refused(of.SharedDerived, "a", 0)
+eachRefused {{Book.shelve, null}, {Book.arrange, {Book("a"), of.Container("b")}}, {Book.arrange, {Book("a"), 3}},
+  {Book.arrange, array(Book, {null})}, {of.SharedDerived, "a", 0}}
 local kept = Book("kept")
 kept:reserve() kept:reserve()
 print(kept.holders, select(2, kept:cancelReservation(), kept.holders), select(2, kept:cancelReservation(), kept.holders))
@@ -81,16 +73,14 @@ bob.partner = nil
 print(eve.partner, #Dancer.inOrder({}))
 
 -- sauces, apples, vehicles: made by native code only
-refused(of.Alfredo)
-refused(of.Sauce.cook, "soup")
+eachRefused {{of.Alfredo}, {of.Sauce.cook, "soup"}}
 local red, mild = of.Sauce.cook("marinara"), of.Sauce.cook("pasta sauce")
 print(red:shape(), mild:shape(), mild:taste(), of.Sauce.cook("sauce"):taste())
-refused(red.blend, red, red)
-refused(red.blend, red, mild)
+eachRefused {{red.blend, red, red}, {red.blend, red, mild}}
 local hot = of.Sauce.cook("marinara")
 refused(function() while true do red, hot = hot:blend(red), red end end)
 refused(function() while true do red:serve() end end)
-refused(of.Sauce.pourAway, nil)
+refused(of.Sauce.pourAway, null)
 of.Sauce.pourAway(red)
 refused(function() return red:taste() end)
 refused(of.Sauce.pourAway, red)
@@ -99,37 +89,28 @@ local one, two = tree:grow(), tree:grow()
 local apple = one:bear(900)
 one:ripen(apple)
 print(tree.sort, apple.grams, two.apples, #tree.branches)
-refused(two.ripen, two, apple)
-refused(two.drop, two, nil)
-refused(one.bear, one, 0)
+eachRefused {{two.ripen, two, apple}, {two.drop, two, null}, {one.bear, one, 0}}
 states(tree, one, two, apple)
 delete(tree)
 states(tree, one, two, apple)
 local depot = of.Z.depot()
-refused(of.Z)
-refused(depot.build, depot, "plane", "x")
+eachRefused {{of.Z}, {depot.build, depot, "plane", "x"}}
 local car, boat = depot:build("car", "Car"), depot:build("boat", "Boat")
 print(car:tow(boat), depot.boats == boat, car:kind(), #depot.fleet)
 refused(car.tow, car, car)
 refused(function() return boat:drive() end)
 depot:scrap(boat)
-refused(car.tow, car, boat)
-refused(depot.scrap, depot, nil)
+eachRefused {{car.tow, car, boat}, {depot.scrap, depot, null}}
 
 -- items and persons
 local box, crate = of.Container("box"), of.Container("crate")
 local saw = box:add("saw", 2)
-refused(box.add, box, "balloon", -1)
-refused(box.addCopy, box, nil)
-refused(crate.discard, crate, saw)
+eachRefused {{box.add, box, "balloon", -1}, {box.addCopy, box, null}, {crate.discard, crate, saw}}
 local copy = crate:addCopy(saw)
 print(copy.name, copy.borrower, crate:weight(), crate.heaviest == copy)
 local ada, bea = of.Person("Ada"), of.Person("Bea")
 ada:borrow(saw)
-refused(bea.borrow, bea, saw)
-refused(bea.giveBack, bea, saw)
-refused(bea.borrow, bea, nil)
-refused(of.Person.moveAway, nil)
+eachRefused {{bea.borrow, bea, saw}, {bea.giveBack, bea, saw}, {bea.borrow, bea, null}, {of.Person.moveAway, null}}
 of.Person.moveAway(ada)
 print(saw.borrower, of.Person.find("Ada"), of.Person.count())
 bea:borrow(saw) bea:borrow(copy)

@@ -5,6 +5,7 @@ local function refused(f, ...) -- of the candidates' reasons, the last one's
   message = tostring(message):gsub("VELMARA:native:exception: Native code failed: ", "native: ")
   print(ok and "not refused" or message:match("[^\n]*$"))
 end
+local function eachRefused(calls) for _, call in ipairs(calls) do refused(table.unpack(call)) end end
 --- All of them are refused with the text; in that, %s is the value.
 local function allRefused(text, f, ...)
   for _, value in ipairs {...} do
@@ -37,22 +38,17 @@ for _, hours in ipairs {25, -1, nan, huge} do
   refused(week.setHours, week, "Monday", hours)
   refused(of.Week, hours)
 end
-refused(week.setHours, week, {"Monday", "Funday"}, 1)
-refused(week.hoursOn, week, 8)
-refused(week.longerOfEach, week, null)
+eachRefused {{week.setHours, week, {"Monday", "Funday"}, 1}, {week.hoursOn, week, 8}, {week.longerOfEach, week, null}}
 print(week.total, #of.Week().daysOff)
 local function turned(quarters) return of.MFVT.turned(of.MFVT(1, 2), quarters) end
 list(turned(-2147483648).east, turned(2147483647).east, turned(-1).east, turned(5).north)
-refused(of.MFVT().move, of.MFVT(), null)
-refused(of.MFVT().move, of.MFVT(), {of.MFVT(), of.MFVT()})
+eachRefused {{of.MFVT().move, of.MFVT(), null}, {of.MFVT().move, of.MFVT(), {of.MFVT(), of.MFVT()}}}
 list(of.MFVT(huge, 0):halfwayTo(of.MFVT(-huge, 0)).east ~= nil)
 
 -- constructors and signatures
 local native = "VELMARA:native:exception: Native code failed: "
 allRefused(native .. '"%s" is no time: write hours:minutes.', of.Ctor, "", "1", "1:", "1:2:3", " 1:2", "a:b", "-1:00")
-refused(of.Ctor, "99:00")
-refused(of.Ctor, 2147483647, 2147483647, 2147483647)
-refused(of.Ctor, nan)
+eachRefused {{of.Ctor, "99:00"}, {of.Ctor, 2147483647, 2147483647, 2147483647}, {of.Ctor, nan}}
 print(of.Ctor("23:59").text, of.Ctor(24, 0).text, of.Ctor(0.5).text)
 local shop = of.Signatures1("a\0b")
 local ok, message = pcall(shop.total, shop, table.unpack(array("double", 1, 1, 21) and {1, 2, 3, 4, 5, 6, 7, 8, 9, 10,
@@ -61,9 +57,7 @@ print(ok, select(2, tostring(message):gsub("\n", "")), tostring(message):match("
 print(shop:total(huge), shop:total(-huge), shop.takings ~= shop.takings, #shop.name)
 
 -- accounts: bounds at both ends
-refused(of.MFDT.open, 0)
-refused(of.MFDT.open, 1001)
-refused(of.MFDT)
+eachRefused {{of.MFDT.open, 0}, {of.MFDT.open, 1001}, {of.MFDT}}
 for _, made in ipairs {of.BasicTypes, of.VectorStringIO, of.P1.C1, of.P1.P2.C2, of.P3.C3, of.NP1.N2, of.NP1.NP2.N1,
   of.NP1.NP2.N3} do
   local ok, err = pcall(made)
@@ -75,8 +69,7 @@ for _, cents in ipairs {-1, 2147483648, 0.5} do refused(account.pay, account, ce
 refused(function() while true do account:pay(2147483647) end end)
 while account.cents >= 2147483647 do account:withdraw(2147483647) end
 account:withdraw(account.cents)
-refused(account.withdraw, account, 1)
-refused(of.MFDT.attributesOf, "rob")
+eachRefused {{account.withdraw, account, 1}, {of.MFDT.attributesOf, "rob"}}
 delete(account)
 refused(account.pay, account, 1)
 print(of.MFDT.open(1000).cents, of.MFDT.open(1000):isEmpty())
@@ -84,15 +77,11 @@ print(of.MFDT.open(1000).cents, of.MFDT.open(1000):isEmpty())
 -- properties
 local prop = of.Prop()
 for _, celsius in ipairs {4.9, 36, nan} do refused(assign, prop, "target", celsius) end
-refused(assign, prop, "fahrenheit", 212)
-refused(assign, prop, "serial", 1)
-refused(assign, of.Prop, "absoluteZero", 0)
-refused(of.Prop.attributesOf, "")
+eachRefused {{assign, prop, "fahrenheit", 212}, {assign, prop, "serial", 1}, {assign, of.Prop, "absoluteZero", 0},
+  {of.Prop.attributesOf, ""}}
 print(prop.target, prop.serial, prop.lent)
 local book = CppClass()
-refused(book.sign, book, 5)
-refused(book.sign, null, "x")
-refused(assign, book, "entry", "x")
+eachRefused {{book.sign, book, 5}, {book.sign, null, "x"}, {assign, book, "entry", "x"}}
 print(book:sign(""), book.entry == "")
 
 -- numbers and texts
@@ -146,25 +135,21 @@ for _, number in ipairs {0, 5, -2147483648, 1.5} do refused(gauge.pick, gauge, n
 list(gauge.sums[4], #gauge:pick({}), gauge:wetterThan(nan)[1])
 local kitchen = of.P3.C3.kitchen()
 list(kitchen:brew("", huge, null), kitchen:brew("x\0y", -huge), kitchen.lastMinutes)
-refused(kitchen.brew, kitchen)
-refused(kitchen.brew, kitchen, "Assam", "long")
-refused(assign, kitchen, "lastMinutes", "long")
+eachRefused {{kitchen.brew, kitchen}, {kitchen.brew, kitchen, "Assam", "long"},
+  {assign, kitchen, "lastMinutes", "long"}}
 local calendar = of.NP1.NP2.N1.calendar()
 local function setToday(date) calendar.today = date end
 allRefused(native .. '"%s" is no date: write one as 2024-02-29.', setToday, "2024-2-29", "2100-02-29", "0000-01-01",
   "10000-01-01", "2024-13-01", "+024-01-01", "")
-refused(setToday, "2024-01-01\0")
-refused(setToday, 5)
+eachRefused {{setToday, "2024-01-01\0"}, {setToday, 5}}
 calendar.today = "0001-01-01"
-refused(calendar.after, calendar, -1)
-refused(calendar.after, calendar, 2147483647)
+eachRefused {{calendar.after, calendar, -1}, {calendar.after, calendar, 2147483647}}
 print(calendar:after(3652058), calendar:daysUntil("9999-12-31"))
 
 -- errors of native code leave the object as it was
 local office = of.NP1.NP2.N3.office()
 for _, kilograms in ipairs {0, -1, 20.1, nan} do refused(office.send, office, "Ada", kilograms) end
 for _, shelf in ipairs {-1, 3, -2147483648} do refused(office.shelf, office, shelf) end
-refused(office.stamp, office, -2147483648)
-refused(office.drop, office)
+eachRefused {{office.stamp, office, -2147483648}, {office.drop, office}}
 office:send("Ada", 20)
 print(office.sent, office:shelf(2))
