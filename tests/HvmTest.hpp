@@ -5,9 +5,11 @@
 #include "velmara/LiveCounts.hpp"
 
 #include "additions/additions.hpp"
+#include "orbis/COSValue.hpp"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <memory>
@@ -45,12 +47,16 @@ protected:
         hvm_.reset();
     }
 
-    static velmara::ArrayPtr number(double value)
+    /// A matrix of the native type's class, its elements column by column.
+    template <class T>
+    static velmara::ArrayPtr matrix(std::size_t rows, std::size_t columns, std::vector<T> const& elements)
     {
-        velmara::ArrayPtr array(orbis::additions::createMatrix(1, 1, hvDOUBLE_CLASS));
-        *static_cast<double*>(orbis::additions::getWritableData(array.get())) = value;
+        velmara::ArrayPtr array(orbis::additions::createMatrix(rows, columns, orbis::COSValue::classOf<T>()));
+        std::ranges::copy(elements, static_cast<T*>(orbis::additions::getWritableData(array.get())));
         return array;
     }
+
+    static velmara::ArrayPtr number(double value) { return matrix<double>(1, 1, {value}); }
 
     /// NumericInputs as inputs of a call.
     struct NumericInputs {

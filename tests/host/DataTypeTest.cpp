@@ -16,27 +16,39 @@ using velmara::ArrayPtr;
 
 namespace {
 
-/// A registered type whose name ends as those of class vectors do: columns of strings or cells.
+constexpr char const* words = "DataTypeTest.Words vector";
+
+/// A registered type whose name ends as those of class vectors do: columns of strings or cells. It counts the values
+/// not given back.
 struct WordsType : orbis::COSDataType {
+    explicit WordsType(int& values) : liveValues(values) {}
+    int& liveValues;
     char const* cppTypeName() const override { return "Words"; }
-    char const* scalarTypeName() const override { return "DataTypeTest.Words vector"; }
+    char const* scalarTypeName() const override { return words; }
     int typeKind() const override { return 7; }
     char const* typeCategory() const override { return "Fundamental"; }
     bool slot11Flag() const override { return false; }
     bool isEqualValue(COSValue a, COSValue b) const override { return a.array() == b.array(); }
     std::uint32_t compareValues(COSValue, COSValue) const override { return 2; }
     std::size_t valueByteSize(COSValue) const override { return 0; }
-    COSValue copyValue(COSValue value) const override { return COSValue(hvCreateSharedDataCopy(value.array())); }
-    void releaseValue(COSValue value) const override { hvDestroyArray(value.array()); }
+    COSValue copyValue(COSValue value) const override { return value; }
+    void releaseValue(COSValue value) const override
+    {
+        --liveValues;
+        hvDestroyArray(value.array());
+    }
 };
 
 struct WordsConversion : orbis::COSTypeConversion {
+    explicit WordsConversion(int& values) : liveValues(values) {}
+    int& liveValues;
     void convertToHost(hvArray_tag** out, hvArray_tag* value) override { *out = hvCreateSharedDataCopy(value); }
     void convertFromHost(hvArray_tag** out, hvArray_tag* in) override
     {
         if (!hvIsA(in, "string") && !hvIsA(in, "cell"))
             throw std::runtime_error("no words");
         *out = hvCreateSharedCopyNotOnArrayList(in);
+        ++liveValues;
     }
 };
 
@@ -58,12 +70,14 @@ struct DataTypeTest : HvmTest {
     {
         return hvm().callStatic("DataTypeTest", type, inputs(input));
     }
+
+    int liveValues_ = 0;
 };
 
 TEST_F(DataTypeTest, EachTypeTakesAndGivesWhatItSays)
 {
-    orbis::COSTypeRepository::addGlobalType(new WordsType);
-    orbis::COSTypeRepository::addConversion("any", "DataTypeTest.Words vector", new WordsConversion);
+    orbis::COSTypeRepository::addGlobalType(new WordsType(liveValues_));
+    orbis::COSTypeRepository::addConversion("any", words, new WordsConversion(liveValues_));
     publish(new Class("DataTypeTest.Thing"));
     ArrayPtr const one = number(1), text(createText(u"t\u00E4xt")), empty(hvCreateString("")),
                    square(createMatrix(2, 2, hvCHAR_CLASS)), cells(hvCreateCellMatrix(2, 1)),
@@ -82,7 +96,7 @@ TEST_F(DataTypeTest, EachTypeTakesAndGivesWhatItSays)
         {"double scalar", {&one}, {&text, &cells, &thing, &single}, "double"},
         {"DataTypeTest.Thing", {&thing}, {&one, &text, &cells, &single}, "DataTypeTest.Thing"},
         {"DataTypeTest.Thing vector", {&thing, &things}, {&one, &text, &cells, &several}, "DataTypeTest.Thing"},
-        {"DataTypeTest.Words vector", {&cells, &single, &several}, {&one, &text, &thing}, nullptr},
+        {words, {&cells, &single, &several}, {&one, &text, &thing}, nullptr},
     };
     publish(new Class("DataTypeTest", [&](orbis::COSClass* cls) {
         for (auto const& each : cases) {
@@ -105,7 +119,36 @@ TEST_F(DataTypeTest, EachTypeTakesAndGivesWhatItSays)
             EXPECT_EQ(errorOf([&] { call(type, *input); }), "VELMARA:dispatch:noMatch")
                 << velmara::className(input->get());
     }
-    EXPECT_EQ(orbis::COSDataTypePtr("DataTypeTest.Words vector")->typeKind(), 7);
+    EXPECT_EQ(orbis::COSDataTypePtr(words)->typeKind(), 7);
+}
+
+TEST_F(DataTypeTest, RegisteredTypesGiveBackWhatTheyMade)
+{
+    orbis::COSTypeRepository::addGlobalType(new WordsType(liveValues_));
+    orbis::COSTypeRepository::addConversion("any", words, new WordsConversion(liveValues_));
+    publish(new Class("DataTypeTest", [&](orbis::COSClass* cls) {
+        cls->addMethod(new Method("f", words, {words, "double scalar"},
+                                  [&](Call const& call) {
+                                      EXPECT_EQ(liveValues_, 1);
+                                      if (call.inputs[1].scalar<double>() < 0)
+                                          throw std::runtime_error("negative");
+                                      ++liveValues_;
+                                      call.give(COSValue(hvCreateCellMatrix(1, 1)));
+                                  },
+                                  {.isStatic = true}));
+    }));
+    ArrayPtr const one = number(1), minus = number(-1), word = strings({u"x"});
+    auto const f = [&](ArrayPtr const& a, ArrayPtr const& b) {
+        return hvm().callStatic("DataTypeTest", "f", inputs(a, b));
+    };
+    EXPECT_TRUE(hvIsA(f(word, one).get(), "cell"));
+    EXPECT_EQ(liveValues_, 0);
+    EXPECT_EQ(errorOf([&] { f(word, minus); }), "VELMARA:native:exception");
+    EXPECT_EQ(errorOf([&] { f(word, word); }), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(liveValues_, 0);
+    expectMessage([&] { f(one, one); }, {"a: Native code failed: no words"});
+    EXPECT_EQ(messageIdOf([&] { orbis::COSTypeRepository::addGlobalType(new WordsType(liveValues_)); }),
+              "VELMARA:type:duplicate");
 }
 
 TEST_F(DataTypeTest, RefusalsSayWhatToDo)

@@ -1,13 +1,8 @@
 #include "HvmTest.hpp"
 #include "host/TestDescriptors.hpp"
-#include "host/messageIdOf.hpp"
-
-#include "orbis/COSTypeConversion.hpp"
-#include "orbis/COSTypeRepository.hpp"
 
 #include <cmath>
 #include <limits>
-#include <stdexcept>
 
 using namespace described;
 using velmara::ArrayPtr;
@@ -30,9 +25,7 @@ protected:
     template <class T>
     static ArrayPtr array(T value)
     {
-        ArrayPtr made(orbis::additions::createMatrix(1, 1, COSValue::classOf<T>()));
-        *static_cast<T*>(orbis::additions::getWritableData(made.get())) = value;
-        return made;
+        return matrix<T>(1, 1, {value});
     }
 
     static ArrayPtr text(char const* utf8) { return ArrayPtr(hvCreateString(utf8)); }
@@ -281,70 +274,4 @@ TEST_F(DispatchTest, MembersOpenToCalls)
     EXPECT_EQ(errorOf([&] { hvm().call(one.get(), "member"); }), "VELMARA:object:notObject");
     ArrayPtr const none(orbis::omCreateORBISMatrix(0, 0, "M"));
     EXPECT_EQ(scalar<double>(hvm().call(none.get(), "member")), 4) << "the method itself decides about a null object";
-}
-
-namespace {
-
-/// A registered type whose values are cells around what was converted. It counts the values not given back.
-struct WrappedType : orbis::COSDataType {
-    explicit WrappedType(int& values) : liveValues(values) {}
-    int& liveValues;
-    char const* cppTypeName() const override { return "Wrapped"; }
-    char const* scalarTypeName() const override { return "Wrapped"; }
-    int typeKind() const override { return 7; }
-    char const* typeCategory() const override { return "Fundamental"; }
-    bool slot11Flag() const override { return false; }
-    bool isEqualValue(COSValue, COSValue) const override { return false; }
-    std::uint32_t compareValues(COSValue, COSValue) const override { return 2; }
-    std::size_t valueByteSize(COSValue) const override { return 0; }
-    COSValue copyValue(COSValue value) const override { return value; }
-    void releaseValue(COSValue value) const override
-    {
-        --liveValues;
-        hvDestroyArray(value.array());
-    }
-};
-
-struct WrappingConversion : orbis::COSTypeConversion {
-    explicit WrappingConversion(int& values) : liveValues(values) {}
-    int& liveValues;
-    void convertToHost(hvArray_tag** out, hvArray_tag*) override { *out = hvCreateString("unwrapped"); }
-    void convertFromHost(hvArray_tag** out, hvArray_tag* in) override
-    {
-        if (hvIsA(in, "char"))
-            throw std::runtime_error("no text here");
-        *out = hvCreateCellMatrix(1, 1);
-        ++liveValues;
-    }
-};
-
-} // namespace
-
-TEST_F(DispatchTest, RegisteredTypesConvertBothWaysAndGiveBackWhatTheyMade)
-{
-    int liveValues = 0;
-    orbis::COSTypeRepository::addGlobalType(new WrappedType(liveValues));
-    orbis::COSTypeRepository::addConversion("any", "Wrapped", new WrappingConversion(liveValues));
-    publish(new Class("D", [&](orbis::COSClass* cls) {
-        cls->addMethod(new Method("f", "Wrapped", {"Wrapped", "double scalar"},
-                                  [&](Call const& call) {
-                                      EXPECT_TRUE(hvIsA(call.inputs[0].array(), "cell"));
-                                      EXPECT_EQ(liveValues, 1);
-                                      if (call.inputs[1].scalar<double>() < 0)
-                                          throw std::runtime_error("negative");
-                                      ++liveValues;
-                                      call.give(COSValue(hvCreateCellMatrix(1, 1)));
-                                  },
-                                  {.isStatic = true}));
-    }));
-    ArrayPtr const one = number(1), minus = number(-1), word = text("x");
-    auto const call = [&](ArrayPtr const& a, ArrayPtr const& b) { return hvm().callStatic("D", "f", inputs(a, b)); };
-    EXPECT_TRUE(hvIsA(call(one, one).get(), "char"));
-    EXPECT_EQ(liveValues, 0);
-    EXPECT_EQ(errorOf([&] { call(one, minus); }), "VELMARA:native:exception");
-    EXPECT_EQ(errorOf([&] { call(one, word); }), "VELMARA:dispatch:noMatch");
-    EXPECT_EQ(liveValues, 0);
-    expectMessage([&] { call(word, one); }, {"a: Native code failed: no text here"});
-    EXPECT_EQ(messageIdOf([&] { orbis::COSTypeRepository::addGlobalType(new WrappedType(liveValues)); }),
-              "VELMARA:type:duplicate");
 }

@@ -60,15 +60,7 @@ protected:
 
     static ArrayPtr text(char16_t const* text) { return ArrayPtr(hvCreateString_UTF16(text)); }
 
-    template <class T>
-    static ArrayPtr numbers(hvClassID classID, std::vector<T> const& values)
-    {
-        ArrayPtr array(createMatrix(1, values.size(), classID));
-        std::ranges::copy(values, static_cast<T*>(getWritableData(array.get())));
-        return array;
-    }
-
-    static ArrayPtr doubles(std::vector<double> const& values) { return numbers(hvDOUBLE_CLASS, values); }
+    static ArrayPtr doubles(std::vector<double> const& values) { return matrix(1, values.size(), values); }
     static ArrayPtr nothing() { return ArrayPtr(createMatrix(0, 0, hvDOUBLE_CLASS)); }
 
     template <class... A>
@@ -123,16 +115,16 @@ TEST_F(EnumerationTest, ObjectsTextAndNumbersMeanEnumerators)
         {objects({"Crimson"}), "Red ", ""},
         {text(u"Grün"), "Grün ", ""},
         {strings({u"Crimson"}), "Red ", ""},
-        {numbers<std::int8_t>(hvINT8_CLASS, {-5}), "Grün ", ""},
-        {numbers<std::uint64_t>(hvUINT64_CLASS, {std::uint64_t(1) << 40}), "Blue ", ""},
-        {numbers<float>(hvSINGLE_CLASS, {-5}), "Grün ", ""},
+        {matrix<std::int8_t>(1, 1, {-5}), "Grün ", ""},
+        {matrix<std::uint64_t>(1, 1, {std::uint64_t(1) << 40}), "Blue ", ""},
+        {matrix<float>(1, 1, {-5}), "Grün ", ""},
         {text(u"Re"), refusal + "'Re'", ""},
         {text(u"a name that is longer than any"), refusal + "'a name that is longer than any'", ""},
         {strings({u"Purple"}), refusal + "'Purple'", first + "'Purple'"},
         {strings({{}}), refusal + "a missing string", first + "a missing string"},
         {doubles({1e19}), refusal + "1e+19", first + "1e+19"},
         {doubles({nan}), refusal + "NaN", first + "NaN"},
-        {numbers<std::uint64_t>(hvUINT64_CLASS, {std::uint64_t(-5)}), refusal + "18446744073709551611",
+        {matrix<std::uint64_t>(1, 1, {std::uint64_t(-5)}), refusal + "18446744073709551611",
          first + "18446744073709551611"},
         {objects({"Red", "Blue"}), refusal + "t.Color 1-by-2", "Red Blue "},
         {objects({}), refusal + "t.Color 1-by-0", " "},
@@ -162,7 +154,7 @@ TEST_F(EnumerationTest, TheBestFitIsChosen)
                                                 {text(u"Red"), "t.Color"},
                                                 {text(u"Purple"), "any"},
                                                 {doubles({1}), "double scalar"},
-                                                {numbers<std::int8_t>(hvINT8_CLASS, {9}), "double scalar"},
+                                                {matrix<std::int8_t>(1, 1, {9}), "double scalar"},
                                                 {strings({u"Red"}), "t.Color"},
                                                 {strings({u"Red", u"Blue"}), "t.Color vector"},
                                                 {cells(text(u"Red")), "t.Color vector"},

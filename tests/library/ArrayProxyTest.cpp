@@ -107,10 +107,7 @@ hvArray* Shelf::kept = nullptr;
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Shelf> {
-    static constexpr char const* name = "tests.Shelf";
-};
+PUBLISHED_IN_TESTS(Shelf)
 
 namespace {
 

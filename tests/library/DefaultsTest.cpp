@@ -44,15 +44,8 @@ std::int32_t digits(std::int32_t a, std::int64_t b, std::int8_t c)
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Scale> {
-    static constexpr char const* name = "tests.Scale";
-};
-
-template <>
-struct orbis::factory::HostClass<Early> {
-    static constexpr char const* name = "tests.Early";
-};
+PUBLISHED_IN_TESTS(Scale)
+PUBLISHED_IN_TESTS(Early)
 
 namespace {
 

@@ -16,13 +16,10 @@ using namespace orbis::factory;
 
 namespace {
 
-struct Base {
-    virtual ~Base() = default;
-    int weight = 1;
-};
-
-struct Derived : Base {
+struct Derived {
     explicit Derived(int) {}
+    virtual ~Derived() = default;
+    int weight = 1;
     int doubled() const { return 2 * weight; }
     std::string const& name() const { return name_; }
     void setName(std::string name) { name_ = std::move(name); }
@@ -34,16 +31,7 @@ private:
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Base> {
-    static constexpr char const* name = "tests.Base";
-    using Root = Base;
-};
-template <>
-struct orbis::factory::HostClass<Derived> {
-    static constexpr char const* name = "tests.Derived";
-    using Root = Base;
-};
+PUBLISHED_IN_TESTS(Derived)
 
 namespace {
 
@@ -60,19 +48,13 @@ ClassDescriber<Derived>& describeMembers(ClassDescriber<Derived>& derived)
 constexpr char const* members[] = {"tests.Derived.Derived", "tests.Derived.doubled", "tests.Derived.sum",
                                    "tests.Derived.name",    "tests.Derived.own",     "tests.Derived.renamed"};
 
-/// Publishes the classes in the current virtual machine; nothing is described yet.
-void publishClasses(velmara::Hvm& hvm)
-{
-    publishClass<Base>([](auto& c) { c.constructor().property("weight", &Base::weight); });
-    publishClass<Derived>([](auto& c) { describeMembers(c.template inherits<Base>()); });
-    hvm.lookUp("tests.Derived");
-    constexpr additions::Message text{"member_not_published", "{0} cannot be published: {1}"};
-    additions::addMessages("orbis_factory:orbis_factory", {&text, 1});
-}
-
-class DescribingFailureTest : public HvmTest {
-protected:
-    DescribingFailureTest() { publishClasses(hvm()); }
+struct DescribingFailureTest : HvmTest {
+    DescribingFailureTest()
+    {
+        publishClass<Derived>([](auto& c) { describeMembers(c); });
+        constexpr additions::Message text{"member_not_published", "{0} cannot be published: {1}"};
+        additions::addMessages("orbis_factory:orbis_factory", {&text, 1});
+    }
 };
 
 /// A host that refuses the n-th thing it is given.

@@ -68,10 +68,7 @@ int numberOf(Color color)
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Lamp> {
-    static constexpr char const* name = "tests.Lamp";
-};
+PUBLISHED_IN_TESTS(Lamp)
 
 namespace {
 

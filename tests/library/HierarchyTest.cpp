@@ -70,37 +70,13 @@ struct Wheelmotor : Wheel, Motor {};
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Node> {
-    static constexpr char const* name = "tests.Node";
-    using Root = Node;
-};
-template <>
-struct orbis::factory::HostClass<Leaf> {
-    static constexpr char const* name = "tests.Leaf";
-    using Root = Node;
-};
-template <>
-struct orbis::factory::HostClass<Branch> {
-    static constexpr char const* name = "tests.Branch";
-    using Root = Node;
-};
-template <>
-struct orbis::factory::HostClass<Part> {
-    static constexpr char const* name = "tests.Part";
-};
-template <>
-struct orbis::factory::HostClass<Wheel> {
-    static constexpr char const* name = "tests.Wheel";
-};
-template <>
-struct orbis::factory::HostClass<Motor> {
-    static constexpr char const* name = "tests.Motor";
-};
-template <>
-struct orbis::factory::HostClass<Wheelmotor> {
-    static constexpr char const* name = "tests.Wheelmotor";
-};
+PUBLISHED_IN_TESTS(Node, using Root = Node;)
+PUBLISHED_IN_TESTS(Leaf, using Root = Node;)
+PUBLISHED_IN_TESTS(Branch, using Root = Node;)
+PUBLISHED_IN_TESTS(Part)
+PUBLISHED_IN_TESTS(Wheel)
+PUBLISHED_IN_TESTS(Motor)
+PUBLISHED_IN_TESTS(Wheelmotor)
 
 namespace {
 

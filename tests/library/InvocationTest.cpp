@@ -127,10 +127,7 @@ struct Fixed {
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Fixed> {
-    static constexpr char const* name = "tests.Fixed";
-};
+PUBLISHED_IN_TESTS(Fixed)
 
 namespace {
 

@@ -55,14 +55,6 @@ protected:
         });
     }
 
-    template <class T>
-    static ArrayPtr matrix(std::size_t rows, std::size_t columns, std::vector<T> const& values)
-    {
-        ArrayPtr array(additions::createMatrix(rows, columns, COSValue::classOf<T>()));
-        std::copy(values.begin(), values.end(), static_cast<T*>(additions::getWritableData(array.get())));
-        return array;
-    }
-
     ArrayPtr call(std::string const& function, ArrayPtr const& array)
     {
         return hvm().callFunction("vectors." + function, inputs(array));

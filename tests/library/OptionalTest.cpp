@@ -29,10 +29,7 @@ private:
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Settings> {
-    static constexpr char const* name = "tests.Settings";
-};
+PUBLISHED_IN_TESTS(Settings)
 
 namespace {
 

@@ -4,6 +4,7 @@
 
 #include "orbis/factory/NumericVectorPolicy.hpp"
 #include "orbis/factory/StringViewPolicy.hpp"
+#include "orbis/factory/impl/PropertyImpl.hpp"
 #include "orbis/factory/stringVectors.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
@@ -43,6 +44,9 @@ struct Image : Sized {
     void unlock() { --locks; }
     static int getLimit() { return limit; }
     static void setLimit(int value) { limit = value; }
+    int getWidth() const noexcept { return width; }
+    void setWidth(int value) { width = value; }
+    Image* getNext() const { return next; }
     static Image* twin(Image* image) { return image->next; }
 
     int locks = 0;
@@ -66,10 +70,7 @@ void countRelease(COSInterface* object, COSValue value)
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Image> {
-    static constexpr char const* name = "tests.Image";
-};
+PUBLISHED_IN_TESTS(Image)
 
 namespace {
 
@@ -224,6 +225,66 @@ TEST_F(PropertyFormsTest, DescriptorsAreMadeFromTheDescription)
     for (std::string const& error : {messageIdOf([&] { made("scale")->getValue(nullptr); }),
                                      messageIdOf([&] { made("extent")->setValue(nullptr, COSValue(1.0)); })})
         EXPECT_EQ(error, "orbis_factory:orbis_factory:null_self");
+}
+
+/// A getter of a type of its own, or none.
+struct Typed final : impl::Getter {
+    explicit Typed(char const* type) : type_(type) {}
+    COSValue getValue(COSInterface*) const override { return {}; }
+    char const* dataTypeName() const override { return type_; }
+    void releaseValue(COSInterface*, COSValue) const override {}
+    Enumeration<COSInterface*> getInterfaces(COSInterface*) const override { return {}; }
+    bool canContainInterfaces() const override { return false; }
+
+    char const* type_;
+};
+
+struct Told final : impl::PropertyImpl {
+    using PropertyImpl::PropertyImpl;
+    char const* getDescription() const override { return "told"; }
+};
+
+/// The descriptors themselves, as the host asks them.
+TEST_F(PropertyFormsTest, MissingSidesHaveNoAccess)
+{
+    ArrayPtr const other = hvm().construct("tests.Image");
+    COSInterface* const object = omGetArrayElement(object_.get(), 0);
+    impl::ClassGetter<int, Image, int (Image::*)() const, int> getter(&Image::getWidth);
+    impl::ClassGetter<Image*, Image, Image* (Image::*)() const, Image*> objectGetter(&Image::getNext);
+    impl::ClassSetter<int, Image, void (Image::*)(int)> setter(&Image::setWidth);
+    impl::PropertyImpl const readOnly("r", &getter, P::Destructible());
+    impl::PropertyImpl const writeOnly("w", &setter, {});
+    impl::PropertyImpl const both("b", &getter, &setter, P::PrivateSetter());
+    impl::PropertyImpl const held("h", &objectGetter, {});
+
+    struct Case {
+        impl::PropertyImpl const& property;
+        int get, set;
+        bool isTransient, canContain;
+    };
+    for (auto const& [property, get, set, isTransient, canContain] :
+         {Case{readOnly, 0, 5, true, false}, Case{writeOnly, 5, 0, true, true}, Case{both, 0, 2, false, false},
+          Case{held, 0, 5, true, true}}) {
+        EXPECT_EQ(static_cast<int>(property.getMemberGetAccess()), get);
+        EXPECT_EQ(static_cast<int>(property.getMemberSetAccess()), set);
+        EXPECT_EQ(property.isTransient(), isTransient);
+        EXPECT_EQ(property.canContainInterfaces(), canContain);
+        EXPECT_FALSE(property.isDestructible()) << "the host's default, whatever the attributes say";
+        EXPECT_FALSE(property.getVXArrays(nullptr, object).hasMoreElements());
+    }
+    Typed typed("double scalar"), untyped(nullptr);
+    Told const told("t", &typed, &setter, {});
+    EXPECT_STREQ(told.getDetailedDescription(), "told");
+    impl::PropertyImpl const unnamed("u", &untyped, &setter, {});
+    EXPECT_STREQ(told.getDataType()->scalarTypeName(), "double scalar");
+    for (impl::PropertyImpl const* const property : {&unnamed, &writeOnly})
+        EXPECT_STREQ(property->getDataType()->scalarTypeName(), "int32 scalar");
+    EXPECT_FALSE(held.getInterfaces(nullptr, object).hasMoreElements());
+    hvm().set(object_.get(), "next", other.get());
+    auto interfaces = held.getInterfaces(nullptr, object);
+    EXPECT_EQ(interfaces.nextElement(), static_cast<COSInterface*>(omGetArrayElement(other.get(), 0)));
+    EXPECT_FALSE(interfaces.hasMoreElements());
+    EXPECT_FALSE(both.getInterfaces(nullptr, object).hasMoreElements());
 }
 
 } // namespace

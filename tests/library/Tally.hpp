@@ -1,9 +1,6 @@
 #pragma once
 
-#include "orbis/factory/HandleClassInfo.hpp"
-#include "orbis/factory/HostClass.hpp"
-#include "orbis/factory/describe.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
+#include "library/publishClass.hpp"
 
 /// A native class that counts how many of it are alive.
 class Tally {
@@ -30,10 +27,7 @@ private:
     int value_ = 0;
 };
 
-template <>
-struct orbis::factory::HostClass<Tally> {
-    static constexpr char const* name = "tests.Tally";
-};
+PUBLISHED_IN_TESTS(Tally)
 
 inline int plus(int a, int b)
 {

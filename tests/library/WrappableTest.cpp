@@ -34,10 +34,7 @@ struct Unlike : full::Wrappable {};
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Thing> {
-    static constexpr char const* name = "tests.Thing";
-};
+PUBLISHED_IN_TESTS(Thing)
 
 namespace {
 

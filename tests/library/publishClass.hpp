@@ -5,6 +5,14 @@
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
+/// Gives a native class its name in the package "tests", and what else its host class says.
+#define PUBLISHED_IN_TESTS(Type, ...)                                                                                  \
+    template <>                                                                                                        \
+    struct orbis::factory::HostClass<Type> {                                                                           \
+        static constexpr char const* name = "tests." #Type;                                                            \
+        __VA_ARGS__                                                                                                    \
+    };
+
 /// The class info `Base` of the class `T`, described by a function.
 template <class T, class Base = orbis::factory::HandleClassInfo<T, 1>>
 struct Described final : Base {
