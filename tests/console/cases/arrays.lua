@@ -10,28 +10,16 @@ local function show(...)
   print(class(a), rows, columns, #a, a)
 end
 
-show("double")
-show("double", {}, 0, 3)
-show("double", {{1, 2.5}, {-0.0, 1 / 0}, {0 / 0, -1 / 0}})
-show("single", {0.1, 2.0 ^ 100, 123456789, 1e11, 1e-60})
-show("int32", {1, 2, 3, 4, 5, 6}, 3, 2)
-show("uint64", {"18446744073709551615", 2.0 ^ 63, array("uint64", "9223372036854775808"), 5})
-show("int64", math.mininteger)
-show("logical", {true, 0, 1.0, false})
-show("uint8", true, 2, 3)
-show("char", "gr\u{fc}n")
-show("char", {"ab", array("string", "cd")})
-show("char", {0x61, 0xD83D, 0xDE00})
-show("char", "abcdef", 2, 3)
-show("string", "one\0two")
-show("string", {{"a", missing}, {"\u{1f600} long enough to be cut short", ""}})
-show("string", array("char", {"abc"}), 1, 2)
-show("string", missing, 2, 1)
-show("cell", {1, null, {2, 3}, {4, "x"}, "text", missing, array("int8", 5)}, 1, 7)
-show("cell", {{1, 2}, {3, 4}})
-show("int16", array("double", {1, 2}), 2, 1)
-show("uint16", array("char", "\u{1f600}"))
-show("double", 1 / 3, 12, 30)
+for _, inputs in ipairs {{"double"}, {"double", {}, 0, 3}, {"double", {{1, 2.5}, {-0.0, 1 / 0}, {0 / 0, -1 / 0}}},
+  {"single", {0.1, 2.0 ^ 100, 123456789, 1e11, 1e-60}}, {"int32", {1, 2, 3, 4, 5, 6}, 3, 2},
+  {"uint64", {"18446744073709551615", 2.0 ^ 63, array("uint64", "9223372036854775808"), 5}}, {"int64", math.mininteger},
+  {"logical", {true, 0, 1.0, false}}, {"uint8", true, 2, 3}, {"char", "gr\u{fc}n"},
+  {"char", {"ab", array("string", "cd")}}, {"char", {0x61, 0xD83D, 0xDE00}}, {"char", "abcdef", 2, 3},
+  {"string", "one\0two"}, {"string", {{"a", missing}, {"\u{1f600} long enough to be cut short", ""}}},
+  {"string", array("char", {"abc"}), 1, 2}, {"string", missing, 2, 1},
+  {"cell", {1, null, {2, 3}, {4, "x"}, "text", missing, array("int8", 5)}, 1, 7}, {"cell", {{1, 2}, {3, 4}}},
+  {"int16", array("double", {1, 2}), 2, 1}, {"uint16", array("char", "\u{1f600}")},
+  {"double", 1 / 3, 12, 30}} do show(table.unpack(inputs)) end
 local p, q = cases.Probe(), cases.Probe()
 show(cases.Probe, {p, null})
 show("cases.Probe", p, 2, 2)

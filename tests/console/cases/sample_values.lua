@@ -15,11 +15,6 @@ local function allRefused(text, f, ...)
   end
 end
 local function assign(object, name, value) object[name] = value end
-local function list(...)
-  local texts = {}
-  for i, value in ipairs({...}) do texts[i] = tostring(value) end
-  print(table.concat(texts, " "))
-end
 local nan, huge = 0 / 0, math.huge
 
 -- packages of every form, an enumeration; help on classes
@@ -27,7 +22,7 @@ for _, topic in ipairs {of, of.P1, of.P1.P2, of.P3, of.NP1, of.NP1.NP2, of.Weekd
   local names = {}
   for name in pairs(topic) do names[#names + 1] = name end
   table.sort(names)
-  list(topic, table.unpack(names))
+  print(topic, table.unpack(names))
 end
 for _, topic in ipairs {of.P1, of.MFVT, "orbis_factory.Prop.pin", "orbis_factory.Prop.absoluteZero"} do help(topic) end
 refused(help, "orbis_factory.MFDT.seize")
@@ -41,9 +36,9 @@ end
 eachRefused {{week.setHours, week, {"Monday", "Funday"}, 1}, {week.hoursOn, week, 8}, {week.longerOfEach, week, null}}
 print(week.total, #of.Week().daysOff)
 local function turned(quarters) return of.MFVT.turned(of.MFVT(1, 2), quarters) end
-list(turned(-2147483648).east, turned(2147483647).east, turned(-1).east, turned(5).north)
+print(turned(-2147483648).east, turned(2147483647).east, turned(-1).east, turned(5).north)
 eachRefused {{of.MFVT().move, of.MFVT(), null}, {of.MFVT().move, of.MFVT(), {of.MFVT(), of.MFVT()}}}
-list(of.MFVT(huge, 0):halfwayTo(of.MFVT(-huge, 0)).east ~= nil)
+print(of.MFVT(huge, 0):halfwayTo(of.MFVT(-huge, 0)).east ~= nil)
 
 -- constructors and signatures
 local native = "VELMARA:native:exception: Native code failed: "
@@ -93,7 +88,7 @@ for _, wrong in ipairs {{"anInt8", 128}, {"anInt16", -32769}, {"anInt32", 1 << 3
   print(select(2, pcall(assign, form, wrong[1], wrong[2])).identifier)
 end
 form.aSingle, form.aChar, form.word = 0.1, "xyz", "a\0b"
-list(form.aSingle, form.aChar, form.aString, #form.unicodeWord, of.BasicTypes.bytes("a\0b"), of.BasicTypes.units(""))
+print(form.aSingle, form.aChar, form.aString, #form.unicodeWord, of.BasicTypes.bytes("a\0b"), of.BasicTypes.units(""))
 form.unicodeWord = ""
 print(form == of.BasicTypes.form(), form.aUnicodeString == "")
 print(withvm(function() return of.BasicTypes.form().aChar == "" end))
@@ -132,9 +127,9 @@ local gauge = of.P1.P2.C2.gauge()
 for _, days in ipairs {{-1}, {1, nan}, {"a"}} do refused(gauge.setDays, gauge, days) end
 gauge:setDays(array("int8", {{1, 3}, {2, 4}}))
 for _, number in ipairs {0, 5, -2147483648, 1.5} do refused(gauge.pick, gauge, number) end
-list(gauge.sums[4], #gauge:pick({}), gauge:wetterThan(nan)[1])
+print(gauge.sums[4], #gauge:pick({}), gauge:wetterThan(nan)[1])
 local kitchen = of.P3.C3.kitchen()
-list(kitchen:brew("", huge, null), kitchen:brew("x\0y", -huge), kitchen.lastMinutes)
+print(kitchen:brew("", huge, null), kitchen:brew("x\0y", -huge), kitchen.lastMinutes)
 eachRefused {{kitchen.brew, kitchen}, {kitchen.brew, kitchen, "Assam", "long"},
   {assign, kitchen, "lastMinutes", "long"}}
 local calendar = of.NP1.NP2.N1.calendar()
