@@ -91,16 +91,15 @@ struct ProbeInfo final : described::Class {
     void initializeClass(COSClass* cls) override
     {
         Parameter const self{probeClass, "this"};
-        cls->addMethod(new Method("twin", false, probeClass, {self}, [](auto in) { return copyOf(in[0].array()); }));
+        auto const same = [](auto in) { return copyOf(in[0].array()); };
+        cls->addMethod(new Method("twin", false, probeClass, {self}, same));
         cls->addMethod(new Method("pair", false, "any", {self, {probeClass, "other"}},
                                   [](auto in) { return pairOf(in[0], in[1]); }));
         cls->addMethod(new Method("fail", false, "any", {self},
                                   [](auto) -> ArrayPtr { throw std::runtime_error("failed inside"); }));
-        cls->addMethod(new Method("same", false, probeClass, {self}, [](auto in) { return copyOf(in[0].array()); }));
-        cls->addMethod(
-            new Method("same", true, "any", {{"any", "value"}}, [](auto in) { return copyOf(in[0].array()); }));
-        cls->addMethod(
-            new Method("give", true, "any", {{probeClass, "probe"}}, [](auto in) { return copyOf(in[0].array()); }));
+        cls->addMethod(new Method("same", false, probeClass, {self}, same));
+        cls->addMethod(new Method("same", true, "any", {{"any", "value"}}, same));
+        cls->addMethod(new Method("give", true, "any", {{probeClass, "probe"}}, same));
         cls->addProperty(new Property("value", true));
         cls->addProperty(new Property("fixed", false));
         cls->addProperty(new Property("common", true, &common_));
@@ -143,7 +142,8 @@ public:
             package->addFunction(new Method(name, true, "any", inputs, body));
         };
         constexpr std::uint64_t most = std::numeric_limits<std::uint64_t>::max();
-        add("echo", {{"any", "value"}}, [](auto in) { return copyOf(in[0].array()); });
+        auto const same = [](auto in) { return copyOf(in[0].array()); };
+        add("echo", {{"any", "value"}}, same);
         add("many", std::vector<Parameter>(9, {"double scalar", "parameter"}),
             [](auto in) { return matrix<double>(1, 1, {in[8].template scalar<double>()}); });
         add("small", {}, [](auto) { return matrix<std::uint64_t>(1, 1, {7}); });
@@ -151,7 +151,6 @@ public:
         add("large", {{"double scalar", "less"}}, [](auto in) {
             return matrix<std::uint64_t>(1, 1, {most - static_cast<std::uint64_t>(in[0].template scalar<double>())});
         });
-        auto const same = [](auto in) { return copyOf(in[0].array()); };
         add("hue", {{"palette.Color", "hue"}}, same); // an enumeration that scripts define
         add("hues", {{"palette.Color vector", "hues"}}, same);
         add("grid", {}, [](auto) { return matrix<std::int8_t>(2, 3, {1, 4, 2, 5, 3, -6}); });

@@ -39,30 +39,26 @@ inline int valueOrMinusOne(Tally const* tally)
     return tally ? tally->value() : -1;
 }
 
-class TallyInfo final : public orbis::factory::HandleClassInfo<Tally, 1> {
-public:
-    TallyInfo() : HandleClassInfo("tests.Tally", "counts") {}
-
-    void initializeClass(orbis::COSClass* cls) override
+struct TallyInfo {
+    static void describe(orbis::factory::ClassDescriber<Tally>& tally)
     {
-        using orbis::factory::MethodAttributes;
-        publish(cls, orbis::factory::describe<Tally>()
-                         .constructor()
-                         .constructor<int>("start")
-                         .method("add", &Tally::add, "a, b")
-                         .method("value", &Tally::value, MethodAttributes::Sealed())
-                         .method("reset", &Tally::reset)
-                         .method("self", &Tally::self)
-                         .method("mean", &Tally::mean)
-                         .method("forced", &valueOrMinusOne)
-                         .method(
-                             "doubled", [](Tally* tally, int by) { return tally->value() * by; }, "tally, by")
-                         .staticMethod("plus", &plus, "a, b")
-                         .staticMethod("optional", &valueOrMinusOne));
+        tally.constructor()
+            .constructor<int>("start")
+            .method("add", &Tally::add, "a, b")
+            .method("value", &Tally::value, orbis::factory::MethodAttributes::Sealed())
+            .method("reset", &Tally::reset)
+            .method("self", &Tally::self)
+            .method("mean", &Tally::mean)
+            .method("forced", &valueOrMinusOne)
+            .method(
+                "doubled", [](Tally* self, int by) { return self->value() * by; }, "tally, by")
+            .staticMethod("plus", &plus, "a, b")
+            .staticMethod("optional", &valueOrMinusOne);
     }
 
     static void publishIn(std::string const& package)
     {
-        orbis::factory::registerOrbisPackage(package, [](orbis::COSPackage* p) { p->addClass(new TallyInfo); });
+        orbis::factory::registerOrbisPackage(
+            package, [](orbis::COSPackage* made) { made->addClass(new Described<Tally>(&describe)); });
     }
 };
