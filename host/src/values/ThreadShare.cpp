@@ -1,6 +1,7 @@
 #include "values/ThreadShare.hpp"
 
 #include <algorithm>
+#include <cstddef>
 #include <mutex>
 #include <new>
 #include <thread>
@@ -26,12 +27,19 @@ struct alignas(64) Share : ThreadShare {
 // have taken, so that the next thread can count although there is no memory.
 constinit Share firstShares[16] = {};
 constinit Share* shares = nullptr;
-constinit std::mutex sharesMutex;
+
+/// Needs no memory, and is never destroyed.
+std::mutex& sharesMutex()
+{
+    alignas(std::mutex) static std::byte place[sizeof(std::mutex)];
+    static auto& mutex = *new (place) std::mutex;
+    return mutex;
+}
 
 void giveShareBack(void* share)
 {
     shareOfThisThread = nullptr;
-    std::scoped_lock lock(sharesMutex);
+    std::scoped_lock lock(sharesMutex());
     static_cast<Share*>(share)->isTaken = false;
 }
 
@@ -67,7 +75,7 @@ Share* findFree()
 /// Null when there is neither a free one nor memory.
 Share* takeFree()
 {
-    std::scoped_lock lock(sharesMutex);
+    std::scoped_lock lock(sharesMutex());
     if (!shares)
         std::ranges::for_each(firstShares, [](Share& share) { addShare(&share); });
     if (!findFree())
@@ -95,7 +103,7 @@ ThreadShare& takeThreadShare() noexcept
 
 LiveCounts liveCounts()
 {
-    std::scoped_lock lock(sharesMutex);
+    std::scoped_lock lock(sharesMutex());
     LiveCounts sum;
     for (Share const* share = shares; share; share = share->next) {
         sum.objects += share->counts.objects;
