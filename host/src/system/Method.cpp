@@ -66,10 +66,9 @@ std::string Method::describe() const
 
 void MethodGroup::add(Method const& method)
 {
+    methods.insert(method.isAccessible() ? accessibleEnd() : methods.end(), &method);
     if (method.isAccessible())
-        methods.insert(methods.begin() + static_cast<std::ptrdiff_t>(accessible++), &method);
-    else
-        methods.push_back(&method);
+        ++accessible;
     findPlain();
 }
 

@@ -56,7 +56,7 @@ struct Method : Retirable {
 
 /// The methods of one name among which the dispatch chooses.
 struct MethodGroup {
-    /// Those that a script may call come first.
+    /// Those that a script may call come first. A failure changes nothing.
     void add(Method const& method);
     void remove(Method const& method);
 
