@@ -174,7 +174,8 @@ namespace {
 void detail::discardUnbound(void* object, char const* className) noexcept
 {
     try {
-        if (!object || basic::BindingRegistry::contains(object))
+        auto const* const table = basic::HvmScoped<basic::FooRegistry>::find();
+        if (!object || (table && table->count(object) != 0))
             return;
         if (additions::NativeOwner* const owner = additions::nativeOwnerOf(COSNameID(className)))
             owner->discardNative(object);
@@ -185,16 +186,18 @@ void detail::discardUnbound(void* object, char const* className) noexcept
 
 void detail::releaseResult(void const* object, hvArray_tag const* row) noexcept
 {
-    basic::FooRegistry& table = basic::registry();
-    auto const found = table.find(object);
-    if (found == table.end())
+    auto* const table = basic::HvmScoped<basic::FooRegistry>::find(); // none is made: it may be out of memory
+    if (!table)
+        return;
+    auto const found = table->find(object);
+    if (found == table->end())
         return;
     COSInterface* const host = found->second->host;
     int elements = 0;
     for (std::size_t i = 0; i < row->get_number_of_elements(); ++i)
         elements += static_cast<COSInterface*>(omGetArrayElement(row, i)) == host;
     if (host->getExternalReferenceCount() == 0 && host->getInternalReferenceCount() == elements)
-        table.unbind(object, host);
+        table->unbind(object, host);
 }
 
 } // namespace orbis::factory
