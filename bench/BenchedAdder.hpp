@@ -1,9 +1,9 @@
 #pragma once
 
-#include "orbis/factory/FunctionInfo.hpp"
-#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/descriptors/FunctionInfo.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "velmara/Hvm.hpp"

@@ -2,7 +2,7 @@
 
 #include "bench/BenchedAdder.hpp"
 
-#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
 
 #include <cstddef>
 

@@ -2,7 +2,7 @@
 
 #include "bench/BenchedAdder.hpp"
 
-#include "orbis/factory/EnumerationClassInfo.hpp"
+#include "orbis/factory/classes/EnumerationClassInfo.hpp"
 
 #include <array>
 #include <cstddef>

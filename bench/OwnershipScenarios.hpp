@@ -1,11 +1,11 @@
 #pragma once
 
-#include "orbis/factory/HandleClassInfo.hpp"
-#include "orbis/factory/NonHandleClassInfo.hpp"
-#include "orbis/factory/ShareableHandleClassInfo.hpp"
-#include "orbis/factory/StdShareableHandleClassInfo.hpp"
-#include "orbis/factory/ValuePolicy.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
+#include "orbis/factory/classes/NonHandleClassInfo.hpp"
+#include "orbis/factory/classes/ShareableHandleClassInfo.hpp"
+#include "orbis/factory/classes/StdShareableHandleClassInfo.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/marshaling/ValuePolicy.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "velmara/Hvm.hpp"

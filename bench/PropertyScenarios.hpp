@@ -2,7 +2,7 @@
 
 #include "bench/CallScenarios.hpp"
 
-#include "orbis/factory/impl/PropertyImplBase.hpp"
+#include "orbis/factory/descriptors/PropertyImplBase.hpp"
 
 #include <cstddef>
 #include <memory>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "orbis/factory/FunctionInfo.hpp"
 #include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/stringVectors.hpp"
+#include "orbis/factory/descriptors/FunctionInfo.hpp"
+#include "orbis/factory/types/stringVectors.hpp"
 
 #include "velmara/ArrayPtr.hpp"
 #include "velmara/Hvm.hpp"

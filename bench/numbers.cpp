@@ -1,7 +1,7 @@
-#include "orbis/factory/FunctionInfo.hpp"
-#include "orbis/factory/NumericSpanPolicy.hpp"
-#include "orbis/factory/NumericVectorPolicy.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/descriptors/FunctionInfo.hpp"
+#include "orbis/factory/types/NumericSpanPolicy.hpp"
+#include "orbis/factory/types/NumericVectorPolicy.hpp"
 
 #include "velmara/ArrayPtr.hpp"
 #include "velmara/Hvm.hpp"

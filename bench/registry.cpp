@@ -1,7 +1,7 @@
 #include "bench/BenchedAdder.hpp"
 
-#include "orbis/factory/basic/BindingRegistry.hpp"
-#include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include <benchmark/benchmark.h>
 

@@ -2,7 +2,7 @@
 #include "fuzz/Input.hpp"
 #include "fuzz/require.hpp"
 
-#include "orbis/factory/ParameterNamer.hpp"
+#include "orbis/factory/descriptors/ParameterNamer.hpp"
 
 #include <algorithm>
 #include <vector>

@@ -1,9 +1,9 @@
 #include "samples/BasicTree.hpp"
 
-#include "orbis/factory/Exception.hpp"
-#include "orbis/factory/ObjectVectorPolicy.hpp"
-#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
+#include "orbis/factory/types/ObjectVectorPolicy.hpp"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
 
 #include <memory>
 #include <string>

@@ -1,8 +1,8 @@
 #include "samples/BasicTypes.hpp"
 
-#include "orbis/factory/StringViewPolicy.hpp"
-#include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
+#include "orbis/factory/types/StringViewPolicy.hpp"
 
 namespace orbis::factory::samples {
 

@@ -1,8 +1,8 @@
 #include "samples/BinaryGraphNode.hpp"
 
-#include "orbis/factory/Exception.hpp"
-#include "orbis/factory/ObjectVectorPolicy.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/types/ObjectVectorPolicy.hpp"
 
 namespace orbis::factory::samples {
 

@@ -1,7 +1,7 @@
 #include "samples/C1.hpp"
 
-#include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
 
 #include "libhv/libhv.hpp"
 #include "orbis/COSInterfacePtr.hpp"

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "orbis/factory/HandleClassInfo.hpp"
-#include "orbis/factory/hvArrayProxy.hpp"
-#include "orbis/factory/hvArrayReferenceCountedProxy.hpp"
-#include "orbis/factory/hvConstArrayProxy.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
+#include "orbis/factory/types/hvArrayProxy.hpp"
+#include "orbis/factory/types/hvArrayReferenceCountedProxy.hpp"
+#include "orbis/factory/types/hvConstArrayProxy.hpp"
 
 #include <string>
 

@@ -1,10 +1,10 @@
 #include "samples/C2.hpp"
 
-#include "orbis/factory/Exception.hpp"
-#include "orbis/factory/NumericSpanPolicy.hpp"
-#include "orbis/factory/NumericVectorPolicy.hpp"
-#include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
+#include "orbis/factory/types/NumericSpanPolicy.hpp"
+#include "orbis/factory/types/NumericVectorPolicy.hpp"
 
 #include <algorithm>
 #include <numeric>

@@ -1,8 +1,8 @@
 #include "samples/C3.hpp"
 
-#include "orbis/factory/OptionalPolicy.hpp"
-#include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
+#include "orbis/factory/types/OptionalPolicy.hpp"
 #include "orbis/factory/withDefaults.hpp"
 
 #include <sstream>

@@ -1,8 +1,8 @@
 #include "samples/Container.hpp"
 
-#include "orbis/factory/Exception.hpp"
-#include "orbis/factory/ObjectVectorPolicy.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/types/ObjectVectorPolicy.hpp"
 #include "samples/Person.hpp"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "samples/Ctor.hpp"
 
-#include "orbis/factory/Exception.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/withDefaults.hpp"
 

@@ -1,8 +1,8 @@
 #include "samples/MFDT.hpp"
 
-#include "orbis/factory/Exception.hpp"
-#include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
 #include "samples/attributeNames.hpp"
 
 #include <map>
@@ -56,8 +56,8 @@ std::string attributesOf(std::string const& method)
 
 MFDT* MFDT::open(int number)
 {
-    if (number < 1 || number > mostAccounts)
-        throw Exception("Accounts are numbered from 1 to " + std::to_string(mostAccounts) + ".");
+    if (number < 1 || number > maxAccounts)
+        throw Exception("Accounts are numbered from 1 to " + std::to_string(maxAccounts) + ".");
     return &basic::HvmScoped<Bank>::get().accounts.try_emplace(number, number).first->second;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
 
 #include <cstdint>
 #include <string>
@@ -11,13 +11,13 @@ namespace orbis::factory::samples {
 /// is still there, and is found again by its number. Shows every attribute of a method.
 class MFDT {
 public:
-    static constexpr int mostAccounts = 1000;
+    static constexpr int maxAccounts = 1000;
 
     explicit MFDT(int number) : number_(number) {}
     MFDT(MFDT const&) = delete;
     MFDT& operator=(MFDT const&) = delete;
 
-    /// The account of that number, from 1 to `mostAccounts`, which is opened when there is none.
+    /// The account of that number, from 1 to `maxAccounts`, which is opened when there is none.
     static MFDT* open(int number);
 
     int number() const { return number_; }

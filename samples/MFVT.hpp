@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orbis/factory/NonHandleClassInfo.hpp"
-#include "orbis/factory/ValuePolicy.hpp"
+#include "orbis/factory/classes/NonHandleClassInfo.hpp"
+#include "orbis/factory/marshaling/ValuePolicy.hpp"
 
 namespace orbis::factory::samples {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orbis/factory/DataTypePolicy.hpp"
-#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
+#include "orbis/factory/types/DataTypePolicy.hpp"
 
 #include <chrono>
 

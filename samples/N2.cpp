@@ -1,7 +1,7 @@
 #include "samples/N2.hpp"
 
-#include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
 
 namespace orbis::factory::samples {
 

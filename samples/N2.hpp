@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orbis/factory/HandleClassInfo.hpp"
-#include "orbis/factory/HostEnumeration.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
+#include "orbis/factory/classes/HostEnumeration.hpp"
 
 #include <vector>
 

@@ -1,9 +1,9 @@
 #include "samples/N3.hpp"
 
-#include "orbis/factory/Exception.hpp"
-#include "orbis/factory/argumentErrors.hpp"
-#include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/base/Exception.hpp"
+#include "orbis/factory/base/argumentErrors.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
 
 #include <array>
 #include <cmath>

@@ -1,9 +1,9 @@
 #include "samples/Person.hpp"
 
-#include "orbis/factory/Exception.hpp"
-#include "orbis/factory/ObjectVectorPolicy.hpp"
-#include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
+#include "orbis/factory/types/ObjectVectorPolicy.hpp"
 #include "samples/Container.hpp"
 
 #include <algorithm>

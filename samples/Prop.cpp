@@ -1,9 +1,9 @@
 #include "samples/Prop.hpp"
 
-#include "orbis/factory/Exception.hpp"
-#include "orbis/factory/basic/BindingRegistry.hpp"
-#include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
 #include "samples/attributeNames.hpp"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/HostClass.hpp"
+#include "orbis/factory/classes/HostClass.hpp"
 
 #include "orbis/COSClassInfo.hpp"
 

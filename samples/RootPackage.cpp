@@ -1,11 +1,10 @@
 #include "samples/RootPackage.hpp"
 
-#include "orbis/factory/basic/registry.hpp"
 #include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/detail/initStringDataTypes.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
+#include "orbis/factory/types/initStringDataTypes.hpp"
 
-#include "module/rootPackage.hpp"
 #include "samples/Adder.hpp"
 #include "samples/BasicTree.hpp"
 #include "samples/BasicTypes.hpp"
@@ -108,11 +107,6 @@ void RootPackage::initializePackage(COSPackage* package)
 
     detail::initStringDataTypes();
     publish(package, describeFunctions().function("testPkgStuff", &testPkgStuff).function("dumpReg", &dumpReg));
-}
-
-std::unique_ptr<COSPackageInfo> makeRootPackage()
-{
-    return std::make_unique<RootPackage>();
 }
 
 } // namespace orbis::factory

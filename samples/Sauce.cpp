@@ -1,10 +1,10 @@
 #include "samples/Sauce.hpp"
 
-#include "orbis/factory/Exception.hpp"
-#include "orbis/factory/ObjectVectorPolicy.hpp"
-#include "orbis/factory/basic/BindingRegistry.hpp"
-#include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
+#include "orbis/factory/types/ObjectVectorPolicy.hpp"
 
 #include <algorithm>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orbis/factory/HandleClassInfo.hpp"
-#include "orbis/factory/StaticCastPolicy.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
+#include "orbis/factory/marshaling/StaticCastPolicy.hpp"
 
 #include <string>
 #include <vector>

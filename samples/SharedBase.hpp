@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/ShareableHandleClassInfo.hpp"
+#include "orbis/factory/classes/ShareableHandleClassInfo.hpp"
 
 #include <string>
 #include <vector>

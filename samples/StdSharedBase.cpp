@@ -1,8 +1,8 @@
 #include "samples/StdSharedBase.hpp"
 
-#include "orbis/factory/Exception.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
-#include "orbis/factory/sharedObjectVectors.hpp"
+#include "orbis/factory/types/sharedObjectVectors.hpp"
 
 #include <algorithm>
 

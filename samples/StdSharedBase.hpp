@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/StdShareableHandleClassInfo.hpp"
+#include "orbis/factory/classes/StdShareableHandleClassInfo.hpp"
 
 #include <string>
 #include <vector>

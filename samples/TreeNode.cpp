@@ -1,8 +1,8 @@
 #include "samples/TreeNode.hpp"
 
-#include "orbis/factory/Exception.hpp"
-#include "orbis/factory/ObjectVectorPolicy.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
+#include "orbis/factory/types/ObjectVectorPolicy.hpp"
 
 #include <algorithm>
 
@@ -37,8 +37,8 @@ void TreeNodeBase::add(TreeNodeBase* child)
     for (TreeNodeBase const* node = this; node; node = node->parent_)
         if (node == child)
             throw Exception("\"" + child->title_ + "\" cannot stand below itself.");
-    if (level() + child->height() > mostLevels)
-        throw Exception("An outline has at most " + std::to_string(mostLevels) + " levels.");
+    if (level() + child->height() > maxLevels)
+        throw Exception("An outline has at most " + std::to_string(maxLevels) + " levels.");
     children_.emplace_back(child);
     child->parent_ = this;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orbis/factory/HandleClassInfo.hpp"
 #include "orbis/factory/ObjectHandle.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
 
 #include <cstdint>
 #include <list>
@@ -33,7 +33,7 @@ namespace orbis::factory::samples {
 class TreeNodeBase {
 public:
     /// Levels of an outline: few enough to walk it by recursion.
-    static constexpr int mostLevels = 32;
+    static constexpr int maxLevels = 32;
 
     explicit TreeNodeBase(std::string title);
     TreeNodeBase(TreeNodeBase const&) = delete;

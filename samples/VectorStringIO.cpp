@@ -1,8 +1,8 @@
 #include "samples/VectorStringIO.hpp"
 
-#include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/describe.hpp"
-#include "orbis/factory/stringVectors.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
+#include "orbis/factory/types/stringVectors.hpp"
 
 namespace orbis::factory::samples {
 

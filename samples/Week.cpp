@@ -1,6 +1,6 @@
 #include "samples/Week.hpp"
 
-#include "orbis/factory/Exception.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/describe.hpp"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "orbis/factory/EnumerationClassInfo.hpp"
-#include "orbis/factory/NonHandleClassInfo.hpp"
-#include "orbis/factory/ValuePolicy.hpp"
+#include "orbis/factory/classes/EnumerationClassInfo.hpp"
+#include "orbis/factory/classes/NonHandleClassInfo.hpp"
+#include "orbis/factory/marshaling/ValuePolicy.hpp"
 
 #include <array>
 #include <vector>

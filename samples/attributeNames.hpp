@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orbis/factory/MethodAttributes.hpp"
-#include "orbis/factory/PropertyAttributes.hpp"
+#include "orbis/factory/descriptors/MethodAttributes.hpp"
+#include "orbis/factory/descriptors/PropertyAttributes.hpp"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/MarshalingPolicy.hpp"
+#include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
 /// An angle of the library's own; scripts know it as a number of degrees.
 struct Angle {

@@ -1,10 +1,6 @@
 #include "Angle.hpp"
 
-#include "orbis/factory/HandleClassInfo.hpp"
-#include "orbis/factory/OptionalPolicy.hpp"
-#include "orbis/factory/describe.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
-#include "orbis/factory/withDefaults.hpp"
+#include "orbis/factory.hpp"
 
 #include <cmath>
 #include <optional>

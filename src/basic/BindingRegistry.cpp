@@ -1,9 +1,9 @@
-#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
 
-#include "orbis/factory/CopyableSupport.hpp"
-#include "orbis/factory/basic/HvmScoped.hpp"
-#include "orbis/factory/basic/registry.hpp"
-#include "orbis/factory/errorIdentities.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
+#include "orbis/factory/ownership/CopyableSupport.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
 
 #include "basic/HostDependents.hpp"
 #include "marshal/throwError.hpp"

@@ -1,7 +1,7 @@
-#include "orbis/factory/CopyableSupport.hpp"
+#include "orbis/factory/ownership/CopyableSupport.hpp"
 
-#include "orbis/factory/basic/HvmScoped.hpp"
-#include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
 
 #include <boost/container/flat_set.hpp>
 

@@ -1,4 +1,4 @@
-#include "orbis/factory/H_ck.hpp"
+#include "orbis/factory/ownership/H_ck.hpp"
 
 #include "orbis/COSInterfacePtr.hpp"
 

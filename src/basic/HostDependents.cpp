@@ -1,6 +1,6 @@
 #include "basic/HostDependents.hpp"
 
-#include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include "basic/addressText.hpp"
 

@@ -1,8 +1,8 @@
 #include "basic/HostShares.hpp"
 
-#include "orbis/factory/basic/HvmScoped.hpp"
-#include "orbis/factory/basic/registry.hpp"
-#include "orbis/factory/detail/hostShares.hpp"
+#include "orbis/factory/detail/bindings/hostShares.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
 
 #include "basic/HostDependents.hpp"
 

@@ -1,4 +1,4 @@
-#include "orbis/factory/InterfaceEnumeration.hpp"
+#include "orbis/factory/ownership/InterfaceEnumeration.hpp"
 
 #include "libkwfl/bad_alloc.hpp"
 #include "libut/libut.hpp"

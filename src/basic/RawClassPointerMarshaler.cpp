@@ -1,7 +1,7 @@
-#include "orbis/factory/RawClassPointerMarshaler.hpp"
+#include "orbis/factory/ownership/RawClassPointerMarshaler.hpp"
 
-#include "orbis/factory/InterfaceEnumeration.hpp"
-#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
+#include "orbis/factory/ownership/InterfaceEnumeration.hpp"
 
 namespace orbis::factory {
 

@@ -1,4 +1,4 @@
-#include "orbis/factory/String.hpp"
+#include "orbis/factory/base/String.hpp"
 
 namespace orbis::factory {
 

@@ -1,7 +1,7 @@
-#include "orbis/factory/detail/bindings.hpp"
+#include "orbis/factory/detail/bindings/bindings.hpp"
 
-#include "orbis/factory/basic/HvmScoped.hpp"
-#include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
 
 #include "additions/NativeOwner.hpp"
 #include "orbis/objectArrays.hpp"

@@ -1,4 +1,4 @@
-#include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include "libut/libut.hpp"
 #include "orbis/COSInterface.hpp"

@@ -1,6 +1,4 @@
-#include "orbis/factory/full/BindingRegistry.hpp"
-
-#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
 
 namespace orbis::factory::full {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "orbis/factory/basic/BindingRegistry.hpp"
-#include "orbis/factory/basic/HvmScoped.hpp"
-#include "orbis/factory/basic/registry.hpp"
-#include "orbis/factory/full/SharingType.hpp"
-#include "orbis/factory/full/Wrappable.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
+#include "orbis/factory/ownership/SharingType.hpp"
+#include "orbis/factory/ownership/Wrappable.hpp"
 
 #include "basic/HostDependents.hpp"
 
@@ -52,7 +52,7 @@ struct KeepAliveSet {
     }
 
     /// An object that is kept for a host object and is bound to none; null when there is no such object.
-    static Wrappable const* findForsaken()
+    static Wrappable const* findOrphaned()
     {
         auto const* const set = basic::HvmScoped<KeepAliveSet>::find();
         if (!set)

@@ -1,10 +1,10 @@
-#include "orbis/factory/full/Shareable.hpp"
+#include "orbis/factory/ownership/Shareable.hpp"
 
-#include "orbis/factory/basic/BindingRegistry.hpp"
-#include "orbis/factory/detail/releaseHostKept.hpp"
+#include "orbis/factory/detail/bindings/releaseHostKept.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
 
 #include "full/KeepAliveSet.hpp"
-#include "full/forsakenObjects.hpp"
+#include "full/orphanedObjects.hpp"
 
 #include <boost/unordered_set.hpp>
 
@@ -53,9 +53,9 @@ void releaseReference(Shareable* object)
         Kept::drop(object->shared_from_this());
 }
 
-Wrappable const* findForsakenShareable()
+Wrappable const* findOrphanedShareable()
 {
-    return Kept::findForsaken();
+    return Kept::findOrphaned();
 }
 
 bool canAcquireReference(Shareable*)

@@ -1,10 +1,10 @@
-#include "orbis/factory/full/StdShareable.hpp"
+#include "orbis/factory/ownership/StdShareable.hpp"
 
-#include "orbis/factory/basic/BindingRegistry.hpp"
-#include "orbis/factory/detail/releaseHostKept.hpp"
+#include "orbis/factory/detail/bindings/releaseHostKept.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
 
 #include "full/KeepAliveSet.hpp"
-#include "full/forsakenObjects.hpp"
+#include "full/orphanedObjects.hpp"
 
 #include <unordered_set>
 
@@ -53,9 +53,9 @@ void releaseReference(StdShareable* object)
         Kept::drop(object->shared_from_this());
 }
 
-Wrappable const* findForsakenStdShareable()
+Wrappable const* findOrphanedStdShareable()
 {
-    return Kept::findForsaken();
+    return Kept::findOrphaned();
 }
 
 bool canAcquireReference(StdShareable*)

@@ -1,6 +1,6 @@
-#include "orbis/factory/full/Wrappable.hpp"
+#include "orbis/factory/ownership/Wrappable.hpp"
 
-#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
 
 namespace orbis::factory::full {
 

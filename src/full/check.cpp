@@ -1,10 +1,10 @@
 #include "orbis/factory/check.hpp"
 
-#include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include "basic/HostDependents.hpp"
 #include "basic/addressText.hpp"
-#include "full/forsakenObjects.hpp"
+#include "full/orphanedObjects.hpp"
 
 #include "additions/additions.hpp"
 #include "libkwfoundation_usm/Detail.hpp"
@@ -108,10 +108,10 @@ std::string checkHandles()
 
 std::string checkKept()
 {
-    void const* forsaken = full::findForsakenShareable();
-    if (!forsaken)
-        forsaken = full::findForsakenStdShareable();
-    return forsaken ? "the shared object " + addressText(forsaken) + " is kept for a host object, but has none"
+    void const* orphaned = full::findOrphanedShareable();
+    if (!orphaned)
+        orphaned = full::findOrphanedStdShareable();
+    return orphaned ? "the shared object " + addressText(orphaned) + " is kept for a host object, but has none"
                     : std::string();
 }
 

@@ -1,4 +1,4 @@
-#include "orbis/factory/FunctionInfo.hpp"
+#include "orbis/factory/descriptors/FunctionInfo.hpp"
 
 namespace orbis::factory {
 

@@ -1,4 +1,4 @@
-#include "orbis/factory/impl/Getter.hpp"
+#include "orbis/factory/descriptors/Getter.hpp"
 
 namespace orbis::factory::impl {
 

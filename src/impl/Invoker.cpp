@@ -1,6 +1,6 @@
-#include "orbis/factory/impl/Invoker.hpp"
+#include "orbis/factory/descriptors/Invoker.hpp"
 
-#include "orbis/factory/ParameterNamer.hpp"
+#include "orbis/factory/descriptors/ParameterNamer.hpp"
 
 #include "orbis/COSMethodSignature.hpp"
 #include "orbis/COSNameID.hpp"

@@ -1,4 +1,4 @@
-#include "orbis/factory/MethodAttributes.hpp"
+#include "orbis/factory/descriptors/MethodAttributes.hpp"
 
 namespace orbis::factory {
 

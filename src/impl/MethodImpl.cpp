@@ -1,4 +1,4 @@
-#include "orbis/factory/impl/MethodImpl.hpp"
+#include "orbis/factory/descriptors/MethodImpl.hpp"
 
 namespace orbis::factory::impl {
 

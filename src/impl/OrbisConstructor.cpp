@@ -1,4 +1,4 @@
-#include "orbis/factory/impl/OrbisConstructor.hpp"
+#include "orbis/factory/descriptors/OrbisConstructor.hpp"
 
 namespace orbis::factory::impl {
 

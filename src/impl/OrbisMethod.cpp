@@ -1,4 +1,4 @@
-#include "orbis/factory/OrbisMethod.hpp"
+#include "orbis/factory/descriptors/OrbisMethod.hpp"
 
 namespace orbis::factory {
 

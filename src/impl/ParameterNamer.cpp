@@ -1,4 +1,4 @@
-#include "orbis/factory/ParameterNamer.hpp"
+#include "orbis/factory/descriptors/ParameterNamer.hpp"
 
 #include <boost/algorithm/string/classification.hpp>
 #include <boost/algorithm/string/erase.hpp>

@@ -1,4 +1,4 @@
-#include "orbis/factory/PropertyAttributes.hpp"
+#include "orbis/factory/descriptors/PropertyAttributes.hpp"
 
 namespace orbis::factory {
 

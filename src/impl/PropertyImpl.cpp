@@ -1,6 +1,6 @@
-#include "orbis/factory/impl/PropertyImpl.hpp"
+#include "orbis/factory/descriptors/PropertyImpl.hpp"
 
-#include "orbis/factory/errorIdentities.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
 
 #include "marshal/throwError.hpp"
 

@@ -1,4 +1,4 @@
-#include "orbis/factory/impl/PropertyImplBase.hpp"
+#include "orbis/factory/descriptors/PropertyImplBase.hpp"
 
 namespace orbis::factory::impl {
 

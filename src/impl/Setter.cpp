@@ -1,4 +1,4 @@
-#include "orbis/factory/impl/Setter.hpp"
+#include "orbis/factory/descriptors/Setter.hpp"
 
 namespace orbis::factory::impl {
 

@@ -1,7 +1,7 @@
-#include "orbis/factory/impl/validateSelfPointer.hpp"
+#include "orbis/factory/base/validateSelfPointer.hpp"
 
-#include "orbis/factory/errorIdentities.hpp"
-#include "orbis/factory/impl/Invoker.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
+#include "orbis/factory/descriptors/Invoker.hpp"
 
 #include "marshal/throwError.hpp"
 

@@ -1,4 +1,4 @@
-#include "orbis/factory/Exception.hpp"
+#include "orbis/factory/base/Exception.hpp"
 
 namespace orbis::factory {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/errorIdentities.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
 
 #include "libhv/hvArray.hpp"
 #include "libkwfl/Exception.hpp"

@@ -1,6 +1,6 @@
 #include "marshal/OrbisFactoryString.hpp"
 
-#include "orbis/factory/extractString.hpp"
+#include "orbis/factory/base/extractString.hpp"
 
 #include "marshal/stringScalar.hpp"
 

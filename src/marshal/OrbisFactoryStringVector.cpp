@@ -1,7 +1,7 @@
 #include "marshal/OrbisFactoryStringVector.hpp"
 
-#include "orbis/factory/argumentErrors.hpp"
-#include "orbis/factory/unicodeStringContainers.hpp"
+#include "orbis/factory/base/argumentErrors.hpp"
+#include "orbis/factory/types/unicodeStringContainers.hpp"
 
 #include "libhv/libhv.hpp"
 

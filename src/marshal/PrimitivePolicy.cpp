@@ -1,4 +1,4 @@
-#include "orbis/factory/PrimitivePolicy.hpp"
+#include "orbis/factory/marshaling/PrimitivePolicy.hpp"
 
 namespace orbis::factory {
 

@@ -1,6 +1,6 @@
 #include "marshal/StringDataType.hpp"
 
-#include "orbis/factory/detail/NewArray.hpp"
+#include "orbis/factory/detail/arrays/NewArray.hpp"
 
 #include "libkwfl/bad_alloc.hpp"
 #include "libut/libut.hpp"

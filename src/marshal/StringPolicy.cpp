@@ -1,4 +1,4 @@
-#include "orbis/factory/StringPolicy.hpp"
+#include "orbis/factory/types/StringPolicy.hpp"
 
 #include "marshal/HostText.hpp"
 #include "marshal/stringScalar.hpp"

@@ -1,6 +1,6 @@
-#include "orbis/factory/argumentErrors.hpp"
+#include "orbis/factory/base/argumentErrors.hpp"
 
-#include "orbis/factory/errorIdentities.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
 
 #include "marshal/throwError.hpp"
 

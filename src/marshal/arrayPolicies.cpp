@@ -1,5 +1,5 @@
-#include "orbis/factory/HvArrayPolicy.hpp"
-#include "orbis/factory/HvArrayReferenceCountedPolicy.hpp"
+#include "orbis/factory/types/HvArrayPolicy.hpp"
+#include "orbis/factory/types/HvArrayReferenceCountedPolicy.hpp"
 
 namespace orbis::factory {
 

@@ -1,6 +1,6 @@
-#include "orbis/factory/hvArrayProxy.hpp"
-#include "orbis/factory/hvArrayReferenceCountedProxy.hpp"
-#include "orbis/factory/hvConstArrayProxy.hpp"
+#include "orbis/factory/types/hvArrayProxy.hpp"
+#include "orbis/factory/types/hvArrayReferenceCountedProxy.hpp"
+#include "orbis/factory/types/hvConstArrayProxy.hpp"
 
 #include "libhv/libhv.hpp"
 #include "orbis/objectArrays.hpp"

@@ -1,7 +1,7 @@
-#include "orbis/factory/CharPolicy.hpp"
-#include "orbis/factory/CharPtrPolicy.hpp"
-#include "orbis/factory/UnicodeCharPtrPolicy.hpp"
-#include "orbis/factory/detail/NewArray.hpp"
+#include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/types/CharPolicy.hpp"
+#include "orbis/factory/types/CharPtrPolicy.hpp"
+#include "orbis/factory/types/UnicodeCharPtrPolicy.hpp"
 
 #include "marshal/stringScalar.hpp"
 

@@ -1,7 +1,7 @@
-#include "orbis/factory/EnumClassArrayPolicy.hpp"
-#include "orbis/factory/EnumClassPolicy.hpp"
-#include "orbis/factory/EnumClassVelmaraImplementedPolicy.hpp"
-#include "orbis/factory/errorIdentities.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
+#include "orbis/factory/types/EnumClassArrayPolicy.hpp"
+#include "orbis/factory/types/EnumClassPolicy.hpp"
+#include "orbis/factory/types/EnumClassVelmaraImplementedPolicy.hpp"
 
 #include "marshal/throwError.hpp"
 
@@ -59,7 +59,7 @@ using Entry = EnumerationRecord::Entry;
     throwError(orbis_factory::orbis_factory::no_such_enumerator(enumeration.hostName, enumerator, known));
 }
 
-[[noreturn]] void refuseUnknownToHost(EnumerationRecord const& enumeration, char const* name)
+[[noreturn]] void throwUnknownToHost(EnumerationRecord const& enumeration, char const* name)
 {
     if (!COSClass::getClass(enumeration.hostName))
         throwError(orbis_factory::orbis_factory::no_such_class(enumeration.hostName));
@@ -89,7 +89,7 @@ COSInterfacePtr enumeratorObject(EnumerationRecord const& enumeration, COSNameID
         refuse(enumeration, std::to_string(value));
     COSInterfacePtr object = additions::getEnumerator(className, entry->name);
     if (!object)
-        refuseUnknownToHost(enumeration, entry->name);
+        throwUnknownToHost(enumeration, entry->name);
     return object;
 }
 

@@ -1,4 +1,4 @@
-#include "orbis/factory/errorIdentities.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
 
 #include "marshal/messages.hpp"
 

@@ -1,6 +1,6 @@
-#include "orbis/factory/detail/initStringDataTypes.hpp"
+#include "orbis/factory/types/initStringDataTypes.hpp"
 
-#include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
 
 #include "marshal/StringDataTypeRegistration.hpp"
 

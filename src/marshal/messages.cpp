@@ -1,6 +1,6 @@
 #include "marshal/messages.hpp"
 
-#include "orbis/factory/export.hpp"
+#include "orbis/factory/base/export.hpp"
 
 #include "additions/additions.hpp"
 #include "libkwfoundation_usm/Detail.hpp"

@@ -1,7 +1,7 @@
-#include "orbis/factory/StaticCastPolicy.hpp"
-#include "orbis/factory/TypedDynamicCastCppManagedPolicy.hpp"
-#include "orbis/factory/VelmaraManagedNoInheritancePolicy.hpp"
-#include "orbis/factory/VelmaraManagedWithInheritancePolicy.hpp"
+#include "orbis/factory/marshaling/StaticCastPolicy.hpp"
+#include "orbis/factory/marshaling/TypedDynamicCastCppManagedPolicy.hpp"
+#include "orbis/factory/marshaling/VelmaraManagedNoInheritancePolicy.hpp"
+#include "orbis/factory/marshaling/VelmaraManagedWithInheritancePolicy.hpp"
 
 namespace orbis::factory {
 

@@ -1,8 +1,8 @@
-#include "orbis/factory/unicodeStringContainers.hpp"
+#include "orbis/factory/types/unicodeStringContainers.hpp"
 
-#include "orbis/factory/argumentErrors.hpp"
-#include "orbis/factory/detail/textCells.hpp"
-#include "orbis/factory/extractString.hpp"
+#include "orbis/factory/base/argumentErrors.hpp"
+#include "orbis/factory/base/extractString.hpp"
+#include "orbis/factory/detail/arrays/textCells.hpp"
 
 #include "libhv/libhv.hpp"
 

@@ -1,5 +1,5 @@
-#include "orbis/factory/UnicodeStringPolicy.hpp"
-#include "orbis/factory/extractString.hpp"
+#include "orbis/factory/base/extractString.hpp"
+#include "orbis/factory/types/UnicodeStringPolicy.hpp"
 
 #include "marshal/stringScalar.hpp"
 

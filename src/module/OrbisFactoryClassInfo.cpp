@@ -1,4 +1,4 @@
-#include "orbis/factory/OrbisFactoryClassInfo.hpp"
+#include "orbis/factory/classes/OrbisFactoryClassInfo.hpp"
 
 #include "module/PublishedClasses.hpp"
 

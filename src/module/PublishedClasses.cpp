@@ -1,6 +1,6 @@
 #include "module/PublishedClasses.hpp"
 
-#include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSClass.hpp"

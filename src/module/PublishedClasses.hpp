@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/NativeClassRecord.hpp"
+#include "orbis/factory/classes/NativeClassRecord.hpp"
 
 #include <map>
 #include <set>

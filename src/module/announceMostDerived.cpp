@@ -1,6 +1,6 @@
-#include "orbis/factory/detail/announceMostDerived.hpp"
+#include "orbis/factory/detail/objects/announceMostDerived.hpp"
 
-#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
 
 #include "module/PublishedClasses.hpp"
 

@@ -1,9 +1,9 @@
-#include "orbis/factory/export.hpp"
+#include "orbis/factory/base/export.hpp"
 
 #include "marshal/messages.hpp"
 #include "module/PerHVMInitialization.hpp"
 #include "module/functionTable.hpp"
-#include "module/rootPackage.hpp"
+#include "samples/RootPackage.hpp"
 
 #include "orbis/COSNameID.hpp"
 #include "orbis/COSPackage.hpp"
@@ -19,7 +19,7 @@ ORBIS_FACTORY_API void VXInitialize_orbis_factory()
         return;
     try {
         addMessages();
-        orbis::COSPackage::addPackage(makeRootPackage().release());
+        orbis::COSPackage::addPackage(new RootPackage);
     } catch (...) {
         PerHVMInitialization<RootPackage>::clear();
         throw;

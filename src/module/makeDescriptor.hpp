@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orbis/factory/MemberRecord.hpp"
-#include "orbis/factory/ParameterNamer.hpp"
+#include "orbis/factory/descriptors/ParameterNamer.hpp"
+#include "orbis/factory/detail/members/MemberRecord.hpp"
 
 #include "marshal/NullInput.hpp"
 

@@ -1,6 +1,6 @@
 #include "module/notPublished.hpp"
 
-#include "orbis/factory/errorIdentities.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
 
 #include "marshal/throwError.hpp"
 

@@ -1,9 +1,9 @@
 #include "orbis/factory/ClassDescription.hpp"
 #include "orbis/factory/FunctionDescription.hpp"
-#include "orbis/factory/FunctionInfo.hpp"
-#include "orbis/factory/detail/initStringDataTypes.hpp"
-#include "orbis/factory/impl/MethodImpl.hpp"
-#include "orbis/factory/impl/OrbisConstructor.hpp"
+#include "orbis/factory/descriptors/FunctionInfo.hpp"
+#include "orbis/factory/descriptors/MethodImpl.hpp"
+#include "orbis/factory/descriptors/OrbisConstructor.hpp"
+#include "orbis/factory/types/initStringDataTypes.hpp"
 
 #include "module/PublishedClasses.hpp"
 #include "module/makeDescriptor.hpp"

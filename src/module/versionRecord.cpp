@@ -1,4 +1,4 @@
-#include "orbis/factory/export.hpp"
+#include "orbis/factory/base/export.hpp"
 
 #ifndef ORBIS_FACTORY_VERSION
 #error "The build gives the version: four numbers with dots between them."

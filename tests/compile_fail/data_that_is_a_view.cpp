@@ -2,11 +2,11 @@
 // each: char const*; char16_t*; std::string_view; Span; hvArrayProxy; hvConstArrayProxy; Place*; Text; Places
 #include "Published.hpp"
 
-#include "orbis/factory/NumericSpanPolicy.hpp"
-#include "orbis/factory/ObjectVectorPolicy.hpp"
-#include "orbis/factory/OptionalPolicy.hpp"
-#include "orbis/factory/StringViewPolicy.hpp"
-#include "orbis/factory/ValuePolicy.hpp"
+#include "orbis/factory/marshaling/ValuePolicy.hpp"
+#include "orbis/factory/types/NumericSpanPolicy.hpp"
+#include "orbis/factory/types/ObjectVectorPolicy.hpp"
+#include "orbis/factory/types/OptionalPolicy.hpp"
+#include "orbis/factory/types/StringViewPolicy.hpp"
 
 using namespace orbis::factory;
 

@@ -1,7 +1,7 @@
 // expect: A default value is kept for later calls and would refer to memory that is not its own
 // each: text; utf16; view; Array(array); ConstArray(array); array
-#include "orbis/factory/StringViewPolicy.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/types/StringViewPolicy.hpp"
 #include "orbis/factory/withDefaults.hpp"
 
 using Array = orbis::factory::hvArrayProxy;

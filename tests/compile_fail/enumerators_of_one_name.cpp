@@ -1,5 +1,5 @@
 // expect: Each enumerator has a name of its own: give every entry of HostEnumeration<E>::enumerators another one
-#include "orbis/factory/EnumerationClassInfo.hpp"
+#include "orbis/factory/classes/EnumerationClassInfo.hpp"
 
 enum class Color { Red, Green };
 

@@ -1,5 +1,5 @@
 // expect: HandleClassInfo<T, 1> deletes native objects through T: give T a virtual destructor
-#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
 
 struct Native {
     EITHER(virtual ~Native() = default;, )

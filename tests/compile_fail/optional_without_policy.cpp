@@ -1,6 +1,6 @@
 // expect: There is no marshaling policy for this native type
-#include "orbis/factory/OptionalPolicy.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/types/OptionalPolicy.hpp"
 
 struct Point {
     double x, y;

@@ -1,6 +1,6 @@
 // expect: A class published with NonHandleClassInfo crosses as a value: say `using Policy = ValuePolicy`
-#include "orbis/factory/NonHandleClassInfo.hpp"
-#include "orbis/factory/ValuePolicy.hpp"
+#include "orbis/factory/classes/NonHandleClassInfo.hpp"
+#include "orbis/factory/marshaling/ValuePolicy.hpp"
 
 struct Native {};
 

@@ -1,15 +1,15 @@
 // A module with a native callback of each kind, each of which throws where the program has it throw.
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/DataTypePolicy.hpp"
-#include "orbis/factory/Exception.hpp"
-#include "orbis/factory/NonHandleClassInfo.hpp"
-#include "orbis/factory/NumericVectorPolicy.hpp"
 #include "orbis/factory/ObjectHandle.hpp"
-#include "orbis/factory/SharedPointerPolicy.hpp"
-#include "orbis/factory/StdShareableHandleClassInfo.hpp"
-#include "orbis/factory/ValuePolicy.hpp"
+#include "orbis/factory/base/Exception.hpp"
+#include "orbis/factory/classes/NonHandleClassInfo.hpp"
+#include "orbis/factory/classes/StdShareableHandleClassInfo.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/marshaling/ValuePolicy.hpp"
+#include "orbis/factory/types/DataTypePolicy.hpp"
+#include "orbis/factory/types/NumericVectorPolicy.hpp"
+#include "orbis/factory/types/SharedPointerPolicy.hpp"
 
 #include "orbis/COSPackage.hpp"
 #include "orbis/COSPackageInfo.hpp"

@@ -1,9 +1,9 @@
 #include "HvmTest.hpp"
 #include "library/texts.hpp"
 
-#include "orbis/factory/DataTypePolicy.hpp"
 #include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
+#include "orbis/factory/types/DataTypePolicy.hpp"
 
 #include <stdexcept>
 

@@ -3,8 +3,8 @@
 #include "library/publishClass.hpp"
 #include "library/texts.hpp"
 
-#include "orbis/factory/OptionalPolicy.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/types/OptionalPolicy.hpp"
 #include "orbis/factory/withDefaults.hpp"
 
 #include "orbis/objectArrays.hpp"

@@ -1,7 +1,7 @@
-#include "orbis/factory/MethodAttributes.hpp"
-#include "orbis/factory/PropertyAttributes.hpp"
-#include "orbis/factory/String.hpp"
-#include "orbis/factory/impl/MethodImpl.hpp"
+#include "orbis/factory/base/String.hpp"
+#include "orbis/factory/descriptors/MethodAttributes.hpp"
+#include "orbis/factory/descriptors/MethodImpl.hpp"
+#include "orbis/factory/descriptors/PropertyAttributes.hpp"
 
 #include <gtest/gtest.h>
 

@@ -4,10 +4,10 @@
 
 #include "orbis/factory/check.hpp"
 
-#include "orbis/factory/basic/BindingRegistry.hpp"
-#include "orbis/factory/basic/registry.hpp"
-#include "orbis/factory/detail/handles.hpp"
-#include "orbis/factory/detail/hostShares.hpp"
+#include "orbis/factory/detail/bindings/handles.hpp"
+#include "orbis/factory/detail/bindings/hostShares.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include "orbis/objectArrays.hpp"
 

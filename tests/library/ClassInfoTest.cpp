@@ -2,11 +2,11 @@
 #include "library/Shared.hpp"
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/NonHandleClassInfo.hpp"
-#include "orbis/factory/ObjectVectorPolicy.hpp"
-#include "orbis/factory/ValuePolicy.hpp"
-#include "orbis/factory/basic/registry.hpp"
-#include "orbis/factory/full/BindingRegistry.hpp"
+#include "orbis/factory/classes/NonHandleClassInfo.hpp"
+#include "orbis/factory/marshaling/ValuePolicy.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
+#include "orbis/factory/types/ObjectVectorPolicy.hpp"
 
 #include "orbis/objectArrays.hpp"
 

@@ -2,8 +2,8 @@
 #include "library/Tally.hpp"
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/StringViewPolicy.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/types/StringViewPolicy.hpp"
 #include "orbis/factory/withDefaults.hpp"
 
 using namespace orbis;

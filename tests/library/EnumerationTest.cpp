@@ -1,9 +1,9 @@
 #include "HvmTest.hpp"
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/EnumerationClassInfo.hpp"
-#include "orbis/factory/OptionalPolicy.hpp"
+#include "orbis/factory/classes/EnumerationClassInfo.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/types/OptionalPolicy.hpp"
 
 #include "orbis/objectArrays.hpp"
 

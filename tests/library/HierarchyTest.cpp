@@ -1,7 +1,7 @@
 #include "HvmTest.hpp"
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include "orbis/objectArrays.hpp"
 

@@ -1,10 +1,10 @@
 #include "HvmTest.hpp"
 #include "library/Tally.hpp"
 
-#include "orbis/factory/FunctionInfo.hpp"
-#include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/impl/OrbisConstructor.hpp"
+#include "orbis/factory/descriptors/FunctionInfo.hpp"
+#include "orbis/factory/descriptors/OrbisConstructor.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
 
 #include "orbis/COSMethodSignature.hpp"
 #include "orbis/objectArrays.hpp"

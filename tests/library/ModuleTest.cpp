@@ -2,7 +2,7 @@
 #include "library/Plain.hpp"
 #include "library/libraryFile.hpp"
 
-#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
 
 #include "orbis/COSNameID.hpp"
 #include "orbis/COSPackage.hpp"

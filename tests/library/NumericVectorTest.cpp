@@ -1,9 +1,9 @@
 #include "HvmTest.hpp"
 
-#include "orbis/factory/NumericSpanPolicy.hpp"
-#include "orbis/factory/NumericVectorPolicy.hpp"
 #include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
+#include "orbis/factory/types/NumericSpanPolicy.hpp"
+#include "orbis/factory/types/NumericVectorPolicy.hpp"
 
 #include <limits>
 #include <numeric>

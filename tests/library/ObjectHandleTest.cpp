@@ -3,7 +3,7 @@
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/ObjectHandle.hpp"
-#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
 
 #include "orbis/objectArrays.hpp"
 

@@ -2,9 +2,9 @@
 #include "library/Tally.hpp"
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/NumericVectorPolicy.hpp"
-#include "orbis/factory/OptionalPolicy.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/types/NumericVectorPolicy.hpp"
+#include "orbis/factory/types/OptionalPolicy.hpp"
 
 #include "libhv/libhv.hpp"
 #include "orbis/COSDataType.hpp"

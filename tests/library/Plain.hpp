@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/HandleClassInfo.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
 /// A native class whose objects belong to the test: its class info leaves them alone.

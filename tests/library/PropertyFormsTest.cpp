@@ -2,10 +2,10 @@
 #include "host/messageIdOf.hpp"
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/NumericVectorPolicy.hpp"
-#include "orbis/factory/StringViewPolicy.hpp"
-#include "orbis/factory/impl/PropertyImpl.hpp"
-#include "orbis/factory/stringVectors.hpp"
+#include "orbis/factory/descriptors/PropertyImpl.hpp"
+#include "orbis/factory/types/NumericVectorPolicy.hpp"
+#include "orbis/factory/types/StringViewPolicy.hpp"
+#include "orbis/factory/types/stringVectors.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSDataType.hpp"

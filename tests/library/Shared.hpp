@@ -1,8 +1,8 @@
 #pragma once
 
-#include "orbis/factory/HostClass.hpp"
-#include "orbis/factory/ShareableHandleClassInfo.hpp"
-#include "orbis/factory/StdShareableHandleClassInfo.hpp"
+#include "orbis/factory/classes/HostClass.hpp"
+#include "orbis/factory/classes/ShareableHandleClassInfo.hpp"
+#include "orbis/factory/classes/StdShareableHandleClassInfo.hpp"
 
 #include <memory>
 

@@ -2,9 +2,9 @@
 #include "library/Shared.hpp"
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/SharedPointerPolicy.hpp"
-#include "orbis/factory/full/BindingRegistry.hpp"
-#include "orbis/factory/sharedObjectVectors.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
+#include "orbis/factory/types/SharedPointerPolicy.hpp"
+#include "orbis/factory/types/sharedObjectVectors.hpp"
 
 #include "orbis/COSPropInfo.hpp"
 #include "orbis/objectArrays.hpp"

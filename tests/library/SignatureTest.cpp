@@ -1,7 +1,7 @@
 #include "HvmTest.hpp"
 
-#include "orbis/factory/FunctionInfo.hpp"
-#include "orbis/factory/ParameterNamer.hpp"
+#include "orbis/factory/descriptors/FunctionInfo.hpp"
+#include "orbis/factory/descriptors/ParameterNamer.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
 using namespace orbis;

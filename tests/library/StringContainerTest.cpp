@@ -1,13 +1,13 @@
 #include "HvmTest.hpp"
 #include "library/texts.hpp"
 
-#include "orbis/factory/OptionalPolicy.hpp"
-#include "orbis/factory/StringViewPolicy.hpp"
-#include "orbis/factory/argumentErrors.hpp"
+#include "orbis/factory/base/argumentErrors.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
 #include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/errorIdentities.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
-#include "orbis/factory/stringVectors.hpp"
+#include "orbis/factory/types/OptionalPolicy.hpp"
+#include "orbis/factory/types/StringViewPolicy.hpp"
+#include "orbis/factory/types/stringVectors.hpp"
 
 #include "libkwfl/Exception.hpp"
 

@@ -2,8 +2,8 @@
 #include "host/messageIdOf.hpp"
 #include "library/texts.hpp"
 
-#include "orbis/factory/basic/HvmScoped.hpp"
-#include "orbis/factory/detail/initStringDataTypes.hpp"
+#include "orbis/factory/ownership/HvmScoped.hpp"
+#include "orbis/factory/types/initStringDataTypes.hpp"
 
 #include "marshal/StringDataTypeRegistration.hpp"
 

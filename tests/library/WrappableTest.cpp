@@ -1,8 +1,7 @@
 #include "HvmTest.hpp"
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/basic/BindingRegistry.hpp"
-#include "orbis/factory/full/BindingRegistry.hpp"
+#include "orbis/factory/ownership/BindingRegistry.hpp"
 
 #include "orbis/objectArrays.hpp"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orbis/factory/HandleClassInfo.hpp"
-#include "orbis/factory/HostClass.hpp"
+#include "orbis/factory/classes/HandleClassInfo.hpp"
+#include "orbis/factory/classes/HostClass.hpp"
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "orbis/factory/MemberRecord.hpp"
-#include "orbis/factory/NativeClassRecord.hpp"
-#include "orbis/factory/PropertyRecord.hpp"
-#include "orbis/factory/export.hpp"
+#include "orbis/factory/base/export.hpp"
+#include "orbis/factory/classes/NativeClassRecord.hpp"
+#include "orbis/factory/detail/members/MemberRecord.hpp"
+#include "orbis/factory/detail/members/PropertyRecord.hpp"
 
 #include "orbis/COSClass.hpp"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orbis/factory/MemberRecord.hpp"
-#include "orbis/factory/export.hpp"
+#include "orbis/factory/base/export.hpp"
+#include "orbis/factory/detail/members/MemberRecord.hpp"
 
 #include "orbis/COSPackage.hpp"
 

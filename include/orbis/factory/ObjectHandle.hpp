@@ -1,9 +1,9 @@
 #pragma once
 
-#include "orbis/factory/H_ck.hpp"
-#include "orbis/factory/MarshalingPolicy.hpp"
-#include "orbis/factory/detail/NewArray.hpp"
-#include "orbis/factory/detail/handles.hpp"
+#include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/detail/bindings/handles.hpp"
+#include "orbis/factory/marshaling/MarshalingPolicy.hpp"
+#include "orbis/factory/ownership/H_ck.hpp"
 
 #include "orbis/objectArrays.hpp"
 

@@ -2,13 +2,13 @@
 
 #include "orbis/factory/ClassDescription.hpp"
 #include "orbis/factory/ParameterNames.hpp"
-#include "orbis/factory/detail/areSuperclasses.hpp"
-#include "orbis/factory/detail/makePropertyRecord.hpp"
-#include "orbis/factory/detail/makeRecord.hpp"
-#include "orbis/factory/detail/propertyChecks.hpp"
+#include "orbis/factory/descriptors/releasedBy.hpp"
+#include "orbis/factory/detail/members/areSuperclasses.hpp"
+#include "orbis/factory/detail/members/makePropertyRecord.hpp"
+#include "orbis/factory/detail/members/makeRecord.hpp"
+#include "orbis/factory/detail/members/propertyChecks.hpp"
 #include "orbis/factory/overload.hpp"
-#include "orbis/factory/releasedBy.hpp"
-#include "orbis/factory/standardPolicies.hpp"
+#include "orbis/factory/types/standardPolicies.hpp"
 
 namespace orbis::factory {
 

@@ -2,9 +2,9 @@
 
 #include "orbis/factory/FunctionDescription.hpp"
 #include "orbis/factory/ParameterNames.hpp"
-#include "orbis/factory/detail/makeRecord.hpp"
+#include "orbis/factory/detail/members/makeRecord.hpp"
 #include "orbis/factory/overload.hpp"
-#include "orbis/factory/standardPolicies.hpp"
+#include "orbis/factory/types/standardPolicies.hpp"
 
 namespace orbis::factory {
 

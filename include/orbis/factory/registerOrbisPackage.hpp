@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/export.hpp"
+#include "orbis/factory/base/export.hpp"
 
 #include "orbis/COSPackage.hpp"
 

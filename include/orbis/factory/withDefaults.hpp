@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/detail/shorterRecords.hpp"
+#include "orbis/factory/detail/members/defaultedOverloads.hpp"
 
 #include <tuple>
 #include <type_traits>
@@ -45,14 +45,14 @@ public:
     template <class T, std::size_t Objects, class F>
     std::vector<MemberRecord> shorten(MemberRecord const& full, F function) const
     {
-        return detail::shorterFunctions<T, Objects>(full, function, values_);
+        return detail::defaultedFunctions<T, Objects>(full, function, values_);
     }
 
     /// The same for a constructor of `T` that takes values of the types `A`.
     template <class T, class... A>
     std::vector<MemberRecord> shortenConstructor(MemberRecord const& full) const
     {
-        return detail::shorterConstructors<T, A...>(full, values_);
+        return detail::defaultedConstructors<T, A...>(full, values_);
     }
 
 private:

@@ -3,9 +3,9 @@
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/ObjectHandle.hpp"
-#include "orbis/factory/ShareableHandleClassInfo.hpp"
-#include "orbis/factory/SharedPointerPolicy.hpp"
-#include "orbis/factory/StdShareableHandleClassInfo.hpp"
+#include "orbis/factory/classes/ShareableHandleClassInfo.hpp"
+#include "orbis/factory/classes/StdShareableHandleClassInfo.hpp"
+#include "orbis/factory/types/SharedPointerPolicy.hpp"
 
 #include <memory>
 #include <set>

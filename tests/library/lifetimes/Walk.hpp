@@ -3,8 +3,8 @@
 #include "library/lifetimes/Model.hpp"
 #include "library/lifetimes/Thing.hpp"
 
-#include "orbis/factory/basic/registry.hpp"
 #include "orbis/factory/check.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
 #include "velmara/Hvm.hpp"
 #include "velmara/LiveCounts.hpp"
 

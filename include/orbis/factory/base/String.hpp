@@ -1,0 +1,26 @@
+#pragma once
+
+#include "orbis/factory/base/export.hpp"
+
+#include <string>
+
+namespace orbis::factory {
+
+/// An owned narrow text, for exported interfaces that name no standard type.
+class ORBIS_FACTORY_API String {
+public:
+    /// `text` is NUL-terminated and not null.
+    String(char const* text);
+    String(std::string const& text);
+    String(String const&);
+    String& operator=(String const&);
+    ~String();
+
+    /// NUL-terminated; valid while this text lives unchanged.
+    operator char const*() const;
+
+private:
+    std::string text_;
+};
+
+} // namespace orbis::factory

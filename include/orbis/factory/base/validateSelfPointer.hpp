@@ -1,0 +1,15 @@
+#pragma once
+
+#include "orbis/factory/base/export.hpp"
+
+namespace orbis::factory::impl {
+
+class Invoker;
+
+/// Throws "orbis_factory:orbis_factory:null_self" when `self` is null.
+ORBIS_FACTORY_API void validateSelfPointer(void const* self);
+
+/// The same, but only for a member whose object is its first argument by force.
+ORBIS_FACTORY_API void validateSelfPointer(void const* self, Invoker const& invoker);
+
+} // namespace orbis::factory::impl

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "orbis/factory/classes/HostClass.hpp"
+#include "orbis/factory/classes/OrbisFactoryClassInfo.hpp"
+#include "orbis/factory/detail/bindings/bindings.hpp"
+#include "orbis/factory/detail/bindings/hostShares.hpp"
+
+#include <type_traits>
+
+namespace orbis::factory {
+
+/// Publishes a class whose host objects stand for native objects of type `T`, bound by their address. With `N` 1
+/// the end of the host object deletes the native one; with 0 it lives on, and belongs to whoever made it.
+template <class T, int N>
+class HandleClassInfo : public OrbisFactoryClassInfo {
+    static_assert(N == 0 || N == 1, "HandleClassInfo<T, N>: N is 1 to delete native objects with their host objects, "
+                                    "or 0 to leave them alone.");
+    static_assert(N == 0 || std::has_virtual_destructor_v<RootClass<T>>,
+                  "HandleClassInfo<T, 1> deletes native objects through T: give T a virtual destructor, or use "
+                  "HandleClassInfo<T, 0> and delete them yourself.");
+    static_assert(!ValueClass<T>, "Objects of a value class live inside their host objects: publish it with "
+                                  "NonHandleClassInfo, or leave ValuePolicy out of its HostClass.");
+
+public:
+    using OrbisFactoryClassInfo::OrbisFactoryClassInfo;
+
+    /// Null: the native object is bound later.
+    void* createInstanceData() override { return nullptr; }
+
+    /// Forgets the binding of `data`, a native address, to `object` (null for any object); true when there was one.
+    /// Only then the native object is deleted, if it is this class info's to delete.
+    bool destroyInstanceData(COSInterface* object, void* data) override
+    {
+        void* const forgotten = detail::forgetBinding(object, data);
+        bool isShared = false;
+        if constexpr (std::is_same_v<RootClass<T>, full::Wrappable>)
+            isShared = detail::dropShare(object);
+        if constexpr (N == 1) {
+            if (!isShared)
+                delete static_cast<RootClass<T>*>(forgotten);
+        }
+        return forgotten != nullptr;
+    }
+
+    bool isHandle() const override { return true; }
+    char const* nativeOwner() const override { return N == 1 ? "host" : "native"; }
+
+    void discardNative(void* native) noexcept override
+    {
+        if constexpr (N == 1)
+            delete static_cast<RootClass<T>*>(native);
+    }
+};
+
+} // namespace orbis::factory

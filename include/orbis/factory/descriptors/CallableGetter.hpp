@@ -1,0 +1,49 @@
+#pragma once
+
+#include "orbis/factory/descriptors/Getter.hpp"
+#include "orbis/factory/descriptors/ReleaseRoutine.hpp"
+#include "orbis/factory/marshaling/PropertyValue.hpp"
+#include "orbis/factory/marshaling/ReferredObjects.hpp"
+
+#include <type_traits>
+
+namespace orbis::factory::impl {
+
+/// What the getters have in common. `Derived` gives `read(object)`, the native value of the type `R`; `V` is the type
+/// it is stored as.
+template <class Derived, class R, class V>
+class CallableGetter : public Getter {
+public:
+    explicit CallableGetter(ReleaseRoutine release) : release_(release) {}
+
+    COSValue getValue(COSInterface* object) const override
+    {
+        using Value = std::conditional_t<std::is_reference_v<R>, V const&, V>;
+        return detail::toValue<Value>([&]() -> R { return derived().read(object); });
+    }
+
+    char const* dataTypeName() const override { return detail::dataTypeText<V>(); }
+
+    void releaseValue(COSInterface* object, COSValue value) const override
+    {
+        if (release_)
+            release_(object, value);
+    }
+
+    Enumeration<COSInterface*> getInterfaces(COSInterface* object) const override
+    {
+        if constexpr (detail::ReferredObjects<V>::any)
+            return detail::ReferredObjects<V>::of(derived().read(object));
+        else
+            return {};
+    }
+
+    bool canContainInterfaces() const override { return detail::ReferredObjects<V>::any; }
+
+private:
+    Derived const& derived() const { return static_cast<Derived const&>(*this); }
+
+    ReleaseRoutine release_;
+};
+
+} // namespace orbis::factory::impl

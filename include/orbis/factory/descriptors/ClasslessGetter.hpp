@@ -1,0 +1,25 @@
+#pragma once
+
+#include "orbis/factory/descriptors/CallableGetter.hpp"
+
+namespace orbis::factory::impl {
+
+/// Reads through a function without an object that gives an `R`, stored as a `V`: a static or constant property.
+template <class R, class V>
+class ClasslessGetter final : public CallableGetter<ClasslessGetter<R, V>, R, V> {
+public:
+    static constexpr bool needsObject = false;
+
+    explicit ClasslessGetter(R (*function)(), ReleaseRoutine release = nullptr)
+        : CallableGetter<ClasslessGetter, R, V>(release),
+          function_(function)
+    {
+    }
+
+    R read(COSInterface*) const { return function_(); }
+
+private:
+    R (*function_)();
+};
+
+} // namespace orbis::factory::impl

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "orbis/factory/descriptors/Invoker.hpp"
+#include "orbis/factory/descriptors/OrbisMethod.hpp"
+
+namespace orbis::factory::impl {
+
+/// The descriptor of a method or package function: calls through its invoker.
+class ORBIS_FACTORY_API MethodImpl : public OrbisMethod {
+public:
+    MethodImpl(char const* name, MethodAttributes attributes, char const* description);
+    ~MethodImpl() override;
+
+    void invoke(COSClient const* client, int& outputCount, COSValue* outputs, int inputCount,
+                COSValue const* inputs) const override;
+
+    /// To be filled before the descriptor is handed to the host.
+    Invoker& invoker();
+
+private:
+    Invoker invoker_;
+};
+
+} // namespace orbis::factory::impl

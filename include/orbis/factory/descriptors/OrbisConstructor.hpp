@@ -1,0 +1,24 @@
+#pragma once
+
+#include "orbis/factory/descriptors/Invoker.hpp"
+#include "orbis/factory/descriptors/OrbisMethod.hpp"
+
+namespace orbis::factory::impl {
+
+/// The descriptor of a constructor: calls through its invoker.
+class ORBIS_FACTORY_API OrbisConstructor : public OrbisMethod {
+public:
+    OrbisConstructor(char const* name, MethodAttributes attributes, char const* description);
+    ~OrbisConstructor() override;
+
+    void invoke(COSClient const* client, int& outputCount, COSValue* outputs, int inputCount,
+                COSValue const* inputs) const override;
+
+    /// To be filled before the descriptor is handed to the host.
+    Invoker& invoker();
+
+private:
+    Invoker invoker_;
+};
+
+} // namespace orbis::factory::impl

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "orbis/factory/base/String.hpp"
+#include "orbis/factory/base/export.hpp"
+#include "orbis/factory/descriptors/PropertyAttributes.hpp"
+
+#include "orbis/COSPropInfo.hpp"
+
+namespace orbis::factory::impl {
+
+/// Answers the host's questions about a property from a name, a description and an attribute set.
+class ORBIS_FACTORY_API PropertyImplBase : public COSPropInfo {
+public:
+    PropertyImplBase(String const& name, String const& description, PropertyAttributes attributes);
+    PropertyImplBase(PropertyImplBase const&);
+    PropertyImplBase& operator=(PropertyImplBase const&);
+    ~PropertyImplBase() override;
+
+    char const* getName() const override;
+    char const* getDescription() const override;
+
+    /// What `getDescription` gives, also when a subclass overrides that.
+    char const* getDetailedDescription() const override;
+
+    /// Always empty.
+    COSValue getDefaultValue() const override;
+    MemberAccess getMemberGetAccess() const override;
+    MemberAccess getMemberSetAccess() const override;
+    bool isSealed() const override;
+    bool isInitAllowed() const override;
+    bool isDefaultAllowed() const override;
+    bool isResetAllowed() const override;
+    bool isAbstract() const override;
+    bool isTransient() const override;
+    bool isCopyAllowed() const override;
+    bool isListenerGetAllowed() const override;
+    bool isListenerSetAllowed() const override;
+    bool isInspectAllowed() const override;
+    bool isAbortSet() const override;
+    bool isVisible() const override;
+    bool isStatic() const override;
+    bool isDependent() const override;
+    bool isGrandfathered() const override;
+
+private:
+    String name_;
+    String description_;
+    PropertyAttributes attributes_;
+};
+
+} // namespace orbis::factory::impl

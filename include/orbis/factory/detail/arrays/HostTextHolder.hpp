@@ -1,0 +1,28 @@
+#pragma once
+
+#include "orbis/factory/detail/arrays/ArgumentHolder.hpp"
+
+#include "libhv/libhv.hpp"
+
+namespace orbis::factory::detail {
+
+/// The holder of a NUL-terminated text that the host allocated; `T` is a pointer to its characters.
+template <class T>
+class HostTextHolder : public ArgumentHolder {
+public:
+    /// Takes over a text that `hvFreeEx` frees; null is allowed.
+    explicit HostTextHolder(T text) : text_(text) {}
+
+    ~HostTextHolder() override
+    {
+        if (text_)
+            hvFreeEx(text_);
+    }
+
+    T& value() { return text_; }
+
+private:
+    T text_;
+};
+
+} // namespace orbis::factory::detail

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "orbis/factory/detail/arrays/NewArray.hpp"
+
+#include "additions/additions.hpp"
+#include "libhv/hvArray.hpp"
+#include "orbis/COSValue.hpp"
+
+#include <algorithm>
+#include <span>
+#include <stdexcept>
+#include <vector>
+
+namespace orbis::factory::detail {
+
+/// The name of the data type whose values are arrays, of any size, of a native type's class.
+template <COSScalar T>
+constexpr char const* vectorTypeText()
+{
+    switch (COSValue::classOf<T>()) {
+    case hvLOGICAL_CLASS:
+        return "logical vector";
+    case hvSINGLE_CLASS:
+        return "single vector";
+    case hvINT8_CLASS:
+        return "int8 vector";
+    case hvUINT8_CLASS:
+        return "uint8 vector";
+    case hvINT16_CLASS:
+        return "int16 vector";
+    case hvUINT16_CLASS:
+        return "uint16 vector";
+    case hvINT32_CLASS:
+        return "int32 vector";
+    case hvUINT32_CLASS:
+        return "uint32 vector";
+    case hvINT64_CLASS:
+        return "int64 vector";
+    case hvUINT64_CLASS:
+        return "uint64 vector";
+    default:
+        return "double vector";
+    }
+}
+
+/// The elements of an array of the class of `T`, in column order; none for null. They are the array's.
+template <COSScalar T>
+std::span<T const> elementsOf(hvArray_tag const* array)
+{
+    if (!array)
+        return {};
+    if (array->_get_class_id_non_trivial() != COSValue::classOf<T>()) // a host that did not keep to the signature
+        throw std::invalid_argument("an array of another numeric class was passed");
+    return {static_cast<T const*>(additions::getData(array)), array->get_number_of_elements()};
+}
+
+/// A new row of the values.
+template <COSScalar T>
+hvArray* createRow(std::span<T const> values)
+{
+    return additions::createMatrix(1, values.size(), COSValue::classOf<T>(), values.data());
+}
+
+/// Packed values are written one by one.
+inline hvArray* createRow(std::vector<bool> const& values)
+{
+    NewArray row(additions::createMatrix(1, values.size(), hvLOGICAL_CLASS));
+    std::copy(values.begin(), values.end(), static_cast<bool*>(additions::getWritableData(row.get())));
+    return row.release();
+}
+
+} // namespace orbis::factory::detail

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "orbis/factory/detail/arrays/PassedArray.hpp"
+
+#include <cstddef>
+#include <functional>
+#include <tuple>
+#include <utility>
+
+namespace orbis::factory::detail {
+
+/// A callable (nothing for a constructor) and the values for its last parameters.
+template <class Function, class... D>
+struct Defaulted {
+    Function function;
+    std::tuple<D...> values;
+};
+
+/// Calls functions with the values given and, after them, the last `Omitted` values of a `Defaulted`. It holds nothing
+/// but a pointer to that, so a `Callable` made of the pointer is read as this.
+template <class Record, std::size_t Omitted>
+struct DefaultedCall {
+    static constexpr bool hasValues = true;
+
+    Record const* record;
+
+    /// Calls the record's own function. The object of a member function comes first.
+    template <class... Given>
+    decltype(auto) operator()(Given&&... given) const
+    {
+        return call(record->function, std::forward<Given>(given)...);
+    }
+
+    /// Any other function, completed in the same way.
+    template <class F>
+    auto complete(F function) const
+    {
+        return [this, function](auto&&... given) -> decltype(auto) {
+            return this->call(function, static_cast<decltype(given)>(given)...);
+        };
+    }
+
+    /// True when one of the values carries this array.
+    bool givesArray(hvArray const* array) const
+    {
+        auto const carries = [=]<class D>([[maybe_unused]] D const& value) {
+            if constexpr (PassedArray<D>::any)
+                return PassedArray<D>::of(value) == array;
+            else
+                return false;
+        };
+        return std::apply([&](auto const&... value) { return (carries(value) || ...); }, record->values);
+    }
+
+private:
+    template <class F, class... Given>
+    decltype(auto) call(F const& function, Given&&... given) const
+    {
+        constexpr std::size_t first = std::tuple_size_v<decltype(Record::values)> - Omitted;
+        return [&]<std::size_t... Index>(std::index_sequence<Index...>) -> decltype(auto) {
+            return std::invoke(function, std::forward<Given>(given)..., std::get<first + Index>(record->values)...);
+        }(std::make_index_sequence<Omitted>());
+    }
+};
+
+} // namespace orbis::factory::detail

@@ -1,0 +1,176 @@
+#pragma once
+
+#include "orbis/factory/base/validateSelfPointer.hpp"
+#include "orbis/factory/descriptors/Invoker.hpp"
+#include "orbis/factory/detail/bindings/NativeOwnership.hpp"
+#include "orbis/factory/detail/bindings/bindings.hpp"
+#include "orbis/factory/detail/members/CallableTraits.hpp"
+#include "orbis/factory/marshaling/Argument.hpp"
+#include "orbis/factory/ownership/CopyableSupport.hpp"
+#include "orbis/factory/types/HvArrayPolicy.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <algorithm>
+#include <type_traits>
+#include <utility>
+
+/// The routines behind `impl::Invoker::invokeFn`: one for each function type. The callable is read from the record,
+/// so functions of one type share their routine.
+namespace orbis::factory::detail {
+
+/// A function may return an array that it was given, as an input or as a default value: that one stays whose it was,
+/// and the host gets a reference more.
+template <class Result, class Target>
+void shareGivenArray([[maybe_unused]] COSValue const* outputs, [[maybe_unused]] COSValue const* inputs,
+                     [[maybe_unused]] int inputCount, [[maybe_unused]] Target const& target)
+{
+    if constexpr (!std::is_reference_v<Result> && passesForeignArray<Result>()) {
+        hvArray* const array = outputs->array();
+        bool isGiven = std::any_of(inputs, inputs + inputCount, [=](COSValue in) { return in.array() == array; });
+        if constexpr (requires { target.givesArray(array); })
+            isGiven = isGiven || target.givesArray(array);
+        if (array && isGiven)
+            array->add_reference();
+    }
+}
+
+/// Pointers to objects that are bound when they cross.
+template <class T>
+concept HandlePointer = std::is_pointer_v<T> && requires { requires MarshalerOf<T>::isHandle; };
+
+/// `storeResult`, for what a member gives when it is called: an object that it gives is the host's from then on, and
+/// does not leak when that cannot take it.
+template <class Result, class F>
+void storeCallResult(int& outputCount, COSValue* outputs, F&& function)
+{
+    if constexpr (HandlePointer<Result>) {
+        using Class = std::remove_const_t<std::remove_pointer_t<Result>>;
+        Result const object = std::forward<F>(function)();
+        try {
+            storeResult<Result>(outputCount, outputs, [&] { return object; });
+        } catch (...) {
+            discardUnbound(MarshalerOf<Result>::boundAddress(const_cast<Class*>(object)), HostClass<Class>::name);
+            throw;
+        }
+    } else {
+        storeResult<Result>(outputCount, outputs, std::forward<F>(function));
+    }
+}
+
+template <class Pointer, class Result, class Parameters>
+struct FreeFunctionRoutine;
+
+template <class Pointer, class Result, class... A>
+struct FreeFunctionRoutine<Pointer, Result, TypeList<A...>> {
+    static void invoke(impl::Invoker const* invoker, COSClient const*, int& outputCount, COSValue* outputs,
+                       int inputCount, COSValue const* inputs)
+    {
+        ArgumentsOf<A...> arguments(inputs);
+        // Only a pointer can fail the check: the address of a converted value is never null.
+        if constexpr (sizeof...(A) > 0) {
+            if constexpr (std::is_pointer_v<std::remove_cvref_t<decltype(arguments.first())>>)
+                impl::validateSelfPointer(arguments.first(), *invoker);
+        }
+        storeCallResult<Result>(outputCount, outputs,
+                                [&]() -> Result { return arguments.apply(invoker->target.template as<Pointer>()); });
+        shareGivenArray<Result>(outputs, inputs, inputCount, invoker->target.template as<Pointer>());
+    }
+};
+
+template <class T, class Pointer, class Result, class Parameters>
+struct MemberFunctionRoutine;
+
+template <class T, class Pointer, class Result, class... A>
+struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
+    static void invoke(impl::Invoker const* invoker, COSClient const*, int& outputCount, COSValue* outputs,
+                       int inputCount, COSValue const* inputs)
+    {
+        T* const self = convertFromHost<T*>(inputs[0]);
+        ArgumentsOf<A...> arguments(inputs + 1);
+        if (!self) [[unlikely]]
+            impl::validateSelfPointer(self);
+        storeCallResult<Result>(outputCount, outputs, [&]() -> Result {
+            return arguments.apply([&](auto&&... values) -> Result {
+                auto const target = invoker->target.template as<Pointer>();
+                if constexpr (std::is_member_function_pointer_v<Pointer>)
+                    return (self->*target)(static_cast<decltype(values)>(values)...);
+                else
+                    return target(self, static_cast<decltype(values)>(values)...);
+            });
+        });
+        shareGivenArray<Result>(outputs, inputs, inputCount, invoker->target.template as<Pointer>());
+    }
+};
+
+/// Throws the error of a constructor that cannot give its arguments to the object that exists already.
+[[noreturn]] ORBIS_FACTORY_API void throwNotAssignable(char const* className);
+
+/// A constructor that is given all of its arguments.
+struct NoDefaults {
+    static constexpr bool hasValues = false;
+
+    template <class F>
+    F complete(F function) const
+    {
+        return function;
+    }
+};
+
+/// Constructs the native object of the host object in `outputs[0]`. Where the class info has made one already, that
+/// one is used, and takes the value of a new one when the constructor has arguments.
+template <class T, class Parameters, class Completion = NoDefaults>
+struct ConstructorRoutine;
+
+template <class T, class... A, class Completion>
+struct ConstructorRoutine<T, TypeList<A...>, Completion> {
+    static void invoke(impl::Invoker const* invoker, COSClient const*, int& outputCount, COSValue* outputs, int,
+                       COSValue const* inputs)
+    {
+        hvArray* const constructed = outputs[0].array();
+        COSNameID const className(HostClass<T>::name);
+        COSInterfacePtr const held = cosiGetArrayElement(constructed, 0);
+        COSInterface* const host = held;
+        T* const existing = MarshalerOf<T*>::template fromBound<T>(host->getNativeObject(className));
+        ArgumentsOf<A...> arguments(inputs);
+        auto const completion = invoker->target.template as<Completion>();
+        if (existing) {
+            assign(*existing, arguments, completion);
+            bind(host, className, existing);
+        } else {
+            auto made = arguments.apply(completion.complete(
+                [](auto&&... values) { return NativeOwnership<T>::make(static_cast<decltype(values)>(values)...); }));
+            bind(host, className, made.get());
+            NativeOwnership<T>::handOver(std::move(made), constructed);
+        }
+        if (outputCount == 0)
+            outputCount = 1;
+    }
+
+private:
+    static void bind(COSInterface* host, COSNameID const& className, T* object)
+    {
+        using Bound = MarshalerOf<T*>;
+        void* const address = Bound::boundAddress(object);
+        if constexpr (Bound::isHandle) {
+            bindConstructed(host, className, address);
+        } else {
+            CopyableSupport::removeFromUnconstructedSet(address);
+            host->setNativeObject(className, address);
+        }
+    }
+
+    static void assign([[maybe_unused]] T& existing, [[maybe_unused]] ArgumentsOf<A...>& arguments,
+                       [[maybe_unused]] Completion completion)
+    {
+        if constexpr (sizeof...(A) > 0 || Completion::hasValues) {
+            if constexpr (std::is_move_assignable_v<T>)
+                existing = arguments.apply(
+                    completion.complete([](auto&&... values) { return T(static_cast<decltype(values)>(values)...); }));
+            else
+                throwNotAssignable(HostClass<T>::name);
+        }
+    }
+};
+
+} // namespace orbis::factory::detail

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "orbis/factory/classes/HostClass.hpp"
+#include "orbis/factory/marshaling/MarshalingPolicy.hpp"
+
+#include <concepts>
+#include <type_traits>
+
+namespace orbis::factory::detail {
+
+/// True when pointers to the class cross as pointers to one class without published subclasses.
+template <class T>
+inline constexpr bool standsAlone =
+    std::is_same_v<typename MarshalingPolicy<T*>::Type, VelmaraManagedNoInheritancePolicy>;
+
+/// True when `T` can have the superclass `B`; stops compilation with a sentence when it cannot.
+template <class T, class B>
+consteval bool isSuperclass()
+{
+    static_assert(std::derived_from<T, B> && !std::is_same_v<B, T>,
+                  "The superclass is no public base class of the class: inherits<...>() names such ones.");
+    static_assert(PublishedClass<B>, "The superclass has no host name: specialise orbis::factory::HostClass for it, "
+                                     "beside the class.");
+    if constexpr (PublishedClass<B> && std::derived_from<T, B> && !std::is_same_v<B, T>) {
+        constexpr bool areValues = ValueClass<T> || ValueClass<B>;
+        static_assert(!areValues, "Value classes have no superclasses: publish classes with superclasses as handles.");
+        constexpr bool areBoundAlike =
+            areValues || (std::is_same_v<RootClass<T>, RootClass<B>> && !standsAlone<T> && !standsAlone<B>);
+        static_assert(areBoundAlike, "The class and its superclass are not bound as one class: say `using Root = ...` "
+                                     "in the HostClass of both, with the topmost class of the hierarchy, or derive "
+                                     "that from full::Wrappable.");
+        return areBoundAlike && !areValues;
+    } else {
+        return false;
+    }
+}
+
+template <class T, class... B>
+consteval bool areSuperclasses()
+{
+    return (isSuperclass<T, B>() && ...);
+}
+
+} // namespace orbis::factory::detail

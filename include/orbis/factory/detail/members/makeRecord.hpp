@@ -1,0 +1,77 @@
+#pragma once
+
+#include "orbis/factory/detail/members/MemberRecord.hpp"
+#include "orbis/factory/detail/members/Routines.hpp"
+
+#include <type_traits>
+
+namespace orbis::factory::detail {
+
+/// True when results and parameters can cross; stops compilation with a sentence when they cannot.
+template <class Result, class... A>
+consteval bool signatureCanCross(TypeList<A...>)
+{
+    static_assert(sizeof...(A) <= maximumInputs, "A published function takes at most 20 parameters: pass several "
+                                                 "values as one array or object.");
+    bool const parameters = (isMarshalable<A>() && ... && true);
+    if constexpr (std::is_void_v<Result>)
+        return parameters && sizeof...(A) <= maximumInputs;
+    else
+        return isMarshalable<std::remove_cvref_t<Result>>() && parameters && sizeof...(A) <= maximumInputs;
+}
+
+template <class... A>
+std::vector<char const*> inputTypes(TypeList<A...>)
+{
+    return {dataTypeText<A>()...};
+}
+
+template <class... A>
+consteval bool refusesNullAmong(TypeList<A...>)
+{
+    return (refusesNull<A>() || ...);
+}
+
+template <class Pointer, class Result, class Parameters>
+MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, MethodAttributes attributes)
+{
+    return {.kind = MemberRecord::Kind::FreeFunction,
+            .name = name,
+            .parameterNames = names,
+            .attributes = attributes,
+            .outputType = dataTypeText<Result>(),
+            .inputTypes = inputTypes(Parameters{}),
+            .invokeFn = &FreeFunctionRoutine<Pointer, Result, Parameters>::invoke,
+            .target = function,
+            .refusesNull = refusesNullAmong(Parameters{})};
+}
+
+template <class T, class Pointer, class Result, class Parameters>
+MemberRecord memberFunctionRecord(char const* name, Pointer function, char const* names, MethodAttributes attributes)
+{
+    return {.kind = MemberRecord::Kind::MemberFunction,
+            .name = name,
+            .parameterNames = names,
+            .attributes = attributes,
+            .outputType = dataTypeText<Result>(),
+            .inputTypes = inputTypes(Parameters{}),
+            .invokeFn = &MemberFunctionRoutine<T, Pointer, Result, Parameters>::invoke,
+            .target = function,
+            .refusesNull = refusesNullAmong(Parameters{})};
+}
+
+template <class T, class... A>
+MemberRecord constructorRecord(char const* names, MethodAttributes attributes)
+{
+    return {.kind = MemberRecord::Kind::Constructor,
+            .name = nullptr,
+            .parameterNames = names,
+            .attributes = attributes,
+            .outputType = HostClass<T>::name,
+            .inputTypes = inputTypes(TypeList<A...>{}),
+            .invokeFn = &ConstructorRoutine<T, TypeList<A...>>::invoke,
+            .target = {},
+            .refusesNull = refusesNullAmong(TypeList<A...>{})};
+}
+
+} // namespace orbis::factory::detail

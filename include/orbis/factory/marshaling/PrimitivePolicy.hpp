@@ -1,0 +1,48 @@
+#pragma once
+
+#include "orbis/factory/base/export.hpp"
+#include "orbis/factory/marshaling/Marshaler.hpp"
+
+#include "orbis/COSNameID.hpp"
+#include "orbis/COSValue.hpp"
+
+namespace orbis::factory {
+
+/// `bool`, `float`, `double` and integers: they travel in the value slot itself, and the host converts.
+class PrimitivePolicy {};
+
+template <>
+class ORBIS_FACTORY_API Marshaler<PrimitivePolicy> {
+public:
+    Marshaler& operator=(Marshaler const&);
+    Marshaler& operator=(Marshaler&&);
+
+    template <COSScalar T>
+    static void toHost(T value, COSValue* out)
+    {
+        *out = COSValue(value);
+    }
+
+    template <COSScalar T>
+    static T fromHost(COSValue const& in)
+    {
+        return in.scalar<T>();
+    }
+
+    template <COSScalar T>
+    static COSNameID dataTypeName()
+    {
+        return COSNameID(dataTypeText<T>());
+    }
+
+    template <COSScalar T>
+    static char const* dataTypeText()
+    {
+        return scalarTypeText(COSValue::classOf<T>());
+    }
+
+private:
+    static char const* scalarTypeText(hvClassID classID);
+};
+
+} // namespace orbis::factory

@@ -1,0 +1,107 @@
+#pragma once
+
+#include "orbis/factory/base/validateSelfPointer.hpp"
+#include "orbis/factory/detail/arrays/throwNullInput.hpp"
+#include "orbis/factory/detail/objects/ObjectPointerMarshaler.hpp"
+#include "orbis/factory/marshaling/Marshaler.hpp"
+#include "orbis/factory/marshaling/MarshalingPolicy.hpp"
+
+#include <type_traits>
+
+namespace orbis::factory {
+
+namespace detail {
+
+/// A native object that lives inside its host object.
+struct InstanceData {
+    static constexpr bool isHandle = false;
+    static constexpr bool isHeterogeneous = false;
+
+    template <class T>
+    static T* fromBound(void* object)
+    {
+        return static_cast<T*>(object);
+    }
+
+    template <class T>
+    static void* toBound(T* object)
+    {
+        return object;
+    }
+
+    /// A new host object with a copy of the value; 0-by-0 for null.
+    template <class T>
+    static hvArray* announce(T const* value)
+    {
+        static_assert(std::is_copy_assignable_v<T>, "Values of this class are handed to the host as copies: make the "
+                                                    "class assignable.");
+        COSNameID const name(HostClass<T>::name);
+        if (!value)
+            return omCreateORBISMatrix(0, 0, name);
+        return basic::BindingRegistry::announceWithoutStoring(const_cast<T*>(value), name, [](void* to, void* from) {
+            impl::validateSelfPointer(to);
+            *static_cast<T*>(to) = *static_cast<T const*>(from);
+        });
+    }
+};
+
+} // namespace detail
+
+/// Value classes: named as `Policy` in their `HostClass`. Pointers lead to the native object inside the host object;
+/// results become new host objects with copies.
+class ValuePolicy {};
+
+template <>
+class Marshaler<ValuePolicy> : public detail::ObjectPointerMarshaler<detail::InstanceData> {
+public:
+    /// The object lives and ends with its host object, which knows of no pointers to it.
+    template <ValueClass T>
+    static consteval bool isView()
+    {
+        return true;
+    }
+};
+
+/// The same for the values themselves and references to them. Where the host gives no object, the `null_input` error is
+/// thrown.
+class ValueObjectPolicy {};
+
+template <>
+class Marshaler<ValueObjectPolicy> : public Marshaler<ValuePolicy> {
+    using Pointers = Marshaler<ValuePolicy>;
+
+public:
+    template <ValueClass T>
+    static void toHost(T const& value, hvArray** out)
+    {
+        Pointers::toHost<T>(&value, out);
+    }
+
+    template <ValueClass T>
+    static T const& fromHost(hvArray_tag const* in)
+    {
+        T const* const value = Pointers::fromHost<T>(in);
+        if (!value)
+            detail::throwNullInput(in, HostClass<T>::name);
+        return *value;
+    }
+
+    template <ValueClass T>
+    static consteval bool refusesNull()
+    {
+        return true;
+    }
+
+    template <ValueClass T>
+    static consteval bool isView()
+    {
+        return false;
+    }
+};
+
+template <ValueClass T>
+struct MarshalingPolicy<T> {
+    using Type = ValueObjectPolicy;
+};
+
+} // namespace orbis::factory

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "orbis/factory/base/export.hpp"
+
+#include "orbis/COSInterface.hpp"
+#include "orbis/Enumeration.hpp"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace orbis::factory {
+
+/// An enumeration of one host object, or of none. It holds no reference on the object.
+class ORBIS_FACTORY_API InterfaceEnumeration final : public EnumerationImplementation<COSInterface*> {
+public:
+    /// Zero-filled storage; throws the host's `bad_alloc`.
+    static void* operator new(std::size_t size);
+    static void operator delete(void* storage);
+
+    explicit InterfaceEnumeration(COSInterface* element);
+    ~InterfaceEnumeration() override;
+
+    bool hasMoreElements() const override;
+
+    /// The object, once; then throws the host's `ENoElements`.
+    COSInterface* nextElement() override;
+
+    /// How many of these exist in the process.
+    static std::int64_t liveCount();
+
+private:
+    COSInterface* pending_;
+};
+
+} // namespace orbis::factory

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "orbis/factory/base/export.hpp"
+
+#include "orbis/COSInterface.hpp"
+#include "orbis/Enumeration.hpp"
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+namespace orbis::factory {
+
+/// An enumeration of several host objects. It holds no references on them.
+class ORBIS_FACTORY_API InterfaceListEnumeration final : public EnumerationImplementation<COSInterface*> {
+public:
+    /// The host objects bound to the addresses, in their order; those that are not bound have none. Throws the host's
+    /// `bad_alloc`.
+    static Enumeration<COSInterface*> ofBound(std::span<void const* const> objects);
+
+    static void* operator new(std::size_t size);
+    static void operator delete(void* storage);
+
+    ~InterfaceListEnumeration() override;
+    bool hasMoreElements() const override;
+
+    /// Throws the host's `ENoElements` past the end.
+    COSInterface* nextElement() override;
+
+private:
+    explicit InterfaceListEnumeration(std::span<void const* const> objects);
+
+    std::vector<COSInterface*> elements_;
+    std::size_t position_ = 0;
+};
+
+} // namespace orbis::factory

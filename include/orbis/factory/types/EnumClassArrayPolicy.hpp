@@ -1,0 +1,86 @@
+#pragma once
+
+#include "orbis/factory/base/export.hpp"
+#include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/detail/objects/EnumerationMarshaler.hpp"
+#include "orbis/factory/marshaling/MarshalingPolicy.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <string>
+#include <vector>
+
+namespace orbis::factory {
+
+namespace detail {
+
+/// Outside the exported class, so that its text stays a matter of each module.
+template <class E>
+char const* enumerationVectorText()
+{
+    static std::string const text = std::string(enumerationRecord<E>.hostName) + " vector";
+    return text.c_str();
+}
+
+} // namespace detail
+
+/// `std::vector` of enumerators, wherever their class is written. To the host it is one row of their objects; from the
+/// host it is all elements of an array of any size, in column order.
+class EnumClassArrayPolicy {};
+
+template <>
+class ORBIS_FACTORY_API Marshaler<EnumClassArrayPolicy> {
+    template <class Vector>
+    static constexpr EnumerationRecord const& record = detail::enumerationRecord<typename Vector::value_type>;
+
+public:
+    Marshaler& operator=(Marshaler const&);
+    Marshaler& operator=(Marshaler&&);
+
+    template <class Vector>
+    static void toHost(Vector const& values, hvArray** out)
+    {
+        COSNameID const className = getScalarClassID(dataTypeName<Vector>());
+        detail::NewArray row(omCreateORBISMatrix(1, values.size(), className));
+        for (std::size_t i = 0; i < values.size(); ++i)
+            omSetArrayElement(
+                row.get(), i,
+                detail::enumeratorObject(record<Vector>, className, static_cast<std::int64_t>(values[i])));
+        *out = row.release();
+    }
+
+    template <class Vector>
+    static Vector fromHost(hvArray_tag const* in)
+    {
+        std::size_t const count = in ? in->get_number_of_elements() : 0;
+        Vector values;
+        values.reserve(count);
+        for (std::size_t i = 0; i < count; ++i)
+            values.push_back(static_cast<typename Vector::value_type>(
+                detail::enumeratorValue(record<Vector>, omGetArrayElement(in, i))));
+        return values;
+    }
+
+    template <class Vector>
+    static COSNameID dataTypeName()
+    {
+        return COSNameID(dataTypeText<Vector>());
+    }
+
+    template <class Vector>
+    static char const* dataTypeText()
+    {
+        return detail::enumerationVectorText<typename Vector::value_type>();
+    }
+
+private:
+    /// The data type name of one element: without its last seven characters where it contains " vector", else itself.
+    static COSNameID getScalarClassID(COSNameID const& arrayType);
+};
+
+template <PublishedEnumeration E>
+struct MarshalingPolicy<std::vector<E>> {
+    using Type = EnumClassArrayPolicy;
+};
+
+} // namespace orbis::factory

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "orbis/factory/detail/arrays/numericArrays.hpp"
+#include "orbis/factory/marshaling/MarshalingPolicy.hpp"
+
+#include "orbis/COSNameID.hpp"
+
+#include <span>
+
+namespace orbis::factory {
+
+/// `std::span<T const>` of numbers or `bool`: a parameter sees the elements where the host keeps them, in column order,
+/// for the length of the call, and nothing is copied (but what the host converts, as for `NumericVectorPolicy`). As a
+/// result it is copied to one row.
+class NumericSpanPolicy {};
+
+template <>
+class Marshaler<NumericSpanPolicy> {
+public:
+    template <class Span>
+    static void toHost(Span values, hvArray** out)
+    {
+        *out = detail::createRow(values);
+    }
+
+    template <class Span>
+    static Span fromHost(hvArray_tag const* in)
+    {
+        return detail::elementsOf<typename Span::value_type>(in);
+    }
+
+    template <class Span>
+    static COSNameID dataTypeName()
+    {
+        return COSNameID(dataTypeText<Span>());
+    }
+
+    template <class Span>
+    static char const* dataTypeText()
+    {
+        return detail::vectorTypeText<typename Span::value_type>();
+    }
+
+    /// The elements are not its own.
+    template <class Span>
+    static consteval bool isView()
+    {
+        return true;
+    }
+};
+
+template <COSScalar T>
+struct MarshalingPolicy<std::span<T const>> {
+    using Type = NumericSpanPolicy;
+};
+
+} // namespace orbis::factory

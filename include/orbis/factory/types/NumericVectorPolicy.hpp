@@ -1,0 +1,56 @@
+#pragma once
+
+#include "orbis/factory/detail/arrays/numericArrays.hpp"
+#include "orbis/factory/marshaling/MarshalingPolicy.hpp"
+
+#include "orbis/COSNameID.hpp"
+
+#include <span>
+#include <type_traits>
+#include <vector>
+
+namespace orbis::factory {
+
+/// `std::vector` of numbers or `bool`, copied once in each direction. To the host it is one row. From the host it is
+/// all elements of an array of any size, in column order; the host converts arrays of other numeric classes before,
+/// element by element, and refuses the whole when it would have to cut one.
+class NumericVectorPolicy {};
+
+template <>
+class Marshaler<NumericVectorPolicy> {
+public:
+    template <class Vector>
+    static void toHost(Vector const& values, hvArray** out)
+    {
+        if constexpr (std::is_same_v<Vector, std::vector<bool>>)
+            *out = detail::createRow(values);
+        else
+            *out = detail::createRow(std::span(values));
+    }
+
+    template <class Vector>
+    static Vector fromHost(hvArray_tag const* in)
+    {
+        auto const elements = detail::elementsOf<typename Vector::value_type>(in);
+        return Vector(elements.begin(), elements.end());
+    }
+
+    template <class Vector>
+    static COSNameID dataTypeName()
+    {
+        return COSNameID(dataTypeText<Vector>());
+    }
+
+    template <class Vector>
+    static char const* dataTypeText()
+    {
+        return detail::vectorTypeText<typename Vector::value_type>();
+    }
+};
+
+template <COSScalar T>
+struct MarshalingPolicy<std::vector<T>> {
+    using Type = NumericVectorPolicy;
+};
+
+} // namespace orbis::factory

@@ -1,0 +1,144 @@
+#pragma once
+
+#include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/detail/arrays/throwNullInput.hpp"
+#include "orbis/factory/detail/bindings/bindings.hpp"
+#include "orbis/factory/marshaling/MarshalingPolicy.hpp"
+#include "orbis/factory/marshaling/ReferredObjects.hpp"
+#include "orbis/factory/ownership/InterfaceListEnumeration.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace orbis::factory {
+
+/// `std::vector` of pointers to published objects: `std::vector<T*>` here, shared pointers with
+/// `sharedObjectVectors.hpp`. Each element crosses as it does alone; null elements are null in the host too.
+///
+/// To the host it is one row, typed as the class, or as the most specific class that all elements have in common where
+/// the class has published subclasses. From the host it is all elements of an array of any size, in column order; an
+/// object without a native object of the class is refused with the `null_input` error.
+class ObjectVectorPolicy {};
+
+template <>
+class Marshaler<ObjectVectorPolicy> {
+    template <class Vector>
+    using Element = typename Vector::value_type;
+
+    template <class Vector>
+    using Class = std::remove_const_t<typename std::pointer_traits<Element<Vector>>::element_type>;
+
+public:
+    template <class Vector>
+    static void toHost(Vector const& values, hvArray** out)
+    {
+        detail::NewArray row(omCreateORBISMatrix(1, values.size(), COSNameID(HostClass<Class<Vector>>::name)));
+        try {
+            for (std::size_t i = 0; i < values.size(); ++i)
+                setElement(row.get(), i, values[i]);
+        } catch (...) {
+            if constexpr (std::is_pointer_v<Element<Vector>>)
+                for (auto const& value : values)
+                    detail::releaseResult(detail::boundAddressOf(value), row.get());
+            throw;
+        }
+        if constexpr (detail::MarshalerOf<Class<Vector>*>::isHeterogeneous)
+            omSetClassOfHeterogeneousArray(row.get());
+        *out = row.release();
+    }
+
+    template <class Vector>
+    static Vector fromHost(hvArray_tag const* in)
+    {
+        Vector values;
+        if (!omIsORBIS(in)) // "[]" stands for no objects
+            return values;
+        std::size_t const count = in->get_number_of_elements();
+        values.reserve(count);
+        for (std::size_t i = 0; i < count; ++i) {
+            COSInterfacePtr const object = omGetArrayElement(in, i);
+            values.push_back(fromObject<Element<Vector>>(object, in));
+        }
+        return values;
+    }
+
+    template <class Vector>
+    static COSNameID dataTypeName()
+    {
+        return COSNameID(dataTypeText<Vector>());
+    }
+
+    template <class Vector>
+    static char const* dataTypeText()
+    {
+        static std::string const text = std::string(HostClass<Class<Vector>>::name) + " vector";
+        return text.c_str();
+    }
+
+    template <class Vector>
+    static consteval bool refusesNull()
+    {
+        return true;
+    }
+
+    template <class Vector>
+    static consteval bool isView()
+    {
+        return detail::isView<Element<Vector>>();
+    }
+
+private:
+    template <class Pointer>
+    static void setElement(hvArray_tag* row, std::size_t i, Pointer const& value)
+    {
+        if (!value)
+            return;
+        detail::NewArray scalar;
+        detail::MarshalerOf<Pointer>::template toHost<detail::MarshaledTypeOf<Pointer>>(value, scalar.place());
+        omSetArrayElement(row, i, omGetArrayElement(scalar.get(), 0));
+    }
+
+    template <class Pointer>
+    static auto fromObject(COSInterface const* object, hvArray_tag const* in)
+    {
+        auto element = detail::MarshalerOf<Pointer>::template fromObject<detail::MarshaledTypeOf<Pointer>>(object);
+        if (object && !element)
+            detail::throwNullInput(
+                in, HostClass<std::remove_const_t<typename std::pointer_traits<Pointer>::element_type>>::name);
+        return element;
+    }
+};
+
+template <class T>
+    requires PublishedClass<std::remove_const_t<T>>
+struct MarshalingPolicy<std::vector<T*>> {
+    using Type = ObjectVectorPolicy;
+};
+
+namespace detail {
+
+/// A vector refers to the object of each of its pointers.
+template <class Vector>
+struct ReferredByElements {
+    static constexpr bool any = true;
+
+    static Enumeration<COSInterface*> of(Vector const& values)
+    {
+        std::vector<void const*> addresses;
+        addresses.reserve(values.size());
+        for (auto const& value : values)
+            addresses.push_back(boundAddressOf(value));
+        return InterfaceListEnumeration::ofBound(addresses);
+    }
+};
+
+template <class T>
+    requires PublishedClass<std::remove_const_t<T>>
+struct ReferredObjects<std::vector<T*>> : ReferredByElements<std::vector<T*>> {};
+
+} // namespace detail
+} // namespace orbis::factory

@@ -1,0 +1,119 @@
+#pragma once
+
+#include "orbis/factory/detail/arrays/ArgumentHolder.hpp"
+#include "orbis/factory/detail/arrays/PassedArray.hpp"
+#include "orbis/factory/marshaling/Argument.hpp"
+#include "orbis/factory/marshaling/MarshalingPolicy.hpp"
+#include "orbis/factory/marshaling/ReferredObjects.hpp"
+
+#include "additions/additions.hpp"
+#include "orbis/COSNameID.hpp"
+
+#include <optional>
+#include <string>
+
+namespace orbis::factory {
+
+/// `std::optional<T>`, for every `T` that can cross. No value is "[]" to the host, a double array of 0-by-0; from the
+/// host it is the same, or a missing string. A value crosses as `T` does. The data type is that of `T` and " or empty",
+/// whose values the host passes in empty slots when there is none.
+class OptionalPolicy {};
+
+template <>
+class Marshaler<OptionalPolicy> {
+public:
+    /// Holds the value, and what it may refer to, for the call.
+    template <class Optional>
+    class FromM final : public detail::ArgumentHolder {
+    public:
+        explicit FromM(COSValue const& in)
+        {
+            if (in.isEmpty())
+                return;
+            held_.emplace(in);
+            value_.emplace(held_->get());
+        }
+
+        Optional&& value() { return std::move(value_); }
+
+    private:
+        std::optional<detail::Argument<typename Optional::value_type>> held_;
+        Optional value_;
+    };
+
+    template <class Optional>
+    static void toHost(Optional const& value, COSValue* out)
+    {
+        using T = typename Optional::value_type;
+        int outputCount = 1;
+        if (value)
+            detail::storeResult<T>(outputCount, out, [&]() -> T const& { return *value; });
+        else
+            *out = COSValue(additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+    }
+
+    template <class Optional>
+    static FromM<Optional> fromHost(COSValue const& in)
+    {
+        return FromM<Optional>(in);
+    }
+
+    template <class Optional>
+    static COSNameID dataTypeName()
+    {
+        return COSNameID(dataTypeText<Optional>());
+    }
+
+    template <class Optional>
+    static char const* dataTypeText()
+    {
+        static std::string const text =
+            std::string(detail::dataTypeText<typename Optional::value_type>()) + " or empty";
+        return text.c_str();
+    }
+
+    template <class Optional>
+    static consteval bool refusesNull()
+    {
+        return detail::refusesNull<typename Optional::value_type>();
+    }
+
+    template <class Optional>
+    static consteval bool isView()
+    {
+        return detail::isView<typename Optional::value_type>();
+    }
+};
+
+template <class T>
+struct MarshalingPolicy<std::optional<T>> {
+    static_assert(detail::isMarshalable<T>());
+    using Type = OptionalPolicy;
+};
+
+namespace detail {
+
+/// The array of the value, when there is one.
+template <class T>
+    requires PassedArray<T>::any
+struct PassedArray<std::optional<T>> {
+    static constexpr bool any = true;
+
+    static hvArray* of(std::optional<T> const& value) { return value ? PassedArray<T>::of(*value) : nullptr; }
+};
+
+/// What the value refers to, when there is one.
+template <class T>
+    requires ReferredObjects<T>::any
+struct ReferredObjects<std::optional<T>> {
+    static constexpr bool any = true;
+
+    static Enumeration<COSInterface*> of(std::optional<T> const& value)
+    {
+        return value ? ReferredObjects<T>::of(*value) : Enumeration<COSInterface*>();
+    }
+};
+
+} // namespace detail
+
+} // namespace orbis::factory

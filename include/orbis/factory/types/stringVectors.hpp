@@ -1,0 +1,62 @@
+#pragma once
+
+#include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/detail/arrays/narrowText.hpp"
+#include "orbis/factory/detail/arrays/textCells.hpp"
+#include "orbis/factory/types/DataTypePolicy.hpp"
+
+#include "additions/additions.hpp"
+#include "libhv/libhv.hpp"
+#include "string_matrix/string_matrix.hpp"
+
+#include <string>
+#include <vector>
+
+namespace orbis::factory {
+
+/// `std::vector<std::string>`, in UTF-8. To the host it is a column of cells. From the host it is a string array, whose
+/// missing elements are left out, or a cell array of character arrays; null is an empty vector. Texts keep zeros in
+/// them, both ways.
+///
+/// `fromHost` throws "orbis_factory:orbis_factory:must_be_cell_array" for other arrays, and ":must_be_string" for a
+/// cell that is empty or of another class.
+template <>
+struct HostDataType<std::vector<std::string>> {
+    static constexpr char const* name = "OrbisFactoryString vector";
+
+    static hvArray* toHost(std::vector<std::string> const& strings) { return detail::makeTextCells(strings, makeText); }
+
+    static std::vector<std::string> fromHost(hvArray* value)
+    {
+        std::vector<std::string> strings;
+        if (Tarnwick::String::isString(value))
+            readStrings(Tarnwick::String::getString(value), strings);
+        else if (value)
+            detail::readTextCells(
+                value, [&](std::size_t count) { strings.reserve(count); },
+                [&](std::u16string_view text) { detail::appendNarrow(text, strings); });
+        return strings;
+    }
+
+private:
+    /// The host reads up to a zero: when that is not the whole of an ASCII text, there may be one in it.
+    static hvArray* makeText(std::string const& string)
+    {
+        detail::NewArray text(hvCreateString(string.c_str()));
+        if (text.get()->get_number_of_elements() == string.size() || string.find('\0') == string.npos) [[likely]]
+            return text.release();
+        return additions::createText(fl::i18n::to_ustring(string));
+    }
+
+    static void readStrings(Tarnwick::StringArray const& array, std::vector<std::string>& strings)
+    {
+        std::size_t const count = array.getNumberOfElements();
+        strings.reserve(count);
+        for (std::size_t i = 0; i < count; ++i) {
+            if (char16_t const* const text = array.getText(i))
+                detail::appendNarrow({text, array.getLength(i)}, strings);
+        }
+    }
+};
+
+} // namespace orbis::factory

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "orbis/factory/base/export.hpp"
+#include "orbis/factory/types/DataTypePolicy.hpp"
+
+#include "libkwi18n/libkwi18n.hpp"
+
+#include <set>
+#include <vector>
+
+namespace orbis::factory {
+
+/// Vectors and ordered sets of UTF-16 strings. To the host they are a column of cells, in the container's order; each
+/// text ends at its first zero. From the host they are a string array, whose missing elements are left out, or a cell
+/// array of character arrays; null is an empty container. Texts keep zeros in them.
+///
+/// `fromHost` throws "orbis_factory:orbis_factory:must_be_cell_array" for other arrays, ":must_be_string" for a cell
+/// that is empty or of another class, and ":no_duplicates" when a set is given one text twice.
+template <>
+struct ORBIS_FACTORY_API HostDataType<std::vector<fl::ustring>> {
+    static constexpr char const* name = "OrbisFactoryString vector";
+    static hvArray* toHost(std::vector<fl::ustring> const& strings);
+    static std::vector<fl::ustring> fromHost(hvArray* value);
+};
+
+template <>
+struct ORBIS_FACTORY_API HostDataType<std::set<fl::ustring>> {
+    static constexpr char const* name = "OrbisFactoryString vector";
+    static hvArray* toHost(std::set<fl::ustring> const& strings);
+    static std::set<fl::ustring> fromHost(hvArray* value);
+};
+
+} // namespace orbis::factory
