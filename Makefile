@@ -10,7 +10,7 @@ run: ## build the optimised console and run the tour of the samples
 	@scripts/run
 test: ## build for development and run every test
 	@scripts/test
-check: ## formatting, static analysis, headers that stand alone
+check: ## formatting, floors, static analysis, files that stand alone
 	@scripts/check
 sanitize: ## every test under the address, undefined behaviour and leak sanitizers
 	@scripts/sanitize

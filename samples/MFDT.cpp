@@ -22,10 +22,9 @@ std::int32_t amount(std::int32_t cents)
     return cents;
 }
 
-using A = MethodAttributes;
-
 ClassDescriber<MFDT> describeAccount()
 {
+    using A = MethodAttributes;
     return describe<MFDT>()
         .staticMethod("open", &MFDT::open, "number", A::Static())
         .method("pay", &MFDT::pay, "cents", A::Sealed())
@@ -43,7 +42,7 @@ ClassDescriber<MFDT> describeAccount()
 }
 
 /// A description can be looked at without a host.
-std::string attributesOf(std::string const& method)
+std::string attributesOfMethod(std::string const& method)
 {
     ClassDescriber<MFDT> const description = describeAccount();
     for (MemberRecord const& member : description.members())
@@ -88,7 +87,7 @@ MFDTCI::MFDTCI() : HandleClassInfo(HostClass<MFDT>::name, "An account, owned by 
 
 void MFDTCI::initializeClass(COSClass* cls)
 {
-    publish(cls, describeAccount().staticMethod("attributesOf", &attributesOf, "method"));
+    publish(cls, describeAccount().staticMethod("attributesOf", &attributesOfMethod, "method"));
 }
 
 } // namespace orbis::factory::samples

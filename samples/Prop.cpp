@@ -65,7 +65,7 @@ ClassDescriber<Prop> describeThermostat()
 }
 
 /// A description can be looked at without a host.
-std::string attributesOf(std::string const& property)
+std::string attributesOfProperty(std::string const& property)
 {
     ClassDescriber<Prop> const description = describeThermostat();
     for (PropertyRecord const& record : description.properties())
@@ -95,7 +95,7 @@ void PropWrapper::initializeClass(COSClass* cls)
     publish(cls, describeThermostat()
                      .constructor()
                      .method("unlock", &Prop::unlock, "pin")
-                     .staticMethod("attributesOf", &attributesOf, "property"));
+                     .staticMethod("attributesOf", &attributesOfProperty, "property"));
 }
 
 bool PropWrapper::destroyInstanceData(COSInterface*, void* data)

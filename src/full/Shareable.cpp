@@ -11,7 +11,7 @@
 namespace orbis::factory::full {
 
 namespace {
-using Kept = KeepAliveSet<boost::unordered_set<boost::shared_ptr<Shareable>>>;
+using KeptShareables = KeepAliveSet<boost::unordered_set<boost::shared_ptr<Shareable>>>;
 } // namespace
 
 Shareable::Shareable() = default;
@@ -33,29 +33,29 @@ SharingType Shareable::getSharingType() const
 
 void acquireReference(boost::shared_ptr<Shareable> const& object)
 {
-    Kept::keep(object);
+    KeptShareables::keep(object);
 }
 
 void acquireReference(Shareable* object)
 {
     if (object)
-        Kept::keep(object->shared_from_this());
+        KeptShareables::keep(object->shared_from_this());
 }
 
 void releaseReference(boost::shared_ptr<Shareable> const& object)
 {
-    Kept::drop(object);
+    KeptShareables::drop(object);
 }
 
 void releaseReference(Shareable* object)
 {
     if (object)
-        Kept::drop(object->shared_from_this());
+        KeptShareables::drop(object->shared_from_this());
 }
 
 Wrappable const* findOrphanedShareable()
 {
-    return Kept::findOrphaned();
+    return KeptShareables::findOrphaned();
 }
 
 bool canAcquireReference(Shareable*)
@@ -67,5 +67,5 @@ bool canAcquireReference(Shareable*)
 
 void orbis::factory::detail::releaseHostKeptShareable(COSInterface const* object, void* data)
 {
-    full::Kept::dropForHost(object, data);
+    full::KeptShareables::dropForHost(object, data);
 }

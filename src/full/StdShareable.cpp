@@ -11,7 +11,7 @@
 namespace orbis::factory::full {
 
 namespace {
-using Kept = KeepAliveSet<std::unordered_set<std::shared_ptr<StdShareable>>>;
+using KeptStdShareables = KeepAliveSet<std::unordered_set<std::shared_ptr<StdShareable>>>;
 } // namespace
 
 StdShareable::StdShareable() = default;
@@ -33,29 +33,29 @@ SharingType StdShareable::getSharingType() const
 
 void acquireReference(std::shared_ptr<StdShareable> const& object)
 {
-    Kept::keep(object);
+    KeptStdShareables::keep(object);
 }
 
 void acquireReference(StdShareable* object)
 {
     if (object)
-        Kept::keep(object->shared_from_this());
+        KeptStdShareables::keep(object->shared_from_this());
 }
 
 void releaseReference(std::shared_ptr<StdShareable> const& object)
 {
-    Kept::drop(object);
+    KeptStdShareables::drop(object);
 }
 
 void releaseReference(StdShareable* object)
 {
     if (object)
-        Kept::drop(object->shared_from_this());
+        KeptStdShareables::drop(object->shared_from_this());
 }
 
 Wrappable const* findOrphanedStdShareable()
 {
-    return Kept::findOrphaned();
+    return KeptStdShareables::findOrphaned();
 }
 
 bool canAcquireReference(StdShareable*)
@@ -67,5 +67,5 @@ bool canAcquireReference(StdShareable*)
 
 void orbis::factory::detail::releaseHostKeptStdShareable(COSInterface const* object, void* data)
 {
-    full::Kept::dropForHost(object, data);
+    full::KeptStdShareables::dropForHost(object, data);
 }
