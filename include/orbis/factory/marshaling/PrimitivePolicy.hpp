@@ -8,7 +8,7 @@
 
 namespace orbis::factory {
 
-/// `bool`, `float`, `double` and integers: they travel in the value slot itself, and the host converts.
+/// `bool`, `float`, `double` and integers: stored in the value slot itself. The host converts them.
 class PrimitivePolicy {};
 
 template <>

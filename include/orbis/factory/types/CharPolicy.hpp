@@ -7,8 +7,8 @@
 
 namespace orbis::factory {
 
-/// `char`: one byte of UTF-8 text. Zero is an empty text. Of a longer text the first byte counts; a byte beyond ASCII
-/// is no text by itself and reaches the host as U+FFFD.
+/// `char`: one byte of UTF-8 text. Zero converts to an empty text. Of a longer text only the first byte is read. A byte
+/// beyond ASCII is not valid UTF-8 by itself, and reaches the host as U+FFFD.
 class CharPolicy {};
 
 template <>

@@ -8,9 +8,9 @@
 
 namespace orbis::factory {
 
-/// `char*` and `char const*`: NUL-terminated UTF-8. An argument is a copy that lives for the call, and ends for its
-/// reader at the first zero in the text; a missing array is null. A result is copied, so it may belong to the object;
-/// null is an empty text.
+/// `char*` and `char const*`: NUL-terminated UTF-8. An argument is a copy that is freed after the call, and appears to
+/// end at the first embedded zero; null for a missing array. A result is copied, so the object may keep it; null
+/// converts to an empty text.
 class CharPtrPolicy {};
 
 template <>
@@ -50,7 +50,7 @@ public:
         return "char";
     }
 
-    /// What it points to is not its own.
+    /// Does not own the characters.
     template <class T>
     static consteval bool isView()
     {

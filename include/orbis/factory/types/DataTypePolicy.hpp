@@ -10,19 +10,19 @@
 
 namespace orbis::factory {
 
-/// Names the registered host data type that carries a native type, and converts between the two. Specialise it for a
-/// type of your own, whose data type you register with the host:
+/// Names the registered host data type of a native type, and converts between the two. Specialise it for a type of your
+/// own whose data type you register with the host:
 ///
 ///     template <>
 ///     struct orbis::factory::HostDataType<Color> {
 ///         static constexpr char const* name = "paint.Color scalar";
-///         static hvArray* toHost(Color const& color);   // a new value of the data type, the caller's
-///         static Color fromHost(hvArray* value);        // `value` stays the host's; null is the data type's null
+///         static hvArray* toHost(Color const& color);   // returns a new value, owned by the caller
+///         static Color fromHost(hvArray* value);        // the host keeps `value`; null is the data type's null
 ///     };
 template <class T>
 struct HostDataType;
 
-/// True for a type that a host data type carries.
+/// Satisfied by types with a `HostDataType`.
 template <class T>
 concept HasHostDataType = requires(T const& native, hvArray* value) {
     {
@@ -37,7 +37,7 @@ concept HasHostDataType = requires(T const& native, hvArray* value) {
 };
 
 /// Native types with a `HostDataType`. The host converts arguments to that data type before the library sees them, so
-/// what fits a parameter, and how it is described and compared, is the data type's to say.
+/// the data type defines which values a parameter accepts, and how they are described and compared.
 class DataTypePolicy {};
 
 template <>

@@ -14,7 +14,7 @@ namespace orbis::factory {
 
 namespace detail {
 
-/// Outside the exported class, so that its text stays a matter of each module.
+/// Outside the exported class, so that each module has its own static text.
 template <class E>
 char const* enumerationVectorText()
 {
@@ -24,8 +24,8 @@ char const* enumerationVectorText()
 
 } // namespace detail
 
-/// `std::vector` of enumerators, wherever their class is written. To the host it is one row of their objects; from the
-/// host it is all elements of an array of any size, in column order.
+/// `std::vector` of enumerators, whichever side implements their class. Passed to the host as a row of their objects.
+/// From the host it takes all elements of an array of any size, in column order.
 class EnumClassArrayPolicy {};
 
 template <>
@@ -74,7 +74,8 @@ public:
     }
 
 private:
-    /// The data type name of one element: without its last seven characters where it contains " vector", else itself.
+    /// Returns the data type name of one element: `arrayType` without its last seven characters if it contains "
+    /// vector", else unchanged.
     static COSNameID getScalarClassID(COSNameID const& arrayType);
 };
 

@@ -8,7 +8,7 @@
 
 namespace orbis::factory {
 
-/// `hvArrayProxy` and `hvConstArrayProxy`: any host array, as it is. See there for who owns what.
+/// `hvArrayProxy` and `hvConstArrayProxy`: any host array, unconverted. Ownership is documented there.
 class HvArrayPolicy {};
 
 template <>
@@ -41,7 +41,7 @@ public:
         return "any";
     }
 
-    /// What it points to is not its own.
+    /// Does not own the array.
     template <class T>
     static consteval bool isView()
     {

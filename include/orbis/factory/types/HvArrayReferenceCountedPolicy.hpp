@@ -7,7 +7,7 @@
 
 namespace orbis::factory {
 
-/// `hvArrayReferenceCountedProxy`: any host array, as it is, shared with the host in both directions.
+/// `hvArrayReferenceCountedProxy`: any host array, unconverted, shared with the host in both directions.
 class HvArrayReferenceCountedPolicy {};
 
 template <>
@@ -16,7 +16,7 @@ public:
     Marshaler& operator=(Marshaler const&);
     Marshaler& operator=(Marshaler&&);
 
-    /// The result is a reference of its own: the proxy gives back the one that it holds.
+    /// Adds a reference for the host, because the proxy releases its own.
     template <class T>
     static void toHost(T const& value, hvArray** out)
     {

@@ -9,9 +9,8 @@
 
 namespace orbis::factory {
 
-/// `std::span<T const>` of numbers or `bool`: a parameter sees the elements where the host keeps them, in column order,
-/// for the length of the call, and nothing is copied (but what the host converts, as for `NumericVectorPolicy`). As a
-/// result it is copied to one row.
+/// `std::span<T const>` of numbers or `bool`. A parameter refers to the host's elements, in column order, during the
+/// call; nothing is copied, except where the host converts (see `NumericVectorPolicy`). A result is copied to one row.
 class NumericSpanPolicy {};
 
 template <>
@@ -41,7 +40,7 @@ public:
         return detail::vectorTypeText<typename Span::value_type>();
     }
 
-    /// The elements are not its own.
+    /// Does not own the elements.
     template <class Span>
     static consteval bool isView()
     {

@@ -11,9 +11,9 @@
 
 namespace orbis::factory {
 
-/// `std::vector` of numbers or `bool`, copied once in each direction. To the host it is one row. From the host it is
-/// all elements of an array of any size, in column order; the host converts arrays of other numeric classes before,
-/// element by element, and refuses the whole when it would have to cut one.
+/// `std::vector` of numbers or `bool`, copied once in each direction. Passed to the host as one row. From the host it
+/// takes all elements of an array of any size, in column order. The host first converts arrays of other numeric classes
+/// element by element, and rejects an array with an element that the class cannot represent.
 class NumericVectorPolicy {};
 
 template <>

@@ -10,9 +10,9 @@
 
 namespace orbis::factory {
 
-/// `std::string`: UTF-8. An argument keeps zeros in the text; a missing array is an empty text. A result ends at its
-/// first zero (use `fl::ustring` with a vector of texts, or an array proxy, where that matters). Text that is not
-/// well-formed becomes what the host's own conversions make of it (U+FFFD in place of each ill-formed part).
+/// `std::string`: UTF-8. An argument keeps embedded zeros; a missing array converts to an empty text. A result ends at
+/// its first zero; where that matters, use an array proxy or a vector of texts. Ill-formed text is converted as by the
+/// host: each ill-formed part becomes U+FFFD.
 class StringPolicy {};
 
 template <>
@@ -33,7 +33,7 @@ public:
         *out = hvCreateString(value.c_str());
     }
 
-    /// Takes character arrays and host string scalars. Throws "VELMARA:class:RequireString" for other arrays, and
+    /// Accepts character arrays and host string scalars. Throws "VELMARA:class:RequireString" for other arrays, and
     /// "VELMARA:string:MissingNotSupported" for a missing string.
     template <class T>
     static FromM<T> fromHost(hvArray* in)

@@ -7,9 +7,9 @@
 
 namespace orbis::factory {
 
-/// `std::string_view` (UTF-8) and `std::u16string_view`, which cross as the strings of their characters do. The text of
-/// an argument is owned by its holder and goes with the call: a function that keeps it copies it. The text of a result
-/// is copied before the call ends.
+/// `std::string_view` (UTF-8) and `std::u16string_view`, marshaled like the corresponding strings. The text of an
+/// argument is freed after the call: a function that keeps it must copy it. The text of a result is copied before the
+/// call returns.
 class StringViewPolicy {};
 
 template <>
@@ -61,7 +61,7 @@ public:
         return TextMarshaler<View>::template dataTypeText<Text<View>>();
     }
 
-    /// The text is not its own.
+    /// Does not own the text.
     template <class View>
     static consteval bool isView()
     {

@@ -8,8 +8,8 @@
 
 namespace orbis::factory {
 
-/// `char16_t*` and `char16_t const*`: NUL-terminated UTF-16, in every other way like `CharPtrPolicy`. Ill-formed text
-/// passes unchanged in both directions.
+/// `char16_t*` and `char16_t const*`: NUL-terminated UTF-16, otherwise like `CharPtrPolicy`. Ill-formed text passes
+/// unchanged in both directions.
 class UnicodeCharPtrPolicy {};
 
 template <>
@@ -49,7 +49,7 @@ public:
         return "char";
     }
 
-    /// What it points to is not its own.
+    /// Does not own the characters.
     template <class T>
     static consteval bool isView()
     {

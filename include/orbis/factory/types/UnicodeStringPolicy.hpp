@@ -9,8 +9,8 @@
 
 namespace orbis::factory {
 
-/// `fl::ustring`: UTF-16, which passes unchanged also when it is ill-formed. An argument keeps zeros in the text; a
-/// missing array is an empty text. A result ends at its first zero.
+/// `fl::ustring`: UTF-16. Ill-formed text passes unchanged. An argument keeps embedded zeros; a missing array converts
+/// to an empty text. A result ends at its first zero.
 class UnicodeStringPolicy {};
 
 template <>
@@ -31,7 +31,7 @@ public:
         *out = hvCreateString_UTF16(value.c_str());
     }
 
-    /// Takes character arrays and host string scalars; throws like `extractString`.
+    /// Accepts character arrays and host string scalars; throws like `extractString`.
     template <class T>
     static FromM<T> fromHost(hvArray* in)
     {

@@ -8,12 +8,12 @@
 
 namespace orbis::factory::detail {
 
-/// True when pointers to the class cross as pointers to one class without published subclasses.
+/// True if the class is marshaled as one without published subclasses.
 template <class T>
 inline constexpr bool standsAlone =
     std::is_same_v<typename MarshalingPolicy<T*>::Type, VelmaraManagedNoInheritancePolicy>;
 
-/// True when `T` can have the superclass `B`; stops compilation with a sentence when it cannot.
+/// Returns whether `T` can have the superclass `B`; stops compilation with a sentence otherwise.
 template <class T, class B>
 consteval bool isSuperclass()
 {

@@ -6,10 +6,11 @@
 #include "orbis/factory/descriptors/DataSetter.hpp"
 #include "orbis/factory/detail/members/getterTraits.hpp"
 
-/// What can be published as a setter of the class `T`, and which setter writes through it.
+/// What can be published as a setter of class `T`, and the setter that writes through it.
 namespace orbis::factory::detail {
 
-/// `isSetter`; where it is: `Value`, what it takes; `Pointer`, what it is kept as; `Setter`, what writes through that.
+/// `isSetter`; if that is true, also `Value`: the type that is written; `Pointer`: the type as which the callable is
+/// stored; `Setter`: the class that writes through it.
 template <class T, class S>
 struct SetterTraits {
     static constexpr bool isSetter = false;
@@ -24,7 +25,7 @@ struct WrittenThrough {
     using Setter = Writer;
 };
 
-/// The one value that a function with the parameters `L` takes, after the object where it has one.
+/// The value type of a setter function with the parameters `L`: the only one, or the one after the object.
 template <class L>
 struct ValueAmong;
 
