@@ -13,7 +13,7 @@ namespace orbis::factory {
 
 namespace {
 
-/// What `convert` makes of the text of a character array or a host string scalar; null for null.
+/// Returns what `convert` makes of the text of a character array or a host string scalar; null for null.
 template <class Char>
 Char* convertText(hvArray const* in, Char* (*convert)(hvArray_tag const*))
 {

@@ -11,8 +11,8 @@
 namespace orbis::factory {
 
 /// `std::string`: UTF-8. An argument keeps embedded zeros; a missing array converts to an empty text. A result ends at
-/// its first zero; where that matters, use an array proxy or a vector of texts. Ill-formed text is converted as by the
-/// host: each ill-formed part becomes U+FFFD.
+/// its first zero; where that matters, return an array proxy or a `std::vector<std::string>`. Ill-formed text is
+/// converted as by the host: each ill-formed part becomes U+FFFD.
 class StringPolicy {};
 
 template <>

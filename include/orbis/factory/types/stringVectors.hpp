@@ -39,7 +39,8 @@ struct HostDataType<std::vector<std::string>> {
     }
 
 private:
-    /// `hvCreateString` stops at a zero. If the array is shorter than the string, that has a zero or is not ASCII.
+    /// `hvCreateString` stops at the first zero. An array as long as the string is complete; so is a shorter one, of
+    /// text beyond ASCII, if the string has no zero.
     static hvArray* makeText(std::string const& string)
     {
         detail::NewArray text(hvCreateString(string.c_str()));
