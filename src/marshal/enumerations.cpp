@@ -95,17 +95,17 @@ COSInterfacePtr enumeratorObject(EnumerationRecord const& enumeration, COSNameID
 
 std::int64_t enumeratorValue(EnumerationRecord const& enumeration, COSInterface const* object)
 {
-    additions::Enumerator const* const given = additions::describeEnumerator(object);
-    if (!given)
+    additions::Enumerator const* const enumerator = additions::describeEnumerator(object);
+    if (!enumerator)
         throwNoSuchEnumerator(enumeration, "null");
     // A class that was published from the same record has its enumerators in the same order.
     std::span<Entry const> const entries = enumeration.entries;
-    if (given->position < entries.size() && isCalled(entries[given->position], given->name)) [[likely]]
-        return entries[given->position].value;
+    if (enumerator->position < entries.size() && isCalled(entries[enumerator->position], enumerator->name)) [[likely]]
+        return entries[enumerator->position].value;
     for (Entry const& entry : entries)
-        if (isCalled(entry, given->name))
+        if (isCalled(entry, enumerator->name))
             return entry.value;
-    return valueByOtherName(enumeration, object, given->name);
+    return valueByOtherName(enumeration, object, enumerator->name);
 }
 
 hvArray* enumeratorToHost(EnumerationRecord const& enumeration, std::int64_t value)

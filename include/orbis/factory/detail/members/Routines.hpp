@@ -139,10 +139,10 @@ struct ConstructorRoutine<T, TypeList<A...>, Completion> {
             assign(*existing, arguments, completion);
             bind(host, className, existing);
         } else {
-            auto made = arguments.apply(completion.complete(
+            auto object = arguments.apply(completion.complete(
                 [](auto&&... values) { return NativeOwnership<T>::make(static_cast<decltype(values)>(values)...); }));
-            bind(host, className, made.get());
-            NativeOwnership<T>::handOver(std::move(made), constructed);
+            bind(host, className, object.get());
+            NativeOwnership<T>::handOver(std::move(object), constructed);
         }
         if (outputCount == 0)
             outputCount = 1;

@@ -43,7 +43,7 @@ struct PointerOf<T, Traits> {
 /// Returns whether a value of type `D` can be the default of a parameter of type `P`; stops compilation with a sentence
 /// otherwise.
 template <class D, class P>
-consteval bool canStandFor()
+consteval bool isValidDefault()
 {
     constexpr bool converts = std::is_convertible_v<D const&, P>;
     constexpr bool isCut = std::is_floating_point_v<D> && std::is_integral_v<std::remove_cvref_t<P>>;
@@ -62,8 +62,8 @@ consteval bool canComplete(TypeList<A...>, std::tuple<D...> const*)
                           "is called on cannot.");
     if constexpr (areFew)
         return []<std::size_t... Index>(std::index_sequence<Index...>) {
-            constexpr std::size_t given = sizeof...(A) - sizeof...(D);
-            return (canStandFor<D, std::tuple_element_t<given + Index, std::tuple<A...>>>() && ... && true);
+            constexpr std::size_t required = sizeof...(A) - sizeof...(D);
+            return (isValidDefault<D, std::tuple_element_t<required + Index, std::tuple<A...>>>() && ... && true);
         }(std::index_sequence_for<D...>());
     else
         return false;

@@ -17,7 +17,7 @@ struct SetterTraits {
 };
 
 template <class A, class P, class Writer>
-struct WrittenThrough {
+struct SetterOf {
     static constexpr bool isSetter = true;
     static constexpr bool needsObject = Writer::needsObject;
     using Value = A;
@@ -43,36 +43,36 @@ template <class S>
 using SetterValue = typename ValueAmong<typename CallableTraits<S>::Parameters>::Type;
 
 template <class T, class S>
-using WrittenThroughMethod =
-    WrittenThrough<SetterValue<S>, typename CallableTraits<S>::template PointerIn<T>,
+using SetterOfMethod =
+    SetterOf<SetterValue<S>, typename CallableTraits<S>::template PointerIn<T>,
                    impl::ClassSetter<SetterValue<S>, T, typename CallableTraits<S>::template PointerIn<T>>>;
 
 template <class T, MethodOf<T> S>
     requires(CallableTraits<S>::arity == 1)
-struct SetterTraits<T, S> : WrittenThroughMethod<T, S> {};
+struct SetterTraits<T, S> : SetterOfMethod<T, S> {};
 
 template <class T, class M, class C>
     requires std::is_object_v<M> && (!std::is_const_v<M>) && std::derived_from<T, C>
 struct SetterTraits<T, M C::*>
-    : WrittenThrough<M, MemberPointerIn<M C::*, M T::*>, impl::ClassSetter<M, T, MemberPointerIn<M C::*, M T::*>>> {};
+    : SetterOf<M, MemberPointerIn<M C::*, M T::*>, impl::ClassSetter<M, T, MemberPointerIn<M C::*, M T::*>>> {};
 
 template <class T, class S, class Pointer = typename CallableTraits<S>::Pointer>
-using WrittenThroughFunctionOn =
-    WrittenThrough<SetterValue<S>, Pointer, impl::AdaptedClassSetter<SetterValue<S>, T, Pointer>>;
+using SetterOfFunctionOn =
+    SetterOf<SetterValue<S>, Pointer, impl::AdaptedClassSetter<SetterValue<S>, T, Pointer>>;
 
 template <class T, FunctionOn<T> S>
     requires(CallableTraits<S>::arity == 2)
-struct SetterTraits<T, S> : WrittenThroughFunctionOn<T, S> {};
+struct SetterTraits<T, S> : SetterOfFunctionOn<T, S> {};
 
 template <class S, class Pointer = typename CallableTraits<S>::Pointer>
-using WrittenThroughFunction = WrittenThrough<SetterValue<S>, Pointer, impl::ClasslessSetter<SetterValue<S>, Pointer>>;
+using SetterOfFunction = SetterOf<SetterValue<S>, Pointer, impl::ClasslessSetter<SetterValue<S>, Pointer>>;
 
 template <class T, FreeFunction S>
     requires(CallableTraits<S>::arity == 1)
-struct SetterTraits<T, S> : WrittenThroughFunction<S> {};
+struct SetterTraits<T, S> : SetterOfFunction<S> {};
 
 template <class T, class M>
     requires std::is_object_v<M> && (!std::is_const_v<M>)
-struct SetterTraits<T, M*> : WrittenThrough<M, M*, impl::DataSetter<M>> {};
+struct SetterTraits<T, M*> : SetterOf<M, M*, impl::DataSetter<M>> {};
 
 } // namespace orbis::factory::detail
