@@ -49,7 +49,7 @@ using orbis::COSInterfacePtr;
 using orbis::COSNameID;
 using orbis::COSValue;
 
-/// What a careful author would write by hand, with the same host calls as the generated routine.
+/// The reference: what a careful author would write by hand, with the same host calls as the generated routine.
 class HandWrittenAdd final : public orbis::COSMethodInfo {
 public:
     char const* getName() const override { return "add"; }
@@ -88,7 +88,7 @@ public:
     }
 };
 
-/// A virtual machine with the class published and one object of it.
+/// A virtual machine with the class published, and one object of it.
 class Fixture {
 public:
     Fixture() : scope_(hvm)

@@ -8,10 +8,10 @@
 
 namespace bench {
 
-/// The measured calls, each a loop over `count` of them.
+/// The measured calls; each scenario makes `count` of them.
 class CallScenarios {
 public:
-    /// Calls as the host does: it knows no more of a descriptor than its base class.
+    /// Calls like the host, which knows only a descriptor's base class.
     [[gnu::noipa]] void invoke(orbis::COSMethodInfo const& method, COSValue const* inputs, int inputCount,
                                std::size_t count)
     {
@@ -29,7 +29,7 @@ public:
     void member(std::size_t count) { invoke(fixture_.member, memberInputs_, 3, count); }
     void handWritten(std::size_t count) { invoke(fixture_.handWritten, memberInputs_, 3, count); }
 
-    /// The member by its name, through the host's dispatch, with numbers as scripts give them.
+    /// Calls the member by name through the host's dispatch, with numbers as scripts pass them.
     void dispatch(std::size_t count)
     {
         hvArray* const inputs[] = {one_.get(), two_.get()};
@@ -37,7 +37,7 @@ public:
             fixture_.hvm.call(fixture_.object.get(), "getSum", inputs);
     }
 
-    /// A bound object to the host, and its array given back.
+    /// Passes a bound object to the host and destroys the array.
     void announce(std::size_t count)
     {
         COSNameID const name(adderName);
@@ -45,14 +45,14 @@ public:
             hvDestroyArray(orbis::factory::basic::BindingRegistry::announce(fixture_.native, name));
     }
 
-    /// A bound handle object by its class's name, from its construction to its end.
+    /// Creates and destroys a bound handle object, by its class's name.
     void construct(std::size_t count)
     {
         for (std::size_t i = 0; i < count; ++i)
             fixture_.hvm.construct(adderName);
     }
 
-    /// What of this is the native object's own.
+    /// The part of `construct` that the native object itself costs.
     void allocate(std::size_t count)
     {
         for (std::size_t i = 0; i < count; ++i)

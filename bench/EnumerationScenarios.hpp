@@ -34,7 +34,7 @@ struct orbis::factory::HostEnumeration<bench::Tone> {
 
 namespace bench {
 
-/// One enumerator of sixteen in and out, beside an object of a class.
+/// Conversions of one enumerator of sixteen, and of an object for comparison.
 class EnumerationScenarios {
 public:
     EnumerationScenarios()
@@ -53,7 +53,7 @@ public:
     void enumeratorOut(std::size_t count) { out(Tone(121), count); }
     void objectOut(std::size_t count) { out(fixture_.native, count); }
 
-    /// Through the host's dispatch: an object, an enumerator, and a name and a number in its place.
+    /// Through the host's dispatch, with an object, an enumerator, and the enumerator's name and number.
     void callWithObject(std::size_t count) { call("bench_tones.takeAdder", fixture_.object.get(), count); }
     void callWithEnumerator(std::size_t count) { call("bench_tones.takeTone", tone_.get(), count); }
     void callWithName(std::size_t count) { call("bench_tones.takeTone", name_.get(), count); }

@@ -15,7 +15,7 @@
 
 namespace bench {
 
-/// A native object owned as its base says.
+/// A native object whose base determines its owner.
 template <class Base>
 class Owned : public Base {
     std::int32_t value_ = 1;
@@ -42,7 +42,7 @@ struct orbis::factory::HostClass<bench::Amount> {
 
 namespace bench {
 
-/// Objects of `T`, published by `Info`, each created by its class's name and ended again.
+/// Creates and destroys objects of `T`, published by `Info`, by their class's name.
 template <class T, class Info>
 class OwnershipScenarios {
 public:

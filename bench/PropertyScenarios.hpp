@@ -55,7 +55,8 @@ public:
     }
 };
 
-/// What a careful author would write by hand, with the same host calls as the generated getter and setter.
+/// The reference: what a careful author would write by hand, with the same host calls as the generated getter and
+/// setter.
 class HandWrittenLevel final : public PropertyImplBase {
 public:
     HandWrittenLevel() : PropertyImplBase("level", "", {}) {}
@@ -81,10 +82,10 @@ private:
     }
 };
 
-/// Reads and writes of a property, each a loop over `count` of them.
+/// Reads and writes of a property; each scenario makes `count` of them.
 class PropertyScenarios {
 public:
-    /// As the host does: it knows no more of a descriptor than its base class. What was read is given back.
+    /// Reads like the host, which knows only a descriptor's base class, and releases the value.
     [[gnu::noipa]] void read(orbis::COSPropInfo const& property, std::size_t count)
     {
         for (std::size_t i = 0; i < count; ++i)
@@ -115,7 +116,7 @@ public:
     }
 
 private:
-    /// The descriptor that the host is given.
+    /// The descriptor as it is published.
     static std::unique_ptr<orbis::COSPropInfo> describedLevel()
     {
         orbis::factory::PropertyRecord const record = GaugeInfo::description().properties().at(0);

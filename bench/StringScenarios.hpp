@@ -15,9 +15,9 @@
 
 namespace bench {
 
-/// Strings of 12 characters in and out of native functions, through their `FunctionInfo`; each scenario is a loop over
-/// `count` calls. Results are given back inside the loop. Beside vectors stand the host calls and copies that any
-/// implementation must make. The narrow vectors are of `std::string`, whose 12 characters take no memory of their own.
+/// Strings of 12 characters as arguments and results of native functions, through their `FunctionInfo`; each scenario
+/// makes `count` calls and destroys their results. The `bare` scenarios make only the host calls and copies that every
+/// implementation needs. The narrow vectors hold `std::string`, whose 12 characters need no allocation.
 class StringScenarios {
     using COSValue = orbis::COSValue;
     using Strings = std::vector<fl::ustring>;
@@ -85,7 +85,7 @@ private:
         return cells;
     }
 
-    /// Calls as the host does: it knows no more of a descriptor than its base class.
+    /// Calls like the host, which knows only a descriptor's base class.
     [[gnu::noipa]] static void invoke(orbis::COSMethodInfo const& method, COSValue input, std::size_t count)
     {
         for (std::size_t i = 0; i < count; ++i) {
@@ -109,7 +109,7 @@ private:
     orbis::factory::FunctionInfo vectorOut_{"vectorOut", {}};
     orbis::factory::FunctionInfo narrowIn_{"narrowIn", {}};
     orbis::factory::FunctionInfo narrowOut_{"narrowOut", {}};
-    inline static Strings const* result = nullptr; ///< of the scenarios made last
+    inline static Strings const* result = nullptr; ///< of the instance created last
     inline static Narrow const* narrowResult = nullptr;
 };
 

@@ -113,8 +113,7 @@ constexpr Operation operations[] = {{"createText", createText},       {"createUt
 
 } // namespace
 
-// Runs one host operation a number of times: `arrays OPERATION COUNT`, for counting instructions as `instructions`
-// does.
+// Runs one host operation COUNT times: `arrays OPERATION COUNT`. Instructions are counted as with `instructions`.
 int main(int argc, char** argv)
 {
     velmara::Hvm hvm;

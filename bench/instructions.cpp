@@ -10,14 +10,14 @@
 
 namespace {
 
-/// Runs a scenario that is a member function of its class.
+/// Runs a scenario, which is a member function of its class.
 template <auto scenario, auto... arguments, class Scenarios>
 void runMember(void (Scenarios::*)(std::size_t), std::size_t count)
 {
     Scenarios scenarios(arguments...);
     (scenarios.*scenario)(count);
     std::fflush(stdout);
-    std::_Exit(0); // what the end costs depends on the count, and is not asked for
+    std::_Exit(0); // excludes destruction, whose cost depends on the count
 }
 
 template <auto scenario, auto... arguments>
@@ -28,8 +28,8 @@ void run(std::size_t count)
 
 } // namespace
 
-// Runs one scenario a number of times: `instructions SCENARIO COUNT`. Two runs of different counts under callgrind
-// give the instructions of one call: the difference over the difference.
+// Runs one scenario COUNT times: `instructions SCENARIO COUNT`. Two runs with different counts under callgrind give the
+// instructions per call: the difference of the totals divided by that of the counts.
 int main(int argc, char** argv)
 {
     using Calls = bench::CallScenarios;

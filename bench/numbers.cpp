@@ -38,7 +38,7 @@ std::vector<double> const& giveVector()
     return numbers;
 }
 
-/// One call of a function through its `FunctionInfo`, as the host makes it; its result is given back.
+/// Calls a function through its `FunctionInfo`, like the host, and destroys the result.
 template <class F>
 void call(benchmark::State& state, F function)
 {
@@ -58,7 +58,7 @@ void call(benchmark::State& state, F function)
     }
 }
 
-/// What every implementation must do at least: memory, and one copy into it.
+/// The lower bound for every implementation: an allocation and one copy.
 void copy(benchmark::State& state)
 {
     for (auto _ : state) {

@@ -16,8 +16,8 @@ namespace {
 
 using orbis::factory::basic::BindingRegistry;
 
-/// Bound addresses 64 bytes apart, as objects of that size lie in memory, in a shuffled order. They share one host
-/// object: the table is what is measured.
+/// Bound addresses, 64 bytes apart like objects of that size, in shuffled order. They share one host object, because
+/// only the table is measured.
 class Bindings {
 public:
     explicit Bindings(std::size_t count) : storage_(count * 64), order_(count)
@@ -40,7 +40,7 @@ public:
             benchmark::DoNotOptimize(BindingRegistry::find(address));
     }
 
-    /// To the host, as the result of a call does.
+    /// Passes each object to the host, like the result of a call.
     void giveBack() const
     {
         for (char* const address : order_)
@@ -66,7 +66,7 @@ double bytesInUse()
     return static_cast<double>(memory.uordblks + memory.hblkhd);
 }
 
-/// What each operation costs among so many live bindings, in nanoseconds, and a binding in bytes.
+/// Measures each operation, in nanoseconds, and the size of a binding, in bytes, with a given number of live bindings.
 void live(benchmark::State& state)
 {
     struct Step {

@@ -6,7 +6,7 @@ namespace {
 
 using Scenarios = bench::StringScenarios;
 
-/// Time of one call; for vectors also a string.
+/// Time per call and, for vectors, per string.
 void run(benchmark::State& state, void (Scenarios::*scenario)(std::size_t))
 {
     Scenarios scenarios(static_cast<std::size_t>(state.range(0)));

@@ -1,5 +1,5 @@
-# Boost is headers only, Debian's libboost-dev, also for Windows. The cross compiler must not see the rest of
-# /usr/include, so for it the one folder is linked into a folder of the build's own.
+# Boost: headers only, from Debian's libboost-dev, for Windows too. The cross compiler must not see the rest of
+# /usr/include, so the build links the Boost folder into one of its own.
 if(CMAKE_CROSSCOMPILING)
     set(boost_headers /usr/include/boost)
     if(NOT EXISTS ${boost_headers}/version.hpp)

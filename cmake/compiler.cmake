@@ -1,4 +1,4 @@
-# What every target is compiled and linked with.
+# Options and compiler flags of all targets.
 option(ORBIS_BUILD_TESTS "Build the tests (needs GoogleTest)" ON)
 option(ORBIS_BUILD_FUZZERS "Build the programs in fuzz/ (needs clang)" OFF)
 option(ORBIS_BUILD_BENCH "Build the measurements in bench/ (needs Google Benchmark)" OFF)
@@ -11,22 +11,23 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-# Programs find the libraries, and the console and the tests find the modules, beside themselves.
+# All binaries share a folder: programs find the libraries, and the console and the tests the modules, beside
+# themselves.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
-# Where a binary looks for the libraries: the same two folders in the build and when installed. No file is edited when it
-# is installed, so none is padded with empty elements, which would mean the current folder.
+# The search path of binaries is the same in the build and when installed: editing it on installation would pad it with
+# empty elements, which mean the current folder.
 include(GNUInstallDirs)
 set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
 set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
-# g++ 12 sees overlapping copies in std::string's concatenation where there are none (its bug 105329).
+# g++ 12 warns of overlapping copies in std::string's concatenation where there are none (its bug 105329).
 add_compile_options(-Wall -Wextra -Wshadow -Wno-restrict)
 
 if(WIN32)
-    # A module's file name is its module name: orbis_factory.dll.
+    # A module is named after its file: orbis_factory.dll.
     set(CMAKE_SHARED_LIBRARY_PREFIX "")
     set(CMAKE_SHARED_MODULE_PREFIX "")
     add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)

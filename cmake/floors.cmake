@@ -1,8 +1,8 @@
 # orbis_add_floor(NAME FOLDER DIR ROOMS room... [ON floor...])
 #
-# An object library of the rooms, which are folders in DIR. What is compiled in it finds the headers of its own rooms
-# and those of the floors that it stands on, as "room/Header.hpp", and no others: their folders are linked into a view
-# of its own in the build tree.
+# Adds an object library of rooms, which are folders in DIR. Its sources can include headers of its own rooms and of the
+# floors below, as "room/Header.hpp", and no others: only those folders are linked into its include folder in the build
+# tree.
 function(orbis_add_floor name)
     cmake_parse_arguments(floor "" FOLDER "ROOMS;ON" ${ARGN})
     set(view ${CMAKE_CURRENT_BINARY_DIR}/floors/${name})

@@ -1,4 +1,4 @@
-# GTest::gtest_main, and gtest_discover_tests. For Windows GoogleTest is compiled from Debian's source folder.
+# Provides GTest::gtest_main and gtest_discover_tests. For Windows, GoogleTest is compiled from Debian's sources.
 include(GoogleTest)
 if(CMAKE_CROSSCOMPILING)
     set(googletest /usr/src/googletest/googletest)

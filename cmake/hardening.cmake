@@ -1,17 +1,16 @@
-# What makes it harder to turn a fault of native code into an attack, on Linux; the Windows tool chain does the like of
-# itself.
+# Hardening on Linux: makes faults of native code harder to exploit. The Windows toolchain does the same by default.
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
 
-# For everything, what costs next to no instruction of a call: frames with buffers are guarded. The C library's start files
-# do not say that they suit a shadow stack, though they do: the linker is told.
+# For all code: protections that cost almost no instructions per call. The linker is told that everything supports a
+# shadow stack, because the C library's start files do not say so, although they do.
 add_compile_options(-fstack-protector -fstack-clash-protection -fcf-protection=return)
 
-# For what is not on the way of a call: all frames with arrays or addresses, and marks where indirect calls may arrive.
-# On that way they would cost 3 to 7 and 4 to 10 in a hundred instructions.
+# For code off the call path: stronger stack protection and indirect branch tracking. On the call path they would cost 3
+# to 7 % and 4 to 10 % more instructions.
 set(ORBIS_FULL_HARDENING -fstack-protector-strong -fcf-protection)
 add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack -Wl,-z,shstk)
 
-# Checked functions need optimisation; the sanitizers have checks of their own.
+# Fortified functions require optimisation. The sanitizers have their own checks.
 set(optimised $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
 add_compile_options($<${optimised}:-U_FORTIFY_SOURCE> $<${optimised}:-D_FORTIFY_SOURCE=3>)

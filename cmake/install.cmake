@@ -1,5 +1,5 @@
-# `cmake --install`: the library, the host, the console, their headers, and a package that find_package(orbis_factory)
-# finds. On Windows the compiler's run-time libraries go with them.
+# Installs the library, the host, the console, their headers, and a package for find_package(orbis_factory); on Windows
+# also the compiler's run-time libraries.
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/orbis_factory)

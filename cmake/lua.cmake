@@ -1,4 +1,4 @@
-# Lua::lua: Lua 5.4 compiled as C++, so that its errors unwind C++ frames.
+# Provides Lua::lua: Lua 5.4 compiled as C++, so that its errors unwind C++ frames.
 if(NOT CMAKE_CROSSCOMPILING)
     find_package(PkgConfig REQUIRED)
     pkg_check_modules(lua REQUIRED IMPORTED_TARGET lua5.4-c++)
@@ -6,7 +6,7 @@ if(NOT CMAKE_CROSSCOMPILING)
     return()
 endif()
 
-# Debian has no such build for Windows: it is made from Debian's source package.
+# Debian has no such build for Windows, so it is compiled from Debian's source package.
 set(lua_folder ${PROJECT_BINARY_DIR}/lua)
 if(NOT EXISTS ${lua_folder}/source/src/lua.h)
     execute_process(COMMAND ${PROJECT_SOURCE_DIR}/scripts/fetch-lua-source ${lua_folder} COMMAND_ERROR_IS_FATAL ANY)

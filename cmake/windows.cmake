@@ -1,4 +1,4 @@
-# Toolchain: Windows x86-64 with Debian's MinGW-w64 (POSIX threads); programs run under Wine.
+# Toolchain for Windows x86-64: Debian's MinGW-w64 (POSIX threads). Programs run under Wine.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)

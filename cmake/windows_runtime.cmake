@@ -1,5 +1,5 @@
-# The compiler's run-time libraries are shared, so that exceptions cross from one DLL to another; programs find them
-# beside themselves.
+# The compiler's run-time libraries are linked dynamically, so that exceptions propagate between DLLs, and copied beside
+# the programs.
 if(WIN32)
     foreach(name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
         execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name}

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-/// What the fuzzer gave, read from its beginning. Behind the end stand zeros.
+/// Reads the fuzzer's input from the beginning, and zeros after its end.
 class Input {
 public:
     Input(std::uint8_t const* data, std::size_t size) : next_(data), end_(data + size) {}
@@ -12,7 +12,7 @@ public:
     bool isAtEnd() const { return next_ == end_; }
     std::uint8_t byte() { return isAtEnd() ? 0 : *next_++; }
 
-    /// Less than `count`, which is not 0.
+    /// Returns a number below `count`, which is not 0.
     std::size_t pick(std::size_t count) { return (count > 256 ? byte() * 256u + byte() : byte()) % count; }
 
     std::string text(std::size_t maxSize)

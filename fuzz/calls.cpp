@@ -1,4 +1,4 @@
-// Random calls over the samples, which are learned from their own descriptors.
+// Random calls of the samples' members, which are read from their descriptors.
 #include "fuzz/Input.hpp"
 #include "fuzz/require.hpp"
 
@@ -20,7 +20,7 @@ using velmara::MethodRecord;
 
 namespace {
 
-/// All that can be called or read by name.
+/// Everything that can be called or read by name.
 struct Grammar {
     explicit Grammar(velmara::Hvm& hvm)
     {

@@ -1,4 +1,4 @@
-// Objects of every kind of ownership, in two virtual machines, beside the model that knows the rules.
+// Objects with every kind of owner, in two virtual machines, checked against a model of the ownership rules.
 #include "fuzz/Input.hpp"
 #include "fuzz/require.hpp"
 

@@ -1,4 +1,4 @@
-// Names that scripts and descriptions write: of packages, classes, members, data types.
+// Names in scripts and descriptions: of packages, classes, members and data types.
 #include "fuzz/require.hpp"
 
 #include "velmara/Hvm.hpp"
@@ -18,7 +18,7 @@ bool succeeds(F&& action)
         require(!error.identifier().empty(), "an error has no identifier");
         return false;
     } catch (std::exception const&) {
-        return false; // of the declared interface
+        return false; // an error of the host interface
     }
     return true;
 }

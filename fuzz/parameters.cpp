@@ -1,4 +1,4 @@
-// Lists of parameter names, and signatures made of them.
+// Lists of parameter names, and signatures created from them.
 #include "fuzz/Input.hpp"
 #include "fuzz/require.hpp"
 

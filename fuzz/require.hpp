@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <string>
 
-/// Ends the run, as a finding, where `isRight` is false.
+/// Aborts the run, which the fuzzer reports as a finding, if `isRight` is false.
 inline void require(bool isRight, std::string const& what)
 {
     if (isRight)

@@ -1,4 +1,4 @@
-// UTF-8 and UTF-16: conversion both ways, alone and through arrays.
+// UTF-8 and UTF-16: conversion in both directions, directly and through arrays.
 #include "fuzz/require.hpp"
 
 #include "additions/additions.hpp"

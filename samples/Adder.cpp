@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Two's complement: the host's int32 wraps around where C++ leaves it open.
+/// Wraps around in two's complement: signed overflow is undefined in C++.
 int wrappingSum(std::initializer_list<int> numbers)
 {
     unsigned int sum = 0;

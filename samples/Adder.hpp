@@ -3,13 +3,13 @@
 #include "orbis/factory/classes/HandleClassInfo.hpp"
 #include "orbis/factory/classes/HostClass.hpp"
 
-/// Adds numbers, and keeps the total of all that it added.
+/// Adds numbers and keeps the total of everything it added.
 class Adder {
 public:
     Adder() = default;
     explicit Adder(int start) : total_(start) {}
 
-    /// Starts with the sum of the two.
+    /// Starts with the sum of both.
     Adder(int a, int b);
 
     int getSum(int a, int b);
@@ -33,7 +33,7 @@ struct orbis::factory::HostClass<Adder> {
 
 namespace orbis::factory::samples {
 
-/// Keeps the native object in a block of four bytes that comes and goes with the host object.
+/// The native object is instance data: created and deleted with its host object.
 class CosAdder final : public HandleClassInfo<Adder, 0> {
 public:
     CosAdder();

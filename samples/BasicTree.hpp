@@ -8,7 +8,7 @@
 
 namespace orbis::factory::samples {
 
-/// An apple: a plain class, bound by its own address. It takes itself out of the registry.
+/// An apple: a plain class, bound by its own address. Its destructor retracts it.
 class BasicA {
 public:
     explicit BasicA(int grams) : grams_(grams) {}
@@ -33,10 +33,10 @@ public:
     BasicA* bear(int grams);
     std::vector<BasicA*> apples() const;
 
-    /// Another apple, half as heavy again, takes the place of this one: scripts have that one from now on.
+    /// Replaces the apple by a new one, half as heavy again: the script's object represents that one from now on.
     void ripen(BasicA* apple);
 
-    /// The apple is gone; what scripts have of it becomes invalid.
+    /// Destroys the apple; script objects that represent it become invalid.
     void drop(BasicA* apple);
 
 private:
@@ -47,7 +47,7 @@ private:
     Apples apples_;
 };
 
-/// An apple tree, which owns its branches. Scripts make trees; each belongs to its host object.
+/// An apple tree, which owns its branches. Scripts create trees, and each is owned by its host object.
 class BasicTree {
 public:
     BasicTree() = default;
@@ -93,7 +93,7 @@ public:
     void initializeClass(COSClass* cls) override;
 };
 
-/// The native tree is the instance data of its host object: made with it, deleted with it.
+/// The native tree is the instance data of its host object: created and deleted with it.
 class BasicTreeWrapper final : public HandleClassInfo<BasicTree, 0> {
 public:
     BasicTreeWrapper();

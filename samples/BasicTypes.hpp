@@ -10,7 +10,7 @@
 
 namespace orbis::factory::samples {
 
-/// A form with a field of every type of number and text. Every virtual machine has one, and owns it.
+/// A form with a field of every number and text type. Each virtual machine owns one.
 class BasicTypes : public full::Wrappable {
 public:
     static BasicTypes* form();
@@ -31,7 +31,7 @@ public:
     std::string aString;
     fl::ustring aUnicodeString;
 
-    /// Texts in other forms than strings.
+    /// Text types other than strings.
     char const* word() const { return aString.c_str(); }
     void setWord(char const* word) { aString = word ? word : ""; }
     char16_t const* unicodeWord() const { return aUnicodeString.c_str(); }
@@ -53,7 +53,7 @@ namespace orbis::factory::samples {
 class BasicTypesWrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     BasicTypesWrapper();
-    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts cannot create any
     void initializeClass(COSClass* cls) override;
 };
 

@@ -9,8 +9,8 @@
 
 namespace orbis::factory::samples {
 
-/// A crossing in a park, with a way to the left and one to the right. Ways keep no crossing alive: when one is gone,
-/// the ways to it lead nowhere.
+/// A crossing in a park, with a path to the left and one to the right. Paths do not keep crossings alive: paths to a
+/// destroyed crossing lead nowhere.
 class BinaryGraphNode {
 public:
     explicit BinaryGraphNode(std::string name);
@@ -25,13 +25,13 @@ public:
     void setLeft(BinaryGraphNode* crossing) { lead(left_, crossing); }
     void setRight(BinaryGraphNode* crossing) { lead(right_, crossing); }
 
-    /// Where one arrives who turns as told ("LRL"); null where a way leads nowhere.
+    /// Follows the turns ("LRL"). Null if a path leads nowhere.
     BinaryGraphNode* walk(std::string const& turns);
 
     std::uint32_t visits() const { return visits_; }
     void setVisits(std::uint32_t visits) { visits_ = visits; }
 
-    /// What the signpost names: the next crossings. Whoever has read it is counted.
+    /// The next crossings. Reading is counted with `countReader`, the release routine.
     std::vector<BinaryGraphNode*> signpost() const;
     void countReader() { ++readers_; }
     std::uint32_t readers() const { return readers_; }
@@ -42,14 +42,14 @@ private:
     std::string name_;
     BinaryGraphNode* left_ = nullptr;
     BinaryGraphNode* right_ = nullptr;
-    std::multiset<BinaryGraphNode*> origins_; ///< of the ways that lead here
+    std::multiset<BinaryGraphNode*> origins_; ///< of the paths that lead here
     std::uint32_t visits_ = 0;
     std::uint32_t readers_ = 0;
 };
 
 } // namespace orbis::factory::samples
 
-// Stands alone: pointers to it cross by the policy for classes without subclasses.
+// A class without subclasses, for which this policy suffices.
 template <>
 struct orbis::factory::HostClass<orbis::factory::samples::BinaryGraphNode> {
     static constexpr char const* name = "orbis_factory.BinaryGraphNode";

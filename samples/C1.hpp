@@ -9,25 +9,24 @@
 
 namespace orbis::factory::samples {
 
-/// A cloakroom with two hooks, on which any arrays of the host can hang, as they are. Every virtual machine has one,
-/// and owns it.
+/// A cloakroom with two hooks for host arrays of any class, kept unconverted. Each virtual machine owns one.
 class C1 : public full::Wrappable {
 public:
     static C1* cloakroom();
 
-    /// Shares the arrays with whoever else has them; null takes down what hung there.
+    /// Shares ownership of the arrays. Null clears a hook.
     void hang(hvArrayReferenceCountedProxy const& left, hvArrayReferenceCountedProxy const& right);
     hvArrayReferenceCountedProxy left() const { return left_; }
     hvArrayReferenceCountedProxy right() const { return right_; }
 
-    /// From then on one array hangs on both.
+    /// Makes both hooks share one array.
     void mirrorLeft() { right_ = left_; }
     bool isOneArray() const { return left_ == right_; }
 
-    /// Looks at an array: its sizes, and whether it holds exactly one object.
+    /// Describes an array: its size, and whether it holds exactly one object.
     static std::string label(hvConstArrayProxy const& array);
 
-    /// A new array: a copy, with all arrays in it copied, too.
+    /// Returns a new array: a deep copy.
     static hvArrayProxy tailor(hvArrayProxy const& array);
 
 private:
@@ -47,7 +46,7 @@ namespace orbis::factory::samples {
 class C1Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     C1Wrapper();
-    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts cannot create any
     void initializeClass(COSClass* cls) override;
 };
 

@@ -8,19 +8,19 @@
 
 namespace orbis::factory::samples {
 
-/// The rain gauge of a garden, which every virtual machine has: whole arrays of numbers, in and out.
+/// The rain gauge of a garden: whole numeric arrays as arguments and results. Each virtual machine has one.
 class C2 : public full::Wrappable {
 public:
     static C2* gauge();
 
-    /// Millimetres, day by day; throws for less than nothing.
+    /// Millimetres, day by day. Throws for negative amounts.
     std::vector<double> const& days() const { return days_; }
     void setDays(std::span<double const> days);
 
     std::vector<double> sums() const;
     std::vector<bool> wetterThan(double millimetres) const;
 
-    /// The days with these numbers, counted from 1; throws for others.
+    /// The amounts of the days with these numbers, counted from 1. Throws for other numbers.
     std::vector<float> pick(std::vector<std::int32_t> const& numbers) const;
 
 private:
@@ -39,7 +39,7 @@ namespace orbis::factory::samples {
 class C2Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     C2Wrapper();
-    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts cannot create any
     void initializeClass(COSClass* cls) override;
 };
 

@@ -7,14 +7,14 @@
 
 namespace orbis::factory::samples {
 
-/// A tea kitchen, which every virtual machine has: values that may be missing, and parameters that may be left out.
+/// A tea kitchen: optional values, and parameters with defaults. Each virtual machine has one.
 class C3 : public full::Wrappable {
 public:
     static C3* kitchen();
 
     std::string brew(std::string const& tea, double minutes, std::optional<std::string> const& extra);
 
-    /// Nothing before anything was brewed.
+    /// Empty until something has been brewed.
     std::optional<double> lastMinutes() const { return lastMinutes_; }
     void setLastMinutes(std::optional<double> minutes) { lastMinutes_ = minutes; }
 
@@ -34,7 +34,7 @@ namespace orbis::factory::samples {
 class C3Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     C3Wrapper();
-    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts cannot create any
     void initializeClass(COSClass* cls) override;
 };
 

@@ -10,12 +10,12 @@ namespace orbis::factory::samples {
 
 class Person;
 
-/// A thing in a container, which owns it. When it goes, what scripts have of it becomes invalid.
+/// A thing in a container, which owns it. When it is destroyed, script objects that represent it become invalid.
 class Item : public full::Wrappable {
 public:
     Item(std::string name, double kilograms);
 
-    /// Nobody has borrowed a copy, and no host object stands for it.
+    /// The copy is not borrowed and has no host object.
     Item(Item const& other);
     Item& operator=(Item const&) = delete;
     ~Item() override;
@@ -32,7 +32,7 @@ private:
     Person* borrower_ = nullptr;
 };
 
-/// A parent that owns its children, and belongs to its host object itself.
+/// A parent that owns its children, and is itself owned by its host object.
 class Container : public full::Wrappable {
 public:
     explicit Container(std::string name);
@@ -43,7 +43,7 @@ public:
     std::string const& name() const { return name_; }
     std::vector<Item*> items() const;
     double weight() const;
-    Item* heaviest() const; ///< null when there is none
+    Item* heaviest() const; ///< null if there are none
 
     Item* add(std::string name, double kilograms);
     Item* addCopy(Item const* item);

@@ -39,7 +39,7 @@ public:
         impl::Invoker::createSignature(nullptr, HostClass<CppClass>::name, nullptr, signature());
     }
 
-    /// The native object is there already.
+    /// Does nothing: the class info has already created the native object.
     void invoke(COSClient const*, int& outputCount, COSValue*, int, COSValue const*) const override
     {
         if (outputCount == 0)
@@ -47,7 +47,7 @@ public:
     }
 };
 
-/// Takes the new entry, and gives the one that it replaces.
+/// Stores a new entry, and returns the one that it replaces.
 class Sign final : public OrbisMethod {
 public:
     Sign() : OrbisMethod("sign", {}, "")

@@ -8,7 +8,7 @@
 
 namespace orbis::factory::samples {
 
-/// A guest book, in which the last entry can be read. Its class belongs to no package.
+/// A guest book, whose last entry can be read. Its class is in no package.
 class CppClass {
 public:
     std::string entry = "(empty)";
@@ -23,7 +23,7 @@ struct orbis::factory::HostClass<orbis::factory::samples::CppClass> {
 
 namespace orbis::factory::samples {
 
-/// Written directly on the host's base, with descriptors made by hand: what descriptions spare their authors.
+/// Derives directly from the host's base, and creates descriptors by hand: everything that descriptions do for authors.
 class CppCCI final : public COSClassInfo {
 public:
     char const* getName() const override { return HostClass<CppClass>::name; }

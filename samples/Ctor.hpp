@@ -7,19 +7,19 @@
 
 namespace orbis::factory::samples {
 
-/// A span of time, made in one of several ways. Belongs to its host object.
+/// A span of time, with several constructors. Owned by its host object.
 class Ctor : public full::Wrappable {
 public:
     Ctor() = default;
 
-    /// Throws for less than nothing, and for more than 24 hours.
+    /// Throws for negative values and for more than 24 hours.
     explicit Ctor(double seconds);
     Ctor(std::int32_t hours, std::int32_t minutes, std::int32_t seconds);
 
     /// "hours:minutes"; throws for other texts.
     explicit Ctor(std::string const& text);
 
-    /// As long as another one.
+    /// Copies the length of another one.
     explicit Ctor(Ctor const* other);
 
     double seconds() const { return seconds_; }

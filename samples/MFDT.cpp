@@ -41,7 +41,7 @@ ClassDescriber<MFDT> describeAccount()
         .property("cents", &MFDT::cents);
 }
 
-/// A description can be looked at without a host.
+/// Inspects the description, which needs no host.
 std::string attributesOfMethod(std::string const& method)
 {
     ClassDescriber<MFDT> const description = describeAccount();
@@ -62,8 +62,8 @@ MFDT* MFDT::open(int number)
 
 void MFDT::pay(std::int32_t cents)
 {
-    constexpr std::int64_t most = 1'000'000'000'000;
-    if (amount(cents) > most - cents_)
+    constexpr std::int64_t maxBalance = 1'000'000'000'000;
+    if (amount(cents) > maxBalance - cents_)
         throw Exception("The account is full.");
     cents_ += cents;
 }

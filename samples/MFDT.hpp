@@ -7,8 +7,8 @@
 
 namespace orbis::factory::samples {
 
-/// An account of the bank that every virtual machine has. The bank owns its accounts: one that no script has any more
-/// is still there, and is found again by its number. Shows every attribute of a method.
+/// A bank account; shows every attribute of a method. Each virtual machine has a bank, which owns the accounts: one
+/// that no script refers to still exists, and can be found by its number.
 class MFDT {
 public:
     static constexpr int maxAccounts = 1000;
@@ -17,13 +17,14 @@ public:
     MFDT(MFDT const&) = delete;
     MFDT& operator=(MFDT const&) = delete;
 
-    /// The account of that number, from 1 to `maxAccounts`, which is opened when there is none.
+    /// Returns the account with that number, from 1 to `maxAccounts`, and creates it if necessary.
     static MFDT* open(int number);
 
     int number() const { return number_; }
     std::int64_t cents() const { return cents_; }
 
-    /// Nothing is paid when it would be less than nothing, or would leave less than nothing.
+    /// Both throw for negative amounts; `pay` also when the account is full, `withdraw` also when the balance does not
+    /// suffice.
     void pay(std::int32_t cents);
     void withdraw(std::int32_t cents);
 
@@ -46,7 +47,7 @@ namespace orbis::factory::samples {
 class MFDTCI final : public HandleClassInfo<MFDT, 0> {
 public:
     MFDTCI();
-    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts cannot create any
     void initializeClass(COSClass* cls) override;
 };
 

@@ -33,7 +33,7 @@ MFVT MFVT::turned(MFVT const& place, int quarters)
 
 namespace {
 
-/// A function that stands outside the class, and takes the object first.
+/// A free function outside the class, which takes the object first.
 MFVT halfwayTo(MFVT* from, MFVT const& to)
 {
     return {std::midpoint(from->east, to.east), std::midpoint(from->north, to.north)};

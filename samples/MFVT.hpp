@@ -5,7 +5,7 @@
 
 namespace orbis::factory::samples {
 
-/// A place on a map, in metres from its middle. Shows every form of method.
+/// A place on a map, in metres from its centre. Shows every form of method.
 class MFVT {
 public:
     MFVT() = default;
@@ -15,7 +15,7 @@ public:
     void move(MFVT const& by);
     double distanceTo(MFVT const& other) const noexcept;
 
-    /// A turn to the right around the middle of the map; `quarters` may be negative.
+    /// Rotates a place clockwise around the centre; `quarters` may be negative.
     static MFVT turned(MFVT const& place, int quarters);
 
     double east = 0;

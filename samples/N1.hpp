@@ -9,7 +9,7 @@ namespace orbis::factory::samples {
 
 using Date = std::chrono::year_month_day;
 
-/// A calendar, which every virtual machine has: a native type of its own crosses as text.
+/// A calendar: a native type of its own, marshaled as text. Each virtual machine has one.
 class N1 : public full::Wrappable {
 public:
     static N1* calendar();
@@ -17,7 +17,7 @@ public:
     Date today() const { return today_; }
     void setToday(Date today) { today_ = today; }
 
-    /// Throws where that is outside the years 1 to 9999.
+    /// Throws for dates outside the years 1 to 9999.
     Date after(std::int32_t days) const;
     std::int32_t daysUntil(Date date) const;
 
@@ -27,12 +27,12 @@ private:
 
 } // namespace orbis::factory::samples
 
-/// Dates as "2024-02-29".
+/// Marshals dates as "2024-02-29".
 template <>
 struct orbis::factory::HostDataType<orbis::factory::samples::Date> {
     static constexpr char const* name = "char vector";
     static hvArray* toHost(samples::Date const& date);
-    static samples::Date fromHost(hvArray* value); ///< throws for what is no date of the years 1 to 9999
+    static samples::Date fromHost(hvArray* value); ///< throws unless it is a date of the years 1 to 9999
 };
 
 template <>
@@ -45,7 +45,7 @@ namespace orbis::factory::samples {
 class N1Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     N1Wrapper();
-    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts cannot create any
     void initializeClass(COSClass* cls) override;
 };
 

@@ -9,8 +9,8 @@ namespace orbis::factory::samples {
 
 enum class Gear { Reverse = -1, Neutral, First, Second };
 
-/// A gearbox, which every virtual machine has. The class of its gears is written in the host language: the script
-/// defines it, and only the names must agree.
+/// A gearbox. Scripts define the class of its gears, in the host language; only the enumerators' names must match. Each
+/// virtual machine has one.
 class N2 : public full::Wrappable {
 public:
     static N2* gearbox();
@@ -44,7 +44,7 @@ namespace orbis::factory::samples {
 class N2Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     N2Wrapper();
-    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts cannot create any
     void initializeClass(COSClass* cls) override;
 };
 

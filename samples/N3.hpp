@@ -7,21 +7,21 @@
 
 namespace orbis::factory::samples {
 
-/// A parcel office, in which everything goes wrong that can: what native code throws reaches the script.
+/// A parcel office that fails in every possible way: exceptions of native code reach the script.
 class N3 : public full::Wrappable {
 public:
     static N3* office();
 
-    /// A sentence for the script's user.
+    /// Throws `Exception`, with a sentence for the script's user.
     void send(std::string const& recipient, double kilograms);
 
-    /// What the standard library throws.
+    /// Throws an exception of the standard library.
     std::string shelf(std::int32_t number) const;
 
-    /// An error that has an identity.
+    /// Throws an error with an identity.
     void stamp(std::int32_t page) const;
 
-    /// Something that is no exception at all.
+    /// Throws something that is no exception.
     void drop() const;
 
     std::int32_t sent() const { return sent_; }
@@ -42,7 +42,7 @@ namespace orbis::factory::samples {
 class N3Wrapper final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     N3Wrapper();
-    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts cannot create any
     void initializeClass(COSClass* cls) override;
 };
 

@@ -7,7 +7,7 @@
 
 namespace orbis::factory::samples {
 
-/// Gives a value of every primitive type: where it has one, the greatest.
+/// Returns a value of every primitive type: the greatest, if there is one.
 class OrbisFactoryBuiltInTester : public full::Wrappable {
 public:
     double getDouble() const { return greatest<double>; }
@@ -37,7 +37,7 @@ struct orbis::factory::HostClass<orbis::factory::samples::OrbisFactoryBuiltInTes
 
 namespace orbis::factory::samples {
 
-/// The native object is the instance data: its address is that of the base `Wrappable`, as which it is bound.
+/// The native object is the instance data, bound by the address of its base `Wrappable`.
 class OrbisFactoryBuiltInTesterClassInfo final : public HandleClassInfo<full::Wrappable, 0> {
 public:
     OrbisFactoryBuiltInTesterClassInfo();

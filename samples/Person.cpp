@@ -11,7 +11,7 @@
 
 namespace orbis::factory::samples {
 
-/// Owns its inhabitants, who enter themselves as they begin and leave as they end.
+/// Owns its inhabitants, who register in their constructor and unregister in their destructor.
 class Town {
 public:
     Town() = default;

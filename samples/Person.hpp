@@ -10,11 +10,11 @@ namespace orbis::factory::samples {
 class Item;
 class Town;
 
-/// Somebody who lives in the town of the virtual machine. Scripts make persons; each registers itself with the town,
-/// which owns all of them: they live on when no script has them any more, until they move away.
+/// An inhabitant of the virtual machine's town. Scripts create persons, and each registers with the town, which owns
+/// it: it lives on when no script refers to it any more, until it moves away.
 class Person : public full::Wrappable {
 public:
-    /// Throws when the name is taken.
+    /// Throws if the name is taken.
     explicit Person(std::string name);
     Person(Person const&) = delete;
     Person& operator=(Person const&) = delete;
@@ -22,12 +22,12 @@ public:
 
     std::string const& name() const { return name_; }
 
-    /// Things that belong to somebody else: one that goes is given back first.
+    /// Items owned by somebody else. An item that is destroyed is returned first.
     std::vector<Item*> borrowed() const { return borrowed_; }
     void borrow(Item* item);
     void giveBack(Item* item);
 
-    static Person* find(std::string const& name); ///< null when nobody is called so
+    static Person* find(std::string const& name); ///< null if nobody has that name
     static int count();
     static void moveAway(Person* person);
 

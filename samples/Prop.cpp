@@ -12,7 +12,7 @@ namespace orbis::factory::samples {
 
 namespace {
 
-/// What is common to all thermostats of a virtual machine.
+/// Shared by all thermostats of a virtual machine.
 struct House {
     double outside = 10;
 };
@@ -64,7 +64,7 @@ ClassDescriber<Prop> describeThermostat()
         .staticProperty("absoluteZero", &Prop::absoluteZero);
 }
 
-/// A description can be looked at without a host.
+/// Inspects the description, which needs no host.
 std::string attributesOfProperty(std::string const& property)
 {
     ClassDescriber<Prop> const description = describeThermostat();

@@ -9,7 +9,7 @@
 
 namespace orbis::factory::samples {
 
-/// A thermostat. Shows every form of property, and every attribute.
+/// A thermostat. Shows every form and every attribute of a property.
 class Prop {
 public:
     static constexpr double absoluteZero = -273.15;
@@ -17,17 +17,17 @@ public:
     double target() const { return target_; }
     void setTarget(double celsius);
 
-    /// The room is always a little behind.
+    /// The room always lags a little behind.
     double actual() const { return target_ - 0.5; }
 
     std::string const& room() const { return room_; }
     void setRoom(std::string room) { room_ = std::move(room); }
 
-    /// Everything is locked by a pin, which nobody can read.
+    /// Locks the thermostat with a PIN, which cannot be read.
     void setPin(int pin) { pin_ = pin; }
     bool unlock(int pin) const { return pin == pin_; }
 
-    /// Readings are lent, and counted until they come back.
+    /// Readings are lent, and counted until they are released.
     double lendReading();
     void takeReadingBack() { --lent_; }
     int lent() const { return lent_; }
@@ -55,7 +55,7 @@ struct orbis::factory::HostClass<orbis::factory::samples::Prop> {
 
 namespace orbis::factory::samples {
 
-/// Written directly on the host's base: the native object is the instance data of its host object.
+/// Derives directly from the host's base. The native object is the instance data of its host object.
 class PropWrapper final : public COSClassInfo {
 public:
     char const* getName() const override { return HostClass<Prop>::name; }

@@ -37,14 +37,14 @@ namespace orbis::factory {
 
 namespace {
 
-/// Class infos are owned by the package from the moment they are handed over.
+/// `addClass` takes ownership of the class info.
 template <class... ClassInfo>
 void load(COSPackage* package)
 {
     (package->addClass(new ClassInfo), ...);
 }
 
-/// Classes without a package stay when the package goes, so they may be there already.
+/// Global classes outlive this package, so they may already exist when it is loaded again.
 template <class ClassInfo>
 void loadGlobal(char const* name)
 {
@@ -52,7 +52,7 @@ void loadGlobal(char const* name)
         COSClass::addGlobalClass(new ClassInfo);
 }
 
-/// Packages inside this one. The order shows that a package may be added to before and after it exists.
+/// Loads the subpackages. The order shows that a package can be extended before and after it exists.
 void loadPackages()
 {
     COSPackage::addPackage(new samples::P1PackageWrapper);

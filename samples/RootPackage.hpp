@@ -4,7 +4,7 @@
 
 namespace orbis::factory {
 
-/// The package "orbis_factory": the one list of what is published in it.
+/// The package "orbis_factory". Its source is the one list of everything published in it.
 class RootPackage final : public COSPackageInfo {
 public:
     char const* getName() const override;

@@ -4,7 +4,7 @@
 
 namespace orbis::factory::samples {
 
-// Package infos written by hand. They are registered under their full names, and so find their places by themselves.
+// Package infos written by hand. They are registered under their full names.
 
 /// Holds C1, and registers the package inside it.
 class P1PackageWrapper final : public COSPackageInfo {

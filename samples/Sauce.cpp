@@ -13,7 +13,7 @@ namespace orbis::factory::samples {
 
 namespace {
 
-/// The owner: it ends with the virtual machine, and the sauces with it.
+/// Owns the sauces. Destroyed with the virtual machine.
 struct Kitchen {
     std::vector<std::unique_ptr<Sauce>> pots;
 };
@@ -33,7 +33,7 @@ std::unique_ptr<Sauce> follow(std::string const& recipe)
 
 } // namespace
 
-/// The classes know nothing of scripts, so the binding is forgotten by hand.
+/// Retracted by hand, because the class has no base of the library.
 Sauce::~Sauce()
 {
     basic::BindingRegistry::retract(this);

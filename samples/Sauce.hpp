@@ -8,8 +8,8 @@
 
 namespace orbis::factory::samples {
 
-/// A sauce that the kitchen of the virtual machine has made, and owns until it is poured away. Scripts only ever get
-/// what the kitchen has.
+/// A sauce, made by the virtual machine's kitchen, which owns it until it is poured away. Scripts cannot create sauces
+/// themselves.
 class Sauce {
 public:
     Sauce() = default;
@@ -21,11 +21,11 @@ public:
     int servings() const { return servings_; }
     void serve();
 
-    /// By its name in the menu.
+    /// Creates the sauce with that name on the menu.
     static Sauce* cook(std::string const& recipe);
     static std::vector<Sauce*> pots();
 
-    /// Ends the sauce: what scripts still have of it becomes invalid.
+    /// Destroys the sauce: script objects that represent it become invalid.
     static void pourAway(Sauce const* sauce);
 
 private:
@@ -50,7 +50,7 @@ public:
     std::string taste() const override;
     int cloves() const { return cloves_; }
 
-    /// With the garlic of the other one, too. Gives itself, so that calls can be chained.
+    /// Adds the garlic of the other one. Returns this object, so that calls can be chained.
     Marinara* blend(Marinara* other);
 
 private:
@@ -59,7 +59,7 @@ private:
 
 } // namespace orbis::factory::samples
 
-// One native base for all. What crosses as a Marinara is known to be one: no dynamic cast is needed.
+// All are bound as one base. Objects passed as `Marinara` are known to be one, so it needs no dynamic cast.
 template <>
 struct orbis::factory::HostClass<orbis::factory::samples::Sauce> {
     static constexpr char const* name = "orbis_factory.Sauce";

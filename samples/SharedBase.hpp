@@ -7,8 +7,8 @@
 
 namespace orbisFactorySharedTests {
 
-/// A book of a library. It is owned through `boost::shared_ptr`: by the shelf, which is native code's, and by the
-/// scripts that have borrowed it; it lasts as long as anybody has it.
+/// A book of a library, owned through `boost::shared_ptr` by the shelf, in native code, and by the scripts that borrow
+/// it. It is destroyed when the last of them releases it.
 class SharedBase : public orbis::factory::full::Shareable {
 public:
     using Pointer = boost::shared_ptr<SharedBase>;
@@ -18,20 +18,20 @@ public:
     std::string const& title() const { return title_; }
     virtual std::string label() const;
 
-    /// How many have it: the shelf once for each place, a host object once, a reservation once.
+    /// The number of owners: the shelf once per place, a host object once, a reservation once.
     int holders() const;
 
-    /// Keeps the book for this virtual machine, even when nobody else has it any more.
+    /// Keeps the book alive in this virtual machine, even without other owners.
     void reserve();
     void cancelReservation();
 
-    // The shelf of this virtual machine: books go in and come out as shared pointers and as raw ones.
+    // The shelf of this virtual machine: books are passed as shared pointers and as raw ones.
     static void shelve(Pointer const& book);
-    static Pointer take(std::string const& title); ///< from the shelf; null when it is not there
+    static Pointer take(std::string const& title); ///< from the shelf; null if it is not there
     static SharedBase* find(std::string const& title);
     static bool isShelved(SharedBase const* book);
     static std::vector<Pointer> shelf();
-    static void arrange(std::vector<Pointer> const& books); ///< as the shelf's new content
+    static void arrange(std::vector<Pointer> const& books); ///< replaces the shelf's contents
 
 private:
     std::string title_;

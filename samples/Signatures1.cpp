@@ -10,7 +10,7 @@ namespace orbis::factory::samples {
 
 namespace {
 
-/// The names of the first `N` things, as a literal would have them. From the eleventh on they share one name.
+/// The names of the first `N` items, as in a literal. From the eleventh on they share a name.
 template <std::size_t N>
 constexpr auto firstThings = [] {
     constexpr std::string_view things = "apples,bread,cheese,dates,eggs,flour,grapes,honey,ice,jam,rest";
@@ -29,7 +29,7 @@ constexpr auto firstThings = [] {
 template <std::size_t>
 using Price = double;
 
-/// One method for each number of prices, all of one name.
+/// Adds one method, all with the same name, for each number of prices.
 template <std::size_t... I>
 void addTotal(ClassDescriber<Signatures1>& shop, std::index_sequence<I...>)
 {

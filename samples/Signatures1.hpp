@@ -6,12 +6,12 @@
 
 namespace orbis::factory::samples {
 
-/// A shop: what 0 to 20 things cost together, each priced in whole cents. Belongs to its host object.
+/// A shop: the total price of 0 to 20 items, each priced in whole cents. Owned by its host object.
 class Signatures1 : public full::Wrappable {
 public:
     explicit Signatures1(std::string name) : name_(std::move(name)) {}
 
-    /// Any number of prices; published for 0 to 20 of them.
+    /// Accepts any number of prices; published for 0 to 20.
     template <class... Price>
     double total(Price... price)
     {

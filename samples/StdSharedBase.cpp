@@ -12,7 +12,7 @@ namespace orbisFactoryStdSharedTests {
 
 namespace {
 
-/// A pointer of the one count that all owners share.
+/// Returns a pointer with the reference count that all owners share.
 StdSharedBase::Pointer shareOf(StdSharedBase* dancer)
 {
     return std::static_pointer_cast<StdSharedBase>(dancer->shared_from_this());

@@ -7,8 +7,8 @@
 
 namespace orbisFactoryStdSharedTests {
 
-/// A dancer at a ball, owned through `std::shared_ptr`. Partners know each other by `std::weak_ptr`: two that owned
-/// each other would never end.
+/// A dancer at a ball, owned through `std::shared_ptr`. Partners refer to each other by `std::weak_ptr`: two that owned
+/// each other would never be destroyed.
 class StdSharedBase : public orbis::factory::full::StdShareable {
 public:
     using Pointer = std::shared_ptr<StdSharedBase>;
@@ -20,13 +20,13 @@ public:
 
     Pointer partner() const { return partner_.lock(); }
 
-    /// For both; each leaves the partner that they had. Null ends the dance.
+    /// Makes the two partners; each leaves a former partner. Null ends the partnership.
     void setPartner(Pointer const& partner);
 
     StdSharedBase* self() { return this; }
     int holders() const;
 
-    /// Made by native code, which keeps no share of it.
+    /// Created by native code, which keeps no share.
     static Pointer invite(std::string const& name, bool leads);
 
     static std::vector<Pointer> inOrder(std::vector<StdSharedBase*> const& dancers);
@@ -43,7 +43,7 @@ public:
 
     std::string role() const override;
 
-    /// Null when there is no partner, or when that one does not lead.
+    /// Null if there is no partner, or the partner does not lead.
     std::shared_ptr<StdSharedDerived> rival() const;
 };
 

@@ -10,7 +10,7 @@ namespace orbis::factory::samples {
 
 TreeNodeBase::TreeNodeBase(std::string title) : title_(std::move(title)) {}
 
-/// Whichever ends first, the other one must not point to it any more.
+/// Either may be destroyed first, so each clears the other's pointer to it.
 TreeNodeBase::~TreeNodeBase()
 {
     for (auto const& child : children_)

@@ -13,7 +13,7 @@ class TreeNodeBase;
 class TreeNodeDerived;
 } // namespace orbis::factory::samples
 
-// Both are bound as the base, so that a pointer to that reaches scripts as what it points to.
+// Both are bound as the base, so a pointer to the base reaches scripts as an object of its dynamic class.
 template <>
 struct orbis::factory::HostClass<orbis::factory::samples::TreeNodeBase> {
     static constexpr char const* name = "orbis_factory.TreeNodeBase";
@@ -28,11 +28,11 @@ struct orbis::factory::HostClass<orbis::factory::samples::TreeNodeDerived> {
 
 namespace orbis::factory::samples {
 
-/// A heading of an outline. Host objects own the native ones; a heading holds the host objects of what stands below it,
-/// so that a whole outline lives as long as its topmost heading.
+/// A heading of an outline. Native headings are owned by their host objects; each holds the host objects of its
+/// subheadings, so the whole outline lives as long as its topmost heading.
 class TreeNodeBase {
 public:
-    /// Levels of an outline: few enough to walk it by recursion.
+    /// The maximum depth of an outline: few enough levels for recursion.
     static constexpr int maxLevels = 32;
 
     explicit TreeNodeBase(std::string title);
@@ -44,11 +44,11 @@ public:
     TreeNodeBase* parent() const { return parent_; }
     std::vector<TreeNodeBase*> children() const;
 
-    /// Throws when it stands somewhere already, when it would stand below itself, and when it would stand too deep.
+    /// Throws if the child has a parent, is this heading or above it, or would exceed `maxLevels`.
     void add(TreeNodeBase* child);
     void remove(TreeNodeBase* child);
 
-    /// Of it and all that stands below it.
+    /// The pages of this heading and all below it.
     virtual std::int64_t pages() const;
 
 private:
@@ -57,7 +57,7 @@ private:
 
     std::string title_;
     TreeNodeBase* parent_ = nullptr;
-    std::list<ObjectHandle<TreeNodeBase>> children_; // a list: handles stay where they are
+    std::list<ObjectHandle<TreeNodeBase>> children_; // a list, because handles are identified by address
 };
 
 /// A section, which has pages of its own.

@@ -10,20 +10,20 @@
 
 namespace orbis::factory::samples {
 
-/// The guest list of a party. Every virtual machine has one, and owns it.
+/// The guest list of a party. Each virtual machine owns one.
 class VectorStringIO {
 public:
     static VectorStringIO* list();
 
-    /// In the order in which they were written down.
+    /// In the order in which they were added.
     std::vector<fl::ustring> const& guests() const { return guests_; }
     void setGuests(std::vector<fl::ustring> guests) { guests_ = std::move(guests); }
 
-    /// In alphabetical order, each name once. To invite somebody twice in one go is a mistake.
+    /// In alphabetical order, without duplicates. Inviting somebody twice in one call throws.
     std::set<fl::ustring> names() const { return {guests_.begin(), guests_.end()}; }
     void invite(std::set<fl::ustring> const& names);
 
-    /// UTF-8 serves as well.
+    /// Texts can be passed in UTF-8 as well.
     static std::string sentence(std::vector<std::string> const& names);
 
 private:
@@ -42,7 +42,7 @@ namespace orbis::factory::samples {
 class CosVectorStringIO final : public HandleClassInfo<VectorStringIO, 0> {
 public:
     CosVectorStringIO();
-    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts make none
+    ClassAccess getAccess() const override { return ClassAccess::Private; } // scripts cannot create any
     void initializeClass(COSClass* cls) override;
 };
 

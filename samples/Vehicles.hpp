@@ -8,7 +8,7 @@
 
 namespace orbis::factory::samples {
 
-/// A vehicle. The base `Wrappable` takes it out of the registry when it ends, wherever in the object that base is.
+/// A vehicle. Its base `Wrappable` retracts it when it is destroyed, at whatever offset that base is.
 class A : public full::Wrappable {
 public:
     explicit A(std::string name) : name_(std::move(name)) {}
@@ -39,14 +39,14 @@ public:
     std::string tow(A const* other) const;
 };
 
-/// A boat that is a car: one vehicle, not two.
+/// A boat that is a car: one vehicle, not two, as `A` is a virtual base.
 class D : public B, public C {
 public:
     explicit D(std::string const& name) : A(name), B(name), C(name) {}
     std::string kind() const override { return "amphibian"; }
 };
 
-/// The depot of the virtual machine: there is one, which owns all vehicles.
+/// The depot of the virtual machine, which owns all vehicles. There is only one.
 class Z : public full::Wrappable {
 public:
     static Z* depot();
@@ -55,7 +55,7 @@ public:
     std::vector<A*> fleet() const;
     std::vector<B*> boats() const;
 
-    /// Ends the vehicle natively: what scripts have of it becomes invalid.
+    /// Destroys the vehicle: script objects that represent it become invalid.
     void scrap(A const* vehicle);
 
 private:

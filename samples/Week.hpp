@@ -11,21 +11,21 @@ namespace orbis::factory::samples {
 
 enum class Weekday { Monday = 1, Tuesday, Wednesday, Thursday, Friday, Saturday, Sunday };
 
-/// The working hours of a week. A value: what scripts hand over and get back are copies.
+/// The working hours of a week. A value: scripts pass and receive copies.
 class Week {
 public:
     Week() = default;
 
-    /// So many hours on each day from Monday to Friday.
+    /// Sets the hours of each day from Monday to Friday.
     explicit Week(double hoursADay);
 
     double total() const;
     double hoursOn(Weekday day) const;
 
-    /// Throws for what is no part of a day.
+    /// Throws unless `hours` is at least 0 and fits a day.
     void setHours(std::vector<Weekday> const& days, double hours);
 
-    /// The first of them, when there are several.
+    /// The first one, if there are several.
     Weekday busiestDay() const;
     std::vector<Weekday> daysOff() const;
 

@@ -7,7 +7,7 @@
 
 namespace orbis::factory::samples {
 
-/// The attributes that differ from the default, in the words in which they are given; "" for none.
+/// The attributes that differ from the default, by the names of the functions that set them; "" for none.
 std::string attributeNames(MethodAttributes attributes);
 std::string attributeNames(PropertyAttributes attributes);
 

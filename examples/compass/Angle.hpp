@@ -2,14 +2,14 @@
 
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
-/// An angle of the library's own; scripts know it as a number of degrees.
+/// A native angle; scripts use degrees, as a number.
 struct Angle {
     static constexpr double radiansOfDegree = 0.017453292519943295;
 
     double radians = 0;
 };
 
-/// The policy: what the host carries an angle as, and the two ways between them.
+/// The policy: the host's representation of an angle, and both conversions.
 struct AnglePolicy {};
 
 template <>

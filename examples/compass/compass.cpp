@@ -5,14 +5,14 @@
 #include <cmath>
 #include <optional>
 
-/// A compass needle, which points somewhere once it was turned.
+/// A compass needle, which has a heading once it has been turned.
 class Needle {
 public:
     virtual ~Needle() = default;
 
     std::optional<Angle> heading() const { return heading_; }
 
-    /// Clockwise; gives the new heading.
+    /// Turns clockwise and returns the new heading.
     Angle turn(Angle by)
     {
         Angle const from = heading_.value_or(Angle());

@@ -1,6 +1,7 @@
 #pragma once
 
-/// All that a module names to publish classes, enumerations and functions. Each header can be included alone.
+/// Umbrella header: everything a module needs to publish classes, enumerations and functions. Each header can also be
+/// included alone.
 
 #include "orbis/factory/ObjectHandle.hpp"
 #include "orbis/factory/base/Exception.hpp"

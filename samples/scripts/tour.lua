@@ -1,4 +1,4 @@
--- The tour: every facility of the library, shown by the sample classes. It checks what it prints.
+-- The tour: shows every facility of the library with the sample classes, and checks its own output.
 local folder = arg[0]:match("^.*[/\\]") or ""
 local wrong = 0
 
@@ -7,7 +7,7 @@ local function section(title)
   print(title)
 end
 
---- Prints a value, and checks it. Long ones stand in a line of their own.
+--- Prints a value and checks it. Long ones are printed on a line of their own.
 local function show(text, value, expected)
   local isRight = tostring(value) == tostring(expected) or value == expected
   local given = tostring(value) .. (isRight and "" or "  WRONG, expected " .. tostring(expected))
@@ -15,7 +15,7 @@ local function show(text, value, expected)
   if not isRight then wrong = wrong + 1 end
 end
 
---- Prints the error that a call ends with, in lines of at most 80 columns.
+--- Prints the error that a call throws, in lines of at most 80 columns.
 local function refused(text, f, ...)
   local succeeded, message = pcall(f, ...)
   if succeeded then return show(text, "no error", "an error") end
@@ -43,7 +43,7 @@ visit("values")
 visit("objects")
 visit("packages")
 
---- The live objects that are meant.
+--- Returns the live objects that the predicate selects.
 local function living(isMeant)
   local list = objects()
   for i = #list, 1, -1 do

@@ -38,7 +38,7 @@ COSInterfacePtr newInitializedInstance(COSClass& cls)
     return instance;
 }
 
-// Inlined, as is `arrayOf`: returning a bound object is what results of calls do all the time.
+// Inlined, like `arrayOf`: every call that returns a bound object does both.
 [[gnu::always_inline]] inline RegistryEntry* entryOf(void const* object)
 {
     FooRegistry const& table = HvmScoped<FooRegistry>::get();
@@ -53,7 +53,7 @@ COSInterfacePtr newInitializedInstance(COSClass& cls)
     return array.release();
 }
 
-/// Makes and binds a host object, unless `object` is null.
+/// Creates and binds a host object, unless `object` is null.
 [[gnu::noinline]] hvArray* announceUnbound(void* object, COSNameID const& className)
 {
     std::size_t const size = object ? 1 : 0;
@@ -142,8 +142,8 @@ void BindingRegistry::hijack(void const* const oldObject, void* newObject, COSIn
                              COSNameID const& className)
 {
     FooRegistry& table = registry();
-    COSInterfacePtr const held = host; // maybe only by what is released below
-    // A binding of the old address to another host object is left in place on purpose.
+    COSInterfacePtr const held = host; // what is released below may hold the last reference
+    // A binding of the old address to another host object stays: it belongs to that object.
     bool const movesBinding = oldObject != newObject && table.isBoundTo(oldObject, host);
     void const* const previous = host->getNativeObject(className);
     table.bindInPlaceOf(movesBinding && previous == oldObject ? nullptr : previous, newObject, host, className);
@@ -165,7 +165,7 @@ bool BindingRegistry::remove(void const* const object)
     COSInterface* const host = find(object);
     if (!host)
         return false;
-    if (table.history()) // while nothing is done: it may be out of memory
+    if (table.history()) // first: it may throw
         table.history()->unbound.emplace(host, object);
     return table.unbind(object, host);
 }
@@ -174,17 +174,17 @@ bool BindingRegistry::retract(void const* const object)
 {
     if (!foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())
         return false;
-    FooRegistry* const table = HvmScoped<FooRegistry>::find(); // none is made: destructors must not need memory
+    FooRegistry* const table = HvmScoped<FooRegistry>::find(); // does not create one: destructors must not allocate
     if (!table)
         return false;
     auto const found = table->find(object);
     if (found == table->end())
         return false;
-    bool const isTold = std::exchange(found->second->retracted, true);
-    COSInterfacePtr host = isTold ? nullptr : found->second->host;
+    bool const wasRetracted = std::exchange(found->second->retracted, true);
+    COSInterfacePtr host = wasRetracted ? nullptr : found->second->host;
     table->erase(object, nullptr);
     if (host)
-        host->setValid(false); // with which go its share and what handles hold
+        host->setValid(false); // also releases its share and the references of handles
     return true;
 }
 

@@ -9,10 +9,10 @@ namespace orbis::factory::CopyableSupport {
 
 namespace {
 
-// A sorted array: it holds the few objects that are between their creation and their binding.
+// A sorted array, as only few objects are under construction at a time.
 struct UnconstructedSet {
     boost::container::flat_set<void const*> objects;
-    bool& isAny = basic::registry().isAnyUnconstructed; // of a table that was there before, and so is destroyed later
+    bool& isAny = basic::registry().isAnyUnconstructed; // the table is created first, and so destroyed later
 };
 
 UnconstructedSet& unconstructed()

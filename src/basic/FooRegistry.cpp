@@ -23,7 +23,7 @@ FooRegistry::FooRegistry() : observer_(*this)
 FooRegistry::~FooRegistry()
 {
     additions::observeObjects(nullptr);
-    // Left entries are reclaimed without a word to their host objects, which may be gone.
+    // Host objects are not notified of remaining entries, because they may be destroyed already.
     for (auto const& [object, entry] : *this) {
         if (history())
             history()->report(object);
@@ -53,11 +53,11 @@ bool FooRegistry::bind(void* object, COSInterface* host, COSNameID const& classN
         return bindFirst(object, host);
     *spare_.mapped() = RegistryEntry(object, host);
     spare_.key() = object;
-    insert(end(), std::move(spare_)); // with a place given, what is not inserted stays where it is
+    insert(end(), std::move(spare_)); // the overload with a hint leaves a node that it does not insert
     return spare_.empty() || isBoundTo(object, host);
 }
 
-/// The same where no mapping is kept.
+/// `bind` without a spare mapping.
 [[gnu::noinline]] bool FooRegistry::bindFirst(void* object, COSInterface* host)
 {
     auto entry = std::make_unique<RegistryEntry>(object, host);
@@ -114,7 +114,7 @@ bool FooRegistry::take(void const* object, COSInterface const* host, COSInterfac
     return true;
 }
 
-/// Nothing can fail: there is room for what was there.
+/// Cannot fail: the table does not grow.
 [[gnu::noinline]] void FooRegistry::putBack(node_type mapping) noexcept
 {
     insert(end(), std::move(mapping));
@@ -172,8 +172,9 @@ namespace orbis::factory {
 
 namespace {
 
-/// Stale binding: the previous object at the address was destroyed without `retract`, or the constructor itself handed
-/// its object out. With two host objects, the end of one would leave the other one on freed memory.
+/// Stale binding: the previous object at this address was destroyed without `retract`, or the constructor itself passed
+/// its object to the host. The other host object becomes invalid, because destroying either would leave the other with
+/// a dangling pointer.
 [[gnu::noinline]] void rebind(COSInterface* host, COSNameID const& className, void* object)
 {
     basic::BindingRegistry::retract(object);
@@ -182,7 +183,7 @@ namespace {
 
 } // namespace
 
-// These two are on the way of every object from its construction to its end: what they call stands in them.
+// Every handle object passes through these two, on construction and on destruction: flattened to save the calls.
 [[gnu::flatten]] void detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object)
 {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();

@@ -33,7 +33,7 @@ void HandleReferences::defer(void const* handle) noexcept
     byHandle_.erase(found);
 }
 
-/// Gives how many there were.
+/// Returns the number of erased references.
 int HandleReferences::erase(References& references, COSInterface const* host, void const* bound,
                             boost::unordered_map<void const*, References::iterator>* byHandle) noexcept
 {
@@ -55,7 +55,7 @@ void HandleReferences::release(COSInterface* host, void const* bound) noexcept
 {
     if (empty())
         return;
-    // All are forgotten first: the last reference to go may end other objects, and come back here.
+    // Erases all before releasing any: releasing the last one may destroy other objects, which call this again.
     int count = erase(held_, host, bound, &byHandle_) + erase(deferred_, host, bound, nullptr);
     for (; count > 0; --count)
         host->removeReference();

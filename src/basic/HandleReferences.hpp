@@ -8,37 +8,38 @@
 
 namespace orbis::factory::basic {
 
-/// One reference that a handle holds on a host object, for the binding by which it found that.
+/// A reference that a handle holds on a host object, for the binding through which it was found.
 struct HandleReference {
     COSInterface* host;
     void const* bound;  ///< the address that is bound to `host`
-    void const* target; ///< what the handle refers to: the same object, maybe under another address
+    void const* target; ///< what the handle refers to: the same object, possibly at another address
     void const* handle;
 };
 
-/// The references that handles hold on host objects of one virtual machine. Handles are known by their addresses. A
-/// reference lasts as long as its binding at most. Nothing but `add` needs memory.
+/// The references that handles hold on host objects of one virtual machine. Handles are identified by address. A
+/// reference is held at most as long as its binding exists. Only `add` allocates.
 class HandleReferences {
 public:
-    /// For a handle that holds nothing. The caller adds the reference to the host object. Throws `std::bad_alloc`.
+    /// Adds a reference for a handle that holds nothing. The caller adds it to the host object. Throws
+    /// `std::bad_alloc`.
     void add(HandleReference const& reference);
 
-    /// What the handle holds, or null.
+    /// The reference of the handle, or null.
     HandleReference const* find(void const* handle) const noexcept;
 
-    /// Forgets the reference; the caller releases it.
+    /// Removes the reference, which the caller releases.
     void remove(void const* handle) noexcept;
 
-    /// Forgets the handle, and keeps its reference until `releaseDeferred`.
+    /// Removes the handle, and holds its reference until `releaseDeferred`.
     void defer(void const* handle) noexcept;
 
     bool empty() const noexcept { return held_.empty() && deferred_.empty(); }
 
-    /// Releases the references on `host` that were taken for its binding to `bound` (null for any): the handles could
-    /// not find it any more. Objects may end with the last of them.
+    /// Releases the references on `host` that were taken for its binding to `bound` (null: to any), because the handles
+    /// can no longer find it. This may destroy objects.
     void release(COSInterface* host, void const* bound) noexcept;
 
-    /// Releases what handles have left.
+    /// Releases all deferred references. This may destroy objects.
     void releaseDeferred() noexcept;
 
     /// Calls `visit` with each reference that a handle holds.
@@ -63,7 +64,7 @@ private:
 
     References held_;
     References deferred_;
-    boost::unordered_map<void const*, References::iterator> byHandle_; ///< of those that are held
+    boost::unordered_map<void const*, References::iterator> byHandle_; ///< index into `held_`
 };
 
 } // namespace orbis::factory::basic

@@ -46,7 +46,7 @@ void HostDependents::forgetHost(FooRegistry& table, COSInterface* host) noexcept
         for (auto it = unbound.lower_bound({host, nullptr}); it != unbound.end() && it->first == host;)
             it = unbound.erase(it);
     }
-    // Both run foreign code.
+    // Last, because both run foreign code.
     handles.release(host, nullptr);
     shares.drop(host);
 }

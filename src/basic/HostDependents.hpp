@@ -16,29 +16,31 @@ namespace orbis::factory::basic {
 
 struct FooRegistry;
 
-/// What debugging asks for beside the bindings.
+/// Debugging data about bindings.
 struct BindingHistory {
-    /// Before `object` is bound to `host` in `table`. Throws `std::bad_alloc`.
+    /// Records that `object` is about to be bound to `host` in `table`. Throws `std::bad_alloc`.
     void remember(FooRegistry const& table, void const* object, COSInterface* host, COSNameID const& className);
 
-    /// After the binding of `object` was erased.
+    /// Records that the binding of `object` was erased.
     void forget(void const* object) noexcept;
 
     /// Reports the binding of `object` as a leak.
     void report(void const* object) const noexcept;
 
-    /// The classes as which the addresses are bound.
+    /// The class as which each address is bound.
     boost::unordered_map<void const*, std::string> classNames;
 
-    /// Host objects that stand for a native object though their binding was given up, or the address had one already.
+    /// Host objects that represent a native object without being bound to it: the binding was released, or the address
+    /// had one already.
     std::set<std::pair<COSInterface const*, void const*>> unbound;
 };
 
-/// What depends on the host objects of one virtual machine beside their bindings. It goes with them.
+/// What depends on host objects of one virtual machine, besides their bindings.
 struct HostDependents {
     bool empty() const noexcept { return handles.empty() && shares.empty() && superseded.empty() && !history; }
 
-    /// After the binding of `object` to `host` was erased. Objects may end with what handles hold by it.
+    /// Call after erasing the binding of `object` to `host`. Releases the references of handles for it, which may
+    /// destroy objects.
     void forgetBinding(void const* object, COSInterface* host) noexcept
     {
         if (history)
@@ -47,13 +49,13 @@ struct HostDependents {
             handles.release(host, object);
     }
 
-    /// Forgets all that depends on `host`, with what `table` still binds to it. Foreign code may run.
+    /// Removes everything that depends on `host`, including what `table` still binds to it. Foreign code may run.
     void forgetHost(FooRegistry& table, COSInterface* host) noexcept;
 
     HandleReferences handles;
     HostShares shares;
 
-    /// Addresses that are bound to a host object which records another one since.
+    /// Superseded bindings: addresses bound to a host object that has come to record another one.
     std::set<std::pair<COSInterface const*, void const*>> superseded;
 
     std::unique_ptr<BindingHistory> history; ///< only in a virtual machine that reports leaks

@@ -12,7 +12,8 @@
 
 namespace orbis::factory::basic {
 
-// What goes, goes when the table is done: it may end a native object, whose destructor may come back here.
+// Both functions release a share only after updating the table: that may destroy a native object, whose destructor may
+// call them again.
 
 void HostShares::give(COSInterface const* host, Share share)
 {

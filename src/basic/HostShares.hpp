@@ -10,21 +10,22 @@
 
 namespace orbis::factory::basic {
 
-/// The shares that host objects of one virtual machine have in shared native objects, each at most one.
+/// The shares that host objects of one virtual machine hold in shared native objects, at most one each.
 class HostShares {
 public:
     using Share = std::variant<boost::shared_ptr<void>, std::shared_ptr<void>>;
 
-    /// In place of the share that `host` has. That may end a native object. Throws `std::bad_alloc`.
+    /// Replaces the share of `host`, which may destroy a native object. Throws `std::bad_alloc`.
     void give(COSInterface const* host, Share share);
 
     bool empty() const noexcept { return shares_.empty(); }
     bool has(COSInterface const* host) const noexcept { return shares_.count(host) != 0; }
 
-    /// Gives the share of `host` up, which may end the native object. False when it has none.
+    /// Releases the share of `host`, which may destroy the native object. Returns false when there is none.
     bool drop(COSInterface const* host) noexcept;
 
-    /// Calls `visit` with each host object that has a share. It is not looked at: it may have ended by mistake.
+    /// Calls `visit` with each host object that holds a share. Do not dereference it: for `check`, which looks for
+    /// destroyed ones.
     template <class Visit>
     void forEachHost(Visit const& visit) const
     {

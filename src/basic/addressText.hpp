@@ -6,7 +6,7 @@
 
 namespace orbis::factory {
 
-/// An address as people write it: "0x7f3c10".
+/// Formats an address: "0x7f3c10".
 inline std::string addressText(void const* address)
 {
     char text[32];

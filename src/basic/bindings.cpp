@@ -17,13 +17,13 @@ void detail::discardUnbound(void* object, char const* className) noexcept
         if (additions::NativeOwner* const owner = additions::nativeOwnerOf(COSNameID(className)))
             owner->discardNative(object);
     } catch (...) {
-        // The class cannot be described: what it would do with the object is not known.
+        // The class cannot be described, so whether it would delete the object is unknown.
     }
 }
 
 void detail::releaseResult(void const* object, hvArray_tag const* row) noexcept
 {
-    auto* const table = basic::HvmScoped<basic::FooRegistry>::find(); // none is made: it may be out of memory
+    auto* const table = basic::HvmScoped<basic::FooRegistry>::find(); // does not create one: memory may be exhausted
     if (!table)
         return;
     auto const found = table->find(object);

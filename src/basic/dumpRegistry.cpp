@@ -7,7 +7,7 @@ namespace orbis::factory::basic {
 
 void dumpRegistry(COSInterface const* marked)
 {
-    FooRegistry const& table = registry(); // before anything is printed: it may be refused
+    FooRegistry const& table = registry(); // before anything is printed: it may throw
     constexpr char const* line = "==========================================================\n";
     utPrintf("%s", line);
     utPrintf(" %15s \t %10s \t %10s\n", "ptr", "external", "internal");

@@ -12,7 +12,7 @@ namespace orbis::factory::detail {
 
 namespace {
 
-/// Null when nothing is bound, and when the virtual machine has begun to give up its storage.
+/// Null when nothing is bound, when no virtual machine is current, and when it has begun to destroy its storage.
 basic::HandleReferences* activeReferences() noexcept
 {
     if (!foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())

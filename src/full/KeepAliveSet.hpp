@@ -11,7 +11,7 @@
 namespace orbis::factory::full {
 
 /// The shared objects of one kind that the current virtual machine keeps alive, each once. `Set` is a hashed set of
-/// owning pointers, by the pointers' values.
+/// owning pointers, which compares pointer values.
 template <class Set>
 struct KeepAliveSet {
     using Pointer = typename Set::value_type;
@@ -22,7 +22,7 @@ struct KeepAliveSet {
             basic::HvmScoped<KeepAliveSet>::get().objects.insert(object);
     }
 
-    /// The caller's own pointer makes sure that no object ends inside the set, which its destructor may come back to.
+    /// The caller's pointer keeps the object alive here: its destructor may call back while the set is being changed.
     static void drop(Pointer const& object)
     {
         auto* const set = basic::HvmScoped<KeepAliveSet>::find();
@@ -36,22 +36,23 @@ struct KeepAliveSet {
         auto* const set = basic::HvmScoped<KeepAliveSet>::find();
         if (!set || set->objects.empty())
             return;
-        // Owns nothing, and is only compared. The address of the first base is the object's own.
+        // A non-owning pointer for the look-up (aliasing constructor). `Wrappable` is the first base, so the addresses
+        // are equal.
         auto const kept = set->objects.find(Pointer(Pointer(), static_cast<typename Pointer::element_type*>(bound)));
         if (kept == set->objects.end())
             return;
         COSInterface const* const holder = basic::BindingRegistry::find(bound);
         auto const& dependents = basic::registry().dependents;
         if (host && holder && holder != host && !(dependents && dependents->shares.has(host)))
-            return; // it is a new object at the address
-        // Held, as native code that is asked may change the set.
+            return; // kept for a new object at this address
+        // Copied, because native code that is called may change the set.
         Pointer const object = *kept; // NOLINT(performance-unnecessary-copy-initialization)
         SharingType const type = object->getSharingType();
         if (type == SharingType::HostKept || type == SharingType::HostKeptAlone)
             drop(object);
     }
 
-    /// An object that is kept for a host object and is bound to none; null when there is no such object.
+    /// Returns an object that is kept for a host object and bound to none, or null.
     static Wrappable const* findOrphaned()
     {
         auto const* const set = basic::HvmScoped<KeepAliveSet>::find();

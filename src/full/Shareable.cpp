@@ -20,7 +20,7 @@ Shareable::Shareable(Shareable const&) = default;
 
 Shareable& Shareable::operator=(Shareable const&) = default;
 
-// Before the shared-from-this base gives up its reference to the object.
+// Here rather than in `~Wrappable`, so that the host is notified before the shared-from-this base is destroyed.
 Shareable::~Shareable()
 {
     basic::BindingRegistry::retract(this);

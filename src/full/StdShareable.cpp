@@ -20,7 +20,7 @@ StdShareable::StdShareable(StdShareable const&) = default;
 
 StdShareable& StdShareable::operator=(StdShareable const&) = default;
 
-// Before the shared-from-this base gives up its reference to the object.
+// Here rather than in `~Wrappable`, so that the host is notified before the shared-from-this base is destroyed.
 StdShareable::~StdShareable()
 {
     basic::BindingRegistry::retract(this);

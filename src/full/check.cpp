@@ -18,7 +18,7 @@ namespace {
 
 using additions::RecordedObject;
 
-/// What host objects record, in the order of their addresses.
+/// What host objects record, sorted by host object.
 class HostView {
 public:
     HostView() : records_(additions::recordedObjects())
@@ -28,7 +28,7 @@ public:
 
     std::vector<RecordedObject> const& records() const { return records_; }
 
-    /// What the object records; nothing for one that has ended or is invalid.
+    /// What the object records; nothing for one that is destroyed or invalid.
     auto of(COSInterface const* host) const
     {
         return std::ranges::equal_range(records_, host, std::less(), &RecordedObject::host);
@@ -68,13 +68,13 @@ std::string checkBindings(HostView const& hosts)
     return {};
 }
 
-/// A native object is bound to the host object that stands for it, or to none, but for what was done on purpose.
+/// A native object that a host object records is bound to that one or to none, except where that was deliberate.
 std::string checkRecords(HostView const& hosts)
 {
     basic::FooRegistry const& table = basic::registry();
     auto const* const history = table.history();
     if (!history)
-        return {}; // any of them may have been done on purpose
+        return {}; // mistakes cannot be told from deliberate rebinding
     for (RecordedObject const& record : hosts.records()) {
         auto const found = table.find(record.native);
         bool const isOthers = found != table.end() && found->second->host != record.host;

@@ -4,8 +4,8 @@
 
 namespace orbis::factory::full {
 
-/// A shared object that the current virtual machine keeps alive for a host object, but that is bound to none; null when
-/// there is none of that kind.
+/// Returns a shared object that the current virtual machine keeps alive for a host object but that is bound to none;
+/// null if there is none of that kind.
 Wrappable const* findOrphanedShareable();
 Wrappable const* findOrphanedStdShareable();
 

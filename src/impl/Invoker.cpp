@@ -16,7 +16,7 @@ namespace {
 using T = char const*;
 using Signature = COSMethodSignaturePtr;
 
-// Names past the eleventh are unreachable: all later inputs repeat it, as part of the interface.
+// The interface fixes that inputs from the eleventh on share one name.
 constexpr unsigned int lastNamedInput = 11;
 
 void fill(COSMethodSignature& signature, T names, T output, T self, std::initializer_list<T> inputs)

@@ -13,7 +13,7 @@ void MethodImpl::invoke(COSClient const* client, int& outputCount, COSValue* out
                         COSValue const* inputs) const
 {
     Invoker const* invoker = &invoker_;
-    asm("" : "+r"(invoker)); // the address is worked out once, not for the argument and again for the routine
+    asm("" : "+r"(invoker)); // keeps the compiler from computing the address twice
     invoker->invokeFn(invoker, client, outputCount, outputs, inputCount, inputs);
 }
 

@@ -282,7 +282,7 @@ bool PropertyAttributes::isTransient() const
     return (bits_ & TRANSIENT) != 0;
 }
 
-// The interface has it non-const.
+// The interface declares it non-const.
 bool PropertyAttributes::canContainInterfaces() // NOLINT(readability-make-member-function-const)
 {
     return (bits_ & CAN_CONTAIN_INTERFACES) != 0;

@@ -8,7 +8,7 @@ namespace orbis::factory::impl {
 
 namespace {
 
-/// The side of a property that a use of it needs.
+/// Returns a getter or setter that an access needs; throws if it is missing.
 template <class Side>
 Side const& required(Side const* side)
 {

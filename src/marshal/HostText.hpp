@@ -10,7 +10,7 @@ struct FreeEx {
     void operator()(void* text) const { hvFreeEx(text); }
 };
 
-/// A text that the host allocated and `hvFreeEx` frees.
+/// A string that the host allocated, freed with `hvFreeEx`.
 template <class Char>
 using HostText = std::unique_ptr<Char[], FreeEx>;
 

@@ -9,8 +9,8 @@
 
 namespace orbis::factory {
 
-/// The error of an input without the native object that it needs. It is thrown where nobody knows what the input is
-/// called; who does throws it anew.
+/// The error of an input without the native object that it must have. It is thrown where the input's name is unknown;
+/// the descriptor, which knows it, rethrows the error with the name.
 class NullInput final
     : public foundation::core::except::Exception<orbis_factory::orbis_factory::null_input, std::exception, void> {
 public:
@@ -26,7 +26,7 @@ public:
 
 private:
     hvArray_tag const* input_;
-    char const* className_; ///< lives as long as the program
+    char const* className_; ///< a literal
 };
 
 } // namespace orbis::factory

@@ -42,7 +42,7 @@ void OrbisFactoryString::Conversion::convertFromHost(hvArray** out, hvArray* in)
     if (in->_get_class_id_non_trivial() != hvCHAR_CLASS) {
         if (!hvIsA(in, "string"))
             errorRequireString();
-        extractString(in); // what has no text is refused here, before a candidate is chosen
+        extractString(in); // throws for strings without text, so that dispatch tries other candidates
     }
     *out = hvCreateSharedCopyNotOnArrayList(in);
 }

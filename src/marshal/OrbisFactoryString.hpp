@@ -15,14 +15,15 @@ public:
     /// Orders by UTF-16 code unit.
     std::uint32_t compareValues(COSValue a, COSValue b) const override;
 
-    /// Of the text with its terminator.
+    /// The size of the text with its terminator.
     std::size_t valueByteSize(COSValue value) const override;
 
     class Conversion final : public COSTypeConversion {
     public:
         void convertToHost(hvArray** out, hvArray* value) override;
 
-        /// Takes character arrays and host string scalars. Throws "VELMARA:class:RequireString" for other arrays.
+        /// Accepts character arrays and host string scalars. Throws "VELMARA:class:RequireString" for other arrays, and
+        /// the errors of `extractString` for strings without text.
         void convertFromHost(hvArray** out, hvArray* in) override;
     };
 

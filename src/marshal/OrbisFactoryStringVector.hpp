@@ -12,18 +12,18 @@ public:
     char const* cppTypeName() const override { return "std::vector<fl::ustring>"; }
     char const* scalarTypeName() const override { return "OrbisFactoryString vector"; }
 
-    /// Vectors have no order: 0 when equal, else 2.
+    /// Vectors are unordered: returns 0 when equal, else 2.
     std::uint32_t compareValues(COSValue a, COSValue b) const override;
 
-    /// Of all texts with their terminators.
+    /// The size of all texts with their terminators.
     std::size_t valueByteSize(COSValue value) const override;
 
     class Conversion final : public COSTypeConversion {
     public:
         void convertToHost(hvArray** out, hvArray* value) override;
 
-        /// Cells are looked into later, when they are read. Throws "orbis_factory:orbis_factory:must_be_cell_array" for
-        /// arrays that are neither cell nor string arrays.
+        /// Throws "orbis_factory:orbis_factory:must_be_cell_array" for arrays that are neither cell nor string arrays.
+        /// Cells are checked later, when they are read.
         void convertFromHost(hvArray** out, hvArray* in) override;
     };
 

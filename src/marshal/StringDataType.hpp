@@ -6,10 +6,10 @@
 
 namespace orbis::factory {
 
-/// What the data types of strings have in common: their values are host arrays, null for none.
+/// Common base of the string data types: their values are host arrays, null for none.
 class StringDataType : public COSDataType {
 public:
-    /// Zero-filled storage, which the host's `utFree` frees; throws the host's `bad_alloc`.
+    /// Returns zero-filled storage, freed with the host's `utFree`; throws the host's `bad_alloc`.
     static void* operator new(std::size_t size);
     static void operator delete(void* storage);
 
@@ -21,14 +21,14 @@ public:
     void releaseValue(COSValue value) const final;
 
 protected:
-    /// What `compareValues` gives for values without an order.
+    /// The result of `compareValues` for values without an order.
     static constexpr std::uint32_t unordered = 2;
 
     static bool bothNull(COSValue a, COSValue b) { return !a.array() && !b.array(); }
     static bool oneNull(COSValue a, COSValue b) { return !a.array() != !b.array(); }
 
 private:
-    /// True when two values that are not null hold the same.
+    /// Returns whether two non-null values have the same contents.
     virtual bool holdSame(hvArray* a, hvArray* b) const = 0;
 };
 

@@ -7,15 +7,15 @@
 
 namespace orbis::factory {
 
-/// The registration of the data types of strings, each with its conversion from and to "any", in the current virtual
-/// machine. It stands in the virtual machine's storage; its end unregisters them.
+/// The registration of the string data types, each with its conversion from and to "any", in the current virtual
+/// machine. Kept in the virtual machine's storage; its destructor unregisters them.
 class StringDataTypeRegistration {
 public:
     /// Throws the host's errors, and then leaves nothing registered.
     StringDataTypeRegistration();
 
 private:
-    /// One data type and its conversion, while they are registered.
+    /// The registration of one data type and its conversion.
     class Registered {
     public:
         Registered(std::unique_ptr<COSDataType> type, std::unique_ptr<COSTypeConversion> conversion);

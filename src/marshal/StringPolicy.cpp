@@ -21,7 +21,7 @@ bool hasBeyondAscii(char const* text)
     return chunk & static_cast<Chunk>(0x8080808080808080);
 }
 
-/// Looks at chunks of eight bytes; the last one overlaps those before it.
+/// Tests chunks of eight bytes; the last chunk may overlap the previous one.
 bool isAscii(char const* text, std::size_t size)
 {
     if (size < 8)
@@ -33,19 +33,19 @@ bool isAscii(char const* text, std::size_t size)
     return !hasBeyondAscii<std::uint64_t>(text + size - 8);
 }
 
-/// How many UTF-16 code units well-formed UTF-8 text has.
+/// The number of UTF-16 code units of well-formed UTF-8 text.
 std::size_t unitsOf(std::string_view text)
 {
     std::size_t units = 0;
     for (char const c : text) {
         auto const byte = static_cast<unsigned char>(c);
-        units += (byte & 0xC0) != 0x80; // one for each character,
-        units += byte >= 0xF0;          // and one more beyond the first plane
+        units += (byte & 0xC0) != 0x80; // one per character,
+        units += byte >= 0xF0;          // two beyond the first plane
     }
     return units;
 }
 
-/// The whole of a character array's text, of which `utf8` is what stands before the first zero.
+/// Returns the whole text of a character array. `utf8` is its part before the first zero.
 std::string readAcrossZeros(hvArray const* in, std::string_view utf8)
 {
     std::size_t const units = in->get_number_of_elements();

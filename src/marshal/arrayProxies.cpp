@@ -75,12 +75,12 @@ hvArrayReferenceCountedProxy::hvArrayReferenceCountedProxy(hvArrayReferenceCount
 {
 }
 
-// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): a proxy of the same array, which the same proxy is, too
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): equal arrays are handled, which includes self-assignment
 hvArrayReferenceCountedProxy& hvArrayReferenceCountedProxy::operator=(hvArrayReferenceCountedProxy const& other)
 {
     if (array_ == other.array_)
         return *this;
-    // The end of the held array runs native code when it holds objects, which may end `other`, too.
+    // Last, because destroying an array of objects runs foreign code, which may destroy `other`.
     hvArray* const held = array_;
     array_ = shared(other.array_);
     hvDestroyArray(held);

@@ -13,7 +13,7 @@ namespace orbis::factory {
 
 namespace {
 
-/// What `convert` makes of the text of a character array or a host string scalar; null for null.
+/// Returns what `convert` makes of the text of a character array or a host string scalar; null for null.
 template <class Char>
 Char* convertText(hvArray const* in, Char* (*convert)(hvArray_tag const*))
 {
@@ -54,18 +54,18 @@ CharPtr& CharPtr::operator=(Marshaler const&) = default;
 
 CharPtr& CharPtr::operator=(Marshaler&&) = default;
 
-char* CharPtr::copyText(hvArray* in)
+void detail::copyText(hvArray const* in, char*& text)
 {
-    return convertText(in, hvArrayToString);
+    text = convertText(in, hvArrayToString);
+}
+
+void detail::copyText(hvArray const* in, char16_t*& text)
+{
+    text = convertText(in, hvArrayToString_UTF16);
 }
 
 UnicodeCharPtr& UnicodeCharPtr::operator=(Marshaler const&) = default;
 
 UnicodeCharPtr& UnicodeCharPtr::operator=(Marshaler&&) = default;
-
-char16_t* UnicodeCharPtr::copyText(hvArray* in)
-{
-    return convertText(in, hvArrayToString_UTF16);
-}
 
 } // namespace orbis::factory

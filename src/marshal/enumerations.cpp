@@ -51,7 +51,7 @@ namespace {
 
 using Entry = EnumerationRecord::Entry;
 
-[[noreturn]] void refuse(EnumerationRecord const& enumeration, std::string const& enumerator)
+[[noreturn]] void throwNoSuchEnumerator(EnumerationRecord const& enumeration, std::string const& enumerator)
 {
     std::string known;
     for (Entry const& entry : enumeration.entries)
@@ -63,16 +63,16 @@ using Entry = EnumerationRecord::Entry;
 {
     if (!COSClass::getClass(enumeration.hostName))
         throwError(orbis_factory::orbis_factory::no_such_class(enumeration.hostName));
-    refuse(enumeration, name);
+    throwNoSuchEnumerator(enumeration, name);
 }
 
-/// An enumerator that the host calls by a name that is not known here may have another one that is.
+/// Looks an enumerator up by its other names, if the host calls it by one that is unknown here.
 std::int64_t valueByOtherName(EnumerationRecord const& enumeration, COSInterface const* object, char const* name)
 {
     for (Entry const& entry : enumeration.entries)
         if (additions::getEnumerator(enumeration.hostName, entry.name) == object)
             return entry.value;
-    refuse(enumeration, name);
+    throwNoSuchEnumerator(enumeration, name);
 }
 
 bool isCalled(Entry const& entry, char const* name)
@@ -86,7 +86,7 @@ COSInterfacePtr enumeratorObject(EnumerationRecord const& enumeration, COSNameID
 {
     auto const entry = std::ranges::lower_bound(enumeration.byValue, value, {}, &Entry::value);
     if (entry == enumeration.byValue.end() || entry->value != value)
-        refuse(enumeration, std::to_string(value));
+        throwNoSuchEnumerator(enumeration, std::to_string(value));
     COSInterfacePtr object = additions::getEnumerator(className, entry->name);
     if (!object)
         throwUnknownToHost(enumeration, entry->name);
@@ -95,17 +95,17 @@ COSInterfacePtr enumeratorObject(EnumerationRecord const& enumeration, COSNameID
 
 std::int64_t enumeratorValue(EnumerationRecord const& enumeration, COSInterface const* object)
 {
-    additions::Enumerator const* const given = additions::describeEnumerator(object);
-    if (!given)
-        refuse(enumeration, "null");
-    // A class that was described by the same record has the same order.
+    additions::Enumerator const* const enumerator = additions::describeEnumerator(object);
+    if (!enumerator)
+        throwNoSuchEnumerator(enumeration, "null");
+    // A class that was published from the same record has its enumerators in the same order.
     std::span<Entry const> const entries = enumeration.entries;
-    if (given->position < entries.size() && isCalled(entries[given->position], given->name)) [[likely]]
-        return entries[given->position].value;
+    if (enumerator->position < entries.size() && isCalled(entries[enumerator->position], enumerator->name)) [[likely]]
+        return entries[enumerator->position].value;
     for (Entry const& entry : entries)
-        if (isCalled(entry, given->name))
+        if (isCalled(entry, enumerator->name))
             return entry.value;
-    return valueByOtherName(enumeration, object, given->name);
+    return valueByOtherName(enumeration, object, enumerator->name);
 }
 
 hvArray* enumeratorToHost(EnumerationRecord const& enumeration, std::int64_t value)

@@ -6,7 +6,7 @@ namespace orbis_factory::orbis_factory {
 
 namespace {
 
-/// Brings the catalog's texts to the virtual machine in which an error is to be made.
+/// Returns the name of the catalog, after adding its texts to the current virtual machine.
 char const* catalog()
 {
     orbis::factory::addMessages();

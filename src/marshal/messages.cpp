@@ -33,7 +33,7 @@ constexpr char const* catalog = "orbis_factory:orbis_factory";
 
 constexpr orbis::additions::MessageList catalogs[] = {{catalog, texts}, {nullptr, nullptr}};
 
-/// Stands in the storage of a virtual machine that has the texts.
+/// A marker in the storage of virtual machines that have the texts.
 struct Added {};
 
 } // namespace

@@ -5,11 +5,11 @@
 
 namespace orbis::factory {
 
-/// The text of a host string scalar, zeros in it included. Throws "VELMARA:class:RequireString" when `array` is none,
-/// and "VELMARA:string:MissingNotSupported" when its element is missing.
+/// Returns the text of a host string scalar, including embedded zeros. Throws "VELMARA:class:RequireString" if `array`
+/// is none, and "VELMARA:string:MissingNotSupported" if its element is missing.
 fl::ustring readStringScalar(hvArray const* array);
 
-/// A new character array of that text, up to its first zero.
+/// Returns a new character array of that text, up to its first zero; owned by the caller.
 hvArray* stringScalarAsCharacters(hvArray const* array);
 
 /// Throws "VELMARA:class:RequireString".

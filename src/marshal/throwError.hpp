@@ -4,7 +4,7 @@
 
 namespace orbis::factory {
 
-/// Throws the error of an identity, with the text that the current virtual machine's catalogs have for it.
+/// Throws an error with this identity and the text that the current virtual machine's catalogs have for it.
 template <class Identity>
 [[noreturn]] void throwError(Identity const& identity)
 {

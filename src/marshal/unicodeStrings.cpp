@@ -20,7 +20,7 @@ fl::ustring extractString(hvArray* array)
     COSTypeConversion* const conversion = COSTypeRepository::getConversion("any", "unicodeString");
     if (!conversion)
         errorRequireString();
-    hvArray* value = nullptr; // what the type's values are pointers to is no array
+    hvArray* value = nullptr; // in fact a `fl::ustring*`: the values of "unicodeString" are no arrays
     conversion->convertFromHost(&value, array);
     std::unique_ptr<fl::ustring> const text(reinterpret_cast<fl::ustring*>(value));
     return std::move(*text);

@@ -7,10 +7,10 @@
 
 namespace orbis::factory {
 
-/// A package that is described by a name and a function that populates it.
+/// A package info made of a name and a function that populates the package.
 class ORBISPackageFromInitializer final : public COSPackageInfo {
 public:
-    /// `name` is the package's own part of its dotted name; `initializer` may be empty.
+    /// `name` is the last component of the package's dotted name; `initializer` may be empty.
     ORBISPackageFromInitializer(std::string name, std::function<void(COSPackage*)> initializer);
 
     char const* getName() const override;

@@ -8,13 +8,13 @@
 
 namespace orbis::factory {
 
-/// Stands in a virtual machine's storage while the module that publishes `Package` is initialised in it.
+/// A marker in a virtual machine's storage while the module that publishes `Package` is initialised in it.
 template <class Package>
 class PerHVMInitialization {
     using Storage = foundation::usm::Detail<foundation::usm::scope::Hvm>;
 
 public:
-    /// False when it was set already.
+    /// Returns false when it was already set.
     static bool set()
     {
         if (isSet())
@@ -27,7 +27,7 @@ public:
 
     static bool isSet() { return Storage::find(id(), typeid(PerHVMInitialization)) != nullptr; }
 
-    /// False when it was not set.
+    /// Returns false when it was not set.
     static bool clear() { return Storage::erase(id(), typeid(PerHVMInitialization)); }
 
 private:

@@ -14,8 +14,9 @@ namespace orbis::factory {
 
 namespace {
 
-/// The class of that name, null when there is none; nothing when it cannot be told, because the class cannot be
-/// described or its package not be populated: who asks for it by name is told why. Other failures pass through.
+/// Returns the class of that name, or null when there is none. Returns no value when that is unknown, because the class
+/// could not be described or its package not be populated: the error is reported to whoever asks for the class by name.
+/// Other errors propagate.
 std::optional<COSClass*> findDescribed(char const* hostName)
 {
     try {
@@ -33,20 +34,20 @@ bool isPublished(char const* hostName)
     return findDescribed(hostName).value_or(nullptr) != nullptr;
 }
 
-/// Asks for classes, and takes the names out for which that can be told. The others stay for the next time.
-void askFor(std::set<std::string>& names, char const* suffix)
+/// Looks up each class, and removes the names whose look-up succeeded; the others are tried again next time.
+void lookUp(std::set<std::string>& names, char const* suffix)
 {
-    struct Waiting {
-        explicit Waiting(std::set<std::string>& all) : outer(all) { names.swap(outer); }
-        Waiting(Waiting const&) = delete;
-        Waiting& operator=(Waiting const&) = delete;
-        ~Waiting() { outer.merge(names); }
+    struct Pending {
+        explicit Pending(std::set<std::string>& all) : outer(all) { names.swap(outer); }
+        Pending(Pending const&) = delete;
+        Pending& operator=(Pending const&) = delete;
+        ~Pending() { outer.merge(names); }
 
-        std::set<std::string>& outer; ///< to which asking may add
+        std::set<std::string>& outer; ///< looking classes up may add to it
         std::set<std::string> names;
-    } waiting(names);
-    for (auto name = waiting.names.begin(); name != waiting.names.end();)
-        name = findDescribed((*name + suffix).c_str()) ? waiting.names.erase(name) : std::next(name);
+    } pending(names);
+    for (auto name = pending.names.begin(); name != pending.names.end();)
+        name = findDescribed((*name + suffix).c_str()) ? pending.names.erase(name) : std::next(name);
 }
 
 } // namespace
@@ -118,14 +119,14 @@ bool PublishedClasses::isA(Entry const& entry, std::type_index ancestor) const
 void PublishedClasses::describeExpected()
 {
     unpublished_.clear();
-    // Asking for a class has the host populate its package, whether it is there or not, and describe it.
-    askFor(expectedPackages_, ".*");
-    askFor(expected_, "");
+    // A look-up makes the host populate the class's package, even if the class does not exist, and describe the class.
+    lookUp(expectedPackages_, ".*");
+    lookUp(expected_, "");
 }
 
 char const* PublishedClasses::best(void const* bound, NativeClassRecord const& known) const
 {
-    // Asking whether a class is published may have it described, which adds to the entries.
+    // A copy, because checking whether a class is published may describe it, which adds to the entries.
     std::vector<NativeClassRecord> candidates;
     for (auto const& [type, entry] : entries_)
         if (entry.native.isInstance && isA(entry, *known.type) && entry.native.isInstance(bound))

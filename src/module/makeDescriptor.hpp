@@ -26,7 +26,7 @@ private:
     std::shared_ptr<void const> kept_;
 };
 
-/// The same for a member that refuses null for an input: its error names the input.
+/// The same for a member with inputs that must be objects: its errors name the input.
 template <class Descriptor>
 class NamingDescriptor final : public KeepingDescriptor<Descriptor> {
 public:
@@ -59,10 +59,10 @@ private:
     }
 
     ParameterNamer names_;
-    int objects_; ///< how many inputs the names leave out at the front
+    int objects_; ///< the number of leading inputs without a name
 };
 
-/// A descriptor of a member, made of `arguments`.
+/// Creates the descriptor of a member from `arguments`.
 template <class Descriptor, class... A>
 std::unique_ptr<Descriptor> makeDescriptor(MemberRecord const& record, A&&... arguments)
 {

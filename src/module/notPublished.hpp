@@ -5,11 +5,11 @@
 
 namespace orbis::factory {
 
-/// Throws, in place of the exception that is being handled, an error that says which member could not be published, and
-/// why. `owner` is the full name of its class, or null.
+/// Replaces the exception being handled: throws an error that names the member that could not be published, and the
+/// reason. `owner` is the full name of its class, or null.
 [[noreturn]] void throwNotPublished(char const* owner, char const* member);
 
-/// Runs `publishMember`; its failure names the member, but for a shortage of memory.
+/// Runs `publishMember`, and names the member in its errors, except for exhausted memory.
 template <class F>
 void publishing(char const* owner, char const* member, F&& publishMember)
 {

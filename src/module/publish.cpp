@@ -32,7 +32,7 @@ void createSignature(MemberRecord const& record, char const* selfType, COSMethod
 
 using SignatureMaker = void (*)(MemberRecord const&, char const*, COSMethodSignaturePtr&);
 
-/// One entry for each number of inputs.
+/// A table with one entry for each number of inputs.
 template <std::size_t... N>
 constexpr std::array<SignatureMaker, sizeof...(N)> signatureMakers(std::index_sequence<N...>)
 {
@@ -47,7 +47,7 @@ void createSignature(MemberRecord const& record, char const* selfType, COSMethod
     makers.at(record.inputTypes.size())(record, selfType, signature);
 }
 
-/// Membership by force is for free functions only; those that are not forced are static.
+/// Only free functions can be forced members; free functions that are not are static.
 MethodAttributes attributesOf(MemberRecord const& record)
 {
     MethodAttributes const force = MethodAttributes::ForceMembership();

@@ -11,7 +11,7 @@
 
 namespace orbis::factory {
 
-/// A class as it is described: a value that can be looked at without a host.
+/// The description of a class: a plain value that can be inspected without a host.
 class ORBIS_FACTORY_API ClassDescription {
 public:
     explicit ClassDescription(NativeClassRecord const& native);
@@ -21,7 +21,7 @@ public:
     char const* hostName() const;
     NativeClassRecord const& native() const;
 
-    /// Direct ones, in the order of description.
+    /// Direct superclasses, in the order of description.
     std::vector<NativeClassRecord> const& superclasses() const;
     std::vector<MemberRecord> const& members() const;
     std::vector<PropertyRecord> const& properties() const;
@@ -38,10 +38,10 @@ private:
     std::vector<PropertyRecord> properties_;
 };
 
-/// Gives the host class its superclasses, which must be published, and a descriptor for every member: constructors,
-/// then methods, then properties, each kind in the order of description. To be called by the class info's
-/// `initializeClass`. Throws "orbis_factory:orbis_factory:member_not_published" when a member cannot be made, or the
-/// host refuses it; what was handed over before stays the host's.
+/// Adds to the host class its superclasses, which must be published, and a descriptor for every member: constructors,
+/// then methods, then properties, each kind in the order of description. Call it from the class info's
+/// `initializeClass`. Throws "orbis_factory:orbis_factory:member_not_published" when a member's descriptor cannot be
+/// created or the host rejects it; descriptors added before that stay with the host.
 ORBIS_FACTORY_API void publish(COSClass* cls, ClassDescription const& description);
 
 } // namespace orbis::factory

@@ -9,7 +9,7 @@
 
 namespace orbis::factory {
 
-/// Package functions as they are described: a value that can be looked at without a host.
+/// The description of package functions: a plain value that can be inspected without a host.
 class ORBIS_FACTORY_API FunctionDescription {
 public:
     FunctionDescription();
@@ -26,7 +26,7 @@ private:
 };
 
 /// Adds each function to the package, in the order of description. Throws
-/// "orbis_factory:orbis_factory:member_not_published" when one cannot be made, or the host refuses it.
+/// "orbis_factory:orbis_factory:member_not_published" when a descriptor cannot be created or the host rejects it.
 ORBIS_FACTORY_API void publish(COSPackage* package, FunctionDescription const& description);
 
 } // namespace orbis::factory

@@ -11,18 +11,18 @@
 
 namespace orbis::factory {
 
-/// A strong reference from one native object to another one that is published: while the handle holds it, the host
-/// object of the other one is not destroyed, and where the class info deletes the native object with that, neither is
-/// the native object. A native object without a host object gets one.
+/// Strong reference from one native object to the host object of another. While the handle holds it, that host object
+/// is not destroyed, and neither is its native object if the class info deletes the two together. A target without a
+/// host object gets one.
 ///
-/// The handle reads as empty once the binding by which it found the host object is gone: when the native object was
-/// destroyed first, as scripts may have it, when it was released, and when its host object was bound to another one.
+/// The handle reads as empty once the binding through which it found the host object is removed: when the target is
+/// destroyed (scripts may delete it), when it is released, or when its host object is bound to another native object.
 ///
-/// A reference on an object bound as a `full::Wrappable` is released when the call from the host that is running has
-/// returned, or the next one begins: native code may delete the handle's owner, to which the object may lead back.
-/// Other references are released at once.
+/// References to objects bound as `full::Wrappable` are released only after the current call from the host has
+/// returned, or when the next one begins, because native code may delete an object that owns handles and is reachable
+/// through them. Other references are released at once.
 ///
-/// Threading: on the thread of the virtual machine. After its end a handle does nothing.
+/// Threading: on the thread of the virtual machine. A handle that outlives its virtual machine does nothing.
 template <PublishedClass T>
 class ObjectHandle : public H_ck {
 public:
@@ -39,11 +39,12 @@ public:
 
     ~ObjectHandle() { release(); }
 
-    /// Refers to `object` (null allowed) from now on. When its host object cannot be made the handle becomes empty, and
-    /// the host's error passes through.
+    /// Makes the handle refer to `object` (may be null). If its host object cannot be created, the handle becomes empty
+    /// and the host's error propagates.
     void reset(T* object = nullptr)
     {
-        // Destroyed after all else: the owner of this handle may go with it, and so may what only it refers to.
+        // Declared first, so that it is destroyed last: releasing the previous target may destroy the owner of this
+        // handle.
         COSInterfacePtr const last = detail::heldBy(this);
         release();
         object_ = nullptr;
@@ -57,20 +58,20 @@ public:
         object_ = object;
     }
 
-    /// The object; null when the handle is empty, or reads as empty, and while its virtual machine is not current.
+    /// Returns the target; null when the handle reads as empty or when its virtual machine is not current.
     T* get() const { return object_ && detail::isHeldBy(this, object_) ? object_ : nullptr; }
     explicit operator bool() const { return get() != nullptr; }
 
-    /// For handles that are known not to be empty.
+    /// Precondition: the handle does not read as empty.
     T* operator->() const { return object_; }
     T& operator*() const { return *object_; }
 
-    /// True when the handle was made to refer to `object`, which may be gone or on its way.
+    /// Compares addresses only: true for the object that was last set, even while or after that object is destroyed.
     bool operator==(T const* object) const { return object_ == object; }
 
 private:
-    /// What is held here, maybe for another object: this handle, or one that was at its place, may have been changed
-    /// while another virtual machine was current.
+    /// Releases whatever is recorded for this address, which need not be a reference to `object_`: the handle, or an
+    /// earlier one at the same address, may have been changed while another virtual machine was current.
     void release()
     {
         if constexpr (std::is_same_v<RootClass<T>, full::Wrappable>)

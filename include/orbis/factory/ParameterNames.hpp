@@ -4,8 +4,9 @@
 
 namespace orbis::factory {
 
-/// The names of a member's parameters, separated by commas, after the object: a literal, counted at compile time.
-/// Fewer names than parameters are fine; the rest are p0, p1, ... by their places.
+/// The names of a member's parameters, separated by commas: a literal, checked at compile time. They start after the
+/// object of a member function, but include the object that a free function takes first. Parameters without a name are
+/// called p0, p1, ... by position.
 template <std::size_t Arity>
 class ParameterNames {
 public:
@@ -20,7 +21,7 @@ public:
             throw "More parameter names are listed than the function has parameters: remove the extra names.";
     }
 
-    /// Null when there are none.
+    /// Null when no names were given.
     constexpr char const* text() const { return text_; }
 
 private:

@@ -6,15 +6,15 @@
 
 namespace orbis::factory {
 
-/// For debugging: compares all that the current virtual machine knows of native objects, the binding table, the sets
-/// that keep shared objects alive, and what the host objects themselves record, both ways. Gives the first
-/// inconsistency as one sentence, and an empty text when there is none, or no virtual machine is current. Host objects
-/// that stand for a native object that is bound to another one are found only in a virtual machine that reports leaks,
-/// as only that remembers what was released or bound twice on purpose.
+/// For debugging: cross-checks the current virtual machine's binding table, keep-alive sets, handles and shares against
+/// what its host objects record. Returns the first inconsistency as one sentence; an empty string when there is none or
+/// when no virtual machine is current. A host object whose native object is bound to another host object is reported
+/// only in a virtual machine that reports leaks: only that keeps the history that tells such a mistake from a
+/// deliberate `release` or rebinding.
 ///
-/// What handles left to be released later is released before.
+/// Releases first the references that handles have deferred.
 ///
-/// Threading: on the thread of the virtual machine, while no object of it is being made or destroyed.
+/// Threading: on the thread of the virtual machine, while none of its objects is being created or destroyed.
 ORBIS_FACTORY_API std::string check();
 
 } // namespace orbis::factory

@@ -12,11 +12,11 @@
 
 namespace orbis::factory {
 
-/// See `withDefaults`, in a header of its own.
+/// Defined in withDefaults.hpp.
 template <class... D>
 class Defaults;
 
-/// Describes the class `T`, one line a member:
+/// Describes the class `T`, one line per member:
 ///
 ///     publish(cls, describe<Adder>()
 ///                      .constructor<int>("start")
@@ -24,8 +24,9 @@ class Defaults;
 ///                      .staticMethod("zero", &Adder::zero)
 ///                      .property("total", &Adder::total, &Adder::setTotal, PropertyAttributes::Transient()));
 ///
-/// In every line: the host name, the native thing, the names of its parameters, its attributes; the last two may be
-/// left out. Texts are literals. What cannot be published stops compilation with a sentence.
+/// Each line gives the host name, the native function or data, the names of its parameters, and its attributes; the
+/// last two may be omitted. Texts are literals: they are not copied. What cannot be published stops compilation with a
+/// sentence that says why.
 template <class T>
 class ClassDescriber : public ClassDescription {
     template <class F>
@@ -37,7 +38,7 @@ class ClassDescriber : public ClassDescription {
 public:
     ClassDescriber() : ClassDescription(nativeClassRecord<T>()) {}
 
-    /// The direct superclasses: published base classes, whose members objects of this class have too.
+    /// Names the direct superclasses: published base classes, whose members objects of this class inherit.
     template <class... B>
     ClassDescriber& inherits()
     {
@@ -46,7 +47,7 @@ public:
         return *this;
     }
 
-    /// A constructor that takes values of the types `A`.
+    /// Adds a constructor that takes values of the types `A`.
     template <class... A>
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodAttributes attributes = {})
     {
@@ -72,9 +73,9 @@ public:
         return addAll(defaults.template shortenConstructor<T, A...>(members().back()));
     }
 
-    /// A member function of `T` or of a public base, or a free function or captureless lambda that takes a `T*` first:
-    /// a member by force, which refuses to be called without an object. The names of such a one begin with the
-    /// object's.
+    /// Adds a method: a member function of `T` or of a public base, or a free function or captureless lambda that takes
+    /// a `T*` first. The latter becomes a forced member, which throws when it is called without an object; its
+    /// parameter names begin with the object's.
     template <class F>
     ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodAttributes attributes = {})
     {
@@ -107,7 +108,7 @@ public:
         return addAll(defaults.template shorten<T, objects>(members().back(), function));
     }
 
-    /// A free function, static member function or captureless lambda, called without an object.
+    /// Adds a static method: a free function, static member function or captureless lambda, called without an object.
     template <class F>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodAttributes attributes = {})
     {
@@ -134,9 +135,9 @@ public:
         return addAll(defaults.template shorten<T, 0>(members().back(), function));
     }
 
-    /// A property that is read through `getter`: a data member, a member function without parameters, or a free
-    /// function or captureless lambda that takes the object, or nothing. Data that is not const can be written, too,
-    /// unless `PropertyAttributes::NoAccessSetter()` says otherwise.
+    /// Adds a property that is read through `getter`: a data member, a member function without parameters, or a free
+    /// function or captureless lambda that takes the object or nothing. Non-const data can be written as well, unless
+    /// `PropertyAttributes::NoAccessSetter()` is given.
     template <class G>
     ClassDescriber& property(char const* name, G getter, PropertyAttributes attributes = {})
     {
@@ -148,8 +149,8 @@ public:
         return *this;
     }
 
-    /// A property that is read and written. The setter is a data member, a member function that takes the value, or a
-    /// free function or captureless lambda that takes the value, after the object where it needs it.
+    /// Adds a property that is read and written. The setter is a data member, a member function that takes the value,
+    /// or a free function or captureless lambda that takes the value, preceded by the object if it needs it.
     template <class G, class S>
     ClassDescriber& property(char const* name, G getter, S setter, PropertyAttributes attributes = {})
     {
@@ -161,7 +162,7 @@ public:
         return *this;
     }
 
-    /// A property that is only written, through a setter as above.
+    /// Adds a write-only property. The setter is as above.
     template <class S>
     ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyAttributes attributes = {})
     {
@@ -171,7 +172,7 @@ public:
         return *this;
     }
 
-    /// A property of the class: static data or a constant, or a function that takes nothing.
+    /// Adds a read-only property of the class itself: static data, a constant, or a function without parameters.
     template <class G>
     ClassDescriber& staticProperty(char const* name, G getter, PropertyAttributes attributes = {})
     {
@@ -233,7 +234,7 @@ private:
     }
 };
 
-/// Begins the description of a class that has a host name.
+/// Begins the description of a class, which must have a host name.
 template <class T>
 ClassDescriber<T> describe()
 {

@@ -8,11 +8,11 @@
 
 namespace orbis::factory {
 
-/// See `withDefaults`, in a header of its own.
+/// Defined in withDefaults.hpp.
 template <class... D>
 class Defaults;
 
-/// Describes package functions, one line each, in the grammar of `describe`:
+/// Describes package functions, one line each, in the form of `describe`:
 ///
 ///     publish(package, describeFunctions().function("add", &add, "a, b"));
 class FunctionDescriber : public FunctionDescription {
@@ -20,7 +20,7 @@ class FunctionDescriber : public FunctionDescription {
     using Traits = detail::CallableTraits<std::decay_t<F>>;
 
 public:
-    /// A free function, static member function or captureless lambda.
+    /// Adds a free function, static member function or captureless lambda.
     template <class F>
     FunctionDescriber& function(char const* name, F callable, ParameterNames<Traits<F>::arity> names = {})
     {

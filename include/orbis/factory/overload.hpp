@@ -27,7 +27,7 @@ struct Overload {
 
 } // namespace detail
 
-/// Picks one of several overloaded functions by its parameter types: `overload<int, int>(&Adder::getSum)`.
+/// Selects one of several overloaded functions by its parameter types: `overload<int, int>(&Adder::getSum)`.
 template <class... A>
 inline constexpr detail::Overload<A...> overload{};
 

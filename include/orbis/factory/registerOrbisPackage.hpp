@@ -9,10 +9,10 @@
 
 namespace orbis::factory {
 
-/// Publishes a package under its full dotted name; missing parents are made as empty packages. `initializer` adds
-/// what the package holds: at once when the package exists already (an empty one then throws
-/// `std::bad_function_call`), else when the host first asks the new package.
-/// Returns the package, which is the host's; null for an empty name, which registers nothing.
+/// Publishes a package under its full dotted name and creates missing parents as empty packages. `initializer` adds the
+/// package's contents. It runs immediately if the package exists (an empty one then throws `std::bad_function_call`),
+/// else when the host first uses the new package. Returns the package, which the host owns. Returns null, and publishes
+/// nothing, for an empty name.
 ORBIS_FACTORY_API COSPackage* registerOrbisPackage(std::string const& fullName,
                                                    std::function<void(COSPackage*)> initializer);
 

@@ -10,7 +10,8 @@ namespace orbis::factory {
 
 namespace detail {
 
-/// True when a default value, as the author gives it, can be kept; stops compilation with a sentence when it cannot.
+/// Returns whether a default value, of the type as which the author passes it, can be stored; stops compilation with a
+/// sentence otherwise.
 template <class D>
 consteval bool canBeDefault()
 {
@@ -34,21 +35,21 @@ consteval bool canBeDefault()
 
 } // namespace detail
 
-/// Values for the last parameters of a member, which callers may leave out.
+/// Default values of the last parameters of a member.
 template <class... D>
 class Defaults {
 public:
     explicit Defaults(std::tuple<D...> values) : values_(std::move(values)) {}
 
-    /// The members to be published beside `full`, which was made of `function`: one for each number of values left out.
-    /// The first parameters, as many as `Objects`, are the object that a method is called on.
+    /// Returns the overloads to publish beside `full`, the record of `function`: one for each number of omitted
+    /// arguments. The first `Objects` parameters are the object that a method is called on.
     template <class T, std::size_t Objects, class F>
     std::vector<MemberRecord> shorten(MemberRecord const& full, F function) const
     {
         return detail::defaultedFunctions<T, Objects>(full, function, values_);
     }
 
-    /// The same for a constructor of `T` that takes values of the types `A`.
+    /// The same for a constructor of `T` with the parameter types `A`.
     template <class T, class... A>
     std::vector<MemberRecord> shortenConstructor(MemberRecord const& full) const
     {
@@ -59,14 +60,14 @@ private:
     std::tuple<D...> values_;
 };
 
-/// Gives the last parameters of a method, static method, constructor or package function default values, after the
-/// names of the parameters:
+/// Gives default values to the last parameters of a method, static method, constructor or package function. Passed
+/// after the parameter names:
 ///
 ///     .method("scale", &Shape::scale, "x, factor", withDefaults(2.0))
 ///
-/// The member is then published with further, shorter signatures, and what a call leaves out is taken from here. The
-/// values are copied, and converted to the parameters' types at each such call. Views and pointers are refused, but for
-/// text literals.
+/// The member is published with additional, shorter signatures, whose calls take the omitted arguments from here. The
+/// values are copied, and converted to the parameters' types in each such call. Views and pointers are rejected, except
+/// for string literals.
 template <class... D>
 Defaults<std::decay_t<D>...> withDefaults(D&&... values)
 {

@@ -1,6 +1,6 @@
--- The tour's sections about objects: who owns them, and what becomes of the other side when one side ends.
--- section(title) begins a section; show(text, value, expected) prints a value and checks it; refused(text, f, ...) prints
--- the error that a call ends with.
+-- The tour's sections about objects: who owns them, and what happens to one side when the other is destroyed.
+-- section(title) begins a section; show(text, value, expected) prints a value and checks it; refused(text, f, ...)
+-- prints the error that a call throws.
 local section, show, refused = ...
 local of = orbis_factory
 

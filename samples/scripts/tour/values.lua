@@ -1,6 +1,6 @@
--- The tour's sections about values: how numbers, texts, arrays and enumerators cross, and how members are published.
--- section(title) begins a section; show(text, value, expected) prints a value and checks it; refused(text, f, ...) prints
--- the error that a call ends with.
+-- The tour's sections about values: how numbers, texts, arrays and enumerators are converted, and how members are
+-- published. section(title) begins a section; show(text, value, expected) prints a value and checks it; refused(text,
+-- f, ...) prints the error that a call throws.
 local section, show, refused = ...
 local of = orbis_factory
 local function list(values) -- of texts, numbers, enumerators

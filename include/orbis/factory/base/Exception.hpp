@@ -8,8 +8,8 @@
 
 namespace orbis::factory {
 
-/// What native code throws to tell the script's user what went wrong, in a sentence (UTF-8). Any other exception of
-/// native code reaches the script, too; this one also is the host's user exception.
+/// Thrown by native code to report a failure to the script's user, in one sentence (UTF-8). Other exceptions of native
+/// code reach the script, too; this one is also the host's user exception.
 class ORBIS_FACTORY_API Exception
     : public foundation::core::except::Exception<foundation::core::except::IUserException, std::exception> {
 public:

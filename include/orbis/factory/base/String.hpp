@@ -6,7 +6,7 @@
 
 namespace orbis::factory {
 
-/// An owned narrow text, for exported interfaces that name no standard type.
+/// An owned narrow string for exported interfaces, which keeps `std::string` out of their layout.
 class ORBIS_FACTORY_API String {
 public:
     /// `text` is NUL-terminated and not null.
@@ -16,7 +16,7 @@ public:
     String& operator=(String const&);
     ~String();
 
-    /// NUL-terminated; valid while this text lives unchanged.
+    /// NUL-terminated; valid until this object is assigned to or destroyed.
     operator char const*() const;
 
 private:

@@ -7,8 +7,8 @@
 
 namespace orbis::factory {
 
-/// The errors of arguments that should be strings. Each throws the identity of errorIdentities.hpp that it is named
-/// after.
+/// Errors of arguments that should be strings. Each function throws the identity of errorIdentities.hpp that it is
+/// named after.
 [[noreturn]] ORBIS_FACTORY_API void errorMustBeCellArray();
 
 /// `index` is the zero-based position of the cell.

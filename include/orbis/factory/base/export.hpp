@@ -1,6 +1,6 @@
 #pragma once
 
-// Marks what the library exports. Its own build defines ORBIS_FACTORY_BUILD.
+// Marks exported symbols. ORBIS_FACTORY_BUILD is defined only while the library itself is built.
 #if defined(_WIN32)
 #if defined(ORBIS_FACTORY_BUILD)
 #define ORBIS_FACTORY_API __declspec(dllexport)

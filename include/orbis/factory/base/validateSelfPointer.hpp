@@ -9,7 +9,7 @@ class Invoker;
 /// Throws "orbis_factory:orbis_factory:null_self" when `self` is null.
 ORBIS_FACTORY_API void validateSelfPointer(void const* self);
 
-/// The same, but only for a member whose object is its first argument by force.
+/// The same, but only for a forced member: a free function that takes the object as its first argument.
 ORBIS_FACTORY_API void validateSelfPointer(void const* self, Invoker const& invoker);
 
 } // namespace orbis::factory::impl

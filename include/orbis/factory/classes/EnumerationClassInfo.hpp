@@ -5,11 +5,11 @@
 
 namespace orbis::factory {
 
-/// Publishes a native enumeration, ready to be added to a package:
+/// Class info of a native enumeration, ready to be added to a package:
 ///
 ///     package->addClass(new EnumerationClassInfo<Color>("What a lamp can shine in"));
 ///
-/// Scripts get the enumerators as objects, one for each; they make and delete none.
+/// Scripts get one object for each enumerator, and can neither create nor delete any.
 template <PublishedEnumeration E>
 class EnumerationClassInfo : public OrbisFactoryClassInfo {
     static_assert(!detail::isVelmaraImplemented<E>, "The class of this enumeration is written in the host language "
@@ -21,7 +21,7 @@ public:
     {
     }
 
-    /// Describes the enumerators. A derived class info may add members.
+    /// Adds the enumerators. A derived class info may add members.
     void initializeClass(COSClass* cls) override { publish(cls, detail::enumerationRecord<E>); }
     void* createInstanceData() override { return nullptr; }
     bool destroyInstanceData(COSInterface*, void*) override { return false; }

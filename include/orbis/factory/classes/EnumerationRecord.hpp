@@ -9,8 +9,7 @@
 
 namespace orbis::factory {
 
-/// A native enumeration as it is described, without its type. All texts live as long as the program (they are
-/// literals).
+/// The description of a native enumeration, without its type. All texts are literals.
 struct EnumerationRecord {
     struct Entry {
         char const* name;
@@ -19,11 +18,11 @@ struct EnumerationRecord {
 
     char const* hostName;           ///< the class's full dotted name
     std::span<Entry const> entries; ///< in the order of description
-    std::span<Entry const> byValue; ///< in ascending order of the values, else in the order of description
+    std::span<Entry const> byValue; ///< sorted by value; equal values in the order of description
 };
 
-/// Gives the host class, an enumeration, its enumerators. To be called by the class info's `initializeClass`. Errors of
-/// the host pass through.
+/// Adds the enumerators to the host class, which is an enumeration. Call it from the class info's `initializeClass`.
+/// Errors of the host propagate.
 ORBIS_FACTORY_API void publish(COSClass* cls, EnumerationRecord const& enumeration);
 
 } // namespace orbis::factory

@@ -9,8 +9,8 @@
 
 namespace orbis::factory {
 
-/// Publishes a class whose host objects stand for native objects of type `T`, bound by their address. With `N` 1
-/// the end of the host object deletes the native one; with 0 it lives on, and belongs to whoever made it.
+/// Class info of a handle class: host objects represent native objects of type `T`, bound by their address. With `N` 1,
+/// destroying the host object deletes the native one; with 0, whoever created the native object owns it.
 template <class T, int N>
 class HandleClassInfo : public OrbisFactoryClassInfo {
     static_assert(N == 0 || N == 1, "HandleClassInfo<T, N>: N is 1 to delete native objects with their host objects, "
@@ -24,11 +24,12 @@ class HandleClassInfo : public OrbisFactoryClassInfo {
 public:
     using OrbisFactoryClassInfo::OrbisFactoryClassInfo;
 
-    /// Null: the native object is bound later.
+    /// Returns null: the native object is bound later.
     void* createInstanceData() override { return nullptr; }
 
-    /// Forgets the binding of `data`, a native address, to `object` (null for any object); true when there was one.
-    /// Only then the native object is deleted, if it is this class info's to delete.
+    /// Removes the binding of `data`, a native address, to `object` (null: to any host object). Returns whether there
+    /// was one; only then, and only with `N` 1, is the native object deleted. One in which `object` holds a share is
+    /// not: its last shared pointer deletes it.
     bool destroyInstanceData(COSInterface* object, void* data) override
     {
         void* const forgotten = detail::forgetBinding(object, data);

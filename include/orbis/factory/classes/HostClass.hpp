@@ -6,7 +6,7 @@
 
 namespace orbis::factory {
 
-/// Tells under which name a native class is published. Specialise it for each, beside the native class:
+/// Gives the name under which a native class is published. Specialise it for each class, beside the class:
 ///
 ///     template <>
 ///     struct orbis::factory::HostClass<Adder> {
@@ -14,20 +14,20 @@ namespace orbis::factory {
 ///     };
 ///
 /// Optional members:
-///  - `using Root`: for the classes of a hierarchy, the topmost one, which must be polymorphic and names itself: all
-///    objects are bound as it. Classes derived from `full::Wrappable` are bound as that, and need no `Root`;
-///  - `using Policy`: how pointers to the class cross, when not as `MarshalingPolicy` says; `ValuePolicy` for a value
-///    class.
+///  - `using Root`: the topmost class of the class's hierarchy, as which all its objects are bound. It must be
+///    polymorphic and name itself. Classes derived from `full::Wrappable` are bound as that, and need no `Root`;
+///  - `using Policy`: how pointers to the class are marshaled, if not as `MarshalingPolicy` selects; `ValuePolicy` for
+///    a value class.
 template <class T>
 struct HostClass;
 
 class ValuePolicy;
 
-/// True for a class with a host name.
+/// Satisfied by classes with a host name.
 template <class T>
 concept PublishedClass = requires { HostClass<T>::name; };
 
-/// True for a class whose objects live inside their host objects and cross as copies.
+/// Satisfied by value classes: their objects live inside host objects and are marshaled as copies.
 template <class T>
 concept ValueClass = PublishedClass<T> && std::same_as<typename HostClass<T>::Policy, ValuePolicy>;
 

@@ -4,15 +4,15 @@
 
 namespace orbis::factory {
 
-/// One enumerator: the name that scripts know it by, and its native value.
+/// One enumerator: its name in scripts, and its native value.
 template <class E>
 struct Enumerator {
     char const* name;
     E value;
 };
 
-/// Tells under which name a native enumeration is published, and what its enumerators are called. Specialise it for
-/// each, beside the enumeration:
+/// Gives the name under which a native enumeration is published, and the names of its enumerators. Specialise it for
+/// each enumeration, beside the enumeration:
 ///
 ///     template <>
 ///     struct orbis::factory::HostEnumeration<Color> {
@@ -20,15 +20,15 @@ struct Enumerator {
 ///         static constexpr Enumerator<Color> enumerators[] = {{"Red", Color::Red}, {"Green", Color::Green}};
 ///     };
 ///
-/// A value that has two names is handed to scripts under the first.
+/// A value with two names reaches scripts under the first.
 ///
 /// Optional member: `static constexpr bool isVelmaraImplemented = true` for an enumeration whose host class is written
-/// in the host language. Its enumerators are found by their names; their numbers there mean nothing here. For any other
-/// enumeration a package publishes an `EnumerationClassInfo`.
+/// in the host language. Its enumerators are matched by name; their numbers in the host are ignored. Every other
+/// enumeration is published with an `EnumerationClassInfo`.
 template <class E>
 struct HostEnumeration;
 
-/// True for an enumeration with a host name and enumerators.
+/// Satisfied by enumerations with a host name and enumerators.
 template <class E>
 concept PublishedEnumeration = std::is_enum_v<E> && requires {
     HostEnumeration<E>::name;

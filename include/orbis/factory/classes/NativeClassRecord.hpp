@@ -7,12 +7,12 @@
 
 namespace orbis::factory {
 
-/// A published native class as it is described.
+/// The description of a published native class, without its type.
 struct NativeClassRecord {
     char const* hostName; ///< full dotted name; a literal
     std::type_info const* type;
 
-    /// True when the object bound at an address is of the class; null for a class whose objects are not bound as a
+    /// Returns whether the object bound at an address is of the class. Null when the class is not bound as a
     /// polymorphic one.
     bool (*isInstance)(void const* bound) = nullptr;
 };

@@ -9,7 +9,7 @@
 
 namespace orbis::factory {
 
-/// Publishes a value class: each host object has a native object of type `T` of its own. `U` is `T` itself.
+/// Class info of a value class: each host object owns a native object of type `T`. `U` is `T` itself.
 template <class T, class U = T>
 class NonHandleClassInfo : public OrbisFactoryClassInfo {
     static_assert(std::is_same_v<T, U>, "NonHandleClassInfo<T, U>: U is T itself.");
@@ -21,15 +21,15 @@ class NonHandleClassInfo : public OrbisFactoryClassInfo {
 public:
     using OrbisFactoryClassInfo::OrbisFactoryClassInfo;
 
-    /// A new native object, in the unconstructed set until it has taken its value.
+    /// Returns a new native object, which is in the unconstructed set until it receives its value.
     void* createInstanceData() override
     {
-        auto made = std::make_unique<T>();
-        CopyableSupport::addToUnconstructedSet(made.get());
-        return made.release();
+        auto created = std::make_unique<T>();
+        CopyableSupport::addToUnconstructedSet(created.get());
+        return created.release();
     }
 
-    /// Deletes the native object; true when there was one.
+    /// Deletes the native object. Returns whether there was one.
     bool destroyInstanceData(COSInterface*, void* data) override
     {
         std::unique_ptr<T> const owner(static_cast<T*>(data));

@@ -9,22 +9,22 @@
 
 namespace orbis::factory {
 
-/// Base of the class infos: holds the class's full dotted name and its one-line description.
+/// Base of the class infos: holds the class's full dotted name and its description.
 class ORBIS_FACTORY_API OrbisFactoryClassInfo : public COSClassInfo, public additions::NativeOwner {
 public:
-    /// Remembers for the current virtual machine, if there is one, that the class may be published: a pointer to a base
-    /// of it is looked for there, too.
+    /// Records in the current virtual machine, if there is one, that the class may be published: a native object of it
+    /// that is passed as a pointer to a base makes the library ask the host for the class.
     OrbisFactoryClassInfo(std::string const& name, std::string const& description);
     ~OrbisFactoryClassInfo() override;
 
     char const* getName() const override;
     char const* getDescription() const override;
 
-    /// What `getDescription` gives, also when a subclass overrides that.
+    /// Returns `getDescription()`, which a subclass may override.
     char const* getDetailedDescription() const override;
     bool slot10Flag() const override;
 
-    /// "native", unless a subclass says otherwise.
+    /// Returns "native" unless overridden.
     char const* nativeOwner() const override;
 
 private:

@@ -8,8 +8,8 @@
 
 namespace orbis::factory {
 
-/// Publishes a class whose native objects `std::shared_ptr` owns. A host object has a share in its native object
-/// until it ends.
+/// Class info of a class whose native objects `std::shared_ptr` owns. A host object holds a share in its native object
+/// until it is destroyed.
 template <class T>
 class StdShareableHandleClassInfo : public HandleClassInfo<T, 0> {
     static_assert(std::derived_from<T, full::StdShareable>,
@@ -19,7 +19,7 @@ class StdShareableHandleClassInfo : public HandleClassInfo<T, 0> {
 public:
     using HandleClassInfo<T, 0>::HandleClassInfo;
 
-    /// Forgets the binding and gives up what the host object held; true when there was a binding.
+    /// Removes the binding and releases what the host object holds. Returns whether there was a binding.
     bool destroyInstanceData(COSInterface* object, void* data) override
     {
         detail::releaseHostKeptStdShareable(object, data);

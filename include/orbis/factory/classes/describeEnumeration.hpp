@@ -31,9 +31,9 @@ consteval bool namesAreProper()
 template <class E>
 consteval bool valuesFit()
 {
-    constexpr std::uint64_t most = std::numeric_limits<std::int64_t>::max();
+    constexpr std::uint64_t maxValue = std::numeric_limits<std::int64_t>::max();
     for (Enumerator<E> const& enumerator : HostEnumeration<E>::enumerators)
-        if (std::is_unsigned_v<std::underlying_type_t<E>> && static_cast<std::uint64_t>(enumerator.value) > most)
+        if (std::is_unsigned_v<std::underlying_type_t<E>> && static_cast<std::uint64_t>(enumerator.value) > maxValue)
             return false;
     return true;
 }
@@ -51,7 +51,7 @@ consteval auto enumerationEntries()
     return entries;
 }
 
-/// Keeps the order of entries of one value.
+/// Stable: entries of equal value keep their order. (`std::stable_sort` is not constexpr.)
 template <class Entries>
 consteval Entries sortedByValue(Entries entries)
 {
@@ -67,7 +67,7 @@ inline constexpr auto enumerationEntriesOf = enumerationEntries<E>();
 template <class E>
 inline constexpr auto enumerationEntriesByValue = sortedByValue(enumerationEntriesOf<E>);
 
-/// The record of a native enumeration.
+/// The record of a native enumeration, made at compile time.
 template <PublishedEnumeration E>
 inline constexpr EnumerationRecord enumerationRecord{HostEnumeration<E>::name, enumerationEntriesOf<E>,
                                                      enumerationEntriesByValue<E>};

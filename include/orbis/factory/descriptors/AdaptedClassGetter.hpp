@@ -4,7 +4,7 @@
 
 namespace orbis::factory::impl {
 
-/// Reads through a free function `F` that takes a `T*` and gives an `R`, stored as a `V`.
+/// Reads through a free function `F` that takes a `T*` and returns an `R`, marshaled as a `V`.
 template <class R, class T, class F, class V>
 class AdaptedClassGetter final : public CallableGetter<AdaptedClassGetter<R, T, F, V>, R, V> {
 public:

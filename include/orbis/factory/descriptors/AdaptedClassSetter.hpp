@@ -5,7 +5,7 @@
 
 namespace orbis::factory::impl {
 
-/// Writes through a free function `F` that takes a `T*` and an `A`.
+/// Writes through a free function `F` that takes a `T*` and a value of type `A`.
 template <class A, class T, class F>
 class AdaptedClassSetter final : public Setter {
 public:

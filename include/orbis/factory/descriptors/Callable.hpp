@@ -6,7 +6,7 @@
 
 namespace orbis::factory::impl {
 
-/// A pointer to a function, to data or to a member of a class, without its type. Null when default-made.
+/// A type-erased pointer to a function, to data or to a member. Null when default-constructed.
 class Callable {
 public:
     Callable() = default;
@@ -19,7 +19,8 @@ public:
         std::memcpy(bytes_, &function, sizeof(F));
     }
 
-    /// The pointer; `F` must be the type it was made from, or a class that holds nothing but such a pointer.
+    /// Returns the pointer. `F` must be the type it was constructed from, or a class whose only member is such a
+    /// pointer.
     template <class F>
     F as() const
     {

@@ -9,8 +9,8 @@
 
 namespace orbis::factory::impl {
 
-/// What the getters have in common. `Derived` gives `read(object)`, the native value of the type `R`; `V` is the type
-/// it is stored as.
+/// Common base of the getters. `Derived` provides `read(object)`, which returns the native value as an `R`; `V` is the
+/// type as which it is marshaled.
 template <class Derived, class R, class V>
 class CallableGetter : public Getter {
 public:

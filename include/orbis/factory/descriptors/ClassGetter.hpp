@@ -6,7 +6,7 @@
 
 namespace orbis::factory::impl {
 
-/// Reads through a member `F` of `T`, a function or data, that gives an `R`, stored as a `V`.
+/// Reads through a member `F` of `T`, a function or data, that yields an `R`, marshaled as a `V`.
 template <class R, class T, class F, class V>
 class ClassGetter final : public CallableGetter<ClassGetter<R, T, F, V>, R, V> {
 public:

@@ -7,7 +7,7 @@
 
 namespace orbis::factory::impl {
 
-/// Writes through a member `F` of `T`: a function that takes an `A`, or data of that type.
+/// Writes through a member `F` of `T`: a function that takes an `A`, or data of type `A`.
 template <class A, class T, class F>
 class ClassSetter final : public Setter {
 public:

@@ -4,7 +4,7 @@
 
 namespace orbis::factory::impl {
 
-/// Reads through a function without an object that gives an `R`, stored as a `V`: a static or constant property.
+/// Reads a static or constant property through a function without parameters that returns an `R`, marshaled as a `V`.
 template <class R, class V>
 class ClasslessGetter final : public CallableGetter<ClasslessGetter<R, V>, R, V> {
 public:

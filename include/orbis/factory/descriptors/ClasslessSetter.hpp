@@ -5,7 +5,7 @@
 
 namespace orbis::factory::impl {
 
-/// Writes through a function `F` that takes an `A` and no object.
+/// Writes a static property through a function `F` that takes a value of type `A`.
 template <class A, class F>
 class ClasslessSetter final : public Setter {
 public:

@@ -4,7 +4,7 @@
 
 namespace orbis::factory::impl {
 
-/// Reads static data or a constant of the type `V`; the object is ignored.
+/// Reads static data or a constant of type `V`; ignores the object.
 template <class V>
 class DataGetter final : public CallableGetter<DataGetter<V>, V const&, V> {
 public:

@@ -5,7 +5,7 @@
 
 namespace orbis::factory::impl {
 
-/// Writes static data of the type `A`; the object is ignored.
+/// Writes static data of type `A`; ignores the object.
 template <class A>
 class DataSetter final : public Setter {
 public:

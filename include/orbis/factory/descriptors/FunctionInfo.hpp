@@ -4,8 +4,8 @@
 
 namespace orbis::factory {
 
-/// A function that stands on its own, such as a package function. It answers its name, its signature and `invoke`
-/// from the method it holds; every other question gets the host's default, whatever the attributes say.
+/// The descriptor of a function without a class, such as a package function. It takes its name, its signature and
+/// `invoke` from the method it holds; everything else is the host's default, whatever the attributes are.
 class ORBIS_FACTORY_API FunctionInfo : public COSMethodInfo {
 public:
     FunctionInfo(char const* name, MethodAttributes attributes);
@@ -16,7 +16,7 @@ public:
     void invoke(COSClient const* client, int& outputCount, COSValue* outputs, int inputCount,
                 COSValue const* inputs) const override;
 
-    /// The held method, to be bound before the function is handed to the host.
+    /// The held method, to be filled in before this descriptor is passed to the host.
     impl::MethodImpl& method();
 
 private:

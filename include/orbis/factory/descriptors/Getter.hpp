@@ -8,24 +8,24 @@
 
 namespace orbis::factory::impl {
 
-/// Reads one property of the native object behind a host object. Errors of the native code pass through.
+/// Reads one property of the native object behind a host object. Exceptions of native code propagate.
 class ORBIS_FACTORY_API Getter {
 public:
-    /// The value, which is given back with `releaseValue`. Throws "orbis_factory:orbis_factory:null_self" when there
-    /// is no native object and one is needed.
+    /// Returns the value, which the caller releases with `releaseValue`. Throws "orbis_factory:orbis_factory:null_self"
+    /// when a native object is needed and there is none.
     virtual COSValue getValue(COSInterface* object) const = 0;
 
-    /// The host data type of the value; null when it has none.
+    /// The name of the value's host data type; null when it has none.
     virtual char const* dataTypeName() const = 0;
     virtual ~Getter();
 
-    /// Hands a value back to the release routine of the property, if it has one.
+    /// Calls the property's release routine, if it has one, for a value that `getValue` returned.
     virtual void releaseValue(COSInterface* object, COSValue value) const = 0;
 
     /// The host objects that the current value refers to.
     virtual Enumeration<COSInterface*> getInterfaces(COSInterface* object) const = 0;
 
-    /// True when values of the property's type can refer to host objects.
+    /// Returns whether values of the property's type can refer to host objects.
     virtual bool canContainInterfaces() const = 0;
 };
 

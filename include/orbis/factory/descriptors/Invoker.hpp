@@ -11,10 +11,11 @@
 
 namespace orbis::factory::impl {
 
-/// What a method descriptor calls: a routine generated per function type, and the native callable it reads.
+/// The call target of a descriptor: a routine, generated once per function type, and the callable that the routine
+/// calls.
 class ORBIS_FACTORY_API Invoker {
 public:
-    /// The invoker itself, then the arguments of the descriptor's `invoke`.
+    /// Takes the invoker itself, then the arguments of the descriptor's `invoke`.
     using InvokeFn = void (*)(Invoker const* invoker, COSClient const* client, int& outputCount, COSValue* outputs,
                               int inputCount, COSValue const* inputs);
 
@@ -24,17 +25,18 @@ public:
     InvokeFn invokeFn = nullptr;
     Callable target;
     bool forcedMember = false;  ///< read by `validateSelfPointer`
-    std::int32_t reserved = -1; ///< read by nothing
+    std::int32_t reserved = -1; ///< unused; part of the fixed layout
 
 private:
     using T = char const*;
     using Signature = COSMethodSignaturePtr;
 
 public:
-    /// Makes the signature of a member with 0 to 20 inputs; does nothing when the last argument already holds one,
-    /// and leaves it empty when it throws. All texts are NUL-terminated names of host data types, but for `names`:
-    /// the inputs' names after the object, null for none (see `ParameterNamer`). `output` is "void" for no result.
-    /// `self`, unless null, adds a first input of that type named "this". Inputs 11 to 20 all get the eleventh name.
+    /// Creates the signature of a member with 0 to 20 inputs and stores it in the last argument. Does nothing if that
+    /// holds one already, and leaves it empty when it throws. All texts are NUL-terminated names of host data types,
+    /// except for `names`: the inputs' names, without the object's (see `ParameterNamer`); null for none. `output` is
+    /// "void" for no result. `self`, unless null, adds a first input of that type named "this". Inputs 11 to 20 all get
+    /// the eleventh name.
     static void createSignature(T names, T output, T self, Signature&);
     static void createSignature(T names, T output, T self, T, Signature&);
     static void createSignature(T names, T output, T self, T, T, Signature&);

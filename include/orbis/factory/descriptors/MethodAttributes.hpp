@@ -6,8 +6,8 @@
 
 namespace orbis::factory {
 
-/// The flags of a method or constructor: built from the named sets, joined with `+` or `|`, trimmed with `-`. The
-/// default is public, visible, locked, and none of the rest.
+/// The attributes of a method or constructor. Combine the named sets with `+` or `|`, and remove with `-`. By default a
+/// member is public, visible and locked, and all other attributes are off.
 class ORBIS_FACTORY_API MethodAttributes {
 public:
     static unsigned int const UNLOCKED = 0x1;
@@ -42,7 +42,7 @@ public:
     MethodAttributes operator+(MethodAttributes const& other) const;
     MethodAttributes operator|(MethodAttributes const& other) const;
 
-    /// Without the flags of `other`.
+    /// Returns this set without the attributes of `other`.
     MethodAttributes operator-(MethodAttributes const& other) const;
     MethodAttributes& operator+=(MethodAttributes const& other);
     MethodAttributes& operator|=(MethodAttributes const& other);
@@ -55,11 +55,11 @@ public:
     bool isStatic() const;
     bool isAbstract() const;
 
-    /// True exactly for `Indestructable()`: the host takes the flag as it is stored.
+    /// True exactly when `Indestructable()` is set, despite the names: the host expects the stored flag.
     bool isDestructible() const;
     bool forceMemberMethod() const;
 
-    /// Where several access flags are set, protected goes before private, and private before no access.
+    /// If several access attributes are set, protected takes precedence over private, and private over no access.
     MemberAccess getMemberAccess() const;
 
 private:

@@ -5,7 +5,7 @@
 
 namespace orbis::factory::impl {
 
-/// The descriptor of a method or package function: calls through its invoker.
+/// The descriptor of a method or package function; calls through its invoker.
 class ORBIS_FACTORY_API MethodImpl : public OrbisMethod {
 public:
     MethodImpl(char const* name, MethodAttributes attributes, char const* description);
@@ -14,7 +14,7 @@ public:
     void invoke(COSClient const* client, int& outputCount, COSValue* outputs, int inputCount,
                 COSValue const* inputs) const override;
 
-    /// To be filled before the descriptor is handed to the host.
+    /// To be filled in before the descriptor is passed to the host.
     Invoker& invoker();
 
 private:

@@ -9,11 +9,11 @@
 
 namespace orbis::factory {
 
-/// Answers the host's questions about a member from a name, a description, a signature and an attribute set.
-/// Read-only once it is handed to the host; the host owns and deletes it.
+/// Base of the descriptors of callable members: serves the host's queries from a name, a description, a signature and
+/// attributes. Immutable once it is passed to the host, which then owns it.
 class ORBIS_FACTORY_API OrbisMethod : public COSMethodInfo {
 public:
-    /// All three are copied; the signature starts empty.
+    /// Copies all three. The signature starts empty.
     OrbisMethod(String const& name, MethodAttributes attributes, String const& description);
     OrbisMethod(char const* name, MethodAttributes attributes, char const* description);
     ~OrbisMethod() override;
@@ -30,7 +30,7 @@ public:
     bool isLocked() const override;
     bool doesMethodOverrideAllSignatures() const override;
 
-    /// The place of the signature, to be filled once by `impl::Invoker::createSignature`.
+    /// The signature, to be set once by `impl::Invoker::createSignature`.
     COSMethodSignaturePtr& signature();
 
 private:

@@ -9,13 +9,13 @@
 
 namespace orbis::factory {
 
-/// Gives a signature's parameters their names, from a list of names separated by commas. Spaces do not count.
+/// Names a signature's parameters, from a comma-separated list. Spaces are ignored.
 class ORBIS_FACTORY_API ParameterNamer {
 public:
-    /// Null is no list.
+    /// Null means no names.
     ParameterNamer(char const* names);
 
-    /// An empty text is no list.
+    /// An empty string means no names.
     ParameterNamer(std::string const& names);
 
     ParameterNamer(ParameterNamer const&);
@@ -27,7 +27,7 @@ public:
     /// The name of input `i`, counted from 1: the listed one, else "p0" for the first, "p1" for the second, ...
     COSString getInputParameter(unsigned int i) const;
 
-    /// Always "result".
+    /// Returns "result".
     COSString getOutputParameter(unsigned int i) const;
 
 private:

@@ -6,8 +6,8 @@
 
 namespace orbis::factory {
 
-/// The flags of a property: built from the named sets, joined with `+` or `|`, trimmed with `-`. The default is
-/// visible, public for reading and writing, and none of the rest.
+/// The attributes of a property. Combine the named sets with `+` or `|`, and remove with `-`. By default a property is
+/// visible and public for reading and writing, and all other attributes are off.
 class ORBIS_FACTORY_API PropertyAttributes {
 public:
     static unsigned int const SEALED = 0x1;
@@ -68,7 +68,7 @@ public:
     PropertyAttributes operator+(PropertyAttributes const& other) const;
     PropertyAttributes operator|(PropertyAttributes const& other) const;
 
-    /// Without the flags of `other`.
+    /// Returns this set without the attributes of `other`.
     PropertyAttributes operator-(PropertyAttributes const& other) const;
     PropertyAttributes& operator+=(PropertyAttributes const& other);
     PropertyAttributes& operator|=(PropertyAttributes const& other);
@@ -93,7 +93,8 @@ public:
     bool canContainInterfaces();
     bool forceMemberProperty() const;
 
-    /// Where several access flags of one side are set, protected goes before private, private before no access.
+    /// If several access attributes of one side are set, protected takes precedence over private, and private over no
+    /// access.
     MemberAccess getMemberGetAccess() const;
     MemberAccess getMemberSetAccess() const;
 

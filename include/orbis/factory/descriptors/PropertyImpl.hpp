@@ -6,17 +6,15 @@
 
 namespace orbis::factory::impl {
 
-/// The descriptor of a property: reads through its getter and writes through its setter. It owns neither; they
-/// outlive it, and copies share them. A missing side has no access, and its use throws
+/// The descriptor of a property: reads through its getter and writes through its setter. It owns neither: they must
+/// outlive it, and copies share them. A missing side reports no access, and using it throws
 /// "orbis_factory:orbis_factory:null_fcn_ptr".
 class ORBIS_FACTORY_API PropertyImpl : public PropertyImplBase {
 public:
     PropertyImpl(String const& name, Getter* getter, Setter* setter, PropertyAttributes attributes);
 
-    /// Read-only.
     PropertyImpl(String const& name, Getter* getter, PropertyAttributes attributes);
 
-    /// Write-only.
     PropertyImpl(String const& name, Setter* setter, PropertyAttributes attributes);
     PropertyImpl(PropertyImpl const&);
     PropertyImpl(PropertyImpl&&);
@@ -29,13 +27,13 @@ public:
     MemberAccess getMemberGetAccess() const override;
     MemberAccess getMemberSetAccess() const override;
 
-    /// True also for a property with one side only, whatever its attributes say.
+    /// True for a property with only one side, whatever its attributes are.
     bool isTransient() const override;
     COSValue getValue(COSInterface* object) const override;
     void setValue(COSInterface* object, COSValue value) const override;
     void releaseValue(COSInterface* object, COSValue value) const override;
 
-    /// True when there is no getter to ask.
+    /// Conservatively true if there is no getter to ask.
     bool canContainInterfaces() const override;
     Enumeration<COSInterface*> getInterfaces(COSClient const* client, COSInterface* object) const override;
 

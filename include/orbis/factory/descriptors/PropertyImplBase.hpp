@@ -8,7 +8,7 @@
 
 namespace orbis::factory::impl {
 
-/// Answers the host's questions about a property from a name, a description and an attribute set.
+/// Base of the descriptors of properties: serves the host's queries from a name, a description and attributes.
 class ORBIS_FACTORY_API PropertyImplBase : public COSPropInfo {
 public:
     PropertyImplBase(String const& name, String const& description, PropertyAttributes attributes);
@@ -19,7 +19,7 @@ public:
     char const* getName() const override;
     char const* getDescription() const override;
 
-    /// What `getDescription` gives, also when a subclass overrides that.
+    /// Returns `getDescription()`, which a subclass may override.
     char const* getDetailedDescription() const override;
 
     /// Always empty.

@@ -5,7 +5,7 @@
 
 namespace orbis::factory::impl {
 
-/// Takes back a value that a getter gave for an object.
+/// Releases a value that a getter returned for an object.
 using ReleaseRoutine = void (*)(COSInterface* object, COSValue value);
 
 } // namespace orbis::factory::impl

@@ -7,13 +7,14 @@
 
 namespace orbis::factory::impl {
 
-/// Writes one property of the native object behind a host object. Errors of the native code pass through.
+/// Writes one property of the native object behind a host object. Exceptions of native code propagate.
 class ORBIS_FACTORY_API Setter {
 public:
-    /// `value` stays the caller's. Throws "orbis_factory:orbis_factory:null_self" when there is no native object.
+    /// The caller keeps `value`. Throws "orbis_factory:orbis_factory:null_self" when a native object is needed and
+    /// there is none.
     virtual void setValue(COSInterface* object, COSValue value) const = 0;
 
-    /// The host data type of the value; null when it has none.
+    /// The name of the value's host data type; null when it has none.
     virtual char const* dataTypeName() const = 0;
     virtual ~Setter();
 };

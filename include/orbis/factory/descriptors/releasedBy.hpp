@@ -2,19 +2,19 @@
 
 namespace orbis::factory {
 
-/// A getter and what is to be called when the host has done with a value that it gave.
+/// A getter and the routine that releases its values.
 template <auto Routine, class G>
 struct ReleasedGetter {
     G getter;
 };
 
-/// Says in a description what a getter's values need when they are given back:
+/// Attaches a release routine to a getter in a description:
 ///
 ///     .property("pixels", releasedBy<&Image::unlock>(&Image::lock))
 ///
-/// The routine is called once for each value read, after the host has taken it over: a member function without
-/// parameters, a free function or captureless lambda that takes a pointer to the class, or nothing, or the host object
-/// and the value (`impl::ReleaseRoutine`). What it throws is lost.
+/// The routine is called once for each value read, when the host has finished with it. It is a member function without
+/// parameters, or a free function or captureless lambda that takes a pointer to the class, or nothing, or the host
+/// object and the value (`impl::ReleaseRoutine`). Exceptions that it throws are dropped.
 template <auto Routine, class G>
 constexpr ReleasedGetter<Routine, G> releasedBy(G getter)
 {

@@ -12,7 +12,7 @@
 
 namespace orbis::factory::detail {
 
-/// Marshalers of native scalars work on the value slot itself, all others on the array in it.
+/// Satisfied by types whose marshaler works on the value slot itself; all others work on the array in it.
 template <class T>
 concept TravelsInSlot = requires(COSValue const& slot) { MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(slot); };
 
@@ -25,14 +25,14 @@ template <class T>
         return MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(slot.array());
 }
 
-/// The native value of one input of type `T` for the length of a call. What the conversion allocated goes with it.
+/// The native value of one input of type `T`. Owns what the conversion allocated, for the length of a call.
 template <class T>
 class Argument {
 public:
     explicit Argument(COSValue const& slot) : held_(convertFromHost<T>(slot)) {}
 
-    /// What the native function is given: `T` itself, moved out of here unless `T` is an lvalue reference, or what
-    /// the holder's `value` is.
+    /// Returns the argument of the native function: the held value, as an rvalue unless `T` is an lvalue reference; for
+    /// a holder, what its `value()` returns.
     decltype(auto) get()
     {
         if constexpr (!isHolder)
@@ -46,7 +46,7 @@ public:
 private:
     using Held = decltype(convertFromHost<T>(std::declval<COSValue const&>()));
 
-    // A native type may have a `value` of its own.
+    // Native types with a `value` member of their own are no holders.
     static constexpr bool isHolder =
         requires(Held& held) { held.value(); } && !std::is_same_v<Held, std::remove_cvref_t<T>>;
 
@@ -99,7 +99,7 @@ private:
 template <class... T>
 using ArgumentsOf = Arguments<std::index_sequence_for<T...>, T...>;
 
-/// True for a result that hands the host an array that need not be a new one.
+/// Returns whether a result can pass an array to the host that native code did not create for it.
 template <class Result>
 consteval bool passesForeignArray()
 {
@@ -110,8 +110,8 @@ consteval bool passesForeignArray()
         return false;
 }
 
-/// Calls `function` and stores what it gives, if anything, as the one output. The array of a result that is a reference
-/// stays the native side's: the host gets a reference more.
+/// Calls `function` and stores its result, if any, as the one output. If the result is a reference, native code keeps
+/// its array, and the host gets a reference to it.
 template <class Result, class F>
 void storeResult(int& outputCount, COSValue* outputs, F&& function)
 {

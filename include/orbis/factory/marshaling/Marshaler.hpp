@@ -2,21 +2,21 @@
 
 namespace orbis::factory {
 
-/// Carries values of one kind of native type to and from the host. The policy, an empty tag, names the kind. There
-/// is no state; all operations are static:
+/// Converts values of one kind of native type to and from the host. The policy, an empty tag type, names the kind.
+/// Marshalers are stateless, and all their operations are static:
 ///
-///  - `toHost<T>(value, out)` stores a new host value, which is the caller's: an array (`hvArray** out`), or, where the
-///    data type is that of a numeric or logical scalar, the scalar itself (`COSValue* out`);
-///  - `fromHost<T>(in)` gives a native value from an `hvArray*` or a `COSValue const&`, or a holder of one, whose
-///    `value()` is used, and which lives for the call; `in` stays the host's;
-///  - `dataTypeText<T>()` is the name of the host data type that signatures record, a text that lives on;
-///  - `dataTypeName<T>()` is the same as a `COSNameID`; only policies of objects need it;
-///  - `isView<T>()`, `consteval`, is true when native values refer to memory that is not theirs, which for an argument
-///    is gone after the call; false when it is left out. Views are no writable data members and no default values;
-///  - `refusesNull<T>()`, `consteval`, is true when `fromHost` throws with `detail::throwNullInput`; false when it is
-///    left out.
+///  - `toHost<T>(value, out)` stores a new host value, owned by the caller: an array (`hvArray** out`) or, if
+///    `fromHost` takes a value slot, a value (`COSValue* out`);
+///  - `fromHost<T>(in)` converts from an `hvArray*` or, for values that need not be arrays, a `COSValue const&`. It
+///    returns a native value, or a holder that lives for the call and returns it from `value()`. The host keeps `in`;
+///  - `dataTypeText<T>()` returns the name of the host data type for signatures, a text with static lifetime;
+///  - `dataTypeName<T>()` returns the same as a `COSNameID`; needed only by policies of objects;
+///  - `isView<T>()`, `consteval`, is true if native values refer to memory that they do not own and that, for an
+///    argument, is freed after the call. Views can be neither writable data members nor default values. Defaults to
+///    false;
+///  - `refusesNull<T>()`, `consteval`, is true if `fromHost` throws with `detail::throwNullInput`. Defaults to false.
 ///
-/// To carry a type of your own, specialise this for a policy of your own, and `MarshalingPolicy` for the type.
+/// To marshal a type of your own, specialise this for a policy of your own, and `MarshalingPolicy` for the type.
 template <class Policy>
 class Marshaler;
 

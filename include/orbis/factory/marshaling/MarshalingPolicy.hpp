@@ -12,8 +12,8 @@
 
 namespace orbis::factory {
 
-/// Picks the policy (`Type`) that carries a native type. Specialise it for a type of your own; headers of further
-/// policies do so for theirs.
+/// Selects the policy (`Type`) that marshals a native type. Specialise it for types of your own; the headers of
+/// optional policies do so for theirs.
 template <class T>
 struct MarshalingPolicy;
 
@@ -24,7 +24,7 @@ struct MarshalingPolicy<T> {
 
 namespace detail {
 
-/// What `HostClass` names; else by what objects are bound as.
+/// The policy that `HostClass` names, else the one that suits the class as which the objects are bound.
 template <PublishedClass T>
 consteval auto objectPolicy()
 {
@@ -47,7 +47,7 @@ struct MarshalingPolicy<T*> {
 
 namespace detail {
 
-/// A type without its references and qualifiers, those of a pointed-to class included.
+/// A type without references and qualifiers, including those of a pointed-to class.
 template <class T>
 struct NativeType {
     using Type = std::remove_cvref_t<T>;
@@ -59,7 +59,7 @@ struct NativeType<T> {
     using Type = std::remove_cv_t<std::remove_pointer_t<std::remove_cvref_t<T>>>*;
 };
 
-/// What the operations of a marshaler are given for a type: for pointers to objects the class, else the type.
+/// The template argument of a marshaler's operations: for pointers to objects the class, else the type.
 template <class T>
 struct MarshaledType {
     using Type = T;
@@ -73,11 +73,11 @@ struct MarshaledType<T*> {
 template <class T>
 concept HasPolicy = requires { typename MarshalingPolicy<typename NativeType<T>::Type>::Type; };
 
-/// A reference through which a native function would hand something back cannot cross.
+/// References to non-const: outputs, which cannot be marshaled.
 template <class T>
 concept IsOutput = std::is_lvalue_reference_v<T> && !std::is_const_v<std::remove_reference_t<T>>;
 
-/// True when values of the type can cross; stops compilation with a sentence when they cannot.
+/// Returns whether values of the type can be marshaled; stops compilation with a sentence otherwise.
 template <class T>
 consteval bool isMarshalable()
 {
@@ -103,7 +103,7 @@ using MarshalerOf = Marshaler<typename MarshalingPolicy<typename NativeType<T>::
 template <class T>
 using MarshaledTypeOf = typename MarshaledType<typename NativeType<T>::Type>::Type;
 
-/// True for a type whose values refer to memory that is not theirs, as its policy says.
+/// Returns whether values of the type refer to memory that they do not own, according to its policy.
 template <HasPolicy T>
 consteval bool isView()
 {
@@ -113,7 +113,7 @@ consteval bool isView()
         return false;
 }
 
-/// True for a type whose values cannot be no object, as its policy says.
+/// Returns whether marshaling rejects null for the type, according to its policy.
 template <HasPolicy T>
 consteval bool refusesNull()
 {
@@ -123,7 +123,7 @@ consteval bool refusesNull()
         return false;
 }
 
-/// The text of the data type that a signature records for a native type.
+/// Returns the name of the host data type that a signature records for a native type.
 template <class T>
 char const* dataTypeText()
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/base/export.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/marshaling/Marshaler.hpp"
 
 #include "orbis/COSNameID.hpp"
@@ -8,11 +9,11 @@
 
 namespace orbis::factory {
 
-/// `bool`, `float`, `double` and integers: they travel in the value slot itself, and the host converts.
+/// `bool`, `float`, `double` and integers: stored in the value slot itself. The host converts them.
 class PrimitivePolicy {};
 
 template <>
-class ORBIS_FACTORY_API Marshaler<PrimitivePolicy> {
+class ORBIS_FACTORY_API Marshaler<PrimitivePolicy> : public detail::DataTypeName<Marshaler<PrimitivePolicy>> {
 public:
     Marshaler& operator=(Marshaler const&);
     Marshaler& operator=(Marshaler&&);
@@ -27,12 +28,6 @@ public:
     static T fromHost(COSValue const& in)
     {
         return in.scalar<T>();
-    }
-
-    template <COSScalar T>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<T>());
     }
 
     template <COSScalar T>

@@ -7,7 +7,7 @@
 
 namespace orbis::factory::detail {
 
-/// The native object behind `object`; throws the `null_self` error when there is none.
+/// Returns the native object behind `object`; throws the `null_self` error when there is none.
 template <class T>
 [[gnu::always_inline]] inline T& nativeSelf(COSInterface const* object)
 {
@@ -17,7 +17,7 @@ template <class T>
     return *self;
 }
 
-/// What `function` gives, as a value of the type `V`.
+/// Calls `function` and returns its result as a value of type `V`, owned by the caller.
 template <class V, class F>
 [[gnu::always_inline]] inline COSValue toValue(F&& function)
 {

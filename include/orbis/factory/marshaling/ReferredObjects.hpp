@@ -8,13 +8,13 @@
 
 namespace orbis::factory::detail {
 
-/// The host objects that values of a native type refer to. Policies of such types specialise it.
+/// The host objects to which values of a native type refer. Policies of such types specialise it.
 template <class V>
 struct ReferredObjects {
     static constexpr bool any = false;
 };
 
-/// The address under which the object of a raw or shared pointer is bound; null for null.
+/// Returns the address under which the object of a raw or shared pointer is bound; null for null.
 template <class Pointer>
 void const* boundAddressOf(Pointer const& pointer)
 {
@@ -22,7 +22,7 @@ void const* boundAddressOf(Pointer const& pointer)
     return pointer ? MarshalerOf<T*>::boundAddress(const_cast<T*>(std::to_address(pointer))) : nullptr;
 }
 
-/// A pointer refers to one.
+/// Specialisation base for pointers, which refer to one object.
 template <class Pointer>
 struct ReferredObject {
     static constexpr bool any = true;

@@ -6,8 +6,8 @@
 
 namespace orbis::factory {
 
-/// Pointers to a published class whose objects are bound as a base class (`HostClass<T>::Root`) and are known to be
-/// of this one.
+/// Pointers to a published class whose objects are bound as a base class (`HostClass<T>::Root`) and are known to be of
+/// this class: no dynamic cast is needed.
 class StaticCastPolicy {};
 
 template <>

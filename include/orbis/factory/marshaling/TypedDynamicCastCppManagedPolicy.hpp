@@ -7,7 +7,8 @@
 
 namespace orbis::factory {
 
-/// Pointers to classes derived from `Base`, as which their objects are bound; an object of another class gives null.
+/// Pointers to classes derived from `Base`, as which their objects are bound. An object of another class converts to
+/// null.
 template <class Base>
 class TypedDynamicCastCppManagedPolicy {};
 

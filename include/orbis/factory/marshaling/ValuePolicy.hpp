@@ -12,7 +12,7 @@ namespace orbis::factory {
 
 namespace detail {
 
-/// A native object that lives inside its host object.
+/// The "cast" of value classes, whose native objects live inside their host objects and are not bound.
 struct InstanceData {
     static constexpr bool isHandle = false;
     static constexpr bool isHeterogeneous = false;
@@ -29,7 +29,7 @@ struct InstanceData {
         return object;
     }
 
-    /// A new host object with a copy of the value; 0-by-0 for null.
+    /// Returns an array with a new host object that holds a copy of the value; 0-by-0 for null.
     template <class T>
     static hvArray* announce(T const* value)
     {
@@ -47,14 +47,14 @@ struct InstanceData {
 
 } // namespace detail
 
-/// Value classes: named as `Policy` in their `HostClass`. Pointers lead to the native object inside the host object;
-/// results become new host objects with copies.
+/// Pointers to value classes, which name it as `Policy` in their `HostClass`. An argument points to the native object
+/// inside the host object; a result becomes a new host object with a copy.
 class ValuePolicy {};
 
 template <>
 class Marshaler<ValuePolicy> : public detail::ObjectPointerMarshaler<detail::InstanceData> {
 public:
-    /// The object lives and ends with its host object, which knows of no pointers to it.
+    /// The object is destroyed with its host object, regardless of pointers to it.
     template <ValueClass T>
     static consteval bool isView()
     {
@@ -62,8 +62,8 @@ public:
     }
 };
 
-/// The same for the values themselves and references to them. Where the host gives no object, the `null_input` error is
-/// thrown.
+/// The same for value classes themselves and references to them. Throws the `null_input` error when the host passes no
+/// object.
 class ValueObjectPolicy {};
 
 template <>

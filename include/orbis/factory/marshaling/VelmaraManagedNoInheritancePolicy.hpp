@@ -6,7 +6,7 @@
 
 namespace orbis::factory {
 
-/// Pointers to a published class that has no published subclasses. The object is bound as its own class.
+/// Pointers to a published class without published subclasses. Objects are bound as their own class.
 class VelmaraManagedNoInheritancePolicy {};
 
 template <>

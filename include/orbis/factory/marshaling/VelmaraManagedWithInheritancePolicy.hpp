@@ -6,8 +6,8 @@
 
 namespace orbis::factory {
 
-/// Pointers to a published class that has published subclasses. Objects are bound as the root class of the hierarchy
-/// (`HostClass<T>::Root`), which must be polymorphic; an object of another class of it gives null.
+/// Pointers to a published class with published subclasses. Objects are bound as the root class of the hierarchy
+/// (`HostClass<T>::Root`), which must be polymorphic. An object of another class of the hierarchy converts to null.
 class VelmaraManagedWithInheritancePolicy {};
 
 template <>

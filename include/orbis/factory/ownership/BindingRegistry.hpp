@@ -9,50 +9,52 @@
 
 namespace orbis::factory::basic {
 
-/// Ties native addresses to the host objects that stand for them, one table per host virtual machine. The same
-/// address always reaches the host as the same host object, until it is released or retracted.
+/// Maps native addresses to the host objects that represent them, one table per virtual machine. An address always
+/// reaches the host as the same host object, until its binding is released or retracted.
 ///
-/// Errors of the host pass through and leave the table as it was. Threading: on the thread of the virtual machine.
+/// Errors of the host propagate and leave the table unchanged. Threading: on the thread of the virtual machine.
 class ORBIS_FACTORY_API BindingRegistry {
 public:
     BindingRegistry& operator=(BindingRegistry const&);
     BindingRegistry& operator=(BindingRegistry&&);
 
-    /// A new 1-by-1 array of `className` with the host object bound to `object`; the object is made and bound when
-    /// there is none (`created` tells). A null `object` gives an empty 0-by-0 array. The caller owns the array.
-    /// Throws "orbis_factory:orbis_factory:no_such_class" when a new object's class is not published.
+    /// Returns a new 1-by-1 array of `className`, owned by the caller, with the host object bound to `object`. If there
+    /// is none, one is created and bound, and `created` set to true. For a null `object` the array is 0-by-0. Throws
+    /// "orbis_factory:orbis_factory:no_such_class" when the class of a new object is not published.
     static hvArray* announce(void* object, COSNameID const& className);
     static hvArray* announce(void* object, COSNameID const& className, bool& created);
     static hvArray* announce(void const* object, COSNameID const& className);
     static hvArray* announce(void const* object, COSNameID const& className, bool& created);
 
-    /// The same for callers that need the host object itself; an empty handle for a null `object`.
+    /// The same, but returns the host object itself; an empty handle for a null `object`.
     static COSInterfacePtr announceInternal(void* object, COSNameID const& className, bool& created);
 
-    /// Binds `object` (null allowed) to the host object under construction, element 0 of `constructed`. With
-    /// `store` the binding is remembered, as handle classes need it; values have no identity to remember.
+    /// Records `object` (null allowed) in the host object under construction, element 0 of `constructed`. With `store`
+    /// the binding is added to the table, as for handle classes; the objects of value classes have no identity to look
+    /// up.
     static void announceForConstructor(void* const object, COSNameID const& className, hvArray* constructed,
                                        bool store);
 
-    /// A new 1-by-1 array with a new host object, whose own native object `copy` fills from `source`. Remembers
-    /// no binding. The caller owns the array.
+    /// Returns a new 1-by-1 array, owned by the caller, with a new host object into whose own native object `copy`
+    /// copies `source`. Adds no binding.
     static hvArray* announceWithoutStoring(void* source, COSNameID const& className,
                                            void (*copy)(void* destination, void* source));
 
     static bool contains(void const* const object);
 
-    /// The bound host object, or null. No reference comes with it: who keeps it takes one.
+    /// Returns the bound host object, or null. The caller gets no reference, and must add one to keep it.
     static COSInterface* find(void const* const object);
 
-    /// Binds `host` to `newObject` and takes the binding of `oldObject` over when that is bound to the same host
-    /// object. A binding of `oldObject` to another host object stays. An address that is bound keeps its entry.
+    /// Makes `host` represent `newObject` instead: binds `newObject` to it, unless that is bound already, removes the
+    /// binding of `oldObject` if that is to `host`, and releases the share that `host` holds in its previous object. A
+    /// binding of `oldObject` to another host object stays.
     static void hijack(void const* const oldObject, void* newObject, COSInterface* host, COSNameID const& className);
 
-    /// Forgets a binding; the host object is told nothing. False when there was none.
+    /// Removes a binding without notifying the host object. Returns false when there was none.
     static bool release(void const* const object);
 
-    /// Forgets a binding and makes its host object invalid: the native object is going away. False when there was
-    /// none, and without touching anything when no virtual machine is current.
+    /// Removes a binding and makes its host object invalid, because the native object is about to be destroyed. Returns
+    /// false when there was no binding, and does nothing when no virtual machine is current.
     static bool retract(void const* const object);
 
 private:
@@ -63,26 +65,26 @@ private:
 
 namespace orbis::factory::full {
 
-/// The bindings of `Wrappable` objects: the operations of `basic::BindingRegistry` by the address of that base. Null
-/// is no object everywhere.
+/// Bindings of `Wrappable` objects: the operations of `basic::BindingRegistry`, by the address of that base. All accept
+/// null, for which they do nothing.
 class ORBIS_FACTORY_API BindingRegistry {
 public:
     BindingRegistry& operator=(BindingRegistry const&);
     BindingRegistry& operator=(BindingRegistry&&);
 
-    /// A new array with the host object of `object`, which is made when there is none; the caller's.
+    /// Returns a new array, owned by the caller, with the host object of `object`, which is created if there is none.
     static hvArray* announce(Wrappable* object, COSNameID const& className);
 
-    /// Binds `object` to the host object under construction, element 0 of `constructed`, and remembers it.
+    /// Binds `object` to the host object under construction, element 0 of `constructed`.
     static void announceForConstructor(Wrappable* object, COSNameID const& className, hvArray* constructed);
 
-    /// The bound host object, without a reference, or null.
+    /// Returns the bound host object, without a reference, or null.
     static COSInterface* find(Wrappable* object);
 
-    /// Forgets a binding; the host object is told nothing. False when there was none.
+    /// Removes a binding without notifying the host object. Returns false when there was none.
     static bool release(Wrappable* object);
 
-    /// Forgets a binding and makes its host object invalid. False when there was none.
+    /// Removes a binding and makes its host object invalid. Returns false when there was none.
     static bool retract(Wrappable* object);
 };
 

@@ -2,15 +2,15 @@
 
 #include "orbis/factory/base/export.hpp"
 
-/// The native objects of the current virtual machine that are made but not yet bound. Code that copies or assigns
-/// objects can ask whether an address is still in that state. A null address is one like any other.
-/// Threading: on the thread of the virtual machine.
+/// The unconstructed set: native objects of the current virtual machine that have been created but not yet bound or, in
+/// value classes, not yet given their value. Code that copies or assigns objects can query it. Null is treated like any
+/// other address. Threading: on the thread of the virtual machine.
 namespace orbis::factory::CopyableSupport {
 
 ORBIS_FACTORY_API void addToUnconstructedSet(void const* object);
 ORBIS_FACTORY_API bool isInUnconstructedSet(void const* object);
 
-/// Does nothing when the address is not in the set.
+/// Does nothing if the address is not in the set.
 ORBIS_FACTORY_API void removeFromUnconstructedSet(void const* object);
 
 } // namespace orbis::factory::CopyableSupport

@@ -15,8 +15,8 @@ namespace orbis::factory::basic {
 struct BindingHistory;
 struct HostDependents;
 
-/// The binding table of one host virtual machine: native address to an entry that the table owns. Whoever erases
-/// a mapping destroys its entry.
+/// The binding table of one virtual machine: maps native addresses to entries, which the table owns. Code that erases a
+/// mapping by itself must destroy its entry.
 struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     FooRegistry();
     FooRegistry(FooRegistry const&) = delete;
@@ -25,34 +25,36 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
 
     bool isBoundTo(void const* object, COSInterface const* host) const noexcept;
 
-    /// Adds a new entry, unless there is one for `object`; false when that is one to another host object. `host` is
-    /// held by someone else. Throws `std::bad_alloc`.
+    /// Adds an entry for `object`, unless it has one. Returns false if that is to another host object. The caller must
+    /// hold `host`. Throws `std::bad_alloc`.
     bool bind(void* object, COSInterface* host, COSNameID const& className);
 
-    /// The same before `object` takes the place of `previous` (null allowed) as what `host` records: should that stay
-    /// bound, too, it is so until `host` is destroyed. Throws `std::bad_alloc`.
+    /// The same (no entry for a null `object`), before `object` replaces `previous` (null allowed) as what `host`
+    /// records. A binding of `previous` to `host` becomes superseded: it is removed when `host` becomes invalid or is
+    /// destroyed. Throws `std::bad_alloc`.
     bool bindInPlaceOf(void const* previous, void* object, COSInterface* host, COSNameID const& className);
 
-    /// Has `host` record `object` (null allowed), which was just bound to it if at all: not any more when that fails.
+    /// Makes `host` record `object` (null allowed). On failure removes the binding that was just added for it, and
+    /// rethrows.
     void record(COSInterface* host, COSNameID const& className, void* object);
 
-    /// Erases the mapping of `object`, where it is one to `host` (null for any host object), destroys its entry and
-    /// releases what handles hold by it. True when there was one.
+    /// Removes the binding of `object` to `host` (null: to any host object), and releases the references that handles
+    /// hold for it. Returns whether there was one.
     bool unbind(void const* object, COSInterface const* host) noexcept;
 
-    /// Likewise, but handles keep what they hold.
+    /// The same, but handles keep their references: for a host object that becomes invalid, which releases all of them.
     bool erase(void const* object, COSInterface const* host) noexcept;
 
-    /// `dependents`, created on first use. Throws `std::bad_alloc`.
+    /// Returns `dependents`, created on first use. Throws `std::bad_alloc`.
     HostDependents& requireDependents();
 
-    /// What else depends on host objects; null until something does.
+    /// Other data that depends on host objects; null until there is any.
     std::unique_ptr<HostDependents> dependents;
 
     /// Null unless the virtual machine reports leaks.
     BindingHistory* history() const noexcept;
 
-    /// Whether the unconstructed set has something in it, for constructors, which look at this table anyway.
+    /// Whether the unconstructed set is non-empty; a copy for constructors, which access this table anyway.
     bool isAnyUnconstructed = false;
 
 private:
@@ -72,16 +74,17 @@ private:
     void putBack(node_type mapping) noexcept;
     void unbindUnrecorded(COSInterface const* host, COSNameID const& className, void const* object);
 
-    /// The mapping erased last, entry and all: objects that come and go one after the other take no memory.
+    /// The mapping erased last, with its entry, for reuse: creating and destroying one object at a time allocates
+    /// nothing.
     node_type spare_;
     Observer observer_;
 };
 
-/// The table of the current virtual machine, made on first use. Throws the host's error when none is current.
-/// Threading: on the thread of the virtual machine.
+/// Returns the table of the current virtual machine, created on first use. Throws the host's error when none is
+/// current. Threading: on the thread of the virtual machine.
 ORBIS_FACTORY_API FooRegistry& registry();
 
-/// Prints the current virtual machine's table to the host's console, with a star at the row of `marked`.
+/// Prints the current virtual machine's table to the host's console, with a star beside the row of `marked`.
 ORBIS_FACTORY_API void dumpRegistry(COSInterface const* marked);
 
 } // namespace orbis::factory::basic

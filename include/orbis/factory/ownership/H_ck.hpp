@@ -6,18 +6,18 @@
 
 namespace orbis::factory {
 
-/// Base of the handles with which a native object keeps the host object of another native object alive. A handle
-/// holds the native pointer only; the host object is looked up.
+/// Base of the handles by which a native object keeps the host object of another one alive. A handle stores only the
+/// native pointer; the host object is looked up.
 class ORBIS_FACTORY_API H_ck {
 public:
     H_ck& operator=(H_ck const&);
     H_ck& operator=(H_ck&&);
 
 protected:
-    /// One external reference more on `host`, held strongly. Null is allowed.
+    /// Adds an external reference to `host` and makes it strong. Null is allowed.
     static void incrementRefCount(COSInterface* host);
 
-    /// One reference less. Null is allowed.
+    /// Removes an external reference. Null is allowed.
     static void decrementRefCount(COSInterface* host);
 };
 

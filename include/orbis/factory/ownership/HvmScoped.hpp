@@ -8,9 +8,9 @@
 
 namespace orbis::factory::basic {
 
-/// The one `T` of the current virtual machine, made on first use and deleted when that ends, after its host objects.
-/// What would be global belongs here, such as what owns native objects that scripts use. Modules cannot count on
-/// sharing it: each may have one of its own. Threading: on the thread of the virtual machine.
+/// The one `T` of the current virtual machine, created on first use and deleted with that machine, after its host
+/// objects. Use it for what would otherwise be global, such as owners of native objects that scripts use. Do not share
+/// it across modules: each may have its own. Threading: on the thread of the virtual machine.
 template <class T>
 class HvmScoped {
     using Storage = foundation::usm::Detail<foundation::usm::scope::Hvm>;
@@ -24,7 +24,7 @@ public:
         return make();
     }
 
-    /// The same, but null when it was not made yet or no virtual machine is current.
+    /// The same, but returns null when it has not been created or no virtual machine is current.
     static T* find()
     {
         auto* const stored = Storage::find(id_, typeid(T));
@@ -38,7 +38,7 @@ private:
         return *static_cast<T*>(Storage::findOrInsert(id_, typeid(T), std::move(holder)).get());
     }
 
-    /// Given once in a process, as the library is loaded.
+    /// Assigned once per process, when the module is loaded.
     inline static std::uint64_t const id_ = Storage::getNextID(typeid(T));
 };
 

@@ -10,10 +10,10 @@
 
 namespace orbis::factory {
 
-/// An enumeration of one host object, or of none. It holds no reference on the object.
+/// An enumeration of at most one host object. Holds no reference.
 class ORBIS_FACTORY_API InterfaceEnumeration final : public EnumerationImplementation<COSInterface*> {
 public:
-    /// Zero-filled storage; throws the host's `bad_alloc`.
+    /// Returns zero-filled storage; throws the host's `bad_alloc`.
     static void* operator new(std::size_t size);
     static void operator delete(void* storage);
 
@@ -22,10 +22,10 @@ public:
 
     bool hasMoreElements() const override;
 
-    /// The object, once; then throws the host's `ENoElements`.
+    /// Returns the object the first time, then throws the host's `ENoElements`.
     COSInterface* nextElement() override;
 
-    /// How many of these exist in the process.
+    /// The number of live instances in the process.
     static std::int64_t liveCount();
 
 private:

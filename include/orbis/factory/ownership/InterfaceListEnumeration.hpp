@@ -11,10 +11,10 @@
 
 namespace orbis::factory {
 
-/// An enumeration of several host objects. It holds no references on them.
+/// An enumeration of any number of host objects. Holds no references.
 class ORBIS_FACTORY_API InterfaceListEnumeration final : public EnumerationImplementation<COSInterface*> {
 public:
-    /// The host objects bound to the addresses, in their order; those that are not bound have none. Throws the host's
+    /// Returns the host objects bound to the addresses, in order; unbound addresses are skipped. Throws the host's
     /// `bad_alloc`.
     static Enumeration<COSInterface*> ofBound(std::span<void const* const> objects);
 

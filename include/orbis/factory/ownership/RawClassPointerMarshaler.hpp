@@ -7,14 +7,14 @@
 
 namespace orbis::factory {
 
-/// From raw native pointers to the host objects that stand for them.
+/// Converts raw native pointers to the host objects that represent them.
 class ORBIS_FACTORY_API RawClassPointerMarshaler {
 public:
     RawClassPointerMarshaler& operator=(RawClassPointerMarshaler const&);
     RawClassPointerMarshaler& operator=(RawClassPointerMarshaler&&);
 
-    /// The host object bound to `object`, or no element when there is none. Makes no host object. Throws the
-    /// host's `bad_alloc`.
+    /// Returns the host object bound to `object`, or an empty enumeration; creates no host object. Throws the host's
+    /// `bad_alloc`.
     static Enumeration<COSInterface*> toCosi(void const* const object);
 };
 

@@ -14,8 +14,8 @@
 
 namespace orbis::factory::full {
 
-/// Base of native classes whose objects `boost::shared_ptr` owns. A host object that stands for one shares in it, so
-/// that each side may let go first.
+/// Base of native classes whose objects `boost::shared_ptr` owns. The host object that represents one holds a share, so
+/// either side may release the object first.
 class ORBIS_FACTORY_API Shareable : public Wrappable, public boost::enable_shared_from_this<Shareable> {
 public:
     Shareable();
@@ -25,18 +25,18 @@ public:
     virtual SharingType getSharingType() const;
 };
 
-/// Keeps the object alive until its first `releaseReference` or the end of the current virtual machine: an object is
-/// kept once, however often this is called. Null is allowed. Given a raw pointer, throws the shared pointer's
-/// `bad_weak_ptr` when none owns the object.
+/// Keeps the object alive until the first `releaseReference` or the end of the current virtual machine; repeated calls
+/// have no further effect. Null is allowed. Given a raw pointer, throws the shared pointer's `bad_weak_ptr` when none
+/// owns the object.
 ORBIS_FACTORY_API void acquireReference(boost::shared_ptr<Shareable> const& object);
 ORBIS_FACTORY_API void acquireReference(Shareable* object);
 
-/// Gives up what `acquireReference` keeps, which may end the object; nothing happens when it keeps nothing. Null and
-/// errors as there.
+/// Releases the reference that `acquireReference` keeps, which may destroy the object; does nothing if there is none.
+/// Null and errors as there.
 ORBIS_FACTORY_API void releaseReference(boost::shared_ptr<Shareable> const& object);
 ORBIS_FACTORY_API void releaseReference(Shareable* object);
 
-/// Always true.
+/// Returns true.
 ORBIS_FACTORY_API bool canAcquireReference(Shareable* object);
 
 } // namespace orbis::factory::full

@@ -11,8 +11,8 @@
 
 namespace orbis::factory::full {
 
-/// Base of native classes whose objects `std::shared_ptr` owns. A host object that stands for one shares in it, so that
-/// each side may let go first.
+/// Base of native classes whose objects `std::shared_ptr` owns. The host object that represents one holds a share, so
+/// either side may release the object first.
 class ORBIS_FACTORY_API StdShareable : public Wrappable, public std::enable_shared_from_this<StdShareable> {
 public:
     StdShareable();
@@ -22,18 +22,18 @@ public:
     virtual SharingType getSharingType() const;
 };
 
-/// Keeps the object alive until its first `releaseReference` or the end of the current virtual machine: an object is
-/// kept once, however often this is called. Null is allowed. Given a raw pointer, throws the shared pointer's
-/// `bad_weak_ptr` when none owns the object.
+/// Keeps the object alive until the first `releaseReference` or the end of the current virtual machine; repeated calls
+/// have no further effect. Null is allowed. Given a raw pointer, throws the shared pointer's `bad_weak_ptr` when none
+/// owns the object.
 ORBIS_FACTORY_API void acquireReference(std::shared_ptr<StdShareable> const& object);
 ORBIS_FACTORY_API void acquireReference(StdShareable* object);
 
-/// Gives up what `acquireReference` keeps, which may end the object; nothing happens when it keeps nothing. Null and
-/// errors as there.
+/// Releases the reference that `acquireReference` keeps, which may destroy the object; does nothing if there is none.
+/// Null and errors as there.
 ORBIS_FACTORY_API void releaseReference(std::shared_ptr<StdShareable> const& object);
 ORBIS_FACTORY_API void releaseReference(StdShareable* object);
 
-/// Always true.
+/// Returns true.
 ORBIS_FACTORY_API bool canAcquireReference(StdShareable* object);
 
 } // namespace orbis::factory::full

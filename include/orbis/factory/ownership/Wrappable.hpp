@@ -4,18 +4,18 @@
 
 namespace orbis::factory::full {
 
-/// Base of native classes whose host objects must not outlive them unnoticed: an object forgets its own binding when
-/// it is destroyed, and its host object becomes invalid. Objects are bound by the address of this base.
+/// Base of native classes that retract themselves: when an object is destroyed, its binding is removed and its host
+/// object becomes invalid. Objects are bound by the address of this base.
 ///
-/// A binding is never copied: a copy is unbound until it is announced. Threading: on the thread of the virtual machine
-/// in which the object is bound; where none is current the destructor touches nothing.
+/// Bindings are not copied: a copy is unbound until it is passed to the host. Threading: on the thread of the virtual
+/// machine in which the object is bound; the destructor does nothing when no virtual machine is current.
 class ORBIS_FACTORY_API Wrappable {
 public:
     Wrappable();
     Wrappable(Wrappable const&);
     Wrappable& operator=(Wrappable const&);
 
-    /// The host is told once, unless the binding was released before. Whatever the host throws ends the program.
+    /// Retracts the object, unless its binding was released before. An exception of the host terminates the program.
     virtual ~Wrappable();
 };
 

@@ -1,18 +1,19 @@
 #pragma once
 
 #include "orbis/factory/base/export.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
 #include "libhv/hvArray.hpp"
 
 namespace orbis::factory {
 
-/// `char`: one byte of UTF-8 text. Zero is an empty text. Of a longer text the first byte counts; a byte beyond ASCII
-/// is no text by itself and reaches the host as U+FFFD.
+/// `char`: one byte of UTF-8 text. Zero converts to an empty text. Of a longer text only the first byte is read. A byte
+/// beyond ASCII is not valid UTF-8 by itself, and reaches the host as U+FFFD.
 class CharPolicy {};
 
 template <>
-class ORBIS_FACTORY_API Marshaler<CharPolicy> {
+class ORBIS_FACTORY_API Marshaler<CharPolicy> : public detail::DataTypeName<Marshaler<CharPolicy>> {
 public:
     Marshaler& operator=(Marshaler const&);
     Marshaler& operator=(Marshaler&&);
@@ -27,12 +28,6 @@ public:
     static T fromHost(hvArray* in)
     {
         return firstByte(in);
-    }
-
-    template <class T>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<T>());
     }
 
     template <class T>

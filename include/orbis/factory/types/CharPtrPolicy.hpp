@@ -1,64 +1,20 @@
 #pragma once
 
 #include "orbis/factory/base/export.hpp"
-#include "orbis/factory/detail/arrays/HostTextHolder.hpp"
+#include "orbis/factory/detail/arrays/CharacterPointerMarshaler.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
-
-#include "libhv/libhv.hpp"
 
 namespace orbis::factory {
 
-/// `char*` and `char const*`: NUL-terminated UTF-8. An argument is a copy that lives for the call, and ends for its
-/// reader at the first zero in the text; a missing array is null. A result is copied, so it may belong to the object;
-/// null is an empty text.
+/// `char*` and `char const*`: NUL-terminated UTF-8.
 class CharPtrPolicy {};
 
 template <>
-class ORBIS_FACTORY_API Marshaler<CharPtrPolicy> {
+class ORBIS_FACTORY_API Marshaler<CharPtrPolicy>
+    : public detail::CharacterPointerMarshaler<Marshaler<CharPtrPolicy>, char> {
 public:
     Marshaler& operator=(Marshaler const&);
     Marshaler& operator=(Marshaler&&);
-
-    template <class T>
-    class FromM final : public detail::HostTextHolder<T> {
-    public:
-        using detail::HostTextHolder<T>::HostTextHolder;
-    };
-
-    template <class T>
-    static void toHost(char const* value, hvArray** out)
-    {
-        *out = hvCreateString(value);
-    }
-
-    /// Throws like `Marshaler<StringPolicy>::fromHost`.
-    template <class T>
-    static FromM<char*> fromHost(hvArray* in)
-    {
-        return FromM<char*>(copyText(in));
-    }
-
-    template <class T>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<T>());
-    }
-
-    template <class T>
-    static constexpr char const* dataTypeText()
-    {
-        return "char";
-    }
-
-    /// What it points to is not its own.
-    template <class T>
-    static consteval bool isView()
-    {
-        return true;
-    }
-
-private:
-    static char* copyText(hvArray* in);
 };
 
 template <>

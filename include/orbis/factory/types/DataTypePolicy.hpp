@@ -2,6 +2,7 @@
 
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/detail/arrays/ArgumentHolder.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
 #include "libhv/hvArray.hpp"
@@ -10,19 +11,19 @@
 
 namespace orbis::factory {
 
-/// Names the registered host data type that carries a native type, and converts between the two. Specialise it for a
-/// type of your own, whose data type you register with the host:
+/// Names the registered host data type of a native type, and converts between the two. Specialise it for a type of your
+/// own whose data type you register with the host:
 ///
 ///     template <>
 ///     struct orbis::factory::HostDataType<Color> {
 ///         static constexpr char const* name = "paint.Color scalar";
-///         static hvArray* toHost(Color const& color);   // a new value of the data type, the caller's
-///         static Color fromHost(hvArray* value);        // `value` stays the host's; null is the data type's null
+///         static hvArray* toHost(Color const& color);   // returns a new value, owned by the caller
+///         static Color fromHost(hvArray* value);        // the host keeps `value`; null is the data type's null
 ///     };
 template <class T>
 struct HostDataType;
 
-/// True for a type that a host data type carries.
+/// Satisfied by types with a `HostDataType`.
 template <class T>
 concept HasHostDataType = requires(T const& native, hvArray* value) {
     {
@@ -37,11 +38,11 @@ concept HasHostDataType = requires(T const& native, hvArray* value) {
 };
 
 /// Native types with a `HostDataType`. The host converts arguments to that data type before the library sees them, so
-/// what fits a parameter, and how it is described and compared, is the data type's to say.
+/// the data type defines which values a parameter accepts, and how they are described and compared.
 class DataTypePolicy {};
 
 template <>
-class ORBIS_FACTORY_API Marshaler<DataTypePolicy> {
+class ORBIS_FACTORY_API Marshaler<DataTypePolicy> : public detail::DataTypeName<Marshaler<DataTypePolicy>> {
 public:
     Marshaler& operator=(Marshaler const&);
     Marshaler& operator=(Marshaler&&);
@@ -62,12 +63,6 @@ public:
     static FromM<T> fromHost(hvArray* in)
     {
         return FromM<T>(HostDataType<T>::fromHost(in));
-    }
-
-    template <HasHostDataType T>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<T>());
     }
 
     template <HasHostDataType T>

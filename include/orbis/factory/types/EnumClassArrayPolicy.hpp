@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/base/export.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/arrays/NewArray.hpp"
 #include "orbis/factory/detail/objects/EnumerationMarshaler.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
@@ -14,7 +15,7 @@ namespace orbis::factory {
 
 namespace detail {
 
-/// Outside the exported class, so that its text stays a matter of each module.
+/// Outside the exported class, so that each module has its own static text.
 template <class E>
 char const* enumerationVectorText()
 {
@@ -24,12 +25,12 @@ char const* enumerationVectorText()
 
 } // namespace detail
 
-/// `std::vector` of enumerators, wherever their class is written. To the host it is one row of their objects; from the
-/// host it is all elements of an array of any size, in column order.
+/// `std::vector` of enumerators, whichever side implements their class. Passed to the host as a row of their objects.
+/// From the host it takes all elements of an array of any size, in column order.
 class EnumClassArrayPolicy {};
 
 template <>
-class ORBIS_FACTORY_API Marshaler<EnumClassArrayPolicy> {
+class ORBIS_FACTORY_API Marshaler<EnumClassArrayPolicy> : public detail::DataTypeName<Marshaler<EnumClassArrayPolicy>> {
     template <class Vector>
     static constexpr EnumerationRecord const& record = detail::enumerationRecord<typename Vector::value_type>;
 
@@ -62,19 +63,14 @@ public:
     }
 
     template <class Vector>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<Vector>());
-    }
-
-    template <class Vector>
     static char const* dataTypeText()
     {
         return detail::enumerationVectorText<typename Vector::value_type>();
     }
 
 private:
-    /// The data type name of one element: without its last seven characters where it contains " vector", else itself.
+    /// Returns the data type name of one element: `arrayType` without its last seven characters if it contains "
+    /// vector", else unchanged.
     static COSNameID getScalarClassID(COSNameID const& arrayType);
 };
 

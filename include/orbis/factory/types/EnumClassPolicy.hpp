@@ -6,8 +6,8 @@
 
 namespace orbis::factory {
 
-/// A native enumeration that the library publishes (`HostEnumeration`, `EnumerationClassInfo`). To the host an
-/// enumerator is its object; from the host it is that, or a name or number that means it.
+/// A native enumeration that the library publishes (`HostEnumeration`, `EnumerationClassInfo`). Passed to the host as
+/// the enumerator's object. Scripts may also pass an enumerator's name or number.
 class EnumClassPolicy {};
 
 template <>

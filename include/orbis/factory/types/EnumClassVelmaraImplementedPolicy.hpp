@@ -7,8 +7,8 @@
 namespace orbis::factory {
 
 /// A native enumeration whose host class is written in the host language (`HostEnumeration<E>::isVelmaraImplemented`).
-/// The two are matched by the names of their enumerators alone. Either may have more: what the other does not have is
-/// refused when it is to cross.
+/// Enumerators are matched by name only. Either side may have more: marshaling an enumerator that the other side lacks
+/// throws.
 class EnumClassVelmaraImplementedPolicy {};
 
 template <>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/base/export.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/arrays/PassedArray.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 #include "orbis/factory/types/hvArrayProxy.hpp"
@@ -8,11 +9,11 @@
 
 namespace orbis::factory {
 
-/// `hvArrayProxy` and `hvConstArrayProxy`: any host array, as it is. See there for who owns what.
+/// `hvArrayProxy` and `hvConstArrayProxy`: any host array, unconverted. Ownership is documented there.
 class HvArrayPolicy {};
 
 template <>
-class ORBIS_FACTORY_API Marshaler<HvArrayPolicy> {
+class ORBIS_FACTORY_API Marshaler<HvArrayPolicy> : public detail::DataTypeName<Marshaler<HvArrayPolicy>> {
 public:
     Marshaler& operator=(Marshaler const&);
     Marshaler& operator=(Marshaler&&);
@@ -30,18 +31,12 @@ public:
     }
 
     template <class T>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<T>());
-    }
-
-    template <class T>
     static constexpr char const* dataTypeText()
     {
         return "any";
     }
 
-    /// What it points to is not its own.
+    /// Does not own the array.
     template <class T>
     static consteval bool isView()
     {

@@ -1,22 +1,24 @@
 #pragma once
 
 #include "orbis/factory/base/export.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/arrays/PassedArray.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 #include "orbis/factory/types/hvArrayReferenceCountedProxy.hpp"
 
 namespace orbis::factory {
 
-/// `hvArrayReferenceCountedProxy`: any host array, as it is, shared with the host in both directions.
+/// `hvArrayReferenceCountedProxy`: any host array, unconverted, shared with the host in both directions.
 class HvArrayReferenceCountedPolicy {};
 
 template <>
-class ORBIS_FACTORY_API Marshaler<HvArrayReferenceCountedPolicy> {
+class ORBIS_FACTORY_API Marshaler<HvArrayReferenceCountedPolicy>
+    : public detail::DataTypeName<Marshaler<HvArrayReferenceCountedPolicy>> {
 public:
     Marshaler& operator=(Marshaler const&);
     Marshaler& operator=(Marshaler&&);
 
-    /// The result is a reference of its own: the proxy gives back the one that it holds.
+    /// Adds a reference for the host, because the proxy releases its own.
     template <class T>
     static void toHost(T const& value, hvArray** out)
     {
@@ -29,12 +31,6 @@ public:
     static T fromHost(hvArray* in)
     {
         return T(in);
-    }
-
-    template <class T>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<T>());
     }
 
     template <class T>

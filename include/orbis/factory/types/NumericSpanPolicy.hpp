@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/arrays/numericArrays.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
@@ -9,13 +10,12 @@
 
 namespace orbis::factory {
 
-/// `std::span<T const>` of numbers or `bool`: a parameter sees the elements where the host keeps them, in column order,
-/// for the length of the call, and nothing is copied (but what the host converts, as for `NumericVectorPolicy`). As a
-/// result it is copied to one row.
+/// `std::span<T const>` of numbers or `bool`. A parameter refers to the host's elements, in column order, during the
+/// call; nothing is copied, except where the host converts (see `NumericVectorPolicy`). A result is copied to one row.
 class NumericSpanPolicy {};
 
 template <>
-class Marshaler<NumericSpanPolicy> {
+class Marshaler<NumericSpanPolicy> : public detail::DataTypeName<Marshaler<NumericSpanPolicy>> {
 public:
     template <class Span>
     static void toHost(Span values, hvArray** out)
@@ -30,18 +30,12 @@ public:
     }
 
     template <class Span>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<Span>());
-    }
-
-    template <class Span>
     static char const* dataTypeText()
     {
         return detail::vectorTypeText<typename Span::value_type>();
     }
 
-    /// The elements are not its own.
+    /// Does not own the elements.
     template <class Span>
     static consteval bool isView()
     {

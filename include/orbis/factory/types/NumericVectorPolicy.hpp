@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/arrays/numericArrays.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
@@ -11,13 +12,13 @@
 
 namespace orbis::factory {
 
-/// `std::vector` of numbers or `bool`, copied once in each direction. To the host it is one row. From the host it is
-/// all elements of an array of any size, in column order; the host converts arrays of other numeric classes before,
-/// element by element, and refuses the whole when it would have to cut one.
+/// `std::vector` of numbers or `bool`, copied once in each direction. Passed to the host as one row. From the host it
+/// takes all elements of an array of any size, in column order. The host first converts arrays of other numeric classes
+/// element by element, and rejects an array with an element that the class cannot represent.
 class NumericVectorPolicy {};
 
 template <>
-class Marshaler<NumericVectorPolicy> {
+class Marshaler<NumericVectorPolicy> : public detail::DataTypeName<Marshaler<NumericVectorPolicy>> {
 public:
     template <class Vector>
     static void toHost(Vector const& values, hvArray** out)
@@ -33,12 +34,6 @@ public:
     {
         auto const elements = detail::elementsOf<typename Vector::value_type>(in);
         return Vector(elements.begin(), elements.end());
-    }
-
-    template <class Vector>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<Vector>());
     }
 
     template <class Vector>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/arrays/NewArray.hpp"
 #include "orbis/factory/detail/arrays/throwNullInput.hpp"
 #include "orbis/factory/detail/bindings/bindings.hpp"
@@ -16,16 +17,16 @@
 
 namespace orbis::factory {
 
-/// `std::vector` of pointers to published objects: `std::vector<T*>` here, shared pointers with
-/// `sharedObjectVectors.hpp`. Each element crosses as it does alone; null elements are null in the host too.
+/// `std::vector` of pointers to published objects: `std::vector<T*>` with this header, shared pointers with
+/// `sharedObjectVectors.hpp`. Each element is marshaled as it is alone; null elements are null in the host, too.
 ///
-/// To the host it is one row, typed as the class, or as the most specific class that all elements have in common where
-/// the class has published subclasses. From the host it is all elements of an array of any size, in column order; an
-/// object without a native object of the class is refused with the `null_input` error.
+/// Passed to the host as one row, typed as the class or, if the class has published subclasses, as the most specific
+/// class that all elements have in common. From the host it takes all elements of an array of any size, in column
+/// order. An object without a native object of the class is rejected with the `null_input` error.
 class ObjectVectorPolicy {};
 
 template <>
-class Marshaler<ObjectVectorPolicy> {
+class Marshaler<ObjectVectorPolicy> : public detail::DataTypeName<Marshaler<ObjectVectorPolicy>> {
     template <class Vector>
     using Element = typename Vector::value_type;
 
@@ -55,7 +56,7 @@ public:
     static Vector fromHost(hvArray_tag const* in)
     {
         Vector values;
-        if (!omIsORBIS(in)) // "[]" stands for no objects
+        if (!omIsORBIS(in)) // "[]" is no objects
             return values;
         std::size_t const count = in->get_number_of_elements();
         values.reserve(count);
@@ -64,12 +65,6 @@ public:
             values.push_back(fromObject<Element<Vector>>(object, in));
         }
         return values;
-    }
-
-    template <class Vector>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<Vector>());
     }
 
     template <class Vector>
@@ -121,7 +116,7 @@ struct MarshalingPolicy<std::vector<T*>> {
 
 namespace detail {
 
-/// A vector refers to the object of each of its pointers.
+/// Specialisation base for vectors, which refer to the object of each element.
 template <class Vector>
 struct ReferredByElements {
     static constexpr bool any = true;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/detail/arrays/ArgumentHolder.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/arrays/PassedArray.hpp"
 #include "orbis/factory/marshaling/Argument.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
@@ -14,15 +15,15 @@
 
 namespace orbis::factory {
 
-/// `std::optional<T>`, for every `T` that can cross. No value is "[]" to the host, a double array of 0-by-0; from the
-/// host it is the same, or a missing string. A value crosses as `T` does. The data type is that of `T` and " or empty",
-/// whose values the host passes in empty slots when there is none.
+/// `std::optional<T>`, for every marshalable `T`. A value is marshaled as a `T`. No value is passed to the host as
+/// "[]", a 0-by-0 double array; the host may pass that or a missing string for it. The data type is that of `T`
+/// followed by " or empty", for which the host passes an empty slot if there is no value.
 class OptionalPolicy {};
 
 template <>
-class Marshaler<OptionalPolicy> {
+class Marshaler<OptionalPolicy> : public detail::DataTypeName<Marshaler<OptionalPolicy>> {
 public:
-    /// Holds the value, and what it may refer to, for the call.
+    /// Holds the value, and what it may refer to, for the length of the call.
     template <class Optional>
     class FromM final : public detail::ArgumentHolder {
     public:
@@ -59,12 +60,6 @@ public:
     }
 
     template <class Optional>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<Optional>());
-    }
-
-    template <class Optional>
     static char const* dataTypeText()
     {
         static std::string const text =
@@ -93,7 +88,7 @@ struct MarshalingPolicy<std::optional<T>> {
 
 namespace detail {
 
-/// The array of the value, when there is one.
+/// The array of the value, if there is one.
 template <class T>
     requires PassedArray<T>::any
 struct PassedArray<std::optional<T>> {
@@ -102,7 +97,7 @@ struct PassedArray<std::optional<T>> {
     static hvArray* of(std::optional<T> const& value) { return value ? PassedArray<T>::of(*value) : nullptr; }
 };
 
-/// What the value refers to, when there is one.
+/// The objects that the value refers to, if there is one.
 template <class T>
     requires ReferredObjects<T>::any
 struct ReferredObjects<std::optional<T>> {

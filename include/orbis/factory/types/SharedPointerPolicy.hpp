@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/base/export.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/arrays/NewArray.hpp"
 #include "orbis/factory/detail/bindings/hostShares.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
@@ -15,18 +16,19 @@ namespace orbis::factory {
 
 namespace detail {
 
-/// Throws the error of an object that is wanted as a shared one and that no shared pointer owns.
+/// Throws the error of an object that must be shared and that no shared pointer owns.
 [[noreturn]] ORBIS_FACTORY_API void throwNotShared(char const* className);
 
 } // namespace detail
 
 /// `boost::shared_ptr` and `std::shared_ptr` to published classes derived from `full::Shareable` and
-/// `full::StdShareable`. Objects cross as their raw pointers do, and all shares have one count: the host object has one
-/// until it ends, and what comes from the host is another one. An empty pointer is no object.
+/// `full::StdShareable`. Objects are marshaled as raw pointers to them are, and all shares have one reference count:
+/// the host object holds a share until it is destroyed, and a converted argument holds another. An empty pointer is
+/// null.
 class SharedPointerPolicy {};
 
 template <>
-class Marshaler<SharedPointerPolicy> {
+class Marshaler<SharedPointerPolicy> : public detail::DataTypeName<Marshaler<SharedPointerPolicy>> {
     template <class Pointer>
     using Class = std::remove_const_t<typename Pointer::element_type>;
 
@@ -39,7 +41,7 @@ public:
     {
         detail::NewArray array;
         RawPointers<Pointer>::template toHost<Class<Pointer>>(value.get(), array.place());
-        // The object of a pointer into another one has no count of its own.
+        // A pointer to a subobject (aliasing constructor) has another owner, which `weak_from_this` does not know.
         if (value && value->weak_from_this().expired())
             detail::shareWithHost(array.get(), const_pointer_cast<Class<Pointer>>(value));
         *out = array.release();
@@ -58,19 +60,13 @@ public:
     }
 
     template <class Pointer>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<Pointer>());
-    }
-
-    template <class Pointer>
     static char const* dataTypeText()
     {
         return HostClass<Class<Pointer>>::name;
     }
 
 private:
-    /// A pointer of the object's own count.
+    /// Returns a pointer that shares the object's own reference count.
     template <class Pointer>
     static Pointer share(Class<Pointer>* object)
     {

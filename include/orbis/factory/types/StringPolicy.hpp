@@ -2,6 +2,7 @@
 
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/detail/arrays/ArgumentHolder.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
 #include "libhv/libhv.hpp"
@@ -10,13 +11,13 @@
 
 namespace orbis::factory {
 
-/// `std::string`: UTF-8. An argument keeps zeros in the text; a missing array is an empty text. A result ends at its
-/// first zero (use `fl::ustring` with a vector of texts, or an array proxy, where that matters). Text that is not
-/// well-formed becomes what the host's own conversions make of it (U+FFFD in place of each ill-formed part).
+/// `std::string`: UTF-8. An argument keeps embedded zeros; a missing array converts to an empty text. A result ends at
+/// its first zero; where that matters, return an array proxy or a `std::vector<std::string>`. Ill-formed text is
+/// converted as by the host: each ill-formed part becomes U+FFFD.
 class StringPolicy {};
 
 template <>
-class ORBIS_FACTORY_API Marshaler<StringPolicy> {
+class ORBIS_FACTORY_API Marshaler<StringPolicy> : public detail::DataTypeName<Marshaler<StringPolicy>> {
 public:
     Marshaler& operator=(Marshaler const&);
     Marshaler& operator=(Marshaler&&);
@@ -33,18 +34,12 @@ public:
         *out = hvCreateString(value.c_str());
     }
 
-    /// Takes character arrays and host string scalars. Throws "VELMARA:class:RequireString" for other arrays, and
+    /// Accepts character arrays and host string scalars. Throws "VELMARA:class:RequireString" for other arrays, and
     /// "VELMARA:string:MissingNotSupported" for a missing string.
     template <class T>
     static FromM<T> fromHost(hvArray* in)
     {
         return FromM<T>(read(in));
-    }
-
-    template <class T>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<T>());
     }
 
     template <class T>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/types/StringPolicy.hpp"
 #include "orbis/factory/types/UnicodeStringPolicy.hpp"
 
@@ -7,13 +8,13 @@
 
 namespace orbis::factory {
 
-/// `std::string_view` (UTF-8) and `std::u16string_view`, which cross as the strings of their characters do. The text of
-/// an argument is owned by its holder and goes with the call: a function that keeps it copies it. The text of a result
-/// is copied before the call ends.
+/// `std::string_view` (UTF-8) and `std::u16string_view`, marshaled like the corresponding strings. The text of an
+/// argument is freed after the call: a function that keeps it must copy it. The text of a result is copied before the
+/// call returns.
 class StringViewPolicy {};
 
 template <>
-class Marshaler<StringViewPolicy> {
+class Marshaler<StringViewPolicy> : public detail::DataTypeName<Marshaler<StringViewPolicy>> {
     template <class View>
     using Text = std::basic_string<typename View::value_type>;
 
@@ -50,18 +51,12 @@ public:
     }
 
     template <class View>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<View>());
-    }
-
-    template <class View>
     static constexpr char const* dataTypeText()
     {
         return TextMarshaler<View>::template dataTypeText<Text<View>>();
     }
 
-    /// The text is not its own.
+    /// Does not own the text.
     template <class View>
     static consteval bool isView()
     {

@@ -3,18 +3,19 @@
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/base/extractString.hpp"
 #include "orbis/factory/detail/arrays/ArgumentHolder.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
 #include "libhv/libhv.hpp"
 
 namespace orbis::factory {
 
-/// `fl::ustring`: UTF-16, which passes unchanged also when it is ill-formed. An argument keeps zeros in the text; a
-/// missing array is an empty text. A result ends at its first zero.
+/// `fl::ustring`: UTF-16. Ill-formed text passes unchanged. An argument keeps embedded zeros; a missing array converts
+/// to an empty text. A result ends at its first zero.
 class UnicodeStringPolicy {};
 
 template <>
-class ORBIS_FACTORY_API Marshaler<UnicodeStringPolicy> {
+class ORBIS_FACTORY_API Marshaler<UnicodeStringPolicy> : public detail::DataTypeName<Marshaler<UnicodeStringPolicy>> {
 public:
     Marshaler& operator=(Marshaler const&);
     Marshaler& operator=(Marshaler&&);
@@ -31,17 +32,11 @@ public:
         *out = hvCreateString_UTF16(value.c_str());
     }
 
-    /// Takes character arrays and host string scalars; throws like `extractString`.
+    /// Accepts character arrays and host string scalars; throws like `extractString`.
     template <class T>
     static FromM<T> fromHost(hvArray* in)
     {
         return FromM<T>(in ? extractString(in) : T());
-    }
-
-    template <class T>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<T>());
     }
 
     template <class T>

@@ -7,22 +7,24 @@
 
 namespace orbis::factory {
 
-/// A host array as it is, for native functions that want no conversion. Null is allowed. It owns nothing: an argument
-/// stays the host's, and lives for the call; a result by value is a new array, which it hands over, or an argument as
-/// it was given; a result by reference, and data that is read, is an array that native code keeps. To keep arrays, and
-/// to return them by value, use `hvArrayReferenceCountedProxy`.
+/// A host array, unconverted, for native functions that handle arrays themselves. Null is allowed. It owns nothing:
+///  - an argument belongs to the host, and is valid during the call;
+///  - a result by value is either a new array, whose ownership passes to the host, or one of the arguments;
+///  - a result by reference, and data that is read, is an array that native code keeps.
+///
+/// To keep arrays, and to return kept ones by value, use `hvArrayReferenceCountedProxy`.
 class ORBIS_FACTORY_API hvArrayProxy {
 public:
     hvArrayProxy(hvArray* array);
 
-    /// A new 1-by-1 array that holds the object, which is the caller's; null for a null handle.
+    /// Creates a 1-by-1 array that holds the object; the caller owns the array. Null for a null handle.
     hvArrayProxy(COSInterfacePtr const& object);
     hvArrayProxy(hvArrayProxy const&);
     hvArrayProxy& operator=(hvArrayProxy const&);
 
     hvArray* operator()() const;
 
-    /// The object of an object array of one element; a null handle for everything else.
+    /// The object in an object array of one element; a null handle for any other array.
     operator COSInterfacePtr() const;
 
 private:

@@ -6,8 +6,8 @@
 
 namespace orbis::factory {
 
-/// A host array as it is, shared: each proxy holds one reference, so native code may keep arrays that it was given,
-/// and give them back as results. Null is allowed. Threading: the count is a plain integer.
+/// A host array, unconverted and shared: each proxy holds a reference, so native code may keep the arrays it receives
+/// and return them. Null is allowed. Threading: the reference count is not atomic.
 class ORBIS_FACTORY_API hvArrayReferenceCountedProxy {
 public:
     hvArrayReferenceCountedProxy();
@@ -18,7 +18,7 @@ public:
     hvArrayReferenceCountedProxy& operator=(hvArrayReferenceCountedProxy const&);
     ~hvArrayReferenceCountedProxy();
 
-    /// True for the same array, not for equal ones.
+    /// Compares identity, not contents.
     bool operator==(hvArrayReferenceCountedProxy const& other) const;
 
     hvArray* operator()() const;

@@ -12,14 +12,14 @@ class ORBIS_FACTORY_API hvConstArrayProxy {
 public:
     hvConstArrayProxy(hvArray const* array);
 
-    /// A new 1-by-1 array that holds the object, which is the caller's; null for a null handle.
+    /// Creates a 1-by-1 array that holds the object; the caller owns the array. Null for a null handle.
     hvConstArrayProxy(COSInterfacePtr const& object);
     hvConstArrayProxy(hvConstArrayProxy const&);
     hvConstArrayProxy& operator=(hvConstArrayProxy const&);
 
     hvArray const* operator()() const;
 
-    /// The object of an object array of one element; a null handle for everything else.
+    /// The object in an object array of one element; a null handle for any other array.
     operator COSInterfacePtr() const;
 
 private:

@@ -4,9 +4,9 @@
 
 namespace orbis::factory::detail {
 
-/// Makes sure that the current virtual machine knows the data types "OrbisFactoryString scalar" and "OrbisFactoryString
-/// vector", from now to its end. Publishing a class or functions does so; who describes them to the host by hand calls
-/// it first. Throws the host's errors, and then has registered nothing.
+/// Registers the data types "OrbisFactoryString scalar" and "OrbisFactoryString vector" in the current virtual machine,
+/// unless they are, for the rest of its lifetime. Publishing a class or functions does so; code that creates
+/// descriptors by hand must call it first. Throws the host's errors, and then has registered nothing.
 ORBIS_FACTORY_API void initStringDataTypes();
 
 } // namespace orbis::factory::detail

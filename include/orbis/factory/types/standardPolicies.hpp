@@ -1,6 +1,6 @@
 #pragma once
 
-// The policies of the native types that can be published without a further include: descriptions bring them along.
+// The policies of the native types that need no further include: `describe.hpp` includes them.
 #include "orbis/factory/marshaling/PrimitivePolicy.hpp"
 #include "orbis/factory/types/CharPolicy.hpp"
 #include "orbis/factory/types/CharPtrPolicy.hpp"

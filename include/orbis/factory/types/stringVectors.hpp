@@ -14,9 +14,9 @@
 
 namespace orbis::factory {
 
-/// `std::vector<std::string>`, in UTF-8. To the host it is a column of cells. From the host it is a string array, whose
-/// missing elements are left out, or a cell array of character arrays; null is an empty vector. Texts keep zeros in
-/// them, both ways.
+/// `std::vector<std::string>`, in UTF-8. Passed to the host as a column of cells. From the host it takes a string
+/// array, whose missing elements are omitted, or a cell array of character arrays; null converts to an empty vector.
+/// Embedded zeros are kept in both directions.
 ///
 /// `fromHost` throws "orbis_factory:orbis_factory:must_be_cell_array" for other arrays, and ":must_be_string" for a
 /// cell that is empty or of another class.
@@ -39,7 +39,8 @@ struct HostDataType<std::vector<std::string>> {
     }
 
 private:
-    /// The host reads up to a zero: when that is not the whole of an ASCII text, there may be one in it.
+    /// `hvCreateString` stops at the first zero. An array as long as the string is complete; so is a shorter one, of
+    /// text beyond ASCII, if the string has no zero.
     static hvArray* makeText(std::string const& string)
     {
         detail::NewArray text(hvCreateString(string.c_str()));

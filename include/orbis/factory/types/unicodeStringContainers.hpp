@@ -10,12 +10,12 @@
 
 namespace orbis::factory {
 
-/// Vectors and ordered sets of UTF-16 strings. To the host they are a column of cells, in the container's order; each
-/// text ends at its first zero. From the host they are a string array, whose missing elements are left out, or a cell
-/// array of character arrays; null is an empty container. Texts keep zeros in them.
+/// Vectors and ordered sets of UTF-16 strings. Passed to the host as a column of cells, in the container's order; each
+/// text ends at its first zero. From the host they take a string array, whose missing elements are omitted, or a cell
+/// array of character arrays; embedded zeros are kept. Null converts to an empty container.
 ///
 /// `fromHost` throws "orbis_factory:orbis_factory:must_be_cell_array" for other arrays, ":must_be_string" for a cell
-/// that is empty or of another class, and ":no_duplicates" when a set is given one text twice.
+/// that is empty or of another class, and ":no_duplicates" when a set is passed duplicate texts.
 template <>
 struct ORBIS_FACTORY_API HostDataType<std::vector<fl::ustring>> {
     static constexpr char const* name = "OrbisFactoryString vector";

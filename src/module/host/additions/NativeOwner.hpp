@@ -5,22 +5,22 @@
 
 namespace orbis::additions {
 
-/// What a class info may derive from beside `COSClassInfo`, so that lists of live objects tell who owns what stands
-/// behind them.
+/// Optional second base of a class info, which tells listings of live objects who owns the native objects.
 class ORBIS_HOST_API NativeOwner {
 public:
     virtual ~NativeOwner();
 
-    /// In one word, which lives as long as the class info: "host" for native objects that end with their host objects,
-    /// "native" for those that native code ends, "shared" for those that go with their last owner, of both kinds.
+    /// Returns who destroys the native objects: "host" if they are destroyed with their host objects, "native" for
+    /// native code, "shared" if their last owner, on either side, destroys them. Valid as long as the class info.
     virtual char const* nativeOwner() const = 0;
 
-    /// Deletes `native`, which was given to the host and for which no host object could be made, if it would be deleted
-    /// with that. Does nothing unless overridden.
+    /// Deletes `native`, which was passed to the host but got no host object, if it would be deleted with one. Does
+    /// nothing unless overridden.
     virtual void discardNative(void* native) noexcept;
 };
 
-/// The owner of the native objects of a published class; null when the class is not published, or says nothing of them.
+/// Returns the class info of a published class as a `NativeOwner`; null when the class is not published or its class
+/// info is none.
 ORBIS_HOST_API NativeOwner* nativeOwnerOf(COSNameID const& className);
 
 } // namespace orbis::additions

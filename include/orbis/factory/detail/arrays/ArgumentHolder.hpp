@@ -2,8 +2,8 @@
 
 namespace orbis::factory::detail {
 
-/// Base of the holders of native arguments (`Marshaler<Policy>::FromM<T>`): each lives for one call, is the only owner
-/// of what its conversion allocated, and gives the argument as `value()`.
+/// Base of the holders of native arguments (`Marshaler<Policy>::FromM<T>`). A holder lives for one call, is the sole
+/// owner of whatever its conversion allocated, and returns the argument from `value()`.
 class ArgumentHolder {
 public:
     ArgumentHolder() = default;
@@ -12,7 +12,7 @@ public:
     virtual ~ArgumentHolder() = default;
 };
 
-/// The holder of an argument that owns its own memory.
+/// The holder of an argument that owns its memory.
 template <class T>
 class ValueHolder : public ArgumentHolder {
 public:

@@ -6,11 +6,11 @@
 
 namespace orbis::factory::detail {
 
-/// The holder of a NUL-terminated text that the host allocated; `T` is a pointer to its characters.
+/// The holder of a NUL-terminated string that the host allocated; `T` is a pointer to its characters.
 template <class T>
 class HostTextHolder : public ArgumentHolder {
 public:
-    /// Takes over a text that `hvFreeEx` frees; null is allowed.
+    /// Takes ownership of a string that is freed with `hvFreeEx` (null allowed).
     explicit HostTextHolder(T text) : text_(text) {}
 
     ~HostTextHolder() override

@@ -6,7 +6,7 @@
 
 namespace orbis::factory::detail {
 
-/// A host array that was just made, until it is handed on: an exception on the way destroys it.
+/// Owner of a newly created host array: destroys it unless it is released.
 class NewArray {
 public:
     explicit NewArray(hvArray_tag* array = nullptr) : array_(array) {}
@@ -22,7 +22,7 @@ public:
     hvArray_tag* get() const { return array_; }
     hvArray_tag* release() { return std::exchange(array_, nullptr); }
 
-    /// Where a function that makes an array stores it. Only while this is empty.
+    /// The out-parameter for functions that create an array. Precondition: this is empty.
     hvArray_tag** place() { return &array_; }
 
 private:

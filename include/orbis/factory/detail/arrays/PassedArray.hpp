@@ -4,14 +4,14 @@
 
 namespace orbis::factory::detail {
 
-/// The host array that a native value carries as it is, not as a copy; null when it carries none. Policies of such
-/// types specialise it.
+/// For native types that pass a host array through uncopied: the array in a value, or null. Policies of such types
+/// specialise it.
 template <class V>
 struct PassedArray {
     static constexpr bool any = false;
 };
 
-/// A proxy carries its own.
+/// Specialisation base for the array proxies.
 template <class Proxy>
 struct ProxiedArray {
     static constexpr bool any = true;

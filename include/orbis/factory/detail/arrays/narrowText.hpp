@@ -10,10 +10,11 @@
 
 namespace orbis::factory::detail {
 
-/// Writes UTF-16 text as one byte for each code unit; true when that was right, because all is ASCII.
+/// Writes each UTF-16 code unit of `text` to `to` as one byte. Returns whether the text is ASCII, without which the
+/// bytes are meaningless.
 inline bool narrowAscii(std::u16string_view text, char* to)
 {
-    // The compiler's own vectors, which it knows how to narrow.
+    // Compiler vector types, whose narrowing conversion compiles to a few instructions.
     using Units [[gnu::vector_size(16)]] = std::uint16_t;
     using Bytes [[gnu::vector_size(8)]] = std::uint8_t;
     constexpr std::size_t block = 8;
@@ -34,13 +35,13 @@ inline bool narrowAscii(std::u16string_view text, char* to)
         };
         for (std::size_t place = 0; place + block < text.size(); place += block)
             narrowBlock(place);
-        narrowBlock(text.size() - block); // overlaps the one before it
+        narrowBlock(text.size() - block); // may overlap the previous block
         std::memcpy(seen, &allUnits, sizeof seen);
     }
     return ((seen[0] | seen[1]) & 0xFF80FF80FF80FF80) == 0;
 }
 
-/// Appends a text to a vector of texts, as UTF-8. Nearly all text is ASCII, which is written where it stays.
+/// Appends a text to a vector of strings as UTF-8. ASCII, the common case, is narrowed directly into the new element.
 template <class Texts>
 void appendNarrow(std::u16string_view text, Texts& texts)
 {

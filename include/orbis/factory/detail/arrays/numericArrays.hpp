@@ -13,7 +13,7 @@
 
 namespace orbis::factory::detail {
 
-/// The name of the data type whose values are arrays, of any size, of a native type's class.
+/// The host data type of arrays, of any size, whose numeric class corresponds to `T`.
 template <COSScalar T>
 constexpr char const* vectorTypeText()
 {
@@ -43,25 +43,26 @@ constexpr char const* vectorTypeText()
     }
 }
 
-/// The elements of an array of the class of `T`, in column order; none for null. They are the array's.
+/// Returns the elements of an array of the class of `T`, in column order; none for null. They are valid as long as the
+/// array.
 template <COSScalar T>
 std::span<T const> elementsOf(hvArray_tag const* array)
 {
     if (!array)
         return {};
-    if (array->_get_class_id_non_trivial() != COSValue::classOf<T>()) // a host that did not keep to the signature
+    if (array->_get_class_id_non_trivial() != COSValue::classOf<T>()) // the host ignored the signature
         throw std::invalid_argument("an array of another numeric class was passed");
     return {static_cast<T const*>(additions::getData(array)), array->get_number_of_elements()};
 }
 
-/// A new row of the values.
+/// Returns a new row of the values, owned by the caller.
 template <COSScalar T>
 hvArray* createRow(std::span<T const> values)
 {
     return additions::createMatrix(1, values.size(), COSValue::classOf<T>(), values.data());
 }
 
-/// Packed values are written one by one.
+/// `std::vector<bool>` is packed, so its values are written one by one.
 inline hvArray* createRow(std::vector<bool> const& values)
 {
     NewArray row(additions::createMatrix(1, values.size(), hvLOGICAL_CLASS));

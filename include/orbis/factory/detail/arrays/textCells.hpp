@@ -11,7 +11,7 @@
 
 namespace orbis::factory::detail {
 
-/// A new column of cells with the character arrays that `makeText` makes of the texts, in their order.
+/// Returns a new column of cells, owned by the caller, with one character array, created by `makeText`, for each text.
 template <class Texts, class MakeText>
 hvArray* makeTextCells(Texts const& texts, MakeText makeText)
 {
@@ -25,8 +25,8 @@ hvArray* makeTextCells(Texts const& texts, MakeText makeText)
     return cells.release();
 }
 
-/// Gives `append` the texts of a cell array of character arrays, in order, after their number to `reserve`. Throws the
-/// errors of arrays that are no cells (`errorMustBeCellArray`) and of cells that hold no text (`errorMustBeString`).
+/// Passes the number of cells of a cell array of character arrays to `reserve`, then their texts, in order, to
+/// `append`. Throws `errorMustBeCellArray` for other arrays and `errorMustBeString` for a cell without text.
 template <class Reserve, class Append>
 void readTextCells(hvArray const* cells, Reserve reserve, Append append)
 {

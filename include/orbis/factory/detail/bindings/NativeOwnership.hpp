@@ -7,21 +7,23 @@
 
 namespace orbis::factory::detail {
 
-/// How native objects of the class `T` are made and owned when host objects stand for them. The bases of shared
-/// classes specialise it.
+/// How native objects of class `T` are created, and who owns them once they are bound. Specialised for the bases of
+/// shared classes.
 template <class T>
 struct NativeOwnership {
-    /// A new object, owned by what is returned.
+    /// Creates an object. The returned pointer owns it.
     template <class... A>
     static std::unique_ptr<T> make(A&&... arguments)
     {
         return std::make_unique<T>(std::forward<A>(arguments)...);
     }
 
-    /// The host object in `constructed` is bound to `made`: the class info says when it is deleted.
-    static void handOver(std::unique_ptr<T> made, hvArray_tag const*) { static_cast<void>(made.release()); }
+    /// Transfers ownership of `object` to the host object in `constructed`, to which it is bound: its class info
+    /// deletes it.
+    static void handOver(std::unique_ptr<T> object, hvArray_tag const*) { static_cast<void>(object.release()); }
 
-    /// The host object in the array stands for `object`: that is no owner.
+    /// Gives the host object in the array, which represents `object`, its share. Here it does nothing: there are no
+    /// shares.
     static void share(T const*, hvArray_tag const*) {}
 };
 

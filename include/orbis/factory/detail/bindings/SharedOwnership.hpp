@@ -5,17 +5,18 @@
 
 namespace orbis::factory::detail {
 
-/// What native classes of both shared bases have in common: objects are shared from the beginning, the host object has
-/// a share, and all shares have one count. `Base` is the shared base.
+/// Common ownership of both shared bases: objects are shared from their creation, the host object holds a share, and
+/// all shares have one reference count. `Base` is the shared base.
 template <class T, class Base>
 struct SharedOwnership {
     template <class Pointer>
-    static void handOver(Pointer const& made, hvArray_tag const* constructed)
+    static void handOver(Pointer const& object, hvArray_tag const* constructed)
     {
-        shareWithHost(constructed, made);
+        shareWithHost(constructed, object);
     }
 
-    /// An object that no shared pointer owns is not shared either: its host object becomes invalid when it ends.
+    /// Does nothing for an object that no shared pointer owns: its host object becomes invalid when the object is
+    /// destroyed.
     static void share(T const* object, hvArray_tag const* array)
     {
         if (auto const owner = object ? object->weak_from_this().lock() : nullptr)

@@ -6,24 +6,24 @@
 #include "orbis/COSInterface.hpp"
 #include "orbis/COSNameID.hpp"
 
-/// What constructors and class infos do with bindings.
+/// Binding operations of generated constructors and class infos.
 namespace orbis::factory::detail {
 
-/// Records `object`, which is not null and has just been constructed, behind `host`, which the caller holds, and binds
-/// it. Another host object that is bound to the address becomes invalid.
+/// Records `object`, not null and just constructed, in `host`, which the caller holds, and binds it. Another host
+/// object that is bound to the address becomes invalid.
 ORBIS_FACTORY_API void bindConstructed(COSInterface* host, COSNameID const& className, void* object);
 
-/// Forgets the binding of `object` to `host` (null for any host object) for a class info whose host object ends: gives
-/// `object` when there was one, else null. An address that was released and has been bound to another host object since
-/// is that one's.
+/// For class infos, when their host object is destroyed: removes the binding of `object` to `host` (null: to any host
+/// object). Returns `object` if there was one, else null. Thus an address that was released and since bound to another
+/// host object stays bound to that.
 ORBIS_FACTORY_API void* forgetBinding(COSInterface const* host, void* object);
 
-/// Deletes a native object, the result of a call, that could not be bound, where the class info of `className` would
-/// delete it with its host object. Null and what is bound are left alone.
+/// Deletes a native object, the result of a call, that could not be bound, if the class info of `className` would
+/// delete it with its host object. Does nothing for null and for bound objects.
 ORBIS_FACTORY_API void discardUnbound(void* object, char const* className) noexcept;
 
-/// Releases the binding of `object` (null allowed) where nothing but elements of `row` holds its host object: it was
-/// bound to become the result of a call that fails, and stays whose it was.
+/// Rolls back a binding that was created for the result of a failed call: removes the binding of `object` (null
+/// allowed) if only elements of `row` hold its host object. The native object keeps its owner.
 ORBIS_FACTORY_API void releaseResult(void const* object, hvArray_tag const* row) noexcept;
 
 } // namespace orbis::factory::detail

@@ -4,28 +4,27 @@
 
 #include "orbis/COSInterface.hpp"
 
-/// The handles that hold host objects of the current virtual machine. A handle's reference is taken for one binding,
-/// and the registry releases it when that goes first. Handles are known by their address, so that one that was left
-/// behind takes nothing from a new one there, and the object that a handle refers to, which may be gone, is not looked
-/// at.
+/// The references that handles hold on host objects of the current virtual machine. Each is held for one binding, and
+/// released when that binding is removed. Handles are identified by address, so a stale one cannot release the
+/// reference of a new handle at the same address; the target is never dereferenced, because it may be destroyed.
 namespace orbis::factory::detail {
 
-/// To be called before a handle that holds nothing here takes its reference on `host`: it refers to `target`, which is
-/// bound to `host` as `bound`. Throws `std::bad_alloc`, and the host's error where no virtual machine is current.
+/// Records that `handle`, which holds nothing, refers to `target`, which is bound to `host` as `bound`. Call it before
+/// adding the reference to `host`. Throws `std::bad_alloc`, and the host's error if no virtual machine is current.
 ORBIS_FACTORY_API void enterHandle(COSInterface* host, void const* bound, void const* target, void const* handle);
 
-/// The host object that the handle at this address holds, maybe for another target; null when it holds none, and when
-/// no virtual machine is current.
+/// Returns the host object that the handle at this address holds, possibly for another target; null when it holds none
+/// or no virtual machine is current.
 ORBIS_FACTORY_API COSInterface* heldBy(void const* handle) noexcept;
 
-/// True while the handle holds the host object that `target` is bound to.
+/// Returns whether the handle holds the host object to which `target` is bound.
 ORBIS_FACTORY_API bool isHeldBy(void const* handle, void const* target) noexcept;
 
-/// Releases what the handle holds. Objects may end.
+/// Releases the handle's reference. This may destroy objects.
 ORBIS_FACTORY_API void releaseForHandle(void const* handle) noexcept;
 
-/// Likewise, but not before the call from the host that is running has returned, or the next one begins: the handle's
-/// owner may be on its way out, and its own host object among those that end.
+/// Defers the release until the current call from the host has returned or the next one begins: the handle's owner may
+/// be in its destructor, and releasing now could destroy the owner's host object.
 ORBIS_FACTORY_API void releaseForHandleLater(void const* handle) noexcept;
 
 } // namespace orbis::factory::detail

@@ -9,16 +9,16 @@
 
 #include <memory>
 
-/// The shares that host objects of the current virtual machine have in shared native objects.
+/// The shares that host objects of the current virtual machine hold in shared native objects.
 namespace orbis::factory::detail {
 
-/// Gives the first object of `array`, which has one, the share, in place of the one it has. Throws `std::bad_alloc`,
-/// and the host's error where no virtual machine is current.
+/// Gives `share` to the first object of `array`, which must have one, in place of its current share. Throws
+/// `std::bad_alloc`, and the host's error if no virtual machine is current.
 ORBIS_FACTORY_API void shareWithHost(hvArray_tag const* array, boost::shared_ptr<void> share);
 ORBIS_FACTORY_API void shareWithHost(hvArray_tag const* array, std::shared_ptr<void> share);
 
-/// Gives up the share of `host`, which may end the native object. False when it has none, and when no virtual machine
-/// is current.
+/// Releases the share of `host`, which may destroy the native object. Returns false when there is none or no virtual
+/// machine is current.
 ORBIS_FACTORY_API bool dropShare(COSInterface const* host);
 
 } // namespace orbis::factory::detail

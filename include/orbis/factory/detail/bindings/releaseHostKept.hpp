@@ -6,10 +6,10 @@
 
 namespace orbis::factory::detail {
 
-/// Gives up the reference that `acquireReference` keeps for a host object that ends (null for any), where its shared
-/// native object says that it is the host object's. `data` is null or the address of the native object's
-/// `full::Wrappable`. That is looked at only while it is kept, and so alive: it may have ended where no virtual machine
-/// was current, and its host object was not told.
+/// Releases the reference that `acquireReference` keeps, if the object's `getSharingType` says that it is the host
+/// object's; for class infos, when the host object `object` (null: any) is destroyed. `data` is null or the address of
+/// the native object's `full::Wrappable`. It is dereferenced only while it is kept, and therefore alive: an object that
+/// was destroyed while no virtual machine was current could not notify its host object.
 ORBIS_FACTORY_API void releaseHostKeptShareable(COSInterface const* object, void* data);
 ORBIS_FACTORY_API void releaseHostKeptStdShareable(COSInterface const* object, void* data);
 

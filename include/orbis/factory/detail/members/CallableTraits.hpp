@@ -13,7 +13,7 @@ struct TypeList {
 
 enum class CallableKind { None, Free, Member };
 
-/// What a description needs to know of a callable: its kind, result, parameters, and the pointer type to keep it as.
+/// Properties of a callable: its kind, result and parameters, and the pointer type as which it is stored.
 template <class F>
 struct CallableTraits {
     static constexpr CallableKind kind = CallableKind::None;
@@ -47,8 +47,8 @@ struct CallableTraits<R (*)(First, A...)> {
 template <class R, class... A>
 struct CallableTraits<R (*)(A...) noexcept> : CallableTraits<R (*)(A...)> {};
 
-/// A pointer to a member of a base as one to a member of the derived class, so that members of one type share their
-/// code; that of a virtual base stays as it is.
+/// Converts the type of a pointer to a member of a base into that of a pointer to a member of the derived class, so
+/// that members of one type share one routine. There is no such conversion from a virtual base: that type stays.
 template <class InBase, class InDerived>
 using MemberPointerIn = std::conditional_t<std::is_convertible_v<InBase, InDerived>, InDerived, InBase>;
 
@@ -63,7 +63,7 @@ struct MemberTraits {
     using Parameters = TypeList<A...>;
     using Class = C;
 
-    /// The same function as a member of a class derived from its own.
+    /// The pointer to this function as a member of a derived class.
     template <class T>
     using PointerIn = MemberPointerIn<PointerTo<C>, PointerTo<T>>;
 };
@@ -77,7 +77,7 @@ struct CallableTraits<R (C::*)(A...) noexcept> : MemberTraits<C, R, false, A...>
 template <class C, class R, class... A>
 struct CallableTraits<R (C::*)(A...) const noexcept> : MemberTraits<C, R, true, A...> {};
 
-/// A lambda that captures nothing counts as the free function it converts to.
+/// Captureless lambdas are handled as the free function they convert to.
 template <class F>
     requires std::is_class_v<F> && requires(F function) { +function; }
 struct CallableTraits<F> : CallableTraits<decltype(+std::declval<F>())> {};

@@ -9,29 +9,29 @@
 
 namespace orbis::factory::detail {
 
-/// A callable (nothing for a constructor) and the values for its last parameters.
+/// A callable (`NoFunction` for a constructor) and the default values of its last parameters.
 template <class Function, class... D>
 struct Defaulted {
     Function function;
     std::tuple<D...> values;
 };
 
-/// Calls functions with the values given and, after them, the last `Omitted` values of a `Defaulted`. It holds nothing
-/// but a pointer to that, so a `Callable` made of the pointer is read as this.
+/// Calls functions with the given arguments followed by the last `Omitted` values of a `Defaulted`. Its only member is
+/// a pointer to that, so a `Callable` that holds the pointer can be read as this class.
 template <class Record, std::size_t Omitted>
 struct DefaultedCall {
     static constexpr bool hasValues = true;
 
     Record const* record;
 
-    /// Calls the record's own function. The object of a member function comes first.
+    /// Calls the record's function. For a member function, the object is the first argument.
     template <class... Given>
     decltype(auto) operator()(Given&&... given) const
     {
         return call(record->function, std::forward<Given>(given)...);
     }
 
-    /// Any other function, completed in the same way.
+    /// Wraps any other function so that it is called with the omitted arguments appended.
     template <class F>
     auto complete(F function) const
     {
@@ -40,7 +40,7 @@ struct DefaultedCall {
         };
     }
 
-    /// True when one of the values carries this array.
+    /// Returns whether one of the values carries this array.
     bool givesArray(hvArray const* array) const
     {
         auto const carries = [=]<class D>([[maybe_unused]] D const& value) {

@@ -6,7 +6,7 @@
 
 namespace orbis::factory::detail {
 
-/// In place of the getter or setter that a property does not have.
+/// Placeholder for a missing getter or setter.
 struct NoAccess {};
 
 template <class Getter, class Setter>
@@ -15,12 +15,12 @@ struct Accesses {
     Setter setter;
 };
 
-/// The descriptor of a described property. Its getter and setter lie within it and their types are known, so that
-/// nothing stands between the host's call and the native member but what reads or writes it.
+/// The descriptor of a described property. It contains its getter and setter, whose types are known, so that the host's
+/// virtual call reaches the native member without further indirection.
 template <class Getter, class Setter, bool IsReleased>
 class DescribedProperty final : private Accesses<Getter, Setter>, public impl::PropertyImpl {
 public:
-    /// The functions make the getter and the setter in their places.
+    /// The arguments create the getter and the setter in place.
     template <class MakeGetter, class MakeSetter>
     DescribedProperty(char const* name, MakeGetter makeGetter, MakeSetter makeSetter, PropertyAttributes attributes)
         : Accesses<Getter, Setter>{makeGetter(), makeSetter()},

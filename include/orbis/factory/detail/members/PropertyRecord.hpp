@@ -8,17 +8,16 @@
 
 namespace orbis::factory {
 
-/// One property as it is described: what its descriptor will be made of, without a host. All texts live as long as
-/// the program (they are literals).
+/// The description of one property, from which its descriptor is created; needs no host. All texts are literals.
 struct PropertyRecord {
     using Make = std::unique_ptr<impl::PropertyImpl> (*)(PropertyRecord const& record);
 
     char const* name;
     PropertyAttributes attributes;
-    Make make = nullptr;        ///< makes the descriptor, with a getter and a setter of its own
+    Make make = nullptr;        ///< creates the descriptor, with its own getter and setter
     impl::Callable getter = {}; ///< null for a write-only property
     impl::Callable setter = {}; ///< null for a read-only property
-    bool needsObject = false;   ///< to be read, written or released; a static property has none
+    bool needsObject = false;   ///< to read, write or release; must be false for a static property
 };
 
 } // namespace orbis::factory

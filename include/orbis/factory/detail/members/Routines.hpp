@@ -15,12 +15,12 @@
 #include <type_traits>
 #include <utility>
 
-/// The routines behind `impl::Invoker::invokeFn`: one for each function type. The callable is read from the record,
-/// so functions of one type share their routine.
+/// The routines stored in `impl::Invoker::invokeFn`, one for each function type: functions of one type share a routine,
+/// which reads the callable from the invoker.
 namespace orbis::factory::detail {
 
-/// A function may return an array that it was given, as an input or as a default value: that one stays whose it was,
-/// and the host gets a reference more.
+/// Adds a reference for the host if a function returns an array that it does not own: one that is an input or a default
+/// value. The host owns results, so it would otherwise destroy that array for its owner, too.
 template <class Result, class Target>
 void shareGivenArray([[maybe_unused]] COSValue const* outputs, [[maybe_unused]] COSValue const* inputs,
                      [[maybe_unused]] int inputCount, [[maybe_unused]] Target const& target)
@@ -35,12 +35,12 @@ void shareGivenArray([[maybe_unused]] COSValue const* outputs, [[maybe_unused]] 
     }
 }
 
-/// Pointers to objects that are bound when they cross.
+/// Pointers to objects that are bound when they are marshaled.
 template <class T>
 concept HandlePointer = std::is_pointer_v<T> && requires { requires MarshalerOf<T>::isHandle; };
 
-/// `storeResult`, for what a member gives when it is called: an object that it gives is the host's from then on, and
-/// does not leak when that cannot take it.
+/// Like `storeResult`, for the result of a member. The host becomes responsible for an object that is returned, so one
+/// that cannot be bound is deleted as its class info would, instead of leaked.
 template <class Result, class F>
 void storeCallResult(int& outputCount, COSValue* outputs, F&& function)
 {
@@ -67,7 +67,7 @@ struct FreeFunctionRoutine<Pointer, Result, TypeList<A...>> {
                        int inputCount, COSValue const* inputs)
     {
         ArgumentsOf<A...> arguments(inputs);
-        // Only a pointer can fail the check: the address of a converted value is never null.
+        // Only a pointer can be null. The check throws for forced members only.
         if constexpr (sizeof...(A) > 0) {
             if constexpr (std::is_pointer_v<std::remove_cvref_t<decltype(arguments.first())>>)
                 impl::validateSelfPointer(arguments.first(), *invoker);
@@ -103,10 +103,11 @@ struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
     }
 };
 
-/// Throws the error of a constructor that cannot give its arguments to the object that exists already.
+/// Throws the error of a constructor with arguments whose class info creates the native object, if the class cannot be
+/// assigned.
 [[noreturn]] ORBIS_FACTORY_API void throwNotAssignable(char const* className);
 
-/// A constructor that is given all of its arguments.
+/// The completion of a constructor that is called with all of its arguments.
 struct NoDefaults {
     static constexpr bool hasValues = false;
 
@@ -117,8 +118,8 @@ struct NoDefaults {
     }
 };
 
-/// Constructs the native object of the host object in `outputs[0]`. Where the class info has made one already, that
-/// one is used, and takes the value of a new one when the constructor has arguments.
+/// Constructs the native object of the host object in `outputs[0]`. If the class info has created one already, that one
+/// is kept, and assigned a new value if the constructor has arguments.
 template <class T, class Parameters, class Completion = NoDefaults>
 struct ConstructorRoutine;
 
@@ -138,10 +139,10 @@ struct ConstructorRoutine<T, TypeList<A...>, Completion> {
             assign(*existing, arguments, completion);
             bind(host, className, existing);
         } else {
-            auto made = arguments.apply(completion.complete(
+            auto object = arguments.apply(completion.complete(
                 [](auto&&... values) { return NativeOwnership<T>::make(static_cast<decltype(values)>(values)...); }));
-            bind(host, className, made.get());
-            NativeOwnership<T>::handOver(std::move(made), constructed);
+            bind(host, className, object.get());
+            NativeOwnership<T>::handOver(std::move(object), constructed);
         }
         if (outputCount == 0)
             outputCount = 1;

@@ -8,12 +8,12 @@
 
 namespace orbis::factory::detail {
 
-/// True when pointers to the class cross as pointers to one class without published subclasses.
+/// True if the class is marshaled as one without published subclasses.
 template <class T>
-inline constexpr bool standsAlone =
+inline constexpr bool hasNoSubclasses =
     std::is_same_v<typename MarshalingPolicy<T*>::Type, VelmaraManagedNoInheritancePolicy>;
 
-/// True when `T` can have the superclass `B`; stops compilation with a sentence when it cannot.
+/// Returns whether `T` can have the superclass `B`; stops compilation with a sentence otherwise.
 template <class T, class B>
 consteval bool isSuperclass()
 {
@@ -25,7 +25,7 @@ consteval bool isSuperclass()
         constexpr bool areValues = ValueClass<T> || ValueClass<B>;
         static_assert(!areValues, "Value classes have no superclasses: publish classes with superclasses as handles.");
         constexpr bool areBoundAlike =
-            areValues || (std::is_same_v<RootClass<T>, RootClass<B>> && !standsAlone<T> && !standsAlone<B>);
+            areValues || (std::is_same_v<RootClass<T>, RootClass<B>> && !hasNoSubclasses<T> && !hasNoSubclasses<B>);
         static_assert(areBoundAlike, "The class and its superclass are not bound as one class: say `using Root = ...` "
                                      "in the HostClass of both, with the topmost class of the hierarchy, or derive "
                                      "that from full::Wrappable.");

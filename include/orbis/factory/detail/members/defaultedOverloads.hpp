@@ -16,7 +16,7 @@ namespace orbis::factory::detail {
 
 struct NoFunction {};
 
-/// The first `Count` of a list of types, and the type at a place.
+/// The first `Count` types of a list.
 template <std::size_t Count, class... A>
 auto firstOf(TypeList<A...>)
 {
@@ -28,7 +28,7 @@ auto firstOf(TypeList<A...>)
 template <std::size_t Count, class Parameters>
 using First = decltype(firstOf<Count>(Parameters{}));
 
-/// The pointer that a callable is kept as: a member function's is one in `T`.
+/// The pointer type as which a callable is stored: for a member function, a pointer to a member of `T`.
 template <class T, class Traits>
 struct PointerOf {
     using Type = typename Traits::Pointer;
@@ -40,9 +40,10 @@ struct PointerOf<T, Traits> {
     using Type = typename Traits::template PointerIn<T>;
 };
 
-/// True when a value can stand for a parameter; stops compilation with a sentence when it cannot.
+/// Returns whether a value of type `D` can be the default of a parameter of type `P`; stops compilation with a sentence
+/// otherwise.
 template <class D, class P>
-consteval bool canStandFor()
+consteval bool isValidDefault()
 {
     constexpr bool converts = std::is_convertible_v<D const&, P>;
     constexpr bool isCut = std::is_floating_point_v<D> && std::is_integral_v<std::remove_cvref_t<P>>;
@@ -52,7 +53,7 @@ consteval bool canStandFor()
     return converts && !isCut;
 }
 
-/// The same for the values of the last parameters. `optional` is how many parameters can have one.
+/// The same for the values of the last parameters. `Optional` is the number of parameters that can have a default.
 template <std::size_t Optional, class... A, class... D>
 consteval bool canComplete(TypeList<A...>, std::tuple<D...> const*)
 {
@@ -61,14 +62,14 @@ consteval bool canComplete(TypeList<A...>, std::tuple<D...> const*)
                           "is called on cannot.");
     if constexpr (areFew)
         return []<std::size_t... Index>(std::index_sequence<Index...>) {
-            constexpr std::size_t given = sizeof...(A) - sizeof...(D);
-            return (canStandFor<D, std::tuple_element_t<given + Index, std::tuple<A...>>>() && ... && true);
+            constexpr std::size_t required = sizeof...(A) - sizeof...(D);
+            return (isValidDefault<D, std::tuple_element_t<required + Index, std::tuple<A...>>>() && ... && true);
         }(std::index_sequence_for<D...>());
     else
         return false;
 }
 
-/// A copy of `full` that leaves out its last inputs, calls through `routine`, and keeps what that needs.
+/// Returns a copy of `full` without its last inputs, which calls through `routine` and keeps `kept` alive.
 inline MemberRecord defaultedOverload(MemberRecord const& full, std::size_t omitted, impl::Invoker::InvokeFn routine,
                                       impl::Callable target, std::shared_ptr<void const> kept)
 {
@@ -80,7 +81,7 @@ inline MemberRecord defaultedOverload(MemberRecord const& full, std::size_t omit
     return overload;
 }
 
-/// One record for each number of values left out. `routineFor<Omitted>()` gives its routine.
+/// Returns one record for each number of omitted arguments, with the routine `routineFor<Omitted>()`.
 template <class Record, class RoutineFor, std::size_t... Index>
 std::vector<MemberRecord> defaultedOverloads(MemberRecord const& full, std::shared_ptr<Record const> const& kept,
                                              RoutineFor routineFor, std::index_sequence<Index...>)
@@ -89,7 +90,7 @@ std::vector<MemberRecord> defaultedOverloads(MemberRecord const& full, std::shar
                               kept)...};
 }
 
-/// `Objects` is how many parameters, at the front, are the object that a method is called on.
+/// The first `Objects` parameters are the object that a method is called on.
 template <class T, std::size_t Objects, class F, class... D>
 std::vector<MemberRecord> defaultedFunctions(MemberRecord const& full, F function, std::tuple<D...> const& values)
 {

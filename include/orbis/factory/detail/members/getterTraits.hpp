@@ -10,10 +10,10 @@
 #include <concepts>
 #include <type_traits>
 
-/// What can be published as a getter of the class `T`, and which getter reads through it.
+/// What can be published as a getter of class `T`, and the getter that reads through it.
 namespace orbis::factory::detail {
 
-/// A member function of `T` or of a public base.
+/// Member functions of `T` or of a public base.
 template <class F, class T>
 concept MethodOf =
     CallableTraits<F>::kind == CallableKind::Member && std::derived_from<T, typename CallableTraits<F>::Class>;
@@ -21,11 +21,12 @@ concept MethodOf =
 template <class F>
 concept FreeFunction = CallableTraits<F>::kind == CallableKind::Free;
 
-/// A free function that takes the object first.
+/// Free functions that take the object first.
 template <class F, class T>
 concept FunctionOn = FreeFunction<F> && CallableTraits<F>::template takesObject<T>;
 
-/// `isGetter`; where it is: `Result`, what it gives; `Pointer`, what it is kept as; `Getter`, what reads through that.
+/// `isGetter`; if that is true, also `Result`: the type that is read; `Pointer`: the type as which the callable is
+/// stored; `Getter`: the class that reads through it.
 template <class T, class G>
 struct GetterTraits {
     static constexpr bool isGetter = false;
@@ -78,7 +79,7 @@ struct GetterTraits<T, M*> : GetterOf<M const&, M const*, impl::DataGetter<std::
 template <class T, auto Routine, class G>
 struct GetterTraits<T, ReleasedGetter<Routine, G>> : GetterTraits<T, G> {};
 
-/// The same where the routine is one of the object, whatever the getter is.
+/// The same for a release routine that takes the object: releasing then needs the object even if reading does not.
 template <class T, auto Routine, class G>
     requires(GetterTraits<T, G>::isGetter &&
              (MethodOf<std::remove_cv_t<decltype(Routine)>, T> || FunctionOn<std::remove_cv_t<decltype(Routine)>, T>))

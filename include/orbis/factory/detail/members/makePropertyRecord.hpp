@@ -19,7 +19,7 @@ G const& unwrapped(ReleasedGetter<Routine, G> const& released)
     return released.getter;
 }
 
-/// How a described getter of `T` is kept in the record, and what is made of that for the descriptor.
+/// How a described getter of `T` is stored in the record, and created from it for the descriptor.
 template <class T, class G>
 struct DescribedGetter {
     using Pointer = typename GetterTraits<T, G>::Pointer;
@@ -53,7 +53,7 @@ struct DescribedGetter<T, NoAccess> {
 template <class T>
 struct DescribedSetter<T, NoAccess> : DescribedGetter<T, NoAccess> {};
 
-/// A property of `T` with a getter, a setter, or both.
+/// Returns the record of a property of `T` with a getter, a setter, or both.
 template <class T, class G, class S>
 PropertyRecord propertyRecord(char const* name, G const& getter, S const& setter, PropertyAttributes attributes)
 {
@@ -62,10 +62,10 @@ PropertyRecord propertyRecord(char const* name, G const& getter, S const& setter
     using Reader = typename Reading::Access;
     using Writer = typename Writing::Access;
     PropertyRecord record{name, attributes};
-    record.make = [](PropertyRecord const& made) -> std::unique_ptr<impl::PropertyImpl> {
+    record.make = [](PropertyRecord const& from) -> std::unique_ptr<impl::PropertyImpl> {
         return std::make_unique<DescribedProperty<Reader, Writer, isReleased<G>>>(
-            made.name, [&] { return Reading::make(made.getter); }, [&] { return Writing::make(made.setter); },
-            made.attributes);
+            from.name, [&] { return Reading::make(from.getter); }, [&] { return Writing::make(from.setter); },
+            from.attributes);
     };
     record.getter = Reading::keep(getter);
     record.setter = Writing::keep(setter);

@@ -7,7 +7,7 @@
 
 namespace orbis::factory::detail {
 
-/// True when results and parameters can cross; stops compilation with a sentence when they cannot.
+/// Returns whether the result and the parameters can be marshaled; stops compilation with a sentence otherwise.
 template <class Result, class... A>
 consteval bool signatureCanCross(TypeList<A...>)
 {

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <type_traits>
 
-/// Each is true when a description of the class `T` is right in one point, and stops compilation with a sentence when
-/// it is not.
+/// Compile-time checks of property descriptions. Each returns whether one aspect of a description of class `T` is
+/// valid, and stops compilation with a sentence otherwise.
 namespace orbis::factory::detail {
 
 template <class V>
@@ -36,12 +36,12 @@ consteval bool canRead()
         return false;
 }
 
-/// Data, of an object or static, and not a function.
+/// Pointers to data, static or of an object.
 template <class S>
 concept DataPointer =
     std::is_member_object_pointer_v<S> || (std::is_pointer_v<S> && std::is_object_v<std::remove_pointer_t<S>>);
 
-/// What a setter takes is gone after the call, so that data takes only what owns its memory.
+/// A converted argument is destroyed after the call, so data members are assigned only types that own their memory.
 template <class T, class S>
 consteval bool canKeep()
 {
@@ -73,7 +73,8 @@ consteval bool canWrite()
         return false;
 }
 
-/// True for types that cross as one data type, which is known at compile time for most but scalars.
+/// Returns whether two types have the same host data type. Its name is a constant expression for most types other than
+/// scalars; of the rest, only identical types count as equal.
 template <class A, class B>
 consteval bool haveSameHostType()
 {
@@ -102,11 +103,11 @@ consteval bool areOneType()
     return haveSameHostType<Read, Written>();
 }
 
-/// True for data that is read and written through one pointer.
+/// True for data that can be read and written through one pointer.
 template <class T, class D>
 inline constexpr bool isWritableData = DataPointer<D> && GetterTraits<T, D>::isGetter && SetterTraits<T, D>::isSetter;
 
-/// Getters and setters of static properties take no object.
+/// The getter and setter of a static property take no object.
 template <class Traits>
 consteval bool needsNoObject()
 {
@@ -115,7 +116,7 @@ consteval bool needsNoObject()
                                             "static member function or captureless lambda that takes no object.");
         return !Traits::needsObject;
     } else {
-        return true; // it is refused for another reason
+        return true; // no getter or setter at all: reported elsewhere
     }
 }
 

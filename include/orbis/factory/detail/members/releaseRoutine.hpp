@@ -8,7 +8,7 @@
 
 namespace orbis::factory::detail {
 
-/// Calls `Routine` with as much of the object and the value as it takes.
+/// Calls `Routine` with whichever of the object and the value it takes.
 template <class T, auto Routine>
 void release(COSInterface* object, [[maybe_unused]] COSValue value)
 {
@@ -23,21 +23,22 @@ void release(COSInterface* object, [[maybe_unused]] COSValue value)
         Routine();
 }
 
-/// The release routine of a getter in a description; null for most.
+/// The release routine of a described getter; null for most.
 template <class T, class G>
 inline constexpr impl::ReleaseRoutine releaseRoutine = nullptr;
 
 template <class T, auto Routine, class G>
 inline constexpr impl::ReleaseRoutine releaseRoutine<T, ReleasedGetter<Routine, G>> = &release<T, Routine>;
 
-/// True for a getter that has a release routine. (Sanitizers keep function addresses from being compared for this.)
+/// True for a getter with a release routine. A separate constant, because comparing function addresses is no constant
+/// expression under the sanitizers.
 template <class G>
 inline constexpr bool isReleased = false;
 
 template <auto Routine, class G>
 inline constexpr bool isReleased<ReleasedGetter<Routine, G>> = true;
 
-/// False for what is no release routine of `T`.
+/// False for a getter whose routine is no valid release routine of `T`.
 template <class T, class G>
 inline constexpr bool isReleasable = true;
 

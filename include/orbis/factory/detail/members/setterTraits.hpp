@@ -6,17 +6,18 @@
 #include "orbis/factory/descriptors/DataSetter.hpp"
 #include "orbis/factory/detail/members/getterTraits.hpp"
 
-/// What can be published as a setter of the class `T`, and which setter writes through it.
+/// What can be published as a setter of class `T`, and the setter that writes through it.
 namespace orbis::factory::detail {
 
-/// `isSetter`; where it is: `Value`, what it takes; `Pointer`, what it is kept as; `Setter`, what writes through that.
+/// `isSetter`; if that is true, also `Value`: the type that is written; `Pointer`: the type as which the callable is
+/// stored; `Setter`: the class that writes through it.
 template <class T, class S>
 struct SetterTraits {
     static constexpr bool isSetter = false;
 };
 
 template <class A, class P, class Writer>
-struct WrittenThrough {
+struct SetterOf {
     static constexpr bool isSetter = true;
     static constexpr bool needsObject = Writer::needsObject;
     using Value = A;
@@ -24,7 +25,7 @@ struct WrittenThrough {
     using Setter = Writer;
 };
 
-/// The one value that a function with the parameters `L` takes, after the object where it has one.
+/// The value type of a setter function with the parameters `L`: the only one, or the one after the object.
 template <class L>
 struct ValueAmong;
 
@@ -42,36 +43,35 @@ template <class S>
 using SetterValue = typename ValueAmong<typename CallableTraits<S>::Parameters>::Type;
 
 template <class T, class S>
-using WrittenThroughMethod =
-    WrittenThrough<SetterValue<S>, typename CallableTraits<S>::template PointerIn<T>,
-                   impl::ClassSetter<SetterValue<S>, T, typename CallableTraits<S>::template PointerIn<T>>>;
+using SetterOfMethod =
+    SetterOf<SetterValue<S>, typename CallableTraits<S>::template PointerIn<T>,
+             impl::ClassSetter<SetterValue<S>, T, typename CallableTraits<S>::template PointerIn<T>>>;
 
 template <class T, MethodOf<T> S>
     requires(CallableTraits<S>::arity == 1)
-struct SetterTraits<T, S> : WrittenThroughMethod<T, S> {};
+struct SetterTraits<T, S> : SetterOfMethod<T, S> {};
 
 template <class T, class M, class C>
     requires std::is_object_v<M> && (!std::is_const_v<M>) && std::derived_from<T, C>
 struct SetterTraits<T, M C::*>
-    : WrittenThrough<M, MemberPointerIn<M C::*, M T::*>, impl::ClassSetter<M, T, MemberPointerIn<M C::*, M T::*>>> {};
+    : SetterOf<M, MemberPointerIn<M C::*, M T::*>, impl::ClassSetter<M, T, MemberPointerIn<M C::*, M T::*>>> {};
 
 template <class T, class S, class Pointer = typename CallableTraits<S>::Pointer>
-using WrittenThroughFunctionOn =
-    WrittenThrough<SetterValue<S>, Pointer, impl::AdaptedClassSetter<SetterValue<S>, T, Pointer>>;
+using SetterOfFunctionOn = SetterOf<SetterValue<S>, Pointer, impl::AdaptedClassSetter<SetterValue<S>, T, Pointer>>;
 
 template <class T, FunctionOn<T> S>
     requires(CallableTraits<S>::arity == 2)
-struct SetterTraits<T, S> : WrittenThroughFunctionOn<T, S> {};
+struct SetterTraits<T, S> : SetterOfFunctionOn<T, S> {};
 
 template <class S, class Pointer = typename CallableTraits<S>::Pointer>
-using WrittenThroughFunction = WrittenThrough<SetterValue<S>, Pointer, impl::ClasslessSetter<SetterValue<S>, Pointer>>;
+using SetterOfFunction = SetterOf<SetterValue<S>, Pointer, impl::ClasslessSetter<SetterValue<S>, Pointer>>;
 
 template <class T, FreeFunction S>
     requires(CallableTraits<S>::arity == 1)
-struct SetterTraits<T, S> : WrittenThroughFunction<S> {};
+struct SetterTraits<T, S> : SetterOfFunction<S> {};
 
 template <class T, class M>
     requires std::is_object_v<M> && (!std::is_const_v<M>)
-struct SetterTraits<T, M*> : WrittenThrough<M, M*, impl::DataSetter<M>> {};
+struct SetterTraits<T, M*> : SetterOf<M, M*, impl::DataSetter<M>> {};
 
 } // namespace orbis::factory::detail

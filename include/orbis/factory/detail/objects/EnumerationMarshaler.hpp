@@ -2,6 +2,7 @@
 
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/classes/describeEnumeration.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 
 #include "libhv/hvArray.hpp"
 #include "orbis/COSInterfacePtr.hpp"
@@ -9,22 +10,22 @@
 
 namespace orbis::factory::detail {
 
-/// The host's object for a native value. Throws "orbis_factory:orbis_factory:no_such_enumerator" for a value without a
-/// name, or whose name the host does not know, and "...:no_such_class" when the class is not published.
+/// Returns the host's object for a native value. Throws "orbis_factory:orbis_factory:no_such_enumerator" for a value
+/// without a name or with a name that the host does not know, and "...:no_such_class" when the class is not published.
 ORBIS_FACTORY_API COSInterfacePtr enumeratorObject(EnumerationRecord const& enumeration, COSNameID const& className,
                                                    std::int64_t value);
 
-/// The native value of a host object, by any of its names. Throws "orbis_factory:orbis_factory:no_such_enumerator" for
-/// null, and for an enumerator that the native side does not have.
+/// Returns the native value of a host object, looked up by any of its names. Throws
+/// "orbis_factory:orbis_factory:no_such_enumerator" for null, and for an enumerator that the native side does not have.
 ORBIS_FACTORY_API std::int64_t enumeratorValue(EnumerationRecord const& enumeration, COSInterface const* object);
 
 /// The same for 1-by-1 arrays of objects.
 ORBIS_FACTORY_API hvArray* enumeratorToHost(EnumerationRecord const& enumeration, std::int64_t value);
 ORBIS_FACTORY_API std::int64_t enumeratorFromHost(EnumerationRecord const& enumeration, hvArray_tag const* in);
 
-/// What the policies for one enumerator have in common: it crosses by its name. The host has turned names and numbers
-/// into the enumerator's object before.
-class EnumerationMarshaler {
+/// Common marshaler of the policies for single enumerators, which are matched by name. The host has already converted
+/// names and numbers to the enumerator's object.
+class EnumerationMarshaler : public DataTypeName<EnumerationMarshaler> {
 public:
     template <PublishedEnumeration E>
     static void toHost(E const& value, hvArray** out)
@@ -36,12 +37,6 @@ public:
     static E fromHost(hvArray_tag const* in)
     {
         return static_cast<E>(enumeratorFromHost(enumerationRecord<E>, in));
-    }
-
-    template <PublishedEnumeration E>
-    static COSNameID dataTypeName()
-    {
-        return COSNameID(dataTypeText<E>());
     }
 
     template <PublishedEnumeration E>

@@ -8,10 +8,10 @@
 #include <type_traits>
 #include <typeinfo>
 
-/// How an object goes to the address under which it is bound, to the host, and back.
+/// Casts between an object, the address under which it is bound, and the host.
 namespace orbis::factory::detail {
 
-/// Bound as the root class, found by a static cast.
+/// The object is bound as its root class, and recovered by a static cast.
 struct StaticCast {
     static constexpr bool isHandle = true;
     static constexpr bool isHeterogeneous = false;
@@ -35,7 +35,7 @@ struct StaticCast {
     }
 };
 
-/// Bound as the class that `Base` gives for each class, found by a dynamic cast: null for an object of another class.
+/// The object is bound as `Base<T>`, and recovered by a dynamic cast: null for an object of another class.
 template <template <class T> class Base>
 struct DynamicCast {
     static constexpr bool isHandle = true;
@@ -55,7 +55,7 @@ struct DynamicCast {
         return dynamic_cast<T*>(static_cast<Base<T>*>(object));
     }
 
-    /// As an object of its most derived published class.
+    /// Returns an array with the object as one of its most derived published class.
     template <class T>
     static hvArray* announce(T const* object)
     {

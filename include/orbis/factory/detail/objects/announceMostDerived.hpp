@@ -9,9 +9,9 @@
 
 namespace orbis::factory::detail {
 
-/// A new array with the host object bound to `bound`, which is made when there is none: of the most derived published
-/// class that the object is of. `staticClass` is the class that it is known to be of, `dynamicType` the one that it is.
-/// 0-by-0 for null. The caller owns the array.
+/// Returns a new array, owned by the caller, with the host object bound to `bound`; 0-by-0 for null. If there is no
+/// such host object, it is created, of the object's most derived published class. `staticClass` is the class that the
+/// object is known to have, `dynamicType` the one that it has.
 ORBIS_FACTORY_API hvArray* announceMostDerived(void* bound, std::type_info const& dynamicType,
                                                NativeClassRecord const& staticClass);
 
