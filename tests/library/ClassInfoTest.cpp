@@ -195,6 +195,12 @@ namespace {
 
 using AmountInfo = Described<Amount, NonHandleClassInfo<Amount, Amount>>;
 
+/// Leaves it to the constructors to make a value.
+struct LateInfo : NonHandleClassInfo<Amount, Amount> {
+    using NonHandleClassInfo::NonHandleClassInfo;
+    void* createInstanceData() override { return nullptr; }
+};
+
 void describeAmount(ClassDescriber<Amount>& amount)
 {
     amount.constructor()
@@ -273,6 +279,15 @@ TEST_F(ValueClassTest, TheNativeValueGoesWithItsHostObject)
     EXPECT_EQ(Amount::alive, 1);
     endHvm();
     EXPECT_EQ(Amount::alive, 0);
+}
+
+TEST_F(ValueClassTest, AConstructorMakesTheValueThatIsNotThere)
+{
+    COSPackage::removePackage("tests");
+    publishClass<Amount, LateInfo>(&describeAmount);
+    ArrayPtr const three = amount(3);
+    EXPECT_EQ(valueOf(three), 3);
+    EXPECT_EQ(errorOf([&] { hvm().call(three.get(), "same"); }), "orbis_factory:orbis_factory:null_self");
 }
 
 } // namespace

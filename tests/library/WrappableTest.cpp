@@ -87,6 +87,8 @@ TEST_F(WrappableTest, ConstructorsStoreTheBinding)
     EXPECT_FALSE(created);
     ArrayPtr const none(BindingRegistry::announce(nullptr, name()));
     EXPECT_EQ(none->get_number_of_elements(), 0u);
+    EXPECT_TRUE(BindingRegistry::release(&thing));
+    EXPECT_FALSE(BindingRegistry::retract(&thing));
 }
 
 TEST_F(WrappableTest, AnObjectOfAnotherClassIsNull)
