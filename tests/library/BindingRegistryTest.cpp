@@ -7,6 +7,7 @@
 #include "orbis/factory/RawClassPointerMarshaler.hpp"
 #include "orbis/factory/basic/BindingRegistry.hpp"
 #include "orbis/factory/basic/registry.hpp"
+#include "orbis/factory/check.hpp"
 #include "orbis/factory/detail/hostShares.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
@@ -113,6 +114,7 @@ TEST_F(BindingRegistryTest, HijackMovesOnlyTheBindingOfTheSameHostObject)
 
     BindingRegistry::hijack(&other, &q, hostOf(second), plain());
     EXPECT_EQ(BindingRegistry::find(&q), host) << "a bound address keeps its entry";
+    EXPECT_EQ(check(), "") << "which is done on purpose";
     EXPECT_FALSE(BindingRegistry::contains(&other));
     BindingRegistry::hijack(&q, &q, host, plain());
     EXPECT_EQ(BindingRegistry::find(&q), host);

@@ -33,7 +33,7 @@ int registered()
 ArrayPtr converted(char const* type, hvArray* array, bool toHost)
 {
     COSTypeConversion* const conversion = COSTypeRepository::getConversion("any", type);
-    hvArray* out = nullptr;
+    auto* out = reinterpret_cast<hvArray*>(conversion); // is written in any case
     toHost ? conversion->convertToHost(&out, array) : conversion->convertFromHost(&out, array);
     return ArrayPtr(out);
 }

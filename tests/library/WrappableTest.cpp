@@ -2,6 +2,7 @@
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/detail/hostShares.hpp"
 #include "orbis/factory/full/BindingRegistry.hpp"
 
 #include "orbis/objectArrays.hpp"
@@ -89,6 +90,16 @@ TEST_F(WrappableTest, ConstructorsStoreTheBinding)
     EXPECT_EQ(none->get_number_of_elements(), 0u);
     EXPECT_TRUE(BindingRegistry::release(&thing));
     EXPECT_FALSE(BindingRegistry::retract(&thing));
+}
+
+TEST_F(WrappableTest, WhatIsSharedIsNotDeletedToo)
+{
+    publishClass<Thing>([](auto& c) { c.constructor(); });
+    auto const owner = std::make_shared<Thing>();
+    ArrayPtr array = announce(owner.get());
+    detail::shareWithHost(array.get(), std::shared_ptr<void>(owner));
+    array.reset();
+    EXPECT_TRUE(owner.use_count() == 1 && Thing::alive == 1);
 }
 
 TEST_F(WrappableTest, AnObjectOfAnotherClassIsNull)
