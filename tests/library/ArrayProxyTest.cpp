@@ -97,6 +97,7 @@ struct Shelf {
     static hvArray* kept;
 
     hvArrayProxy const& byReference() const { return array; }
+    hvArrayProxy echo(hvArrayProxy given) const { return given; }
 
     hvArrayProxy const array = kept;
     std::optional<hvConstArrayProxy> const optional = kept;
@@ -122,7 +123,7 @@ TEST_F(ArrayProxyTest, ArraysThatAreNotNewStayWhoseTheyWere)
             .property("byReference", &Shelf::byReference)
             .property("none", &Shelf::none)
             .staticMethod("refer", [](hvArrayProxy const& a) -> hvArrayProxy const& { return a; })
-            .method("echo", [](Shelf*, hvArrayProxy a) { return a; })
+            .method("echo", &Shelf::echo)
             .staticMethod("wrap", [](hvArrayProxy a) { return std::optional(a); })
             .staticMethod(
                 "make", [](int) { return hvArrayProxy(hvCreateString("made")); }, "a", withDefaults(1))

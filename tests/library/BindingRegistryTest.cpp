@@ -66,6 +66,7 @@ TEST_F(BindingRegistryTest, EachWayToAnnounceGivesTheSameHostObject)
 
 TEST_F(BindingRegistryTest, NullIsNoObject)
 {
+    EXPECT_FALSE(BindingRegistry::retract(nullptr)) << "without a table";
     bool created = true;
     ArrayPtr const none(BindingRegistry::announce(static_cast<void*>(nullptr), plain(), created));
     EXPECT_FALSE(created);

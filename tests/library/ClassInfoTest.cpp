@@ -212,6 +212,11 @@ void describeAmount(ClassDescriber<Amount>& amount)
         .method("orNull", &Amount::orNull)
         .method("isWaiting", &Amount::isWaiting)
         .staticMethod("ofOrMinusOne", &Amount::ofOrMinusOne)
+        .staticMethod("ofAnother",
+                      [](Amount const&) {
+                          ArrayPtr const none(omCreateORBISMatrix(0, 0, "tests.Amount"));
+                          return detail::Argument<Amount const&>(COSValue(none.get())).get().value;
+                      })
         .property("twin", &Amount::same, &Amount::add);
 }
 
@@ -261,6 +266,7 @@ TEST_F(ValueClassTest, NullIsForPointersOnly)
     expectMessage([&] { call(one, "add", none.get()); },
                   {"orbis_factory:orbis_factory:null_input: Input \"p0\" must be"});
     expectMessage([&] { hvm().set(one.get(), "twin", none.get()); }, {":null_input: The value must be an object"});
+    expectMessage([&] { hvm().callStatic("tests.Amount", "ofAnother", inputs(one)); }, {":null_input: The value must"});
     EXPECT_EQ(call(one, "orNull", number(1).get())->get_number_of_elements(), 0u);
     EXPECT_EQ(valueOf(call(one, "orNull", number(0).get())), 1);
 }

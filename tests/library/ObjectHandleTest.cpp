@@ -175,12 +175,12 @@ TEST_F(ObjectHandleTest, AHandleBelongsToOneBinding)
     EXPECT_EQ(handle.get(), nullptr);
     EXPECT_EQ(host->getExternalReferenceCount(), 1) << "only this one";
     Tally beside;
-    Handle const another(moved.get());
+    Handle const kept(moved.get());
     basic::BindingRegistry::hijack(&beside, &beside, host, COSNameID("tests.Tally"));
     handle.reset(&beside);
     EXPECT_EQ(host->getExternalReferenceCount(), 3);
     basic::BindingRegistry::release(&beside);
-    EXPECT_TRUE(!handle && another.get() == moved.get()) << "a binding ends with its own handles";
+    EXPECT_TRUE(!handle && kept.get() == moved.get()) << "a binding ends with its own handles";
     EXPECT_EQ(host->getExternalReferenceCount(), 2);
     basic::BindingRegistry::release(moved.get());
 

@@ -4,7 +4,6 @@
 
 #include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/detail/initStringDataTypes.hpp"
-#include "orbis/factory/extractString.hpp"
 
 #include "marshal/StringDataTypeRegistration.hpp"
 
@@ -51,8 +50,6 @@ TEST_F(StringDataTypesTest, AreRegisteredOncePerVirtualMachine)
     velmara::Hvm other;
     velmara::Hvm::Scope const scope(other);
     EXPECT_EQ(registered(), 0);
-    ArrayPtr const text = characters(u"a");
-    EXPECT_EQ(messageIdOf([&] { extractString(text.get()); }), "VELMARA:class:RequireString");
 }
 
 /// A registration that is overtaken: while it is made, another one, which registers nothing, is made and stored.
