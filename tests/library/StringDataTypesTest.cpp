@@ -37,6 +37,10 @@ ArrayPtr converted(char const* type, hvArray* array, bool toHost)
     return ArrayPtr(out);
 }
 
+struct Header : hvArray_tag {
+    static constexpr auto flags = &Header::flags_;
+};
+
 using StringDataTypesTest = HvmTest;
 
 TEST_F(StringDataTypesTest, AreRegisteredOncePerVirtualMachine)
@@ -157,6 +161,7 @@ TEST_F(StringDataTypesTest, ConversionsTakeWhatTheyShouldAndShareData)
                 EXPECT_EQ(additions::getData(back.get()), additions::getData(array.get()));
                 ArrayPtr const copy(COSDataTypePtr(type)->copyValue(COSValue(array.get())).array());
                 EXPECT_NE(additions::getData(copy.get()), additions::getData(array.get())) << "values stand apart";
+                EXPECT_EQ(copy.get()->*Header::flags & 0x200U, 0U) << "nor are they a call's temporaries";
             }
         }
     }
