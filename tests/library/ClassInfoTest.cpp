@@ -165,6 +165,23 @@ TYPED_TEST(SharedClassInfoTest, AnObjectThatEndedUntoldIsNotAsked)
     EXPECT_TRUE(basic::registry().empty());
 }
 
+TYPED_TEST(SharedClassInfoTest, TheKeptReferenceIsOfTheHostObjectThatIsBound)
+{
+    using Object = Shared<TypeParam>;
+    publishClass<Object, typename TypeParam::template Info<Object>>([](auto& c) { c.constructor(); });
+    typename Object::Pointer const object(new Object);
+    object->type = SharingType::HostKept;
+    acquireReference(object.get());
+    auto const announce = [&] { return full::BindingRegistry::announce(object.get(), COSNameID(TypeParam::name)); };
+    ArrayPtr first(announce());
+    full::BindingRegistry::release(object.get());
+    ArrayPtr second(announce());
+    first.reset();
+    EXPECT_EQ(object.use_count(), 2);
+    second.reset();
+    EXPECT_EQ(object.use_count(), 1);
+}
+
 // A value class.
 struct Amount {
     Amount() { ++alive; }
