@@ -43,10 +43,7 @@ struct Counted {
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Counted> {
-    static constexpr char const* name = "tests.Counted";
-};
+PUBLISHED_IN_TESTS(Counted)
 
 namespace {
 
@@ -202,11 +199,7 @@ struct Amount {
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Amount> {
-    static constexpr char const* name = "tests.Amount";
-    using Policy = ValuePolicy;
-};
+PUBLISHED_IN_TESTS(Amount, using Policy = ValuePolicy;)
 
 namespace {
 

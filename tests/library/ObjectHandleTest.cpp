@@ -29,18 +29,9 @@ struct Ringed;
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Ringed> {
-    static constexpr char const* name = "tests.Ringed";
-};
-template <>
-struct orbis::factory::HostClass<Floating> {
-    static constexpr char const* name = "tests.Floating";
-};
-template <>
-struct orbis::factory::HostClass<Linked> {
-    static constexpr char const* name = "tests.Linked";
-};
+PUBLISHED_IN_TESTS(Ringed)
+PUBLISHED_IN_TESTS(Floating)
+PUBLISHED_IN_TESTS(Linked)
 
 namespace {
 
