@@ -5,6 +5,7 @@
 #include "orbis/factory/basic/registry.hpp"
 #include "orbis/factory/errorIdentities.hpp"
 
+#include "basic/HostDependents.hpp"
 #include "marshal/throwError.hpp"
 
 #include "libhv/libhv.hpp"
@@ -149,8 +150,8 @@ void BindingRegistry::hijack(void const* const oldObject, void* newObject, COSIn
     table.record(host, className, newObject);
     if (movesBinding)
         table.unbind(oldObject, host);
-    if (previous != newObject)
-        table.shares.drop(host);
+    if (previous != newObject && table.dependents)
+        table.dependents->shares.drop(host);
 }
 
 bool BindingRegistry::release(void const* const object)
@@ -164,8 +165,8 @@ bool BindingRegistry::remove(void const* const object)
     COSInterface* const host = find(object);
     if (!host)
         return false;
-    if (table.history) // while nothing is done: it may be out of memory
-        table.history->unbound.emplace(host, object);
+    if (table.history()) // while nothing is done: it may be out of memory
+        table.history()->unbound.emplace(host, object);
     return table.unbind(object, host);
 }
 

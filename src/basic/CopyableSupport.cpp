@@ -12,7 +12,7 @@ namespace {
 // A sorted array: it holds the few objects that are between their creation and their binding.
 struct UnconstructedSet {
     boost::container::flat_set<void const*> objects;
-    bool& isAny = basic::registry().isAnyUnconstructed; // of the table that was there before, and so goes later
+    bool& isAny = basic::registry().isAnyUnconstructed; // of a table that was there before, and so is destroyed later
 };
 
 UnconstructedSet& unconstructed()

@@ -1,4 +1,4 @@
-#include "orbis/factory/basic/HandleReferences.hpp"
+#include "basic/HandleReferences.hpp"
 
 namespace orbis::factory::basic {
 
@@ -53,6 +53,8 @@ int HandleReferences::erase(References& references, COSInterface const* host, vo
 
 void HandleReferences::release(COSInterface* host, void const* bound) noexcept
 {
+    if (empty())
+        return;
     // All are forgotten first: the last reference to go may end other objects, and come back here.
     int count = erase(held_, host, bound, &byHandle_) + erase(deferred_, host, bound, nullptr);
     for (; count > 0; --count)

@@ -1,8 +1,10 @@
-#include "orbis/factory/basic/HostShares.hpp"
+#include "basic/HostShares.hpp"
 
 #include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/basic/registry.hpp"
 #include "orbis/factory/detail/hostShares.hpp"
+
+#include "basic/HostDependents.hpp"
 
 #include "orbis/objectArrays.hpp"
 
@@ -33,18 +35,18 @@ namespace orbis::factory::detail {
 
 void shareWithHost(hvArray_tag const* array, boost::shared_ptr<void> share)
 {
-    basic::registry().shares.give(omGetArrayElement(array, 0), std::move(share));
+    basic::registry().requireDependents().shares.give(omGetArrayElement(array, 0), std::move(share));
 }
 
 void shareWithHost(hvArray_tag const* array, std::shared_ptr<void> share)
 {
-    basic::registry().shares.give(omGetArrayElement(array, 0), std::move(share));
+    basic::registry().requireDependents().shares.give(omGetArrayElement(array, 0), std::move(share));
 }
 
 bool dropShare(COSInterface const* host)
 {
     auto* const table = basic::HvmScoped<basic::FooRegistry>::find();
-    return table && !table->shares.empty() && table->shares.drop(host);
+    return table && table->dependents && table->dependents->shares.drop(host);
 }
 
 } // namespace orbis::factory::detail

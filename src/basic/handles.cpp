@@ -3,6 +3,8 @@
 #include "orbis/factory/basic/HvmScoped.hpp"
 #include "orbis/factory/basic/registry.hpp"
 
+#include "basic/HostDependents.hpp"
+
 #include "additions/ObjectObserver.hpp"
 #include "libkwfoundation_usm/Detail.hpp"
 
@@ -16,7 +18,7 @@ basic::HandleReferences* activeReferences() noexcept
     if (!foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())
         return nullptr;
     basic::FooRegistry* const table = basic::HvmScoped<basic::FooRegistry>::find();
-    return table ? &table->handles : nullptr;
+    return table && table->dependents ? &table->dependents->handles : nullptr;
 }
 
 basic::HandleReference const* referenceOf(void const* handle) noexcept
@@ -29,7 +31,7 @@ basic::HandleReference const* referenceOf(void const* handle) noexcept
 
 void enterHandle(COSInterface* host, void const* bound, void const* target, void const* handle)
 {
-    basic::registry().handles.add({host, bound, target, handle});
+    basic::registry().requireDependents().handles.add({host, bound, target, handle});
 }
 
 COSInterface* heldBy(void const* handle) noexcept

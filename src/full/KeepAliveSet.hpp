@@ -6,6 +6,8 @@
 #include "orbis/factory/full/SharingType.hpp"
 #include "orbis/factory/full/Wrappable.hpp"
 
+#include "basic/HostDependents.hpp"
+
 namespace orbis::factory::full {
 
 /// The shared objects of one kind that the current virtual machine keeps alive, each once. `Set` is a hashed set of
@@ -39,7 +41,8 @@ struct KeepAliveSet {
         if (kept == set->objects.end())
             return;
         COSInterface const* const holder = basic::BindingRegistry::find(bound);
-        if (host && holder && holder != host && !basic::registry().shares.has(host))
+        auto const& dependents = basic::registry().dependents;
+        if (host && holder && holder != host && !(dependents && dependents->shares.has(host)))
             return; // it is a new object at the address
         // Held, as native code that is asked may change the set.
         Pointer const object = *kept; // NOLINT(performance-unnecessary-copy-initialization)

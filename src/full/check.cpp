@@ -2,6 +2,7 @@
 
 #include "orbis/factory/basic/registry.hpp"
 
+#include "basic/HostDependents.hpp"
 #include "basic/addressText.hpp"
 #include "full/forsakenObjects.hpp"
 
@@ -37,6 +38,11 @@ private:
     std::vector<RecordedObject> records_;
 };
 
+basic::HostDependents& dependents()
+{
+    return basic::registry().requireDependents();
+}
+
 std::string checkEntry(void const* object, basic::RegistryEntry const& entry, HostView const& hosts)
 {
     std::string const bound = "the native object " + addressText(object);
@@ -48,7 +54,7 @@ std::string checkEntry(void const* object, basic::RegistryEntry const& entry, Ho
     if (records.empty())
         return bound + " is bound to a host object that has ended, or is invalid: " + addressText(entry.host);
     if (std::ranges::find(records, object, &RecordedObject::native) == records.end() &&
-        !basic::registry().superseded.contains({entry.host, object}))
+        !dependents().superseded.contains({entry.host, object}))
         return bound + " is bound to a host object of " + records.front().className + " that stands for another, " +
                addressText(records.front().native);
     return {};
@@ -66,12 +72,13 @@ std::string checkBindings(HostView const& hosts)
 std::string checkRecords(HostView const& hosts)
 {
     basic::FooRegistry const& table = basic::registry();
-    if (!table.history)
+    auto const* const history = table.history();
+    if (!history)
         return {}; // any of them may have been done on purpose
     for (RecordedObject const& record : hosts.records()) {
         auto const found = table.find(record.native);
         bool const isOthers = found != table.end() && found->second->host != record.host;
-        if (isOthers && !table.history->unbound.contains({record.host, record.native}))
+        if (isOthers && !history->unbound.contains({record.host, record.native}))
             return "a host object of " + std::string(record.className) + " stands for the native object " +
                    addressText(record.native) + ", which is bound to another host object";
     }
@@ -81,7 +88,7 @@ std::string checkRecords(HostView const& hosts)
 std::string checkShares(HostView const& hosts)
 {
     std::string found;
-    basic::registry().shares.forEachHost([&](COSInterface const* host) {
+    dependents().shares.forEachHost([&](COSInterface const* host) {
         if (hosts.of(host).empty())
             found = "a host object that has ended, or is invalid, has a share in a native object: " + addressText(host);
     });
@@ -92,7 +99,7 @@ std::string checkHandles()
 {
     std::string found;
     basic::FooRegistry const& table = basic::registry();
-    table.handles.forEach([&](basic::HandleReference const& reference) {
+    dependents().handles.forEach([&](basic::HandleReference const& reference) {
         if (!table.isBoundTo(reference.bound, reference.host))
             found = "a handle at " + addressText(reference.handle) + " holds a host object by a binding that is gone";
     });
@@ -114,7 +121,7 @@ std::string check()
 {
     if (!foundation::usm::Detail<foundation::usm::scope::Hvm>::isRequiredContextActive())
         return {};
-    basic::registry().handles.releaseDeferred();
+    dependents().handles.releaseDeferred();
     HostView const hosts;
     std::string found = checkBindings(hosts);
     if (found.empty())

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "orbis/factory/basic/HandleReferences.hpp"
-#include "orbis/factory/basic/HostShares.hpp"
 #include "orbis/factory/basic/RegistryEntry.hpp"
 #include "orbis/factory/export.hpp"
 
@@ -11,24 +9,14 @@
 #include <boost/unordered_map.hpp>
 
 #include <memory>
-#include <optional>
-#include <set>
-#include <string>
-#include <utility>
 
 namespace orbis::factory::basic {
 
-/// What debugging asks for beside the bindings.
-struct BindingHistory {
-    /// The classes as which the addresses are bound.
-    boost::unordered_map<void const*, std::string> classNames;
-
-    /// Host objects that stand for a native object though their binding was given up, or the address had one already.
-    std::set<std::pair<COSInterface const*, void const*>> unbound;
-};
+struct BindingHistory;
+struct HostDependents;
 
 /// The binding table of one host virtual machine: native address to an entry that the table owns. Whoever erases
-/// a mapping destroys its entry. What else depends on a host object stands here, too, and goes with it.
+/// a mapping destroys its entry.
 struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     FooRegistry();
     FooRegistry(FooRegistry const&) = delete;
@@ -52,18 +40,20 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     /// releases what handles hold by it. True when there was one.
     bool unbind(void const* object, COSInterface const* host) noexcept;
 
-    /// Likewise, but handles keep what they hold. The host object that was bound; nothing when there was none.
-    std::optional<COSInterface*> erase(void const* object, COSInterface const* host) noexcept;
+    /// Likewise, but handles keep what they hold.
+    bool erase(void const* object, COSInterface const* host) noexcept;
+
+    /// `dependents`, created on first use. Throws `std::bad_alloc`.
+    HostDependents& requireDependents();
+
+    /// What else depends on host objects; null until something does.
+    std::unique_ptr<HostDependents> dependents;
+
+    /// Null unless the virtual machine reports leaks.
+    BindingHistory* history() const noexcept;
 
     /// Whether the unconstructed set has something in it, for constructors, which look at this table anyway.
     bool isAnyUnconstructed = false;
-
-    HandleReferences handles;
-    HostShares shares;
-    std::unique_ptr<BindingHistory> history; ///< only in a virtual machine that reports leaks
-
-    /// Addresses that are bound to a host object which records another one since.
-    std::set<std::pair<COSInterface const*, void const*>> superseded;
 
 private:
     class Observer final : public additions::ObjectObserver {
@@ -78,10 +68,9 @@ private:
     };
 
     bool bindFirst(void* object, COSInterface* host);
+    bool take(void const* object, COSInterface const* host, COSInterface*& bound) noexcept;
     void putBack(node_type mapping) noexcept;
-    void remember(void const* object, COSInterface* host, COSNameID const& className);
-    void forgetHost(COSInterface* host) noexcept;
-    void reportBound(void const* object) const noexcept;
+    void unbindUnrecorded(COSInterface const* host, COSNameID const& className, void const* object);
 
     /// The mapping erased last, entry and all: objects that come and go one after the other take no memory.
     node_type spare_;

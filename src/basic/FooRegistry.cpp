@@ -1,0 +1,202 @@
+#include "orbis/factory/basic/registry.hpp"
+
+#include "orbis/factory/CopyableSupport.hpp"
+#include "orbis/factory/basic/BindingRegistry.hpp"
+#include "orbis/factory/basic/HvmScoped.hpp"
+#include "orbis/factory/detail/bindings.hpp"
+
+#include "basic/HostDependents.hpp"
+
+#include "additions/additions.hpp"
+
+#include <utility>
+
+namespace orbis::factory::basic {
+
+FooRegistry::FooRegistry() : observer_(*this)
+{
+    if (additions::reportsLeaks())
+        requireDependents().history = std::make_unique<BindingHistory>();
+    additions::observeObjects(&observer_);
+}
+
+FooRegistry::~FooRegistry()
+{
+    additions::observeObjects(nullptr);
+    // Left entries are reclaimed without a word to their host objects, which may be gone.
+    for (auto const& [object, entry] : *this) {
+        if (history())
+            history()->report(object);
+        delete entry;
+    }
+    if (spare_)
+        delete spare_.mapped();
+}
+
+HostDependents& FooRegistry::requireDependents()
+{
+    if (!dependents)
+        dependents = std::make_unique<HostDependents>();
+    return *dependents;
+}
+
+BindingHistory* FooRegistry::history() const noexcept
+{
+    return dependents ? dependents->history.get() : nullptr;
+}
+
+bool FooRegistry::bind(void* object, COSInterface* host, COSNameID const& className)
+{
+    if (history()) [[unlikely]]
+        history()->remember(*this, object, host, className);
+    if (!spare_) [[unlikely]]
+        return bindFirst(object, host);
+    *spare_.mapped() = RegistryEntry(object, host);
+    spare_.key() = object;
+    insert(end(), std::move(spare_)); // with a place given, what is not inserted stays where it is
+    return spare_.empty() || isBoundTo(object, host);
+}
+
+/// The same where no mapping is kept.
+[[gnu::noinline]] bool FooRegistry::bindFirst(void* object, COSInterface* host)
+{
+    auto entry = std::make_unique<RegistryEntry>(object, host);
+    if (!emplace(object, entry.get()).second)
+        return isBoundTo(object, host);
+    static_cast<void>(entry.release());
+    return true;
+}
+
+[[gnu::noinline]] bool FooRegistry::isBoundTo(void const* object, COSInterface const* host) const noexcept
+{
+    auto const found = find(object);
+    return found != end() && found->second->host == host;
+}
+
+bool FooRegistry::bindInPlaceOf(void const* previous, void* object, COSInterface* host, COSNameID const& className)
+{
+    if (previous && previous != object && isBoundTo(previous, host))
+        requireDependents().superseded.emplace(host, previous);
+    return !object || bind(object, host, className);
+}
+
+void FooRegistry::record(COSInterface* host, COSNameID const& className, void* object)
+{
+    try {
+        host->setNativeObject(className, object);
+    } catch (...) {
+        unbindUnrecorded(host, className, object);
+        throw;
+    }
+}
+
+[[gnu::noinline]] void FooRegistry::unbindUnrecorded(COSInterface const* host, COSNameID const& className,
+                                                     void const* object)
+{
+    if (host->getNativeObject(className) != object)
+        unbind(object, host);
+}
+
+bool FooRegistry::take(void const* object, COSInterface const* host, COSInterface*& bound) noexcept
+{
+    node_type mapping = extract(object);
+    if (!mapping) [[unlikely]]
+        return false;
+    bound = mapping.mapped()->host;
+    if (bound != host && host) [[unlikely]] {
+        putBack(std::move(mapping));
+        return false;
+    }
+    if (!spare_) [[likely]]
+        spare_ = std::move(mapping);
+    else
+        delete mapping.mapped();
+    return true;
+}
+
+/// Nothing can fail: there is room for what was there.
+[[gnu::noinline]] void FooRegistry::putBack(node_type mapping) noexcept
+{
+    insert(end(), std::move(mapping));
+}
+
+bool FooRegistry::erase(void const* object, COSInterface const* host) noexcept
+{
+    COSInterface* bound;
+    if (!take(object, host, bound))
+        return false;
+    if (history())
+        history()->forget(object);
+    return true;
+}
+
+bool FooRegistry::unbind(void const* object, COSInterface const* host) noexcept
+{
+    COSInterface* bound;
+    if (!take(object, host, bound)) [[unlikely]]
+        return false;
+    if (dependents) [[unlikely]]
+        dependents->forgetBinding(object, bound);
+    return true;
+}
+
+void FooRegistry::Observer::nativeForgotten(COSInterface* host, void const* native, bool isDestroyed) noexcept
+{
+    if (!table_.isBoundTo(native, host))
+        return;
+    if (isDestroyed && table_.history())
+        table_.history()->report(native);
+    table_.erase(native, host);
+}
+
+void FooRegistry::Observer::objectGone(COSInterface* host) noexcept
+{
+    if (table_.dependents && !table_.dependents->empty())
+        table_.dependents->forgetHost(table_, host);
+}
+
+void FooRegistry::Observer::callBoundary() noexcept
+{
+    if (table_.dependents)
+        table_.dependents->handles.releaseDeferred();
+}
+
+FooRegistry& registry()
+{
+    return HvmScoped<FooRegistry>::get();
+}
+
+} // namespace orbis::factory::basic
+
+namespace orbis::factory {
+
+namespace {
+
+/// Stale binding: the previous object at the address was destroyed without `retract`, or the constructor itself handed
+/// its object out. With two host objects, the end of one would leave the other one on freed memory.
+[[gnu::noinline]] void rebind(COSInterface* host, COSNameID const& className, void* object)
+{
+    basic::BindingRegistry::retract(object);
+    basic::registry().bind(object, host, className);
+}
+
+} // namespace
+
+// These two are on the way of every object from its construction to its end: what they call stands in them.
+[[gnu::flatten]] void detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object)
+{
+    basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
+    if (table.isAnyUnconstructed) [[unlikely]]
+        CopyableSupport::removeFromUnconstructedSet(object);
+    if (!table.bind(object, host, className)) [[unlikely]]
+        rebind(host, className, object);
+    table.record(host, className, object);
+}
+
+[[gnu::flatten]] void* detail::forgetBinding(COSInterface const* host, void* object)
+{
+    basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
+    return table.unbind(object, host) ? object : nullptr;
+}
+
+} // namespace orbis::factory
