@@ -144,54 +144,37 @@ TEST_F(PropertyTest, EachMisuseHasAnErrorOfItsOwn)
 
 namespace {
 
-/// Notes each question that it is asked.
-struct Asked final : described::Property {
-    static std::string questions;
-
-    template <class T>
-    static T note(char const* question, T answer)
-    {
-        questions.append(question).append(" ");
-        return answer;
+// The questions in the order of their declaration; the answers alternate, so that none stands in another's place
+// unnoticed.
+// clang-format off
+#define QUESTIONS(ask)                                                                                                 \
+    ask(char const*, getName, "asked") ask(char const*, getDescription, "short")                                       \
+    ask(char const*, getDetailedDescription, "long") ask(COSValue, getDefaultValue, COSValue(1))                       \
+    ask(orbis::COSDataTypePtr, getDataType, "double scalar") ask(Access, getMemberGetAccess, Access::Public)           \
+    ask(Extended, getExtendedGetAccess, Extended::None) ask(Access, getMemberSetAccess, Access::Protected)             \
+    ask(Extended, getExtendedSetAccess, Extended::None) ask(bool, isSealed, true) ask(bool, hasInternalDefault, true)  \
+    ask(bool, isInitAllowed, false) ask(bool, isDefaultAllowed, true) ask(bool, isResetAllowed, false)                 \
+    ask(bool, isAbstract, false) ask(bool, isTransient, true) ask(bool, isCopyAllowed, false)                          \
+    ask(bool, isWarnOnCopyError, true) ask(bool, isListenerGetAllowed, false) ask(bool, isListenerSetAllowed, true)    \
+    ask(bool, isInspectAllowed, false) ask(bool, isAbortSet, true) ask(bool, isVisible, false)                         \
+    ask(bool, isNeverAmbiguous, true) ask(double, getPartialMatchPriority, 2.5) ask(bool, isStatic, false)             \
+    ask(bool, isDependent, true) ask(bool, isGrandfathered, false) ask(bool, isWeakReference, true)                    \
+    ask(bool, canContainInterfaces, false) ask(bool, isDestructible, true)
+// clang-format on
+#define NAME_OF(type, question, answer) #question " "
+#define ANSWERED(type, question, answer)                                                                               \
+    type question() const override                                                                                     \
+    {                                                                                                                  \
+        return questions.append(#question " "), answer;                                                                \
     }
 
+/// Notes each question that it is asked.
+struct Asked final : described::Property {
     using Access = orbis::MemberAccess;
     using Extended = orbis::ExtendedMemberAccess;
-
-    char const* getName() const override { return note("name", "asked"); }
-    char const* getDescription() const override { return note("description", "short"); }
-    char const* getDetailedDescription() const override { return note("detailed", "long"); }
-    COSValue getDefaultValue() const override { return note("default", COSValue(1)); }
-    orbis::COSDataTypePtr getDataType() const override { return note("type", "double scalar"); }
-    Access getMemberGetAccess() const override { return note("get", Access::Public); }
-    Extended getExtendedGetAccess() const override { return note("extendedGet", Extended::None); }
-    Access getMemberSetAccess() const override { return note("set", Access::Protected); }
-    Extended getExtendedSetAccess() const override { return note("extendedSet", Extended::None); }
-    bool isSealed() const override { return note("sealed", true); }
-    bool hasInternalDefault() const override { return note("internalDefault", true); }
-    bool isInitAllowed() const override { return note("init", false); }
-    bool isDefaultAllowed() const override { return note("defaultAllowed", true); }
-    bool isResetAllowed() const override { return note("reset", false); }
-    bool isAbstract() const override { return note("abstract", false); }
-    bool isTransient() const override { return note("transient", true); }
-    bool isCopyAllowed() const override { return note("copy", false); }
-    bool isWarnOnCopyError() const override { return note("warn", true); }
-    bool isListenerGetAllowed() const override { return note("listenGet", false); }
-    bool isListenerSetAllowed() const override { return note("listenSet", true); }
-    bool isInspectAllowed() const override { return note("inspect", false); }
-    bool isAbortSet() const override { return note("abort", true); }
-    bool isVisible() const override { return note("visible", false); }
-    bool isNeverAmbiguous() const override { return note("neverAmbiguous", true); }
-    double getPartialMatchPriority() const override { return note("priority", 2.5); }
-    bool isStatic() const override { return note("static", false); }
-    bool isDependent() const override { return note("dependent", true); }
-    bool isGrandfathered() const override { return note("grandfathered", false); }
-    bool isWeakReference() const override { return note("weak", true); }
-    bool canContainInterfaces() const override { return note("interfaces", false); }
-    bool isDestructible() const override { return note("destructible", true); }
+    inline static std::string questions;
+    QUESTIONS(ANSWERED)
 };
-
-std::string Asked::questions;
 
 } // namespace
 
@@ -200,14 +183,10 @@ TEST_F(PropertyTest, TheDescriptorIsAskedOnceInTheOrderOfItsDeclaration)
     publish(new Class("R", [](orbis::COSClass* cls) { cls->addProperty(new Asked); }));
     Asked::questions.clear();
     velmara::PropertyRecord const record = hvm().describeClass("R").properties.at(0);
-    EXPECT_EQ(Asked::questions,
-              "name description detailed default type get extendedGet set extendedSet sealed internalDefault init "
-              "defaultAllowed reset abstract transient copy warn listenGet listenSet inspect abort visible "
-              "neverAmbiguous priority static dependent grandfathered weak interfaces destructible ");
+    EXPECT_EQ(Asked::questions, QUESTIONS(NAME_OF));
     EXPECT_EQ(record.detailedDescription, "long");
     EXPECT_EQ(record.setAccess, orbis::MemberAccess::Protected);
     EXPECT_EQ(record.partialMatchPriority, 2.5);
-    // The answers alternate, so that none stands in another's place unnoticed.
     EXPECT_TRUE(record.hasDefault && record.isSealed && record.hasInternalDefault && record.isDefaultAllowed &&
                 record.isTransient && record.isWarnOnCopyError && record.isListenerSetAllowed && record.isAbortSet &&
                 record.isNeverAmbiguous && record.isDependent && record.isWeakReference && record.isDestructible);

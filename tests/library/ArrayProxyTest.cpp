@@ -97,6 +97,7 @@ struct Shelf {
     static hvArray* kept;
 
     hvArrayProxy const& byReference() const { return array; }
+    hvArrayProxy echo(hvArrayProxy given) const { return given; }
 
     hvArrayProxy const array = kept;
     std::optional<hvConstArrayProxy> const optional = kept;
@@ -122,7 +123,10 @@ TEST_F(ArrayProxyTest, ArraysThatAreNotNewStayWhoseTheyWere)
             .property("byReference", &Shelf::byReference)
             .property("none", &Shelf::none)
             .staticMethod("refer", [](hvArrayProxy const& a) -> hvArrayProxy const& { return a; })
+            .method("echo", &Shelf::echo)
             .staticMethod("wrap", [](hvArrayProxy a) { return std::optional(a); })
+            .staticMethod(
+                "make", [](int) { return hvArrayProxy(hvCreateString("made")); }, "a", withDefaults(1))
             .staticMethod("pass", [](std::optional<hvConstArrayProxy> const& a) { return a; })
             .staticMethod(
                 "choose", [](Counted a) { return std::optional<hvArrayProxy>(a()); }, "a",
@@ -138,6 +142,8 @@ TEST_F(ArrayProxyTest, ArraysThatAreNotNewStayWhoseTheyWere)
         for (char const* const function : {"refer", "wrap", "pass", "choose"})
             EXPECT_EQ(hvm().callStatic("tests.Shelf", function, inputs(given)).get(), given.get());
         EXPECT_EQ(hvm().callStatic("tests.Shelf", "choose").get(), kept.get());
+        EXPECT_EQ(hvm().call(shelf.get(), "echo", inputs(given)).get(), given.get());
+        EXPECT_EQ(texts::textOf(hvm().callStatic("tests.Shelf", "make")), u"made");
         EXPECT_EQ(velmara::liveCounts(), before);
     }
 }

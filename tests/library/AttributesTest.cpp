@@ -90,6 +90,11 @@ TEST(PropertyAttributes, EachFlagSetsItsOwnAnswer)
         EXPECT_FALSE((P().*set.predicate)());
         EXPECT_TRUE(set.attributes.isVisible());
     }
+    P changed;
+    changed += P::Sealed();
+    changed |= P::Static();
+    changed -= P::Static();
+    EXPECT_TRUE(changed.isSealed() && !changed.isStatic());
     EXPECT_TRUE(P::CanContainInterfaces().canContainInterfaces());
     EXPECT_FALSE(P::Hidden().isVisible());
     EXPECT_EQ(P::DESTRUCTIBLE, 0x10000u);

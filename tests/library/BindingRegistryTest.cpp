@@ -1,6 +1,7 @@
 #include "HvmTest.hpp"
 #include "library/Plain.hpp"
 
+#include "orbis/factory/check.hpp"
 #include "orbis/factory/detail/bindings/hostShares.hpp"
 #include "orbis/factory/ownership/BindingRegistry.hpp"
 #include "orbis/factory/ownership/CopyableSupport.hpp"
@@ -65,6 +66,7 @@ TEST_F(BindingRegistryTest, EachWayToAnnounceGivesTheSameHostObject)
 
 TEST_F(BindingRegistryTest, NullIsNoObject)
 {
+    EXPECT_FALSE(BindingRegistry::retract(nullptr)) << "without a table";
     bool created = true;
     ArrayPtr const none(BindingRegistry::announce(static_cast<void*>(nullptr), plain(), created));
     EXPECT_FALSE(created);
@@ -72,7 +74,7 @@ TEST_F(BindingRegistryTest, NullIsNoObject)
     EXPECT_EQ(velmara::className(none.get()), "tests.Plain");
     EXPECT_EQ(static_cast<COSInterface*>(BindingRegistry::announceInternal(nullptr, plain(), created)), nullptr);
     EXPECT_TRUE(basic::registry().empty());
-    EXPECT_FALSE(BindingRegistry::release(nullptr));
+    EXPECT_FALSE(BindingRegistry::release(nullptr) || BindingRegistry::retract(nullptr));
     EXPECT_FALSE(RawClassPointerMarshaler::toCosi(nullptr).hasMoreElements());
 }
 
@@ -113,6 +115,7 @@ TEST_F(BindingRegistryTest, HijackMovesOnlyTheBindingOfTheSameHostObject)
 
     BindingRegistry::hijack(&other, &q, hostOf(second), plain());
     EXPECT_EQ(BindingRegistry::find(&q), host) << "a bound address keeps its entry";
+    EXPECT_EQ(check(), "") << "which is done on purpose";
     EXPECT_FALSE(BindingRegistry::contains(&other));
     BindingRegistry::hijack(&q, &q, host, plain());
     EXPECT_EQ(BindingRegistry::find(&q), host);

@@ -43,10 +43,7 @@ struct Counted {
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Counted> {
-    static constexpr char const* name = "tests.Counted";
-};
+PUBLISHED_IN_TESTS(Counted)
 
 namespace {
 
@@ -165,6 +162,23 @@ TYPED_TEST(SharedClassInfoTest, AnObjectThatEndedUntoldIsNotAsked)
     EXPECT_TRUE(basic::registry().empty());
 }
 
+TYPED_TEST(SharedClassInfoTest, TheKeptReferenceIsOfTheHostObjectThatIsBound)
+{
+    using Object = Shared<TypeParam>;
+    publishClass<Object, typename TypeParam::template Info<Object>>([](auto& c) { c.constructor(); });
+    typename Object::Pointer const object(new Object);
+    object->type = SharingType::HostKept;
+    acquireReference(object.get());
+    auto const announce = [&] { return full::BindingRegistry::announce(object.get(), COSNameID(TypeParam::name)); };
+    ArrayPtr first(announce());
+    full::BindingRegistry::release(object.get());
+    ArrayPtr second(announce());
+    first.reset();
+    EXPECT_EQ(object.use_count(), 2);
+    second.reset();
+    EXPECT_EQ(object.use_count(), 1);
+}
+
 // A value class.
 struct Amount {
     Amount() { ++alive; }
@@ -185,15 +199,17 @@ struct Amount {
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Amount> {
-    static constexpr char const* name = "tests.Amount";
-    using Policy = ValuePolicy;
-};
+PUBLISHED_IN_TESTS(Amount, using Policy = ValuePolicy;)
 
 namespace {
 
 using AmountInfo = Described<Amount, NonHandleClassInfo<Amount, Amount>>;
+
+/// Leaves it to the constructors to make a value.
+struct LateInfo : NonHandleClassInfo<Amount, Amount> {
+    using NonHandleClassInfo::NonHandleClassInfo;
+    void* createInstanceData() override { return nullptr; }
+};
 
 void describeAmount(ClassDescriber<Amount>& amount)
 {
@@ -206,6 +222,11 @@ void describeAmount(ClassDescriber<Amount>& amount)
         .method("orNull", &Amount::orNull)
         .method("isWaiting", &Amount::isWaiting)
         .staticMethod("ofOrMinusOne", &Amount::ofOrMinusOne)
+        .staticMethod("ofAnother",
+                      [](Amount const&) {
+                          ArrayPtr const none(omCreateORBISMatrix(0, 0, "tests.Amount"));
+                          return detail::Argument<Amount const&>(COSValue(none.get())).get().value;
+                      })
         .property("twin", &Amount::same, &Amount::add);
 }
 
@@ -255,6 +276,7 @@ TEST_F(ValueClassTest, NullIsForPointersOnly)
     expectMessage([&] { call(one, "add", none.get()); },
                   {"orbis_factory:orbis_factory:null_input: Input \"p0\" must be"});
     expectMessage([&] { hvm().set(one.get(), "twin", none.get()); }, {":null_input: The value must be an object"});
+    expectMessage([&] { hvm().callStatic("tests.Amount", "ofAnother", inputs(one)); }, {":null_input: The value must"});
     EXPECT_EQ(call(one, "orNull", number(1).get())->get_number_of_elements(), 0u);
     EXPECT_EQ(valueOf(call(one, "orNull", number(0).get())), 1);
 }
@@ -273,6 +295,15 @@ TEST_F(ValueClassTest, TheNativeValueGoesWithItsHostObject)
     EXPECT_EQ(Amount::alive, 1);
     endHvm();
     EXPECT_EQ(Amount::alive, 0);
+}
+
+TEST_F(ValueClassTest, AConstructorMakesTheValueThatIsNotThere)
+{
+    COSPackage::removePackage("tests");
+    publishClass<Amount, LateInfo>(&describeAmount);
+    ArrayPtr const three = amount(3);
+    EXPECT_EQ(valueOf(three), 3);
+    EXPECT_EQ(errorOf([&] { hvm().call(three.get(), "same"); }), "orbis_factory:orbis_factory:null_self");
 }
 
 } // namespace

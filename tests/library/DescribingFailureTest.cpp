@@ -69,12 +69,17 @@ public:
     COSInterfacePtr newInstance() override { return {}; }
     void initializeInstance(COSInterfacePtr) override {}
 
+    bool isSilent = false; ///< what it throws says nothing
+
 private:
     template <class Descriptor>
     void take(std::unique_ptr<Descriptor>)
     {
-        if (left_-- == 0)
-            throw std::runtime_error("refused");
+        if (left_-- != 0)
+            return;
+        if (isSilent)
+            throw 1;
+        throw std::runtime_error("refused");
     }
 
     int left_;
@@ -89,12 +94,15 @@ TEST_F(DescribingFailureTest, TheNthMemberIsNamed)
     velmara::LiveCounts const before = velmara::liveCounts();
     for (int n = 0; n < 6; ++n) {
         RefusingClass cls(n);
+        cls.isSilent = n % 2 == 1;
         try {
             publish(&cls, description);
             ADD_FAILURE() << members[n];
         } catch (foundation::core::except::IMsgIDException const& error) {
             EXPECT_EQ(error.getErrorID(), "orbis_factory:orbis_factory:member_not_published");
-            EXPECT_EQ(error.getArguments(), (std::vector<std::string>{members[n], "refused"}));
+            EXPECT_EQ(error.getArguments(),
+                      (std::vector<std::string>{members[n], cls.isSilent ? "something that is no exception was thrown"
+                                                                         : "refused"}));
         }
         EXPECT_EQ(velmara::liveCounts(), before) << members[n];
     }

@@ -58,6 +58,10 @@ struct Branch : Node {
 // Below a class that is published nowhere.
 struct Stray : Node {};
 
+// Published in a package of its own; what is below it, is not.
+struct Twig : Node {};
+struct LongTwig : Twig {};
+
 // A hierarchy of wrappable classes needs no root of its own; it is a diamond.
 struct Part : full::Wrappable {
     int id() const { return number; }
@@ -67,6 +71,7 @@ struct Part : full::Wrappable {
 struct Wheel : virtual Part {};
 struct Motor : virtual Part {};
 struct Wheelmotor : Wheel, Motor {};
+struct Sidecar : Wheelmotor {};
 
 } // namespace
 
@@ -74,6 +79,11 @@ PUBLISHED_IN_TESTS(Node, using Root = Node;)
 PUBLISHED_IN_TESTS(Leaf, using Root = Node;)
 PUBLISHED_IN_TESTS(Branch, using Root = Node;)
 PUBLISHED_IN_TESTS(Part)
+template <>
+struct orbis::factory::HostClass<Twig> {
+    static constexpr char const* name = "twigs.Twig";
+    using Root = Node;
+};
 PUBLISHED_IN_TESTS(Wheel)
 PUBLISHED_IN_TESTS(Motor)
 PUBLISHED_IN_TESTS(Wheelmotor)
@@ -200,14 +210,25 @@ TEST_F(HierarchyTest, VirtualBasesAreBoundAsWrappable)
     for (char const* const id : {"id", "own"})
         EXPECT_EQ(scalar<std::int32_t>(hvm().call(object.get(), id)), 8);
     EXPECT_TRUE(velmara::isSameObject(hvm().call(object.get(), "self").get(), object.get()));
+    EXPECT_EQ(velmara::className(announce<Part>(new Sidecar).get()), "tests.Wheelmotor") << "the nearest of three";
 }
 
 TEST_F(HierarchyTest, WhatIsUnpublishedIsNoLongerFound)
 {
+    registerOrbisPackage("twigs", [](COSPackage* package) {
+        package->addClass(new Described<Twig>([](auto& c) { c.constructor().template inherits<Node>(); }));
+    });
+    EXPECT_EQ(velmara::className(next(new LongTwig).get()), "twigs.Twig");
+    COSPackage::removePackage("twigs");
+    EXPECT_EQ(velmara::className(next(new LongTwig).get()), "tests.Node");
     EXPECT_EQ(velmara::className(next(new Leaf).get()), "tests.Leaf");
     COSPackage::removePackage("tests");
     publishClass<Node>(&describeNode);
-    EXPECT_EQ(velmara::className(next(new Leaf).get()), "tests.Node");
+    EXPECT_EQ(velmara::className(next(new Bud).get()), "tests.Node");
+    COSPackage::getPackage("tests")->addClass(
+        new Described<Leaf>([](auto& c) { c.constructor().template inherits<Node>(); }));
+    static_cast<void>(hvm().describeClass("tests.Leaf"));
+    EXPECT_EQ(velmara::className(next(new Bud).get()), "tests.Leaf");
 }
 
 TEST_F(HierarchyTest, WhatCannotBeDescribedIsUnpublished)

@@ -153,6 +153,8 @@ TEST_F(NumericVectorTest, NothingIsCopiedThatNeedNotBe)
     EXPECT_EQ(seen, additions::getData(array.get()));
     EXPECT_EQ(scalar<double>(call("sum", matrix<std::int8_t>(1, 2, {-1, 3}))), 2.0);
     EXPECT_EQ(scalar<std::int16_t>(call("tail", matrix<std::int16_t>(2, 1, {5, 6}))), 6);
+    EXPECT_TRUE(detail::elementsOf<double>(nullptr).empty());
+    EXPECT_THROW(detail::elementsOf<float>(array.get()), std::invalid_argument) << "which the host never does";
 
     COSValue const slot(array.get());
     detail::ArgumentsOf<Reals> argument(&slot);

@@ -29,18 +29,9 @@ struct Ringed;
 
 } // namespace
 
-template <>
-struct orbis::factory::HostClass<Ringed> {
-    static constexpr char const* name = "tests.Ringed";
-};
-template <>
-struct orbis::factory::HostClass<Floating> {
-    static constexpr char const* name = "tests.Floating";
-};
-template <>
-struct orbis::factory::HostClass<Linked> {
-    static constexpr char const* name = "tests.Linked";
-};
+PUBLISHED_IN_TESTS(Ringed)
+PUBLISHED_IN_TESTS(Floating)
+PUBLISHED_IN_TESTS(Linked)
 
 namespace {
 
@@ -174,6 +165,14 @@ TEST_F(ObjectHandleTest, AHandleBelongsToOneBinding)
     delete first;
     EXPECT_EQ(handle.get(), nullptr);
     EXPECT_EQ(host->getExternalReferenceCount(), 1) << "only this one";
+    Tally beside;
+    Handle const kept(moved.get());
+    basic::BindingRegistry::hijack(&beside, &beside, host, COSNameID("tests.Tally"));
+    handle.reset(&beside);
+    EXPECT_EQ(host->getExternalReferenceCount(), 3);
+    basic::BindingRegistry::release(&beside);
+    EXPECT_TRUE(!handle && kept.get() == moved.get()) << "a binding ends with its own handles";
+    EXPECT_EQ(host->getExternalReferenceCount(), 2);
     basic::BindingRegistry::release(moved.get());
 
     auto* const here = new Tally;
@@ -185,7 +184,7 @@ TEST_F(ObjectHandleTest, AHandleBelongsToOneBinding)
         handle.reset(new Tally);
         EXPECT_NE(handle.get(), nullptr);
     }
-    EXPECT_EQ(Tally::alive, 2);
+    EXPECT_EQ(Tally::alive, 3);
     EXPECT_EQ(handle.get(), nullptr) << "what it referred to has ended";
     EXPECT_EQ(references(here), 1);
 }

@@ -11,11 +11,12 @@ namespace {
 
 TEST(ParameterNamer, NamesFollowTheirList)
 {
-    ParameterNamer const namer("a b c,,\td");
-    std::string joined = namer.getOutputParameter(7).c_str();
-    for (unsigned int i = 1; i <= 4; ++i)
-        joined += std::string(" ") + namer.getInputParameter(i).c_str();
-    EXPECT_EQ(joined, "result abc  \td p3");
+    for (ParameterNamer const& namer : {ParameterNamer("a b c,,\td"), ParameterNamer(std::string("a b c,,\td"))}) {
+        std::string joined = namer.getOutputParameter(7).c_str();
+        for (unsigned int i = 1; i <= 4; ++i)
+            joined += std::string(" ") + namer.getInputParameter(i).c_str();
+        EXPECT_EQ(joined, "result abc  \td p3");
+    }
     for (ParameterNamer const& unnamed : {ParameterNamer(nullptr), ParameterNamer(""), ParameterNamer(std::string())})
         EXPECT_STREQ(unnamed.getInputParameter(1).c_str(), "p0");
     EXPECT_STREQ(ParameterNamer(" ").getInputParameter(1).c_str(), "");

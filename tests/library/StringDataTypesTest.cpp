@@ -32,10 +32,14 @@ int registered()
 ArrayPtr converted(char const* type, hvArray* array, bool toHost)
 {
     COSTypeConversion* const conversion = COSTypeRepository::getConversion("any", type);
-    hvArray* out = nullptr;
+    auto* out = reinterpret_cast<hvArray*>(conversion); // is written in any case
     toHost ? conversion->convertToHost(&out, array) : conversion->convertFromHost(&out, array);
     return ArrayPtr(out);
 }
+
+struct Header : hvArray_tag {
+    static constexpr auto flags = &Header::flags_;
+};
 
 using StringDataTypesTest = HvmTest;
 
@@ -152,6 +156,7 @@ TEST_F(StringDataTypesTest, ConversionsTakeWhatTheyShouldAndShareData)
                 EXPECT_EQ(additions::getData(back.get()), additions::getData(array.get()));
                 ArrayPtr const copy(COSDataTypePtr(type)->copyValue(COSValue(array.get())).array());
                 EXPECT_NE(additions::getData(copy.get()), additions::getData(array.get())) << "values stand apart";
+                EXPECT_EQ(copy.get()->*Header::flags & 0x200U, 0U) << "nor are they a call's temporaries";
             }
         }
     }

@@ -36,7 +36,13 @@ ArrayPtr handedOut(T value)
 
 TEST_F(StringPolicyTest, GeneratedTextCrossesBothWays)
 {
-    std::vector<std::u16string> inputs = {u"", std::u16string(u"\u00E9\u00E9\0a", 4), u"twelve chars", u"\xD800x"};
+    std::vector<std::u16string> inputs = {u"",
+                                          std::u16string(u"\u00E9\u00E9\0a", 4),
+                                          u"twelve chars",
+                                          u"\xD800x",
+                                          // as long in bytes up to the zero as in characters with it
+                                          {u"\u00E9 and twelve\0", 13},
+                                          {u"twelve and \u00E9\0", 13}};
     std::mt19937 random(7);
     for (int i = 0; i < 500; ++i)
         inputs.push_back(anyText(random));

@@ -1,6 +1,7 @@
 #include "HvmTest.hpp"
 #include "library/publishClass.hpp"
 
+#include "orbis/factory/detail/bindings/hostShares.hpp"
 #include "orbis/factory/ownership/BindingRegistry.hpp"
 
 #include "orbis/objectArrays.hpp"
@@ -86,6 +87,18 @@ TEST_F(WrappableTest, ConstructorsStoreTheBinding)
     EXPECT_FALSE(created);
     ArrayPtr const none(BindingRegistry::announce(nullptr, name()));
     EXPECT_EQ(none->get_number_of_elements(), 0u);
+    EXPECT_TRUE(BindingRegistry::release(&thing));
+    EXPECT_FALSE(BindingRegistry::retract(&thing));
+}
+
+TEST_F(WrappableTest, WhatIsSharedIsNotDeletedToo)
+{
+    publishClass<Thing>([](auto& c) { c.constructor(); });
+    auto const owner = std::make_shared<Thing>();
+    ArrayPtr array = announce(owner.get());
+    detail::shareWithHost(array.get(), std::shared_ptr<void>(owner));
+    array.reset();
+    EXPECT_TRUE(owner.use_count() == 1 && Thing::alive == 1);
 }
 
 TEST_F(WrappableTest, AnObjectOfAnotherClassIsNull)
