@@ -45,7 +45,7 @@ using SetterValue = typename ValueAmong<typename CallableTraits<S>::Parameters>:
 template <class T, class S>
 using SetterOfMethod =
     SetterOf<SetterValue<S>, typename CallableTraits<S>::template PointerIn<T>,
-                   impl::ClassSetter<SetterValue<S>, T, typename CallableTraits<S>::template PointerIn<T>>>;
+             impl::ClassSetter<SetterValue<S>, T, typename CallableTraits<S>::template PointerIn<T>>>;
 
 template <class T, MethodOf<T> S>
     requires(CallableTraits<S>::arity == 1)
@@ -57,8 +57,7 @@ struct SetterTraits<T, M C::*>
     : SetterOf<M, MemberPointerIn<M C::*, M T::*>, impl::ClassSetter<M, T, MemberPointerIn<M C::*, M T::*>>> {};
 
 template <class T, class S, class Pointer = typename CallableTraits<S>::Pointer>
-using SetterOfFunctionOn =
-    SetterOf<SetterValue<S>, Pointer, impl::AdaptedClassSetter<SetterValue<S>, T, Pointer>>;
+using SetterOfFunctionOn = SetterOf<SetterValue<S>, Pointer, impl::AdaptedClassSetter<SetterValue<S>, T, Pointer>>;
 
 template <class T, FunctionOn<T> S>
     requires(CallableTraits<S>::arity == 2)
