@@ -23,7 +23,6 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     FooRegistry& operator=(FooRegistry const&) = delete;
     ~FooRegistry();
 
-    /// Returns whether `object` is bound to `host`.
     bool isBoundTo(void const* object, COSInterface const* host) const noexcept;
 
     /// Adds an entry for `object`, unless it has one. Returns false if that is to another host object. The caller must
