@@ -34,7 +34,8 @@ bool isPublished(char const* hostName)
     return findDescribed(hostName).value_or(nullptr) != nullptr;
 }
 
-/// Looks up each class, and removes the names whose look-up succeeded; the others are tried again next time.
+/// Looks up each class, and removes the names whose look-up succeeded; the others are tried again next time. Works on a
+/// separate set, because a look-up may add names, and merges the rest back even if it throws.
 void lookUp(std::set<std::string>& names, char const* suffix)
 {
     struct Pending {
@@ -43,7 +44,7 @@ void lookUp(std::set<std::string>& names, char const* suffix)
         Pending& operator=(Pending const&) = delete;
         ~Pending() { outer.merge(names); }
 
-        std::set<std::string>& outer; ///< looking classes up may add to it
+        std::set<std::string>& outer;
         std::set<std::string> names;
     } pending(names);
     for (auto name = pending.names.begin(); name != pending.names.end();)

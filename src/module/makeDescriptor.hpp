@@ -62,7 +62,7 @@ private:
     int objects_; ///< the number of leading inputs without a name
 };
 
-/// Creates the descriptor of a member from `arguments`.
+/// Creates the descriptor of a member from `arguments`, as the simplest of these classes that suffices.
 template <class Descriptor, class... A>
 std::unique_ptr<Descriptor> makeDescriptor(MemberRecord const& record, A&&... arguments)
 {

@@ -62,7 +62,8 @@ private:
     Held held_;
 };
 
-/// The arguments of a call, converted from left to right.
+/// The arguments of a call, converted from left to right: bases are initialised in order, unlike the elements of a
+/// tuple.
 template <class Indices, class... T>
 class Arguments;
 

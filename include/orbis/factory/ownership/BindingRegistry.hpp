@@ -40,6 +40,7 @@ public:
     static hvArray* announceWithoutStoring(void* source, COSNameID const& className,
                                            void (*copy)(void* destination, void* source));
 
+    /// Returns whether the address is bound.
     static bool contains(void const* const object);
 
     /// Returns the bound host object, or null. The caller gets no reference, and must add one to keep it.

@@ -118,8 +118,8 @@ struct NoDefaults {
     }
 };
 
-/// Constructs the native object of the host object in `outputs[0]`. If the class info has created one already, that one
-/// is kept, and assigned a new value if the constructor has arguments.
+/// Constructs the native object of the host object in `outputs[0]`. If the class info has created one already, that is
+/// kept, and assigned a new value if the constructor has arguments.
 template <class T, class Parameters, class Completion = NoDefaults>
 struct ConstructorRoutine;
 

@@ -16,7 +16,6 @@ namespace orbis::factory::detail {
 
 struct NoFunction {};
 
-/// The first `Count` types of a list.
 template <std::size_t Count, class... A>
 auto firstOf(TypeList<A...>)
 {

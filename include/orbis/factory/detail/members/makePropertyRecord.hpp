@@ -53,7 +53,6 @@ struct DescribedGetter<T, NoAccess> {
 template <class T>
 struct DescribedSetter<T, NoAccess> : DescribedGetter<T, NoAccess> {};
 
-/// Returns the record of a property of `T` with a getter, a setter, or both.
 template <class T, class G, class S>
 PropertyRecord propertyRecord(char const* name, G const& getter, S const& setter, PropertyAttributes attributes)
 {
