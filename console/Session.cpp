@@ -2,7 +2,7 @@
 
 #include "ExitCode.hpp"
 #include "Output.hpp"
-#include "ScriptError.hpp"
+#include "lua/ScriptError.hpp"
 
 #include "velmara/LiveCounts.hpp"
 

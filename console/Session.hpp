@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ArrayStack.hpp"
-#include "GivenArrays.hpp"
-#include "LuaApi.hpp"
+#include "handles/ArrayStack.hpp"
+#include "handles/GivenArrays.hpp"
+#include "lua/LuaApi.hpp"
 
 #include "velmara/Hvm.hpp"
 

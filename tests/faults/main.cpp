@@ -2,10 +2,10 @@
 #include "faults.hpp"
 
 #include "Console.hpp"
-#include "ScriptError.hpp"
-#include "ScriptRunner.hpp"
 #include "Session.hpp"
-#include "ValueToHost.hpp"
+#include "lua/ScriptError.hpp"
+#include "scripts/ScriptRunner.hpp"
+#include "values/ValueToHost.hpp"
 
 #include "velmara/LiveCounts.hpp"
 

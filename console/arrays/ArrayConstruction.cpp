@@ -1,0 +1,126 @@
+#include "arrays/ArrayConstruction.hpp"
+
+#include "Session.hpp"
+#include "arrays/ArrayClass.hpp"
+#include "arrays/ArrayCopy.hpp"
+#include "arrays/ElementSource.hpp"
+#include "handles/HostArray.hpp"
+#include "handles/Nothing.hpp"
+#include "handles/NumericClass.hpp"
+#include "lua/ScriptError.hpp"
+#include "values/ArrayElement.hpp"
+
+#include "additions/additions.hpp"
+#include "libhv/libhv.hpp"
+#include "orbis/objectArrays.hpp"
+
+#include <algorithm>
+
+namespace velmara::console {
+
+namespace {
+
+ArrayPtr create(lua_State* L, ArrayClass const& made, Shape shape, Conversion& conversion)
+{
+    if (shape.columns != 0 && shape.rows > Conversion::mostBytes / shape.columns)
+        fail("memory", "a value of more than 1 GB cannot be made");
+    conversion.add(shape.rows * shape.columns, memoryOfElement(made.classID));
+    Hvm::Scope const scope(Session::of(L).hvm());
+    switch (made.classID) {
+    case hvCELL_CLASS:
+        return ArrayPtr(hvCreateCellMatrix(shape.rows, shape.columns));
+    case hvSTRING_CLASS:
+        return ArrayPtr(orbis::additions::createStringMatrix(shape.rows, shape.columns));
+    case hvOBJECT_CLASS:
+        return ArrayPtr(orbis::omCreateORBISMatrix(shape.rows, shape.columns, made.name.c_str()));
+    default:
+        return ArrayPtr(orbis::additions::createMatrix(shape.rows, shape.columns, made.classID));
+    }
+}
+
+std::size_t checkSize(lua_State* L, int index, char const* what)
+{
+    int isInteger = 0;
+    lua_Integer const size = lua_tointegerx(L, index, &isInteger);
+    if (lua_type(L, index) != LUA_TNUMBER || !isInteger || size < 0)
+        fail("size", std::string("the number of ") + what + " is a whole number from 0 on");
+    return static_cast<std::size_t>(size);
+}
+
+/// Arguments 3 and 4, or the values' own shape.
+Shape checkShape(lua_State* L, ElementSource const& source)
+{
+    if (lua_isnone(L, 3))
+        return source.shape();
+    Shape const shape{checkSize(L, 3, "rows"), checkSize(L, 4, "columns")};
+    bool const fits = shape.columns == 0
+                          ? source.count() == 0
+                          : source.count() % shape.columns == 0 && source.count() / shape.columns == shape.rows;
+    if (!fits && !source.isSingle())
+        fail("size", std::to_string(source.count()) + " values do not fill " + std::to_string(shape.rows) +
+                         " rows of " + std::to_string(shape.columns));
+    return shape;
+}
+
+/// Copies the first element of plain ones, whose bytes are all that there is to it, into the others.
+void repeatFirst(hvArray_tag* array, std::size_t size)
+{
+    auto* const bytes = static_cast<char*>(orbis::additions::getWritableData(array));
+    // What is zero is so from the start, and in a large array takes no memory until it is written to.
+    if (std::all_of(bytes, bytes + size, [](char byte) { return byte == 0; }))
+        return;
+    std::size_t const total = size * array->get_number_of_elements();
+    for (std::size_t done = size; done < total; done *= 2)
+        std::copy_n(bytes, std::min(done, total - done), bytes + done);
+}
+
+/// One value for all elements; `null` and `missing` are there from the start.
+void fill(lua_State* L, ElementSource const& source, hvArray_tag* array, Conversion& conversion)
+{
+    std::size_t const count = array->get_number_of_elements();
+    source.push(0);
+    int const value = lua_gettop(L);
+    if (count != 0)
+        storeElement(L, value, array, 0, conversion);
+    if (orbis::additions::getData(array) && count != 0)
+        repeatFirst(array, memoryOfElement(array->_get_class_id_non_trivial()));
+    else if (!isNull(L, value) && !isMissing(L, value))
+        for (std::size_t i = 1; i < count; ++i)
+            storeElement(L, value, array, i, conversion);
+    lua_pop(L, 1);
+}
+
+void store(lua_State* L, ElementSource const& source, hvArray_tag* array, Conversion& conversion)
+{
+    for (std::size_t i = 0; i < source.count(); ++i) {
+        source.push(i);
+        storeElement(L, lua_gettop(L), array, i, conversion);
+        lua_pop(L, 1);
+    }
+}
+
+} // namespace
+
+int makeArray(lua_State* L)
+{
+    luaL_checkstack(L, 8, nullptr);
+    lua_settop(L, std::min(lua_gettop(L), 4));
+    ArrayClass const made = checkArrayClass(L, 1);
+    Conversion conversion;
+    // Pushing elements may run finalizers of the script, which may end the process.
+    ArrayStack::Frame frame(Session::of(L).arrays());
+    ElementSource const source(L, 2, made.classID, frame);
+    Shape const shape = checkShape(L, source);
+    hvArray_tag* const array = frame.push(create(L, made, shape, conversion));
+    if (source.array() && className(source.array()) == made.name) {
+        Hvm::Scope const scope(Session::of(L).hvm());
+        copyElements(source.array(), array);
+    } else if (source.isSingle())
+        fill(L, source, array, conversion);
+    else
+        store(L, source, array, conversion);
+    pushHostArray(L, *array);
+    return 1;
+}
+
+} // namespace velmara::console

@@ -1,0 +1,73 @@
+#include "bindings/ModuleFunctions.hpp"
+
+#include "Session.hpp"
+#include "lua/ScriptError.hpp"
+
+#include <filesystem>
+#include <string>
+
+namespace velmara::console {
+
+namespace {
+
+std::string checkText(lua_State* L, int index)
+{
+    std::size_t length = 0;
+    char const* text = luaL_checklstring(L, index, &length);
+    return {text, length};
+}
+
+void setField(lua_State* L, char const* name, std::string const& text)
+{
+    pushText(L, text);
+    lua_setfield(L, -2, name);
+}
+
+int modules(lua_State* L)
+{
+    lua_newtable(L);
+    lua_Integer number = 0;
+    for (ModuleRecord const& module : Session::of(L).hvm().modules()) {
+        lua_newtable(L);
+        setField(L, "name", module.name);
+        setField(L, "version", module.version);
+        setField(L, "builddate", module.buildDate);
+        setField(L, "file", module.file);
+        lua_rawseti(L, -2, ++number);
+    }
+    return 1;
+}
+
+int loadModule(lua_State* L)
+{
+    std::string const file = checkText(L, 1);
+    pushText(L, Session::of(L).hvm().loadModule(std::u8string(file.begin(), file.end())).name);
+    return 1;
+}
+
+int unloadModule(lua_State* L)
+{
+    Session::of(L).hvm().unloadModule(checkText(L, 1));
+    return 0;
+}
+
+/// `withvm(function, ...)`: calls the function while a fresh virtual machine is in use.
+int withMachine(lua_State* L)
+{
+    luaL_checktype(L, 1, LUA_TFUNCTION);
+    Session::FreshMachine const machine(Session::of(L));
+    lua_call(L, lua_gettop(L) - 1, LUA_MULTRET);
+    return lua_gettop(L);
+}
+
+} // namespace
+
+void bindModuleFunctions(lua_State* L)
+{
+    lua_register(L, "modules", guarded<modules>);
+    lua_register(L, "loadmodule", guarded<loadModule>);
+    lua_register(L, "unloadmodule", guarded<unloadModule>);
+    lua_register(L, "withvm", guarded<withMachine>);
+}
+
+} // namespace velmara::console

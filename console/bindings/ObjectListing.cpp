@@ -1,0 +1,118 @@
+#include "bindings/ObjectListing.hpp"
+
+#include "Session.hpp"
+#include "lua/NamedMetatable.hpp"
+#include "lua/ScriptError.hpp"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+namespace velmara::console {
+
+namespace {
+
+constexpr std::size_t columnCount = 7;
+using Line = std::array<std::string, columnCount>;
+
+/// The fields of a record, and the list's heads.
+constexpr std::array<char const*, columnCount> fields = {"class",    "owner", "valid", "external",
+                                                         "internal", "weak",  "native"};
+
+void setField(lua_State* L, char const* name, std::string const& text)
+{
+    pushText(L, text);
+    lua_setfield(L, -2, name);
+}
+
+void setField(lua_State* L, char const* name, bool value)
+{
+    lua_pushboolean(L, value);
+    lua_setfield(L, -2, name);
+}
+
+void setField(lua_State* L, char const* name, int value)
+{
+    lua_pushinteger(L, value);
+    lua_setfield(L, -2, name);
+}
+
+void pushRecord(lua_State* L, ObjectRecord const& object)
+{
+    lua_createtable(L, 0, columnCount);
+    setField(L, "class", object.className);
+    setField(L, "owner", object.owner);
+    setField(L, "valid", object.isValid);
+    setField(L, "external", object.externalReferences);
+    setField(L, "internal", object.internalReferences);
+    setField(L, "weak", object.weakReferences);
+    setField(L, "native", object.nativeObject != nullptr);
+}
+
+/// The record on top; what a script has changed in it shows as it can.
+Line lineOf(lua_State* L)
+{
+    Line line;
+    if (lua_istable(L, -1))
+        std::ranges::transform(fields, line.begin(), [L](char const* field) {
+            lua_pushstring(L, field);
+            lua_rawget(L, -2);
+            bool const isText = lua_isstring(L, -1) != 0;
+            std::string text = isText ? lua_tostring(L, -1) : lua_toboolean(L, -1) ? "yes" : "no";
+            lua_pop(L, 1);
+            return text;
+        });
+    return line;
+}
+
+std::string aligned(std::vector<Line> const& lines)
+{
+    std::array<std::size_t, columnCount> widths{};
+    for (Line const& line : lines)
+        for (std::size_t i = 0; i < columnCount; ++i)
+            widths[i] = std::max(widths[i], line[i].size());
+    std::string text;
+    for (Line const& line : lines) {
+        std::string row = text.empty() ? "" : "\n";
+        for (std::size_t i = 0; i < columnCount; ++i)
+            row += line[i] + std::string(widths[i] - line[i].size() + 2, ' ');
+        row.resize(row.find_last_not_of(' ') + 1);
+        text += row;
+    }
+    return text;
+}
+
+int toText(lua_State* L)
+{
+    luaL_checktype(L, 1, LUA_TTABLE);
+    luaL_checkstack(L, 4, nullptr);
+    std::vector<Line> lines(1);
+    std::ranges::copy(fields, lines.front().begin());
+    for (lua_Integer i = 1; lua_rawgeti(L, 1, i) != LUA_TNIL; ++i, lua_pop(L, 1))
+        lines.push_back(lineOf(L));
+    pushText(L, lines.size() == 1 ? "no objects" : aligned(lines));
+    return 1;
+}
+
+} // namespace
+
+int listObjects(lua_State* L)
+{
+    luaL_checkstack(L, 6, nullptr);
+    std::vector<ObjectRecord> const objects = Session::of(L).hvm().objects();
+    lua_createtable(L, static_cast<int>(std::min<std::size_t>(objects.size(), 1U << 20)), 0);
+    lua_Integer number = 0;
+    for (ObjectRecord const& object : objects) {
+        pushRecord(L, object);
+        lua_rawseti(L, -2, ++number);
+    }
+    pushNamedMetatable(L, "velmara.objects", [L] {
+        lua_pushcfunction(L, guarded<toText>);
+        lua_setfield(L, -2, "__tostring");
+    });
+    lua_setmetatable(L, -2);
+    return 1;
+}
+
+} // namespace velmara::console

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "lua/LuaApi.hpp"
+
+namespace velmara::console {
+
+/// `objects()` as a function for Lua, to be guarded: pushes a sequence of what is told of each live object, which
+/// prints as an aligned list.
+int listObjects(lua_State* L);
+
+} // namespace velmara::console

@@ -1,0 +1,175 @@
+#include "bindings/PackageBinding.hpp"
+
+#include "Session.hpp"
+#include "bindings/ClassBinding.hpp"
+#include "bindings/ClassMembers.hpp"
+#include "handles/Proxy.hpp"
+#include "lua/NamedMetatable.hpp"
+#include "lua/ScriptError.hpp"
+#include "text/CloseMatches.hpp"
+#include "values/ValueToHost.hpp"
+
+#include <string>
+
+namespace velmara::console {
+
+namespace {
+
+std::string lastPart(std::string const& name)
+{
+    return name.substr(name.rfind('.') + 1);
+}
+
+/// Pushes what stands for a published name; false when it is none.
+bool pushName(lua_State* L, std::string const& fullName)
+{
+    switch (Session::of(L).hvm().lookUp(fullName)) {
+    case NameKind::Package:
+    case NameKind::Class:
+        pushProxy(L, fullName);
+        return true;
+    case NameKind::Function:
+        pushPackageFunction(L, fullName);
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// The kind of the name that the proxy at 1 stands for; throws when it stands for nothing any more.
+NameKind checkKind(lua_State* L)
+{
+    std::string const name(proxyName(L, 1));
+    NameKind const kind = Session::of(L).hvm().lookUp(name);
+    if (kind == NameKind::None)
+        fail("unknownName", name + " is not published any more");
+    return kind;
+}
+
+std::string checkKey(lua_State* L)
+{
+    if (lua_type(L, 2) != LUA_TSTRING)
+        fail("unknownName", std::string(proxyName(L, 1)) + " is indexed with a name, not with " + valueText(L, 2));
+    return std::string(textAt(L, 2));
+}
+
+int read(lua_State* L)
+{
+    std::string const name(proxyName(L, 1));
+    std::string const key = checkKey(L);
+    if (key.find('.') == key.npos && pushName(L, name + '.' + key))
+        return 1;
+    if (checkKind(L) == NameKind::Class)
+        return readClassMember(L, name, key);
+    PackageRecord const package = Session::of(L).hvm().describePackage(name);
+    fail("unknownName", "package " + name + " has no '" + key + "'" + didYouMean(key, packageContents(package)));
+}
+
+int write(lua_State* L)
+{
+    std::string const name(proxyName(L, 1));
+    std::string const key = checkKey(L);
+    if (checkKind(L) != NameKind::Class)
+        fail("readOnly", "package " + name + " cannot be changed by a script");
+    return writeClassMember(L, name, key);
+}
+
+int call(lua_State* L)
+{
+    std::string const name(proxyName(L, 1));
+    if (checkKind(L) != NameKind::Class)
+        fail("notCallable", "package " + name + " cannot be called: a class of it can");
+    return construct(L, name);
+}
+
+int toText(lua_State* L)
+{
+    std::string const name(proxyName(L, 1));
+    switch (Session::of(L).hvm().lookUp(name)) {
+    case NameKind::Package:
+        pushText(L, "package " + name);
+        break;
+    case NameKind::Class:
+        pushText(L, "class " + name);
+        break;
+    default:
+        pushText(L, "unpublished " + name);
+        break;
+    }
+    return 1;
+}
+
+/// `pairs(package)`: what it holds, by name; of an enumeration the enumerators.
+int pairs(lua_State* L)
+{
+    std::string const name(proxyName(L, 1));
+    lua_getglobal(L, "next");
+    lua_newtable(L);
+    if (checkKind(L) == NameKind::Class)
+        for (EnumeratorRecord const& enumerator : Session::of(L).hvm().describeClass(name).enumerators) {
+            readClassMember(L, name, enumerator.name);
+            lua_setfield(L, -2, enumerator.name.c_str());
+        }
+    else
+        for (std::string const& part : packageContents(Session::of(L).hvm().describePackage(name)))
+            if (pushName(L, std::string(name).append(1, '.').append(part)))
+                lua_setfield(L, -2, part.c_str());
+    lua_pushnil(L);
+    return 3;
+}
+
+int readGlobal(lua_State* L)
+{
+    std::string_view const name = textAt(L, 2);
+    if (name.empty() || name.find('.') != name.npos || !pushName(L, std::string(name)))
+        lua_pushnil(L);
+    return 1;
+}
+
+} // namespace
+
+std::vector<std::string> packageContents(PackageRecord const& package)
+{
+    std::vector<std::string> names;
+    names.reserve(package.packages.size() + package.classes.size() + package.functions.size());
+    for (std::string const& name : package.packages)
+        names.push_back(lastPart(name));
+    for (std::string const& name : package.classes)
+        names.push_back(lastPart(name));
+    for (MethodRecord const& function : package.functions)
+        names.push_back(lastPart(function.name));
+    return names;
+}
+
+namespace {
+
+void fillPackageMetatable(lua_State* L)
+{
+    luaL_Reg const functions[] = {{"__index", guarded<read>},      {"__newindex", guarded<write>},
+                                  {"__call", guarded<call>},       {"__pairs", guarded<pairs>},
+                                  {"__tostring", guarded<toText>}, {nullptr, nullptr}};
+    luaL_setfuncs(L, functions, 0);
+    lua_pushliteral(L, "package");
+    lua_setfield(L, -2, "__metatable");
+    lua_pushliteral(L, "host name"); // in Lua's own errors
+    lua_setfield(L, -2, "__name");
+}
+
+} // namespace
+
+void pushPackageMetatable(lua_State* L)
+{
+    pushNamedMetatable(L, "velmara.package", [L] { fillPackageMetatable(L); });
+}
+
+void bindGlobals(lua_State* L)
+{
+    lua_pushglobaltable(L);
+    lua_createtable(L, 0, 1);
+    lua_pushcfunction(L, guarded<readGlobal>);
+    lua_setfield(L, -2, "__index");
+    lua_setmetatable(L, -2);
+    lua_pop(L, 1);
+}
+
+} // namespace velmara::console

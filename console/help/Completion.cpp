@@ -1,0 +1,151 @@
+#include "help/Completion.hpp"
+
+#include "Session.hpp"
+#include "bindings/ObjectBinding.hpp"
+#include "bindings/PackageBinding.hpp"
+#include "handles/Proxy.hpp"
+#include "lua/ScriptError.hpp"
+
+#include <algorithm>
+
+namespace velmara::console {
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+constexpr char const* keywords[] = {"and",      "break",  "do",   "else", "elseif", "end",  "false", "for",
+                                    "function", "goto",   "if",   "in",   "local",  "nil",  "not",   "or",
+                                    "repeat",   "return", "then", "true", "until",  "while"};
+
+void addKeys(lua_State* L, int table, Names& names)
+{
+    for (lua_pushnil(L); lua_next(L, table); lua_pop(L, 1))
+        if (lua_type(L, -2) == LUA_TSTRING)
+            names.emplace_back(textAt(L, -2));
+}
+
+/// After ":" an object's methods, after "." its properties too.
+void addObjectMembers(lua_State* L, std::string_view className, char separator, Names& names)
+{
+    ClassRecord const record = Session::of(L).hvm().describeClass(className);
+    for (MethodRecord const& method : record.methods)
+        if (method.isVisible && method.kind == MethodRecord::Kind::Method)
+            names.push_back(method.name);
+    for (PropertyRecord const& property : record.properties)
+        if (property.isVisible && separator == '.')
+            names.push_back(property.name);
+}
+
+void addClassMembers(lua_State* L, std::string_view className, Names& names)
+{
+    ClassRecord const record = Session::of(L).hvm().describeClass(className);
+    for (MethodRecord const& method : record.methods)
+        if (method.isVisible && method.kind != MethodRecord::Kind::Constructor)
+            names.push_back(method.name);
+    for (PropertyRecord const& property : record.properties)
+        if (property.isVisible && property.isStatic)
+            names.push_back(property.name);
+    for (EnumeratorRecord const& enumerator : record.enumerators)
+        names.push_back(enumerator.name);
+}
+
+void addPublished(lua_State* L, std::string_view name, Names& names)
+{
+    Hvm& hvm = Session::of(L).hvm();
+    NameKind const kind = name.empty() ? NameKind::Package : hvm.lookUp(name);
+    if (kind == NameKind::Class)
+        addClassMembers(L, name, names);
+    else if (kind == NameKind::Package)
+        std::ranges::copy(packageContents(hvm.describePackage(name)), std::back_inserter(names));
+}
+
+/// Replaces the value on top, of which `key` is asked, by what it holds there; nil for what only code could tell.
+void descend(lua_State* L, std::string const& key)
+{
+    if (std::string const name(proxyName(L, -1)); !name.empty())
+        pushProxy(L, name + '.' + key);
+    else if (lua_istable(L, -1)) {
+        pushText(L, key);
+        lua_rawget(L, -2);
+    } else
+        lua_pushnil(L);
+    lua_remove(L, -2);
+}
+
+/// Pushes what the text before the last separator stands for.
+void pushOwner(lua_State* L, std::string_view path)
+{
+    lua_pushglobaltable(L);
+    for (bool isFirst = true; !path.empty(); isFirst = false) {
+        std::size_t const end = std::min(path.find_first_of(".:"), path.size());
+        std::string const part(path.substr(0, end));
+        path.remove_prefix(std::min(end + 1, path.size()));
+        descend(L, part);
+        if (isFirst && lua_isnil(L, -1)) {
+            lua_pop(L, 1);
+            pushProxy(L, part);
+        }
+    }
+}
+
+Names membersOf(lua_State* L, char separator)
+{
+    Names names;
+    if (isObject(L, -1))
+        addObjectMembers(L, objectClass(L, -1), separator, names);
+    else if (auto const name = proxyName(L, -1); !name.empty())
+        addPublished(L, name, names);
+    else if (lua_istable(L, -1))
+        addKeys(L, lua_gettop(L), names);
+    return names;
+}
+
+struct Request {
+    std::string_view word;
+    Names found;
+};
+
+/// Called by Lua with a `Request`, so that its errors end here and not in the line editor.
+int find(lua_State* L)
+{
+    Request& request = *static_cast<Request*>(lua_touserdata(L, 1));
+    std::size_t const last = request.word.find_last_of(".:");
+    std::string_view const before = last == request.word.npos ? std::string_view() : request.word.substr(0, last);
+    std::string_view const begun = last == request.word.npos ? request.word : request.word.substr(last + 1);
+    pushOwner(L, before);
+    Names names = membersOf(L, last == request.word.npos ? '.' : request.word[last]);
+    if (last == request.word.npos) {
+        names.insert(names.end(), std::begin(keywords), std::end(keywords));
+        addPublished(L, {}, names);
+    }
+    for (std::string const& name : names)
+        if (name.starts_with(begun))
+            request.found.push_back(std::string(request.word.substr(0, request.word.size() - begun.size())) + name);
+    return 0;
+}
+
+} // namespace
+
+std::vector<std::string> completions(lua_State* L, std::string_view word)
+{
+    Request request{word, {}};
+    lua_pushcfunction(L, guarded<find>);
+    lua_pushlightuserdata(L, &request);
+    if (lua_pcall(L, 1, 0, 0) != LUA_OK)
+        lua_pop(L, 1);
+    std::ranges::sort(request.found);
+    auto const repeated = std::ranges::unique(request.found);
+    request.found.erase(repeated.begin(), repeated.end());
+    return request.found;
+}
+
+std::string commonStart(std::vector<std::string> const& names)
+{
+    std::string start = names.front();
+    for (std::string const& name : names)
+        start.resize(static_cast<std::size_t>(std::ranges::mismatch(start, name).in1 - start.begin()));
+    return start;
+}
+
+} // namespace velmara::console

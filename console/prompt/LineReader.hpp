@@ -1,0 +1,28 @@
+#pragma once
+
+#include "lua/LuaApi.hpp"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace velmara::console {
+
+/// Reads the prompt's lines: at a terminal with editing, history (~/.velmara_history) and completion, else plainly.
+class LineReader {
+public:
+    /// Completes with the names that the script of `L` knows.
+    explicit LineReader(lua_State* L);
+    LineReader(LineReader const&) = delete;
+    LineReader& operator=(LineReader const&) = delete;
+    ~LineReader();
+
+    /// The next line; nothing at the end of the input.
+    std::optional<std::string> read(char const* prompt);
+
+private:
+    bool isEditing_;
+    std::filesystem::path history_;
+};
+
+} // namespace velmara::console

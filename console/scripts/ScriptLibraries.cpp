@@ -1,0 +1,129 @@
+#include "scripts/ScriptLibraries.hpp"
+
+#include "ExitCode.hpp"
+#include "Session.hpp"
+#include "lua/ScriptError.hpp"
+#include "scripts/TextLoading.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+namespace velmara::console {
+
+namespace {
+
+int exitProcess(lua_State* L)
+{
+    int code = exitSuccess;
+    if (lua_isboolean(L, 1))
+        code = lua_toboolean(L, 1) ? exitSuccess : exitScriptError;
+    else
+        code = static_cast<int>(luaL_optinteger(L, 1, exitSuccess));
+    Session& session = Session::of(L);
+    if (session.isEnding())
+        fail("ending", "os.exit: the script has ended already");
+    std::exit(session.finish(code));
+}
+
+int runFile(lua_State* L)
+{
+    char const* file = luaL_optstring(L, 1, nullptr);
+    lua_settop(L, 1);
+    if (luaL_loadfilex(L, file, "t") != LUA_OK)
+        return lua_error(L);
+    lua_call(L, 0, LUA_MULTRET);
+    return lua_gettop(L) - 1;
+}
+
+/// Finds the script of a module that `require` asks for along `package.path`.
+int searchScript(lua_State* L)
+{
+    luaL_checkstring(L, 1);
+    lua_getfield(L, lua_upvalueindex(1), "searchpath");
+    lua_pushvalue(L, 1);
+    lua_getfield(L, lua_upvalueindex(1), "path");
+    lua_call(L, 2, 2);
+    if (lua_isnil(L, -2))
+        return 1; // why there is none
+    lua_pop(L, 1);
+    char const* file = lua_tostring(L, -1);
+    if (luaL_loadfilex(L, file, "t") != LUA_OK)
+        return luaL_error(L, "error loading module '%s' from file '%s':\n\t%s", lua_tostring(L, 1), file,
+                          lua_tostring(L, -1));
+    lua_insert(L, -2);
+    return 2;
+}
+
+/// Without the current folder: whoever can write to it would decide what runs.
+void setSearchPath(lua_State* L)
+{
+    lua_getfield(L, -1, "path");
+    std::string_view left = textAt(L, -1);
+    std::string path;
+    while (!left.empty()) {
+        std::string_view const element = left.substr(0, left.find(*LUA_PATH_SEP));
+        left.remove_prefix(std::min(element.size() + 1, left.size()));
+        if (!element.starts_with('.'))
+            path.append(path.empty() ? "" : LUA_PATH_SEP).append(element);
+    }
+    pushText(L, path);
+    lua_setfield(L, -3, "path");
+    lua_pop(L, 1);
+}
+
+void limitPackages(lua_State* L)
+{
+    lua_getglobal(L, LUA_LOADLIBNAME);
+    setSearchPath(L);
+    for (char const* name : {"loadlib", "cpath"}) {
+        lua_pushnil(L);
+        lua_setfield(L, -2, name);
+    }
+    // Of the four searchers the first stays: modules that are there already.
+    lua_getfield(L, -1, "searchers");
+    lua_pushvalue(L, -2);
+    lua_pushcclosure(L, searchScript, 1);
+    lua_rawseti(L, -2, 2);
+    for (int searcher : {3, 4}) {
+        lua_pushnil(L);
+        lua_rawseti(L, -2, searcher);
+    }
+    lua_pop(L, 2);
+}
+
+void limitDebug(lua_State* L)
+{
+    lua_getglobal(L, LUA_DBLIBNAME);
+    lua_createtable(L, 0, 2);
+    for (char const* name : {"getinfo", "traceback"}) {
+        lua_getfield(L, -2, name);
+        lua_setfield(L, -2, name);
+    }
+    luaL_getsubtable(L, LUA_REGISTRYINDEX, LUA_LOADED_TABLE);
+    lua_pushvalue(L, -2);
+    lua_setfield(L, -2, LUA_DBLIBNAME);
+    lua_pop(L, 1);
+    lua_setglobal(L, LUA_DBLIBNAME);
+    lua_pop(L, 1);
+}
+
+} // namespace
+
+void openScriptLibraries(lua_State* L)
+{
+    lua_pushboolean(L, true);
+    lua_setfield(L, LUA_REGISTRYINDEX, "LUA_NOENV"); // the environment says nothing on where scripts are found
+    luaL_openlibs(L);
+    limitLoadingToText(L);
+    lua_register(L, "dofile", runFile);
+    limitPackages(L);
+    limitDebug(L);
+    lua_getglobal(L, LUA_OSLIBNAME);
+    lua_pushcfunction(L, guarded<exitProcess>);
+    lua_setfield(L, -2, "exit");
+    lua_pop(L, 1);
+}
+
+} // namespace velmara::console

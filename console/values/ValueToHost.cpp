@@ -1,0 +1,120 @@
+#include "values/ValueToHost.hpp"
+
+#include "bindings/ObjectBinding.hpp"
+#include "handles/HostArray.hpp"
+#include "handles/Nothing.hpp"
+#include "handles/Proxy.hpp"
+#include "lua/ScriptError.hpp"
+#include "values/TableToHost.hpp"
+
+#include "velmara/Hvm.hpp"
+
+#include "additions/additions.hpp"
+#include "libhv/libhv.hpp"
+#include "libkwi18n/libkwi18n.hpp"
+
+#include <cmath>
+
+namespace velmara::console {
+
+namespace {
+
+template <class T>
+ArrayPtr scalar(T value, hvClassID classID)
+{
+    ArrayPtr array(orbis::additions::createMatrix(1, 1, classID));
+    *static_cast<T*>(orbis::additions::getWritableData(array.get())) = value;
+    return array;
+}
+
+ArrayPtr number(lua_State* L, int index)
+{
+    if (!lua_isinteger(L, index))
+        return scalar(lua_tonumber(L, index), hvDOUBLE_CLASS);
+    lua_Integer const value = lua_tointeger(L, index);
+    if (isExactDouble(value))
+        return scalar(static_cast<double>(value), hvDOUBLE_CLASS);
+    return scalar<std::int64_t>(value, hvINT64_CLASS);
+}
+
+ArrayPtr text(std::string_view utf8)
+{
+    return ArrayPtr(orbis::additions::createText(fl::i18n::to_ustring(std::string(utf8))));
+}
+
+ArrayPtr userdata(lua_State* L, int index)
+{
+    if (isNull(L, index))
+        return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+    if (isMissing(L, index))
+        return ArrayPtr(orbis::additions::createStringMatrix(1, 1));
+    if (isObject(L, index)) {
+        hvArray_tag* const object = checkObject(L, index);
+        object->add_reference();
+        return ArrayPtr(object);
+    }
+    if (!isHostArray(L, index))
+        fail("value", kindAt(L, index) + " cannot be passed to the host");
+    // The script may write to its array later: whoever keeps this one sees nothing of it.
+    return ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, index)));
+}
+
+} // namespace
+
+std::string kindAt(lua_State* L, int index)
+{
+    switch (lua_type(L, index)) {
+    case LUA_TNONE:
+    case LUA_TNIL:
+        return "nil";
+    case LUA_TTABLE:
+        if (auto const name = proxyName(L, index); !name.empty())
+            return "the name " + std::string(name);
+        break;
+    case LUA_TUSERDATA:
+        if (isObject(L, index))
+            return "an object of " + std::string(objectClass(L, index));
+        if (hvArray_tag const* const array = testHostArray(L, index))
+            return "an array of class " + className(array);
+        if (isNull(L, index) || isMissing(L, index))
+            return isNull(L, index) ? "null" : "missing";
+        break;
+    default:
+        break;
+    }
+    return std::string("a ") + luaL_typename(L, index);
+}
+
+std::string valueText(lua_State* L, int index)
+{
+    if (lua_type(L, index) != LUA_TNUMBER)
+        return kindAt(L, index);
+    if (std::isnan(lua_tonumber(L, index)))
+        return "NaN";        // its sign, and how systems write it, tell nothing
+    lua_pushvalue(L, index); // a number is turned into text where it stands
+    std::string text = lua_tostring(L, -1);
+    lua_pop(L, 1);
+    return text;
+}
+
+ArrayPtr toHost(lua_State* L, int index, Conversion& conversion)
+{
+    switch (lua_type(L, index)) {
+    case LUA_TNIL:
+        return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+    case LUA_TBOOLEAN:
+        return scalar(lua_toboolean(L, index) != 0, hvLOGICAL_CLASS);
+    case LUA_TNUMBER:
+        return number(L, index);
+    case LUA_TSTRING:
+        return text(textAt(L, index));
+    case LUA_TTABLE:
+        return tableToHost(L, lua_absindex(L, index), conversion);
+    case LUA_TUSERDATA:
+        return userdata(L, index);
+    default:
+        fail("value", kindAt(L, index) + " cannot be passed to the host");
+    }
+}
+
+} // namespace velmara::console

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "lua/LuaApi.hpp"
+#include "values/Conversion.hpp"
+
+#include "velmara/ArrayPtr.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace velmara::console {
+
+/// The host array for the Lua value at `index`.
+///
+/// - a number: a double where it is exactly one, else an int64; a boolean: logical
+/// - a string: 1-by-n characters, its bytes read as UTF-8; the empty string 0-by-0
+/// - an object: itself; a host array: a copy that shares its data; `missing`: a missing string
+/// - nil and `null`: an empty 0-by-0 double
+/// - a table: see TableToHost.hpp
+///
+/// Anything else is refused with an `Error`. Runs no code of the script.
+ArrayPtr toHost(lua_State* L, int index, Conversion& conversion);
+
+inline ArrayPtr toHost(lua_State* L, int index)
+{
+    Conversion conversion;
+    return toHost(L, index, conversion);
+}
+
+/// "a table", "a function", ...: what stands at `index`, for error texts.
+std::string kindAt(lua_State* L, int index);
+
+/// The same, but a number is written out: "300".
+std::string valueText(lua_State* L, int index);
+
+/// True for the integers that every double between zero and them is exact for.
+constexpr bool isExactDouble(lua_Integer value)
+{
+    constexpr lua_Integer limit = lua_Integer{1} << 53;
+    return -limit <= value && value <= limit;
+}
+
+} // namespace velmara::console
