@@ -4,6 +4,7 @@
 #include "arrays/ArrayFunctions.hpp"
 #include "bindings/EnumerationFunction.hpp"
 #include "bindings/ModuleFunctions.hpp"
+#include "bindings/ObjectBinding.hpp"
 #include "bindings/ObjectFunctions.hpp"
 #include "bindings/PackageBinding.hpp"
 #include "help/HelpFunctions.hpp"
@@ -34,17 +35,19 @@ void prepare(lua_State* L, Run const& run)
         openRestrictedLibraries(L);
     else {
         openScriptLibraries(L);
+        run.session.bindExit();
         bindModuleFunctions(L);
     }
     bindArrayFunctions(L);
+    bindObjectMembers(L);
     bindObjectFunctions(L);
     bindEnumerationFunction(L);
     bindHelpFunctions(L);
     bindGlobals(L);
     if (!run.builtIn.empty())
-        run.session.hvm().loadModule(run.builtIn);
+        run.session.host().hvm().loadModule(run.builtIn);
     for (std::string const& file : run.line.modules)
-        run.session.hvm().loadModule(std::u8string(file.begin(), file.end()));
+        run.session.host().hvm().loadModule(std::u8string(file.begin(), file.end()));
 }
 
 bool runTask(lua_State* L, Run const& run)

@@ -3,10 +3,7 @@
 #if defined(_WIN32)
 #include <windows.h>
 
-#include <io.h>
 #include <shellapi.h>
-#else
-#include <unistd.h>
 #endif
 
 namespace velmara::console {
@@ -53,20 +50,10 @@ std::vector<std::string> commandLineWords(int, char**)
     LocalFree(words);
     return result;
 }
-
-bool isInputTerminal()
-{
-    return _isatty(_fileno(stdin)) != 0;
-}
 #else
 std::vector<std::string> commandLineWords(int count, char** words)
 {
     return {words + std::min(count, 1), words + count};
-}
-
-bool isInputTerminal()
-{
-    return isatty(STDIN_FILENO) == 1;
 }
 #endif
 

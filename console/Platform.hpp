@@ -13,7 +13,4 @@ std::vector<std::string> commandLineWords(int count, char** words);
 /// there is none.
 std::filesystem::path moduleBesideProgram(std::string const& name);
 
-/// True when a person sits at standard input.
-bool isInputTerminal();
-
 } // namespace velmara::console

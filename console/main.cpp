@@ -2,6 +2,7 @@
 #include "ExitCode.hpp"
 #include "Output.hpp"
 #include "Platform.hpp"
+#include "prompt/LineReader.hpp"
 
 #include <cstdio>
 

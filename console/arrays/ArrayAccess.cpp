@@ -1,11 +1,12 @@
 #include "arrays/ArrayAccess.hpp"
 
-#include "Session.hpp"
+#include "arrays/ArrayText.hpp"
 #include "handles/HostArray.hpp"
+#include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
+#include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "values/ArrayElement.hpp"
-#include "values/ValueToHost.hpp"
 
 #include "libhv/libhv.hpp"
 
@@ -53,7 +54,7 @@ std::optional<std::size_t> readPosition(lua_State* L, hvArray_tag const& array)
 /// A finalizer that runs meanwhile may write to the array, or give it back: what is in its cells is held.
 void pushHeldElement(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
-    ArrayStack::Frame frame(Session::of(L).arrays());
+    ArrayStack::Frame frame(HostContext::of(L).arrays());
     if (array->_get_class_id_non_trivial() == hvCELL_CLASS)
         array = frame.push(ArrayPtr(hvCreateSharedDataCopy(array)));
     pushElement(L, array, index);
@@ -71,8 +72,6 @@ int next(lua_State* L)
     pushHeldElement(L, array, static_cast<std::size_t>(number));
     return 2;
 }
-
-} // namespace
 
 int readArray(lua_State* L)
 {
@@ -116,6 +115,29 @@ int compareArrays(lua_State* L)
     hvArray_tag const* b = testHostArray(L, 2);
     lua_pushboolean(L, a && b && isEqual(a, b));
     return 1;
+}
+
+int toText(lua_State* L)
+{
+    hvArray_tag const* const array = testHostArray(L, 1);
+    pushText(L, array ? arrayText(L, *array) : "array given back");
+    return 1;
+}
+
+} // namespace
+
+void bindArrayAccess(lua_State* L)
+{
+    luaL_Reg const functions[] = {{"__index", guarded<readArray>},
+                                  {"__newindex", guarded<writeArray>},
+                                  {"__len", guarded<countElements>},
+                                  {"__pairs", guarded<iterateArray>},
+                                  {"__eq", guarded<compareArrays>},
+                                  {"__tostring", guarded<toText>},
+                                  {nullptr, nullptr}};
+    pushArrayMetatable(L);
+    luaL_setfuncs(L, functions, 0);
+    lua_pop(L, 1);
 }
 
 } // namespace velmara::console

@@ -1,9 +1,9 @@
 #include "arrays/ArrayClass.hpp"
 
-#include "Session.hpp"
+#include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
+#include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
-#include "values/ValueToHost.hpp"
 
 namespace velmara::console {
 
@@ -41,7 +41,7 @@ ArrayClass checkArrayClass(lua_State* L, int index)
     for (Known const& known : knownClasses)
         if (name == known.name)
             return {known.classID, name};
-    if (Session::of(L).hvm().lookUp(name) != NameKind::Class)
+    if (HostContext::of(L).hvm().lookUp(name) != NameKind::Class)
         failUnknown('\'' + name + '\'');
     return {hvOBJECT_CLASS, name};
 }

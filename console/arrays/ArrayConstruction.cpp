@@ -1,12 +1,12 @@
 #include "arrays/ArrayConstruction.hpp"
 
-#include "Session.hpp"
 #include "arrays/ArrayClass.hpp"
 #include "arrays/ArrayCopy.hpp"
 #include "arrays/ElementSource.hpp"
 #include "handles/HostArray.hpp"
-#include "handles/Nothing.hpp"
+#include "handles/HostContext.hpp"
 #include "handles/NumericClass.hpp"
+#include "handles/Sentinel.hpp"
 #include "lua/ScriptError.hpp"
 #include "values/ArrayElement.hpp"
 
@@ -25,7 +25,7 @@ ArrayPtr create(lua_State* L, ArrayClass const& made, Shape shape, Conversion& c
     if (shape.columns != 0 && shape.rows > Conversion::mostBytes / shape.columns)
         fail("memory", "a value of more than 1 GB cannot be made");
     conversion.add(shape.rows * shape.columns, memoryOfElement(made.classID));
-    Hvm::Scope const scope(Session::of(L).hvm());
+    Hvm::Scope const scope(HostContext::of(L).hvm());
     switch (made.classID) {
     case hvCELL_CLASS:
         return ArrayPtr(hvCreateCellMatrix(shape.rows, shape.columns));
@@ -108,12 +108,12 @@ int makeArray(lua_State* L)
     ArrayClass const made = checkArrayClass(L, 1);
     Conversion conversion;
     // Pushing elements may run finalizers of the script, which may end the process.
-    ArrayStack::Frame frame(Session::of(L).arrays());
+    ArrayStack::Frame frame(HostContext::of(L).arrays());
     ElementSource const source(L, 2, made.classID, frame);
     Shape const shape = checkShape(L, source);
     hvArray_tag* const array = frame.push(create(L, made, shape, conversion));
     if (source.array() && className(source.array()) == made.name) {
-        Hvm::Scope const scope(Session::of(L).hvm());
+        Hvm::Scope const scope(HostContext::of(L).hvm());
         copyElements(source.array(), array);
     } else if (source.isSingle())
         fill(L, source, array, conversion);

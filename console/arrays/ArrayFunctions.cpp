@@ -1,11 +1,13 @@
 #include "arrays/ArrayFunctions.hpp"
 
-#include "Session.hpp"
+#include "arrays/ArrayAccess.hpp"
 #include "arrays/ArrayConstruction.hpp"
 #include "bindings/ClassMembers.hpp"
-#include "bindings/ObjectBinding.hpp"
 #include "handles/HostArray.hpp"
-#include "handles/Nothing.hpp"
+#include "handles/HostContext.hpp"
+#include "handles/HostObject.hpp"
+#include "handles/Sentinel.hpp"
+#include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "values/ValueToHost.hpp"
 #include "values/ValueToLua.hpp"
@@ -25,7 +27,7 @@ int toLua(lua_State* L)
     lua_settop(L, 1);
     if (!isHostArray(L, 1))
         return 1;
-    ArrayStack::Frame frame(Session::of(L).arrays());
+    ArrayStack::Frame frame(HostContext::of(L).arrays());
     Conversion conversion;
     pushContent(L, *frame.push(ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, 1)))), conversion);
     return 1;
@@ -47,13 +49,13 @@ public:
     explicit KeptResult(lua_State* L) : L_(L), isCollecting_(lua_gc(L, LUA_GCISRUNNING) != 0)
     {
         lua_gc(L, LUA_GCSTOP);
-        Session::of(L).keepsNextArray() = true;
+        HostContext::of(L).keepsNextArray() = true;
     }
     KeptResult(KeptResult const&) = delete;
     KeptResult& operator=(KeptResult const&) = delete;
     ~KeptResult()
     {
-        Session::of(L_).keepsNextArray() = false;
+        HostContext::of(L_).keepsNextArray() = false;
         if (isCollecting_)
             lua_gc(L_, LUA_GCRESTART);
     }
@@ -84,6 +86,7 @@ int asArray(lua_State* L)
 
 void bindArrayFunctions(lua_State* L)
 {
+    bindArrayAccess(L);
     lua_register(L, "array", guarded<makeArray>);
     lua_register(L, "asarray", guarded<asArray>);
     lua_register(L, "tolua", guarded<toLua>);

@@ -1,6 +1,6 @@
 #include "arrays/ArrayText.hpp"
 
-#include "Session.hpp"
+#include "handles/HostContext.hpp"
 #include "handles/NumericClass.hpp"
 
 #include "additions/additions.hpp"
@@ -194,7 +194,7 @@ std::string plainText(hvArray_tag const& array)
 
 std::string arrayText(lua_State* L, hvArray_tag const& array)
 {
-    Hvm::Scope const scope(Session::of(L).hvm());
+    Hvm::Scope const scope(HostContext::of(L).hvm());
     hvClassID const classID = array._get_class_id_non_trivial();
     bool const isText = classID == hvCHAR_CLASS || classID == hvSTRING_CLASS;
     if (std::string text = plainText(array); !text.empty() || (isText && array.get_number_of_elements() == 1))

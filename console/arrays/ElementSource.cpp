@@ -5,7 +5,6 @@
 #include "lua/ScriptError.hpp"
 #include "values/ArrayElement.hpp"
 #include "values/TableElements.hpp"
-#include "values/ValueToHost.hpp"
 
 #include "additions/additions.hpp"
 #include "libhv/libhv.hpp"

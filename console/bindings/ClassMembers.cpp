@@ -1,6 +1,7 @@
 #include "bindings/ClassMembers.hpp"
 
-#include "bindings/ObjectBinding.hpp"
+#include "handles/HostObject.hpp"
+#include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
 #include "text/CloseMatches.hpp"
 #include "values/HostCall.hpp"
@@ -98,7 +99,7 @@ void pushCallable(lua_State* L, std::string_view cls, std::string_view name, boo
 /// enumerator a number.
 void pushFound(lua_State* L, std::string_view cls, std::string_view name)
 {
-    ClassRecord const record = Session::of(L).hvm().describeClass(cls);
+    ClassRecord const record = HostContext::of(L).hvm().describeClass(cls);
     auto const isCalled = [&](MethodRecord::Kind kind) {
         return std::ranges::any_of(
             record.methods, [&](MethodRecord const& method) { return method.name == name && method.kind == kind; });
@@ -119,30 +120,14 @@ void pushFound(lua_State* L, std::string_view cls, std::string_view name)
 
 void pushRememberedMembers(lua_State* L, std::string_view className)
 {
-    luaL_getsubtable(L, LUA_REGISTRYINDEX, "velmara.members");
-    pushText(L, className);
-    if (lua_rawget(L, -2) != LUA_TTABLE) {
-        lua_pop(L, 1);
-        lua_newtable(L);
-        pushText(L, className);
-        lua_pushvalue(L, -2);
-        lua_rawset(L, -4);
-    }
-    lua_remove(L, -2);
+    pushCached(L, "velmara.members", className, [L] { lua_newtable(L); });
 }
 
 MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name)
 {
     luaL_checkstack(L, 10, nullptr);
     pushRememberedMembers(L, className);
-    pushText(L, name);
-    if (lua_rawget(L, -2) == LUA_TNIL) {
-        lua_pop(L, 1);
-        pushFound(L, className, name);
-        pushText(L, name);
-        lua_pushvalue(L, -2);
-        lua_rawset(L, -4);
-    }
+    pushCached(L, lua_gettop(L), name, [&] { pushFound(L, className, name); });
     lua_remove(L, -2);
     if (lua_isfunction(L, -1))
         return MemberKind::Callable;

@@ -1,9 +1,9 @@
 #include "bindings/EnumerationFunction.hpp"
 
-#include "Session.hpp"
+#include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
+#include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
-#include "values/ValueToHost.hpp"
 
 #include <limits>
 #include <string>
@@ -55,7 +55,7 @@ int defineEnumeration(lua_State* L)
     luaL_checktype(L, 1, LUA_TSTRING);
     luaL_checktype(L, 2, LUA_TTABLE);
     std::string const name(textAt(L, 1));
-    Session::of(L).hvm().defineEnumeration(name, enumerators(L, 2));
+    HostContext::of(L).hvm().defineEnumeration(name, enumerators(L, 2));
     pushProxy(L, name);
     return 1;
 }

@@ -1,6 +1,6 @@
 #include "bindings/ModuleFunctions.hpp"
 
-#include "Session.hpp"
+#include "handles/HostContext.hpp"
 #include "lua/ScriptError.hpp"
 
 #include <filesystem>
@@ -27,7 +27,7 @@ int modules(lua_State* L)
 {
     lua_newtable(L);
     lua_Integer number = 0;
-    for (ModuleRecord const& module : Session::of(L).hvm().modules()) {
+    for (ModuleRecord const& module : HostContext::of(L).hvm().modules()) {
         lua_newtable(L);
         setField(L, "name", module.name);
         setField(L, "version", module.version);
@@ -41,13 +41,13 @@ int modules(lua_State* L)
 int loadModule(lua_State* L)
 {
     std::string const file = checkText(L, 1);
-    pushText(L, Session::of(L).hvm().loadModule(std::u8string(file.begin(), file.end())).name);
+    pushText(L, HostContext::of(L).hvm().loadModule(std::u8string(file.begin(), file.end())).name);
     return 1;
 }
 
 int unloadModule(lua_State* L)
 {
-    Session::of(L).hvm().unloadModule(checkText(L, 1));
+    HostContext::of(L).hvm().unloadModule(checkText(L, 1));
     return 0;
 }
 
@@ -55,7 +55,7 @@ int unloadModule(lua_State* L)
 int withMachine(lua_State* L)
 {
     luaL_checktype(L, 1, LUA_TFUNCTION);
-    Session::FreshMachine const machine(Session::of(L));
+    HostContext::FreshMachine const machine(HostContext::of(L));
     lua_call(L, lua_gettop(L) - 1, LUA_MULTRET);
     return lua_gettop(L);
 }

@@ -1,10 +1,11 @@
 #include "bindings/ObjectFunctions.hpp"
 
-#include "bindings/ObjectBinding.hpp"
 #include "bindings/ObjectListing.hpp"
 #include "bindings/ReferenceListing.hpp"
 #include "handles/HostArray.hpp"
+#include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"
+#include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "values/HostCall.hpp"
 #include "values/ValueToHost.hpp"
@@ -15,9 +16,9 @@ namespace velmara::console {
 
 namespace {
 
-std::string classOfName(Session& session, std::string const& name)
+std::string classOfName(HostContext& context, std::string const& name)
 {
-    switch (session.hvm().lookUp(name)) {
+    switch (context.hvm().lookUp(name)) {
     case NameKind::Package:
         return "package";
     case NameKind::Class:
@@ -43,7 +44,7 @@ int classOf(lua_State* L)
     if (isObject(L, 1))
         pushText(L, objectClass(L, 1));
     else if (auto const name = proxyName(L, 1); !name.empty())
-        pushText(L, classOfName(Session::of(L), std::string(name)));
+        pushText(L, classOfName(HostContext::of(L), std::string(name)));
     else
         pushText(L, lua_isnil(L, 1) ? "nil" : classOfValue(L));
     return 1;
@@ -73,7 +74,7 @@ int isValidValue(lua_State* L)
     else if (isHostArray(L, 1))
         result = isValid(testHostArray(L, 1));
     else if (auto const name = proxyName(L, 1); !name.empty())
-        result = Session::of(L).hvm().lookUp(name) != NameKind::None;
+        result = HostContext::of(L).hvm().lookUp(name) != NameKind::None;
     lua_pushboolean(L, result);
     return 1;
 }

@@ -1,7 +1,7 @@
 #include "bindings/ObjectListing.hpp"
 
-#include "Session.hpp"
-#include "lua/NamedMetatable.hpp"
+#include "handles/HostContext.hpp"
+#include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
 
 #include <algorithm>
@@ -100,7 +100,7 @@ int toText(lua_State* L)
 int listObjects(lua_State* L)
 {
     luaL_checkstack(L, 6, nullptr);
-    std::vector<ObjectRecord> const objects = Session::of(L).hvm().objects();
+    std::vector<ObjectRecord> const objects = HostContext::of(L).hvm().objects();
     lua_createtable(L, static_cast<int>(std::min<std::size_t>(objects.size(), 1U << 20)), 0);
     lua_Integer number = 0;
     for (ObjectRecord const& object : objects) {

@@ -1,13 +1,12 @@
 #include "bindings/PackageBinding.hpp"
 
-#include "Session.hpp"
 #include "bindings/ClassBinding.hpp"
 #include "bindings/ClassMembers.hpp"
+#include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
-#include "lua/NamedMetatable.hpp"
+#include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "text/CloseMatches.hpp"
-#include "values/ValueToHost.hpp"
 
 #include <string>
 
@@ -23,7 +22,7 @@ std::string lastPart(std::string const& name)
 /// Pushes what stands for a published name; false when it is none.
 bool pushName(lua_State* L, std::string const& fullName)
 {
-    switch (Session::of(L).hvm().lookUp(fullName)) {
+    switch (HostContext::of(L).hvm().lookUp(fullName)) {
     case NameKind::Package:
     case NameKind::Class:
         pushProxy(L, fullName);
@@ -40,7 +39,7 @@ bool pushName(lua_State* L, std::string const& fullName)
 NameKind checkKind(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
-    NameKind const kind = Session::of(L).hvm().lookUp(name);
+    NameKind const kind = HostContext::of(L).hvm().lookUp(name);
     if (kind == NameKind::None)
         fail("unknownName", name + " is not published any more");
     return kind;
@@ -61,7 +60,7 @@ int read(lua_State* L)
         return 1;
     if (checkKind(L) == NameKind::Class)
         return readClassMember(L, name, key);
-    PackageRecord const package = Session::of(L).hvm().describePackage(name);
+    PackageRecord const package = HostContext::of(L).hvm().describePackage(name);
     fail("unknownName", "package " + name + " has no '" + key + "'" + didYouMean(key, packageContents(package)));
 }
 
@@ -85,7 +84,7 @@ int call(lua_State* L)
 int toText(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
-    switch (Session::of(L).hvm().lookUp(name)) {
+    switch (HostContext::of(L).hvm().lookUp(name)) {
     case NameKind::Package:
         pushText(L, "package " + name);
         break;
@@ -106,12 +105,12 @@ int pairs(lua_State* L)
     lua_getglobal(L, "next");
     lua_newtable(L);
     if (checkKind(L) == NameKind::Class)
-        for (EnumeratorRecord const& enumerator : Session::of(L).hvm().describeClass(name).enumerators) {
+        for (EnumeratorRecord const& enumerator : HostContext::of(L).hvm().describeClass(name).enumerators) {
             readClassMember(L, name, enumerator.name);
             lua_setfield(L, -2, enumerator.name.c_str());
         }
     else
-        for (std::string const& part : packageContents(Session::of(L).hvm().describePackage(name)))
+        for (std::string const& part : packageContents(HostContext::of(L).hvm().describePackage(name)))
             if (pushName(L, std::string(name).append(1, '.').append(part)))
                 lua_setfield(L, -2, part.c_str());
     lua_pushnil(L);
@@ -141,35 +140,19 @@ std::vector<std::string> packageContents(PackageRecord const& package)
     return names;
 }
 
-namespace {
-
-void fillPackageMetatable(lua_State* L)
+void bindGlobals(lua_State* L)
 {
     luaL_Reg const functions[] = {{"__index", guarded<read>},      {"__newindex", guarded<write>},
                                   {"__call", guarded<call>},       {"__pairs", guarded<pairs>},
                                   {"__tostring", guarded<toText>}, {nullptr, nullptr}};
+    pushProxyMetatable(L);
     luaL_setfuncs(L, functions, 0);
-    lua_pushliteral(L, "package");
-    lua_setfield(L, -2, "__metatable");
-    lua_pushliteral(L, "host name"); // in Lua's own errors
-    lua_setfield(L, -2, "__name");
-}
-
-} // namespace
-
-void pushPackageMetatable(lua_State* L)
-{
-    pushNamedMetatable(L, "velmara.package", [L] { fillPackageMetatable(L); });
-}
-
-void bindGlobals(lua_State* L)
-{
     lua_pushglobaltable(L);
     lua_createtable(L, 0, 1);
     lua_pushcfunction(L, guarded<readGlobal>);
     lua_setfield(L, -2, "__index");
     lua_setmetatable(L, -2);
-    lua_pop(L, 1);
+    lua_pop(L, 2);
 }
 
 } // namespace velmara::console

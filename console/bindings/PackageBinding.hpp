@@ -9,14 +9,11 @@
 
 namespace velmara::console {
 
-/// Pushes the metatable of the proxies of packages and classes.
-void pushPackageMetatable(lua_State* L);
-
 /// The names, without the package's own, of all that a package holds.
 std::vector<std::string> packageContents(PackageRecord const& package);
 
-/// Makes the top-level packages, classes and functions readable as globals. A global of the script's own of that
-/// name goes first.
+/// Gives the proxies of packages and classes their members, and makes what is published at the top level readable as
+/// globals. A global of the script's own of the same name takes precedence.
 void bindGlobals(lua_State* L);
 
 } // namespace velmara::console

@@ -1,6 +1,6 @@
 #include "bindings/ReferenceListing.hpp"
 
-#include "bindings/ObjectBinding.hpp"
+#include "handles/HostObject.hpp"
 #include "values/HostCall.hpp"
 
 #include <vector>

@@ -1,12 +1,10 @@
 #include "handles/HostArray.hpp"
 
-#include "Session.hpp"
-#include "arrays/ArrayAccess.hpp"
-#include "arrays/ArrayText.hpp"
+#include "handles/HostContext.hpp"
 #include "handles/NumericClass.hpp"
-#include "lua/NamedMetatable.hpp"
+#include "handles/ValueText.hpp"
+#include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
-#include "values/ValueToHost.hpp"
 
 #include <algorithm>
 #include <limits>
@@ -18,38 +16,13 @@ namespace {
 
 constexpr char const* arrayType = "velmara.array";
 
-using Holder = GivenArrays::Holder;
+using Holder = HeldArrays::Holder;
 
 int release(lua_State* L)
 {
     auto& holder = *static_cast<Holder*>(luaL_checkudata(L, 1, arrayType));
-    Session::of(L).given().takeBack(holder).reset(); // last, as objects in it that end run native code
+    HostContext::of(L).heldArrays().takeBack(holder).reset(); // last, as objects in it that end run native code
     return 0;
-}
-
-int toText(lua_State* L)
-{
-    hvArray_tag const* const array = testHostArray(L, 1);
-    pushText(L, array ? arrayText(L, *array) : "array given back");
-    return 1;
-}
-
-void fillArrayMetatable(lua_State* L)
-{
-    luaL_Reg const functions[] = {{"__gc", release},
-                                  {"__close", release},
-                                  {"__index", guarded<readArray>},
-                                  {"__newindex", guarded<writeArray>},
-                                  {"__len", guarded<countElements>},
-                                  {"__pairs", guarded<iterateArray>},
-                                  {"__eq", guarded<compareArrays>},
-                                  {"__tostring", guarded<toText>},
-                                  {nullptr, nullptr}};
-    luaL_setfuncs(L, functions, 0);
-    lua_pushliteral(L, "array");
-    lua_setfield(L, -2, "__metatable");
-    lua_pushliteral(L, "host array"); // in Lua's own errors
-    lua_setfield(L, -2, "__name");
 }
 
 /// Lua sees a few bytes of an array, and would collect those out of use far too late.
@@ -63,14 +36,26 @@ void tellCollector(lua_State* L, hvArray_tag const& array)
 
 } // namespace
 
+void pushArrayMetatable(lua_State* L)
+{
+    pushNamedMetatable(L, arrayType, [L] {
+        luaL_Reg const functions[] = {{"__gc", release}, {"__close", release}, {nullptr, nullptr}};
+        luaL_setfuncs(L, functions, 0);
+        lua_pushliteral(L, "array");
+        lua_setfield(L, -2, "__metatable");
+        lua_pushliteral(L, "host array"); // in Lua's own errors
+        lua_setfield(L, -2, "__name");
+    });
+}
+
 void pushHostArray(lua_State* L, hvArray_tag const& array)
 {
-    Session::of(L).requireRunning();
+    HostContext::of(L).requireOpen();
     luaL_checkstack(L, 6, nullptr);
     auto* holder = new (lua_newuserdatauv(L, sizeof(Holder), 0)) Holder;
-    pushNamedMetatable(L, arrayType, [L] { fillArrayMetatable(L); });
+    pushArrayMetatable(L);
     lua_setmetatable(L, -2);
-    Session::of(L).given().give(*holder, ArrayPtr(hvCreateSharedDataCopy(&array)));
+    HostContext::of(L).heldArrays().give(*holder, ArrayPtr(hvCreateSharedDataCopy(&array)));
     tellCollector(L, array);
 }
 

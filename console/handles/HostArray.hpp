@@ -8,6 +8,9 @@ namespace velmara::console {
 
 /// Host arrays as values of their own in scripts: they have class, size and elements, and are passed back as they are.
 
+/// Pushes the metatable of all host arrays. What a script does with them is added to it: see ArrayAccess.hpp.
+void pushArrayMetatable(lua_State* L);
+
 /// Pushes a copy of the array that shares its data until one side is written to. Memory that Lua does not know of makes
 /// it collect what is out of use, so finalizers of the script may run.
 void pushHostArray(lua_State* L, hvArray_tag const& array);

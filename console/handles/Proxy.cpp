@@ -1,6 +1,6 @@
 #include "handles/Proxy.hpp"
 
-#include "bindings/PackageBinding.hpp"
+#include "lua/CachedValue.hpp"
 
 namespace velmara::console {
 
@@ -20,25 +20,31 @@ void pushNames(lua_State* L)
 
 } // namespace
 
+void pushProxyMetatable(lua_State* L)
+{
+    pushNamedMetatable(L, "velmara.package", [L] {
+        lua_pushliteral(L, "package");
+        lua_setfield(L, -2, "__metatable");
+        lua_pushliteral(L, "host name"); // in Lua's own errors
+        lua_setfield(L, -2, "__name");
+    });
+}
+
 void pushProxy(lua_State* L, std::string_view fullName)
 {
     luaL_checkstack(L, 8, nullptr);
     pushNames(L);
-    pushText(L, fullName);
-    if (lua_rawget(L, -2) != LUA_TTABLE) {
-        lua_pop(L, 1);
+    int const names = lua_gettop(L);
+    pushCached(L, names, fullName, [&] {
         lua_newtable(L);
-        pushPackageMetatable(L);
+        pushProxyMetatable(L);
         lua_setmetatable(L, -2);
         // Names and proxies are in one table, each the key of the other.
         lua_pushvalue(L, -1);
         pushText(L, fullName);
-        lua_rawset(L, -4);
-        pushText(L, fullName);
-        lua_pushvalue(L, -2);
-        lua_rawset(L, -4);
-    }
-    lua_remove(L, -2);
+        lua_rawset(L, names);
+    });
+    lua_remove(L, names);
 }
 
 std::string_view proxyName(lua_State* L, int index)

@@ -1,8 +1,8 @@
 #include "help/Completion.hpp"
 
-#include "Session.hpp"
-#include "bindings/ObjectBinding.hpp"
 #include "bindings/PackageBinding.hpp"
+#include "handles/HostContext.hpp"
+#include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"
 #include "lua/ScriptError.hpp"
 
@@ -28,7 +28,7 @@ void addKeys(lua_State* L, int table, Names& names)
 /// After ":" an object's methods, after "." its properties too.
 void addObjectMembers(lua_State* L, std::string_view className, char separator, Names& names)
 {
-    ClassRecord const record = Session::of(L).hvm().describeClass(className);
+    ClassRecord const record = HostContext::of(L).hvm().describeClass(className);
     for (MethodRecord const& method : record.methods)
         if (method.isVisible && method.kind == MethodRecord::Kind::Method)
             names.push_back(method.name);
@@ -39,7 +39,7 @@ void addObjectMembers(lua_State* L, std::string_view className, char separator, 
 
 void addClassMembers(lua_State* L, std::string_view className, Names& names)
 {
-    ClassRecord const record = Session::of(L).hvm().describeClass(className);
+    ClassRecord const record = HostContext::of(L).hvm().describeClass(className);
     for (MethodRecord const& method : record.methods)
         if (method.isVisible && method.kind != MethodRecord::Kind::Constructor)
             names.push_back(method.name);
@@ -52,7 +52,7 @@ void addClassMembers(lua_State* L, std::string_view className, Names& names)
 
 void addPublished(lua_State* L, std::string_view name, Names& names)
 {
-    Hvm& hvm = Session::of(L).hvm();
+    Hvm& hvm = HostContext::of(L).hvm();
     NameKind const kind = name.empty() ? NameKind::Package : hvm.lookUp(name);
     if (kind == NameKind::Class)
         addClassMembers(L, name, names);

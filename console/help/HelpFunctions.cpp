@@ -1,13 +1,13 @@
 #include "help/HelpFunctions.hpp"
 
-#include "Session.hpp"
 #include "bindings/ClassMembers.hpp"
-#include "bindings/ObjectBinding.hpp"
+#include "handles/HostContext.hpp"
+#include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"
+#include "handles/ValueText.hpp"
 #include "help/GeneralHelp.hpp"
 #include "help/HelpText.hpp"
 #include "lua/ScriptError.hpp"
-#include "values/ValueToHost.hpp"
 
 #include <cstdio>
 #include <string>
@@ -51,7 +51,7 @@ std::string memberHelp(Hvm& hvm, std::string const& name)
 
 int help(lua_State* L)
 {
-    Hvm& hvm = Session::of(L).hvm();
+    Hvm& hvm = HostContext::of(L).hvm();
     if (lua_gettop(L) == 0) {
         print(generalHelp + helpText(hvm.describePackage("")));
         return 0;
@@ -77,7 +77,7 @@ int help(lua_State* L)
 /// Prints one list of a class or, where it has one, of a package.
 int printList(lua_State* L, std::string (*ofClass)(ClassRecord const&), std::string (*ofPackage)(PackageRecord const&))
 {
-    Hvm& hvm = Session::of(L).hvm();
+    Hvm& hvm = HostContext::of(L).hvm();
     std::string const name = subject(L);
     std::string text;
     switch (hvm.lookUp(name)) {

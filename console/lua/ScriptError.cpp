@@ -1,6 +1,6 @@
 #include "lua/ScriptError.hpp"
 
-#include "lua/NamedMetatable.hpp"
+#include "lua/CachedValue.hpp"
 #include "lua/ScriptFrames.hpp"
 
 #include "velmara/Error.hpp"

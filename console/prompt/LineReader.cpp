@@ -1,10 +1,12 @@
 #include "prompt/LineReader.hpp"
 
-#include "Platform.hpp"
 #include "help/Completion.hpp"
 
-#if !defined(_WIN32)
+#if defined(_WIN32)
+#include <io.h>
+#else
 #include <editline/readline.h>
+#include <unistd.h>
 #endif
 
 #include <clocale>
@@ -31,6 +33,11 @@ std::optional<std::string> readPlainly(char const* prompt)
 } // namespace
 
 #if defined(_WIN32)
+
+bool isInputTerminal()
+{
+    return _isatty(_fileno(stdin)) != 0;
+}
 
 LineReader::LineReader(lua_State*) : isEditing_(false) {}
 
@@ -79,6 +86,11 @@ char** complete(char const* word, int, int)
 }
 
 } // namespace
+
+bool isInputTerminal()
+{
+    return isatty(STDIN_FILENO) == 1;
+}
 
 LineReader::LineReader(lua_State* L) : isEditing_(isInputTerminal())
 {

@@ -8,7 +8,11 @@
 
 namespace velmara::console {
 
-/// Reads the prompt's lines: at a terminal with editing, history (~/.velmara_history) and completion, else plainly.
+/// True when a person sits at standard input.
+bool isInputTerminal();
+
+/// Reads the prompt's lines: at a terminal with editing, history (~/.velmara_history) and completion; plainly where
+/// there is none, and on Windows.
 class LineReader {
 public:
     /// Completes with the names that the script of `L` knows.

@@ -1,31 +1,14 @@
 #include "scripts/ScriptLibraries.hpp"
 
-#include "ExitCode.hpp"
-#include "Session.hpp"
-#include "lua/ScriptError.hpp"
 #include "scripts/TextLoading.hpp"
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 namespace velmara::console {
 
 namespace {
-
-int exitProcess(lua_State* L)
-{
-    int code = exitSuccess;
-    if (lua_isboolean(L, 1))
-        code = lua_toboolean(L, 1) ? exitSuccess : exitScriptError;
-    else
-        code = static_cast<int>(luaL_optinteger(L, 1, exitSuccess));
-    Session& session = Session::of(L);
-    if (session.isEnding())
-        fail("ending", "os.exit: the script has ended already");
-    std::exit(session.finish(code));
-}
 
 int runFile(lua_State* L)
 {
@@ -120,10 +103,6 @@ void openScriptLibraries(lua_State* L)
     lua_register(L, "dofile", runFile);
     limitPackages(L);
     limitDebug(L);
-    lua_getglobal(L, LUA_OSLIBNAME);
-    lua_pushcfunction(L, guarded<exitProcess>);
-    lua_setfield(L, -2, "exit");
-    lua_pop(L, 1);
 }
 
 } // namespace velmara::console

@@ -1,10 +1,11 @@
 #include "values/ArrayElement.hpp"
 
-#include "Session.hpp"
-#include "bindings/ObjectBinding.hpp"
 #include "handles/HostArray.hpp"
-#include "handles/Nothing.hpp"
+#include "handles/HostContext.hpp"
+#include "handles/HostObject.hpp"
 #include "handles/NumericClass.hpp"
+#include "handles/Sentinel.hpp"
+#include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "values/ExactNumber.hpp"
 #include "values/ValueToHost.hpp"
@@ -34,7 +35,7 @@ void pushNumber(lua_State* L, T number)
     else if (std::in_range<lua_Integer>(number))
         lua_pushinteger(L, static_cast<lua_Integer>(number));
     else {
-        ArrayStack::Frame frame(Session::of(L).arrays());
+        ArrayStack::Frame frame(HostContext::of(L).arrays());
         hvArray_tag* const scalar = frame.push(ArrayPtr(orbis::additions::createMatrix(1, 1, hvUINT64_CLASS)));
         *static_cast<T*>(orbis::additions::getWritableData(scalar)) = number;
         pushHostArray(L, *scalar);
@@ -164,7 +165,7 @@ void storeCell(lua_State* L, int value, hvArray_tag* cells, std::size_t index, C
 
 void storeObject(lua_State* L, int value, hvArray_tag* array, std::size_t index)
 {
-    Hvm::Scope const scope(Session::of(L).hvm());
+    Hvm::Scope const scope(HostContext::of(L).hvm());
     if (isNull(L, value))
         return orbis::omSetArrayElement(array, index, nullptr);
     if (!isObject(L, value) || !hvIsA(checkObject(L, value), className(array).c_str()))

@@ -50,4 +50,11 @@ std::optional<T> exactly(double number)
     }
 }
 
+/// True for the integers that every double between zero and them is exact for.
+constexpr bool isExactDouble(std::int64_t value)
+{
+    constexpr std::int64_t limit = std::int64_t{1} << 53;
+    return -limit <= value && value <= limit;
+}
+
 } // namespace velmara::console

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Session.hpp"
 #include "handles/ArrayStack.hpp"
+#include "handles/HostContext.hpp"
 
 #include <utility>
 
@@ -13,13 +13,13 @@ class HostCall {
 public:
     explicit HostCall(lua_State* L)
         : L_(L),
-          session_(Session::of(L)),
-          kept_(session_.arrays()),
-          keepsArray_(std::exchange(session_.keepsNextArray(), false))
+          host_(HostContext::of(L)),
+          kept_(host_.arrays()),
+          keepsArray_(std::exchange(host_.keepsNextArray(), false))
     {
     }
 
-    Hvm& hvm() { return session_.hvm(); }
+    Hvm& hvm() { return host_.hvm(); }
 
     /// Keeps an array alive for the length of the call, whatever happens to its owner.
     hvArray_tag* keep(hvArray_tag* array);
@@ -32,7 +32,7 @@ public:
 
 private:
     lua_State* L_;
-    Session& session_;
+    HostContext& host_;
     ArrayStack::Frame kept_;
     bool keepsArray_;
 };

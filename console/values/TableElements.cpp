@@ -1,9 +1,10 @@
 #include "values/TableElements.hpp"
 
-#include "bindings/ObjectBinding.hpp"
+#include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"
+#include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
-#include "values/ValueToHost.hpp"
+#include "values/ExactNumber.hpp"
 
 #include <algorithm>
 #include <string>

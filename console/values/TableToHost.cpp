@@ -1,11 +1,10 @@
 #include "values/TableToHost.hpp"
 
-#include "bindings/ObjectBinding.hpp"
+#include "handles/HostObject.hpp"
 #include "handles/NumericClass.hpp"
 #include "lua/ScriptError.hpp"
 #include "values/ArrayElement.hpp"
 #include "values/TableElements.hpp"
-#include "values/ValueToHost.hpp"
 
 #include "velmara/Hvm.hpp"
 

@@ -5,9 +5,6 @@
 
 #include "velmara/ArrayPtr.hpp"
 
-#include <string>
-#include <string_view>
-
 namespace velmara::console {
 
 /// The host array for the Lua value at `index`.
@@ -25,19 +22,6 @@ inline ArrayPtr toHost(lua_State* L, int index)
 {
     Conversion conversion;
     return toHost(L, index, conversion);
-}
-
-/// "a table", "a function", ...: what stands at `index`, for error texts.
-std::string kindAt(lua_State* L, int index);
-
-/// The same, but a number is written out: "300".
-std::string valueText(lua_State* L, int index);
-
-/// True for the integers that every double between zero and them is exact for.
-constexpr bool isExactDouble(lua_Integer value)
-{
-    constexpr lua_Integer limit = lua_Integer{1} << 53;
-    return -limit <= value && value <= limit;
 }
 
 } // namespace velmara::console

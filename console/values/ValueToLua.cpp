@@ -1,9 +1,9 @@
 #include "values/ValueToLua.hpp"
 
-#include "bindings/ObjectBinding.hpp"
 #include "handles/HostArray.hpp"
-#include "handles/Nothing.hpp"
+#include "handles/HostObject.hpp"
 #include "handles/NumericClass.hpp"
+#include "handles/Sentinel.hpp"
 #include "values/ArrayElement.hpp"
 
 #include "additions/additions.hpp"

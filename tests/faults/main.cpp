@@ -109,7 +109,7 @@ public:
 
     std::string check()
     {
-        velmara::Hvm::Scope const scope(session_.hvm());
+        velmara::Hvm::Scope const scope(session_.host().hvm());
         return orbis::factory::check();
     }
 

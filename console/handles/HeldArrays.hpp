@@ -10,12 +10,12 @@ namespace velmara::console {
 /// The host arrays that values of the script hold. Lua frees a value without finalizing it where its finalizer cannot
 /// be called, as no stack or memory is left: what it held is still known here, and given back at the end of the
 /// session.
-class GivenArrays {
+class HeldArrays {
 public:
-    GivenArrays() = default;
-    GivenArrays(GivenArrays const&) = delete;
-    GivenArrays& operator=(GivenArrays const&) = delete;
-    ~GivenArrays() { clear(); }
+    HeldArrays() = default;
+    HeldArrays(HeldArrays const&) = delete;
+    HeldArrays& operator=(HeldArrays const&) = delete;
+    ~HeldArrays() { clear(); }
 
     /// What a value of the script keeps of its array: a view, and the place to find the owner at.
     struct Holder {

@@ -1,0 +1,53 @@
+#include "handles/Sentinel.hpp"
+
+#include "lua/CachedValue.hpp"
+
+namespace velmara::console {
+
+namespace {
+
+/// What a script sees, and the name of the value's type.
+struct Names {
+    char const* text;
+    char const* type;
+};
+
+constexpr Names names[] = {{"null", "velmara.null"}, {"missing", "velmara.missing"}};
+
+/// Upvalue 1 is the text.
+int sentinelText(lua_State* L)
+{
+    lua_pushvalue(L, lua_upvalueindex(1));
+    return 1;
+}
+
+void createSentinel(lua_State* L, Names const& created)
+{
+    lua_newuserdatauv(L, 0, 0);
+    pushNamedMetatable(L, created.type, [&] {
+        lua_pushstring(L, created.text);
+        lua_pushvalue(L, -1);
+        lua_setfield(L, -3, "__metatable");
+        lua_pushvalue(L, -1);
+        lua_setfield(L, -3, "__name");
+        lua_pushcclosure(L, sentinelText, 1);
+        lua_setfield(L, -2, "__tostring");
+    });
+    lua_setmetatable(L, -2);
+}
+
+} // namespace
+
+void pushSentinel(lua_State* L, Sentinel which)
+{
+    luaL_checkstack(L, 8, nullptr);
+    Names const& created = names[static_cast<int>(which)];
+    pushCached(L, "velmara.sentinels", created.text, [&] { createSentinel(L, created); });
+}
+
+bool isSentinel(lua_State* L, int index, Sentinel which)
+{
+    return luaL_testudata(L, index, names[static_cast<int>(which)].type) != nullptr;
+}
+
+} // namespace velmara::console
