@@ -13,9 +13,9 @@ namespace {
 #if defined(_WIN32)
 std::filesystem::path programPath()
 {
-    constexpr DWORD longestPath = 32768;
-    std::wstring path(longestPath, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), longestPath));
+    constexpr DWORD maxPathLength = 32768;
+    std::wstring path(maxPathLength, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), maxPathLength));
     return path;
 }
 

@@ -50,7 +50,7 @@ void Session::bindExit()
 void Session::end()
 {
     if (lua_)
-        lua_resetthread(lua_.get()); // variables to be closed, while all still works
+        lua_resetthread(lua_.get()); // closes `<close>` variables while everything still works
     host_.beginClosing();
     lua_.reset();
     host_.clear();

@@ -5,8 +5,8 @@
 
 namespace velmara::console {
 
-/// One run of the console: a Lua state and what it uses of the host. They end in the one order in which every host
-/// object is released before its virtual machine is destroyed.
+/// One run of the console: a Lua state and what it uses of the host, destroyed in the one order in which every host
+/// object is released before its virtual machine.
 class Session {
 public:
     Session();
@@ -17,26 +17,26 @@ public:
     lua_State* lua() const { return lua_.get(); }
     HostContext& host() { return host_; }
 
-    /// Lets the script end the session and the process with `os.exit`, in the library `os` as it is.
+    /// Replaces `os.exit` by one that ends the session before the process.
     void bindExit();
 
-    /// Closes the Lua state, then destroys the virtual machines. Done once; safe inside a running script that is never
-    /// returned to.
+    /// Closes the Lua state, then destroys the virtual machines; later calls do nothing. Safe inside a running script
+    /// that is never returned to.
     void end();
 
-    /// Asks for a check at the end of the run that nothing of the host is left.
+    /// Has `finish` check that nothing of the host is left.
     void checkLeaks() { checksLeaks_ = true; }
 
-    /// Has what native code leaves in a virtual machine reported on stderr as that ends. To be asked for before modules
+    /// Has what native code leaves in a virtual machine reported on stderr when that is destroyed. Call before modules
     /// are loaded.
     void reportLeaks() { host_.reportLeaks(); }
 
-    /// Ends the session and gives the exit code: `code`, or that of what went wrong beside it: a module that fails at
-    /// the end, leaks where they are checked, lost output.
+    /// Ends the session and returns the exit code: `code`, or that of what went wrong besides: a module that failed to
+    /// terminate, leaks where they are checked, lost output.
     int finish(int code);
 
 private:
-    /// Reports what is left of the host, where that was asked for.
+    /// Reports what is left of the host, where `checkLeaks` was called; true when there is something.
     bool reportLeft() const;
 
     LuaState lua_;

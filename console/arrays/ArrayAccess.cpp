@@ -16,32 +16,33 @@ namespace velmara::console {
 
 namespace {
 
-[[noreturn]] void refuseIndex(std::string const& given)
+[[noreturn]] void throwIndexError(std::string const& given)
 {
     fail("index", "an array is indexed with a whole number or {row, column}, not with " + given);
 }
 
-/// The value at `index` from 1 on as one from 0 on; nothing when it is not in 1 to `size`.
+/// The one-based index at `index` as a zero-based one; nothing when it is not in 1 to `size`.
 std::optional<std::size_t> readIndex(lua_State* L, int index, std::size_t size)
 {
     int isInteger = 0;
     lua_Integer const number = lua_type(L, index) == LUA_TNUMBER ? lua_tointegerx(L, index, &isInteger) : 0;
     if (!isInteger)
-        refuseIndex(lua_type(L, 2) == LUA_TTABLE ? "a table that holds " + valueText(L, index) : valueText(L, index));
+        throwIndexError(lua_type(L, 2) == LUA_TTABLE ? "a table that holds " + valueText(L, index)
+                                                     : valueText(L, index));
     if (number < 1 || static_cast<lua_Unsigned>(number) > size)
         return std::nullopt;
     return static_cast<std::size_t>(number - 1);
 }
 
-/// The zero-based linear index that argument 2 names; nothing when it lies outside the array.
+/// Argument 2 as a zero-based linear index; nothing when it lies outside the array.
 std::optional<std::size_t> readPosition(lua_State* L, hvArray_tag const& array)
 {
     if (lua_type(L, 2) != LUA_TTABLE)
         return readIndex(L, 2, array.get_number_of_elements());
     if (!proxyName(L, 2).empty())
-        refuseIndex(kindAt(L, 2));
+        throwIndexError(kindAt(L, 2));
     if (lua_rawlen(L, 2) != 2)
-        refuseIndex("a table of length " + std::to_string(lua_rawlen(L, 2)));
+        throwIndexError("a table of length " + std::to_string(lua_rawlen(L, 2)));
     std::size_t const* const sizes = array.get_dimensions();
     lua_rawgeti(L, 2, 1);
     lua_rawgeti(L, 2, 2);
@@ -51,7 +52,7 @@ std::optional<std::size_t> readPosition(lua_State* L, hvArray_tag const& array)
     return row && column ? std::optional(*column * sizes[0] + *row) : std::nullopt;
 }
 
-/// A finalizer that runs meanwhile may write to the array, or give it back: what is in its cells is held.
+/// Holds the array of cells meanwhile: a finalizer of the script may run, and write to it or release it.
 void pushHeldElement(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
     ArrayStack::Frame frame(HostContext::of(L).arrays());

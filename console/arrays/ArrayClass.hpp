@@ -14,8 +14,8 @@ struct ArrayClass {
     std::string name;
 };
 
-/// The class that the name, or the published class itself, at `index` stands for. Throws an `Error` that lists the
-/// names.
+/// The class at `index`, given by its name or as a published class itself. Throws an `Error` that lists the names for
+/// anything else.
 ArrayClass checkArrayClass(lua_State* L, int index);
 
 } // namespace velmara::console

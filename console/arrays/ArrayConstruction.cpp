@@ -20,21 +20,21 @@ namespace velmara::console {
 
 namespace {
 
-ArrayPtr create(lua_State* L, ArrayClass const& made, Shape shape, Conversion& conversion)
+ArrayPtr createEmpty(lua_State* L, ArrayClass const& arrayClass, Shape shape, Conversion& conversion)
 {
-    if (shape.columns != 0 && shape.rows > Conversion::mostBytes / shape.columns)
+    if (shape.columns != 0 && shape.rows > Conversion::maxBytes / shape.columns)
         fail("memory", "a value of more than 1 GB cannot be made");
-    conversion.add(shape.rows * shape.columns, memoryOfElement(made.classID));
+    conversion.add(shape.rows * shape.columns, memoryOfElement(arrayClass.classID));
     Hvm::Scope const scope(HostContext::of(L).hvm());
-    switch (made.classID) {
+    switch (arrayClass.classID) {
     case hvCELL_CLASS:
         return ArrayPtr(hvCreateCellMatrix(shape.rows, shape.columns));
     case hvSTRING_CLASS:
         return ArrayPtr(orbis::additions::createStringMatrix(shape.rows, shape.columns));
     case hvOBJECT_CLASS:
-        return ArrayPtr(orbis::omCreateORBISMatrix(shape.rows, shape.columns, made.name.c_str()));
+        return ArrayPtr(orbis::omCreateORBISMatrix(shape.rows, shape.columns, arrayClass.name.c_str()));
     default:
-        return ArrayPtr(orbis::additions::createMatrix(shape.rows, shape.columns, made.classID));
+        return ArrayPtr(orbis::additions::createMatrix(shape.rows, shape.columns, arrayClass.classID));
     }
 }
 
@@ -47,7 +47,7 @@ std::size_t checkSize(lua_State* L, int index, char const* what)
     return static_cast<std::size_t>(size);
 }
 
-/// Arguments 3 and 4, or the values' own shape.
+/// Arguments 3 and 4, or without them the shape of the values.
 Shape checkShape(lua_State* L, ElementSource const& source)
 {
     if (lua_isnone(L, 3))
@@ -62,11 +62,11 @@ Shape checkShape(lua_State* L, ElementSource const& source)
     return shape;
 }
 
-/// Copies the first element of plain ones, whose bytes are all that there is to it, into the others.
+/// Copies the bytes of the first element to all others.
 void repeatFirst(hvArray_tag* array, std::size_t size)
 {
     auto* const bytes = static_cast<char*>(orbis::additions::getWritableData(array));
-    // What is zero is so from the start, and in a large array takes no memory until it is written to.
+    // A new array is zero already; writing zeros to a large one would only make the system commit its memory.
     if (std::all_of(bytes, bytes + size, [](char byte) { return byte == 0; }))
         return;
     std::size_t const total = size * array->get_number_of_elements();
@@ -74,7 +74,7 @@ void repeatFirst(hvArray_tag* array, std::size_t size)
         std::copy_n(bytes, std::min(done, total - done), bytes + done);
 }
 
-/// One value for all elements; `null` and `missing` are there from the start.
+/// Stores one value in all elements. New arrays are `null` or `missing` already.
 void fill(lua_State* L, ElementSource const& source, hvArray_tag* array, Conversion& conversion)
 {
     std::size_t const count = array->get_number_of_elements();
@@ -101,18 +101,18 @@ void store(lua_State* L, ElementSource const& source, hvArray_tag* array, Conver
 
 } // namespace
 
-int makeArray(lua_State* L)
+int createArray(lua_State* L)
 {
     luaL_checkstack(L, 8, nullptr);
     lua_settop(L, std::min(lua_gettop(L), 4));
-    ArrayClass const made = checkArrayClass(L, 1);
+    ArrayClass const arrayClass = checkArrayClass(L, 1);
     Conversion conversion;
     // Pushing elements may run finalizers of the script, which may end the process.
     ArrayStack::Frame frame(HostContext::of(L).arrays());
-    ElementSource const source(L, 2, made.classID, frame);
+    ElementSource const source(L, 2, arrayClass.classID, frame);
     Shape const shape = checkShape(L, source);
-    hvArray_tag* const array = frame.push(create(L, made, shape, conversion));
-    if (source.array() && className(source.array()) == made.name) {
+    hvArray_tag* const array = frame.push(createEmpty(L, arrayClass, shape, conversion));
+    if (source.array() && className(source.array()) == arrayClass.name) {
         Hvm::Scope const scope(HostContext::of(L).hvm());
         copyElements(source.array(), array);
     } else if (source.isSingle())

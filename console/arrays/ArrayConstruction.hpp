@@ -13,6 +13,6 @@ namespace velmara::console {
 /// - with rows and columns: the values in column order, as many as there is room for; or one value for all elements
 ///
 /// Every value must fit the class exactly. See ArrayElement.hpp.
-int makeArray(lua_State* L);
+int createArray(lua_State* L);
 
 } // namespace velmara::console

@@ -20,7 +20,7 @@ namespace velmara::console {
 
 namespace {
 
-/// `tolua(array)`: tables, strings and numbers for all of an array of the host; any other value as it is.
+/// `tolua(array)`: an array of the host as tables, strings and numbers throughout; any other value as it is.
 int toLua(lua_State* L)
 {
     luaL_checkany(L, 1);
@@ -43,7 +43,8 @@ int sizeOf(lua_State* L)
     return 2;
 }
 
-/// While it lives the next crossing keeps its result an array. No finalizer of the script may come in between.
+/// Has the next call to the host keep its result an array. The collector is stopped, so that the next call is none of a
+/// finalizer.
 class KeptResult {
 public:
     explicit KeptResult(lua_State* L) : L_(L), isCollecting_(lua_gc(L, LUA_GCISRUNNING) != 0)
@@ -87,7 +88,7 @@ int asArray(lua_State* L)
 void bindArrayFunctions(lua_State* L)
 {
     bindArrayAccess(L);
-    lua_register(L, "array", guarded<makeArray>);
+    lua_register(L, "array", guarded<createArray>);
     lua_register(L, "asarray", guarded<asArray>);
     lua_register(L, "tolua", guarded<toLua>);
     lua_register(L, "size", guarded<sizeOf>);

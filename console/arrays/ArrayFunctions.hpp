@@ -4,7 +4,7 @@
 
 namespace velmara::console {
 
-/// Makes `array`, `asarray`, `tolua`, `size`, `null` and `missing` globals.
+/// Binds `array`, `asarray`, `tolua`, `size`, `null` and `missing`, and gives host arrays their operators.
 void bindArrayFunctions(lua_State* L);
 
 } // namespace velmara::console

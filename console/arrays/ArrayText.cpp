@@ -17,10 +17,10 @@ namespace velmara::console {
 
 namespace {
 
-constexpr std::size_t mostRows = 10;
-constexpr std::size_t mostColumns = 20;
-constexpr std::size_t mostWidth = 74;
-constexpr std::size_t mostCharacters = 24; ///< of one element's text
+constexpr std::size_t maxRows = 10;
+constexpr std::size_t maxColumns = 20;
+constexpr std::size_t maxWidth = 74;
+constexpr std::size_t maxCharacters = 24; ///< of one element's text
 
 std::string sizeAndClass(hvArray_tag const& array)
 {
@@ -28,7 +28,7 @@ std::string sizeAndClass(hvArray_tag const& array)
     return std::to_string(sizes[0]) + "-by-" + std::to_string(sizes[1]) + ' ' + className(&array);
 }
 
-/// How the systems' libraries write what is no finite number differs.
+/// Writes infinities and NaN itself: the C libraries differ in that.
 template <class T>
 std::string numberText(T number, int digits)
 {
@@ -55,8 +55,8 @@ std::string numberText(hvArray_tag const& array, std::size_t index, int digits)
 
 std::string quotedText(std::u16string_view text)
 {
-    bool const isLong = text.size() > mostCharacters;
-    return '"' + fl::i18n::to_string(std::u16string(text.substr(0, mostCharacters))) + (isLong ? "...\"" : "\"");
+    bool const isLong = text.size() > maxCharacters;
+    return '"' + fl::i18n::to_string(std::u16string(text.substr(0, maxCharacters))) + (isLong ? "...\"" : "\"");
 }
 
 std::string stringText(hvArray_tag const& array, std::size_t index)
@@ -118,7 +118,7 @@ std::size_t widthOf(std::string const& text)
     return static_cast<std::size_t>(std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
-/// One column of texts, numbers to the right, all else to the left.
+/// One column of texts: numbers aligned right, all else left.
 class Column {
 public:
     Column(hvArray_tag const& array, std::size_t column, std::size_t shownRows)
@@ -148,12 +148,12 @@ private:
 std::string tableText(hvArray_tag const& array)
 {
     std::size_t const* const sizes = array.get_dimensions();
-    std::size_t const rows = std::min(sizes[0], mostRows);
+    std::size_t const rows = std::min(sizes[0], maxRows);
     std::vector<Column> columns;
-    for (std::size_t width = 0; columns.size() < std::min(sizes[1], mostColumns);) {
+    for (std::size_t width = 0; columns.size() < std::min(sizes[1], maxColumns);) {
         Column const next(array, columns.size(), rows);
         width += next.width();
-        if (width > mostWidth)
+        if (width > maxWidth)
             break;
         columns.push_back(next);
     }
@@ -165,18 +165,18 @@ std::string tableText(hvArray_tag const& array)
         line.resize(line.find_last_not_of(' ') + 1);
         text += line + (columns.size() < sizes[1] ? "  ..." : "");
     }
-    return text + (sizes[0] > mostRows ? "\n  ..." : "");
+    return text + (sizes[0] > maxRows ? "\n  ..." : "");
 }
 
 std::string charactersText(hvArray_tag const& array)
 {
     std::string text;
-    for (std::size_t row = 0; row < std::min(array.get_dimensions()[0], mostRows); ++row)
+    for (std::size_t row = 0; row < std::min(array.get_dimensions()[0], maxRows); ++row)
         text += "\n  " + quotedText(rowOf(array, row));
-    return text + (array.get_dimensions()[0] > mostRows ? "\n  ..." : "");
+    return text + (array.get_dimensions()[0] > maxRows ? "\n  ..." : "");
 }
 
-/// The text of what is only one element, or one row of characters; empty for other arrays.
+/// The text of a single element or one row of characters; empty for other arrays.
 std::string plainText(hvArray_tag const& array)
 {
     hvClassID const classID = array._get_class_id_non_trivial();

@@ -18,7 +18,7 @@ namespace velmara::console {
 
 namespace {
 
-/// The characters of a Lua string or of a host string alone; nothing of other values.
+/// The characters of a Lua string or of a single host string; nothing for other values.
 std::optional<std::u16string> readCharacters(lua_State* L, int index)
 {
     if (lua_type(L, index) == LUA_TSTRING)
@@ -32,7 +32,7 @@ std::optional<std::u16string> readCharacters(lua_State* L, int index)
     return std::u16string(strings.getText(0), strings.getLength(0));
 }
 
-/// Characters are one value for an element that is a whole text.
+/// True when the characters are one value: for elements that are whole texts.
 bool isTextOf(hvArray_tag const& array, hvClassID classID)
 {
     return array._get_class_id_non_trivial() == hvCHAR_CLASS && (classID == hvSTRING_CLASS || classID == hvCELL_CLASS);
@@ -48,38 +48,38 @@ ElementSource::ElementSource(lua_State* L, int index, hvClassID classID, ArraySt
         return;
     std::optional<std::u16string> const text = classID == hvCHAR_CLASS ? readCharacters(L, index) : std::nullopt;
     if (text)
-        takeArray(frame.push(ArrayPtr(orbis::additions::createText(*text))));
+        readArray(frame.push(ArrayPtr(orbis::additions::createText(*text))));
     else if (lua_istable(L, index) && proxyName(L, index).empty())
-        takeTable(classID, frame);
+        readTable(classID, frame);
     else if (isHostArray(L, index) && !isTextOf(*checkHostArray(L, index), classID))
-        takeArray(frame.push(ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, index)))));
+        readArray(frame.push(ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, index)))));
     else {
         kind_ = Kind::Single;
         shape_ = {1, 1};
     }
 }
 
-void ElementSource::takeArray(hvArray_tag const* array)
+void ElementSource::readArray(hvArray_tag const* array)
 {
     kind_ = Kind::Array;
     array_ = array;
     shape_ = {array->get_dimensions()[0], array->get_dimensions()[1]};
 }
 
-void ElementSource::takeTable(hvClassID classID, ArrayStack::Frame& frame)
+void ElementSource::readTable(hvClassID classID, ArrayStack::Frame& frame)
 {
     Elements const elements = elementsOf(L_, index_);
     if (elements.count == 0)
         return;
-    if (classID == hvCHAR_CLASS && takeTexts(elements.count, frame))
+    if (classID == hvCHAR_CLASS && readTexts(elements.count, frame))
         return;
     kind_ = Kind::Sequence;
     shape_ = {1, elements.count};
     if (elements.areTables && classID != hvCELL_CLASS)
-        takeRows(elements.count);
+        readRows(elements.count);
 }
 
-void ElementSource::takeRows(std::size_t count)
+void ElementSource::readRows(std::size_t count)
 {
     kind_ = Kind::Rows;
     for (std::size_t row = 0; row < count; ++row) {
@@ -93,8 +93,8 @@ void ElementSource::takeRows(std::size_t count)
     }
 }
 
-/// Takes texts of one length for the rows of a character matrix; false when not all are texts.
-bool ElementSource::takeTexts(std::size_t count, ArrayStack::Frame& frame)
+/// Reads texts of one length as the rows of a character matrix; false when not all are texts.
+bool ElementSource::readTexts(std::size_t count, ArrayStack::Frame& frame)
 {
     hvArray_tag* characters = nullptr;
     for (std::size_t row = 0; row < count; ++row) {
@@ -113,7 +113,7 @@ bool ElementSource::takeTexts(std::size_t count, ArrayStack::Frame& frame)
         for (std::size_t column = 0; column < text->size(); ++column)
             data[column * count + row] = (*text)[column];
     }
-    takeArray(characters);
+    readArray(characters);
     return true;
 }
 
@@ -130,16 +130,16 @@ void ElementSource::push(std::size_t position) const
     case Kind::Rows:
         lua_rawgeti(L_, index_, row);
         if (!lua_istable(L_, -1))
-            fail("table", "the table was changed meanwhile"); // by a finalizer
+            fail("table", "the table was changed meanwhile"); // by a finalizer of the script
         lua_rawgeti(L_, -1, column);
         lua_remove(L_, -2);
         return;
     case Kind::Array:
-        // Characters as numbers: half a pair has no text.
+        // Characters as numbers: a lone surrogate has no text.
         if (array_->_get_class_id_non_trivial() == hvCHAR_CLASS)
             return lua_pushinteger(L_, static_cast<char16_t const*>(orbis::additions::getData(array_))[position]);
         return pushElement(L_, array_, position);
-    case Kind::Nothing:
+    case Kind::Empty:
         return;
     }
 }

@@ -6,8 +6,8 @@
 
 namespace velmara::console {
 
-/// What a script does with a class by its name. Each gives the number of values pushed, and throws an `Error` for
-/// what the class does not have.
+/// What a script does with a class by its name. Each function returns the number of values pushed, and throws an
+/// `Error` for what the class does not have.
 
 /// A new object from the Lua function's arguments 2 and on.
 int construct(lua_State* L, std::string const& className);

@@ -29,7 +29,7 @@ bool startsWithObject(lua_State* L, Hvm& hvm)
         return false;
     if (!flag(L, staticUpvalue))
         return true;
-    // The name is static, too: only an object of the class can be the one that the method is for.
+    // The name is also that of a static method: the object is the method's only if it is of the class.
     Hvm::Scope const scope(hvm);
     return hvIsA(checkObject(L, 1), lua_tostring(L, lua_upvalueindex(classUpvalue)));
 }
@@ -55,7 +55,7 @@ int callMember(lua_State* L)
     std::string_view const name = textAt(L, lua_upvalueindex(memberUpvalue));
     HostCall call(L);
     if (flag(L, instanceUpvalue) && startsWithObject(L, call.hvm())) {
-        hvArray_tag* object = call.keep(checkObject(L, 1));
+        hvArray_tag* object = call.share(checkObject(L, 1));
         return call.finish(call.hvm().call(object, name, call.inputs(2)));
     }
     if (!flag(L, staticUpvalue))
@@ -95,9 +95,9 @@ void pushCallable(lua_State* L, std::string_view cls, std::string_view name, boo
     fail("unknownMember", cls.name + " has no member '" + std::string(name) + "'" + didYouMean(name, known));
 }
 
-/// Pushes what is to be remembered of the member: its function, for a property whether it is static, or for an
+/// Pushes what is cached of the member: the function of a callable one, for a property whether it is static, for an
 /// enumerator a number.
-void pushFound(lua_State* L, std::string_view cls, std::string_view name)
+void pushCacheEntry(lua_State* L, std::string_view cls, std::string_view name)
 {
     ClassRecord const record = HostContext::of(L).hvm().describeClass(cls);
     auto const isCalled = [&](MethodRecord::Kind kind) {
@@ -118,7 +118,7 @@ void pushFound(lua_State* L, std::string_view cls, std::string_view name)
 
 } // namespace
 
-void pushRememberedMembers(lua_State* L, std::string_view className)
+void pushMemberCache(lua_State* L, std::string_view className)
 {
     pushCached(L, "velmara.members", className, [L] { lua_newtable(L); });
 }
@@ -126,8 +126,8 @@ void pushRememberedMembers(lua_State* L, std::string_view className)
 MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name)
 {
     luaL_checkstack(L, 10, nullptr);
-    pushRememberedMembers(L, className);
-    pushCached(L, lua_gettop(L), name, [&] { pushFound(L, className, name); });
+    pushMemberCache(L, className);
+    pushCached(L, lua_gettop(L), name, [&] { pushCacheEntry(L, className, name); });
     lua_remove(L, -2);
     if (lua_isfunction(L, -1))
         return MemberKind::Callable;

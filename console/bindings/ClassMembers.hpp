@@ -8,9 +8,9 @@ namespace velmara::console {
 
 enum class MemberKind { Callable, Property, StaticProperty, Enumerator };
 
-/// Finds the member `name` of a class. For a callable one, its function is pushed: it takes the object first, or
-/// none for a static method; for a property and an enumerator nothing. What is found once is remembered for the Lua
-/// state: whether it is still there is for the host to say at each use.
+/// Finds the member `name` of a class. Pushes the function of a callable one, which takes the object first, or none for
+/// a static method; pushes nothing for a property or an enumerator. Results are cached in the Lua state: whether the
+/// member still exists, the host checks at each use.
 ///
 /// Throws an `Error` that names what is missing, and what comes close to it.
 MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name);
@@ -18,8 +18,8 @@ MemberKind pushMember(lua_State* L, std::string_view className, std::string_view
 /// Whether the property `name` of a class is static. Throws an `Error` when it is no property.
 MemberKind checkProperty(lua_State* L, std::string_view className, std::string_view name);
 
-/// Pushes the table of what is remembered of the class: a function under the name of each callable member.
-void pushRememberedMembers(lua_State* L, std::string_view className);
+/// Pushes the cache of the class: a table with a function under the name of each callable member that was found.
+void pushMemberCache(lua_State* L, std::string_view className);
 
 /// Pushes the function that calls the package function of that full name.
 void pushPackageFunction(lua_State* L, std::string_view fullName);

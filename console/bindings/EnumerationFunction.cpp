@@ -29,25 +29,25 @@ EnumeratorRecord enumerator(lua_State* L, lua_Integer next)
     lua_rawgeti(L, -2, 2);
     if (lua_type(L, -2) != LUA_TSTRING || !lua_isinteger(L, -1))
         failElement("{" + valueText(L, -2) + ", " + valueText(L, -1) + "}");
-    EnumeratorRecord made{std::string(textAt(L, -2)), lua_tointeger(L, -1)};
+    EnumeratorRecord result{std::string(textAt(L, -2)), lua_tointeger(L, -1)};
     lua_pop(L, 2);
-    return made;
+    return result;
 }
 
-/// Where no number is given it is the one after that before, the first 0.
+/// The enumerators of the table. One without a number has the previous one's plus 1, the first 0.
 std::vector<EnumeratorRecord> enumerators(lua_State* L, int table)
 {
-    std::vector<EnumeratorRecord> made;
+    std::vector<EnumeratorRecord> result;
     for (lua_Integer i = 1; lua_rawgeti(L, table, i) != LUA_TNIL; ++i) {
-        lua_Integer const last = made.empty() ? -1 : made.back().value;
-        bool const isGreatest = last == std::numeric_limits<lua_Integer>::max();
-        if (isGreatest && lua_type(L, -1) == LUA_TSTRING)
-            fail("enumeration", "there is no integer after that of " + made.back().name);
-        made.push_back(enumerator(L, isGreatest ? last : last + 1));
+        lua_Integer const last = result.empty() ? -1 : result.back().value;
+        bool const isMax = last == std::numeric_limits<lua_Integer>::max();
+        if (isMax && lua_type(L, -1) == LUA_TSTRING)
+            fail("enumeration", "there is no integer after that of " + result.back().name);
+        result.push_back(enumerator(L, isMax ? last : last + 1));
         lua_pop(L, 1);
     }
     lua_pop(L, 1);
-    return made;
+    return result;
 }
 
 int defineEnumeration(lua_State* L)

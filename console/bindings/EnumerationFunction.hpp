@@ -4,7 +4,7 @@
 
 namespace velmara::console {
 
-/// Binds `enumeration(name, enumerators)`, which publishes an enumeration and gives its class.
+/// Binds `enumeration(name, enumerators)`, which publishes an enumeration and returns its class.
 void bindEnumerationFunction(lua_State* L);
 
 } // namespace velmara::console

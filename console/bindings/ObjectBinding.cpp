@@ -17,7 +17,7 @@ std::string_view memberName(lua_State* L, int index)
     return textAt(L, index);
 }
 
-/// Upvalue 1 is the class's table of remembered members: a known method is one look into it.
+/// Upvalue 1 is the class's table of cached members: a known method is a single look-up.
 int readMember(lua_State* L)
 {
     lua_pushvalue(L, 2);
@@ -26,9 +26,9 @@ int readMember(lua_State* L)
     std::string_view const name = memberName(L, 2);
     std::string_view const cls = objectClass(L, 1);
     HostCall call(L);
-    hvArray_tag* object = call.keep(checkObject(L, 1));
+    hvArray_tag* object = call.share(checkObject(L, 1));
     if (!isValid(object))
-        return call.finish(call.hvm().get(object, name)); // refused by the host, in its own words
+        return call.finish(call.hvm().get(object, name)); // the host throws its own error
     if (pushMember(L, cls, name) == MemberKind::Callable)
         return 1;
     return call.finish(call.hvm().get(object, name));
@@ -39,7 +39,7 @@ int writeMember(lua_State* L)
     std::string_view const name = memberName(L, 2);
     std::string_view const cls = objectClass(L, 1);
     HostCall call(L);
-    hvArray_tag* object = call.keep(checkObject(L, 1));
+    hvArray_tag* object = call.share(checkObject(L, 1));
     if (isValid(object))
         checkProperty(L, cls, name);
     call.hvm().set(object, name, call.inputs(3).front());
@@ -49,7 +49,7 @@ int writeMember(lua_State* L)
 /// Completes the metatable, argument 1, of a class by its name, argument 2.
 int addMembers(lua_State* L)
 {
-    pushRememberedMembers(L, textAt(L, 2));
+    pushMemberCache(L, textAt(L, 2));
     lua_pushcclosure(L, guarded<readMember>, 1);
     lua_setfield(L, 1, "__index");
     lua_pushcfunction(L, guarded<writeMember>);

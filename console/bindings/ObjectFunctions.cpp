@@ -37,7 +37,7 @@ std::string classOfValue(lua_State* L)
     }
 }
 
-/// The host's name for the class of a value; Lua's name for what the host has no value for.
+/// The host's class of a value; Lua's type for what cannot be passed to the host.
 int classOf(lua_State* L)
 {
     luaL_checkany(L, 1);
@@ -50,7 +50,7 @@ int classOf(lua_State* L)
     return 1;
 }
 
-/// Ends an object, or the objects in a table, now.
+/// Destroys an object, or the objects in a table or an array, now.
 int deleteObjects(lua_State* L)
 {
     if (!isObject(L, 1) && !isHostArray(L, 1) && (!lua_istable(L, 1) || !proxyName(L, 1).empty()))

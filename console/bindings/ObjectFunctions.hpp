@@ -4,7 +4,7 @@
 
 namespace velmara::console {
 
-/// Binds the functions `class`, `delete` and `isvalid`, and the value `null`.
+/// Binds `class`, `delete`, `isvalid`, `objects` and `references`.
 void bindObjectFunctions(lua_State* L);
 
 } // namespace velmara::console

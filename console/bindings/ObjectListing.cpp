@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t columnCount = 7;
 using Line = std::array<std::string, columnCount>;
 
-/// The fields of a record, and the list's heads.
+/// The fields of a record, which are also the headings of the list.
 constexpr std::array<char const*, columnCount> fields = {"class",    "owner", "valid", "external",
                                                          "internal", "weak",  "native"};
 
@@ -50,7 +50,7 @@ void pushRecord(lua_State* L, ObjectRecord const& object)
     setField(L, "native", object.nativeObject != nullptr);
 }
 
-/// The record on top; what a script has changed in it shows as it can.
+/// The fields of the record on top. A script may have changed it: what is no text shows as "yes" or "no".
 Line lineOf(lua_State* L)
 {
     Line line;

@@ -4,8 +4,8 @@
 
 namespace velmara::console {
 
-/// `objects()` as a function for Lua, to be guarded: pushes a sequence of what is told of each live object, which
-/// prints as an aligned list.
+/// `objects()` as a function for Lua, to be guarded: pushes a sequence of records of all live objects, which prints as
+/// an aligned list.
 int listObjects(lua_State* L);
 
 } // namespace velmara::console

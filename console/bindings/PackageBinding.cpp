@@ -19,7 +19,7 @@ std::string lastPart(std::string const& name)
     return name.substr(name.rfind('.') + 1);
 }
 
-/// Pushes what stands for a published name; false when it is none.
+/// Pushes the value of a published name; false when there is none of that name.
 bool pushName(lua_State* L, std::string const& fullName)
 {
     switch (HostContext::of(L).hvm().lookUp(fullName)) {
@@ -35,7 +35,7 @@ bool pushName(lua_State* L, std::string const& fullName)
     }
 }
 
-/// The kind of the name that the proxy at 1 stands for; throws when it stands for nothing any more.
+/// The kind of the name of the proxy at 1. Throws an `Error` when it is not published any more.
 NameKind checkKind(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
@@ -98,7 +98,7 @@ int toText(lua_State* L)
     return 1;
 }
 
-/// `pairs(package)`: what it holds, by name; of an enumeration the enumerators.
+/// `pairs(package)`: its contents by name; for an enumeration its enumerators.
 int pairs(lua_State* L)
 {
     std::string const name(proxyName(L, 1));

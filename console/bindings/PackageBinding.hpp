@@ -9,7 +9,7 @@
 
 namespace velmara::console {
 
-/// The names, without the package's own, of all that a package holds.
+/// The unqualified names of all packages, classes and functions in the package.
 std::vector<std::string> packageContents(PackageRecord const& package);
 
 /// Gives the proxies of packages and classes their members, and makes what is published at the top level readable as

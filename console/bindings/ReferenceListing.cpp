@@ -11,7 +11,7 @@ int listReferences(lua_State* L)
 {
     luaL_checkstack(L, 6, nullptr);
     HostCall call(L);
-    std::vector<Reference> const references = call.hvm().references(call.keep(checkObject(L, 1)));
+    std::vector<Reference> const references = call.hvm().references(call.share(checkObject(L, 1)));
     lua_createtable(L, static_cast<int>(references.size()), 0);
     lua_Integer number = 0;
     for (Reference const& reference : references) {

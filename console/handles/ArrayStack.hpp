@@ -7,8 +7,8 @@
 
 namespace velmara::console {
 
-/// The host arrays of the calls in progress, innermost last. They are kept here and not in the frames of the calls,
-/// so that a script that ends the process in the midst of a call gives them back all the same.
+/// The host arrays of the calls in progress, innermost last. They are owned here and not by the frames of the calls:
+/// `os.exit` in the midst of a call unwinds no frame, and they must be released all the same.
 class ArrayStack {
 public:
     ArrayStack() = default;
@@ -16,7 +16,7 @@ public:
     ArrayStack& operator=(ArrayStack const&) = delete;
     ~ArrayStack() { shrink(0); }
 
-    /// Gives all arrays back from `size` on, the last one first.
+    /// Releases all arrays from `size` on, the last one first.
     void shrink(std::size_t size) noexcept
     {
         while (arrays_.size() > size) {
@@ -25,7 +25,7 @@ public:
         }
     }
 
-    /// The arrays of one call: given back at its end.
+    /// The arrays of one call: released at its end.
     class Frame {
     public:
         explicit Frame(ArrayStack& stack) : stack_(stack), start_(stack.arrays_.size()) {}
@@ -33,7 +33,7 @@ public:
         Frame& operator=(Frame const&) = delete;
         ~Frame() { stack_.shrink(start_); }
 
-        /// Owns `array` from now on; it stays valid until the frame ends.
+        /// Takes ownership; the array stays valid until the frame ends.
         hvArray_tag* push(ArrayPtr array)
         {
             stack_.arrays_.push_back(array.get());

@@ -7,9 +7,8 @@
 
 namespace velmara::console {
 
-/// The host arrays that values of the script hold. Lua frees a value without finalizing it where its finalizer cannot
-/// be called, as no stack or memory is left: what it held is still known here, and given back at the end of the
-/// session.
+/// Owns the host arrays that values of the script hold. Lua frees a value without finalizing it when no stack or memory
+/// is left to call its finalizer: what such a value held is still known here, and released with the session.
 class HeldArrays {
 public:
     HeldArrays() = default;
@@ -17,50 +16,50 @@ public:
     HeldArrays& operator=(HeldArrays const&) = delete;
     ~HeldArrays() { clear(); }
 
-    /// What a value of the script keeps of its array: a view, and the place to find the owner at.
+    /// What a value of the script stores: a view of its array, and the slot of the owner.
     struct Holder {
-        hvArray_tag* array = nullptr; ///< null once it was given back
-        std::size_t place = 0;
+        hvArray_tag* array = nullptr; ///< null once it was released
+        std::size_t slot = 0;
     };
 
-    /// Owns `array` for an empty holder from now on. When memory runs out the holder stays empty.
-    void give(Holder& holder, ArrayPtr array)
+    /// Takes ownership of `array` for an empty holder, which stays empty when memory runs out.
+    void hold(Holder& holder, ArrayPtr array)
     {
-        if (free_ == places_.size())
-            places_.push_back({nullptr, places_.size() + 1});
+        if (free_ == slots_.size())
+            slots_.push_back({nullptr, slots_.size() + 1});
         holder = {array.get(), free_};
-        free_ = places_[holder.place].nextFree;
-        places_[holder.place].array = array.release();
+        free_ = slots_[holder.slot].nextFree;
+        slots_[holder.slot].array = array.release();
     }
 
-    /// Empties the holder; its array, null when it was empty, is the caller's.
-    ArrayPtr takeBack(Holder& holder) noexcept
+    /// Empties the holder and returns its array, null when it was empty.
+    ArrayPtr release(Holder& holder) noexcept
     {
         ArrayPtr array(holder.array);
         if (array) {
-            places_[holder.place] = {nullptr, free_};
-            free_ = holder.place;
+            slots_[holder.slot] = {nullptr, free_};
+            free_ = holder.slot;
         }
         holder.array = nullptr;
         return array;
     }
 
-    /// Gives back what is still held, once no value of the script lives any more.
+    /// Releases what is still held. No value of the script may be alive.
     void clear() noexcept
     {
-        for (; !places_.empty(); places_.pop_back())
-            ArrayPtr const last(places_.back().array);
+        for (; !slots_.empty(); slots_.pop_back())
+            ArrayPtr const last(slots_.back().array);
         free_ = 0;
     }
 
 private:
-    struct Place {
+    struct Slot {
         hvArray_tag* array;
-        std::size_t nextFree; ///< of a place that is free
+        std::size_t nextFree; ///< of a free slot
     };
 
-    std::vector<Place> places_;
-    std::size_t free_ = 0; ///< the first free place; as many as there are when none is
+    std::vector<Slot> slots_;
+    std::size_t free_ = 0; ///< the first free slot; the number of slots when none is
 };
 
 } // namespace velmara::console

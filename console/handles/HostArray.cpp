@@ -21,17 +21,17 @@ using Holder = HeldArrays::Holder;
 int release(lua_State* L)
 {
     auto& holder = *static_cast<Holder*>(luaL_checkudata(L, 1, arrayType));
-    HostContext::of(L).heldArrays().takeBack(holder).reset(); // last, as objects in it that end run native code
+    HostContext::of(L).heldArrays().release(holder).reset(); // last: destroying objects in it runs native code
     return 0;
 }
 
-/// Lua sees a few bytes of an array, and would collect those out of use far too late.
-void tellCollector(lua_State* L, hvArray_tag const& array)
+/// Lua counts a few bytes for an array, and would collect unused ones far too late.
+void stepCollector(lua_State* L, hvArray_tag const& array)
 {
     std::size_t const bytes = array.get_number_of_elements() * memoryOfElement(array._get_class_id_non_trivial());
-    constexpr std::size_t most = std::numeric_limits<int>::max() / 1024;
+    constexpr std::size_t maxStep = std::numeric_limits<int>::max() / 1024;
     if (bytes >= 1024 && lua_gc(L, LUA_GCISRUNNING))
-        lua_gc(L, LUA_GCSTEP, static_cast<int>(std::min(bytes / 1024, most)));
+        lua_gc(L, LUA_GCSTEP, static_cast<int>(std::min(bytes / 1024, maxStep)));
 }
 
 } // namespace
@@ -55,8 +55,8 @@ void pushHostArray(lua_State* L, hvArray_tag const& array)
     auto* holder = new (lua_newuserdatauv(L, sizeof(Holder), 0)) Holder;
     pushArrayMetatable(L);
     lua_setmetatable(L, -2);
-    HostContext::of(L).heldArrays().give(*holder, ArrayPtr(hvCreateSharedDataCopy(&array)));
-    tellCollector(L, array);
+    HostContext::of(L).heldArrays().hold(*holder, ArrayPtr(hvCreateSharedDataCopy(&array)));
+    stepCollector(L, array);
 }
 
 bool isHostArray(lua_State* L, int index)

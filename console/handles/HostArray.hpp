@@ -11,16 +11,16 @@ namespace velmara::console {
 /// Pushes the metatable of all host arrays. What a script does with them is added to it: see ArrayAccess.hpp.
 void pushArrayMetatable(lua_State* L);
 
-/// Pushes a copy of the array that shares its data until one side is written to. Memory that Lua does not know of makes
-/// it collect what is out of use, so finalizers of the script may run.
+/// Pushes a copy of the array that shares its data until one side is written to. May run finalizers of the script: the
+/// array's memory, which Lua does not see, is reported to the garbage collector.
 void pushHostArray(lua_State* L, hvArray_tag const& array);
 
 bool isHostArray(lua_State* L, int index);
 
-/// The array at `index`, or null when there is none, or it was given back.
+/// The array at `index`; null when there is none, or it was released.
 hvArray_tag* testHostArray(lua_State* L, int index);
 
-/// The same; throws an `Error` in place of null.
+/// The same, but throws an `Error` instead of returning null.
 hvArray_tag* checkHostArray(lua_State* L, int index);
 
 } // namespace velmara::console

@@ -32,7 +32,7 @@ public:
     /// Set for the next call: its result stays an array of the host.
     bool& keepsNextArray() { return keepsNextArray_; }
 
-    /// While this lives a fresh virtual machine with the same modules is in use.
+    /// Puts a fresh virtual machine with the same modules into use, for its own lifetime.
     class FreshMachine {
     public:
         explicit FreshMachine(HostContext& context);
@@ -48,8 +48,8 @@ public:
     void beginClosing() { isClosing_ = true; }
     bool isClosing() const { return isClosing_; }
 
-    /// To be called before the script is given something of the host: throws an `Error` when the state is closing, as
-    /// Lua would not finalize it any more.
+    /// Call before giving the script a value that owns something of the host: throws an `Error` when the state is
+    /// closing, as Lua would not finalize the value any more.
     void requireOpen() const;
 
     /// Releases all arrays, then destroys the virtual machines. No value of the script may be alive.
@@ -58,11 +58,11 @@ public:
     /// See `Session::reportLeaks`.
     void reportLeaks();
 
-    /// True when a module has failed at the end of its virtual machine.
+    /// True when a module has failed to terminate.
     bool hasFailed() const { return hasFailed_; }
 
 private:
-    /// A virtual machine that reports what goes wrong at its end.
+    /// A virtual machine that reports modules that fail to terminate, and leaks where asked for.
     std::unique_ptr<Hvm> createMachine();
 
     std::vector<std::unique_ptr<Hvm>> machines_;

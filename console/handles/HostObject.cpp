@@ -30,7 +30,7 @@ Holder* holderAt(lua_State* L, int index)
 
 int release(lua_State* L)
 {
-    HostContext::of(L).heldArrays().takeBack(*holderAt(L, 1)).reset();
+    HostContext::of(L).heldArrays().release(*holderAt(L, 1)).reset();
     return 0;
 }
 
@@ -98,7 +98,7 @@ void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index)
     pushMetatable(L, className(scalar));
     lua_setmetatable(L, -2);
     scalar->add_reference();
-    HostContext::of(L).heldArrays().give(*holder, ArrayPtr(scalar));
+    HostContext::of(L).heldArrays().hold(*holder, ArrayPtr(scalar));
 }
 
 void completeMetatablesWith(lua_State* L, lua_CFunction complete)

@@ -47,7 +47,7 @@ inline std::size_t elementSize(hvClassID classID)
     return size;
 }
 
-/// About what an element of any class takes of memory, with what hangs on it.
+/// Approximate memory of one element of any class, with what it owns.
 inline std::size_t memoryOfElement(hvClassID classID)
 {
     switch (classID) {

@@ -40,8 +40,8 @@ std::string valueText(lua_State* L, int index)
     if (lua_type(L, index) != LUA_TNUMBER)
         return kindAt(L, index);
     if (std::isnan(lua_tonumber(L, index)))
-        return "NaN";        // its sign, and how systems write it, tell nothing
-    lua_pushvalue(L, index); // a number is turned into text where it stands
+        return "NaN";        // the sign is arbitrary, and the C libraries differ
+    lua_pushvalue(L, index); // `lua_tostring` converts in place
     std::string text = lua_tostring(L, -1);
     lua_pop(L, 1);
     return text;

@@ -6,7 +6,7 @@
 
 namespace velmara::console {
 
-/// "a table", "a function", ...: what stands at `index`, for error texts.
+/// The kind of the value at `index` for error texts: "a table", "a function", ...
 std::string kindAt(lua_State* L, int index);
 
 /// The same, but a number is written out: "300".

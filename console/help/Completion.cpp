@@ -25,7 +25,7 @@ void addKeys(lua_State* L, int table, Names& names)
             names.emplace_back(textAt(L, -2));
 }
 
-/// After ":" an object's methods, after "." its properties too.
+/// An object's methods; after "." its properties too.
 void addObjectMembers(lua_State* L, std::string_view className, char separator, Names& names)
 {
     ClassRecord const record = HostContext::of(L).hvm().describeClass(className);
@@ -60,7 +60,7 @@ void addPublished(lua_State* L, std::string_view name, Names& names)
         std::ranges::copy(packageContents(hvm.describePackage(name)), std::back_inserter(names));
 }
 
-/// Replaces the value on top, of which `key` is asked, by what it holds there; nil for what only code could tell.
+/// Replaces the value on top by its member `key`; by nil where only running code could find that.
 void descend(lua_State* L, std::string const& key)
 {
     if (std::string const name(proxyName(L, -1)); !name.empty())
@@ -73,7 +73,7 @@ void descend(lua_State* L, std::string const& key)
     lua_remove(L, -2);
 }
 
-/// Pushes what the text before the last separator stands for.
+/// Pushes the value of the path before the last separator.
 void pushOwner(lua_State* L, std::string_view path)
 {
     lua_pushglobaltable(L);
@@ -106,7 +106,7 @@ struct Request {
     Names found;
 };
 
-/// Called by Lua with a `Request`, so that its errors end here and not in the line editor.
+/// Called by `lua_pcall` with a `Request`, so that errors do not reach the line editor.
 int find(lua_State* L)
 {
     Request& request = *static_cast<Request*>(lua_touserdata(L, 1));

@@ -8,11 +8,11 @@
 
 namespace velmara::console {
 
-/// What the word at the prompt may become, sorted: keywords, globals, packages, classes, and the members of what
-/// stands before the last "." or ":". Runs no code of the script and reads no property. Nothing where it fails.
+/// The completions of a word at the prompt, sorted: keywords, globals, packages and classes, or the members of what is
+/// before the last "." or ":". Runs no code of the script and reads no property. Empty on failure.
 std::vector<std::string> completions(lua_State* L, std::string_view word);
 
-/// What all of the names, at least one, begin with.
+/// The common start of the names, of which there is at least one.
 std::string commonStart(std::vector<std::string> const& names);
 
 } // namespace velmara::console

@@ -21,8 +21,8 @@ void print(std::string const& text)
     std::fwrite(text.data(), 1, text.size(), stdout);
 }
 
-/// The dotted name that the value at 1 stands for: of a package, a class, an object's class, a function; a string is
-/// a name itself.
+/// The dotted name of the value at 1: of a package, a class, an object's class or a function; a string is a name
+/// itself.
 std::string subject(lua_State* L)
 {
     std::string name;

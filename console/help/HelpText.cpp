@@ -27,9 +27,9 @@ bool isShown(PropertyRecord const& property)
            (property.getAccess == MemberAccess::Public || property.setAccess == MemberAccess::Public);
 }
 
-std::string firm(std::string text)
+std::string unbroken(std::string text)
 {
-    std::ranges::replace(text, ' ', firmBlank);
+    std::ranges::replace(text, ' ', nonBreakingSpace);
     return text;
 }
 
@@ -45,11 +45,11 @@ std::string signatureText(MethodRecord const& method)
     std::string text = lastPart(method.name) + '(';
     for (std::size_t i = hasObject ? 1 : 0; i < method.inputs.size(); ++i) {
         text += text.ends_with('(') ? "" : ", ";
-        text += method.inputs[i].name + firm(": " + method.inputs[i].dataType);
+        text += method.inputs[i].name + unbroken(": " + method.inputs[i].dataType);
     }
     text += ')';
     if (method.kind != Kind::Constructor && !method.outputs.empty())
-        text += " -> " + firm(method.outputs.front().dataType);
+        text += " -> " + unbroken(method.outputs.front().dataType);
     return text;
 }
 

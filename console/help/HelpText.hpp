@@ -7,7 +7,7 @@
 
 namespace velmara::console {
 
-/// Help on what is published, in 80 columns: what a script may use, as it would write it.
+/// Help on what is published, in 80 columns: what a script may use, in the form in which it is written.
 std::string helpText(PackageRecord const& package);
 std::string helpText(ClassRecord const& cls);
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// Lua is compiled as C++ here, so that its errors unwind C++ frames. Its headers say themselves how their functions
-// are linked: no `extern "C"` around them.
+// Lua compiled as C++: its errors are C++ exceptions and unwind C++ frames. Its headers declare the linkage themselves,
+// so there is no `extern "C"` around them.
 #include <lua.h>
 
 #include <lauxlib.h>

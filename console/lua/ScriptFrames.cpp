@@ -2,11 +2,11 @@
 
 namespace velmara::console {
 
-std::vector<ScriptFrame> scriptFrames(lua_State* L, int level, std::size_t most)
+std::vector<ScriptFrame> scriptFrames(lua_State* L, int level, std::size_t maxFrames)
 {
     std::vector<ScriptFrame> frames;
     lua_Debug function;
-    for (; frames.size() < most && lua_getstack(L, level, &function); ++level) {
+    for (; frames.size() < maxFrames && lua_getstack(L, level, &function); ++level) {
         lua_getinfo(L, "Sln", &function);
         if (function.currentline <= 0)
             continue;

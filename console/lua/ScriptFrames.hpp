@@ -15,7 +15,7 @@ struct ScriptFrame {
 };
 
 /// The script's running functions, innermost first, from `level` on; functions that are not the script's are left
-/// out. At most `most` of them.
-std::vector<ScriptFrame> scriptFrames(lua_State* L, int level, std::size_t most);
+/// out. At maxFrames `maxFrames` of them.
+std::vector<ScriptFrame> scriptFrames(lua_State* L, int level, std::size_t maxFrames);
 
 } // namespace velmara::console

@@ -7,8 +7,8 @@ namespace velmara::console {
 
 namespace {
 
-constexpr int deepestShown = 3;
-constexpr std::size_t mostShown = 20;
+constexpr int maxDepth = 3;
+constexpr std::size_t maxElements = 20;
 
 bool hasMetatable(lua_State* L, int index)
 {
@@ -41,18 +41,18 @@ std::string tableText(lua_State* L, int table, int depth)
 {
     std::string text = "{";
     std::size_t const count = lua_rawlen(L, table);
-    for (std::size_t i = 1; i <= std::min(count, mostShown); ++i) {
+    for (std::size_t i = 1; i <= std::min(count, maxElements); ++i) {
         lua_rawgeti(L, table, static_cast<lua_Integer>(i));
         add(text, elementText(L, depth));
         lua_pop(L, 1);
     }
     std::map<std::string, std::string> named;
     for (lua_pushnil(L); lua_next(L, table); lua_pop(L, 1))
-        if (lua_type(L, -2) == LUA_TSTRING && named.size() <= mostShown)
+        if (lua_type(L, -2) == LUA_TSTRING && named.size() <= maxElements)
             named[std::string(textAt(L, -2))] = elementText(L, depth);
     for (auto const& [name, element] : named)
         add(text, std::string(name).append(" = ").append(element));
-    if (count > mostShown || named.size() > mostShown)
+    if (count > maxElements || named.size() > maxElements)
         add(text, "...");
     return text + '}';
 }
@@ -64,7 +64,7 @@ std::string displayText(lua_State* L, int index, int depth)
     luaL_checkstack(L, 8, nullptr);
     if (!lua_istable(L, index) || hasMetatable(L, index))
         return plainText(L, index);
-    return depth >= deepestShown ? "{...}" : tableText(L, lua_absindex(L, index), depth);
+    return depth >= maxDepth ? "{...}" : tableText(L, lua_absindex(L, index), depth);
 }
 
 } // namespace velmara::console

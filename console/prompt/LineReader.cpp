@@ -52,13 +52,13 @@ std::optional<std::string> LineReader::read(char const* prompt)
 
 namespace {
 
-constexpr int longestHistory = 1000;
+constexpr int maxHistory = 1000;
 
 struct Free {
     void operator()(char* text) const { std::free(text); }
 };
 
-// The line editor's callbacks are given no data of ours: what completes stands here while a reader lives.
+// The line editor passes its callbacks no data: the state to complete from, while a reader is alive.
 lua_State* completed = nullptr;
 
 char* copy(std::string const& text)
@@ -69,7 +69,7 @@ char* copy(std::string const& text)
     return result;
 }
 
-/// The editor's form of the list: what all have in common, then each, then null.
+/// The completions in the editor's form: the common start, then each, then null.
 char** complete(char const* word, int, int)
 {
     rl_attempted_completion_over = 1; // no file names
@@ -105,7 +105,7 @@ LineReader::LineReader(lua_State* L) : isEditing_(isInputTerminal())
     rl_completion_append_character = '\0';
     rl_attempted_completion_function = complete;
     using_history();
-    stifle_history(longestHistory);
+    stifle_history(maxHistory);
     if (char const* home = std::getenv("HOME")) {
         history_ = std::filesystem::path(home) / ".velmara_history";
         read_history(history_.c_str());
@@ -128,7 +128,7 @@ std::optional<std::string> LineReader::read(char const* prompt)
     if (text.find_first_not_of(" \t") != text.npos) {
         add_history(text.c_str());
         if (!history_.empty())
-            write_history(history_.c_str()); // at once: a script may end the process
+            write_history(history_.c_str()); // now: a script may end the process
     }
     return text;
 }

@@ -8,20 +8,20 @@
 
 namespace velmara::console {
 
-/// True when a person sits at standard input.
+/// True when standard input is a terminal.
 bool isInputTerminal();
 
 /// Reads the prompt's lines: at a terminal with editing, history (~/.velmara_history) and completion; plainly where
 /// there is none, and on Windows.
 class LineReader {
 public:
-    /// Completes with the names that the script of `L` knows.
+    /// Completes with the names known in `L`.
     explicit LineReader(lua_State* L);
     LineReader(LineReader const&) = delete;
     LineReader& operator=(LineReader const&) = delete;
     ~LineReader();
 
-    /// The next line; nothing at the end of the input.
+    /// The next line; nothing at end of input.
     std::optional<std::string> read(char const* prompt);
 
 private:

@@ -17,7 +17,7 @@ namespace {
 
 constexpr char const* chunkName = "=prompt";
 
-/// Pushes the input as a function: as an expression where it is one, else as statements; or the error.
+/// Pushes the input as a function, compiled as an expression if possible, else as statements; or the error.
 int load(lua_State* L, std::string const& input)
 {
     std::string const expression = input.starts_with('=') ? input.substr(1) : input;
@@ -32,7 +32,7 @@ bool isUnfinished(lua_State* L, int status)
     return status == LUA_ERRSYNTAX && textAt(L, -1).ends_with("<eof>");
 }
 
-/// Reads until the input is whole. False at the end of all input.
+/// Reads lines until they form a chunk, and pushes its function; reports an error instead. False at end of input.
 bool readChunk(lua_State* L, LineReader& reader)
 {
     std::optional<std::string> const first = reader.read("> ");

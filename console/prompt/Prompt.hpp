@@ -4,8 +4,8 @@
 
 namespace velmara::console {
 
-/// Reads and runs input until it ends: an expression's values are shown, an unfinished statement goes on in the next
-/// line, a failure is reported and the prompt goes on.
+/// Reads and runs input until its end: shows the values of expressions, continues unfinished statements on the next
+/// line, reports failures and goes on.
 void runPrompt(lua_State* L);
 
 } // namespace velmara::console

@@ -6,7 +6,7 @@ namespace velmara::console {
 
 namespace {
 
-/// Calls upvalue 1 with all arguments while `coroutine` is what runs.
+/// Calls upvalue 1 with all arguments; meanwhile Ctrl-C reaches `coroutine`.
 int callWhileRunning(lua_State* L, lua_State* coroutine)
 {
     luaL_checkstack(L, 4, nullptr);
@@ -22,7 +22,7 @@ int resume(lua_State* L)
     return callWhileRunning(L, lua_tothread(L, 1));
 }
 
-/// Upvalue 1 is what Lua's own `wrap` gave: its upvalue 1 is the coroutine.
+/// Upvalue 1 is the result of Lua's own `wrap`, whose upvalue 1 is the coroutine.
 int callWrapped(lua_State* L)
 {
     lua_State* coroutine = nullptr;

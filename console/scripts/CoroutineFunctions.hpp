@@ -4,7 +4,7 @@
 
 namespace velmara::console {
 
-/// Puts functions that let Ctrl-C reach a coroutine in the place of `coroutine.resume` and `coroutine.wrap`.
+/// Replaces `coroutine.resume` and `coroutine.wrap` by functions that let Ctrl-C reach a coroutine.
 void bindCoroutineFunctions(lua_State* L);
 
 } // namespace velmara::console

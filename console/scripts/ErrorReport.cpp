@@ -18,10 +18,10 @@ namespace {
 struct Report {
     std::string identifier;
     std::string text;
-    std::string position; ///< "FILE:LINE" where the error itself says it
+    std::string position; ///< "FILE:LINE", when the error itself has it
 };
 
-/// Lua puts "FILE:LINE: " in front of its own texts: the length of the position, 0 where there is none.
+/// The length of "FILE:LINE" in front of a text, where Lua puts it; 0 where there is none.
 std::size_t positionLength(std::string const& text)
 {
     auto const isDigit = [](unsigned char c) { return std::isdigit(c) != 0; };
@@ -41,7 +41,7 @@ int convertToText(lua_State* L)
     return 1;
 }
 
-/// The text of any error value; a failing `__tostring` of it is left out of account.
+/// The text of any error value; a fixed text when its `__tostring` fails.
 std::string textOf(lua_State* L, int index)
 {
     lua_pushcfunction(L, convertToText);
@@ -61,7 +61,7 @@ std::string field(lua_State* L, int index, char const* name)
     return text;
 }
 
-/// A global of that name was nil: what else it may have been meant to be.
+/// "; did you mean ...?" for Lua's error on a global that is nil; empty for other errors.
 std::string suggestion(lua_State* L, std::string const& text)
 {
     constexpr std::string_view before = "a nil value (global '";
@@ -85,27 +85,27 @@ Report reportOf(lua_State* L, int index, std::string const& identifier)
     return report;
 }
 
-std::string format(Report const& report, std::vector<ScriptFrame> const& frames, std::size_t most)
+std::string format(Report const& report, std::vector<ScriptFrame> const& frames, std::size_t maxFrames)
 {
     std::string text = report.identifier + ": " + report.text;
     if (!report.position.empty() && (frames.empty() || frames.front().position != report.position))
         text += "\n  at " + report.position;
-    for (std::size_t i = 0; i < std::min(frames.size(), most); ++i) {
+    for (std::size_t i = 0; i < std::min(frames.size(), maxFrames); ++i) {
         text += "\n  at " + frames[i].position;
         if (!frames[i].function.empty())
             text += " in " + frames[i].function;
     }
-    return frames.size() > most ? text + "\n  ..." : text;
+    return frames.size() > maxFrames ? text + "\n  ..." : text;
 }
 
 } // namespace
 
 int reportError(lua_State* L)
 {
-    constexpr std::size_t shownFrames = 8;
+    constexpr std::size_t maxFrames = 8;
     luaL_checkstack(L, 10, nullptr);
     lua_settop(L, 1);
-    pushText(L, format(reportOf(L, 1, "VELMARA:script:error"), scriptFrames(L, 1, shownFrames + 1), shownFrames));
+    pushText(L, format(reportOf(L, 1, "VELMARA:script:error"), scriptFrames(L, 1, maxFrames + 1), maxFrames));
     return 1;
 }
 

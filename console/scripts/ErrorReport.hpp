@@ -6,11 +6,12 @@
 
 namespace velmara::console {
 
-/// The message handler of script calls: turns the error value into the text to show, "identifier: text" and where
-/// in the script.
+/// The message handler of script calls: turns the error value into the text to show, "identifier: text" followed by the
+/// positions in the script.
 int reportError(lua_State* L);
 
-/// The text to show for the error value at `index` of an error without a running script: of `load`, of memory.
+/// The text to show for the error value at `index` where no handler has seen the error: `status` is that of `lua_load`
+/// or `lua_pcall`.
 std::string describeError(lua_State* L, int index, int status);
 
 } // namespace velmara::console

@@ -6,7 +6,7 @@ namespace velmara::console {
 
 namespace {
 
-// A signal handler is told nothing but the signal: what to stop stands here.
+// A signal handler is passed only the signal: what to stop is here.
 lua_State* volatile script = nullptr;
 lua_State* volatile running = nullptr; ///< the script, or the innermost of its coroutines
 volatile std::sig_atomic_t isStopping = 0;
@@ -44,7 +44,7 @@ Interruption::Interruption(lua_State* L)
 Interruption::~Interruption()
 {
     std::signal(SIGINT, previous_);
-    lua_sethook(script, nullptr, 0, 0); // it may have come to its end by itself
+    lua_sethook(script, nullptr, 0, 0); // the script may have ended before the hook ran
     script = nullptr;
     running = nullptr;
 }

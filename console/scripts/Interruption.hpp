@@ -4,7 +4,7 @@
 
 namespace velmara::console {
 
-/// While this lives, Ctrl-C makes the running script fail and leaves the console alive. One at a time.
+/// For its lifetime Ctrl-C makes the running script fail instead of ending the process. One at a time.
 class Interruption {
 public:
     explicit Interruption(lua_State* L);
@@ -12,8 +12,8 @@ public:
     Interruption& operator=(Interruption const&) = delete;
     ~Interruption();
 
-    /// While this lives, `resumer` waits for a coroutine, which is what Ctrl-C reaches. The failure then goes on from
-    /// one to the other.
+    /// For its lifetime `resumer` waits for a coroutine, and Ctrl-C reaches that. The interruption is raised again in
+    /// the resumer when the coroutine has failed.
     class Resumption {
     public:
         Resumption(lua_State* resumer, lua_State* coroutine);

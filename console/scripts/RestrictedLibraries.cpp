@@ -11,13 +11,13 @@ namespace velmara::console {
 
 namespace {
 
-/// Opens a library and pushes its table; it is no global yet.
+/// Opens a library and pushes its table, without making it a global.
 void open(lua_State* L, char const* name, lua_CFunction library)
 {
     luaL_requiref(L, name, library, 0);
 }
 
-/// Puts a table of nothing but the named functions in the place of the library at the top.
+/// Replaces the library on top by a table of only the named functions.
 template <std::size_t Count>
 void pick(lua_State* L, char const* const (&names)[Count])
 {
@@ -29,12 +29,12 @@ void pick(lua_State* L, char const* const (&names)[Count])
     lua_remove(L, -2);
 }
 
-/// Lua's own function (upvalue 1), for the options that leave the collector as it is set.
+/// Lua's own function, limited to the options that leave the collector's settings alone.
 int collectGarbage(lua_State* L)
 {
     constexpr char const* options[] = {"collect", "count", "isrunning", "step", nullptr};
     luaL_checkoption(L, 1, "collect", options);
-    lua_settop(L, 1); // no size of the step
+    lua_settop(L, 1); // without the size of a step
     lua_pushvalue(L, lua_upvalueindex(1));
     lua_insert(L, 1);
     lua_call(L, lua_gettop(L) - 1, LUA_MULTRET);
@@ -44,7 +44,7 @@ int collectGarbage(lua_State* L)
 void openBase(lua_State* L)
 {
     using namespace std::string_view_literals;
-    constexpr std::string_view kept[] = {
+    constexpr std::string_view allowed[] = {
         "_G"sv,       "_VERSION"sv, "assert"sv, "collectgarbage"sv, "error"sv,  "getmetatable"sv,
         "ipairs"sv,   "load"sv,     "next"sv,   "pairs"sv,          "pcall"sv,  "print"sv,
         "rawequal"sv, "rawget"sv,   "rawlen"sv, "rawset"sv,         "select"sv, "setmetatable"sv,
@@ -52,7 +52,7 @@ void openBase(lua_State* L)
     open(L, LUA_GNAME, luaopen_base);
     for (lua_pushnil(L); lua_next(L, -2);) {
         lua_pop(L, 1);
-        if (std::ranges::find(kept, textAt(L, -1)) != std::end(kept))
+        if (std::ranges::find(allowed, textAt(L, -1)) != std::end(allowed))
             continue;
         lua_pushvalue(L, -1);
         lua_pushnil(L);

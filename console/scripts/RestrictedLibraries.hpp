@@ -4,9 +4,9 @@
 
 namespace velmara::console {
 
-/// Opens what a stranger's script may use of Lua's libraries: what computes, prints and tells the time, and nothing
-/// that reaches files, processes, modules, the collector's settings or what stands behind Lua's values. What is not
-/// named here is not there.
+/// Opens what an untrusted script may use of Lua's libraries: what computes, prints and gives the time; nothing that
+/// reaches files, processes, modules, the collector's settings or the internals of values. An allow list: a function
+/// that a later Lua adds to the base library or to `os` is not opened.
 void openRestrictedLibraries(lua_State* L);
 
 } // namespace velmara::console

@@ -20,7 +20,7 @@ int runFile(lua_State* L)
     return lua_gettop(L) - 1;
 }
 
-/// Finds the script of a module that `require` asks for along `package.path`.
+/// A searcher of `require`: finds a script along `package.path`. Upvalue 1 is the library `package`.
 int searchScript(lua_State* L)
 {
     luaL_checkstring(L, 1);
@@ -29,7 +29,7 @@ int searchScript(lua_State* L)
     lua_getfield(L, lua_upvalueindex(1), "path");
     lua_call(L, 2, 2);
     if (lua_isnil(L, -2))
-        return 1; // why there is none
+        return 1; // the message why there is none
     lua_pop(L, 1);
     char const* file = lua_tostring(L, -1);
     if (luaL_loadfilex(L, file, "t") != LUA_OK)
@@ -39,7 +39,7 @@ int searchScript(lua_State* L)
     return 2;
 }
 
-/// Without the current folder: whoever can write to it would decide what runs.
+/// Removes the current folder: whoever can write to it would decide what runs.
 void setSearchPath(lua_State* L)
 {
     lua_getfield(L, -1, "path");
@@ -64,7 +64,7 @@ void limitPackages(lua_State* L)
         lua_pushnil(L);
         lua_setfield(L, -2, name);
     }
-    // Of the four searchers the first stays: modules that are there already.
+    // Of the four searchers only the first stays, which looks in `package.preload`.
     lua_getfield(L, -1, "searchers");
     lua_pushvalue(L, -2);
     lua_pushcclosure(L, searchScript, 1);
@@ -97,7 +97,7 @@ void limitDebug(lua_State* L)
 void openScriptLibraries(lua_State* L)
 {
     lua_pushboolean(L, true);
-    lua_setfield(L, LUA_REGISTRYINDEX, "LUA_NOENV"); // the environment says nothing on where scripts are found
+    lua_setfield(L, LUA_REGISTRYINDEX, "LUA_NOENV"); // ignores LUA_PATH
     luaL_openlibs(L);
     limitLoadingToText(L);
     lua_register(L, "dofile", runFile);

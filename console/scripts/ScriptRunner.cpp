@@ -20,8 +20,8 @@ void printReport(std::string_view text)
     std::fflush(stderr);
 }
 
-/// What follows a byte-order mark, and a first line with "#" (the system's way to name a script's interpreter); the
-/// line's end stays, so that line numbers are right.
+/// Without a byte-order mark and a first line with "#" (which names a script's interpreter). Keeps that line's end, so
+/// that line numbers are right.
 std::string_view withoutHeader(std::string_view code)
 {
     if (code.starts_with("\xEF\xBB\xBF"))

@@ -4,7 +4,7 @@
 
 namespace velmara::console {
 
-/// Has the global functions `load` and, where it is there, `loadfile` take text only: bytecode could break the process.
+/// Limits the global functions `load` and, where present, `loadfile` to text: crafted bytecode can crash the process.
 void limitLoadingToText(lua_State* L);
 
 } // namespace velmara::console

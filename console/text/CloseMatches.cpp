@@ -13,7 +13,7 @@ char lower(char c)
     return static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
 }
 
-/// How many characters must be put in, taken out or replaced; letters of either case are the same.
+/// The edit distance (insertions, deletions, replacements), ignoring case.
 std::size_t distance(std::string_view a, std::string_view b)
 {
     std::vector<std::size_t> row(b.size() + 1);
@@ -42,13 +42,13 @@ std::string join(std::vector<std::string> const& names)
 
 std::string didYouMean(std::string_view name, std::vector<std::string> const& known)
 {
-    constexpr std::size_t longestName = 100; // nothing that long is a slip of the fingers
-    if (name.size() > longestName)
+    constexpr std::size_t maxNameLength = 100; // nothing that long is a typing error
+    if (name.size() > maxNameLength)
         return {};
     std::vector<std::pair<std::size_t, std::string>> close;
-    std::size_t const farthest = 1 + name.size() / 4;
+    std::size_t const maxDistance = 1 + name.size() / 4;
     for (std::string const& candidate : known)
-        if (std::size_t const d = distance(name, candidate); d <= farthest)
+        if (std::size_t const d = distance(name, candidate); d <= maxDistance)
             close.emplace_back(d, candidate);
     std::ranges::sort(close);
     auto const repeated = std::ranges::unique(close);

@@ -6,7 +6,7 @@
 
 namespace velmara::console {
 
-/// "; did you mean getSum?" with the names that come close to `name`, at most three; empty when none does.
+/// "; did you mean getSum?" with the known names closest to `name`, at most three; empty when none is close.
 std::string didYouMean(std::string_view name, std::vector<std::string> const& known);
 
 } // namespace velmara::console

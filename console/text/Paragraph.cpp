@@ -6,7 +6,7 @@ namespace velmara::console {
 
 namespace {
 
-constexpr std::size_t widest = 80;
+constexpr std::size_t maxColumns = 80;
 
 /// Columns of UTF-8 text: its bytes without the ones that continue a character.
 std::size_t columns(std::string_view text)
@@ -29,7 +29,7 @@ void addWrapped(std::string& result, std::string_view line, std::size_t indent, 
     bool hasWord = false;
     while (!line.empty()) {
         std::string_view const word = takeUntil(line, ' ');
-        if (hasWord && columns(current) + 1 + columns(word) > widest) {
+        if (hasWord && columns(current) + 1 + columns(word) > maxColumns) {
             result += current + '\n';
             current.assign(hanging, ' ');
             hasWord = false;
@@ -48,7 +48,7 @@ std::string paragraph(std::string_view text, std::size_t indent, std::size_t han
     std::string result;
     for (std::size_t start = indent; !text.empty(); start = hanging)
         addWrapped(result, takeUntil(text, '\n'), start, hanging);
-    std::ranges::replace(result, firmBlank, ' ');
+    std::ranges::replace(result, nonBreakingSpace, ' ');
     return result;
 }
 

@@ -6,11 +6,11 @@
 
 namespace velmara::console {
 
-/// Stands in a paragraph's text for a blank that no line ends at.
-inline constexpr char firmBlank = '\1';
+/// A non-breaking space in the text of a paragraph.
+inline constexpr char nonBreakingSpace = '\1';
 
-/// The text in lines of at most 80 columns where its words allow it, each with its end: the first one indented by
-/// `indent`, the others by `hanging`. Line ends in the text stay.
+/// The text wrapped at 80 columns between words, each line with its end: the first one indented by `indent`, the others
+/// by `hanging`. Line breaks in the text stay.
 std::string paragraph(std::string_view text, std::size_t indent, std::size_t hanging);
 
 } // namespace velmara::console

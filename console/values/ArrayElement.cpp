@@ -58,7 +58,8 @@ void replaceNil(lua_State* L)
     pushNull(L);
 }
 
-[[noreturn]] void refuse(lua_State* L, int value, hvArray_tag const& array, std::size_t index, char const* reason)
+[[noreturn]] void throwMismatch(lua_State* L, int value, hvArray_tag const& array, std::size_t index,
+                                char const* reason)
 {
     std::size_t const rows = array.get_dimensions()[0];
     std::size_t const columns = array.get_dimensions()[1];
@@ -87,7 +88,7 @@ std::optional<T> readScalar(hvArray_tag const& array)
             if constexpr (std::is_floating_point_v<Source>)
                 number = exactly<T>(static_cast<double>(source));
             else
-                number = exactly<T>(+source); // a logical counts as 0 or 1
+                number = exactly<T>(+source); // promotes a logical to 0 or 1
         });
     return number;
 }
@@ -117,7 +118,7 @@ void storeNumber(lua_State* L, int value, hvArray_tag* array, std::size_t index)
 {
     std::optional<T> const number = readNumber<T>(L, value);
     if (!number)
-        refuse(L, value, *array, index, "does not fit its class");
+        throwMismatch(L, value, *array, index, "does not fit its class");
     static_cast<T*>(orbis::additions::getWritableData(array))[index] = *number;
 }
 
@@ -129,7 +130,7 @@ void storeCharacter(lua_State* L, int value, hvArray_tag* array, std::size_t ind
     else if (auto const text = fl::i18n::to_ustring(std::string(textAt(L, value))); text.size() == 1)
         unit = text.front();
     if (!unit)
-        refuse(L, value, *array, index, "is not one UTF-16 unit: a text of one, or a number below 65536");
+        throwMismatch(L, value, *array, index, "is not one UTF-16 unit: a text of one, or a number below 65536");
     static_cast<char16_t*>(orbis::additions::getWritableData(array))[index] = *unit;
 }
 
@@ -148,19 +149,19 @@ void storeString(lua_State* L, int value, hvArray_tag* array, std::size_t index)
                    : orbis::additions::setString(array, index, {source.getText(0), source.getLength(0)});
     }
     if (!held || held->_get_class_id_non_trivial() != hvCHAR_CLASS || held->get_dimensions()[0] > 1)
-        refuse(L, value, *array, index, "is no text (write missing for none)");
+        throwMismatch(L, value, *array, index, "is no text (write missing for none)");
     orbis::additions::setString(
         array, index, {static_cast<char16_t const*>(orbis::additions::getData(held)), held->get_number_of_elements()});
 }
 
 void storeCell(lua_State* L, int value, hvArray_tag* cells, std::size_t index, Conversion& conversion)
 {
-    ArrayPtr made = isNull(L, value) ? nullptr : toHost(L, value, conversion);
-    // An object's array stays the script's: the cell gets one of its own.
-    if (made && isObject(L, value))
-        made.reset(hvCreateSharedDataCopy(made.get()));
-    hvSetCell(cells, index, made.get());
-    static_cast<void>(made.release());
+    ArrayPtr content = isNull(L, value) ? nullptr : toHost(L, value, conversion);
+    // The array of an object stays the script's; the cell gets a copy.
+    if (content && isObject(L, value))
+        content.reset(hvCreateSharedDataCopy(content.get()));
+    hvSetCell(cells, index, content.get());
+    static_cast<void>(content.release());
 }
 
 void storeObject(lua_State* L, int value, hvArray_tag* array, std::size_t index)
@@ -169,7 +170,7 @@ void storeObject(lua_State* L, int value, hvArray_tag* array, std::size_t index)
     if (isNull(L, value))
         return orbis::omSetArrayElement(array, index, nullptr);
     if (!isObject(L, value) || !hvIsA(checkObject(L, value), className(array).c_str()))
-        refuse(L, value, *array, index, "is no object of this class (write null for none)");
+        throwMismatch(L, value, *array, index, "is no object of this class (write null for none)");
     orbis::omSetArrayElement(array, index, orbis::omGetArrayElement(checkObject(L, value), 0));
 }
 

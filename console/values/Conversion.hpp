@@ -7,28 +7,28 @@
 
 namespace velmara::console {
 
-/// How far one conversion between a Lua value and the host has come. A table or a cell array may be in another many
-/// times over, so that little can stand for more than any memory holds: what is made is limited.
+/// The limits of one conversion between a Lua value and the host. A table or a cell array may occur in others many
+/// times over, so a small value can expand to more than any memory holds.
 class Conversion {
 public:
-    /// Tables and cells may be nested this deep.
-    static constexpr int deepest = 200;
+    /// Nesting of tables and cells.
+    static constexpr int maxDepth = 200;
 
-    /// So many tables or cell arrays may be met, those met again included.
-    static constexpr int most = 1 << 20;
+    /// Tables or cell arrays visited, each as often as it occurs.
+    static constexpr int maxVisits = 1 << 20;
 
-    /// What one conversion may make, and one array of a script may hold.
-    static constexpr std::size_t mostBytes = std::size_t{1} << 30;
+    /// Memory of what one conversion creates, and of one array of a script.
+    static constexpr std::size_t maxBytes = std::size_t{1} << 30;
 
-    /// One level deeper while it lives.
+    /// Counts one level of nesting for its lifetime.
     class Level {
     public:
         Level(Conversion& conversion, char const* what) : conversion_(conversion)
         {
-            if (conversion.depth_ >= deepest)
-                fail("nesting", std::string(what) + " nested deeper than " + std::to_string(deepest) +
+            if (conversion.depth_ >= maxDepth)
+                fail("nesting", std::string(what) + " nested deeper than " + std::to_string(maxDepth) +
                                     " levels, or in themselves, cannot be converted");
-            if (++conversion.met_ > most)
+            if (++conversion.visits_ > maxVisits)
                 fail("memory", "more than a million " + std::string(what) + " in one value cannot be converted");
             ++conversion.depth_;
         }
@@ -40,17 +40,17 @@ public:
         Conversion& conversion_;
     };
 
-    /// Counts `count` elements of that size.
+    /// Counts `count` elements of `size` bytes.
     void add(std::size_t count, std::size_t size)
     {
-        if (count > mostBytes / size || bytes_ > mostBytes - count * size)
+        if (count > maxBytes / size || bytes_ > maxBytes - count * size)
             fail("memory", "a value of more than 1 GB cannot be made");
         bytes_ += count * size;
     }
 
 private:
     int depth_ = 0;
-    int met_ = 0;
+    int visits_ = 0;
     std::size_t bytes_ = 0;
 };
 

@@ -19,30 +19,30 @@ ArrayPtr input(lua_State* L, int index, int number)
 
 } // namespace
 
-hvArray_tag* HostCall::keep(hvArray_tag* array)
+hvArray_tag* HostCall::share(hvArray_tag* array)
 {
     array->add_reference();
-    return kept_.push(ArrayPtr(array));
+    return frame_.push(ArrayPtr(array));
 }
 
 Hvm::Inputs HostCall::inputs(int first)
 {
-    std::size_t const start = kept_.arrays().size();
+    std::size_t const start = frame_.arrays().size();
     int const last = lua_gettop(L_);
     for (int i = first; i <= last; ++i)
-        kept_.push(input(L_, i, i - first + 1));
-    return kept_.arrays().subspan(start);
+        frame_.push(input(L_, i, i - first + 1));
+    return frame_.arrays().subspan(start);
 }
 
 int HostCall::finish(ArrayPtr result)
 {
     if (!result)
         return 0;
-    hvArray_tag const* const kept = kept_.push(std::move(result));
+    hvArray_tag const* const array = frame_.push(std::move(result));
     if (keepsArray_)
-        pushHostArray(L_, *kept);
+        pushHostArray(L_, *array);
     else
-        pushValue(L_, kept);
+        pushValue(L_, array);
     return 1;
 }
 

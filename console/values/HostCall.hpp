@@ -7,33 +7,33 @@
 
 namespace velmara::console {
 
-/// One crossing from a script to the host: the inputs are taken from the Lua function's arguments, the result is
-/// pushed, and all arrays of the crossing are given back at its end.
+/// One call from a script to the host: converts the Lua function's arguments to inputs, pushes the result, and releases
+/// all arrays of the call at its end.
 class HostCall {
 public:
     explicit HostCall(lua_State* L)
         : L_(L),
           host_(HostContext::of(L)),
-          kept_(host_.arrays()),
+          frame_(host_.arrays()),
           keepsArray_(std::exchange(host_.keepsNextArray(), false))
     {
     }
 
     Hvm& hvm() { return host_.hvm(); }
 
-    /// Keeps an array alive for the length of the call, whatever happens to its owner.
-    hvArray_tag* keep(hvArray_tag* array);
+    /// Shares ownership of an array for the length of the call: the script may release it meanwhile.
+    hvArray_tag* share(hvArray_tag* array);
 
-    /// The host arrays for the function's arguments from the `first` on. Asked for once.
+    /// The host arrays for the function's arguments from the `first` on. Call once.
     Hvm::Inputs inputs(int first);
 
-    /// Pushes the result, where there is one; gives the number of values pushed.
+    /// Pushes the result, where there is one; returns the number of values pushed.
     int finish(ArrayPtr result);
 
 private:
     lua_State* L_;
     HostContext& host_;
-    ArrayStack::Frame kept_;
+    ArrayStack::Frame frame_;
     bool keepsArray_;
 };
 

@@ -13,7 +13,7 @@ namespace velmara::console {
 
 namespace {
 
-void note(lua_State* L, int index, Elements& elements)
+void addElement(lua_State* L, int index, Elements& elements)
 {
     int const type = lua_type(L, index);
     bool const isInteger = lua_isinteger(L, index) != 0;
@@ -47,7 +47,7 @@ Elements elementsOf(lua_State* L, int table)
             fail("table",
                  "a table must be a sequence to be passed to the host; this one has the key " + keyText(L, -2));
         last = std::max(last, key);
-        note(L, -1, elements);
+        addElement(L, -1, elements);
     }
     if (static_cast<std::size_t>(last) != elements.count)
         fail("table", "a table must be a sequence to be passed to the host; this one has holes before element " +

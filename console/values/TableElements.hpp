@@ -19,8 +19,8 @@ struct Elements {
     bool areScalars() const { return count > 0 && (areNumbers || areBooleans); }
 };
 
-/// Walks all pairs of the table at the absolute `table`. Throws an `Error` when it is no sequence: when a key is no
-/// integer from 1 on, or one is missing. Its metatable is left out of account.
+/// Visits all pairs of the table at the absolute `table`, ignoring its metatable. Throws an `Error` when it is no
+/// sequence: when a key is not a positive integer, or one is missing.
 Elements elementsOf(lua_State* L, int table);
 
 } // namespace velmara::console

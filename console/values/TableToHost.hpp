@@ -7,8 +7,8 @@
 
 namespace velmara::console {
 
-/// The host array for the table at the absolute `index`, which must be a sequence: keys 1 to n and no others. Its
-/// metatable is left out of account.
+/// The host array for the table at the absolute `index`, which must be a sequence: keys 1 to n and no others. Ignores
+/// its metatable.
 ///
 /// - numbers: a row of doubles, or of int64 when they are integers that doubles are not exact for
 /// - booleans: a row of logicals

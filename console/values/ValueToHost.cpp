@@ -54,7 +54,7 @@ ArrayPtr userdata(lua_State* L, int index)
     }
     if (!isHostArray(L, index))
         fail("value", kindAt(L, index) + " cannot be passed to the host");
-    // The script may write to its array later: whoever keeps this one sees nothing of it.
+    // A copy, so that what the script writes to its array later does not show in this one.
     return ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, index)));
 }
 

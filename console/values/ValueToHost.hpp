@@ -15,7 +15,7 @@ namespace velmara::console {
 /// - nil and `null`: an empty 0-by-0 double
 /// - a table: see TableToHost.hpp
 ///
-/// Anything else is refused with an `Error`. Runs no code of the script.
+/// Throws an `Error` for anything else. Runs no code of the script.
 ArrayPtr toHost(lua_State* L, int index, Conversion& conversion);
 
 inline ArrayPtr toHost(lua_State* L, int index)
