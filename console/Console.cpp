@@ -6,7 +6,7 @@
 #include "bindings/ModuleFunctions.hpp"
 #include "bindings/ObjectBinding.hpp"
 #include "bindings/ObjectFunctions.hpp"
-#include "bindings/PackageBinding.hpp"
+#include "bindings/ProxyBinding.hpp"
 #include "help/HelpFunctions.hpp"
 #include "lua/ScriptError.hpp"
 #include "prompt/Prompt.hpp"
@@ -43,7 +43,7 @@ void prepare(lua_State* L, Run const& run)
     bindObjectFunctions(L);
     bindEnumerationFunction(L);
     bindHelpFunctions(L);
-    bindGlobals(L);
+    bindPublishedNames(L);
     if (!run.builtIn.empty())
         run.session.host().hvm().loadModule(run.builtIn);
     for (std::string const& file : run.line.modules)

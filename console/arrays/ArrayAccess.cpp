@@ -6,6 +6,7 @@
 #include "handles/Proxy.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
 #include "values/ArrayElement.hpp"
 
 #include "libhv/libhv.hpp"
@@ -118,7 +119,7 @@ int compareArrays(lua_State* L)
     return 1;
 }
 
-int toText(lua_State* L)
+int showArray(lua_State* L)
 {
     hvArray_tag const* const array = testHostArray(L, 1);
     pushText(L, array ? arrayText(L, *array) : "array given back");
@@ -129,15 +130,13 @@ int toText(lua_State* L)
 
 void bindArrayAccess(lua_State* L)
 {
-    luaL_Reg const functions[] = {{"__index", guarded<readArray>},
-                                  {"__newindex", guarded<writeArray>},
-                                  {"__len", guarded<countElements>},
-                                  {"__pairs", guarded<iterateArray>},
-                                  {"__eq", guarded<compareArrays>},
-                                  {"__tostring", guarded<toText>},
-                                  {nullptr, nullptr}};
     pushArrayMetatable(L);
-    luaL_setfuncs(L, functions, 0);
+    setField(L, "__index", guarded<readArray>);
+    setField(L, "__newindex", guarded<writeArray>);
+    setField(L, "__len", guarded<countElements>);
+    setField(L, "__pairs", guarded<iterateArray>);
+    setField(L, "__eq", guarded<compareArrays>);
+    setField(L, "__tostring", guarded<showArray>);
     lua_pop(L, 1);
 }
 

@@ -2,6 +2,7 @@
 
 #include "handles/HostContext.hpp"
 #include "handles/NumericClass.hpp"
+#include "text/DisplayWidth.hpp"
 
 #include "additions/additions.hpp"
 #include "libkwi18n/libkwi18n.hpp"
@@ -112,12 +113,6 @@ std::string elementText(hvArray_tag const& array, std::size_t index)
     }
 }
 
-/// How many characters of a UTF-8 text are shown.
-std::size_t widthOf(std::string const& text)
-{
-    return static_cast<std::size_t>(std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; }));
-}
-
 /// One column of texts: numbers aligned right, all else left.
 class Column {
 public:
@@ -126,7 +121,7 @@ public:
     {
         for (std::size_t row = 0; row < shownRows; ++row) {
             texts_.push_back(elementText(array, column * array.get_dimensions()[0] + row));
-            width_ = std::max(width_, widthOf(texts_.back()));
+            width_ = std::max(width_, displayWidth(texts_.back()));
         }
     }
 
@@ -135,7 +130,7 @@ public:
 
     std::string padded(std::size_t row) const
     {
-        std::string const blanks(width_ - widthOf(texts_[row]), ' ');
+        std::string const blanks(width_ - displayWidth(texts_[row]), ' ');
         return isNumeric_ ? "  " + blanks + texts_[row] : "  " + texts_[row] + blanks;
     }
 

@@ -2,6 +2,7 @@
 
 #include "handles/HostContext.hpp"
 #include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
 
 #include <filesystem>
 #include <string>
@@ -17,24 +18,16 @@ std::string checkText(lua_State* L, int index)
     return {text, length};
 }
 
-void setField(lua_State* L, char const* name, std::string const& text)
-{
-    pushText(L, text);
-    lua_setfield(L, -2, name);
-}
-
 int modules(lua_State* L)
 {
-    lua_newtable(L);
-    lua_Integer number = 0;
-    for (ModuleRecord const& module : HostContext::of(L).hvm().modules()) {
+    std::vector<ModuleRecord> const loaded = HostContext::of(L).hvm().modules();
+    pushSequence(L, loaded.size(), [&](std::size_t i) {
         lua_newtable(L);
-        setField(L, "name", module.name);
-        setField(L, "version", module.version);
-        setField(L, "builddate", module.buildDate);
-        setField(L, "file", module.file);
-        lua_rawseti(L, -2, ++number);
-    }
+        setField(L, "name", loaded[i].name);
+        setField(L, "version", loaded[i].version);
+        setField(L, "builddate", loaded[i].buildDate);
+        setField(L, "file", loaded[i].file);
+    });
     return 1;
 }
 

@@ -4,6 +4,7 @@
 #include "handles/HostObject.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
 #include "values/HostCall.hpp"
 
 namespace velmara::console {
@@ -52,8 +53,8 @@ int addMembers(lua_State* L)
     pushMemberCache(L, textAt(L, 2));
     lua_pushcclosure(L, guarded<readMember>, 1);
     lua_setfield(L, 1, "__index");
-    lua_pushcfunction(L, guarded<writeMember>);
-    lua_setfield(L, 1, "__newindex");
+    lua_settop(L, 1);
+    setField(L, "__newindex", guarded<writeMember>);
     return 0;
 }
 

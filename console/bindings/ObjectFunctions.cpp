@@ -1,7 +1,6 @@
 #include "bindings/ObjectFunctions.hpp"
 
 #include "bindings/ObjectListing.hpp"
-#include "bindings/ReferenceListing.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"

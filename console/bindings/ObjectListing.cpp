@@ -1,8 +1,12 @@
 #include "bindings/ObjectListing.hpp"
 
 #include "handles/HostContext.hpp"
+#include "handles/HostObject.hpp"
 #include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
+#include "text/DisplayWidth.hpp"
+#include "values/HostCall.hpp"
 
 #include <algorithm>
 #include <array>
@@ -19,24 +23,6 @@ using Line = std::array<std::string, columnCount>;
 /// The fields of a record, which are also the headings of the list.
 constexpr std::array<char const*, columnCount> fields = {"class",    "owner", "valid", "external",
                                                          "internal", "weak",  "native"};
-
-void setField(lua_State* L, char const* name, std::string const& text)
-{
-    pushText(L, text);
-    lua_setfield(L, -2, name);
-}
-
-void setField(lua_State* L, char const* name, bool value)
-{
-    lua_pushboolean(L, value);
-    lua_setfield(L, -2, name);
-}
-
-void setField(lua_State* L, char const* name, int value)
-{
-    lua_pushinteger(L, value);
-    lua_setfield(L, -2, name);
-}
 
 void pushRecord(lua_State* L, ObjectRecord const& object)
 {
@@ -71,19 +57,19 @@ std::string aligned(std::vector<Line> const& lines)
     std::array<std::size_t, columnCount> widths{};
     for (Line const& line : lines)
         for (std::size_t i = 0; i < columnCount; ++i)
-            widths[i] = std::max(widths[i], line[i].size());
+            widths[i] = std::max(widths[i], displayWidth(line[i]));
     std::string text;
     for (Line const& line : lines) {
         std::string row = text.empty() ? "" : "\n";
         for (std::size_t i = 0; i < columnCount; ++i)
-            row += line[i] + std::string(widths[i] - line[i].size() + 2, ' ');
+            row += line[i] + std::string(widths[i] - displayWidth(line[i]) + 2, ' ');
         row.resize(row.find_last_not_of(' ') + 1);
         text += row;
     }
     return text;
 }
 
-int toText(lua_State* L)
+int listingText(lua_State* L)
 {
     luaL_checktype(L, 1, LUA_TTABLE);
     luaL_checkstack(L, 4, nullptr);
@@ -101,17 +87,23 @@ int listObjects(lua_State* L)
 {
     luaL_checkstack(L, 6, nullptr);
     std::vector<ObjectRecord> const objects = HostContext::of(L).hvm().objects();
-    lua_createtable(L, static_cast<int>(std::min<std::size_t>(objects.size(), 1U << 20)), 0);
-    lua_Integer number = 0;
-    for (ObjectRecord const& object : objects) {
-        pushRecord(L, object);
-        lua_rawseti(L, -2, ++number);
-    }
-    pushNamedMetatable(L, "velmara.objects", [L] {
-        lua_pushcfunction(L, guarded<toText>);
-        lua_setfield(L, -2, "__tostring");
-    });
+    pushSequence(L, objects.size(), [&](std::size_t i) { pushRecord(L, objects[i]); });
+    pushNamedMetatable(L, "velmara.objects", [L] { setField(L, "__tostring", guarded<listingText>); });
     lua_setmetatable(L, -2);
+    return 1;
+}
+
+int listReferences(lua_State* L)
+{
+    luaL_checkstack(L, 6, nullptr);
+    HostCall call(L);
+    std::vector<Reference> const references = call.hvm().references(call.share(checkObject(L, 1)));
+    pushSequence(L, references.size(), [&](std::size_t i) {
+        lua_createtable(L, 0, 2);
+        setField(L, "property", references[i].property);
+        pushObject(L, references[i].object.get(), 0);
+        lua_setfield(L, -2, "object");
+    });
     return 1;
 }
 

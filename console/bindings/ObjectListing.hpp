@@ -8,4 +8,7 @@ namespace velmara::console {
 /// an aligned list.
 int listObjects(lua_State* L);
 
+/// `references(object)` likewise: pushes a sequence of tables with the `property` and the `object` that it refers to.
+int listReferences(lua_State* L);
+
 } // namespace velmara::console

@@ -5,6 +5,7 @@
 #include "handles/ValueText.hpp"
 #include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
 
 #include <algorithm>
 #include <limits>
@@ -18,7 +19,7 @@ constexpr char const* arrayType = "velmara.array";
 
 using Holder = HeldArrays::Holder;
 
-int release(lua_State* L)
+int releaseArray(lua_State* L)
 {
     auto& holder = *static_cast<Holder*>(luaL_checkudata(L, 1, arrayType));
     HostContext::of(L).heldArrays().release(holder).reset(); // last: destroying objects in it runs native code
@@ -39,12 +40,10 @@ void stepCollector(lua_State* L, hvArray_tag const& array)
 void pushArrayMetatable(lua_State* L)
 {
     pushNamedMetatable(L, arrayType, [L] {
-        luaL_Reg const functions[] = {{"__gc", release}, {"__close", release}, {nullptr, nullptr}};
-        luaL_setfuncs(L, functions, 0);
-        lua_pushliteral(L, "array");
-        lua_setfield(L, -2, "__metatable");
-        lua_pushliteral(L, "host array"); // in Lua's own errors
-        lua_setfield(L, -2, "__name");
+        setField(L, "__gc", releaseArray);
+        setField(L, "__close", releaseArray);
+        setField(L, "__metatable", "array");
+        setField(L, "__name", "host array"); // in Lua's own errors
     });
 }
 

@@ -4,6 +4,7 @@
 #include "handles/ValueText.hpp"
 #include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
 
 #include "additions/additions.hpp"
 #include "orbis/objectArrays.hpp"
@@ -28,7 +29,7 @@ Holder* holderAt(lua_State* L, int index)
     return static_cast<Holder*>(lua_touserdata(L, index));
 }
 
-int release(lua_State* L)
+int releaseObject(lua_State* L)
 {
     HostContext::of(L).heldArrays().release(*holderAt(L, 1)).reset();
     return 0;
@@ -43,7 +44,7 @@ char const* enumeratorName(lua_State* L, int index)
     return enumerator ? enumerator->name : nullptr;
 }
 
-int toText(lua_State* L)
+int objectText(lua_State* L)
 {
     if (char const* name = enumeratorName(L, 1)) {
         pushText(L, name);
@@ -54,7 +55,7 @@ int toText(lua_State* L)
     return 1;
 }
 
-int compare(lua_State* L)
+int compareObjects(lua_State* L)
 {
     bool const areHeld = isObject(L, 1) && isObject(L, 2) && holderAt(L, 1)->array && holderAt(L, 2)->array;
     lua_pushboolean(L, areHeld && isSameObject(holderAt(L, 1)->array, holderAt(L, 2)->array));
@@ -64,17 +65,13 @@ int compare(lua_State* L)
 void pushMetatable(lua_State* L, std::string_view className)
 {
     pushCached(L, "velmara.classes", className, [&] {
-        luaL_Reg const functions[] = {{"__gc", guarded<release>},
-                                      {"__close", guarded<release>},
-                                      {"__eq", guarded<compare>},
-                                      {"__tostring", guarded<toText>},
-                                      {nullptr, nullptr}};
         lua_newtable(L);
-        luaL_setfuncs(L, functions, 0);
-        for (char const* field : {"__name", "__metatable"}) {
-            pushText(L, className);
-            lua_setfield(L, -2, field);
-        }
+        setField(L, "__gc", guarded<releaseObject>);
+        setField(L, "__close", guarded<releaseObject>);
+        setField(L, "__eq", guarded<compareObjects>);
+        setField(L, "__tostring", guarded<objectText>);
+        setField(L, "__name", className);
+        setField(L, "__metatable", className);
         lua_pushboolean(L, true);
         lua_rawsetp(L, -2, &objectMark);
         lua_rawgetp(L, LUA_REGISTRYINDEX, &completionKey);

@@ -1,6 +1,7 @@
 #include "handles/Proxy.hpp"
 
 #include "lua/CachedValue.hpp"
+#include "lua/Table.hpp"
 
 namespace velmara::console {
 
@@ -23,10 +24,8 @@ void pushNames(lua_State* L)
 void pushProxyMetatable(lua_State* L)
 {
     pushNamedMetatable(L, "velmara.package", [L] {
-        lua_pushliteral(L, "package");
-        lua_setfield(L, -2, "__metatable");
-        lua_pushliteral(L, "host name"); // in Lua's own errors
-        lua_setfield(L, -2, "__name");
+        setField(L, "__metatable", "package");
+        setField(L, "__name", "host name"); // in Lua's own errors
     });
 }
 

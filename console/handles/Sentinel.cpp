@@ -1,6 +1,7 @@
 #include "handles/Sentinel.hpp"
 
 #include "lua/CachedValue.hpp"
+#include "lua/Table.hpp"
 
 namespace velmara::console {
 
@@ -25,11 +26,9 @@ void createSentinel(lua_State* L, Names const& created)
 {
     lua_newuserdatauv(L, 0, 0);
     pushNamedMetatable(L, created.type, [&] {
+        setField(L, "__metatable", created.text);
+        setField(L, "__name", created.text);
         lua_pushstring(L, created.text);
-        lua_pushvalue(L, -1);
-        lua_setfield(L, -3, "__metatable");
-        lua_pushvalue(L, -1);
-        lua_setfield(L, -3, "__name");
         lua_pushcclosure(L, sentinelText, 1);
         lua_setfield(L, -2, "__tostring");
     });

@@ -1,6 +1,6 @@
 #include "help/Completion.hpp"
 
-#include "bindings/PackageBinding.hpp"
+#include "bindings/ProxyBinding.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"

@@ -1,5 +1,6 @@
 #include "help/HelpText.hpp"
 
+#include "bindings/ProxyBinding.hpp"
 #include "text/Paragraph.hpp"
 
 #include <algorithm>
@@ -11,38 +12,17 @@ namespace {
 using Kind = MethodRecord::Kind;
 using orbis::MemberAccess;
 
-std::string lastPart(std::string const& name)
-{
-    return name.substr(name.rfind('.') + 1);
-}
-
-bool isShown(MethodRecord const& method)
-{
-    return method.isVisible && method.access == MemberAccess::Public;
-}
-
-bool isShown(PropertyRecord const& property)
-{
-    return property.isVisible &&
-           (property.getAccess == MemberAccess::Public || property.setAccess == MemberAccess::Public);
-}
-
 std::string unbroken(std::string text)
 {
     std::ranges::replace(text, ' ', nonBreakingSpace);
     return text;
 }
 
-std::string entry(std::string const& line, std::string const& description)
-{
-    return paragraph(line, 2, 8) + paragraph(description, 6, 6);
-}
-
 /// "getSum(a: int32 scalar, b: int32 scalar) -> int32 scalar": without the object that a method is called on.
 std::string signatureText(MethodRecord const& method)
 {
     bool const hasObject = method.kind == Kind::Method && !method.inputs.empty();
-    std::string text = lastPart(method.name) + '(';
+    std::string text = unqualifiedName(method.name) + '(';
     for (std::size_t i = hasObject ? 1 : 0; i < method.inputs.size(); ++i) {
         text += text.ends_with('(') ? "" : ", ";
         text += method.inputs[i].name + unbroken(": " + method.inputs[i].dataType);
@@ -65,36 +45,65 @@ std::string propertyLine(PropertyRecord const& property)
     return line;
 }
 
-/// The methods of one kind under a title; empty when there are none.
-std::string methodSection(ClassRecord const& cls, char const* title, Kind kind)
+std::string entry(std::string const& line, std::string const& description)
 {
-    std::string text;
-    for (MethodRecord const& method : cls.methods)
-        if (method.kind == kind && isShown(method))
-            text += entry(signatureText(method), method.description);
-    return text.empty() ? text : title + ("\n" + text);
+    return paragraph(line, 2, 8) + paragraph(description, 6, 6);
 }
 
-std::string nameSection(char const* title, std::vector<std::string> const& names)
+std::string entry(MethodRecord const& method)
 {
-    std::string text;
-    for (std::string const& name : names)
-        text += paragraph(name, 2, 2);
-    return text.empty() ? text : title + ("\n" + text);
+    return entry(signatureText(method), method.description);
 }
 
-std::string enumeratorLine(EnumeratorRecord const& enumerator)
+std::string entry(PropertyRecord const& property)
 {
-    return enumerator.name + " = " + std::to_string(enumerator.value);
+    return entry(propertyLine(property), property.description);
 }
 
-/// In the order of description.
-std::string enumeratorSection(ClassRecord const& cls)
+std::string entry(EnumeratorRecord const& enumerator)
+{
+    return entry(enumerator.name + " = " + std::to_string(enumerator.value), "");
+}
+
+std::string entry(std::string const& name)
+{
+    return paragraph(name, 2, 2);
+}
+
+bool isShown(MethodRecord const& method)
+{
+    return method.isVisible && method.access == MemberAccess::Public;
+}
+
+bool isShown(PropertyRecord const& property)
+{
+    return property.isVisible &&
+           (property.getAccess == MemberAccess::Public || property.setAccess == MemberAccess::Public);
+}
+
+template <class Record, class Predicate>
+std::string entries(std::vector<Record> const& records, Predicate const& isListed)
 {
     std::string text;
-    for (EnumeratorRecord const& enumerator : cls.enumerators)
-        text += paragraph(enumeratorLine(enumerator), 2, 8);
-    return text.empty() ? text : "Enumerators:\n" + text;
+    for (Record const& record : records)
+        if (isListed(record))
+            text += entry(record);
+    return text;
+}
+
+constexpr auto all = [](auto const&) { return true; };
+constexpr auto shown = [](auto const& record) { return isShown(record); };
+
+/// Entries under a title; empty when there are none.
+std::string section(std::string const& title, std::string const& entries)
+{
+    return entries.empty() ? entries : title + '\n' + entries;
+}
+
+/// The shown methods of one kind.
+std::string methodEntries(ClassRecord const& cls, Kind kind)
+{
+    return entries(cls.methods, [&](MethodRecord const& method) { return method.kind == kind && isShown(method); });
 }
 
 std::string traits(ClassRecord const& cls)
@@ -111,64 +120,52 @@ std::string traits(ClassRecord const& cls)
 
 std::string methodsText(ClassRecord const& cls)
 {
-    return methodSection(cls, "Constructors:", Kind::Constructor) + methodSection(cls, "Methods:", Kind::Method) +
-           methodSection(cls, "Static methods:", Kind::StaticMethod);
+    return section("Constructors:", methodEntries(cls, Kind::Constructor)) +
+           section("Methods:", methodEntries(cls, Kind::Method)) +
+           section("Static methods:", methodEntries(cls, Kind::StaticMethod));
 }
 
 std::string propertiesText(ClassRecord const& cls)
 {
-    std::string text;
-    for (PropertyRecord const& property : cls.properties)
-        if (isShown(property))
-            text += entry(propertyLine(property), property.description);
-    return text.empty() ? text : "Properties:\n" + text;
+    return section("Properties:", entries(cls.properties, shown));
 }
 
 std::string functionsText(PackageRecord const& package)
 {
-    std::string text;
-    for (MethodRecord const& function : package.functions)
-        if (isShown(function))
-            text += entry(signatureText(function), function.description);
-    return text.empty() ? text : "Functions:\n" + text;
+    return section("Functions:", entries(package.functions, shown));
 }
 
 std::string helpText(ClassRecord const& cls)
 {
-    return paragraph(cls.name + ": " + traits(cls), 0, 2) + paragraph(cls.description, 2, 2) + enumeratorSection(cls) +
-           methodsText(cls) + propertiesText(cls);
+    return paragraph(cls.name + ": " + traits(cls), 0, 2) + paragraph(cls.description, 2, 2) +
+           section("Enumerators:", entries(cls.enumerators, all)) + methodsText(cls) + propertiesText(cls);
 }
 
 std::string helpText(PackageRecord const& package)
 {
     return (package.name.empty() ? std::string() : "package " + package.name + '\n') +
-           paragraph(package.description, 2, 2) + nameSection("Packages:", package.packages) +
-           nameSection("Classes:", package.classes) + functionsText(package);
+           paragraph(package.description, 2, 2) + section("Packages:", entries(package.packages, all)) +
+           section("Classes:", entries(package.classes, all)) + functionsText(package);
 }
 
 std::string helpText(ClassRecord const& cls, std::string_view member)
 {
-    std::string text;
-    for (MethodRecord const& method : cls.methods)
-        if (method.name == member && method.access == MemberAccess::Public)
-            text += entry(signatureText(method), method.description);
-    for (PropertyRecord const& property : cls.properties)
-        if (property.name == member)
-            text += entry(propertyLine(property), property.description);
-    for (EnumeratorRecord const& enumerator : cls.enumerators)
-        if (enumerator.name == member)
-            text += paragraph(enumeratorLine(enumerator), 2, 8);
-    return text.empty() ? text : cls.name + '.' + std::string(member) + '\n' + text;
+    auto const isNamed = [&](auto const& record) { return record.name == member; };
+    auto const isPublic = [&](MethodRecord const& method) {
+        return isNamed(method) && method.access == MemberAccess::Public;
+    };
+    return section(cls.name + '.' + std::string(member), entries(cls.methods, isPublic) +
+                                                             entries(cls.properties, isNamed) +
+                                                             entries(cls.enumerators, isNamed));
 }
 
 std::string helpText(PackageRecord const& package, std::string_view function)
 {
-    std::string text;
-    for (MethodRecord const& overload : package.functions)
-        if (overload.name == function && overload.access == MemberAccess::Public)
-            text += entry(signatureText(overload), overload.description);
+    auto const isPublic = [&](MethodRecord const& overload) {
+        return overload.name == function && overload.access == MemberAccess::Public;
+    };
     std::string const owner = package.name.empty() ? std::string() : package.name + '.';
-    return text.empty() ? text : owner + std::string(function) + '\n' + text;
+    return section(owner + std::string(function), entries(package.functions, isPublic));
 }
 
 } // namespace velmara::console

@@ -2,6 +2,7 @@
 
 #include "lua/CachedValue.hpp"
 #include "lua/ScriptFrames.hpp"
+#include "lua/Table.hpp"
 
 #include "velmara/Error.hpp"
 
@@ -18,19 +19,8 @@ namespace {
 int errorToText(lua_State* L)
 {
     luaL_checktype(L, 1, LUA_TTABLE);
-    lua_settop(L, 1);
-    lua_pushliteral(L, "identifier");
-    lua_rawget(L, 1);
-    lua_pushliteral(L, "text");
-    lua_rawget(L, 1);
-    pushText(L, std::string(textAt(L, 2)) + ": " + std::string(textAt(L, 3)));
+    pushText(L, fieldText(L, 1, "identifier") + ": " + fieldText(L, 1, "text"));
     return 1;
-}
-
-void setField(lua_State* L, char const* name, std::string_view text)
-{
-    pushText(L, text);
-    lua_setfield(L, -2, name);
 }
 
 } // namespace
@@ -43,10 +33,7 @@ void pushError(lua_State* L, std::string_view identifier, std::string_view text)
     setField(L, "text", text);
     if (auto const frames = scriptFrames(L, 0, 1); !frames.empty())
         setField(L, "where", frames.front().position);
-    pushNamedMetatable(L, "velmara.error", [L] {
-        lua_pushcfunction(L, guarded<errorToText>);
-        lua_setfield(L, -2, "__tostring");
-    });
+    pushNamedMetatable(L, "velmara.error", [L] { setField(L, "__tostring", guarded<errorToText>); });
     lua_setmetatable(L, -2);
 }
 

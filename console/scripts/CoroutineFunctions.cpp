@@ -1,5 +1,6 @@
 #include "scripts/CoroutineFunctions.hpp"
 
+#include "lua/WrappedFunction.hpp"
 #include "scripts/Interruption.hpp"
 
 namespace velmara::console {
@@ -11,10 +12,7 @@ int callWhileRunning(lua_State* L, lua_State* coroutine)
 {
     luaL_checkstack(L, 4, nullptr);
     Interruption::Resumption const resumption(L, coroutine ? coroutine : L);
-    lua_pushvalue(L, lua_upvalueindex(1));
-    lua_insert(L, 1);
-    lua_call(L, lua_gettop(L) - 1, LUA_MULTRET);
-    return lua_gettop(L);
+    return callWrapped(L);
 }
 
 int resume(lua_State* L)
@@ -23,7 +21,7 @@ int resume(lua_State* L)
 }
 
 /// Upvalue 1 is the result of Lua's own `wrap`, whose upvalue 1 is the coroutine.
-int callWrapped(lua_State* L)
+int callCoroutine(lua_State* L)
 {
     lua_State* coroutine = nullptr;
     if (lua_getupvalue(L, lua_upvalueindex(1), 1)) {
@@ -35,18 +33,9 @@ int callWrapped(lua_State* L)
 
 int wrap(lua_State* L)
 {
-    lua_pushvalue(L, lua_upvalueindex(1));
-    lua_insert(L, 1);
-    lua_call(L, lua_gettop(L) - 1, 1);
-    lua_pushcclosure(L, callWrapped, 1);
+    callWrapped(L);
+    lua_pushcclosure(L, callCoroutine, 1);
     return 1;
-}
-
-void replace(lua_State* L, char const* name, lua_CFunction function)
-{
-    lua_getfield(L, -1, name);
-    lua_pushcclosure(L, function, 1);
-    lua_setfield(L, -2, name);
 }
 
 } // namespace
@@ -54,8 +43,8 @@ void replace(lua_State* L, char const* name, lua_CFunction function)
 void bindCoroutineFunctions(lua_State* L)
 {
     lua_getglobal(L, LUA_COLIBNAME);
-    replace(L, "resume", resume);
-    replace(L, "wrap", wrap);
+    wrapFunction(L, "resume", resume);
+    wrapFunction(L, "wrap", wrap);
     lua_pop(L, 1);
 }
 

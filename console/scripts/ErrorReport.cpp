@@ -3,6 +3,7 @@
 #include "help/Completion.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/ScriptFrames.hpp"
+#include "lua/Table.hpp"
 #include "text/CloseMatches.hpp"
 
 #include "velmara/Error.hpp"
@@ -52,15 +53,6 @@ std::string textOf(lua_State* L, int index)
     return text;
 }
 
-std::string field(lua_State* L, int index, char const* name)
-{
-    lua_pushstring(L, name);
-    lua_rawget(L, index);
-    std::string text(textAt(L, -1));
-    lua_pop(L, 1);
-    return text;
-}
-
 /// "; did you mean ...?" for Lua's error on a global that is nil; empty for other errors.
 std::string suggestion(lua_State* L, std::string const& text)
 {
@@ -75,7 +67,7 @@ std::string suggestion(lua_State* L, std::string const& text)
 Report reportOf(lua_State* L, int index, std::string const& identifier)
 {
     if (isError(L, index))
-        return {field(L, index, "identifier"), field(L, index, "text"), field(L, index, "where")};
+        return {fieldText(L, index, "identifier"), fieldText(L, index, "text"), fieldText(L, index, "where")};
     Report report{identifier, textOf(L, index), {}};
     if (std::size_t const length = lua_isstring(L, index) ? positionLength(report.text) : 0) {
         report.position = report.text.substr(0, length);

@@ -1,9 +1,10 @@
 #include "scripts/RestrictedLibraries.hpp"
 
+#include "lua/Table.hpp"
+#include "lua/WrappedFunction.hpp"
 #include "scripts/TextLoading.hpp"
 
 #include <algorithm>
-#include <cstddef>
 #include <iterator>
 #include <string_view>
 
@@ -17,28 +18,13 @@ void open(lua_State* L, char const* name, lua_CFunction library)
     luaL_requiref(L, name, library, 0);
 }
 
-/// Replaces the library on top by a table of only the named functions.
-template <std::size_t Count>
-void pick(lua_State* L, char const* const (&names)[Count])
-{
-    lua_createtable(L, 0, Count);
-    for (char const* name : names) {
-        lua_getfield(L, -2, name);
-        lua_setfield(L, -2, name);
-    }
-    lua_remove(L, -2);
-}
-
 /// Lua's own function, limited to the options that leave the collector's settings alone.
 int collectGarbage(lua_State* L)
 {
     constexpr char const* options[] = {"collect", "count", "isrunning", "step", nullptr};
     luaL_checkoption(L, 1, "collect", options);
     lua_settop(L, 1); // without the size of a step
-    lua_pushvalue(L, lua_upvalueindex(1));
-    lua_insert(L, 1);
-    lua_call(L, lua_gettop(L) - 1, LUA_MULTRET);
-    return lua_gettop(L);
+    return callWrapped(L);
 }
 
 void openBase(lua_State* L)
@@ -58,9 +44,7 @@ void openBase(lua_State* L)
         lua_pushnil(L);
         lua_rawset(L, -4);
     }
-    lua_getfield(L, -1, "collectgarbage");
-    lua_pushcclosure(L, collectGarbage, 1);
-    lua_setfield(L, -2, "collectgarbage");
+    wrapFunction(L, "collectgarbage", collectGarbage);
     lua_pop(L, 1);
     limitLoadingToText(L);
 }
@@ -73,16 +57,14 @@ void openStrings(lua_State* L)
     lua_setglobal(L, LUA_STRLIBNAME);
     lua_pushliteral(L, "");
     lua_getmetatable(L, -1);
-    lua_pushliteral(L, "string");
-    lua_setfield(L, -2, "__metatable");
+    setField(L, "__metatable", "string");
     lua_pop(L, 2);
 }
 
 void openTime(lua_State* L)
 {
-    constexpr char const* names[] = {"clock", "date", "difftime", "time"};
     open(L, LUA_OSLIBNAME, luaopen_os);
-    pick(L, names);
+    selectFields(L, {"clock", "date", "difftime", "time"});
     lua_setglobal(L, LUA_OSLIBNAME);
 }
 

@@ -1,5 +1,6 @@
 #include "scripts/ScriptLibraries.hpp"
 
+#include "lua/Table.hpp"
 #include "scripts/TextLoading.hpp"
 
 #include <algorithm>
@@ -79,17 +80,12 @@ void limitPackages(lua_State* L)
 void limitDebug(lua_State* L)
 {
     lua_getglobal(L, LUA_DBLIBNAME);
-    lua_createtable(L, 0, 2);
-    for (char const* name : {"getinfo", "traceback"}) {
-        lua_getfield(L, -2, name);
-        lua_setfield(L, -2, name);
-    }
+    selectFields(L, {"getinfo", "traceback"});
     luaL_getsubtable(L, LUA_REGISTRYINDEX, LUA_LOADED_TABLE);
     lua_pushvalue(L, -2);
     lua_setfield(L, -2, LUA_DBLIBNAME);
     lua_pop(L, 1);
     lua_setglobal(L, LUA_DBLIBNAME);
-    lua_pop(L, 1);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "text/Paragraph.hpp"
 
+#include "text/DisplayWidth.hpp"
+
 #include <algorithm>
 
 namespace velmara::console {
@@ -7,13 +9,6 @@ namespace velmara::console {
 namespace {
 
 constexpr std::size_t maxColumns = 80;
-
-/// Columns of UTF-8 text: its bytes without the ones that continue a character.
-std::size_t columns(std::string_view text)
-{
-    return static_cast<std::size_t>(
-        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
 
 std::string_view takeUntil(std::string_view& text, char end)
 {
@@ -29,7 +24,7 @@ void addWrapped(std::string& result, std::string_view line, std::size_t indent, 
     bool hasWord = false;
     while (!line.empty()) {
         std::string_view const word = takeUntil(line, ' ');
-        if (hasWord && columns(current) + 1 + columns(word) > maxColumns) {
+        if (hasWord && displayWidth(current) + 1 + displayWidth(word) > maxColumns) {
             result += current + '\n';
             current.assign(hanging, ' ');
             hasWord = false;

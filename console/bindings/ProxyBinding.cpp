@@ -1,23 +1,19 @@
-#include "bindings/PackageBinding.hpp"
+#include "bindings/ProxyBinding.hpp"
 
-#include "bindings/ClassBinding.hpp"
 #include "bindings/ClassMembers.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
 #include "text/CloseMatches.hpp"
+#include "values/HostCall.hpp"
 
 #include <string>
 
 namespace velmara::console {
 
 namespace {
-
-std::string lastPart(std::string const& name)
-{
-    return name.substr(name.rfind('.') + 1);
-}
 
 /// Pushes the value of a published name; false when there is none of that name.
 bool pushName(lua_State* L, std::string const& fullName)
@@ -52,7 +48,34 @@ std::string checkKey(lua_State* L)
     return std::string(textAt(L, 2));
 }
 
-int read(lua_State* L)
+[[noreturn]] void failWithoutObject(std::string const& className, std::string const& property)
+{
+    fail("noObject", className + '.' + property + " is a property of the class's objects: write object." + property);
+}
+
+int readClassMember(lua_State* L, std::string const& className, std::string const& member)
+{
+    MemberKind const kind = pushMember(L, className, member);
+    if (kind == MemberKind::Callable)
+        return 1;
+    if (kind == MemberKind::Property)
+        failWithoutObject(className, member);
+    HostCall call(L);
+    if (kind == MemberKind::Enumerator)
+        return call.finish(call.hvm().getEnumerator(className, member));
+    return call.finish(call.hvm().getStatic(className, member));
+}
+
+int writeClassMember(lua_State* L, std::string const& className, std::string const& member)
+{
+    if (checkProperty(L, className, member) == MemberKind::Property)
+        failWithoutObject(className, member);
+    HostCall call(L);
+    call.hvm().setStatic(className, member, call.inputs(3).front());
+    return 0;
+}
+
+int readProxy(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
     std::string const key = checkKey(L);
@@ -64,7 +87,7 @@ int read(lua_State* L)
     fail("unknownName", "package " + name + " has no '" + key + "'" + didYouMean(key, packageContents(package)));
 }
 
-int write(lua_State* L)
+int writeProxy(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
     std::string const key = checkKey(L);
@@ -73,15 +96,16 @@ int write(lua_State* L)
     return writeClassMember(L, name, key);
 }
 
-int call(lua_State* L)
+int callProxy(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
     if (checkKind(L) != NameKind::Class)
         fail("notCallable", "package " + name + " cannot be called: a class of it can");
-    return construct(L, name);
+    HostCall call(L);
+    return call.finish(call.hvm().construct(name, call.inputs(2)));
 }
 
-int toText(lua_State* L)
+int showProxy(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
     switch (HostContext::of(L).hvm().lookUp(name)) {
@@ -99,7 +123,7 @@ int toText(lua_State* L)
 }
 
 /// `pairs(package)`: its contents by name; for an enumeration its enumerators.
-int pairs(lua_State* L)
+int iterateProxy(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
     lua_getglobal(L, "next");
@@ -127,30 +151,35 @@ int readGlobal(lua_State* L)
 
 } // namespace
 
+std::string unqualifiedName(std::string const& fullName)
+{
+    return fullName.substr(fullName.rfind('.') + 1);
+}
+
 std::vector<std::string> packageContents(PackageRecord const& package)
 {
     std::vector<std::string> names;
     names.reserve(package.packages.size() + package.classes.size() + package.functions.size());
     for (std::string const& name : package.packages)
-        names.push_back(lastPart(name));
+        names.push_back(unqualifiedName(name));
     for (std::string const& name : package.classes)
-        names.push_back(lastPart(name));
+        names.push_back(unqualifiedName(name));
     for (MethodRecord const& function : package.functions)
-        names.push_back(lastPart(function.name));
+        names.push_back(unqualifiedName(function.name));
     return names;
 }
 
-void bindGlobals(lua_State* L)
+void bindPublishedNames(lua_State* L)
 {
-    luaL_Reg const functions[] = {{"__index", guarded<read>},      {"__newindex", guarded<write>},
-                                  {"__call", guarded<call>},       {"__pairs", guarded<pairs>},
-                                  {"__tostring", guarded<toText>}, {nullptr, nullptr}};
     pushProxyMetatable(L);
-    luaL_setfuncs(L, functions, 0);
+    setField(L, "__index", guarded<readProxy>);
+    setField(L, "__newindex", guarded<writeProxy>);
+    setField(L, "__call", guarded<callProxy>);
+    setField(L, "__pairs", guarded<iterateProxy>);
+    setField(L, "__tostring", guarded<showProxy>);
     lua_pushglobaltable(L);
     lua_createtable(L, 0, 1);
-    lua_pushcfunction(L, guarded<readGlobal>);
-    lua_setfield(L, -2, "__index");
+    setField(L, "__index", guarded<readGlobal>);
     lua_setmetatable(L, -2);
     lua_pop(L, 2);
 }
