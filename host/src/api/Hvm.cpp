@@ -4,7 +4,6 @@
 #include "api/HvmState.hpp"
 #include "api/listings.hpp"
 #include "api/objectListing.hpp"
-#include "modules/ModuleList.hpp"
 
 #include <utility>
 
@@ -28,13 +27,15 @@ namespace {
 constinit thread_local Hvm::Scope* innermost = nullptr;
 } // namespace
 
-Hvm::Scope::Scope(Hvm& hvm) : previous_(HvmState::makeCurrent(hvm.state_.get())), outer_(std::exchange(innermost, this))
+Hvm::Scope::Scope(Hvm& hvm)
+    : previous_(static_cast<HvmState*>(Machine::makeCurrent(hvm.state_.get()))),
+      outer_(std::exchange(innermost, this))
 {
 }
 
 Hvm::Scope::~Scope()
 {
-    HvmState::makeCurrent(previous_);
+    Machine::makeCurrent(previous_);
     Scope** inner = &innermost; // mostly this one, but they may end in any order
     while (*inner != this)
         inner = &(*inner)->outer_;
@@ -50,17 +51,17 @@ void Hvm::Scope::forget(HvmState const& ended)
 
 ModuleRecord Hvm::loadModule(std::filesystem::path const& file)
 {
-    return callInto(*state_, [&] { return state_->modules().load(file).record(); });
+    return callInto(*state_, [&] { return state_->modules.load(file).record(); });
 }
 
 void Hvm::unloadModule(std::string_view name)
 {
-    callInto(*state_, [&] { state_->modules().unload(name); });
+    callInto(*state_, [&] { state_->modules.unload(name); });
 }
 
 std::vector<ModuleRecord> Hvm::modules() const
 {
-    return callInto(*state_, [&] { return state_->modules().records(); });
+    return callInto(*state_, [&] { return state_->modules.records(); });
 }
 
 NameKind Hvm::lookUp(std::string_view fullName)

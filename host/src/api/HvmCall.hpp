@@ -8,10 +8,10 @@ namespace velmara {
 /// Runs one operation of the driving interface inside a virtual machine: whatever is thrown beneath leaves it as
 /// a `velmara::Error`.
 template <class Operation>
-auto callInto(HvmState& machine, Operation const& operation)
+auto callInto(Machine& machine, Operation const& operation)
 {
-    HvmState::CallBoundary const boundary(machine);
-    HvmState::Entry const entry(machine);
+    Machine::CallBoundary const boundary(machine);
+    Machine::Entry const entry(machine);
     try {
         return operation();
     } catch (...) {

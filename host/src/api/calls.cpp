@@ -16,7 +16,7 @@
 
 namespace velmara {
 
-Class& requireAnyClass(HvmState& machine, std::string_view fullName)
+Class& requireAnyClass(Machine& machine, std::string_view fullName)
 {
     Class* cls = machine.packages().findClass(fullName);
     if (!cls)
@@ -35,17 +35,17 @@ void requireObjectArray(hvArray_tag const* array)
 
 namespace {
 
-[[gnu::always_inline]] inline ArrayPtr callMethod(HvmState& machine, hvArray_tag* array, std::string_view method,
+[[gnu::always_inline]] inline ArrayPtr callMethod(Machine& machine, hvArray_tag* array, std::string_view method,
                                                   Inputs inputs)
 {
     Class& cls = requireClassOf(machine, array, requireObject(machine, array));
     MethodGroup const* const group = cls.findMethods(method);
     if (!group)
-        throwHostError("VELMARA:member", "unknown", {std::string(cls.name()->view()), std::string(method)});
+        throwHostError("VELMARA:member", "unknown", {cls.name()->string(), std::string(method)});
     return dispatchOnObject(*group, array, inputs);
 }
 
-ArrayPtr callStaticMethod(HvmState& machine, std::string_view className, std::string_view method, Inputs inputs)
+ArrayPtr callStaticMethod(Machine& machine, std::string_view className, std::string_view method, Inputs inputs)
 {
     Class& cls = requireClass(machine, className);
     MethodGroup const* const group = cls.findMethods(method);
@@ -56,7 +56,7 @@ ArrayPtr callStaticMethod(HvmState& machine, std::string_view className, std::st
     return dispatch(*group, inputs);
 }
 
-ArrayPtr callPackageFunction(HvmState& machine, std::string_view fullName, Inputs inputs)
+ArrayPtr callPackageFunction(Machine& machine, std::string_view fullName, Inputs inputs)
 {
     MethodGroup const* const group = machine.packages().findFunctions(fullName);
     if (!group)
@@ -64,20 +64,20 @@ ArrayPtr callPackageFunction(HvmState& machine, std::string_view fullName, Input
     return dispatch(*group, inputs);
 }
 
-void endObjects(HvmState& machine, hvArray_tag* array)
+void endObjects(Machine& machine, hvArray_tag* array)
 {
     requireObjectArray(array);
     for (Object const* const object : Array::of(array)->objects()) {
         if (object && object->machine() && object->machine() != &machine)
             refuseObject(*object);
         if (object && object->isEnumerator())
-            throwHostError("VELMARA:enumeration", "noDelete", {std::string(object->className()->view())});
+            throwHostError("VELMARA:enumeration", "noDelete", {object->className()->string()});
     }
     // Ending runs native code, which may write to the array: the objects are held and counted apart from it.
     ArrayPtr const held(Array::of(array)->shareData());
     for (std::size_t i = 0; i < Array::of(held.get())->size(); ++i)
         if (Object* const object = Array::of(held.get())->objects()[i])
-            object->end();
+            object->finalize();
 }
 
 } // namespace

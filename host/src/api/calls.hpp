@@ -1,9 +1,9 @@
 #pragma once
 
-#include "api/HvmState.hpp"
 #include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
 #include "dispatch/Dispatch.hpp"
+#include "machine/Machine.hpp"
 #include "objects/objectValidity.hpp"
 
 #include <string_view>
@@ -11,10 +11,10 @@
 namespace velmara {
 
 /// `requireClass` for every class.
-Class& requireAnyClass(HvmState& machine, std::string_view fullName);
+Class& requireAnyClass(Machine& machine, std::string_view fullName);
 
 /// The class of that full name, described. Throws "VELMARA:class:unknown" when there is none.
-inline Class& requireClass(HvmState& machine, std::string_view fullName)
+inline Class& requireClass(Machine& machine, std::string_view fullName)
 {
     Class* const recent = machine.packages().recentClass(fullName);
     return recent && recent->isReady() ? *recent : requireAnyClass(machine, fullName);
@@ -25,7 +25,7 @@ void requireObjectArray(hvArray_tag const* array);
 
 /// The object that an object array means for calls: its first one, or null where that is null or missing. Throws
 /// for what is no object array, and for an object that cannot be used.
-inline Object* requireObject(HvmState& machine, hvArray_tag* array)
+inline Object* requireObject(Machine& machine, hvArray_tag* array)
 {
     if (!array || Array::of(array)->classID() != hvOBJECT_CLASS) [[unlikely]]
         requireObjectArray(array);
@@ -36,9 +36,9 @@ inline Object* requireObject(HvmState& machine, hvArray_tag* array)
 }
 
 /// The class whose members are meant by an object array: its object's, or its own.
-inline Class& requireClassOf(HvmState& machine, hvArray_tag* array, Object* object)
+inline Class& requireClassOf(Machine& machine, hvArray_tag* array, Object* object)
 {
-    return object ? *object->classOf() : requireClass(machine, Array::of(array)->className());
+    return object ? *Class::of(object->classOf()) : requireClass(machine, Array::of(array)->className());
 }
 
 } // namespace velmara

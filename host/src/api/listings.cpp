@@ -1,10 +1,10 @@
 #include "api/listings.hpp"
 
-#include "api/HvmState.hpp"
 #include "api/calls.hpp"
 #include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
 #include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
 
 #include "orbis/COSDataType.hpp"
 
@@ -13,11 +13,6 @@
 namespace velmara {
 
 namespace {
-
-std::string text(Name name)
-{
-    return std::string(name->view());
-}
 
 std::string text(char const* description)
 {
@@ -29,7 +24,7 @@ std::vector<ParameterRecord> records(std::vector<Parameter> const& parameters)
     std::vector<ParameterRecord> made;
     made.reserve(parameters.size());
     for (Parameter const& parameter : parameters)
-        made.push_back({parameter.name, text(parameter.type.name)});
+        made.push_back({parameter.name, parameter.type.name->string()});
     return made;
 }
 
@@ -38,9 +33,9 @@ std::string signatureLine(Method const& method)
     std::string line;
     if (!method.outputs.empty())
         line = method.outputs.front().name + " = ";
-    line += text(method.name) + "(" + describe(method.inputs) + ")";
+    line += method.name->string() + "(" + describe(method.inputs) + ")";
     if (!method.outputs.empty())
-        line += " -> " + text(method.outputs.front().type.name);
+        line += " -> " + method.outputs.front().type.name->string();
     return line;
 }
 
@@ -51,7 +46,7 @@ MethodRecord record(Method const& method)
                       : method.isConstructor ? Kind::Constructor
                       : method.isStatic      ? Kind::StaticMethod
                                              : Kind::Method;
-    return {.name = text(method.name),
+    return {.name = method.name->string(),
             .kind = kind,
             .access = method.access,
             .isVisible = method.isVisible,
@@ -60,7 +55,7 @@ MethodRecord record(Method const& method)
             .description = text(method.info->getDescription()),
             .inputs = records(method.inputs),
             .outputs = records(method.outputs),
-            .definingClass = method.definingClass ? text(method.definingClass->name()) : "",
+            .definingClass = method.definingClass ? method.definingClass->name()->string() : "",
             .signature = signatureLine(method)};
 }
 
@@ -68,11 +63,11 @@ PropertyRecord record(Property const& property)
 {
     PropertyRecord listed;
     static_cast<PropertyTraits&>(listed) = property.traits;
-    listed.name = text(property.name);
-    listed.dataType = property.hasType() ? text(property.type().name) : ""; // while there is no such type
+    listed.name = property.name->string();
+    listed.dataType = property.hasType() ? property.type().name->string() : ""; // while there is no such type
     listed.description = property.description;
     listed.detailedDescription = property.detailedDescription;
-    listed.definingClass = text(property.definingClass.name());
+    listed.definingClass = property.definingClass.name()->string();
     return listed;
 }
 
@@ -80,13 +75,14 @@ void addMembers(Class& cls, ClassRecord& listed)
 {
     for (Method const* const constructor : cls.tables().constructors.methods)
         listed.methods.push_back(record(*constructor));
-    for (Class const* const definer : cls.linearization()) {
-        for (auto const& method : definer->contents().methods) {
+    for (ObjectClass* const ancestor : cls.linearization()) {
+        ClassContents const& contents = Class::of(ancestor)->contents();
+        for (auto const& method : contents.methods) {
             MethodGroup const* const group = cls.tables().methodGroups.find(method->name);
             if (group && std::ranges::find(group->methods, method.get()) != group->methods.end())
                 listed.methods.push_back(record(*method));
         }
-        for (auto const& property : definer->contents().properties)
+        for (auto const& property : contents.properties)
             if (*cls.tables().propertiesByName.find(property->name) == property.get())
                 listed.properties.push_back(record(*property));
     }
@@ -94,7 +90,7 @@ void addMembers(Class& cls, ClassRecord& listed)
 
 } // namespace
 
-NameKind lookUp(HvmState& machine, std::string_view fullName)
+NameKind lookUp(Machine& machine, std::string_view fullName)
 {
     PackageTree& packages = machine.packages();
     if (packages.findClass(fullName))
@@ -106,7 +102,7 @@ NameKind lookUp(HvmState& machine, std::string_view fullName)
     return packages.findGlobalClass(fullName) ? NameKind::Class : NameKind::None;
 }
 
-PackageRecord describePackage(HvmState& machine, std::string_view fullName)
+PackageRecord describePackage(Machine& machine, std::string_view fullName)
 {
     Package* const package = machine.packages().findPackage(fullName);
     if (!package)
@@ -116,9 +112,9 @@ PackageRecord describePackage(HvmState& machine, std::string_view fullName)
     listed.name = fullName;
     listed.description = package->info() ? text(package->info()->getDescription()) : "";
     for (auto const& inner : package->packages())
-        listed.packages.push_back(text(inner->name()));
+        listed.packages.push_back(inner->name()->string());
     for (auto const& cls : package->classes())
-        listed.classes.push_back(text(cls->name()));
+        listed.classes.push_back(cls->name()->string());
     for (auto const& function : package->functions())
         listed.functions.push_back(record(*function));
     std::ranges::sort(listed.packages);
@@ -127,26 +123,26 @@ PackageRecord describePackage(HvmState& machine, std::string_view fullName)
     return listed;
 }
 
-ClassRecord describeClass(HvmState& machine, std::string_view fullName)
+ClassRecord describeClass(Machine& machine, std::string_view fullName)
 {
     Class& cls = requireClass(machine, fullName);
     orbis::COSClassInfo const& info = cls.info();
     ClassRecord listed;
-    listed.name = text(cls.name());
+    listed.name = cls.name()->string();
     listed.description = text(info.getDescription());
     listed.isHandle = info.isHandle();
     listed.isAbstract = info.classIsAbstract();
     listed.isHidden = info.isHidden();
     listed.isEnumeration = cls.isEnumeration();
     for (auto const& [name, value] : cls.contents().enumerators.entries())
-        listed.enumerators.push_back({text(name), value});
+        listed.enumerators.push_back({name->string(), value});
     for (Class const* const superclass : cls.contents().superclasses)
-        listed.superclasses.push_back(text(superclass->name()));
+        listed.superclasses.push_back(superclass->name()->string());
     addMembers(cls, listed);
     return listed;
 }
 
-MethodRecord describeFunction(HvmState& machine, std::string_view fullName)
+MethodRecord describeFunction(Machine& machine, std::string_view fullName)
 {
     MethodGroup const* const group = machine.packages().findFunctions(fullName);
     if (!group)

@@ -6,12 +6,12 @@
 
 namespace velmara {
 
-class HvmState;
+class Machine;
 
 /// What is published, in records of texts. Each throws when there is nothing of the name.
-NameKind lookUp(HvmState& machine, std::string_view fullName);
-PackageRecord describePackage(HvmState& machine, std::string_view fullName);
-ClassRecord describeClass(HvmState& machine, std::string_view fullName);
-MethodRecord describeFunction(HvmState& machine, std::string_view fullName);
+NameKind lookUp(Machine& machine, std::string_view fullName);
+PackageRecord describePackage(Machine& machine, std::string_view fullName);
+ClassRecord describeClass(Machine& machine, std::string_view fullName);
+MethodRecord describeFunction(Machine& machine, std::string_view fullName);
 
 } // namespace velmara

@@ -1,7 +1,7 @@
 #include "api/objectListing.hpp"
 
-#include "api/HvmState.hpp"
 #include "classes/PackageTree.hpp"
+#include "machine/Machine.hpp"
 
 #include "additions/NativeOwner.hpp"
 
@@ -21,7 +21,7 @@ std::string ownerOf(orbis::COSClassInfo const& info)
 
 ObjectRecord record(Object const& object, std::string const& owner)
 {
-    return {.className = std::string(object.className()->view()),
+    return {.className = object.className()->string(),
             .owner = owner,
             .isValid = object.isValid(),
             .externalReferences = object.getExternalReferenceCount(),
@@ -42,7 +42,7 @@ void addObjects(Package const& package, std::vector<ObjectRecord>& listed)
 
 } // namespace
 
-std::vector<ObjectRecord> listObjects(HvmState& machine)
+std::vector<ObjectRecord> listObjects(Machine& machine)
 {
     std::vector<ObjectRecord> listed;
     addObjects(machine.packages().root(), listed);

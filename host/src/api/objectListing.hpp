@@ -6,9 +6,9 @@
 
 namespace velmara {
 
-class HvmState;
+class Machine;
 
 /// The objects of a virtual machine that have not ended. Nothing is populated or described for it.
-std::vector<ObjectRecord> listObjects(HvmState& machine);
+std::vector<ObjectRecord> listObjects(Machine& machine);
 
 } // namespace velmara

@@ -60,7 +60,7 @@ COSInterfacePtr::~COSInterfacePtr()
 
 COSInterface* COSInterfacePtr::livingObject() const
 {
-    return object_ && static_cast<Object*>(object_)->isEnded() ? nullptr : object_;
+    return object_ && static_cast<Object*>(object_)->isFinalized() ? nullptr : object_;
 }
 
 // The interface has both forms of these two.

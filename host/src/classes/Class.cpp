@@ -1,9 +1,9 @@
 #include "classes/Class.hpp"
 
-#include "api/HvmState.hpp"
 #include "classes/PackageTree.hpp"
 #include "errors/errorTranslation.hpp"
 #include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -12,25 +12,15 @@ namespace velmara {
 
 namespace {
 
-Name lastPart(Name name)
-{
-    return intern(name->view().substr(name->view().rfind('.') + 1));
-}
-
-std::string text(Name name)
-{
-    return std::string(name->view());
-}
-
 /// The class and all its superclasses, each once, each before its own superclasses, otherwise in the order in which
 /// superclasses were named.
-std::vector<Class*> linearize(Class& cls)
+std::vector<ObjectClass*> linearize(Class& cls)
 {
-    std::vector<Class*> order;
+    std::vector<ObjectClass*> order;
     for (Class* const superclass : cls.contents().superclasses)
         order.insert(order.end(), superclass->linearization().begin(), superclass->linearization().end());
     // Of a class that is reached on several ways the last place is kept: behind all its subclasses.
-    std::vector<Class*> reversed;
+    std::vector<ObjectClass*> reversed;
     for (auto it = order.rbegin(); it != order.rend(); ++it)
         if (std::ranges::find(reversed, *it) == reversed.end())
             reversed.push_back(*it);
@@ -48,13 +38,10 @@ char const* refusalOf(orbis::COSClassInfo const& info)
 
 } // namespace
 
-Class::Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, HvmState& machine)
-    : info_(std::move(info)),
-      name_(name),
-      ownName_(lastPart(name)),
-      machine_(machine),
+Class::Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, Machine& machine)
+    : ObjectClass(std::move(info), name, machine),
       contents_(std::make_unique<ClassContents>()),
-      isEnumeration_(info_->isEnumeration())
+      isEnumeration_(this->info().isEnumeration())
 {
 }
 
@@ -63,8 +50,8 @@ void Class::makeReady()
     if (state_ == State::Ready || state_ == State::Describing) [[likely]]
         return;
     if (state_ == State::Closed)
-        throwHostError("VELMARA:class", "unpublished", {text(name_)});
-    HvmState::Entry const entry(machine_);
+        throwHostError("VELMARA:class", "unpublished", {name()->string()});
+    Machine::Entry const entry(machine());
     if (!empty_)
         empty_ = std::make_unique<ClassContents>();
     state_ = State::Describing;
@@ -74,19 +61,19 @@ void Class::makeReady()
         state_ = State::Untouched;
         dropContents();
         rethrowShortage();
-        throwHostError("VELMARA:class", "initialization", {text(name_), textOfCurrentException()});
+        throwHostError("VELMARA:class", "initialization", {name()->string(), textOfCurrentException()});
     }
     state_ = State::Ready;
 }
 
 void Class::describe()
 {
-    info_->initializeClass(this);
-    constructionRefusal_ = refusalOf(*info_);
+    info().initializeClass(this);
+    constructionRefusal_ = refusalOf(info());
     contents_->linearization = linearize(*this);
     contents_->tables = buildMemberTables(contents_->linearization);
     if (isEnumeration_ && contents_->enumerators.empty())
-        throwHostError("VELMARA:enumeration", "empty", {text(name_)});
+        throwHostError("VELMARA:enumeration", "empty", {name()->string()});
     contents_->enumerators.makeObjects(*this);
 }
 
@@ -96,7 +83,7 @@ void Class::dropContents() noexcept
         return; // there are none
     for (Class* const superclass : contents_->superclasses)
         std::erase(superclass->subclasses_, this);
-    machine_.retire(std::exchange(contents_, std::move(empty_)));
+    machine().retire(std::exchange(contents_, std::move(empty_)));
 }
 
 bool Class::isBusy() const
@@ -112,44 +99,44 @@ void Class::close()
         subclass.close();
         subclass.state_ = State::Untouched;
     }
-    objects_.endAll();
+    objects().finalizeAll();
     dropContents();
 }
 
 bool Class::isA(Name ancestor) const
 {
-    return name_ == ancestor || distanceTo(ancestor) > 0;
+    return name() == ancestor || distanceTo(ancestor) > 0;
 }
 
 int Class::distanceTo(Name ancestor) const
 {
     auto const& classes = linearization();
-    auto const found = std::ranges::find(classes, ancestor, &Class::name);
+    auto const found = std::ranges::find(classes, ancestor, &ObjectClass::name);
     return found == classes.end() ? -1 : static_cast<int>(found - classes.begin());
 }
 
 void Class::setSuperclasses(std::span<orbis::COSNameID const> names)
 {
-    requireOpen(name_);
+    requireOpen(name());
     if (isEnumeration_)
-        throwHostError("VELMARA:enumeration", "superclass", {text(name_)});
+        throwHostError("VELMARA:enumeration", "superclass", {name()->string()});
     std::vector<Class*> classes;
-    for (orbis::COSNameID const& name : names) {
-        Class* const cls = machine_.packages().findClass(name.interned()->view());
+    for (orbis::COSNameID const& superclass : names) {
+        Class* const cls = machine().packages().findClass(superclass.interned()->view());
         if (!cls)
-            throwHostError("VELMARA:class", "unknown", {text(name.interned())});
+            throwHostError("VELMARA:class", "unknown", {superclass.interned()->string()});
         cls->makeReady();
         if (!cls->isReady())
-            throwHostError("VELMARA:class", "cycle", {text(name_), text(cls->name())});
+            throwHostError("VELMARA:class", "cycle", {name()->string(), cls->name()->string()});
         if (cls->info().isSealed() || cls->isEnumeration())
-            throwHostError("VELMARA:class", "sealed", {text(name_), text(cls->name())});
+            throwHostError("VELMARA:class", "sealed", {name()->string(), cls->name()->string()});
         if (std::ranges::find(classes, cls) == classes.end())
             classes.push_back(cls);
     }
     for (Class* const cls : classes)
         cls->subclasses_.reserve(cls->subclasses_.size() + 1);
-    for (Class* const superclass : contents_->superclasses)
-        std::erase(superclass->subclasses_, this);
+    for (Class* const cls : contents_->superclasses)
+        std::erase(cls->subclasses_, this);
     for (Class* const cls : classes)
         cls->subclasses_.push_back(this);
     contents_->superclasses = std::move(classes);
@@ -157,23 +144,23 @@ void Class::setSuperclasses(std::span<orbis::COSNameID const> names)
 
 [[gnu::noinline]] void Class::refuseObject() const
 {
-    if (machine_.isEnding())
+    if (machine().isEnding())
         throwHostError("VELMARA:hvm", "ending");
     if (!isReady())
-        throwHostError("VELMARA:class", "notInitialized", {text(name_)});
+        throwHostError("VELMARA:class", "notInitialized", {name()->string()});
     requireNoEnumeration();
 }
 
 Object& Class::makeObject()
 {
-    if (machine_.isEnding() || !isReady() || isEnumeration_) [[unlikely]]
+    if (machine().isEnding() || !isReady() || isEnumeration_) [[unlikely]]
         refuseObject();
     return Object::make(*this);
 }
 
 orbis::COSInterfacePtr Class::newInstance()
 {
-    if (!machine_.isEnding())
+    if (!machine().isEnding())
         makeReady();
     return &makeObject();
 }
@@ -183,7 +170,7 @@ void Class::initializeInstance(orbis::COSInterfacePtr instance)
     auto* const object = static_cast<Object*>(static_cast<orbis::COSInterface*>(instance));
     if (!object || object->classOf() != this)
         throwHostError("VELMARA:object", "otherClass",
-                       {text(name_), object ? text(object->className()) : std::string("null")});
+                       {name()->string(), object ? object->className()->string() : std::string("null")});
     object->initialize();
 }
 

@@ -2,7 +2,7 @@
 
 #include "classes/ClassContents.hpp"
 #include "memory/Retirable.hpp"
-#include "objects/ObjectList.hpp"
+#include "objects/ObjectClass.hpp"
 
 #include "orbis/COSClass.hpp"
 #include "orbis/COSClassInfo.hpp"
@@ -14,18 +14,13 @@
 
 namespace velmara {
 
-class HvmState;
-
 /// A published class. It is described by its class info when it is first needed.
-class Class final : public orbis::COSClass, public Retirable {
+class Class final : public orbis::COSClass, public ObjectClass, public Retirable {
 public:
-    Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, HvmState& machine);
+    Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, Machine& machine);
+    ~Class() override { objects().finalizeAll(); }
 
-    Name name() const { return name_; }
-    Name ownName() const { return ownName_; }
-    HvmState& machine() const { return machine_; }
-    orbis::COSClassInfo& info() const { return *info_; }
-    ObjectList& objects() { return objects_; }
+    static Class* of(ObjectClass* cls) { return static_cast<Class*>(cls); }
 
     bool isEnumeration() const { return isEnumeration_; }
 
@@ -54,7 +49,7 @@ public:
 
     ClassContents const& contents() const { return *contents_; }
     MemberTables const& tables() const { return *contents_->tables; }
-    std::vector<Class*> const& linearization() const { return contents_->linearization; }
+    std::vector<ObjectClass*> const& linearization() const override { return contents_->linearization; }
     bool isA(Name ancestor) const;
 
     /// The distance of a class in the linearisation, -1 when it is not there.
@@ -82,7 +77,7 @@ public:
     /// Throws "VELMARA:enumeration:noObjects" for an enumeration.
     void requireNoEnumeration() const;
 
-    char const* getName() const override { return ownName_->text; }
+    char const* getName() const override { return ownName()->text; }
     void addMethod(orbis::COSMethodInfo* method) override;
     void addProperty(orbis::COSPropInfo* property) override;
     orbis::COSInterfacePtr newInstance() override;
@@ -113,14 +108,9 @@ private:
     template <class Find, class Attempt>
     auto load(Find find, Attempt attempt);
 
-    std::unique_ptr<orbis::COSClassInfo> info_;
-    Name name_;
-    Name ownName_;
-    HvmState& machine_;
     std::unique_ptr<ClassContents> contents_;
     std::unique_ptr<ClassContents> empty_; ///< what takes the place of contents: there is one once there are any
     std::vector<Class*> subclasses_;       ///< direct ones that are described or being described
-    ObjectList objects_;
     char const* constructionRefusal_ = nullptr;
     State state_ = State::Untouched;
     bool isEnumeration_;

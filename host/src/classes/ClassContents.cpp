@@ -9,10 +9,9 @@ namespace velmara {
 
 namespace {
 
-[[noreturn]] void refuseSealed(Class const& cls, Name member, Class const& definer)
+[[noreturn]] void refuseSealed(Class const& cls, Name member, ObjectClass const& definer)
 {
-    throwHostError("VELMARA:class", "sealedMember",
-                   {std::string(cls.name()->view()), std::string(member->view()), std::string(definer.name()->view())});
+    throwHostError("VELMARA:class", "sealedMember", {cls.name()->string(), member->string(), definer.name()->string()});
 }
 
 /// True when a method that is in the group already hides `inherited`.
@@ -51,16 +50,16 @@ void addProperties(MemberTables& tables, Class const& cls, Class const& definer)
 
 } // namespace
 
-std::unique_ptr<MemberTables> buildMemberTables(std::vector<Class*> const& linearization)
+std::unique_ptr<MemberTables> buildMemberTables(std::vector<ObjectClass*> const& linearization)
 {
     auto tables = std::make_unique<MemberTables>();
-    Class const& cls = *linearization.front();
+    Class const& cls = *Class::of(linearization.front());
     for (auto const& method : cls.contents().methods)
         if (method->isConstructor)
             tables->constructors.add(*method);
-    for (Class const* const definer : linearization) {
-        addMethods(*tables, cls, *definer);
-        addProperties(*tables, cls, *definer);
+    for (ObjectClass* const definer : linearization) {
+        addMethods(*tables, cls, *Class::of(definer));
+        addProperties(*tables, cls, *Class::of(definer));
     }
     return tables;
 }

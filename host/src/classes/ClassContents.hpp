@@ -12,6 +12,8 @@
 
 namespace velmara {
 
+class Class;
+
 /// The members of a class by name, inherited ones included.
 struct MemberTables : Retirable {
     MethodGroup constructors;
@@ -29,13 +31,13 @@ struct ClassContents : Retirable {
     std::vector<Class*> superclasses; ///< direct ones
 
     /// The class itself first, then its superclasses: each before its own superclasses.
-    std::vector<Class*> linearization;
+    std::vector<ObjectClass*> linearization;
 
     std::unique_ptr<MemberTables> tables = std::make_unique<MemberTables>();
 };
 
 /// The tables of the class that stands first in the linearisation. Refuses members that redefine sealed ones of a
 /// superclass.
-std::unique_ptr<MemberTables> buildMemberTables(std::vector<Class*> const& linearization);
+std::unique_ptr<MemberTables> buildMemberTables(std::vector<ObjectClass*> const& linearization);
 
 } // namespace velmara

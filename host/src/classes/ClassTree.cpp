@@ -1,8 +1,8 @@
 #include "classes/ClassTree.hpp"
 
-#include "api/HvmState.hpp"
 #include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
+#include "machine/Machine.hpp"
 #include "objects/Object.hpp"
 
 #include <algorithm>
@@ -13,7 +13,7 @@ namespace {
 
 bool isOfClass(Object const* object, Name cls)
 {
-    return !object || object->className() == cls || (object->classOf() && object->classOf()->isA(cls));
+    return !object || object->className() == cls || (object->classOf() && Class::of(object->classOf())->isA(cls));
 }
 
 } // namespace
@@ -22,7 +22,7 @@ bool isSubclass(Name cls, Name ancestor)
 {
     if (cls == ancestor)
         return true;
-    HvmState* const machine = HvmState::current();
+    Machine* const machine = Machine::current();
     Class const* const found = machine && cls ? machine->packages().findPublishedClass(cls) : nullptr;
     return found && found->isReady() && found->isA(ancestor);
 }
@@ -37,8 +37,8 @@ Name commonClass(std::span<Object* const> objects)
     };
     if (isCommon((*first)->className()))
         return (*first)->className();
-    if (Class const* const cls = (*first)->classOf())
-        for (Class const* const ancestor : cls->linearization())
+    if (ObjectClass const* const cls = (*first)->classOf())
+        for (ObjectClass const* const ancestor : cls->linearization())
             if (isCommon(ancestor->name()))
                 return ancestor->name();
     return nullptr;

@@ -1,9 +1,9 @@
 #include "classes/Package.hpp"
 
-#include "api/HvmState.hpp"
 #include "classes/PackageTree.hpp"
 #include "errors/errorTranslation.hpp"
 #include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
 #include "memory/makeRoom.hpp"
 
 #include <algorithm>
@@ -17,7 +17,7 @@ void Package::populate()
 {
     if (state_ != State::Untouched)
         return;
-    HvmState::Entry const entry(tree_.machine());
+    Machine::Entry const entry(tree_.machine());
     state_ = State::Populating;
     try {
         tree_.populating([this] { info()->initializePackage(this); });
@@ -66,13 +66,13 @@ void Package::clear() noexcept
     state_ = State::Populated;
 }
 
-void Package::endAllObjects()
+void Package::finalizeAllObjects()
 {
     // By index: ending runs foreign code, which may publish more.
     for (std::size_t i = 0; i < packages_.size(); ++i)
-        packages_[i]->endAllObjects();
+        packages_[i]->finalizeAllObjects();
     for (std::size_t i = 0; i < classes_.size(); ++i)
-        classes_[i]->objects().endAll();
+        classes_[i]->objects().finalizeAll();
 }
 
 MethodGroup const* Package::findFunctions(std::string_view ownName)
@@ -149,11 +149,34 @@ void Package::remove(Method& function)
     tree_.machine().retire(std::move(taken));
 }
 
+void Package::addSubPackage(orbis::COSPackageInfo* info)
+{
+    std::unique_ptr<orbis::COSPackageInfo> owned(info);
+    requireOpen();
+    if (!owned)
+        throwHostError("VELMARA:package", "null");
+    char const* const name = owned->getName();
+    std::string const own = name ? name : "";
+    std::string const full = std::string(fullName()) + "." + own;
+    if (own.find('.') != std::string::npos)
+        throwHostError("VELMARA:package", "name", {own, "the name of a package in another one holds no dot"});
+    tree_.addPackage(std::move(owned), full);
+}
+
+void Package::addClass(orbis::COSClassInfo* info)
+{
+    std::unique_ptr<orbis::COSClassInfo> owned(info);
+    requireOpen();
+    if (!owned)
+        throwHostError("VELMARA:class", "null");
+    tree_.addClass(std::move(owned), *this);
+}
+
 void Package::addFunction(orbis::COSMethodInfo* function)
 {
     auto added = std::make_unique<Method>(std::unique_ptr<orbis::COSMethodInfo>(function), nullptr);
     requireOpen();
-    std::string const full = std::string(fullName()) + "." + std::string(added->name->view());
+    std::string const full = std::string(fullName()) + "." + added->name->string();
     std::unique_ptr<MethodGroup>* group = functionGroups_.find(added->name);
     auto const isSame = [&added](Method const* other) { return other->hasSameInputs(*added); };
     if (!group || (*group)->methods.empty())

@@ -46,7 +46,7 @@ public:
 
     /// Ends all that the package holds.
     void close();
-    void endAllObjects();
+    void finalizeAllObjects();
 
     /// Ends all that the package holds, and holds nothing from then on.
     void clear() noexcept;

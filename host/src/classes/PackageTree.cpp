@@ -1,7 +1,7 @@
 #include "classes/PackageTree.hpp"
 
-#include "api/HvmState.hpp"
 #include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
 #include "memory/makeRoom.hpp"
 #include "types/TypeRepository.hpp"
 
@@ -38,7 +38,7 @@ T* findByText(NameMap<T*> const& map, std::string_view fullName)
 
 } // namespace
 
-PackageTree::PackageTree(HvmState& machine) : machine_(machine), root_(*this, nullptr, nullptr) {}
+PackageTree::PackageTree(Machine& machine) : machine_(machine), root_(*this, nullptr, nullptr) {}
 
 Package* PackageTree::findPublishedPackage(std::string_view fullName)
 {
@@ -203,14 +203,14 @@ void PackageTree::removePackage(Name fullName)
         if (package->state() == Package::State::Closed)
             return;       // it is going already
     if (removed.isBusy()) // NOLINT(clang-analyzer-core.CallAndMessage): a stored package is not null
-        throwHostError("VELMARA:package", "busy", {std::string(fullName->view())});
-    HvmState::Entry const entry(machine_);
+        throwHostError("VELMARA:package", "busy", {fullName->string()});
+    Machine::Entry const entry(machine_);
     removeWithEmptyParents(removed);
 }
 
-void PackageTree::endAllObjects()
+void PackageTree::finalizeAllObjects()
 {
-    root_.endAllObjects();
+    root_.finalizeAllObjects();
 }
 
 void PackageTree::clear() noexcept

@@ -11,14 +11,14 @@
 
 namespace velmara {
 
-class HvmState;
+class Machine;
 
 /// All that one virtual machine has published, by full dotted name. The root holds the global classes.
 class PackageTree {
 public:
-    explicit PackageTree(HvmState& machine);
+    explicit PackageTree(Machine& machine);
 
-    HvmState& machine() const { return machine_; }
+    Machine& machine() const { return machine_; }
     Package& root() { return root_; }
 
     /// Null when there is none. The parents are populated when they were not yet, and asked to load the package.
@@ -47,7 +47,7 @@ public:
     void addClass(std::unique_ptr<orbis::COSClassInfo> info);
     void removePackage(Name fullName);
 
-    void endAllObjects();
+    void finalizeAllObjects();
 
     /// Removes everything. Needs no memory.
     void clear() noexcept;
@@ -88,7 +88,7 @@ private:
     Package& findOrMake(std::string_view fullName);
     Package* findPublishedPackage(std::string_view fullName);
 
-    HvmState& machine_;
+    Machine& machine_;
     NameMap<Package*> packages_;
     NameMap<Class*> classes_;
     RecentClasses recentClasses_;

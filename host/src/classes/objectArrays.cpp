@@ -19,7 +19,7 @@ Object* objectOf(COSInterfacePtr const& handle)
 [[gnu::noinline]] void requireClass(Array const& array, Name className)
 {
     if (!isSubclass(className, array.objectClass()))
-        throwHostError("VELMARA:array", "wrongClass", {std::string(className->view()), std::string(array.className())});
+        throwHostError("VELMARA:array", "wrongClass", {className->string(), std::string(array.className())});
 }
 
 /// Kept out of the way of the one object of a new array.

@@ -1,6 +1,6 @@
-#include "api/HvmState.hpp"
 #include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
+#include "machine/Machine.hpp"
 #include "objects/Object.hpp"
 
 #include "additions/additions.hpp"
@@ -32,7 +32,7 @@ namespace orbis::additions {
 std::vector<RecordedObject> recordedObjects()
 {
     std::vector<RecordedObject> records;
-    if (velmara::HvmState* const machine = velmara::HvmState::current())
+    if (velmara::Machine* const machine = velmara::Machine::current())
         velmara::collect(machine->packages().root(), records);
     return records;
 }

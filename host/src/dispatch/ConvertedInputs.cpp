@@ -1,6 +1,5 @@
 #include "dispatch/ConvertedInputs.hpp"
 
-#include "api/HvmState.hpp"
 #include "arrays/Array.hpp"
 #include "arrays/emptyInput.hpp"
 #include "classes/Class.hpp"
@@ -9,6 +8,7 @@
 #include "dispatch/enumerationRefusal.hpp"
 #include "dispatch/objectFit.hpp"
 #include "errors/errorTranslation.hpp"
+#include "machine/Machine.hpp"
 #include "objects/Object.hpp"
 #include "objects/objectValidity.hpp"
 #include "types/ElementConversion.hpp"
@@ -76,7 +76,7 @@ void ConvertedInputs::makeRoom(std::size_t capacity)
 Fit ConvertedInputs::addSelf(TypeReference const& type, hvArray_tag* self)
 {
     Array const& array = *Array::of(self);
-    checkObjects(HvmState::required(), array.objects());
+    checkObjects(Machine::required(), array.objects());
     Fit const fit = type.kind == TypeKind::Named && !type.element ? firstObjectFit(type.name, array) : noFit;
     if (fit == noFit)
         return add(type, self);
@@ -87,7 +87,7 @@ Fit ConvertedInputs::addSelf(TypeReference const& type, hvArray_tag* self)
 Fit ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
 {
     if (Array::of(input)->classID() == hvOBJECT_CLASS)
-        checkObjects(HvmState::required(), Array::of(input)->objects());
+        checkObjects(Machine::required(), Array::of(input)->objects());
     if (type.kind == TypeKind::Optional)
         return addOptional(type, input);
     Fit fit = noFit;
@@ -144,7 +144,7 @@ Fit ConvertedInputs::addNamed(TypeReference const& type, hvArray_tag* input)
     Fit fit = noFit;
     if (array.classID() == hvOBJECT_CLASS && !type.element)
         fit = objectFit(type.name, array);
-    if (fit == noFit && HvmState::required().types().findRegistered(type.name))
+    if (fit == noFit && Machine::required().types().findRegistered(type.name))
         return addRegistered(type, input);
     if (fit == noFit)
         fit = type.element ? objectVectorFit(type.element, array) : objectFit(type.name, array);
@@ -172,7 +172,7 @@ Fit ConvertedInputs::addEnumeration(TypeReference const& type, hvArray_tag* inpu
 
 Fit ConvertedInputs::addRegistered(TypeReference const& type, hvArray_tag* input)
 {
-    TypeRepository const& types = HvmState::required().types();
+    TypeRepository const& types = Machine::required().types();
     orbis::COSDataType* const dataType = types.findRegistered(type.name);
     orbis::COSTypeConversion* const conversion = types.findConversion(anyTypeName(), type.name);
     if (!conversion)
@@ -248,8 +248,7 @@ std::string explainElement(Name wanted, Array const& input)
         else if (Object const* const object = areCells ? nullptr : input.objects()[i])
             given = classFit(object->className(), wanted) == noFit ? object->className()->view() : std::string_view();
         if (!given.empty())
-            return "element " + std::to_string(i) + " (counted from 0): needs " + std::string(wanted->view()) +
-                   ", not " + given;
+            return "element " + std::to_string(i) + " (counted from 0): needs " + wanted->string() + ", not " + given;
     }
     return {};
 }
@@ -269,7 +268,7 @@ std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
         return explainRefusal(*type.value, input);
     if (type.kind == TypeKind::Text)
         return explainTextRefusal(array);
-    HvmState& machine = HvmState::required();
+    Machine& machine = Machine::required();
     if (orbis::COSDataType* const registered = machine.types().findRegistered(type.name)) {
         auto* const conversion = machine.types().findConversion(anyTypeName(), type.name);
         return conversion ? explainConversion(*registered, *conversion, input) : "nothing converts to " + wanted;

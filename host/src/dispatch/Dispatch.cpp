@@ -1,9 +1,9 @@
 #include "dispatch/Dispatch.hpp"
 
-#include "api/HvmState.hpp"
 #include "arrays/Array.hpp"
 #include "dispatch/dispatchErrors.hpp"
 #include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
 #include "objects/objectValidity.hpp"
 
 #include <algorithm>
@@ -27,7 +27,7 @@ struct Candidate {
 
 } // namespace
 
-void checkInputs(HvmState const& machine, Inputs inputs)
+void checkInputs(Machine const& machine, Inputs inputs)
 {
     for (hvArray_tag const* const input : inputs) {
         if (!input)

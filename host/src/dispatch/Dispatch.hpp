@@ -9,10 +9,10 @@
 
 namespace velmara {
 
-class HvmState;
+class Machine;
 
 /// Refuses missing inputs, and objects that are invalid or of other virtual machines.
-void checkInputs(HvmState const& machine, Inputs inputs);
+void checkInputs(Machine const& machine, Inputs inputs);
 
 /// Converts the inputs for one method and tells `visit` how well each explicit one fits; false when one does not.
 template <class Visit>

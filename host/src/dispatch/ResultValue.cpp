@@ -1,11 +1,11 @@
 #include "dispatch/ResultValue.hpp"
 
-#include "api/HvmState.hpp"
 #include "arrays/Array.hpp"
 #include "arrays/emptyInput.hpp"
 #include "classes/ClassTree.hpp"
 #include "dispatch/objectFit.hpp"
 #include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
 #include "types/TypeRepository.hpp"
 
 #include "orbis/COSDataType.hpp"
@@ -41,13 +41,12 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
 
 [[noreturn]] void refuse(TypeReference const* type, std::string_view member)
 {
-    throwHostError("VELMARA:result", "type",
-                   {std::string(member), type ? std::string(type->name->view()) : std::string("void")});
+    throwHostError("VELMARA:result", "type", {std::string(member), type ? type->name->string() : std::string("void")});
 }
 
 orbis::COSDataType* registered(TypeReference const* type)
 {
-    HvmState* const machine = HvmState::current();
+    Machine* const machine = Machine::current();
     return machine && type && type->kind == TypeKind::Named ? machine->types().findRegistered(type->name) : nullptr;
 }
 
@@ -72,7 +71,7 @@ ArrayPtr ResultValue::takeOther(std::string_view member)
 ArrayPtr ResultValue::takeArray(std::string_view member)
 {
     if (registered(type_)) {
-        auto* const conversion = HvmState::required().types().findConversion(anyTypeName(), type_->name);
+        auto* const conversion = Machine::required().types().findConversion(anyTypeName(), type_->name);
         if (conversion) {
             hvArray_tag* converted = nullptr;
             conversion->convertToHost(&converted, value_.array());

@@ -1,8 +1,8 @@
 #include "dispatch/dispatchErrors.hpp"
 
-#include "api/HvmState.hpp"
 #include "arrays/Array.hpp"
 #include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
 
 #include <algorithm>
 #include <string>
@@ -80,14 +80,14 @@ std::vector<Method const*> nearest(std::span<Method const* const> candidates, Ca
 
 std::string nameOf(Method const& method)
 {
-    return std::string(method.name->view());
+    return method.name->string();
 }
 
 } // namespace
 
 void refuseNoMatch(std::span<Method const* const> candidates, CallInputs const& call)
 {
-    checkInputs(HvmState::required(), call.inputs);
+    checkInputs(Machine::required(), call.inputs);
     std::vector<Method const*> const shown = nearest(candidates, call);
     std::string explained;
     for (Method const* const method : shown)

@@ -1,8 +1,8 @@
 #include "dispatch/enumerationFit.hpp"
 
-#include "api/HvmState.hpp"
 #include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
+#include "machine/Machine.hpp"
 #include "text/Utf.hpp"
 #include "types/numberConversion.hpp"
 #include "types/scalarClasses.hpp"
@@ -63,7 +63,7 @@ Enumerator const* findByCell(Class const& enumeration, Array const* cell)
 
 Class const* findEnumeration(TypeReference const& type)
 {
-    Class* const cls = HvmState::required().packages().findClass(type.element ? type.element : type.name);
+    Class* const cls = Machine::required().packages().findClass(type.element ? type.element : type.name);
     if (!cls || !cls->isEnumeration())
         return nullptr;
     cls->makeReady();

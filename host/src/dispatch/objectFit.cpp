@@ -1,9 +1,9 @@
 #include "dispatch/objectFit.hpp"
 
-#include "api/HvmState.hpp"
 #include "arrays/emptyInput.hpp"
 #include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
+#include "machine/Machine.hpp"
 #include "objects/Object.hpp"
 
 #include <algorithm>
@@ -12,15 +12,16 @@ namespace velmara {
 
 namespace {
 
-Fit hierarchyFit(Class const* cls, Name ancestor)
+Fit hierarchyFit(ObjectClass* objectClass, Name ancestor)
 {
+    Class const* const cls = Class::of(objectClass);
     int const distance = cls && cls->isReady() ? cls->distanceTo(ancestor) : -1;
     return distance < 0 ? noFit : fitOfDistance(distance);
 }
 
 bool isEnumeration(Name className)
 {
-    HvmState* const machine = HvmState::current();
+    Machine* const machine = Machine::current();
     Class const* const cls = machine ? machine->packages().findClass(className) : nullptr;
     return cls && cls->isEnumeration();
 }
@@ -36,7 +37,7 @@ Fit classFit(Name className, Name ancestor)
 {
     if (className == ancestor)
         return exactFit;
-    HvmState* const machine = HvmState::current();
+    Machine* const machine = Machine::current();
     return machine ? hierarchyFit(machine->packages().findPublishedClass(className), ancestor) : noFit;
 }
 

@@ -1,13 +1,12 @@
 #include "errors/MessageCatalog.hpp"
 
-#include "api/HvmState.hpp"
 #include "errors/hostMessages.hpp"
-
-#include "additions/additions.hpp"
 
 #include <charconv>
 
 namespace velmara {
+
+constinit thread_local MessageSource* MessageSource::current_ = nullptr;
 
 namespace {
 
@@ -42,8 +41,8 @@ char const* MessageCatalog::find(std::string_view catalog, std::string_view key)
 
 std::string messageText(char const* catalog, char const* key, std::vector<std::string> const& arguments)
 {
-    HvmState* const machine = HvmState::current();
-    char const* const text = machine ? machine->messages().find(catalog, key) : findHostText(catalog, key);
+    MessageSource* const source = MessageSource::current();
+    char const* const text = source ? source->messages().find(catalog, key) : findHostText(catalog, key);
     return text ? fillPlaces(text, arguments) : fullID(catalog, key);
 }
 
@@ -68,14 +67,3 @@ std::string fillPlaces(std::string_view text, std::vector<std::string> const& ar
 }
 
 } // namespace velmara
-
-namespace orbis::additions {
-
-void addMessages(char const* catalog, std::span<Message const> messages)
-{
-    velmara::MessageCatalog& texts = velmara::HvmState::required().messages();
-    for (Message const& message : messages)
-        texts.add(catalog, message.key, message.text);
-}
-
-} // namespace orbis::additions

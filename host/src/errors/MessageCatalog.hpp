@@ -21,6 +21,25 @@ private:
     std::map<std::string, std::string, std::less<>> texts_; ///< by "catalog:key"
 };
 
+/// Where errors find their texts: the virtual machine that is current on this thread. `Machine` is the only kind.
+class MessageSource {
+public:
+    static MessageSource* current() { return current_; }
+    MessageCatalog& messages() { return messages_; }
+
+protected:
+    MessageSource() = default;
+    ~MessageSource() = default;
+
+#if defined(__linux__)
+    [[gnu::tls_model("initial-exec")]]
+#endif
+    static constinit thread_local MessageSource* current_;
+
+private:
+    MessageCatalog messages_;
+};
+
 /// The text of an error in the current virtual machine's catalog, with its arguments filled in; the full message
 /// id when there is no text for it. Works without a virtual machine for the host's own errors.
 std::string messageText(char const* catalog, char const* key, std::vector<std::string> const& arguments);

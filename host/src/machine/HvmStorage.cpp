@@ -1,12 +1,21 @@
 #include "machine/HvmStorage.hpp"
 
 #include "errors/hostError.hpp"
-#include "machine/storageIDs.hpp"
 
 #include <algorithm>
+#include <atomic>
 #include <utility>
 
 namespace velmara {
+
+namespace {
+constinit std::atomic<std::uint64_t> idCount = 0;
+} // namespace
+
+std::uint64_t HvmStorage::nextID()
+{
+    return idCount.fetch_add(1, std::memory_order_relaxed);
+}
 
 HvmStorage::Entry* HvmStorage::findAmong(Entry* first, std::type_info const& type) const
 {
@@ -24,7 +33,7 @@ HvmStorage::Holder& HvmStorage::findOrInsert(std::uint64_t id, std::type_info co
 HvmStorage::Holder& HvmStorage::insert(std::uint64_t id, std::type_info const& type, Holder&& value)
 {
     // Everything that may fail comes first: a refused value stays the caller's, and the one before stays stored.
-    if (!isStorageID(id))
+    if (id >= idCount.load(std::memory_order_relaxed))
         throwHostError("VELMARA:hvm", "unknownStorageID", {std::to_string(id)});
     if (id >= idCount_)
         growTo(id + 1);

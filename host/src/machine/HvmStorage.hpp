@@ -14,6 +14,9 @@ class HvmStorage {
 public:
     using Holder = foundation::usm::Detail<foundation::usm::scope::Hvm>::Holder;
 
+    /// A new id, one in the process. Only such ids may be stored under.
+    static std::uint64_t nextID();
+
     HvmStorage() = default;
     HvmStorage(HvmStorage const&) = delete;
     HvmStorage& operator=(HvmStorage const&) = delete;

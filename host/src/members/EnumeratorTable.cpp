@@ -31,7 +31,7 @@ void EnumeratorTable::add(Name className, std::string_view name, std::int64_t va
     longestName_ = std::max(longestName_, name.size());
 }
 
-void EnumeratorTable::makeObjects(Class& cls)
+void EnumeratorTable::makeObjects(ObjectClass& cls)
 {
     for (std::size_t i = 0; i < enumerators_.size(); ++i)
         enumerators_[i].object.reset(

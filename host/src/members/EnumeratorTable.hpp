@@ -15,7 +15,7 @@
 
 namespace velmara {
 
-class Class;
+class ObjectClass;
 
 /// One enumerator and its one object, which stands in a 1-by-1 array of its own.
 struct Enumerator : orbis::additions::Enumerator {
@@ -42,7 +42,7 @@ public:
     void add(Name className, std::string_view name, std::int64_t value);
 
     /// Makes the objects of all enumerators, which `cls` has from now on.
-    void makeObjects(Class& cls);
+    void makeObjects(ObjectClass& cls);
 
     /// Null when there is none.
     Enumerator const* find(std::string_view name) const

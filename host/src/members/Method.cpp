@@ -1,7 +1,7 @@
 #include "members/Method.hpp"
 
-#include "classes/Class.hpp"
 #include "errors/hostError.hpp"
+#include "objects/ObjectClass.hpp"
 
 #include <algorithm>
 
@@ -24,7 +24,7 @@ bool isScalar(Parameter const& parameter)
 
 } // namespace
 
-Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, Class const* definer)
+Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, ObjectClass const* definer)
     : info(std::move(descriptor)),
       name(nameOf(*info)),
       definingClass(definer),
@@ -45,7 +45,7 @@ Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, Class const* de
         definer && name == definer->ownName() && outputs.size() == 1 && outputs.front().type.name == definer->name();
     takesObject = definer && !isStatic && !isConstructor;
     if (takesObject && inputs.empty())
-        throwHostError("VELMARA:member", "noObjectInput", {std::string(definer->name()->view()), info->getName()});
+        throwHostError("VELMARA:member", "noObjectInput", {definer->name()->string(), info->getName()});
     bool const takesScalars = isAccessible() && !isAbstract && inputCount <= mostPlainInputs &&
                               std::ranges::all_of(explicitInputs(), isScalar);
     isPlain = takesScalars && !isConstructor && (!outputType || isScalar(outputs.front()));
@@ -61,7 +61,7 @@ bool Method::hasSameInputs(Method const& other) const
 
 std::string Method::describe() const
 {
-    return std::string(name->view()).append("(").append(velmara::describe(explicitInputs())).append(")");
+    return name->string().append("(").append(velmara::describe(explicitInputs())).append(")");
 }
 
 void MethodGroup::add(Method const& method)

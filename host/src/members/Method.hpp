@@ -11,12 +11,12 @@
 
 namespace velmara {
 
-class Class;
+class ObjectClass;
 
 /// A published callable member: its descriptor with the answers that the dispatch needs, asked once.
 struct Method : Retirable {
     /// `definer` is null for a package function. Throws "VELMARA:member:name" for a descriptor without a name.
-    Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, Class const* definer);
+    Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, ObjectClass const* definer);
 
     /// The inputs that a caller writes down: all but the object.
     std::span<Parameter const> explicitInputs() const { return std::span(inputs).subspan(takesObject); }
@@ -31,7 +31,7 @@ struct Method : Retirable {
 
     std::unique_ptr<orbis::COSMethodInfo> info;
     Name name;
-    Class const* definingClass;
+    ObjectClass const* definingClass;
     std::vector<Parameter> inputs;
     std::size_t inputCount; ///< `inputs.size()`, which takes a division
     std::vector<Parameter> outputs;

@@ -1,7 +1,7 @@
 #include "members/Property.hpp"
 
-#include "classes/Class.hpp"
 #include "errors/hostError.hpp"
+#include "objects/ObjectClass.hpp"
 
 #include "orbis/COSDataType.hpp"
 
@@ -62,7 +62,7 @@ bool isPublic(orbis::MemberAccess access, orbis::ExtendedMemberAccess extended)
 
 } // namespace
 
-Property::Property(std::unique_ptr<orbis::COSPropInfo> descriptor, Class const& definer)
+Property::Property(std::unique_ptr<orbis::COSPropInfo> descriptor, ObjectClass const& definer)
     : info(std::move(descriptor)),
       name(nameOf(*info)),
       definingClass(definer),
@@ -95,8 +95,7 @@ TypeReference const& Property::requireType() const
 {
     if (TypeReference const* const type = askType())
         return *type;
-    throwHostError("VELMARA:property", "dataType",
-                   {std::string(definingClass.name()->view()), std::string(name->view())});
+    throwHostError("VELMARA:property", "dataType", {definingClass.name()->string(), name->string()});
 }
 
 } // namespace velmara

@@ -12,12 +12,12 @@
 
 namespace velmara {
 
-class Class;
+class ObjectClass;
 
 /// A published property: its descriptor with the answers that it gave about itself.
 struct Property {
     /// Asks all questions that need no object, in the order in which they are declared.
-    Property(std::unique_ptr<orbis::COSPropInfo> descriptor, Class const& definer);
+    Property(std::unique_ptr<orbis::COSPropInfo> descriptor, ObjectClass const& definer);
 
     /// The type of its values. Asked for again when it is needed and was not there before, since a class may be
     /// described before the classes of its properties are published; throws "VELMARA:property:dataType" while there is
@@ -28,7 +28,7 @@ struct Property {
 
     std::unique_ptr<orbis::COSPropInfo> info;
     Name name;
-    Class const& definingClass;
+    ObjectClass const& definingClass;
     std::string description;
     std::string detailedDescription;
     PropertyTraits traits;

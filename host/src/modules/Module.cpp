@@ -1,10 +1,10 @@
 #include "modules/Module.hpp"
 
-#include "api/HvmState.hpp"
 #include "classes/PackageTree.hpp"
 #include "errors/MessageCatalog.hpp"
 #include "errors/errorTranslation.hpp"
 #include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
 #include "text/pathText.hpp"
 
 #include "additions/additions.hpp"
@@ -68,7 +68,7 @@ void Module::initialize()
 {
     addMessages();
     try {
-        HvmState::required().packages().changing(initialize_);
+        Machine::required().packages().changing(initialize_);
     } catch (...) {
         rethrowFailure("initialization");
     }

@@ -3,6 +3,7 @@
 #include "orbis/COSNameID.hpp"
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace orbis {
@@ -14,6 +15,7 @@ struct InternedName {
     char const* text;
 
     std::string_view view() const { return {text, length}; }
+    std::string string() const { return {text, length}; }
 };
 
 } // namespace orbis

@@ -1,10 +1,10 @@
 #include "objects/Object.hpp"
 
-#include "api/HvmState.hpp"
-#include "classes/Class.hpp"
 #include "errors/hostError.hpp"
 #include "memory/LiveCounters.hpp"
 #include "memory/SmallMemory.hpp"
+#include "objects/DeferredFinalizer.hpp"
+#include "objects/ObjectClass.hpp"
 
 #include "additions/ObjectObserver.hpp"
 
@@ -27,7 +27,7 @@ inline void Object::operator delete(void* memory) noexcept
     SmallMemory::giveBack(memory, ownThreadShare());
 }
 
-inline Object::Object(Class& cls, std::size_t enumerator)
+inline Object::Object(ObjectClass& cls, std::size_t enumerator)
     : enumerator_(static_cast<std::uint16_t>(enumerator)),
       own_{.className = cls.name()},
       class_(&cls),
@@ -42,12 +42,12 @@ inline Object::~Object()
     --liveCountsOfThisThread().objects;
 }
 
-Object& Object::make(Class& cls)
+Object& Object::make(ObjectClass& cls)
 {
     return *new Object(cls);
 }
 
-Object& Object::makeEnumerator(Class& cls, std::size_t enumerator)
+Object& Object::makeEnumerator(ObjectClass& cls, std::size_t enumerator)
 {
     return *new Object(cls, enumerator + 1);
 }
@@ -55,21 +55,21 @@ Object& Object::makeEnumerator(Class& cls, std::size_t enumerator)
 [[gnu::flatten]] void Object::initialize()
 {
     if (!isValid() || isInitialized_) [[unlikely]]
-        throwHostError("VELMARA:object", isValid() ? "initialized" : "invalid", {std::string(className()->view())});
-    HvmState::Entry const entry(*machine_);
+        throwHostError("VELMARA:object", isValid() ? "initialized" : "invalid", {className()->string()});
+    Machine::Entry const entry(*machine_);
     isInitialized_ = true;
     try {
         auto const& classes = class_->linearization();
-        std::for_each(classes.rbegin(), classes.rend(), [this](Class* cls) { createInstanceData(*cls); });
+        std::for_each(classes.rbegin(), classes.rend(), [this](ObjectClass* cls) { createInstanceData(*cls); });
     } catch (...) {
-        if (!isEnded()) // else that is done, and there is no class any more
+        if (!isFinalized()) // else that is done, and there is no class any more
             destroyInstanceData();
         isInitialized_ = false;
         throw;
     }
 }
 
-void Object::createInstanceData(Class& cls)
+void Object::createInstanceData(ObjectClass& cls)
 {
     if (&cls != class_)
         furtherSlotOf(cls.name()); // room first: what the class makes must not be lost
@@ -85,16 +85,16 @@ void Object::createInstanceData(Class& cls)
         cls.info().destroyInstanceData(this, data);
     } catch (...) {
     }
-    throwHostError("VELMARA:object", "invalid", {std::string(className()->view())});
+    throwHostError("VELMARA:object", "invalid", {className()->string()});
 }
 
 void Object::destroyInstanceData() noexcept
 {
-    for (Class* const cls : class_->linearization())
+    for (ObjectClass* const cls : class_->linearization())
         destroyInstanceData(*cls);
 }
 
-void Object::destroyInstanceData(Class& cls) noexcept
+void Object::destroyInstanceData(ObjectClass& cls) noexcept
 {
     // Destroying may retract the object, which makes it forget what is left: each slot is looked up when its
     // turn comes, and is empty from then on.
@@ -114,20 +114,20 @@ void Object::destroyInstanceData(Class& cls) noexcept
 
 void Object::freeIfUnreferenced() noexcept
 {
-    if (state_ == State::Ended && external_ + internal_ + weak_ == 0)
+    if (state_ == State::Finalized && external_ + internal_ + weak_ == 0)
         delete this;
 }
 
-[[gnu::flatten]] void Object::end() noexcept
+[[gnu::flatten]] void Object::finalize() noexcept
 {
-    if (isEnded())
+    if (isFinalized())
         return;
     bool const hasInstanceData = isValid() && isInitialized_;
-    state_ = State::Ending;
+    state_ = State::Finalizing;
     class_->objects().remove(*this);
     {
-        HvmState::Entry const entry(*machine_);
-        EndQueue::Nesting const nesting(machine_->endQueue());
+        Machine::Entry const entry(*machine_);
+        DeferredFinalizer::Scope const nesting(machine_->deferredFinalizer());
         if (hasInstanceData)
             destroyInstanceData();
         notifyObserver();
@@ -135,22 +135,22 @@ void Object::freeIfUnreferenced() noexcept
         class_ = nullptr;
         machine_ = nullptr;
     }
-    state_ = State::Ended;
+    state_ = State::Finalized;
     freeIfUnreferenced();
 }
 
 void Object::lastReferenceGone() noexcept
 {
-    if (isEnded())
+    if (isFinalized())
         freeIfUnreferenced();
-    else if (!machine_->endQueue().postpone(*this))
-        end();
+    else if (!machine_->deferredFinalizer().defer(*this))
+        finalize();
 }
 
-void Object::endIfUnreferenced() noexcept
+void Object::finalizeIfUnreferenced() noexcept
 {
     if (external_ + internal_ == 0)
-        end();
+        finalize();
 }
 
 void Object::setNativeObject(orbis::COSNameID const& name, void* object)
@@ -172,7 +172,7 @@ void Object::setNativeObject(orbis::COSNameID const& name, void* object)
 [[gnu::noinline]] void Object::refuseNativeObject(void const* object) const
 {
     if (object)
-        throwHostError("VELMARA:object", "invalid", {std::string(className()->view())});
+        throwHostError("VELMARA:object", "invalid", {className()->string()});
 }
 
 void* Object::getNativeObject(orbis::COSNameID const& name) const
@@ -187,13 +187,13 @@ void* Object::getNativeObject(orbis::COSNameID const& name) const
 
 void Object::setValid(bool valid)
 {
-    if (!isEnded())
+    if (!isFinalized())
         state_ = valid ? State::Valid : State::Invalid;
     if (valid || !machine_)
         return;
     addExternal(); // who is notified may release the last reference
     {
-        HvmState::Entry const entry(*machine_);
+        Machine::Entry const entry(*machine_);
         notifyObserver();
     }
     forgetNativeObjects();
@@ -205,7 +205,7 @@ void Object::notifyObserver() noexcept
     orbis::additions::ObjectObserver* const observer = machine_->observer();
     if (!observer)
         return;
-    forEachNativeObject([&](Name, void* native) { observer->nativeForgotten(this, native, isEnded()); });
+    forEachNativeObject([&](Name, void* native) { observer->nativeForgotten(this, native, isFinalized()); });
     observer->objectGone(this);
 }
 

@@ -12,8 +12,8 @@
 
 namespace velmara {
 
-class Class;
-class HvmState;
+class Machine;
+class ObjectClass;
 
 /// A host object. It lives while it is referred to; it ends (gives up its instance data and becomes invalid) with
 /// its last reference, when it is deleted, when its class is unpublished, and when its virtual machine ends. Its
@@ -22,10 +22,10 @@ class Object final : public orbis::COSInterface {
 public:
     /// A new object of `cls` with no reference yet, entered in the class's list. It has no instance data until
     /// `initialize`.
-    static Object& make(Class& cls);
+    static Object& make(ObjectClass& cls);
 
     /// The object of an enumerator of `cls`: it is never initialized, so it has no instance data.
-    static Object& makeEnumerator(Class& cls, std::size_t enumerator);
+    static Object& makeEnumerator(ObjectClass& cls, std::size_t enumerator);
 
     static constexpr std::size_t mostEnumerators = std::numeric_limits<std::uint16_t>::max();
 
@@ -55,8 +55,8 @@ public:
     Name className() const { return own_.className; }
 
     /// Null once the object has ended.
-    Class* classOf() const { return class_; }
-    HvmState* machine() const { return machine_; }
+    ObjectClass* classOf() const { return class_; }
+    Machine* machine() const { return machine_; }
 
     bool isValid() const { return state_ == State::Valid; }
 
@@ -67,7 +67,7 @@ public:
     std::size_t enumerator() const { return enumerator_ - std::size_t(1); }
 
     /// True when the object's life is over: weak handles to it are null.
-    bool isEnded() const { return state_ >= State::Ending; }
+    bool isFinalized() const { return state_ >= State::Finalizing; }
 
     /// Makes the instance data of the class and its superclasses, superclasses first. When one fails, what was
     /// made is destroyed again and the object stays uninitialised.
@@ -75,8 +75,8 @@ public:
 
     /// Gives up the instance data, the most derived class's first, and leaves the object invalid, without class
     /// and virtual machine. Nothing escapes; a second call does nothing.
-    void end() noexcept;
-    void endIfUnreferenced() noexcept;
+    void finalize() noexcept;
+    void finalizeIfUnreferenced() noexcept;
 
     void setNativeObject(orbis::COSNameID const& className, void* object) override;
     void* getNativeObject(orbis::COSNameID const& className) const override;
@@ -106,7 +106,7 @@ public:
 private:
     friend class ObjectList;
 
-    enum class State : std::uint8_t { Valid, Invalid, Ending, Ended };
+    enum class State : std::uint8_t { Valid, Invalid, Finalizing, Finalized };
 
     /// The native object for one class name; `made` when the class's `createInstanceData` ran for it, `recorded` when
     /// that or someone since gave one. For a superclass without one of its own, that of the object's class counts.
@@ -123,7 +123,7 @@ private:
         }
     };
 
-    explicit Object(Class& cls, std::size_t enumerator = 0);
+    explicit Object(ObjectClass& cls, std::size_t enumerator = 0);
     ~Object();
 
     static void* operator new(std::size_t size);
@@ -136,9 +136,9 @@ private:
     Slot* findFurther(Name className) const;
     void refuseNativeObject(void const* object) const;
     void recordFurther(Name className, void* object);
-    void createInstanceData(Class& cls);
+    void createInstanceData(ObjectClass& cls);
     void destroyInstanceData() noexcept;
-    void destroyInstanceData(Class& cls) noexcept;
+    void destroyInstanceData(ObjectClass& cls) noexcept;
     void forgetNativeObjects() noexcept;
     void notifyObserver() noexcept;
 
@@ -149,8 +149,8 @@ private:
     bool isInitialized_ = false;
     std::uint16_t enumerator_ = 0; ///< its number counted from 1, 0 for other objects
     Slot own_;
-    Class* class_;
-    HvmState* machine_;
+    ObjectClass* class_;
+    Machine* machine_;
     std::unique_ptr<std::vector<Slot>> further_; ///< few objects have any
     Object* previous_ = nullptr;
     Object* next_ = nullptr;

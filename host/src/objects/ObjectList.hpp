@@ -10,7 +10,6 @@ public:
     ObjectList() = default;
     ObjectList(ObjectList const&) = delete;
     ObjectList& operator=(ObjectList const&) = delete;
-    ~ObjectList() { endAll(); }
 
     void add(Object& object)
     {
@@ -29,10 +28,10 @@ public:
     }
 
     /// An object leaves the list when its end begins.
-    void endAll()
+    void finalizeAll()
     {
         while (first_)
-            first_->end();
+            first_->finalize();
     }
 
     /// Calls `visit` with each object, the oldest first; the list must not change meanwhile.

@@ -7,7 +7,7 @@ namespace velmara {
 void refuseObject(Object const& object)
 {
     throwHostError("VELMARA:object", object.isValid() ? "otherVirtualMachine" : "invalid",
-                   {std::string(object.className()->view())});
+                   {object.className()->string()});
 }
 
 } // namespace velmara

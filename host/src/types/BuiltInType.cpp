@@ -1,8 +1,8 @@
 #include "types/BuiltInType.hpp"
 
-#include "api/HvmState.hpp"
 #include "arrays/Array.hpp"
 #include "arrays/ArrayComparison.hpp"
+#include "machine/Machine.hpp"
 #include "types/TypeRepository.hpp"
 #include "types/scalarClasses.hpp"
 
@@ -139,7 +139,7 @@ public:
     }
 
 private:
-    orbis::COSDataType* inner() const { return HvmState::required().types().obtain(type_.value->name); }
+    orbis::COSDataType* inner() const { return Machine::required().types().obtain(type_.value->name); }
 
     TypeReference type_;
 };

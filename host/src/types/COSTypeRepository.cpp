@@ -1,7 +1,7 @@
 #include "orbis/COSTypeRepository.hpp"
 
-#include "api/HvmState.hpp"
 #include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
 #include "types/TypeRepository.hpp"
 
 #include "orbis/COSDataTypePtr.hpp"
@@ -10,12 +10,12 @@
 
 namespace orbis {
 
-using velmara::HvmState;
+using velmara::Machine;
 
 void COSTypeRepository::addGlobalType(COSDataType* type)
 {
     std::unique_ptr<COSDataType> owned(type);
-    HvmState& machine = HvmState::required();
+    Machine& machine = Machine::required();
     if (!owned)
         velmara::throwHostError("VELMARA:type", "null");
     machine.types().add(std::move(owned));
@@ -23,14 +23,14 @@ void COSTypeRepository::addGlobalType(COSDataType* type)
 
 void COSTypeRepository::removeGlobalType(COSNameID const& name)
 {
-    if (HvmState* const machine = HvmState::current())
+    if (Machine* const machine = Machine::current())
         machine->types().remove(name.interned());
 }
 
 void COSTypeRepository::addConversion(COSNameID const& from, COSNameID const& to, COSTypeConversion* conversion)
 {
     std::unique_ptr<COSTypeConversion> owned(conversion);
-    HvmState& machine = HvmState::required();
+    Machine& machine = Machine::required();
     if (!owned)
         velmara::throwHostError("VELMARA:type", "null");
     machine.types().addConversion(from.interned(), to.interned(), std::move(owned));
@@ -38,19 +38,19 @@ void COSTypeRepository::addConversion(COSNameID const& from, COSNameID const& to
 
 void COSTypeRepository::removeConversion(COSNameID const& from, COSNameID const& to)
 {
-    if (HvmState* const machine = HvmState::current())
+    if (Machine* const machine = Machine::current())
         machine->types().removeConversion(from.interned(), to.interned());
 }
 
 COSTypeConversion* COSTypeRepository::getConversion(COSNameID const& from, COSNameID const& to)
 {
-    HvmState* const machine = HvmState::current();
+    Machine* const machine = Machine::current();
     return machine ? machine->types().findConversion(from.interned(), to.interned()) : nullptr;
 }
 
 COSDataTypePtr::COSDataTypePtr(char const* name) : type_(nullptr)
 {
-    HvmState* const machine = HvmState::current();
+    Machine* const machine = Machine::current();
     if (machine && name)
         type_ = machine->types().obtain(velmara::intern(name));
     if (type_)

@@ -1,7 +1,5 @@
 #include "types/TypeRepository.hpp"
 
-#include "api/HvmState.hpp"
-#include "classes/PackageTree.hpp"
 #include "errors/hostError.hpp"
 #include "types/BuiltInType.hpp"
 #include "types/UnicodeStringType.hpp"
@@ -10,22 +8,7 @@
 
 namespace velmara {
 
-namespace {
-
-std::string text(Name name)
-{
-    return std::string(name->view());
-}
-
-bool isTypeOfPublishedClass(TypeReference const& type)
-{
-    HvmState* const machine = HvmState::current();
-    return machine && machine->packages().findClass(type.element ? type.element : type.name);
-}
-
-} // namespace
-
-TypeRepository::TypeRepository()
+TypeRepository::TypeRepository(ClassQuery isClass) : isClass_(isClass)
 {
     Name const unicodeString = intern("unicodeString");
     add(std::unique_ptr<orbis::COSDataType>(makeUnicodeStringType()));
@@ -51,7 +34,7 @@ orbis::COSDataType* TypeRepository::obtain(Name name)
     if (Entry const* const entry = types_.find(name))
         return entry->type.get();
     TypeReference const type(name);
-    if (type.kind == TypeKind::Named && !isTypeOfPublishedClass(type))
+    if (type.kind == TypeKind::Named && !isClass_(type.element ? type.element : type.name))
         return nullptr;
     if (type.kind == TypeKind::Optional && !obtain(type.value->name))
         return nullptr;
@@ -71,7 +54,7 @@ void TypeRepository::add(std::unique_ptr<orbis::COSDataType> type)
         throwHostError("VELMARA:type", "name");
     Name const name = intern(typeName);
     if (TypeReference(name).kind != TypeKind::Named || types_.find(name))
-        throwHostError("VELMARA:type", "duplicate", {text(name)});
+        throwHostError("VELMARA:type", "duplicate", {name->string()});
     Entry& entry = types_[name];
     type->getReference();
     entry = {Held(type.release()), true};
@@ -89,7 +72,7 @@ void TypeRepository::remove(Name name)
 void TypeRepository::addConversion(Name from, Name to, std::unique_ptr<orbis::COSTypeConversion> conversion)
 {
     if (findConversion(from, to))
-        throwHostError("VELMARA:type", "duplicateConversion", {text(from), text(to)});
+        throwHostError("VELMARA:type", "duplicateConversion", {from->string(), to->string()});
     conversions_[to][from] = std::move(conversion);
 }
 

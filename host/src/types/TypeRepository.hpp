@@ -13,7 +13,10 @@ namespace velmara {
 /// the host's other data types and those of classes, which are made when they are first asked for.
 class TypeRepository {
 public:
-    TypeRepository();
+    /// Tells whether a class of that full name is published in the current virtual machine.
+    using ClassQuery = bool (*)(Name fullName);
+
+    explicit TypeRepository(ClassQuery isClass);
     TypeRepository(TypeRepository const&) = delete;
     TypeRepository& operator=(TypeRepository const&) = delete;
     ~TypeRepository() { clear(); }
@@ -50,6 +53,8 @@ private:
     };
 
     bool isPermanent(Name name) const;
+
+    ClassQuery isClass_;
 
     NameMap<Entry> types_;
     NameMap<NameMap<std::unique_ptr<orbis::COSTypeConversion>>> conversions_; ///< by target, then by source

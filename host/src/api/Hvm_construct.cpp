@@ -31,8 +31,7 @@ namespace {
     constructor.info->invoke(nullptr, outputCount, &output, inputCount, inputs);
     if (output.array() != object.get()) {
         ArrayPtr const foreign(output.array());
-        throwHostError("VELMARA:result", "type",
-                       {std::string(constructor.name->view()), std::string(cls.name()->view())});
+        throwHostError("VELMARA:result", "type", {constructor.name->string(), cls.name()->string()});
     }
     return object;
 }
@@ -43,7 +42,7 @@ namespace {
     MethodGroup const& constructors = cls.tables().constructors;
     if (constructors.methods.empty()) {
         if (!inputs.empty())
-            throwHostError("VELMARA:class", "noConstructor", {std::string(cls.name()->view())});
+            throwHostError("VELMARA:class", "noConstructor", {cls.name()->string()});
         return makeObject(cls);
     }
     CallInputs const call{nullptr, inputs};
@@ -52,13 +51,13 @@ namespace {
     return invokeConstructor(cls, constructor, converted.count(), converted.values());
 }
 
-[[gnu::always_inline]] inline ArrayPtr constructObject(HvmState& machine, std::string_view className, Inputs inputs)
+[[gnu::always_inline]] inline ArrayPtr constructObject(Machine& machine, std::string_view className, Inputs inputs)
 {
     Class& cls = requireClass(machine, className);
     if (cls.isEnumeration()) [[unlikely]]
         cls.requireNoEnumeration();
     if (char const* const refusal = cls.constructionRefusal()) [[unlikely]]
-        throwHostError("VELMARA:class", refusal, {std::string(cls.name()->view())});
+        throwHostError("VELMARA:class", refusal, {cls.name()->string()});
     if (Method const* const constructor = cls.tables().constructors.plainConstructor) [[likely]] {
         PlainInputs plain;
         if (plain.read(*constructor, inputs)) [[likely]]

@@ -1,8 +1,6 @@
-#include "api/HvmState.hpp"
 #include "classes/Class.hpp"
 #include "errors/hostError.hpp"
-
-#include "additions/additions.hpp"
+#include "machine/Machine.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -12,12 +10,12 @@ namespace velmara {
 void Class::requireOpen(Name member) const
 {
     if (state_ != State::Describing && !isLoading_)
-        throwHostError("VELMARA:class", "closed", {std::string(name_->view()), std::string(member->view())});
+        throwHostError("VELMARA:class", "closed", {name()->string(), member->string()});
 }
 
 void Class::refuseDuplicate(Name member) const
 {
-    throwHostError("VELMARA:class", "duplicateMember", {std::string(name_->view()), std::string(member->view())});
+    throwHostError("VELMARA:class", "duplicateMember", {name()->string(), member->string()});
 }
 
 void Class::requireNoEnumerator(Name member) const
@@ -54,6 +52,24 @@ void Class::addProperty(orbis::COSPropInfo* property)
     contents_->properties.push_back(std::move(added));
 }
 
+void Class::requireNoEnumeration() const
+{
+    if (isEnumeration_)
+        throwHostError("VELMARA:enumeration", "noObjects", {name()->string(), contents_->enumerators.names()});
+}
+
+void Class::addEnumerator(std::string_view name, std::int64_t value)
+{
+    if (!isEnumeration_)
+        throwHostError("VELMARA:enumeration", "notEnumeration", {this->name()->string()});
+    if (state_ != State::Describing)
+        throwHostError("VELMARA:class", "closed", {this->name()->string(), std::string(name)});
+    auto const isCalledSo = [name](auto const& member) { return member->name->view() == name; };
+    if (std::ranges::any_of(contents_->methods, isCalledSo) || std::ranges::any_of(contents_->properties, isCalledSo))
+        refuseDuplicate(intern(name));
+    contents_->enumerators.add(this->name(), name, value);
+}
+
 void Class::buildTables(NewTables& tables)
 {
     if (!isReady())
@@ -69,7 +85,7 @@ void Class::rebuildTables()
     buildTables(rebuilt);
     // A call that is under way may still look at the old tables.
     for (auto& [cls, tables] : rebuilt)
-        machine_.retire(std::exchange(cls->contents_->tables, std::move(tables)));
+        machine().retire(std::exchange(cls->contents_->tables, std::move(tables)));
 }
 
 template <class Find, class Attempt>
@@ -77,7 +93,7 @@ auto Class::load(Find find, Attempt attempt)
 {
     auto found = find();
     for (std::size_t i = 0; !found && i < linearization().size(); ++i) {
-        Class& cls = *linearization()[i];
+        Class& cls = *Class::of(linearization()[i]);
         if (cls.isLoading_)
             continue;
         cls.isLoading_ = true;
@@ -134,14 +150,3 @@ Property const* Class::loadProperty(std::string_view name)
 }
 
 } // namespace velmara
-
-namespace orbis::additions {
-
-void setSuperclasses(COSClass* cls, std::span<COSNameID const> superclasses)
-{
-    if (!cls)
-        velmara::throwHostError("VELMARA:class", "null");
-    static_cast<velmara::Class*>(cls)->setSuperclasses(superclasses);
-}
-
-} // namespace orbis::additions

@@ -1,4 +1,4 @@
-#include "objects/EndQueue.hpp"
+#include "objects/DeferredFinalizer.hpp"
 
 #include "objects/Object.hpp"
 
@@ -6,12 +6,12 @@
 
 namespace velmara {
 
-EndQueue::EndQueue()
+DeferredFinalizer::DeferredFinalizer()
 {
     waiting_.reserve(256);
 }
 
-void EndQueue::enqueue(Object& object) noexcept
+void DeferredFinalizer::enqueue(Object& object) noexcept
 {
     try {
         waiting_.push_back(&object);
@@ -21,12 +21,12 @@ void EndQueue::enqueue(Object& object) noexcept
     }
 }
 
-void EndQueue::endWaiting() noexcept
+void DeferredFinalizer::finalizeWaiting() noexcept
 {
     while (!waiting_.empty()) {
         Object& object = *waiting_.back();
         waiting_.pop_back();
-        object.endIfUnreferenced();
+        object.finalizeIfUnreferenced();
         object.removeWeak();
     }
 }

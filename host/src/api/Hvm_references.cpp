@@ -46,7 +46,7 @@ private:
     std::vector<orbis::COSInterfacePtr> objects_;
 };
 
-std::vector<Reference> findReferences(HvmState& machine, hvArray_tag* array)
+std::vector<Reference> findReferences(Machine& machine, hvArray_tag* array)
 {
     Object* const object = requireObject(machine, array);
     std::vector<Reference> found;
@@ -54,12 +54,12 @@ std::vector<Reference> findReferences(HvmState& machine, hvArray_tag* array)
         return found;
     // Asking runs native code, which may end the object or add members; old tables stay until it is over.
     orbis::COSInterfacePtr const held(object);
-    object->classOf()->tables().propertiesByName.forEach([&](Name name, Property const* property) {
+    Class::of(object->classOf())->tables().propertiesByName.forEach([&](Name name, Property const* property) {
         if (!property->canBeRead || property->traits.isStatic || !property->traits.canContainInterfaces)
             return;
         ReferredObjects const referredObjects(*property, *object);
         for (orbis::COSInterfacePtr const& referred : referredObjects.objects())
-            found.push_back({std::string(name->view()), ArrayPtr(orbis::omCreateORBISScalar(referred))});
+            found.push_back({name->string(), ArrayPtr(orbis::omCreateORBISScalar(referred))});
     });
     std::ranges::stable_sort(found, {}, &Reference::property);
     return found;

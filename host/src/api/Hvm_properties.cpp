@@ -4,17 +4,38 @@
 #include "api/calls.hpp"
 #include "classes/Class.hpp"
 #include "dispatch/ResultValue.hpp"
-#include "dispatch/propertyRefusal.hpp"
+#include "errors/hostError.hpp"
 
 namespace velmara {
 
 namespace {
 
+[[noreturn]] void throwPropertyError(char const* key, Property const& property)
+{
+    throwHostError("VELMARA:property", key, {property.name->string(), property.definingClass.name()->string()});
+}
+
+[[noreturn]] void throwUnreadable(Property const& property)
+{
+    if (property.traits.isAbstract)
+        throwPropertyError("abstract", property);
+    bool const isWriteOnly = property.canBeWritten && property.traits.getAccess == orbis::MemberAccess::NoAccess;
+    throwPropertyError(isWriteOnly ? "writeOnly" : "getAccess", property);
+}
+
+[[noreturn]] void throwUnwritable(Property const& property)
+{
+    if (property.traits.isAbstract)
+        throwPropertyError("abstract", property);
+    bool const isReadOnly = property.canBeRead && property.traits.setAccess == orbis::MemberAccess::NoAccess;
+    throwPropertyError(isReadOnly ? "readOnly" : "setAccess", property);
+}
+
 [[gnu::always_inline]] inline Property const& requireProperty(Class& cls, std::string_view name)
 {
     Property const* const property = cls.findProperty(name);
     if (!property) [[unlikely]]
-        refuseUnknown(cls, name);
+        throwHostError("VELMARA:property", "unknown", {cls.name()->string(), std::string(name)});
     return *property;
 }
 
@@ -24,7 +45,7 @@ namespace {
     if (property.traits.isStatic)
         return nullptr;
     if (!object) [[unlikely]]
-        refuseMissingObject(property);
+        throwPropertyError("noObject", property);
     return object;
 }
 
@@ -59,7 +80,7 @@ private:
 ArrayPtr read(Property const& property, Object* object)
 {
     if (!property.canBeRead) [[unlikely]]
-        refuseReading(property);
+        throwUnreadable(property);
     Object* const owner = requireOwner(property, object);
     ResultValue result(&property.type()); // outlives the read value: the array goes after the property was told
     ReadValue const value(property, owner);
@@ -67,19 +88,19 @@ ArrayPtr read(Property const& property, Object* object)
     return result.take(property.name);
 }
 
-[[gnu::noinline]] void writeAny(HvmState& machine, Property const& property, Object* owner, hvArray_tag* value)
+[[gnu::noinline]] void writeAny(Machine& machine, Property const& property, Object* owner, hvArray_tag* value)
 {
     checkInputs(machine, {&value, 1});
     ConvertedInputs converted(1);
     if (converted.add(property.type(), value) == noFit)
-        refuseValue(property, value);
+        throwHostError("VELMARA:property", "value", {property.name->string(), explainRefusal(property.type(), value)});
     property.info->setValue(owner, *converted.values());
 }
 
-void write(HvmState& machine, Property const& property, Object* object, hvArray_tag* value)
+void write(Machine& machine, Property const& property, Object* object, hvArray_tag* value)
 {
     if (!property.canBeWritten) [[unlikely]]
-        refuseWriting(property);
+        throwUnwritable(property);
     Object* const owner = requireOwner(property, object);
     TypeReference const& type = property.type();
     orbis::COSValue scalar;
