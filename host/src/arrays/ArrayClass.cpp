@@ -2,29 +2,25 @@
 
 #include "arrays/StringElement.hpp"
 
+#include "additions/numericClasses.hpp"
+
+#include <array>
+
 namespace velmara {
 
 namespace {
 
-// In the order of hvClassID.
-constexpr ArrayClass classes[] = {
-    {"unknown", 0},
-    {"cell", sizeof(void*)},
-    {"logical", 1},
-    {"char", 2},
-    {"double", 8},
-    {"single", 4},
-    {"int8", 1},
-    {"uint8", 1},
-    {"int16", 2},
-    {"uint16", 2},
-    {"int32", 4},
-    {"uint32", 4},
-    {"int64", 8},
-    {"uint64", 8},
-    {"string", sizeof(StringElement)},
-    {"object", sizeof(void*)},
-};
+constexpr auto classes = [] {
+    std::array<ArrayClass, hvOBJECT_CLASS + 1> table{};
+    table[hvUNKNOWN_CLASS] = {"unknown", 0};
+    table[hvCELL_CLASS] = {"cell", sizeof(void*)};
+    table[hvCHAR_CLASS] = {"char", sizeof(char16_t)};
+    table[hvSTRING_CLASS] = {"string", sizeof(StringElement)};
+    table[hvOBJECT_CLASS] = {"object", sizeof(void*)};
+    for (orbis::additions::NumericClass const& numeric : orbis::additions::numericClasses)
+        table[numeric.classID] = {numeric.name, numeric.size};
+    return table;
+}();
 
 } // namespace
 

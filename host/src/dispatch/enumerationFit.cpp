@@ -4,30 +4,27 @@
 #include "classes/PackageTree.hpp"
 #include "machine/Machine.hpp"
 #include "text/Utf.hpp"
-#include "types/numberConversion.hpp"
-#include "types/scalarClasses.hpp"
+
+#include "additions/convertNumber.hpp"
+#include "additions/numericClasses.hpp"
 
 #include <memory_resource>
 #include <optional>
-#include <type_traits>
 #include <vector>
 
 namespace velmara {
+
+using orbis::additions::convertNumber;
+using orbis::additions::isNumeric;
+using orbis::additions::visitNumericClass;
 
 namespace {
 
 /// The number at the index of a numeric array, when it is whole and in the range.
 std::optional<std::int64_t> wholeNumberAt(Array const& input, std::size_t index)
 {
-    return withScalarType(input.classID(), [&]<class T>(T) -> std::optional<std::int64_t> {
-        if constexpr (std::is_same_v<T, bool>)
-            return std::nullopt;
-        else {
-            using Wide = std::conditional_t<std::is_floating_point_v<T>, double, T>;
-            std::int64_t whole = 0;
-            bool const fits = convertNumber(Wide(static_cast<T const*>(input.elements())[index]), whole);
-            return fits ? std::optional(whole) : std::nullopt;
-        }
+    return visitNumericClass(input.classID(), [&]<class T>(T) {
+        return convertNumber<std::int64_t>(static_cast<T const*>(input.elements())[index]);
     });
 }
 

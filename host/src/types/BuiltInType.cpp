@@ -4,8 +4,8 @@
 #include "arrays/ArrayComparison.hpp"
 #include "machine/Machine.hpp"
 #include "types/TypeRepository.hpp"
-#include "types/scalarClasses.hpp"
 
+#include "additions/numericClasses.hpp"
 #include "libhv/libhv.hpp"
 
 namespace velmara {
@@ -30,7 +30,7 @@ public:
 
     char const* cppTypeName() const override
     {
-        return withScalarType(type_.scalarClass, []<class T>(T) { return nativeTypeName<T>; });
+        return orbis::additions::findNumericClass(type_.scalarClass)->nativeType;
     }
 
     bool checkValue(orbis::COSValue value, bool) const override { return value.scalarClass() == type_.scalarClass; }
@@ -40,7 +40,7 @@ public:
     {
         if (!checkValue(a, true) || !checkValue(b, true))
             return a.isEmpty() && b.isEmpty() ? 0 : unordered;
-        return withScalarType(type_.scalarClass, [&]<class T>(T) -> std::uint32_t {
+        return orbis::additions::visitNumericClass(type_.scalarClass, [&]<class T>(T) -> std::uint32_t {
             T const x = a.scalar<T>();
             T const y = b.scalar<T>();
             return x == y ? 0 : x < y ? before : x > y ? after : unordered;
@@ -49,7 +49,7 @@ public:
 
     std::size_t valueByteSize(orbis::COSValue) const override
     {
-        return withScalarType(type_.scalarClass, []<class T>(T) { return sizeof(T); });
+        return orbis::additions::findNumericClass(type_.scalarClass)->size;
     }
 
     orbis::COSValue copyValue(orbis::COSValue value) const override { return value; }

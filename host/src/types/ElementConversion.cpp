@@ -1,12 +1,15 @@
 #include "types/ElementConversion.hpp"
 
 #include "types/ScalarConversion.hpp"
-#include "types/numberConversion.hpp"
-#include "types/scalarClasses.hpp"
+
+#include "additions/convertNumber.hpp"
+#include "additions/numericClasses.hpp"
 
 #include <cstring>
 
 namespace velmara {
+
+using namespace orbis::additions;
 
 namespace {
 
@@ -14,13 +17,10 @@ template <class Source, class T>
 bool convertAll(Source const* from, std::size_t count, T* to)
 {
     for (std::size_t i = 0; i < count; ++i) {
-        bool fits = false;
-        if constexpr (std::is_floating_point_v<Source>)
-            fits = convertNumber(static_cast<double>(from[i]), to[i]);
-        else if constexpr (!std::is_same_v<Source, bool>)
-            fits = convertNumber(from[i], to[i]);
-        if (!fits)
+        std::optional<T> const converted = convertNumber<T>(from[i]);
+        if (!converted)
             return false;
+        to[i] = *converted;
     }
     return true;
 }
@@ -54,9 +54,9 @@ ArrayPtr convertElements(hvClassID target, Array const& input)
     if (!isNumeric(input.classID()))
         return nullptr;
     ArrayPtr converted(Array::create(target, input.rows(), input.columns()));
-    bool const allFit = withScalarType(target, [&]<class T>(T) {
+    bool const allFit = visitNumericClass(target, [&]<class T>(T) {
         auto* const to = static_cast<T*>(Array::of(converted.get())->writableElements());
-        return withScalarType(input.classID(), [&]<class Source>(Source) {
+        return visitNumericClass(input.classID(), [&]<class Source>(Source) {
             return convertAll(static_cast<Source const*>(input.elements()), input.size(), to);
         });
     });

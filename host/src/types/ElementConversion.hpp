@@ -9,7 +9,7 @@
 namespace velmara {
 
 /// A new array of the class `target`, a numeric or logical one, with the sizes of `input` and its elements, each
-/// converted by the rules that `ScalarConverter` states; null when one of them does not fit. An array without elements
+/// converted by the rules of `convertNumber`; null when one of them does not fit. An array without elements
 /// fits when its class could.
 ArrayPtr convertElements(hvClassID target, Array const& input);
 

@@ -1,16 +1,17 @@
 #include "types/ScalarConversion.hpp"
 
-#include "types/numberConversion.hpp"
-#include "types/scalarClasses.hpp"
+#include "additions/convertNumber.hpp"
+#include "additions/numericClasses.hpp"
 
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <concepts>
 #include <limits>
-#include <utility>
 
 namespace velmara {
+
+using namespace orbis::additions;
 
 namespace {
 
@@ -29,16 +30,10 @@ Fit convert(Array const& input, orbis::COSValue& out)
         out = orbis::COSValue(number);
         return exactFit;
     } else {
-        T converted;
-        bool const fits = [&] {
-            if constexpr (std::floating_point<Source>)
-                return convertNumber(static_cast<double>(number), converted);
-            else
-                return convertNumber(number, converted);
-        }();
-        if (!fits)
+        std::optional<T> const converted = convertNumber<T>(number);
+        if (!converted)
             return noFit;
-        out = orbis::COSValue(converted);
+        out = orbis::COSValue(*converted);
         return convertedFit;
     }
 }
@@ -55,9 +50,8 @@ constexpr ConverterRow makeRow()
         if constexpr (!std::same_as<Source, bool> || std::same_as<T, bool>) // a logical is no number
             row[orbis::COSValue::classOf<Source>()] = convert<Source, T>;
     };
-    for (auto classID = std::uint32_t(hvDOUBLE_CLASS); classID <= hvUINT64_CLASS; ++classID)
-        withScalarType(hvClassID(classID), add);
-    add(bool());
+    for (NumericClass const& source : numericClasses)
+        visitNumericClass(source.classID, add);
     return row;
 }
 
@@ -66,7 +60,7 @@ constexpr ConverterRow rowTo = makeRow<T>();
 
 std::string rangeText(hvClassID target)
 {
-    return withScalarType(target, []<class T>(T) {
+    return visitNumericClass(target, []<class T>(T) {
         return std::to_string(std::numeric_limits<T>::lowest()) + " to " +
                std::to_string(std::numeric_limits<T>::max());
     });
@@ -76,12 +70,12 @@ std::string rangeText(hvClassID target)
 
 ScalarConverter const* scalarConverters(hvClassID target)
 {
-    return withScalarType(target, []<class T>(T) { return rowTo<T>.data(); });
+    return visitNumericClass(target, []<class T>(T) { return rowTo<T>.data(); });
 }
 
 std::string numberText(Array const& input, std::size_t index)
 {
-    return withScalarType(input.classID(), [&]<class T>(T) {
+    return visitNumericClass(input.classID(), [&]<class T>(T) {
         char text[32];
         T const number = static_cast<T const*>(input.elements())[index];
         if constexpr (std::same_as<T, bool>)
@@ -105,12 +99,12 @@ std::string explainScalarRefusal(hvClassID target, Array const& input)
     if (isLogicalTarget)
         return "needs true, false, 0 or 1, not " + numberText(input);
     double converted = 0;
-    bool const isReal = withScalarType(input.classID(), [&]<class T>(T) {
+    bool const isReal = visitNumericClass(input.classID(), [&]<class T>(T) {
         converted = static_cast<double>(*static_cast<T const*>(input.elements()));
         return std::floating_point<T>;
     });
     bool const isIntegerTarget = target >= hvINT8_CLASS && target <= hvUINT64_CLASS;
-    if (isIntegerTarget && isReal && std::isfinite(converted) && !isWhole(converted))
+    if (isIntegerTarget && isReal && std::isfinite(converted) && std::trunc(converted) != converted)
         return numberText(input) + " is no whole number";
     if (isIntegerTarget)
         return numberText(input) + " is not in the range " + rangeText(target);

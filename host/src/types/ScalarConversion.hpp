@@ -10,13 +10,8 @@
 
 namespace velmara {
 
-/// Reads a 1-by-1 array of one class as a native scalar of another. Values are never cut:
-/// - integers take numbers of any class that are whole and in range;
-/// - double takes every number that it can represent exactly;
-/// - single rounds every number to the nearest that it has, but those that would become infinite; infinities and NaN
-///   pass;
-/// - logical takes logicals, and the numbers 0 and 1. A logical is no number.
-/// `out` is written only when the array fits.
+/// Reads a 1-by-1 array of one class as a native scalar of another, by the rules of `convertNumber`. A logical is no
+/// number: only logicals take it. `out` is written only when the array fits.
 using ScalarConverter = Fit (*)(Array const& input, orbis::COSValue& out);
 
 /// The converters to the class `target`, a numeric or logical one, by the class of the input.
