@@ -11,7 +11,6 @@
 #include "lua/ScriptError.hpp"
 #include "prompt/Prompt.hpp"
 #include "scripts/ErrorReport.hpp"
-#include "scripts/RestrictedLibraries.hpp"
 #include "scripts/ScriptLibraries.hpp"
 #include "scripts/ScriptRunner.hpp"
 
@@ -86,7 +85,7 @@ int runConsole(Session& session, CommandLine const& line, std::filesystem::path 
     lua_pushcfunction(L, guarded<start>);
     lua_pushlightuserdata(L, &run);
     if (int const status = lua_pcall(L, 1, 0, 0); status != LUA_OK) {
-        std::fprintf(stderr, "%s\n", describeError(L, -1, status).c_str());
+        printReport(describeError(L, -1, status));
         return exitScriptError;
     }
     return run.exitCode;

@@ -5,21 +5,34 @@
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 
+#include "additions/numericClasses.hpp"
+
+#include <array>
+
 namespace velmara::console {
 
 namespace {
 
+using orbis::additions::isNumeric;
+using orbis::additions::numericClasses;
+
 struct Known {
-    char const* name;
-    hvClassID classID;
+    char const* name = nullptr;
+    hvClassID classID = hvUNKNOWN_CLASS;
 };
 
-constexpr Known knownClasses[] = {
-    {"double", hvDOUBLE_CLASS}, {"single", hvSINGLE_CLASS}, {"int8", hvINT8_CLASS},       {"uint8", hvUINT8_CLASS},
-    {"int16", hvINT16_CLASS},   {"uint16", hvUINT16_CLASS}, {"int32", hvINT32_CLASS},     {"uint32", hvUINT32_CLASS},
-    {"int64", hvINT64_CLASS},   {"uint64", hvUINT64_CLASS}, {"logical", hvLOGICAL_CLASS}, {"char", hvCHAR_CLASS},
-    {"string", hvSTRING_CLASS}, {"cell", hvCELL_CLASS},
-};
+/// The numeric classes, then the others.
+constexpr auto knownClasses = [] {
+    std::array<Known, std::size(numericClasses) + 3> known;
+    auto next = known.begin();
+    for (auto const& numeric : numericClasses)
+        if (isNumeric(numeric.classID))
+            *next++ = {numeric.name, numeric.classID};
+    for (Known const& other : {Known{"logical", hvLOGICAL_CLASS}, Known{"char", hvCHAR_CLASS},
+                               Known{"string", hvSTRING_CLASS}, Known{"cell", hvCELL_CLASS}})
+        *next++ = other;
+    return known;
+}();
 
 [[noreturn]] void failUnknown(std::string const& given)
 {

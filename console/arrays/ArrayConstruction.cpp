@@ -1,20 +1,20 @@
 #include "arrays/ArrayConstruction.hpp"
 
 #include "arrays/ArrayClass.hpp"
-#include "arrays/ArrayCopy.hpp"
 #include "arrays/ElementSource.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
-#include "handles/NumericClass.hpp"
 #include "handles/Sentinel.hpp"
 #include "lua/ScriptError.hpp"
 #include "values/ArrayElement.hpp"
+#include "values/HostText.hpp"
 
 #include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
 #include "orbis/objectArrays.hpp"
 
 #include <algorithm>
+#include <cstring>
 
 namespace velmara::console {
 
@@ -90,12 +90,41 @@ void fill(lua_State* L, ElementSource const& source, hvArray_tag* array, Convers
     lua_pop(L, 1);
 }
 
-void store(lua_State* L, ElementSource const& source, hvArray_tag* array, Conversion& conversion)
+void storeEach(lua_State* L, ElementSource const& source, hvArray_tag* array, Conversion& conversion)
 {
     for (std::size_t i = 0; i < source.count(); ++i) {
         source.push(i);
         storeElement(L, lua_gettop(L), array, i, conversion);
         lua_pop(L, 1);
+    }
+}
+
+void copyCell(hvArray_tag const* source, hvArray_tag* target, std::size_t index)
+{
+    hvArray_tag const* const cell = orbis::additions::getCell(source, index);
+    ArrayPtr copy(cell ? hvCreateSharedDataCopy(cell) : nullptr);
+    hvSetCell(target, index, copy.get());
+    static_cast<void>(copy.release());
+}
+
+/// Copies all elements of an array, in column order, to a new one of the same class and number of elements; the shapes
+/// may differ. Exact: keeps ill-formed text and the class of a cell's array.
+void copyElements(hvArray_tag const* source, hvArray_tag* target)
+{
+    hvClassID const classID = source->_get_class_id_non_trivial();
+    std::size_t const count = source->get_number_of_elements();
+    if (void const* const data = orbis::additions::getData(source)) {
+        if (count != 0)
+            std::memcpy(orbis::additions::getWritableData(target), data, count * memoryOfElement(classID));
+        return;
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+        if (classID == hvCELL_CLASS)
+            copyCell(source, target, i);
+        else if (classID == hvSTRING_CLASS)
+            storeString(target, i, stringAt(*source, i));
+        else
+            orbis::omSetArrayElement(target, i, orbis::omGetArrayElement(source, i));
     }
 }
 
@@ -118,7 +147,7 @@ int createArray(lua_State* L)
     } else if (source.isSingle())
         fill(L, source, array, conversion);
     else
-        store(L, source, array, conversion);
+        storeEach(L, source, array, conversion);
     pushHostArray(L, *array);
     return 1;
 }

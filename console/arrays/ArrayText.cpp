@@ -1,13 +1,12 @@
 #include "arrays/ArrayText.hpp"
 
 #include "handles/HostContext.hpp"
-#include "handles/NumericClass.hpp"
 #include "text/DisplayWidth.hpp"
+#include "values/HostText.hpp"
 
 #include "additions/additions.hpp"
-#include "libkwi18n/libkwi18n.hpp"
+#include "additions/numericClasses.hpp"
 #include "orbis/objectArrays.hpp"
-#include "string_matrix/string_matrix.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -17,6 +16,9 @@
 namespace velmara::console {
 
 namespace {
+
+using orbis::additions::findNumericClass;
+using orbis::additions::visitNumericClass;
 
 constexpr std::size_t maxRows = 10;
 constexpr std::size_t maxColumns = 20;
@@ -45,36 +47,21 @@ std::string numberText(T number, int digits)
         return std::to_string(number);
 }
 
+/// The number at `index`; empty for arrays of other classes.
 std::string numberText(hvArray_tag const& array, std::size_t index, int digits)
 {
-    std::string text;
-    visitNumericClass(array._get_class_id_non_trivial(), [&]<class T>(T*) {
-        text = numberText(static_cast<T const*>(orbis::additions::getData(&array))[index], digits);
+    hvClassID const classID = array._get_class_id_non_trivial();
+    if (!findNumericClass(classID))
+        return {};
+    return visitNumericClass(classID, [&]<class T>(T) {
+        return numberText(static_cast<T const*>(orbis::additions::getData(&array))[index], digits);
     });
-    return text;
 }
 
 std::string quotedText(std::u16string_view text)
 {
     bool const isLong = text.size() > maxCharacters;
-    return '"' + fl::i18n::to_string(std::u16string(text.substr(0, maxCharacters))) + (isLong ? "...\"" : "\"");
-}
-
-std::string stringText(hvArray_tag const& array, std::size_t index)
-{
-    auto const& strings = Tarnwick::String::getString(&array);
-    if (strings.isMissing(index))
-        return "missing";
-    return quotedText({strings.getText(index), strings.getLength(index)});
-}
-
-std::u16string rowOf(hvArray_tag const& characters, std::size_t row)
-{
-    std::size_t const* const sizes = characters.get_dimensions();
-    std::u16string text(sizes[1], u'\0');
-    for (std::size_t column = 0; column < text.size(); ++column)
-        text[column] = static_cast<char16_t const*>(orbis::additions::getData(&characters))[column * sizes[0] + row];
-    return text;
+    return '"' + toUtf8(text.substr(0, maxCharacters)) + (isLong ? "...\"" : "\"");
 }
 
 std::string elementText(hvArray_tag const& array, std::size_t index);
@@ -86,7 +73,7 @@ std::string cellText(hvArray_tag const* cell)
     hvClassID const classID = cell->_get_class_id_non_trivial();
     if (classID == hvCHAR_CLASS && cell->get_dimensions()[0] == 1)
         return quotedText(rowOf(*cell, 0));
-    bool const isNumber = elementSize(classID) != 0 && cell->get_number_of_elements() == 1;
+    bool const isNumber = findNumericClass(classID) && cell->get_number_of_elements() == 1;
     return isNumber ? elementText(*cell, 0) : sizeAndClass(*cell);
 }
 
@@ -103,7 +90,9 @@ std::string elementText(hvArray_tag const& array, std::size_t index)
 {
     switch (array._get_class_id_non_trivial()) {
     case hvSTRING_CLASS:
-        return stringText(array, index);
+        if (auto const text = stringAt(array, index))
+            return quotedText(*text);
+        return "missing";
     case hvCELL_CLASS:
         return cellText(orbis::additions::getCell(&array, index));
     case hvOBJECT_CLASS:
@@ -117,7 +106,7 @@ std::string elementText(hvArray_tag const& array, std::size_t index)
 class Column {
 public:
     Column(hvArray_tag const& array, std::size_t column, std::size_t shownRows)
-        : isNumeric_(elementSize(array._get_class_id_non_trivial()) != 0)
+        : isNumeric_(findNumericClass(array._get_class_id_non_trivial()) != nullptr)
     {
         for (std::size_t row = 0; row < shownRows; ++row) {
             texts_.push_back(elementText(array, column * array.get_dimensions()[0] + row));
@@ -176,13 +165,13 @@ std::string plainText(hvArray_tag const& array)
 {
     hvClassID const classID = array._get_class_id_non_trivial();
     if (classID == hvCHAR_CLASS && array.get_dimensions()[0] == 1)
-        return fl::i18n::to_string(rowOf(array, 0));
+        return toUtf8(rowOf(array, 0));
     if (array.get_number_of_elements() != 1)
         return {};
     if (classID != hvSTRING_CLASS)
         return numberText(array, 0, 14);
-    auto const& strings = Tarnwick::String::getString(&array);
-    return strings.isMissing(0) ? "missing" : fl::i18n::to_string({strings.getText(0), strings.getLength(0)});
+    auto const text = stringAt(array, 0);
+    return text ? toUtf8(*text) : "missing";
 }
 
 } // namespace

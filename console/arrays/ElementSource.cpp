@@ -3,12 +3,13 @@
 #include "handles/HostArray.hpp"
 #include "handles/Proxy.hpp"
 #include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
 #include "values/ArrayElement.hpp"
+#include "values/HostText.hpp"
 #include "values/TableElements.hpp"
 
 #include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
-#include "libkwi18n/libkwi18n.hpp"
 #include "string_matrix/string_matrix.hpp"
 
 #include <algorithm>
@@ -22,14 +23,14 @@ namespace {
 std::optional<std::u16string> readCharacters(lua_State* L, int index)
 {
     if (lua_type(L, index) == LUA_TSTRING)
-        return fl::i18n::to_ustring(std::string(textAt(L, index)));
+        return hostTextAt(L, index);
     hvArray_tag const* const array = testHostArray(L, index);
-    if (!array || !Tarnwick::String::isString(array) || array->get_number_of_elements() != 1)
+    if (!Tarnwick::String::isString(array) || array->get_number_of_elements() != 1)
         return std::nullopt;
-    auto const& strings = Tarnwick::String::getString(array);
-    if (strings.isMissing(0))
+    auto const text = stringAt(*array, 0);
+    if (!text)
         fail("element", "a missing string has no characters");
-    return std::u16string(strings.getText(0), strings.getLength(0));
+    return std::u16string(*text);
 }
 
 /// True when the characters are one value: for elements that are whole texts.
@@ -82,15 +83,13 @@ void ElementSource::readTable(hvClassID classID, ArrayStack::Frame& frame)
 void ElementSource::readRows(std::size_t count)
 {
     kind_ = Kind::Rows;
-    for (std::size_t row = 0; row < count; ++row) {
-        lua_rawgeti(L_, index_, static_cast<lua_Integer>(row + 1));
+    visitSequence(L_, index_, count, [&](std::size_t row) {
         std::size_t const columns = elementsOf(L_, lua_gettop(L_)).count;
-        lua_pop(L_, 1);
         if (row != 0 && columns != shape_.columns)
             fail("table", "all rows have one length: that of row " + std::to_string(row + 1) + " is " +
                               std::to_string(columns) + ", that of those before it " + std::to_string(shape_.columns));
         shape_ = {count, columns};
-    }
+    });
 }
 
 /// Reads texts of one length as the rows of a character matrix; false when not all are texts.

@@ -1,11 +1,12 @@
 #include "handles/HostArray.hpp"
 
 #include "handles/HostContext.hpp"
-#include "handles/NumericClass.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
+
+#include "additions/numericClasses.hpp"
 
 #include <algorithm>
 #include <limits>
@@ -76,6 +77,20 @@ hvArray_tag* checkHostArray(lua_State* L, int index)
     if (hvArray_tag* const array = testHostArray(L, index))
         return array;
     fail("closed", "this array was given back");
+}
+
+std::size_t memoryOfElement(hvClassID classID)
+{
+    switch (classID) {
+    case hvCHAR_CLASS:
+        return sizeof(char16_t);
+    case hvCELL_CLASS:
+    case hvSTRING_CLASS:
+        return 96;
+    default:
+        auto const* const numeric = orbis::additions::findNumericClass(classID);
+        return numeric ? numeric->size : sizeof(void*);
+    }
 }
 
 } // namespace velmara::console

@@ -4,6 +4,8 @@
 
 #include "libhv/hvArray.hpp"
 
+#include <cstddef>
+
 namespace velmara::console {
 
 /// Host arrays as values of their own in scripts: they have class, size and elements, and are passed back as they are.
@@ -22,5 +24,8 @@ hvArray_tag* testHostArray(lua_State* L, int index);
 
 /// The same, but throws an `Error` instead of returning null.
 hvArray_tag* checkHostArray(lua_State* L, int index);
+
+/// Approximate memory of one element of any class, with what it owns.
+std::size_t memoryOfElement(hvClassID classID);
 
 } // namespace velmara::console

@@ -8,12 +8,12 @@ namespace velmara::console {
 namespace {
 
 /// What a script sees, and the name of the value's type.
-struct Names {
+struct SentinelNames {
     char const* text;
     char const* type;
 };
 
-constexpr Names names[] = {{"null", "velmara.null"}, {"missing", "velmara.missing"}};
+constexpr SentinelNames sentinelNames[] = {{"null", "velmara.null"}, {"missing", "velmara.missing"}};
 
 /// Upvalue 1 is the text.
 int sentinelText(lua_State* L)
@@ -22,7 +22,7 @@ int sentinelText(lua_State* L)
     return 1;
 }
 
-void createSentinel(lua_State* L, Names const& created)
+void createSentinel(lua_State* L, SentinelNames const& created)
 {
     lua_newuserdatauv(L, 0, 0);
     pushNamedMetatable(L, created.type, [&] {
@@ -40,13 +40,13 @@ void createSentinel(lua_State* L, Names const& created)
 void pushSentinel(lua_State* L, Sentinel which)
 {
     luaL_checkstack(L, 8, nullptr);
-    Names const& created = names[static_cast<int>(which)];
+    SentinelNames const& created = sentinelNames[static_cast<int>(which)];
     pushCached(L, "velmara.sentinels", created.text, [&] { createSentinel(L, created); });
 }
 
 bool isSentinel(lua_State* L, int index, Sentinel which)
 {
-    return luaL_testudata(L, index, names[static_cast<int>(which)].type) != nullptr;
+    return luaL_testudata(L, index, sentinelNames[static_cast<int>(which)].type) != nullptr;
 }
 
 } // namespace velmara::console

@@ -107,7 +107,7 @@ struct Request {
 };
 
 /// Called by `lua_pcall` with a `Request`, so that errors do not reach the line editor.
-int find(lua_State* L)
+int findCompletions(lua_State* L)
 {
     Request& request = *static_cast<Request*>(lua_touserdata(L, 1));
     std::size_t const last = request.word.find_last_of(".:");
@@ -130,7 +130,7 @@ int find(lua_State* L)
 std::vector<std::string> completions(lua_State* L, std::string_view word)
 {
     Request request{word, {}};
-    lua_pushcfunction(L, guarded<find>);
+    lua_pushcfunction(L, guarded<findCompletions>);
     lua_pushlightuserdata(L, &request);
     if (lua_pcall(L, 1, 0, 0) != LUA_OK)
         lua_pop(L, 1);

@@ -3,7 +3,6 @@
 #include "lua/ScriptError.hpp"
 #include "prompt/DisplayText.hpp"
 #include "prompt/LineReader.hpp"
-#include "scripts/CoroutineFunctions.hpp"
 #include "scripts/ErrorReport.hpp"
 #include "scripts/Interruption.hpp"
 #include "scripts/ScriptRunner.hpp"
@@ -50,7 +49,7 @@ bool readChunk(lua_State* L, LineReader& reader)
     }
     if (status == LUA_OK)
         return true;
-    std::fprintf(stderr, "%s\n", describeError(L, -1, status).c_str());
+    printReport(describeError(L, -1, status));
     lua_pop(L, 1);
     return true;
 }

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdio>
 
 namespace velmara::console {
 
@@ -108,6 +109,13 @@ std::string describeError(lua_State* L, int index, int status)
                                    : status == LUA_ERRMEM  ? Error::outOfMemory().identifier()
                                                            : "VELMARA:script:error";
     return format(reportOf(L, index, identifier), {}, 0);
+}
+
+void printReport(std::string_view text)
+{
+    std::fflush(stdout);
+    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
+    std::fflush(stderr);
 }
 
 } // namespace velmara::console

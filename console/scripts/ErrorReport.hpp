@@ -3,6 +3,7 @@
 #include "lua/LuaApi.hpp"
 
 #include <string>
+#include <string_view>
 
 namespace velmara::console {
 
@@ -13,5 +14,8 @@ int reportError(lua_State* L);
 /// The text to show for the error value at `index` where no handler has seen the error: `status` is that of `lua_load`
 /// or `lua_pcall`.
 std::string describeError(lua_State* L, int index, int status);
+
+/// Prints the text to stderr, after what was printed to stdout before.
+void printReport(std::string_view text);
 
 } // namespace velmara::console

@@ -1,5 +1,7 @@
 #include "scripts/Interruption.hpp"
 
+#include "lua/WrappedFunction.hpp"
+
 #include <csignal>
 
 namespace velmara::console {
@@ -31,6 +33,60 @@ void onSignal(int signal)
     stopSoon(running);
 }
 
+/// For its lifetime `resumer` waits for a coroutine, and Ctrl-C reaches that. The interruption is raised again in the
+/// resumer when the coroutine has failed.
+class Resumption {
+public:
+    Resumption(lua_State* resumer, lua_State* coroutine) : resumer_(resumer), previous_(running)
+    {
+        if (script)
+            running = coroutine;
+    }
+    Resumption(Resumption const&) = delete;
+    Resumption& operator=(Resumption const&) = delete;
+    ~Resumption()
+    {
+        running = previous_;
+        if (isStopping && script)
+            stopSoon(resumer_);
+    }
+
+private:
+    lua_State* resumer_;
+    lua_State* previous_;
+};
+
+/// Calls upvalue 1 with all arguments; meanwhile Ctrl-C reaches `coroutine`.
+int callWhileRunning(lua_State* L, lua_State* coroutine)
+{
+    luaL_checkstack(L, 4, nullptr);
+    Resumption const resumption(L, coroutine ? coroutine : L);
+    return callWrapped(L);
+}
+
+int resume(lua_State* L)
+{
+    return callWhileRunning(L, lua_tothread(L, 1));
+}
+
+/// Upvalue 1 is the result of Lua's own `wrap`, whose upvalue 1 is the coroutine.
+int callCoroutine(lua_State* L)
+{
+    lua_State* coroutine = nullptr;
+    if (lua_getupvalue(L, lua_upvalueindex(1), 1)) {
+        coroutine = lua_tothread(L, -1);
+        lua_pop(L, 1); // the function still holds it
+    }
+    return callWhileRunning(L, coroutine);
+}
+
+int wrap(lua_State* L)
+{
+    callWrapped(L);
+    lua_pushcclosure(L, callCoroutine, 1);
+    return 1;
+}
+
 } // namespace
 
 Interruption::Interruption(lua_State* L)
@@ -49,17 +105,12 @@ Interruption::~Interruption()
     running = nullptr;
 }
 
-Interruption::Resumption::Resumption(lua_State* resumer, lua_State* coroutine) : resumer_(resumer), previous_(running)
+void bindCoroutineFunctions(lua_State* L)
 {
-    if (script)
-        running = coroutine;
-}
-
-Interruption::Resumption::~Resumption()
-{
-    running = previous_;
-    if (isStopping && script)
-        stopSoon(resumer_);
+    lua_getglobal(L, LUA_COLIBNAME);
+    wrapFunction(L, "resume", resume);
+    wrapFunction(L, "wrap", wrap);
+    lua_pop(L, 1);
 }
 
 } // namespace velmara::console

@@ -12,22 +12,11 @@ public:
     Interruption& operator=(Interruption const&) = delete;
     ~Interruption();
 
-    /// For its lifetime `resumer` waits for a coroutine, and Ctrl-C reaches that. The interruption is raised again in
-    /// the resumer when the coroutine has failed.
-    class Resumption {
-    public:
-        Resumption(lua_State* resumer, lua_State* coroutine);
-        Resumption(Resumption const&) = delete;
-        Resumption& operator=(Resumption const&) = delete;
-        ~Resumption();
-
-    private:
-        lua_State* resumer_;
-        lua_State* previous_;
-    };
-
 private:
     void (*previous_)(int);
 };
+
+/// Replaces `coroutine.resume` and `coroutine.wrap` by functions that let Ctrl-C reach a coroutine.
+void bindCoroutineFunctions(lua_State* L);
 
 } // namespace velmara::console

@@ -13,13 +13,6 @@ namespace velmara::console {
 
 namespace {
 
-void printReport(std::string_view text)
-{
-    std::fflush(stdout);
-    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
-    std::fflush(stderr);
-}
-
 /// Without a byte-order mark and a first line with "#" (which names a script's interpreter). Keeps that line's end, so
 /// that line numbers are right.
 std::string_view withoutHeader(std::string_view code)

@@ -8,7 +8,7 @@ namespace velmara::console {
 
 namespace {
 
-constexpr std::size_t maxColumns = 80;
+constexpr std::size_t maxLineWidth = 80;
 
 std::string_view takeUntil(std::string_view& text, char end)
 {
@@ -24,7 +24,7 @@ void addWrapped(std::string& result, std::string_view line, std::size_t indent, 
     bool hasWord = false;
     while (!line.empty()) {
         std::string_view const word = takeUntil(line, ' ');
-        if (hasWord && displayWidth(current) + 1 + displayWidth(word) > maxColumns) {
+        if (hasWord && displayWidth(current) + 1 + displayWidth(word) > maxLineWidth) {
             result += current + '\n';
             current.assign(hanging, ' ');
             hasWord = false;

@@ -3,17 +3,17 @@
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
-#include "handles/NumericClass.hpp"
 #include "handles/Sentinel.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
-#include "values/ExactNumber.hpp"
+#include "values/HostText.hpp"
 #include "values/ValueToHost.hpp"
 #include "values/ValueToLua.hpp"
 
 #include "additions/additions.hpp"
+#include "additions/convertNumber.hpp"
+#include "additions/numericClasses.hpp"
 #include "libhv/libhv.hpp"
-#include "libkwi18n/libkwi18n.hpp"
 #include "orbis/objectArrays.hpp"
 #include "string_matrix/string_matrix.hpp"
 
@@ -24,6 +24,10 @@
 namespace velmara::console {
 
 namespace {
+
+using orbis::additions::convertNumber;
+using orbis::additions::findNumericClass;
+using orbis::additions::visitNumericClass;
 
 template <class T>
 void pushNumber(lua_State* L, T number)
@@ -36,18 +40,9 @@ void pushNumber(lua_State* L, T number)
         lua_pushinteger(L, static_cast<lua_Integer>(number));
     else {
         ArrayStack::Frame frame(HostContext::of(L).arrays());
-        hvArray_tag* const scalar = frame.push(ArrayPtr(orbis::additions::createMatrix(1, 1, hvUINT64_CLASS)));
-        *static_cast<T*>(orbis::additions::getWritableData(scalar)) = number;
+        hvArray_tag* const scalar = frame.push(ArrayPtr(orbis::additions::createMatrix(1, 1, hvUINT64_CLASS, &number)));
         pushHostArray(L, *scalar);
     }
-}
-
-void pushString(lua_State* L, Tarnwick::StringArray const& strings, std::size_t index)
-{
-    if (strings.isMissing(index))
-        pushMissing(L);
-    else
-        pushText(L, fl::i18n::to_string({strings.getText(index), strings.getLength(index)}));
 }
 
 void replaceNil(lua_State* L)
@@ -81,26 +76,23 @@ std::optional<std::uint64_t> readDigits(std::string_view text)
 template <class T>
 std::optional<T> readScalar(hvArray_tag const& array)
 {
-    std::optional<T> number;
-    if (array.get_number_of_elements() == 1)
-        visitNumericClass(array._get_class_id_non_trivial(), [&]<class Source>(Source*) {
-            Source const source = *static_cast<Source const*>(orbis::additions::getData(&array));
-            if constexpr (std::is_floating_point_v<Source>)
-                number = exactly<T>(static_cast<double>(source));
-            else
-                number = exactly<T>(+source); // promotes a logical to 0 or 1
-        });
-    return number;
+    hvClassID const classID = array._get_class_id_non_trivial();
+    if (!findNumericClass(classID) || array.get_number_of_elements() != 1)
+        return std::nullopt;
+    return visitNumericClass(classID, [&]<class Source>(Source) {
+        Source const source = *static_cast<Source const*>(orbis::additions::getData(&array));
+        return convertNumber<T>(+source); // promotes a logical to 0 or 1
+    });
 }
 
 template <class T>
 std::optional<T> readNumber(lua_State* L, int value)
 {
     if (lua_isinteger(L, value))
-        return exactly<T>(lua_tointeger(L, value));
+        return convertNumber<T>(lua_tointeger(L, value));
     switch (lua_type(L, value)) {
     case LUA_TNUMBER:
-        return exactly<T>(lua_tonumber(L, value));
+        return convertNumber<T>(lua_tonumber(L, value));
     case LUA_TBOOLEAN:
         return static_cast<T>(lua_toboolean(L, value));
     case LUA_TSTRING:
@@ -127,31 +119,25 @@ void storeCharacter(lua_State* L, int value, hvArray_tag* array, std::size_t ind
     std::optional<std::uint16_t> unit;
     if (lua_type(L, value) != LUA_TSTRING)
         unit = readNumber<std::uint16_t>(L, value);
-    else if (auto const text = fl::i18n::to_ustring(std::string(textAt(L, value))); text.size() == 1)
+    else if (auto const text = hostTextAt(L, value); text.size() == 1)
         unit = text.front();
     if (!unit)
         throwMismatch(L, value, *array, index, "is not one UTF-16 unit: a text of one, or a number below 65536");
     static_cast<char16_t*>(orbis::additions::getWritableData(array))[index] = *unit;
 }
 
-void storeString(lua_State* L, int value, hvArray_tag* array, std::size_t index)
+void storeText(lua_State* L, int value, hvArray_tag* array, std::size_t index)
 {
     if (isMissing(L, value))
-        return orbis::additions::setMissing(array, index);
+        return storeString(array, index, std::nullopt);
     if (lua_type(L, value) == LUA_TSTRING)
-        return orbis::additions::setString(array, index, fl::i18n::to_ustring(std::string(textAt(L, value))));
+        return storeString(array, index, hostTextAt(L, value));
     hvArray_tag const* const held = testHostArray(L, value);
-    bool const isString = held && Tarnwick::String::isString(held) && held->get_number_of_elements() == 1;
-    if (isString) {
-        auto const& source = Tarnwick::String::getString(held);
-        return source.isMissing(0)
-                   ? orbis::additions::setMissing(array, index)
-                   : orbis::additions::setString(array, index, {source.getText(0), source.getLength(0)});
-    }
+    if (Tarnwick::String::isString(held) && held->get_number_of_elements() == 1)
+        return storeString(array, index, stringAt(*held, 0));
     if (!held || held->_get_class_id_non_trivial() != hvCHAR_CLASS || held->get_dimensions()[0] > 1)
         throwMismatch(L, value, *array, index, "is no text (write missing for none)");
-    orbis::additions::setString(
-        array, index, {static_cast<char16_t const*>(orbis::additions::getData(held)), held->get_number_of_elements()});
+    storeString(array, index, rowOf(*held, 0));
 }
 
 void storeCell(lua_State* L, int value, hvArray_tag* cells, std::size_t index, Conversion& conversion)
@@ -183,9 +169,11 @@ void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
     void const* const data = orbis::additions::getData(array);
     switch (classID) {
     case hvCHAR_CLASS:
-        return pushText(L, fl::i18n::to_string({static_cast<char16_t const*>(data)[index]}));
+        return pushText(L, toUtf8({static_cast<char16_t const*>(data) + index, 1}));
     case hvSTRING_CLASS:
-        return pushString(L, Tarnwick::String::getString(array), index);
+        if (auto const text = stringAt(*array, index))
+            return pushText(L, toUtf8(*text));
+        return pushMissing(L);
     case hvCELL_CLASS:
         pushValue(L, orbis::additions::getCell(array, index));
         return replaceNil(L);
@@ -193,7 +181,7 @@ void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
         pushObject(L, array, index);
         return replaceNil(L);
     default:
-        visitNumericClass(classID, [&]<class T>(T*) { pushNumber(L, static_cast<T const*>(data)[index]); });
+        visitNumericClass(classID, [&]<class T>(T) { pushNumber(L, static_cast<T const*>(data)[index]); });
     }
 }
 
@@ -204,13 +192,13 @@ void storeElement(lua_State* L, int value, hvArray_tag* array, std::size_t index
     case hvCHAR_CLASS:
         return storeCharacter(L, value, array, index);
     case hvSTRING_CLASS:
-        return storeString(L, value, array, index);
+        return storeText(L, value, array, index);
     case hvCELL_CLASS:
         return storeCell(L, value, array, index, conversion);
     case hvOBJECT_CLASS:
         return storeObject(L, value, array, index);
     default:
-        visitNumericClass(classID, [&]<class T>(T*) { storeNumber<T>(L, value, array, index); });
+        visitNumericClass(classID, [&]<class T>(T) { storeNumber<T>(L, value, array, index); });
     }
 }
 

@@ -4,7 +4,7 @@
 #include "handles/Proxy.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
-#include "values/ExactNumber.hpp"
+#include "values/ValueToHost.hpp"
 
 #include <algorithm>
 #include <string>
@@ -19,7 +19,7 @@ void addElement(lua_State* L, int index, Elements& elements)
     bool const isInteger = lua_isinteger(L, index) != 0;
     elements.areNumbers = elements.areNumbers && type == LUA_TNUMBER;
     elements.areIntegers = elements.areIntegers && isInteger;
-    elements.areExactDoubles = elements.areExactDoubles && (!isInteger || isExactDouble(lua_tointeger(L, index)));
+    elements.areExactDoubles = elements.areExactDoubles && (!isInteger || isInExactRange(lua_tointeger(L, index)));
     elements.areBooleans = elements.areBooleans && type == LUA_TBOOLEAN;
     elements.areObjects = elements.areObjects && type == LUA_TUSERDATA && isObject(L, index);
     elements.areTables = elements.areTables && type == LUA_TTABLE;

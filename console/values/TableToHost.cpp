@@ -1,8 +1,9 @@
 #include "values/TableToHost.hpp"
 
+#include "handles/HostArray.hpp"
 #include "handles/HostObject.hpp"
-#include "handles/NumericClass.hpp"
 #include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
 #include "values/ArrayElement.hpp"
 #include "values/TableElements.hpp"
 
@@ -49,7 +50,7 @@ hvClassID scalarClass(Elements const& elements)
     fail("table", "fractions and integers beyond 2^53 in one table have no common exact number type");
 }
 
-void store(lua_State* L, void* data, hvClassID classID, std::size_t position)
+void storeTop(lua_State* L, void* data, hvClassID classID, std::size_t position)
 {
     if (classID == hvLOGICAL_CLASS)
         static_cast<bool*>(data)[position] = lua_toboolean(L, -1) != 0;
@@ -64,21 +65,13 @@ void storeRow(lua_State* L, int table, hvArray_tag* matrix, std::size_t row, std
 {
     hvClassID const classID = matrix->_get_class_id_non_trivial();
     void* data = orbis::additions::getWritableData(matrix);
-    for (std::size_t column = 0; column < columns; ++column) {
-        lua_rawgeti(L, table, static_cast<lua_Integer>(column + 1));
-        store(L, data, classID, column * rows + row);
-        lua_pop(L, 1);
-    }
+    visitSequence(L, table, columns, [&](std::size_t column) { storeTop(L, data, classID, column * rows + row); });
 }
 
 ArrayPtr matrix(lua_State* L, int table, std::size_t rows, Elements const& row)
 {
     ArrayPtr array(orbis::additions::createMatrix(rows, row.count, scalarClass(row)));
-    for (std::size_t i = 0; i < rows; ++i) {
-        lua_rawgeti(L, table, static_cast<lua_Integer>(i + 1));
-        storeRow(L, lua_gettop(L), array.get(), i, rows, row.count);
-        lua_pop(L, 1);
-    }
+    visitSequence(L, table, rows, [&](std::size_t i) { storeRow(L, lua_gettop(L), array.get(), i, rows, row.count); });
     return array;
 }
 
@@ -87,11 +80,8 @@ ArrayPtr objectsOf(lua_State* L, int table, std::size_t count)
 {
     std::vector<orbis::COSInterfacePtr> objects;
     objects.reserve(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        lua_rawgeti(L, table, static_cast<lua_Integer>(i + 1));
-        objects.push_back(orbis::omGetArrayElement(checkObject(L, -1), 0));
-        lua_pop(L, 1);
-    }
+    visitSequence(L, table, count,
+                  [&](std::size_t) { objects.push_back(orbis::omGetArrayElement(checkObject(L, -1), 0)); });
     return objectRow(objects);
 }
 
@@ -99,11 +89,7 @@ ArrayPtr cellRow(lua_State* L, int table, std::size_t count, Conversion& convers
 {
     conversion.add(count, memoryOfElement(hvCELL_CLASS));
     ArrayPtr cells(hvCreateCellMatrix(1, count));
-    for (std::size_t i = 0; i < count; ++i) {
-        lua_rawgeti(L, table, static_cast<lua_Integer>(i + 1));
-        storeElement(L, lua_gettop(L), cells.get(), i, conversion);
-        lua_pop(L, 1);
-    }
+    visitSequence(L, table, count, [&](std::size_t i) { storeElement(L, lua_gettop(L), cells.get(), i, conversion); });
     return cells;
 }
 

@@ -5,14 +5,13 @@
 #include "handles/Sentinel.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
-#include "values/ExactNumber.hpp"
+#include "values/HostText.hpp"
 #include "values/TableToHost.hpp"
 
 #include "velmara/Hvm.hpp"
 
 #include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
-#include "libkwi18n/libkwi18n.hpp"
 
 namespace velmara::console {
 
@@ -21,9 +20,12 @@ namespace {
 template <class T>
 ArrayPtr scalar(T value, hvClassID classID)
 {
-    ArrayPtr array(orbis::additions::createMatrix(1, 1, classID));
-    *static_cast<T*>(orbis::additions::getWritableData(array.get())) = value;
-    return array;
+    return ArrayPtr(orbis::additions::createMatrix(1, 1, classID, &value));
+}
+
+ArrayPtr emptyArray()
+{
+    return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
 }
 
 ArrayPtr number(lua_State* L, int index)
@@ -31,20 +33,15 @@ ArrayPtr number(lua_State* L, int index)
     if (!lua_isinteger(L, index))
         return scalar(lua_tonumber(L, index), hvDOUBLE_CLASS);
     lua_Integer const value = lua_tointeger(L, index);
-    if (isExactDouble(value))
+    if (isInExactRange(value))
         return scalar(static_cast<double>(value), hvDOUBLE_CLASS);
     return scalar<std::int64_t>(value, hvINT64_CLASS);
-}
-
-ArrayPtr text(std::string_view utf8)
-{
-    return ArrayPtr(orbis::additions::createText(fl::i18n::to_ustring(std::string(utf8))));
 }
 
 ArrayPtr userdata(lua_State* L, int index)
 {
     if (isNull(L, index))
-        return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+        return emptyArray();
     if (isMissing(L, index))
         return ArrayPtr(orbis::additions::createStringMatrix(1, 1));
     if (isObject(L, index)) {
@@ -64,13 +61,13 @@ ArrayPtr toHost(lua_State* L, int index, Conversion& conversion)
 {
     switch (lua_type(L, index)) {
     case LUA_TNIL:
-        return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+        return emptyArray();
     case LUA_TBOOLEAN:
         return scalar(lua_toboolean(L, index) != 0, hvLOGICAL_CLASS);
     case LUA_TNUMBER:
         return number(L, index);
     case LUA_TSTRING:
-        return text(textAt(L, index));
+        return ArrayPtr(orbis::additions::createText(hostTextAt(L, index)));
     case LUA_TTABLE:
         return tableToHost(L, lua_absindex(L, index), conversion);
     case LUA_TUSERDATA:

@@ -2,20 +2,19 @@
 
 #include "handles/HostArray.hpp"
 #include "handles/HostObject.hpp"
-#include "handles/NumericClass.hpp"
 #include "handles/Sentinel.hpp"
+#include "lua/Table.hpp"
 #include "values/ArrayElement.hpp"
+#include "values/HostText.hpp"
 
 #include "additions/additions.hpp"
-#include "libkwi18n/libkwi18n.hpp"
-
-#include <algorithm>
-#include <limits>
-#include <string>
+#include "additions/numericClasses.hpp"
 
 namespace velmara::console {
 
 namespace {
+
+using orbis::additions::findNumericClass;
 
 std::size_t rowsOf(hvArray_tag const& array)
 {
@@ -27,27 +26,10 @@ std::size_t columnsOf(hvArray_tag const& array)
     return array.get_dimensions()[1];
 }
 
-int sizeHint(std::size_t count)
-{
-    return static_cast<int>(std::min<std::size_t>(count, std::numeric_limits<int>::max()));
-}
-
-/// Pushes a sequence of what `pushNext` pushes for 0 to `count` - 1.
-template <class PushNext>
-void pushSequence(lua_State* L, std::size_t count, PushNext const& pushNext)
-{
-    luaL_checkstack(L, 4, nullptr);
-    lua_createtable(L, sizeHint(count), 0);
-    for (std::size_t i = 0; i < count; ++i) {
-        pushNext(i);
-        lua_rawseti(L, -2, static_cast<lua_Integer>(i + 1));
-    }
-}
-
 /// A column of numbers or booleans is a sequence of rows, because a sequence of them is a row; of others it is a list.
 bool isList(hvArray_tag const& array)
 {
-    bool const areScalars = elementSize(array._get_class_id_non_trivial()) != 0;
+    bool const areScalars = findNumericClass(array._get_class_id_non_trivial()) != nullptr;
     return rowsOf(array) == 1 || (!areScalars && columnsOf(array) == 1);
 }
 
@@ -74,11 +56,7 @@ void pushElements(lua_State* L, hvArray_tag const& array, PushAt const& pushAt)
 /// The characters of one row, as a string.
 void pushRow(lua_State* L, hvArray_tag const& characters, std::size_t row)
 {
-    auto const* data = static_cast<char16_t const*>(orbis::additions::getData(&characters));
-    std::u16string text(rowsOf(characters) == 0 ? 0 : columnsOf(characters), u'\0');
-    for (std::size_t column = 0; column < text.size(); ++column)
-        text[column] = data[column * rowsOf(characters) + row];
-    pushText(L, fl::i18n::to_string(text));
+    pushText(L, toUtf8(rowOf(characters, row)));
 }
 
 void pushCells(lua_State* L, hvArray_tag const& cells, Conversion& conversion)
@@ -108,7 +86,7 @@ void pushValue(lua_State* L, hvArray_tag const* array)
         return pushObject(L, array, 0);
     if (classID == hvCHAR_CLASS && (isNone || (rowsOf(*array) == 1 && count != 0)))
         return pushRow(L, *array, 0);
-    if (elementSize(classID) != 0 && count == 1)
+    if (findNumericClass(classID) && count == 1)
         return pushElement(L, array, 0);
     if ((classID == hvDOUBLE_CLASS && isNone) || (isOfTables(classID) && count != 0))
         return pushElements(L, *array, [&](std::size_t i) { pushElement(L, array, i); });
