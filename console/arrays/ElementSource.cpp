@@ -39,6 +39,12 @@ bool isTextOf(hvArray_tag const& array, hvClassID classID)
     return array._get_class_id_non_trivial() == hvCHAR_CLASS && (classID == hvSTRING_CLASS || classID == hvCELL_CLASS);
 }
 
+[[noreturn]] void failLength(std::size_t row, std::size_t length, std::size_t expected)
+{
+    fail("table", "all rows have one length: that of row " + std::to_string(row + 1) + " is " + std::to_string(length) +
+                      ", that of those before it " + std::to_string(expected));
+}
+
 } // namespace
 
 ElementSource::ElementSource(lua_State* L, int index, hvClassID classID, ArrayStack::Frame& frame)
@@ -76,7 +82,7 @@ void ElementSource::readTable(hvClassID classID, ArrayStack::Frame& frame)
         return;
     kind_ = Kind::Sequence;
     shape_ = {1, elements.count};
-    if (elements.areTables && classID != hvCELL_CLASS)
+    if (elements.are(Elements::Tables) && classID != hvCELL_CLASS)
         readRows(elements.count);
 }
 
@@ -86,8 +92,7 @@ void ElementSource::readRows(std::size_t count)
     visitSequence(L_, index_, count, [&](std::size_t row) {
         std::size_t const columns = elementsOf(L_, lua_gettop(L_)).count;
         if (row != 0 && columns != shape_.columns)
-            fail("table", "all rows have one length: that of row " + std::to_string(row + 1) + " is " +
-                              std::to_string(columns) + ", that of those before it " + std::to_string(shape_.columns));
+            failLength(row, columns, shape_.columns);
         shape_ = {count, columns};
     });
 }
@@ -105,9 +110,7 @@ bool ElementSource::readTexts(std::size_t count, ArrayStack::Frame& frame)
         if (!characters)
             characters = frame.push(ArrayPtr(orbis::additions::createMatrix(count, text->size(), hvCHAR_CLASS)));
         if (text->size() != characters->get_dimensions()[1])
-            fail("table", "all rows have one length: that of row " + std::to_string(row + 1) + " is " +
-                              std::to_string(text->size()) + ", that of those before it " +
-                              std::to_string(characters->get_dimensions()[1]));
+            failLength(row, text->size(), characters->get_dimensions()[1]);
         auto* const data = static_cast<char16_t*>(orbis::additions::getWritableData(characters));
         for (std::size_t column = 0; column < text->size(); ++column)
             data[column * count + row] = (*text)[column];

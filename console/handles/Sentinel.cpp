@@ -7,13 +7,8 @@ namespace velmara::console {
 
 namespace {
 
-/// What a script sees, and the name of the value's type.
-struct SentinelNames {
-    char const* text;
-    char const* type;
-};
-
-constexpr SentinelNames sentinelNames[] = {{"null", "velmara.null"}, {"missing", "velmara.missing"}};
+constexpr char const* nullType = "velmara.null";
+constexpr char const* missingType = "velmara.missing";
 
 /// Upvalue 1 is the text.
 int sentinelText(lua_State* L)
@@ -22,31 +17,42 @@ int sentinelText(lua_State* L)
     return 1;
 }
 
-void createSentinel(lua_State* L, SentinelNames const& created)
+void pushSentinel(lua_State* L, char const* text, char const* type)
 {
-    lua_newuserdatauv(L, 0, 0);
-    pushNamedMetatable(L, created.type, [&] {
-        setField(L, "__metatable", created.text);
-        setField(L, "__name", created.text);
-        lua_pushstring(L, created.text);
-        lua_pushcclosure(L, sentinelText, 1);
-        lua_setfield(L, -2, "__tostring");
+    luaL_checkstack(L, 8, nullptr);
+    pushCached(L, "velmara.sentinels", type, [&] {
+        lua_newuserdatauv(L, 0, 0);
+        pushNamedMetatable(L, type, [&] {
+            setField(L, "__metatable", text);
+            setField(L, "__name", text);
+            lua_pushstring(L, text);
+            lua_pushcclosure(L, sentinelText, 1);
+            lua_setfield(L, -2, "__tostring");
+        });
+        lua_setmetatable(L, -2);
     });
-    lua_setmetatable(L, -2);
 }
 
 } // namespace
 
-void pushSentinel(lua_State* L, Sentinel which)
+void pushNull(lua_State* L)
 {
-    luaL_checkstack(L, 8, nullptr);
-    SentinelNames const& created = sentinelNames[static_cast<int>(which)];
-    pushCached(L, "velmara.sentinels", created.text, [&] { createSentinel(L, created); });
+    pushSentinel(L, "null", nullType);
 }
 
-bool isSentinel(lua_State* L, int index, Sentinel which)
+void pushMissing(lua_State* L)
 {
-    return luaL_testudata(L, index, sentinelNames[static_cast<int>(which)].type) != nullptr;
+    pushSentinel(L, "missing", missingType);
+}
+
+bool isNull(lua_State* L, int index)
+{
+    return luaL_testudata(L, index, nullType) != nullptr;
+}
+
+bool isMissing(lua_State* L, int index)
+{
+    return luaL_testudata(L, index, missingType) != nullptr;
 }
 
 } // namespace velmara::console

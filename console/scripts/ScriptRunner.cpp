@@ -1,5 +1,6 @@
 #include "scripts/ScriptRunner.hpp"
 
+#include "lua/Table.hpp"
 #include "scripts/ErrorReport.hpp"
 
 #include <array>
@@ -26,13 +27,9 @@ std::string_view withoutHeader(std::string_view code)
 
 void setArguments(lua_State* L, std::string const& name, std::vector<std::string> const& arguments)
 {
-    lua_createtable(L, static_cast<int>(arguments.size()), 1);
+    pushSequence(L, arguments.size(), [&](std::size_t i) { pushText(L, arguments[i]); });
     pushText(L, name);
     lua_rawseti(L, -2, 0);
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        pushText(L, arguments[i]);
-        lua_rawseti(L, -2, static_cast<lua_Integer>(i + 1));
-    }
     lua_setglobal(L, "arg");
 }
 

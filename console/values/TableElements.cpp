@@ -13,17 +13,21 @@ namespace velmara::console {
 
 namespace {
 
-void addElement(lua_State* L, int index, Elements& elements)
+unsigned kindsOf(lua_State* L, int index)
 {
-    int const type = lua_type(L, index);
-    bool const isInteger = lua_isinteger(L, index) != 0;
-    elements.areNumbers = elements.areNumbers && type == LUA_TNUMBER;
-    elements.areIntegers = elements.areIntegers && isInteger;
-    elements.areExactDoubles = elements.areExactDoubles && (!isInteger || isInExactRange(lua_tointeger(L, index)));
-    elements.areBooleans = elements.areBooleans && type == LUA_TBOOLEAN;
-    elements.areObjects = elements.areObjects && type == LUA_TUSERDATA && isObject(L, index);
-    elements.areTables = elements.areTables && type == LUA_TTABLE;
-    ++elements.count;
+    switch (lua_type(L, index)) {
+    case LUA_TNUMBER:
+        if (!lua_isinteger(L, index))
+            return Elements::Numbers | Elements::ExactDoubles;
+        return Elements::Numbers | Elements::Integers |
+               (isInExactRange(lua_tointeger(L, index)) ? Elements::ExactDoubles : 0U);
+    case LUA_TBOOLEAN:
+        return Elements::Booleans;
+    case LUA_TTABLE:
+        return Elements::Tables;
+    default:
+        return isObject(L, index) ? Elements::Objects : 0U;
+    }
 }
 
 /// The key at `index`, for an error text.
@@ -47,7 +51,8 @@ Elements elementsOf(lua_State* L, int table)
             fail("table",
                  "a table must be a sequence to be passed to the host; this one has the key " + keyText(L, -2));
         last = std::max(last, key);
-        addElement(L, -1, elements);
+        elements.kinds &= kindsOf(L, -1);
+        ++elements.count;
     }
     if (static_cast<std::size_t>(last) != elements.count)
         fail("table", "a table must be a sequence to be passed to the host; this one has holes before element " +

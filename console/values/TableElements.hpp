@@ -8,15 +8,13 @@ namespace velmara::console {
 
 /// What the elements of a sequence have in common.
 struct Elements {
-    std::size_t count = 0;
-    bool areNumbers = true;
-    bool areIntegers = true;
-    bool areExactDoubles = true;
-    bool areBooleans = true;
-    bool areObjects = true;
-    bool areTables = true;
+    enum Kind : unsigned { Numbers = 1, Integers = 2, ExactDoubles = 4, Booleans = 8, Objects = 16, Tables = 32 };
 
-    bool areScalars() const { return count > 0 && (areNumbers || areBooleans); }
+    std::size_t count = 0;
+    unsigned kinds = ~0U; ///< each `Kind` that all of them are
+
+    bool are(unsigned kind) const { return (kinds & kind) != 0; }
+    bool areScalars() const { return count > 0 && are(Numbers | Booleans); }
 };
 
 /// Visits all pairs of the table at the absolute `table`, ignoring its metatable. Throws an `Error` when it is no

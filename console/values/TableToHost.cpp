@@ -29,10 +29,7 @@ Elements commonRow(lua_State* L, int table, std::size_t count)
         lua_pop(L, 1);
         if (i == 0)
             common = row;
-        common.areNumbers = common.areNumbers && row.areNumbers;
-        common.areIntegers = common.areIntegers && row.areIntegers;
-        common.areExactDoubles = common.areExactDoubles && row.areExactDoubles;
-        common.areBooleans = common.areBooleans && row.areBooleans;
+        common.kinds &= row.kinds;
         if (row.count != common.count || !common.areScalars())
             return {};
     }
@@ -41,11 +38,11 @@ Elements commonRow(lua_State* L, int table, std::size_t count)
 
 hvClassID scalarClass(Elements const& elements)
 {
-    if (elements.areBooleans)
+    if (elements.are(Elements::Booleans))
         return hvLOGICAL_CLASS;
-    if (elements.areExactDoubles)
+    if (elements.are(Elements::ExactDoubles))
         return hvDOUBLE_CLASS;
-    if (elements.areIntegers)
+    if (elements.are(Elements::Integers))
         return hvINT64_CLASS;
     fail("table", "fractions and integers beyond 2^53 in one table have no common exact number type");
 }
@@ -107,10 +104,10 @@ ArrayPtr tableToHost(lua_State* L, int index, Conversion& conversion)
         storeRow(L, index, row.get(), 0, 1, elements.count);
         return row;
     }
-    if (elements.areObjects)
+    if (elements.are(Elements::Objects))
         if (ArrayPtr row = objectsOf(L, index, elements.count))
             return row;
-    if (elements.areTables)
+    if (elements.are(Elements::Tables))
         if (Elements const row = commonRow(L, index, elements.count); row.count > 0) {
             conversion.add(elements.count * row.count, sizeof(double));
             return matrix(L, index, elements.count, row);
