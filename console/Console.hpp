@@ -1,6 +1,5 @@
 #pragma once
 
-#include "CommandLine.hpp"
 #include "Session.hpp"
 
 #include <filesystem>

@@ -36,7 +36,12 @@ int exitProcess(lua_State* L)
 
 } // namespace
 
-Session::Session() : lua_(createState()), host_(lua_.get()) {}
+Session::Session(CommandLine const& line)
+    : lua_(createState()),
+      host_(lua_.get(), line.reportsLeaks),
+      checksLeaks_(line.checksLeaks)
+{
+}
 
 void Session::bindExit()
 {

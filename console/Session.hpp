@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CommandLine.hpp"
 #include "handles/HostContext.hpp"
 #include "lua/LuaApi.hpp"
 
@@ -9,7 +10,8 @@ namespace velmara::console {
 /// object is released before its virtual machine.
 class Session {
 public:
-    Session();
+    /// Takes from the command line whether leaks are reported and checked.
+    explicit Session(CommandLine const& line = {});
     Session(Session const&) = delete;
     Session& operator=(Session const&) = delete;
     ~Session() { end(); }
@@ -24,24 +26,17 @@ public:
     /// that is never returned to.
     void end();
 
-    /// Has `finish` check that nothing of the host is left.
-    void checkLeaks() { checksLeaks_ = true; }
-
-    /// Has what native code leaves in a virtual machine reported on stderr when that is destroyed. Call before modules
-    /// are loaded.
-    void reportLeaks() { host_.reportLeaks(); }
-
     /// Ends the session and returns the exit code: `code`, or that of what went wrong besides: a module that failed to
     /// terminate, leaks where they are checked, lost output.
     int finish(int code);
 
 private:
-    /// Reports what is left of the host, where `checkLeaks` was called; true when there is something.
+    /// Reports what is left of the host, where that is to be checked; true when there is something.
     bool reportLeft() const;
 
     LuaState lua_;
     HostContext host_;
-    bool checksLeaks_ = false;
+    bool checksLeaks_;
 };
 
 } // namespace velmara::console

@@ -9,8 +9,6 @@
 #include "text/CloseMatches.hpp"
 #include "values/HostCall.hpp"
 
-#include <string>
-
 namespace velmara::console {
 
 namespace {

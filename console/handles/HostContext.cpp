@@ -7,16 +7,7 @@
 
 namespace velmara::console {
 
-namespace {
-
-void reportLeaksOf(Hvm& machine)
-{
-    machine.reportLeaks([](std::string const& leak) { std::fprintf(stderr, "velmara: leak: %s\n", leak.c_str()); });
-}
-
-} // namespace
-
-HostContext::HostContext(lua_State* L)
+HostContext::HostContext(lua_State* L, bool reportsLeaks) : reportsLeaks_(reportsLeaks)
 {
     machines_.push_back(createMachine());
     // Lua copies this space of the main thread into every coroutine.
@@ -39,7 +30,8 @@ std::unique_ptr<Hvm> HostContext::createMachine()
         hasFailed_ = true;
     });
     if (reportsLeaks_)
-        reportLeaksOf(*machine);
+        machine->reportLeaks(
+            [](std::string const& leak) { std::fprintf(stderr, "velmara: leak: %s\n", leak.c_str()); });
     return machine;
 }
 
@@ -63,13 +55,6 @@ void HostContext::clear()
     heldArrays_.clear();
     while (!machines_.empty())
         machines_.pop_back();
-}
-
-void HostContext::reportLeaks()
-{
-    reportsLeaks_ = true;
-    for (auto const& machine : machines_)
-        reportLeaksOf(*machine);
 }
 
 } // namespace velmara::console

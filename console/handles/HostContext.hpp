@@ -15,8 +15,9 @@ namespace velmara::console {
 /// by values of the script.
 class HostContext {
 public:
-    /// Makes `of` find this context from the state. It must be closed before that is.
-    explicit HostContext(lua_State* L);
+    /// Makes `of` find this context from the state, which must be closed before `clear`. With `reportsLeaks`, what
+    /// native code leaves in a virtual machine is reported on stderr when that is destroyed.
+    HostContext(lua_State* L, bool reportsLeaks);
     HostContext(HostContext const&) = delete;
     HostContext& operator=(HostContext const&) = delete;
 
@@ -55,9 +56,6 @@ public:
     /// Releases all arrays, then destroys the virtual machines. No value of the script may be alive.
     void clear();
 
-    /// See `Session::reportLeaks`.
-    void reportLeaks();
-
     /// True when a module has failed to terminate.
     bool hasFailed() const { return hasFailed_; }
 
@@ -70,7 +68,7 @@ private:
     HeldArrays heldArrays_;
     bool hasFailed_ = false;
     bool isClosing_ = false;
-    bool reportsLeaks_ = false;
+    bool reportsLeaks_;
     bool keepsNextArray_ = false;
 };
 
