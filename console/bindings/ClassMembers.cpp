@@ -95,8 +95,7 @@ void pushCallable(lua_State* L, std::string_view cls, std::string_view name, boo
     fail("unknownMember", cls.name + " has no member '" + std::string(name) + "'" + didYouMean(name, known));
 }
 
-/// Pushes what is cached of the member: the function of a callable one, for a property whether it is static, for an
-/// enumerator a number.
+/// Pushes what is cached of the member: the function of a callable one, the kind of another.
 void pushCacheEntry(lua_State* L, std::string_view cls, std::string_view name)
 {
     ClassRecord const record = HostContext::of(L).hvm().describeClass(cls);
@@ -109,11 +108,12 @@ void pushCacheEntry(lua_State* L, std::string_view cls, std::string_view name)
     if (instance || withoutObject)
         return pushCallable(L, cls, name, instance, withoutObject);
     if (std::ranges::find(record.enumerators, name, &EnumeratorRecord::name) != record.enumerators.end())
-        return lua_pushinteger(L, 0);
+        return lua_pushinteger(L, static_cast<lua_Integer>(MemberKind::Enumerator));
     auto const property = std::ranges::find(record.properties, name, &PropertyRecord::name);
     if (property == record.properties.end())
         failUnknown(record, name);
-    lua_pushboolean(L, property->isStatic);
+    auto const kind = property->isStatic ? MemberKind::StaticProperty : MemberKind::Property;
+    lua_pushinteger(L, static_cast<lua_Integer>(kind));
 }
 
 } // namespace
@@ -131,12 +131,9 @@ MemberKind pushMember(lua_State* L, std::string_view className, std::string_view
     lua_remove(L, -2);
     if (lua_isfunction(L, -1))
         return MemberKind::Callable;
-    bool const isEnumerator = lua_isinteger(L, -1) != 0;
-    bool const isStaticProperty = lua_toboolean(L, -1) != 0;
+    auto const kind = static_cast<MemberKind>(lua_tointeger(L, -1));
     lua_pop(L, 1);
-    if (isEnumerator)
-        return MemberKind::Enumerator;
-    return isStaticProperty ? MemberKind::StaticProperty : MemberKind::Property;
+    return kind;
 }
 
 MemberKind checkProperty(lua_State* L, std::string_view className, std::string_view name)

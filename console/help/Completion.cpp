@@ -25,29 +25,20 @@ void addKeys(lua_State* L, int table, Names& names)
             names.emplace_back(textAt(L, -2));
 }
 
-/// An object's methods; after "." its properties too.
-void addObjectMembers(lua_State* L, std::string_view className, char separator, Names& names)
+/// The members that a script writes with `separator` after an object of the class, or after the class itself.
+void addMembers(lua_State* L, std::string_view className, bool ofObject, char separator, Names& names)
 {
+    using Kind = MethodRecord::Kind;
     ClassRecord const record = HostContext::of(L).hvm().describeClass(className);
     for (MethodRecord const& method : record.methods)
-        if (method.isVisible && method.kind == MethodRecord::Kind::Method)
+        if (method.isVisible && (ofObject ? method.kind == Kind::Method : method.kind != Kind::Constructor))
             names.push_back(method.name);
     for (PropertyRecord const& property : record.properties)
-        if (property.isVisible && separator == '.')
+        if (property.isVisible && (ofObject ? separator == '.' : property.isStatic))
             names.push_back(property.name);
-}
-
-void addClassMembers(lua_State* L, std::string_view className, Names& names)
-{
-    ClassRecord const record = HostContext::of(L).hvm().describeClass(className);
-    for (MethodRecord const& method : record.methods)
-        if (method.isVisible && method.kind != MethodRecord::Kind::Constructor)
-            names.push_back(method.name);
-    for (PropertyRecord const& property : record.properties)
-        if (property.isVisible && property.isStatic)
-            names.push_back(property.name);
-    for (EnumeratorRecord const& enumerator : record.enumerators)
-        names.push_back(enumerator.name);
+    if (!ofObject)
+        for (EnumeratorRecord const& enumerator : record.enumerators)
+            names.push_back(enumerator.name);
 }
 
 void addPublished(lua_State* L, std::string_view name, Names& names)
@@ -55,7 +46,7 @@ void addPublished(lua_State* L, std::string_view name, Names& names)
     Hvm& hvm = HostContext::of(L).hvm();
     NameKind const kind = name.empty() ? NameKind::Package : hvm.lookUp(name);
     if (kind == NameKind::Class)
-        addClassMembers(L, name, names);
+        addMembers(L, name, false, '.', names);
     else if (kind == NameKind::Package)
         std::ranges::copy(packageContents(hvm.describePackage(name)), std::back_inserter(names));
 }
@@ -93,7 +84,7 @@ Names membersOf(lua_State* L, char separator)
 {
     Names names;
     if (isObject(L, -1))
-        addObjectMembers(L, objectClass(L, -1), separator, names);
+        addMembers(L, objectClass(L, -1), true, separator, names);
     else if (auto const name = proxyName(L, -1); !name.empty())
         addPublished(L, name, names);
     else if (lua_istable(L, -1))
