@@ -1,5 +1,7 @@
 #include "CommandLine.hpp"
 
+#include <span>
+
 namespace velmara::console {
 
 char const* const usageText = R"(Usage: velmara [options] [FILE.lua [arguments]]
@@ -24,38 +26,32 @@ cannot be read; 3 --check-leaks found something; 4 output was lost.
 
 namespace {
 
-/// The words of the command line, one after the other.
-class Words {
-public:
-    explicit Words(std::vector<std::string> const& words) : next_(words.begin()), end_(words.end()) {}
+using Words = std::span<std::string const>;
 
-    bool isAtEnd() const { return next_ == end_; }
-    std::string const& peek() const { return *next_; }
-    std::string const& take() { return *next_++; }
-    std::vector<std::string> rest() { return {next_, end_}; }
+std::string const& take(Words& words)
+{
+    std::string const& first = words.front();
+    words = words.subspan(1);
+    return first;
+}
 
-    std::string const& takeValue(std::string const& option)
-    {
-        if (isAtEnd())
-            throw UsageError("the option " + option + " needs a value");
-        return take();
-    }
-
-private:
-    std::vector<std::string>::const_iterator next_;
-    std::vector<std::string>::const_iterator end_;
-};
+std::string const& takeValue(Words& words, std::string const& option)
+{
+    if (words.empty())
+        throw UsageError("the option " + option + " needs a value");
+    return take(words);
+}
 
 void parseOption(CommandLine& line, std::string const& option, Words& words)
 {
     using Task = CommandLine::Task;
     if (option == "-e") {
         line.task = Task::Code;
-        line.script = words.takeValue(option);
+        line.script = takeValue(words, option);
     } else if (option == "-i")
         line.asksForPrompt = true;
     else if (option == "--module")
-        line.modules.push_back(words.takeValue(option));
+        line.modules.push_back(takeValue(words, option));
     else if (option == "--no-builtin")
         line.loadsBuiltIn = false;
     else if (option == "--restricted")
@@ -78,20 +74,20 @@ CommandLine parseCommandLine(std::vector<std::string> const& words)
 {
     CommandLine line;
     Words left(words);
-    while (line.task == CommandLine::Task::Prompt && !left.isAtEnd() && left.peek().starts_with('-') &&
-           left.peek() != "-") {
-        std::string const& option = left.take();
+    while (line.task == CommandLine::Task::Prompt && !left.empty() && left.front().starts_with('-') &&
+           left.front() != "-") {
+        std::string const& option = take(left);
         if (option == "--")
             break;
         parseOption(line, option, left);
     }
-    if (line.task == CommandLine::Task::Prompt && !left.isAtEnd()) {
+    if (line.task == CommandLine::Task::Prompt && !left.empty()) {
         line.task = CommandLine::Task::Script;
-        line.script = left.take();
+        line.script = take(left);
     }
     if (line.asksForPrompt && line.task == CommandLine::Task::Script)
         throw UsageError("-i asks for a prompt: it goes with no script");
-    line.arguments = left.rest();
+    line.arguments.assign(left.begin(), left.end());
     return line;
 }
 

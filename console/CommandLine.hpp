@@ -15,7 +15,7 @@ struct CommandLine {
     std::vector<std::string> arguments; ///< the script's own
     std::vector<std::string> modules;   ///< files to load
     bool loadsBuiltIn = true;
-    bool isRestricted = false; ///< the script is a stranger's
+    bool isRestricted = false; ///< runs an untrusted script
     bool checksLeaks = false;
     bool reportsLeaks = false;
     bool asksForPrompt = false;

@@ -1,18 +1,18 @@
 #include "Console.hpp"
 
-#include "ArrayFunctions.hpp"
-#include "EnumerationFunction.hpp"
-#include "ErrorReport.hpp"
 #include "ExitCode.hpp"
-#include "HelpFunctions.hpp"
-#include "ModuleFunctions.hpp"
-#include "ObjectFunctions.hpp"
-#include "PackageBinding.hpp"
-#include "Prompt.hpp"
-#include "RestrictedLibraries.hpp"
-#include "ScriptError.hpp"
-#include "ScriptLibraries.hpp"
-#include "ScriptRunner.hpp"
+#include "arrays/ArrayFunctions.hpp"
+#include "bindings/EnumerationFunction.hpp"
+#include "bindings/ModuleFunctions.hpp"
+#include "bindings/ObjectBinding.hpp"
+#include "bindings/ObjectFunctions.hpp"
+#include "bindings/ProxyBinding.hpp"
+#include "help/HelpFunctions.hpp"
+#include "lua/ScriptError.hpp"
+#include "prompt/Prompt.hpp"
+#include "scripts/ErrorReport.hpp"
+#include "scripts/ScriptLibraries.hpp"
+#include "scripts/ScriptRunner.hpp"
 
 #include <cstdio>
 
@@ -34,17 +34,19 @@ void prepare(lua_State* L, Run const& run)
         openRestrictedLibraries(L);
     else {
         openScriptLibraries(L);
+        run.session.bindExit();
         bindModuleFunctions(L);
     }
     bindArrayFunctions(L);
+    bindObjectMembers(L);
     bindObjectFunctions(L);
     bindEnumerationFunction(L);
     bindHelpFunctions(L);
-    bindGlobals(L);
+    bindPublishedNames(L);
     if (!run.builtIn.empty())
-        run.session.hvm().loadModule(run.builtIn);
+        run.session.host().hvm().loadModule(run.builtIn);
     for (std::string const& file : run.line.modules)
-        run.session.hvm().loadModule(std::u8string(file.begin(), file.end()));
+        run.session.host().hvm().loadModule(std::u8string(file.begin(), file.end()));
 }
 
 bool runTask(lua_State* L, Run const& run)
@@ -83,7 +85,7 @@ int runConsole(Session& session, CommandLine const& line, std::filesystem::path 
     lua_pushcfunction(L, guarded<start>);
     lua_pushlightuserdata(L, &run);
     if (int const status = lua_pcall(L, 1, 0, 0); status != LUA_OK) {
-        std::fprintf(stderr, "%s\n", describeError(L, -1, status).c_str());
+        printReport(describeError(L, -1, status));
         return exitScriptError;
     }
     return run.exitCode;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "CommandLine.hpp"
 #include "Session.hpp"
 
 #include <filesystem>
@@ -8,7 +7,7 @@
 namespace velmara::console {
 
 /// Prepares the session (libraries, bindings, modules; `builtIn` where it is not empty), does the command line's task
-/// and gives the exit code.
+/// and returns the exit code.
 int runConsole(Session& session, CommandLine const& line, std::filesystem::path const& builtIn);
 
 } // namespace velmara::console

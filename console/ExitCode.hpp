@@ -2,7 +2,7 @@
 
 namespace velmara::console {
 
-/// What the console tells whoever started it.
+/// The exit codes of the process.
 enum ExitCode : int {
     exitSuccess = 0,
     exitScriptError = 1, ///< a script or a module failed

@@ -21,7 +21,8 @@ void occupyStandardStreams()
 {
     for (int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         if (fcntl(stream, F_GETFD) == -1)
-            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY); // the lowest number that is free
+            open("/dev/null",
+                 stream == STDIN_FILENO ? O_WRONLY : O_RDONLY); // opens the lowest free number, which is this one
 }
 #endif
 
@@ -33,7 +34,7 @@ int finishOutput(int code)
         return code;
     std::fprintf(stderr, "velmara: cannot write the output: %s\n",
                  errno != 0 ? std::strerror(errno) : "some of it was lost");
-    std::clearerr(stdout); // said once
+    std::clearerr(stdout); // so that it is reported once
     return code == exitSuccess ? exitOutput : code;
 }
 

@@ -2,12 +2,12 @@
 
 namespace velmara::console {
 
-/// To be called before a file is opened: where the process was started without a standard stream, no file takes its
-/// place, and what is printed there fails.
+/// Call before any file is opened: occupies the standard streams that the process was started without, so that no file
+/// gets their numbers. Printing to them fails.
 void occupyStandardStreams();
 
-/// Writes what is still to be written to standard output, of native code too. Where any output was lost, that is said
-/// on stderr, and a `code` of success becomes `exitOutput`.
+/// Flushes standard output, with what native code has printed. Returns `code`; where any output was lost it says so on
+/// stderr, and returns `exitOutput` instead of success.
 int finishOutput(int code);
 
 } // namespace velmara::console

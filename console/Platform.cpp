@@ -3,44 +3,28 @@
 #if defined(_WIN32)
 #include <windows.h>
 
-#include <io.h>
 #include <shellapi.h>
-#else
-#include <unistd.h>
 #endif
 
 namespace velmara::console {
 
+#if defined(_WIN32)
+
 namespace {
 
-#if defined(_WIN32)
+constexpr char const* modulePrefix = "";
+constexpr char const* moduleSuffix = ".dll";
+
 std::filesystem::path programPath()
 {
-    constexpr DWORD longestPath = 32768;
-    std::wstring path(longestPath, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), longestPath));
+    constexpr DWORD maxPathLength = 32768;
+    std::wstring path(maxPathLength, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), maxPathLength));
     return path;
 }
 
-std::string fileNameOf(std::string const& module)
-{
-    return module + ".dll";
-}
-#else
-std::filesystem::path programPath()
-{
-    return std::filesystem::read_symlink("/proc/self/exe");
-}
-
-std::string fileNameOf(std::string const& module)
-{
-    return "lib" + module + ".so";
-}
-#endif
-
 } // namespace
 
-#if defined(_WIN32)
 std::vector<std::string> commandLineWords(int, char**)
 {
     int count = 0;
@@ -54,28 +38,35 @@ std::vector<std::string> commandLineWords(int, char**)
     return result;
 }
 
-bool isInputTerminal()
-{
-    return _isatty(_fileno(stdin)) != 0;
-}
 #else
+
+namespace {
+
+constexpr char const* modulePrefix = "lib";
+constexpr char const* moduleSuffix = ".so";
+
+std::filesystem::path programPath()
+{
+    return std::filesystem::read_symlink("/proc/self/exe");
+}
+
+} // namespace
+
 std::vector<std::string> commandLineWords(int count, char** words)
 {
     return {words + std::min(count, 1), words + count};
 }
 
-bool isInputTerminal()
-{
-    return isatty(STDIN_FILENO) == 1;
-}
 #endif
 
 std::filesystem::path moduleBesideProgram(std::string const& name)
 {
     std::filesystem::path const folder = programPath().parent_path();
-    for (std::filesystem::path const& candidate : {folder, folder.parent_path() / VELMARA_LIBRARY_FOLDER})
-        if (std::filesystem::exists(candidate / fileNameOf(name)))
-            return candidate / fileNameOf(name);
+    for (std::filesystem::path const& candidate : {folder, folder.parent_path() / VELMARA_LIBRARY_FOLDER}) {
+        std::filesystem::path file = candidate / (modulePrefix + name + moduleSuffix);
+        if (std::filesystem::exists(file))
+            return file;
+    }
     return {};
 }
 

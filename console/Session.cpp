@@ -2,95 +2,74 @@
 
 #include "ExitCode.hpp"
 #include "Output.hpp"
-#include "ScriptError.hpp"
+#include "lua/ScriptError.hpp"
 
 #include "velmara/LiveCounts.hpp"
 
 #include <cstdio>
-#include <cstring>
+#include <cstdlib>
 #include <new>
 
 namespace velmara::console {
 
 namespace {
 
-void reportLeaksOf(Hvm& machine)
+LuaState createState()
 {
-    machine.reportLeaks([](std::string const& leak) { std::fprintf(stderr, "velmara: leak: %s\n", leak.c_str()); });
+    if (lua_State* const L = luaL_newstate())
+        return LuaState(L);
+    throw std::bad_alloc();
+}
+
+/// `os.exit(code)`. Upvalue 1 is the session.
+int exitProcess(lua_State* L)
+{
+    int code = exitSuccess;
+    if (lua_isboolean(L, 1))
+        code = lua_toboolean(L, 1) ? exitSuccess : exitScriptError;
+    else
+        code = static_cast<int>(luaL_optinteger(L, 1, exitSuccess));
+    if (HostContext::of(L).isClosing())
+        fail("ending", "os.exit: the script has ended already");
+    std::exit(static_cast<Session*>(lua_touserdata(L, lua_upvalueindex(1)))->finish(code));
 }
 
 } // namespace
 
-Session::Session() : lua_(luaL_newstate())
+Session::Session(CommandLine const& line)
+    : lua_(createState()),
+      host_(lua_.get(), line.reportsLeaks),
+      checksLeaks_(line.checksLeaks)
 {
-    if (!lua_)
-        throw std::bad_alloc();
-    machines_.push_back(makeMachine());
-    // Lua copies this space of the main thread into every coroutine.
-    Session* self = this;
-    std::memcpy(lua_getextraspace(lua_.get()), &self, sizeof self);
 }
 
-Session& Session::of(lua_State* L)
+void Session::bindExit()
 {
-    Session* session = nullptr;
-    std::memcpy(&session, lua_getextraspace(L), sizeof session);
-    return *session;
-}
-
-std::unique_ptr<Hvm> Session::makeMachine()
-{
-    auto machine = std::make_unique<Hvm>();
-    machine->reportTerminations([this](std::string const& module, char const* reason) {
-        std::fprintf(stderr, "velmara: module %s failed to terminate: %s\n", module.c_str(), reason);
-        hasFailed_ = true;
-    });
-    if (reportsLeaks_)
-        reportLeaksOf(*machine);
-    return machine;
-}
-
-Session::FreshMachine::FreshMachine(Session& session) : session_(session)
-{
-    auto machine = session.makeMachine();
-    for (ModuleRecord const& module : session.hvm().modules())
-        machine->loadModule(std::u8string(module.file.begin(), module.file.end()));
-    session.machines_.push_back(std::move(machine));
-}
-
-void Session::requireRunning() const
-{
-    if (isEnding())
-        fail("ending", "the script has ended: finalizers are given no objects and arrays any more");
+    lua_getglobal(lua(), LUA_OSLIBNAME);
+    lua_pushlightuserdata(lua(), this);
+    lua_pushcclosure(lua(), guarded<exitProcess>, 1);
+    lua_setfield(lua(), -2, "exit");
+    lua_pop(lua(), 1);
 }
 
 void Session::end()
 {
     if (lua_)
-        lua_resetthread(lua_.get()); // variables to be closed, while all still works
+        lua_resetthread(lua_.get()); // closes `<close>` variables while everything still works
+    host_.beginClosing();
     lua_.reset();
-    arrays_.shrink(0);
-    given_.clear();
-    while (!machines_.empty())
-        machines_.pop_back();
-}
-
-void Session::reportLeaks()
-{
-    reportsLeaks_ = true;
-    for (auto const& machine : machines_)
-        reportLeaksOf(*machine);
+    host_.clear();
 }
 
 int Session::finish(int code)
 {
     end();
-    if (hasFailed_ && code == exitSuccess)
+    if (host_.hasFailed() && code == exitSuccess)
         code = exitScriptError;
-    return finishOutput(findLeaks() ? exitLeaks : code);
+    return finishOutput(reportLeft() ? exitLeaks : code);
 }
 
-bool Session::findLeaks() const
+bool Session::reportLeft() const
 {
     if (!checksLeaks_)
         return false;

@@ -1,89 +1,42 @@
 #pragma once
 
-#include "ArrayStack.hpp"
-#include "GivenArrays.hpp"
-#include "LuaApi.hpp"
-
-#include "velmara/Hvm.hpp"
-
-#include <memory>
-#include <string>
-#include <vector>
+#include "CommandLine.hpp"
+#include "handles/HostContext.hpp"
+#include "lua/LuaApi.hpp"
 
 namespace velmara::console {
 
-/// One run of the console: a Lua state, the virtual machines that its script uses, and the host arrays on their way
-/// between the two or held by the script. They end in the one order in which every host object is given back before its
-/// machine ends.
+/// One run of the console: a Lua state and what it uses of the host, destroyed in the one order in which every host
+/// object is released before its virtual machine.
 class Session {
 public:
-    Session();
+    /// Takes from the command line whether leaks are reported and checked.
+    explicit Session(CommandLine const& line = {});
     Session(Session const&) = delete;
     Session& operator=(Session const&) = delete;
     ~Session() { end(); }
 
-    /// The session that a Lua state, or one of its coroutines, belongs to.
-    static Session& of(lua_State* L);
-
     lua_State* lua() const { return lua_.get(); }
-    ArrayStack& arrays() { return arrays_; }
-    GivenArrays& given() { return given_; }
+    HostContext& host() { return host_; }
 
-    /// The virtual machine in use: the innermost one.
-    Hvm& hvm() { return *machines_.back(); }
+    /// Replaces `os.exit` by one that ends the session before the process.
+    void bindExit();
 
-    /// Set for the next crossing: its result stays an array of the host.
-    bool& keepsNextArray() { return keepsNextArray_; }
-
-    /// While this lives a fresh virtual machine with the same modules is in use.
-    class FreshMachine {
-    public:
-        explicit FreshMachine(Session& session);
-        FreshMachine(FreshMachine const&) = delete;
-        FreshMachine& operator=(FreshMachine const&) = delete;
-        ~FreshMachine() { session_.machines_.pop_back(); }
-
-    private:
-        Session& session_;
-    };
-
-    /// True once the session has begun to end: only finalizers of the script run from then on.
-    bool isEnding() const { return !lua_; }
-
-    /// To be called before the script is given something of the host: throws an `Error` once the session is ending,
-    /// as Lua would not finalize it any more.
-    void requireRunning() const;
-
-    /// Closes the Lua state, then ends the machines. Done once; safe inside a running script that is never
-    /// returned to.
+    /// Closes the Lua state, then destroys the virtual machines; later calls do nothing. Safe inside a running script
+    /// that is never returned to.
     void end();
 
-    /// Asks for a check at the end of the run that nothing of the host is left.
-    void checkLeaks() { checksLeaks_ = true; }
-
-    /// Has what native code leaves in a virtual machine reported on stderr as that ends. To be asked for before modules
-    /// are loaded.
-    void reportLeaks();
-
-    /// Ends the session and gives the exit code: `code`, or that of what went wrong beside it: a module that fails at
-    /// the end, leaks where they are checked, lost output.
+    /// Ends the session and returns the exit code: `code`, or that of what went wrong besides: a module that failed to
+    /// terminate, leaks where they are checked, lost output.
     int finish(int code);
 
 private:
-    /// A virtual machine that reports what goes wrong at its end.
-    std::unique_ptr<Hvm> makeMachine();
+    /// Reports what is left of the host, where that is to be checked; true when there is something.
+    bool reportLeft() const;
 
-    /// Reports what is left of the host, where that was asked for.
-    bool findLeaks() const;
-
-    std::vector<std::unique_ptr<Hvm>> machines_;
-    ArrayStack arrays_;
-    GivenArrays given_;
     LuaState lua_;
-    bool hasFailed_ = false; ///< a module did, at the end of its virtual machine
-    bool checksLeaks_ = false;
-    bool reportsLeaks_ = false;
-    bool keepsNextArray_ = false;
+    HostContext host_;
+    bool checksLeaks_;
 };
 
 } // namespace velmara::console

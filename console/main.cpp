@@ -2,6 +2,7 @@
 #include "ExitCode.hpp"
 #include "Output.hpp"
 #include "Platform.hpp"
+#include "prompt/LineReader.hpp"
 
 #include <cstdio>
 
@@ -20,11 +21,7 @@ int run(CommandLine line)
         line.task = Task::Script;
         line.script = "-";
     }
-    Session session;
-    if (line.checksLeaks)
-        session.checkLeaks();
-    if (line.reportsLeaks)
-        session.reportLeaks();
+    Session session(line);
     return session.finish(
         runConsole(session, line, line.loadsBuiltIn ? moduleBesideProgram("orbis_factory") : std::filesystem::path()));
 }

@@ -2,10 +2,10 @@
 #include "faults.hpp"
 
 #include "Console.hpp"
-#include "ScriptError.hpp"
-#include "ScriptRunner.hpp"
 #include "Session.hpp"
-#include "ValueToHost.hpp"
+#include "lua/ScriptError.hpp"
+#include "scripts/ScriptRunner.hpp"
+#include "values/ValueToHost.hpp"
 
 #include "velmara/LiveCounts.hpp"
 
@@ -109,7 +109,7 @@ public:
 
     std::string check()
     {
-        velmara::Hvm::Scope const scope(session_.hvm());
+        velmara::Hvm::Scope const scope(session_.host().hvm());
         return orbis::factory::check();
     }
 

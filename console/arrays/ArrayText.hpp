@@ -1,0 +1,15 @@
+#pragma once
+
+#include "lua/LuaApi.hpp"
+
+#include "libhv/hvArray.hpp"
+
+#include <string>
+
+namespace velmara::console {
+
+/// The result of `tostring` for a host array: a single number, text or logical itself; else size and class, followed by
+/// the first rows and columns, aligned. Runs no code of the script.
+std::string arrayText(lua_State* L, hvArray_tag const& array);
+
+} // namespace velmara::console

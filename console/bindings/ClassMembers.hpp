@@ -1,0 +1,31 @@
+#pragma once
+
+#include "lua/LuaApi.hpp"
+
+#include <string_view>
+
+namespace velmara::console {
+
+enum class MemberKind { Callable, Property, StaticProperty, Enumerator };
+
+/// Finds the member `name` of a class. Pushes the function of a callable one, which takes the object first, or none for
+/// a static method; pushes nothing for a property or an enumerator. Results are cached in the Lua state: whether the
+/// member still exists, the host checks at each use.
+///
+/// Throws an `Error` that names what is missing, and what comes close to it.
+MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name);
+
+/// Whether the property `name` of a class is static. Throws an `Error` when it is no property.
+MemberKind checkProperty(lua_State* L, std::string_view className, std::string_view name);
+
+/// Pushes the cache of the class: a table with a function under the name of each callable member that was found.
+void pushMemberCache(lua_State* L, std::string_view className);
+
+/// Pushes the function that calls the package function of that full name.
+void pushPackageFunction(lua_State* L, std::string_view fullName);
+
+/// What a function pushed by one of the above calls: its full name ("PACKAGE.CLASS.MEMBER" for a member), or
+/// empty for any other value.
+std::string_view calledName(lua_State* L, int index);
+
+} // namespace velmara::console

@@ -1,0 +1,92 @@
+#include "bindings/ObjectFunctions.hpp"
+
+#include "bindings/ObjectListing.hpp"
+#include "handles/HostArray.hpp"
+#include "handles/HostObject.hpp"
+#include "handles/Proxy.hpp"
+#include "handles/ValueText.hpp"
+#include "lua/ScriptError.hpp"
+#include "values/HostCall.hpp"
+#include "values/ValueToHost.hpp"
+
+#include <string>
+
+namespace velmara::console {
+
+namespace {
+
+std::string classOfName(HostContext& context, std::string const& name)
+{
+    switch (context.hvm().lookUp(name)) {
+    case NameKind::Package:
+        return "package";
+    case NameKind::Class:
+        return name;
+    default:
+        fail("unknownName", name + " is not published any more");
+    }
+}
+
+std::string classOfValue(lua_State* L)
+{
+    try {
+        return className(toHost(L, 1).get());
+    } catch (Error const&) {
+        return luaL_typename(L, 1);
+    }
+}
+
+/// The host's class of a value; Lua's type for what cannot be passed to the host.
+int classOf(lua_State* L)
+{
+    luaL_checkany(L, 1);
+    if (isObject(L, 1))
+        pushText(L, objectClass(L, 1));
+    else if (auto const name = proxyName(L, 1); !name.empty())
+        pushText(L, classOfName(HostContext::of(L), std::string(name)));
+    else
+        pushText(L, lua_isnil(L, 1) ? "nil" : classOfValue(L));
+    return 1;
+}
+
+/// Destroys an object, or the objects in a table or an array, now.
+int deleteObjects(lua_State* L)
+{
+    if (!isObject(L, 1) && !isHostArray(L, 1) && (!lua_istable(L, 1) || !proxyName(L, 1).empty()))
+        fail("noObject", "delete needs an object, not " + kindAt(L, 1));
+    lua_settop(L, 1);
+    HostCall call(L);
+    hvArray_tag* objects = call.inputs(1).front();
+    if (objects->_get_class_id_non_trivial() != hvOBJECT_CLASS && objects->get_number_of_elements() != 0)
+        fail("noObject", "delete needs an object, or a table or an array of objects with a class in common");
+    if (objects->get_number_of_elements() != 0)
+        call.hvm().deleteObjects(objects);
+    return 0;
+}
+
+int isValidValue(lua_State* L)
+{
+    luaL_checkany(L, 1);
+    bool result = false;
+    if (isObject(L, 1))
+        result = isValidObject(L, 1);
+    else if (isHostArray(L, 1))
+        result = isValid(testHostArray(L, 1));
+    else if (auto const name = proxyName(L, 1); !name.empty())
+        result = HostContext::of(L).hvm().lookUp(name) != NameKind::None;
+    lua_pushboolean(L, result);
+    return 1;
+}
+
+} // namespace
+
+void bindObjectFunctions(lua_State* L)
+{
+    lua_register(L, "class", guarded<classOf>);
+    lua_register(L, "delete", guarded<deleteObjects>);
+    lua_register(L, "isvalid", guarded<isValidValue>);
+    lua_register(L, "objects", guarded<listObjects>);
+    lua_register(L, "references", guarded<listReferences>);
+}
+
+} // namespace velmara::console

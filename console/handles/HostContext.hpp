@@ -1,0 +1,75 @@
+#pragma once
+
+#include "handles/ArrayStack.hpp"
+#include "handles/HeldArrays.hpp"
+#include "lua/LuaApi.hpp"
+
+#include "velmara/Hvm.hpp"
+
+#include <memory>
+#include <vector>
+
+namespace velmara::console {
+
+/// What a Lua state uses of the host: virtual machines, and the host arrays that are in transit between the two or held
+/// by values of the script.
+class HostContext {
+public:
+    /// Makes `of` find this context from the state, which must be closed before `clear`. With `reportsLeaks`, what
+    /// native code leaves in a virtual machine is reported on stderr when that is destroyed.
+    HostContext(lua_State* L, bool reportsLeaks);
+    HostContext(HostContext const&) = delete;
+    HostContext& operator=(HostContext const&) = delete;
+
+    /// The context of a Lua state or of one of its coroutines.
+    static HostContext& of(lua_State* L);
+
+    ArrayStack& arrays() { return arrays_; }
+    HeldArrays& heldArrays() { return heldArrays_; }
+
+    /// The virtual machine in use: the innermost one.
+    Hvm& hvm() { return *machines_.back(); }
+
+    /// Set for the next call: its result stays an array of the host.
+    bool& keepsNextArray() { return keepsNextArray_; }
+
+    /// Puts a fresh virtual machine with the same modules into use, for its own lifetime.
+    class FreshMachine {
+    public:
+        explicit FreshMachine(HostContext& context);
+        FreshMachine(FreshMachine const&) = delete;
+        FreshMachine& operator=(FreshMachine const&) = delete;
+        ~FreshMachine() { context_.machines_.pop_back(); }
+
+    private:
+        HostContext& context_;
+    };
+
+    /// From now on only finalizers of the script run.
+    void beginClosing() { isClosing_ = true; }
+    bool isClosing() const { return isClosing_; }
+
+    /// Call before giving the script a value that owns something of the host: throws an `Error` when the state is
+    /// closing, as Lua would not finalize the value any more.
+    void requireOpen() const;
+
+    /// Releases all arrays, then destroys the virtual machines. No value of the script may be alive.
+    void clear();
+
+    /// True when a module has failed to terminate.
+    bool hasFailed() const { return hasFailed_; }
+
+private:
+    /// A virtual machine that reports modules that fail to terminate, and leaks where asked for.
+    std::unique_ptr<Hvm> createMachine();
+
+    std::vector<std::unique_ptr<Hvm>> machines_;
+    ArrayStack arrays_;
+    HeldArrays heldArrays_;
+    bool hasFailed_ = false;
+    bool isClosing_ = false;
+    bool reportsLeaks_;
+    bool keepsNextArray_ = false;
+};
+
+} // namespace velmara::console

@@ -1,0 +1,139 @@
+#include "handles/HostObject.hpp"
+
+#include "handles/HostContext.hpp"
+#include "handles/ValueText.hpp"
+#include "lua/CachedValue.hpp"
+#include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
+
+#include "additions/additions.hpp"
+#include "orbis/objectArrays.hpp"
+
+#include <new>
+#include <string>
+
+namespace velmara::console {
+
+namespace {
+
+// Their addresses are keys: of the mark in an object's metatable, and of what completes metatables in the registry.
+char const objectMark = 0;
+char const completionKey = 0;
+
+using Holder = HeldArrays::Holder;
+
+Holder* holderAt(lua_State* L, int index)
+{
+    if (!isObject(L, index))
+        fail("noObject", kindAt(L, index) + " is no object");
+    return static_cast<Holder*>(lua_touserdata(L, index));
+}
+
+int releaseObject(lua_State* L)
+{
+    HostContext::of(L).heldArrays().release(*holderAt(L, 1)).reset();
+    return 0;
+}
+
+/// The name of the enumerator at `index`; null for other objects.
+char const* enumeratorName(lua_State* L, int index)
+{
+    hvArray_tag const* const array = holderAt(L, index)->array;
+    auto const* const enumerator =
+        array ? orbis::additions::describeEnumerator(orbis::omGetArrayElement(array, 0)) : nullptr;
+    return enumerator ? enumerator->name : nullptr;
+}
+
+int objectText(lua_State* L)
+{
+    if (char const* name = enumeratorName(L, 1)) {
+        pushText(L, name);
+        return 1;
+    }
+    char const* state = isValidObject(L, 1) ? "" : "invalid ";
+    pushText(L, state + std::string(objectClass(L, 1)) + " object");
+    return 1;
+}
+
+int compareObjects(lua_State* L)
+{
+    bool const areHeld = isObject(L, 1) && isObject(L, 2) && holderAt(L, 1)->array && holderAt(L, 2)->array;
+    lua_pushboolean(L, areHeld && isSameObject(holderAt(L, 1)->array, holderAt(L, 2)->array));
+    return 1;
+}
+
+void pushMetatable(lua_State* L, std::string_view className)
+{
+    pushCached(L, "velmara.classes", className, [&] {
+        lua_newtable(L);
+        setField(L, "__gc", guarded<releaseObject>);
+        setField(L, "__close", guarded<releaseObject>);
+        setField(L, "__eq", guarded<compareObjects>);
+        setField(L, "__tostring", guarded<objectText>);
+        setField(L, "__name", className);
+        setField(L, "__metatable", className);
+        lua_pushboolean(L, true);
+        lua_rawsetp(L, -2, &objectMark);
+        lua_rawgetp(L, LUA_REGISTRYINDEX, &completionKey);
+        lua_pushvalue(L, -2);
+        pushText(L, className);
+        lua_call(L, 2, 0);
+    });
+}
+
+} // namespace
+
+void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index)
+{
+    HostContext::of(L).requireOpen();
+    luaL_checkstack(L, 10, nullptr);
+    ArrayStack::Frame frame(HostContext::of(L).arrays());
+    hvArray_tag* scalar = frame.push(ArrayPtr(orbis::omCreateORBISScalar(orbis::omGetArrayElement(array, index))));
+    if (scalar->get_number_of_elements() == 0)
+        return lua_pushnil(L);
+    auto* holder = new (lua_newuserdatauv(L, sizeof(Holder), 0)) Holder;
+    pushMetatable(L, className(scalar));
+    lua_setmetatable(L, -2);
+    scalar->add_reference();
+    HostContext::of(L).heldArrays().hold(*holder, ArrayPtr(scalar));
+}
+
+void completeMetatablesWith(lua_State* L, lua_CFunction complete)
+{
+    lua_pushcfunction(L, complete);
+    lua_rawsetp(L, LUA_REGISTRYINDEX, &completionKey);
+}
+
+bool isObject(lua_State* L, int index)
+{
+    if (lua_type(L, index) != LUA_TUSERDATA || !lua_getmetatable(L, index))
+        return false;
+    bool const isMarked = lua_rawgetp(L, -1, &objectMark) != LUA_TNIL;
+    lua_pop(L, 2);
+    return isMarked;
+}
+
+hvArray_tag* checkObject(lua_State* L, int index)
+{
+    Holder const* holder = holderAt(L, index);
+    if (!holder->array)
+        fail("closed", "this object of " + std::string(objectClass(L, index)) + " was given back");
+    return holder->array;
+}
+
+std::string_view objectClass(lua_State* L, int index)
+{
+    holderAt(L, index);
+    luaL_getmetafield(L, index, "__name");
+    std::string_view const name = textAt(L, -1);
+    lua_pop(L, 1); // the metatable still holds it
+    return name;
+}
+
+bool isValidObject(lua_State* L, int index)
+{
+    Holder const* holder = holderAt(L, index);
+    return holder->array && isValid(holder->array);
+}
+
+} // namespace velmara::console

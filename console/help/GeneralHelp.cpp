@@ -1,0 +1,69 @@
+#include "help/GeneralHelp.hpp"
+
+namespace velmara::console {
+
+char const* const generalHelp = R"(velmara runs Lua 5.4 scripts that use the classes of native modules.
+
+  a = package.Class(1, 2)     make an object
+  a:method(1, 2)              call a method of it
+  a.property = 3              read and set a property
+  package.Class.method()      call a static method; likewise a package function
+  package.Class.property      read and set a static property
+  package.Enumeration.Name    an enumerator; its name in quotes, or its number,
+                              can be passed in its place
+  a == b                      true when both are the same object
+  local a <close> = ...       give the object back at the end of the block
+
+  help(x) methods(x) properties(x)   on a package, a class, an object, a name
+  class(x) isvalid(x) delete(x)      the class of x; is it alive; end it now
+  objects()                          all live objects: owners, references
+  references(x)                      what the properties of x refer to
+  modules() loadmodule(path) unloadmodule(name)     these and withvm are not
+  withvm(function, ...)              there with --restricted; calls the function
+                                     in a virtual machine of its own
+  enumeration("package.Name", {"A", "B", {"C", 7}})   define an enumeration
+
+Errors are caught with pcall: a table with identifier, text and where.
+
+Values to a module                   and back
+  number, integer to 2^53  double      double, single, one   float
+  greater integer          int64       int8 ... uint64, one  integer
+  boolean                  logical     logical, one          boolean
+  string (UTF-8)           char row    char row              string
+  {1, 2}  {true, false}    row         double, logical row   {1, 2}
+  {{1, 2}, {3, 4}}         matrix      double, logical       {{1, 2}, {3, 4}}
+  a                        object      one object            a
+  {a, b} of one base class object row  0-by-0 object, none   nil
+  any other sequence       cell row    0-by-0 double; char   {}; ""
+  null in a table          empty cell  anything else         array
+  missing                  string      (also one uint64 from 2^63 on)
+  nil, null, {}            0-by-0
+Tables must be sequences (keys 1 to n), nested at most 200 deep, a million in
+all. Each ill-formed part of a text becomes U+FFFD.
+
+Arrays of the host are values of their own, of every class and size:
+  array(class, values)               of exactly that class, or an error
+  array(class, values, m, n)         m-by-n: the values in column order, or one
+                                     value for all elements
+  a[k]  a[{i, j}]  #a                element k in column order, or of row i and
+                                     column j; can be set; how many there are
+  ipairs(a)  a == b  tostring(a)     equal: class, size and every element
+  size(x)  class(x)                  of any value, as the host sees it
+  tolua(a)                           all of it as tables, strings, numbers
+  asarray(f, ...)                    calls a method or function of the host, or
+  asarray(a, "property")             reads a property: always an array
+
+The class is "double", "single", "int8" ... "uint64", "logical", "char",
+"string", "cell" or a published class. Values are a sequence (a row), a
+sequence of sequences (a matrix), another array, or one value:
+  array("int32", {{1, 2}, {3, 4}})   array("single", 0, 2, 3)
+  array("char", {"ab", "cd"})        array("char", {0x61, 0xD800})
+  array("string", {"a", missing})    array("cell", {1, null, {2, "b"}}, 3, 1)
+  array(package.Class, {a, null})    array("uint64", "18446744073709551615")
+Numbers must fit exactly; only fractions are rounded, to single. Text becomes
+char, and char numbers, by UTF-16 units: these keep what is ill-formed. An
+array, or what is made for one call, takes at most 1 GB.
+
+)";
+
+} // namespace velmara::console

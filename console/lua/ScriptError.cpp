@@ -1,0 +1,74 @@
+#include "lua/ScriptError.hpp"
+
+#include "lua/CachedValue.hpp"
+#include "lua/ScriptFrames.hpp"
+#include "lua/Table.hpp"
+
+#include "velmara/Error.hpp"
+
+#include "libkwfl/IMsgIDException.hpp"
+#include "libkwi18n/libkwi18n.hpp"
+
+#include <exception>
+#include <new>
+
+namespace velmara::console {
+
+namespace {
+
+int errorToText(lua_State* L)
+{
+    luaL_checktype(L, 1, LUA_TTABLE);
+    pushText(L, fieldText(L, 1, "identifier") + ": " + fieldText(L, 1, "text"));
+    return 1;
+}
+
+} // namespace
+
+void pushError(lua_State* L, std::string_view identifier, std::string_view text)
+{
+    luaL_checkstack(L, 6, nullptr);
+    lua_createtable(L, 0, 3);
+    setField(L, "identifier", identifier);
+    setField(L, "text", text);
+    if (auto const frames = scriptFrames(L, 0, 1); !frames.empty())
+        setField(L, "where", frames.front().position);
+    pushNamedMetatable(L, "velmara.error", [L] { setField(L, "__tostring", guarded<errorToText>); });
+    lua_setmetatable(L, -2);
+}
+
+bool isError(lua_State* L, int index)
+{
+    if (!lua_istable(L, index))
+        return false;
+    index = lua_absindex(L, index);
+    lua_pushliteral(L, "identifier");
+    bool result = lua_rawget(L, index) == LUA_TSTRING;
+    lua_pushliteral(L, "text");
+    result = lua_rawget(L, index) == LUA_TSTRING && result;
+    lua_pop(L, 2);
+    return result;
+}
+
+void fail(std::string_view key, std::string const& text)
+{
+    throw Error("VELMARA:console:" + std::string(key), text);
+}
+
+int callGuarded(lua_State* L, lua_CFunction body)
+{
+    try {
+        return body(L);
+    } catch (Error const& error) {
+        pushError(L, error.identifier(), error.text());
+    } catch (foundation::core::except::IMsgIDException const& error) {
+        pushError(L, error.getErrorID(), fl::i18n::to_string(error.GetUnicodeMessageTxt()));
+    } catch (std::bad_alloc const&) {
+        pushError(L, Error::outOfMemory().identifier(), Error::outOfMemory().text());
+    } catch (std::exception const& error) {
+        pushError(L, "VELMARA:console:internal", error.what());
+    } // no `catch (...)`: Lua's own errors must reach Lua
+    return lua_error(L);
+}
+
+} // namespace velmara::console

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "lua/LuaApi.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace velmara::console {
+
+/// What a script catches for a failure in the host or in the console: a table with `identifier`, `text` and `where`
+/// ("FILE:LINE" of the call), which prints as "identifier: text".
+void pushError(lua_State* L, std::string_view identifier, std::string_view text);
+
+/// True when the value at `index` is a table with the texts `identifier` and `text`.
+bool isError(lua_State* L, int index);
+
+/// Throws the console's own `velmara::Error` "VELMARA:console:KEY".
+[[noreturn]] void fail(std::string_view key, std::string const& text);
+
+/// Calls `body`; what it throws becomes a Lua error. Lua's own errors pass through untouched.
+int callGuarded(lua_State* L, lua_CFunction body);
+
+/// `Body` as a function for Lua: no C++ exception leaves it.
+template <lua_CFunction Body>
+int guarded(lua_State* L)
+{
+    return callGuarded(L, Body);
+}
+
+} // namespace velmara::console

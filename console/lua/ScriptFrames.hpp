@@ -1,0 +1,21 @@
+#pragma once
+
+#include "lua/LuaApi.hpp"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace velmara::console {
+
+/// A running function of the script.
+struct ScriptFrame {
+    std::string position; ///< "FILE:LINE"
+    std::string function; ///< its name where it has one
+};
+
+/// The script's running functions, innermost first, from `level` on; functions that are not the script's are left
+/// out. At maxFrames `maxFrames` of them.
+std::vector<ScriptFrame> scriptFrames(lua_State* L, int level, std::size_t maxFrames);
+
+} // namespace velmara::console

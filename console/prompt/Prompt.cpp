@@ -1,0 +1,98 @@
+#include "prompt/Prompt.hpp"
+
+#include "lua/ScriptError.hpp"
+#include "prompt/DisplayText.hpp"
+#include "prompt/LineReader.hpp"
+#include "scripts/ErrorReport.hpp"
+#include "scripts/Interruption.hpp"
+#include "scripts/ScriptRunner.hpp"
+
+#include <cstdio>
+#include <string>
+
+namespace velmara::console {
+
+namespace {
+
+constexpr char const* chunkName = "=prompt";
+
+/// Pushes the input as a function, compiled as an expression if possible, else as statements; or the error.
+int load(lua_State* L, std::string const& input)
+{
+    std::string const expression = input.starts_with('=') ? input.substr(1) : input;
+    if (loadScript(L, "return " + expression, chunkName) == LUA_OK)
+        return LUA_OK;
+    lua_pop(L, 1);
+    return loadScript(L, input, chunkName);
+}
+
+bool isUnfinished(lua_State* L, int status)
+{
+    return status == LUA_ERRSYNTAX && textAt(L, -1).ends_with("<eof>");
+}
+
+/// Reads lines until they form a chunk, and pushes its function; reports an error instead. False at end of input.
+bool readChunk(lua_State* L, LineReader& reader)
+{
+    std::optional<std::string> const first = reader.read("> ");
+    if (!first)
+        return false;
+    std::string input = *first;
+    int status = load(L, input);
+    while (isUnfinished(L, status)) {
+        std::optional<std::string> const next = reader.read(">> ");
+        if (!next)
+            break;
+        lua_pop(L, 1);
+        input += '\n' + *next;
+        status = load(L, input);
+    }
+    if (status == LUA_OK)
+        return true;
+    printReport(describeError(L, -1, status));
+    lua_pop(L, 1);
+    return true;
+}
+
+int show(lua_State* L)
+{
+    int const count = lua_gettop(L);
+    std::string line;
+    for (int i = 1; i <= count; ++i)
+        line += (i > 1 ? "\t" : "") + displayText(L, i);
+    line += '\n';
+    std::fwrite(line.data(), 1, line.size(), stdout);
+    return 0;
+}
+
+void runChunk(lua_State* L, int base)
+{
+    Interruption const interruption(L);
+    if (!callScript(L, 0))
+        return;
+    int const results = lua_gettop(L) - base;
+    if (results == 0)
+        return;
+    lua_pushcfunction(L, guarded<show>);
+    lua_insert(L, base + 1);
+    callScript(L, results);
+}
+
+} // namespace
+
+void runPrompt(lua_State* L)
+{
+    bindCoroutineFunctions(L);
+    LineReader reader(L);
+    std::puts("velmara: help() tells what there is; end with Ctrl-D.");
+    int const base = lua_gettop(L);
+    while (readChunk(L, reader)) {
+        if (lua_gettop(L) > base)
+            runChunk(L, base);
+        lua_settop(L, base);
+        std::fflush(stdout);
+    }
+    std::puts("");
+}
+
+} // namespace velmara::console

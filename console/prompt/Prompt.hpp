@@ -1,0 +1,11 @@
+#pragma once
+
+#include "lua/LuaApi.hpp"
+
+namespace velmara::console {
+
+/// Reads and runs input until its end: shows the values of expressions, continues unfinished statements on the next
+/// line, reports failures and goes on.
+void runPrompt(lua_State* L);
+
+} // namespace velmara::console

@@ -1,0 +1,121 @@
+#include "scripts/ErrorReport.hpp"
+
+#include "help/Completion.hpp"
+#include "lua/ScriptError.hpp"
+#include "lua/ScriptFrames.hpp"
+#include "lua/Table.hpp"
+#include "text/CloseMatches.hpp"
+
+#include "velmara/Error.hpp"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+
+namespace velmara::console {
+
+namespace {
+
+/// An error in the form that is shown.
+struct Report {
+    std::string identifier;
+    std::string text;
+    std::string position; ///< "FILE:LINE", when the error itself has it
+};
+
+/// The length of "FILE:LINE" in front of a text, where Lua puts it; 0 where there is none.
+std::size_t positionLength(std::string const& text)
+{
+    auto const isDigit = [](unsigned char c) { return std::isdigit(c) != 0; };
+    for (std::size_t end = text.find(": "); end != text.npos; end = text.find(": ", end + 1)) {
+        std::size_t const colon = text.rfind(':', end - 1);
+        if (end > 0 && colon != text.npos && colon + 1 < end &&
+            std::all_of(text.begin() + static_cast<std::ptrdiff_t>(colon) + 1,
+                        text.begin() + static_cast<std::ptrdiff_t>(end), isDigit))
+            return end;
+    }
+    return 0;
+}
+
+int convertToText(lua_State* L)
+{
+    luaL_tolstring(L, 1, nullptr);
+    return 1;
+}
+
+/// The text of any error value; a fixed text when its `__tostring` fails.
+std::string textOf(lua_State* L, int index)
+{
+    lua_pushcfunction(L, convertToText);
+    lua_pushvalue(L, index);
+    bool const isText = lua_pcall(L, 1, 1, 0) == LUA_OK;
+    std::string text(isText ? textAt(L, -1) : std::string_view("error without a text"));
+    lua_pop(L, 1);
+    return text;
+}
+
+/// "; did you mean ...?" for Lua's error on a global that is nil; empty for other errors.
+std::string suggestion(lua_State* L, std::string const& text)
+{
+    constexpr std::string_view before = "a nil value (global '";
+    std::size_t const start = text.find(before);
+    if (start == text.npos || !text.ends_with("')"))
+        return {};
+    std::size_t const name = start + before.size();
+    return didYouMean(text.substr(name, text.size() - 2 - name), completions(L, ""));
+}
+
+Report reportOf(lua_State* L, int index, std::string const& identifier)
+{
+    if (isError(L, index))
+        return {fieldText(L, index, "identifier"), fieldText(L, index, "text"), fieldText(L, index, "where")};
+    Report report{identifier, textOf(L, index), {}};
+    if (std::size_t const length = lua_isstring(L, index) ? positionLength(report.text) : 0) {
+        report.position = report.text.substr(0, length);
+        report.text.erase(0, length + 2);
+        report.text += suggestion(L, report.text);
+    }
+    return report;
+}
+
+std::string format(Report const& report, std::vector<ScriptFrame> const& frames, std::size_t maxFrames)
+{
+    std::string text = report.identifier + ": " + report.text;
+    if (!report.position.empty() && (frames.empty() || frames.front().position != report.position))
+        text += "\n  at " + report.position;
+    for (std::size_t i = 0; i < std::min(frames.size(), maxFrames); ++i) {
+        text += "\n  at " + frames[i].position;
+        if (!frames[i].function.empty())
+            text += " in " + frames[i].function;
+    }
+    return frames.size() > maxFrames ? text + "\n  ..." : text;
+}
+
+} // namespace
+
+int reportError(lua_State* L)
+{
+    constexpr std::size_t maxFrames = 8;
+    luaL_checkstack(L, 10, nullptr);
+    lua_settop(L, 1);
+    pushText(L, format(reportOf(L, 1, "VELMARA:script:error"), scriptFrames(L, 1, maxFrames + 1), maxFrames));
+    return 1;
+}
+
+std::string describeError(lua_State* L, int index, int status)
+{
+    index = lua_absindex(L, index);
+    std::string const identifier = status == LUA_ERRSYNTAX ? "VELMARA:script:syntax"
+                                   : status == LUA_ERRMEM  ? Error::outOfMemory().identifier()
+                                                           : "VELMARA:script:error";
+    return format(reportOf(L, index, identifier), {}, 0);
+}
+
+void printReport(std::string_view text)
+{
+    std::fflush(stdout);
+    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
+    std::fflush(stderr);
+}
+
+} // namespace velmara::console

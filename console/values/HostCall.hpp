@@ -1,0 +1,40 @@
+#pragma once
+
+#include "handles/ArrayStack.hpp"
+#include "handles/HostContext.hpp"
+
+#include <utility>
+
+namespace velmara::console {
+
+/// One call from a script to the host: converts the Lua function's arguments to inputs, pushes the result, and releases
+/// all arrays of the call at its end.
+class HostCall {
+public:
+    explicit HostCall(lua_State* L)
+        : L_(L),
+          host_(HostContext::of(L)),
+          frame_(host_.arrays()),
+          keepsArray_(std::exchange(host_.keepsNextArray(), false))
+    {
+    }
+
+    Hvm& hvm() { return host_.hvm(); }
+
+    /// Shares ownership of an array for the length of the call: the script may release it meanwhile.
+    hvArray_tag* share(hvArray_tag* array);
+
+    /// The host arrays for the function's arguments from the `first` on. Call once.
+    Hvm::Inputs inputs(int first);
+
+    /// Pushes the result, where there is one; returns the number of values pushed.
+    int finish(ArrayPtr result);
+
+private:
+    lua_State* L_;
+    HostContext& host_;
+    ArrayStack::Frame frame_;
+    bool keepsArray_;
+};
+
+} // namespace velmara::console

@@ -1,0 +1,42 @@
+#include "values/HostText.hpp"
+
+#include "additions/additions.hpp"
+#include "libkwi18n/libkwi18n.hpp"
+#include "string_matrix/string_matrix.hpp"
+
+namespace velmara::console {
+
+std::string toUtf8(std::u16string_view text)
+{
+    return fl::i18n::to_string(std::u16string(text));
+}
+
+std::u16string hostTextAt(lua_State* L, int index)
+{
+    return fl::i18n::to_ustring(std::string(textAt(L, index)));
+}
+
+std::u16string rowOf(hvArray_tag const& characters, std::size_t row)
+{
+    auto const* const data = static_cast<char16_t const*>(orbis::additions::getData(&characters));
+    std::size_t const rows = characters.get_dimensions()[0];
+    std::u16string text(rows == 0 ? 0 : characters.get_dimensions()[1], u'\0');
+    for (std::size_t column = 0; column < text.size(); ++column)
+        text[column] = data[column * rows + row];
+    return text;
+}
+
+std::optional<std::u16string_view> stringAt(hvArray_tag const& strings, std::size_t index)
+{
+    auto const& view = Tarnwick::String::getString(&strings);
+    if (view.isMissing(index))
+        return std::nullopt;
+    return std::u16string_view(view.getText(index), view.getLength(index));
+}
+
+void storeString(hvArray_tag* strings, std::size_t index, std::optional<std::u16string_view> text)
+{
+    text ? orbis::additions::setString(strings, index, *text) : orbis::additions::setMissing(strings, index);
+}
+
+} // namespace velmara::console

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "lua/LuaApi.hpp"
+
+#include <cstddef>
+
+namespace velmara::console {
+
+/// What the elements of a sequence have in common.
+struct Elements {
+    enum Kind : unsigned { Numbers = 1, Integers = 2, ExactDoubles = 4, Booleans = 8, Objects = 16, Tables = 32 };
+
+    std::size_t count = 0;
+    unsigned kinds = ~0U; ///< each `Kind` that all of them are
+
+    bool are(unsigned kind) const { return (kinds & kind) != 0; }
+    bool areScalars() const { return count > 0 && are(Numbers | Booleans); }
+};
+
+/// Visits all pairs of the table at the absolute `table`, ignoring its metatable. Throws an `Error` when it is no
+/// sequence: when a key is not a positive integer, or one is missing.
+Elements elementsOf(lua_State* L, int table);
+
+} // namespace velmara::console

@@ -1,0 +1,80 @@
+#include "values/ValueToHost.hpp"
+
+#include "handles/HostArray.hpp"
+#include "handles/HostObject.hpp"
+#include "handles/Sentinel.hpp"
+#include "handles/ValueText.hpp"
+#include "lua/ScriptError.hpp"
+#include "values/HostText.hpp"
+#include "values/TableToHost.hpp"
+
+#include "velmara/Hvm.hpp"
+
+#include "additions/additions.hpp"
+#include "libhv/libhv.hpp"
+
+namespace velmara::console {
+
+namespace {
+
+template <class T>
+ArrayPtr scalar(T value, hvClassID classID)
+{
+    return ArrayPtr(orbis::additions::createMatrix(1, 1, classID, &value));
+}
+
+ArrayPtr emptyArray()
+{
+    return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+}
+
+ArrayPtr number(lua_State* L, int index)
+{
+    if (!lua_isinteger(L, index))
+        return scalar(lua_tonumber(L, index), hvDOUBLE_CLASS);
+    lua_Integer const value = lua_tointeger(L, index);
+    if (isInExactRange(value))
+        return scalar(static_cast<double>(value), hvDOUBLE_CLASS);
+    return scalar<std::int64_t>(value, hvINT64_CLASS);
+}
+
+ArrayPtr userdata(lua_State* L, int index)
+{
+    if (isNull(L, index))
+        return emptyArray();
+    if (isMissing(L, index))
+        return ArrayPtr(orbis::additions::createStringMatrix(1, 1));
+    if (isObject(L, index)) {
+        hvArray_tag* const object = checkObject(L, index);
+        object->add_reference();
+        return ArrayPtr(object);
+    }
+    if (!isHostArray(L, index))
+        fail("value", kindAt(L, index) + " cannot be passed to the host");
+    // A copy, so that what the script writes to its array later does not show in this one.
+    return ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, index)));
+}
+
+} // namespace
+
+ArrayPtr toHost(lua_State* L, int index, Conversion& conversion)
+{
+    switch (lua_type(L, index)) {
+    case LUA_TNIL:
+        return emptyArray();
+    case LUA_TBOOLEAN:
+        return scalar(lua_toboolean(L, index) != 0, hvLOGICAL_CLASS);
+    case LUA_TNUMBER:
+        return number(L, index);
+    case LUA_TSTRING:
+        return ArrayPtr(orbis::additions::createText(hostTextAt(L, index)));
+    case LUA_TTABLE:
+        return tableToHost(L, lua_absindex(L, index), conversion);
+    case LUA_TUSERDATA:
+        return userdata(L, index);
+    default:
+        fail("value", kindAt(L, index) + " cannot be passed to the host");
+    }
+}
+
+} // namespace velmara::console

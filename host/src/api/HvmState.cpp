@@ -1,0 +1,40 @@
+#include "api/HvmState.hpp"
+
+#include "velmara/Error.hpp"
+#include "velmara/Hvm.hpp"
+
+namespace velmara {
+
+namespace {
+
+bool isClassPublished(Name fullName)
+{
+    Machine const* const machine = Machine::current();
+    return machine && machine->packages().findClass(fullName);
+}
+
+} // namespace
+
+HvmState::HvmState() : Machine({&packages_, &types_, &deferredFinalizer_}), types_(isClassPublished), packages_(*this)
+{
+    Error::outOfMemory(); // created while there is memory
+}
+
+HvmState::~HvmState()
+{
+    Machine* const previous = makeCurrent(this);
+    beginEnding();
+    {
+        Entry const entry(*this);
+        packages_.finalizeAllObjects();
+        modules.terminateAll(terminationReport_);
+        packages_.clear();
+    }
+    clearStorage();
+    packages_.clear(); // what deleters may have published
+    types_.clear();
+    makeCurrent(previous == this ? nullptr : previous);
+    Hvm::Scope::forget(*this);
+}
+
+} // namespace velmara

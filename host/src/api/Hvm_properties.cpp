@@ -1,0 +1,143 @@
+#include "velmara/Hvm.hpp"
+
+#include "api/HvmCall.hpp"
+#include "api/calls.hpp"
+#include "classes/Class.hpp"
+#include "dispatch/ResultValue.hpp"
+#include "errors/hostError.hpp"
+
+namespace velmara {
+
+namespace {
+
+[[noreturn]] void throwPropertyError(char const* key, Property const& property)
+{
+    throwHostError("VELMARA:property", key, {property.name->string(), property.definingClass.name()->string()});
+}
+
+[[noreturn]] void throwUnreadable(Property const& property)
+{
+    if (property.traits.isAbstract)
+        throwPropertyError("abstract", property);
+    bool const isWriteOnly = property.canBeWritten && property.traits.getAccess == orbis::MemberAccess::NoAccess;
+    throwPropertyError(isWriteOnly ? "writeOnly" : "getAccess", property);
+}
+
+[[noreturn]] void throwUnwritable(Property const& property)
+{
+    if (property.traits.isAbstract)
+        throwPropertyError("abstract", property);
+    bool const isReadOnly = property.canBeRead && property.traits.setAccess == orbis::MemberAccess::NoAccess;
+    throwPropertyError(isReadOnly ? "readOnly" : "setAccess", property);
+}
+
+[[gnu::always_inline]] inline Property const& requireProperty(Class& cls, std::string_view name)
+{
+    Property const* const property = cls.findProperty(name);
+    if (!property) [[unlikely]]
+        throwHostError("VELMARA:property", "unknown", {cls.name()->string(), std::string(name)});
+    return *property;
+}
+
+/// The object that the property is one of; null for a static one.
+[[gnu::always_inline]] inline Object* requireOwner(Property const& property, Object* object)
+{
+    if (property.traits.isStatic)
+        return nullptr;
+    if (!object) [[unlikely]]
+        throwPropertyError("noObject", property);
+    return object;
+}
+
+/// A value that was read, until it is given back to the property.
+class ReadValue {
+public:
+    ReadValue(Property const& property, Object* object)
+        : property_(property),
+          object_(object),
+          value_(property.info->getValue(object))
+    {
+    }
+    ReadValue(ReadValue const&) = delete;
+    ReadValue& operator=(ReadValue const&) = delete;
+
+    ~ReadValue()
+    {
+        try {
+            property_.info->releaseValue(object_, value_);
+        } catch (...) {
+        }
+    }
+
+    orbis::COSValue value() const { return value_; }
+
+private:
+    Property const& property_;
+    Object* object_;
+    orbis::COSValue value_;
+};
+
+ArrayPtr read(Property const& property, Object* object)
+{
+    if (!property.canBeRead) [[unlikely]]
+        throwUnreadable(property);
+    Object* const owner = requireOwner(property, object);
+    ResultValue result(&property.type()); // outlives the read value: the array goes after the property was told
+    ReadValue const value(property, owner);
+    result.slot() = value.value();
+    return result.take(property.name);
+}
+
+[[gnu::noinline]] void writeAny(Machine& machine, Property const& property, Object* owner, hvArray_tag* value)
+{
+    checkInputs(machine, {&value, 1});
+    ConvertedInputs converted(1);
+    if (converted.add(property.type(), value) == noFit)
+        throwHostError("VELMARA:property", "value", {property.name->string(), explainRefusal(property.type(), value)});
+    property.info->setValue(owner, *converted.values());
+}
+
+void write(Machine& machine, Property const& property, Object* object, hvArray_tag* value)
+{
+    if (!property.canBeWritten) [[unlikely]]
+        throwUnwritable(property);
+    Object* const owner = requireOwner(property, object);
+    TypeReference const& type = property.type();
+    orbis::COSValue scalar;
+    if (value && type.kind == TypeKind::Scalar && type.scalar.read(*Array::of(value), scalar) != noFit) [[likely]]
+        property.info->setValue(owner, scalar);
+    else
+        writeAny(machine, property, owner, value);
+}
+
+} // namespace
+
+ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property)
+{
+    return callInto(*state_, [&] {
+        Object* const first = requireObject(*state_, object);
+        return read(requireProperty(requireClassOf(*state_, object, first), property), first);
+    });
+}
+
+void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value)
+{
+    callInto(*state_, [&] {
+        Object* const first = requireObject(*state_, object);
+        write(*state_, requireProperty(requireClassOf(*state_, object, first), property), first, value);
+    });
+}
+
+ArrayPtr Hvm::getStatic(std::string_view className, std::string_view property)
+{
+    return callInto(*state_,
+                    [&] { return read(requireProperty(requireClass(*state_, className), property), nullptr); });
+}
+
+void Hvm::setStatic(std::string_view className, std::string_view property, hvArray_tag* value)
+{
+    callInto(*state_,
+             [&] { write(*state_, requireProperty(requireClass(*state_, className), property), nullptr, value); });
+}
+
+} // namespace velmara

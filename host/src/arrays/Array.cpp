@@ -1,0 +1,247 @@
+#include "arrays/Array.hpp"
+
+#include "arrays/CellNest.hpp"
+#include "arrays/DeepCopy.hpp"
+#include "errors/hostError.hpp"
+
+#include "libkwfl/bad_alloc.hpp"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <utility>
+
+namespace velmara {
+
+Array* Array::createFirstHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+{
+    auto* const array = new (SmallMemory::allocate()) Array(classID, rows, columns, objectClass);
+    ++ownThreadShare().counts.arrays;
+    return array;
+}
+
+Array* Array::createAround(Payload& payload, hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+{
+    try {
+        Array* const array = createHeader(classID, rows, columns, objectClass);
+        array->elements_ = payload.elements();
+        return array;
+    } catch (...) {
+        if (classID == hvSTRING_CLASS)
+            std::destroy_n(static_cast<StringElement*>(payload.elements()), rows * columns);
+        payload.free();
+        throw;
+    }
+}
+
+Array* Array::createSharing(Payload& payload) const
+{
+    Array* const array = createHeader(classID_, rows(), columns(), objectClass_);
+    payload.addReference();
+    array->elements_ = payload.elements();
+    return array;
+}
+
+Array* Array::createLongText(std::size_t size)
+{
+    Payload* const payload = Payload::create(size, sizeof(char16_t));
+    return createAround(*payload, hvCHAR_CLASS, 1, size, nullptr);
+}
+
+namespace {
+
+std::size_t elementCount(std::size_t rows, std::size_t columns)
+{
+    std::size_t count;
+    if (__builtin_mul_overflow(rows, columns, &count)) [[unlikely]]
+        throw foundation::core::except::bad_alloc();
+    return count;
+}
+
+} // namespace
+
+Array* Array::createCopy(hvClassID classID, std::size_t rows, std::size_t columns, void const* elements)
+{
+    std::size_t const count = elementCount(rows, columns);
+    std::size_t const elementSize = arrayClass(classID).elementSize;
+    if (count > sizeOfPlace / elementSize) {
+        Payload* const payload = Payload::createCopy(elements, count, elementSize);
+        return createAround(*payload, classID, rows, columns, nullptr);
+    }
+    Array* const array = createHeader(classID, rows, columns, nullptr);
+    if (count != 0)
+        std::memcpy(array->place_, elements, count * elementSize);
+    return array;
+}
+
+Array* Array::createZeroed(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+{
+    std::size_t const count = elementCount(rows, columns);
+    std::size_t const elementSize = arrayClass(classID).elementSize;
+    if (count == 0 || (isPlain(classID) && count <= sizeOfPlace / elementSize)) {
+        Array* const array = createHeader(classID, rows, columns, objectClass);
+        std::memset(array->place_, 0, sizeOfPlace);
+        return array;
+    }
+    // A single cell has a payload like any other: a copied nest knows by it what was shared.
+    Payload* const payload = Payload::createZeroed(count, elementSize);
+    return createAround(*payload, classID, rows, columns, objectClass);
+}
+
+std::string_view Array::className() const
+{
+    return objectClass_ ? objectClass_->view() : arrayClass(classID_).name;
+}
+
+void* Array::writableElements()
+{
+    makeUnshared();
+    return elements_;
+}
+
+StringElement& Array::writableString(std::size_t index)
+{
+    makeUnshared();
+    return stringSlots()[index];
+}
+
+void Array::setCellWithCare(std::size_t index, Array* value)
+{
+    if (value && value->belongsToCells()) {
+        if (value == cellSlots()[index])
+            return;
+        throwHostError("VELMARA:array", "alreadyStored");
+    }
+    // Only an array that stands in a cell already, or the value itself, can be found inside the value.
+    if (value && (value == this || cellsAround_ > 0) && CellNest::contains(*value, *this))
+        throwHostError("VELMARA:array", "cycle");
+    makeUnshared();
+    putCell(index, value);
+}
+
+Array* Array::shareData() const
+{
+    if (hasPayload())
+        return createSharing(*payload());
+    Array* const copy = createHeader(classID_, rows(), columns(), objectClass_);
+    std::memcpy(copy->place_, place_, sizeof place_);
+    copy->retainElements();
+    return copy;
+}
+
+Array* Array::copyDeep() const
+{
+    return DeepCopy().make(*this);
+}
+
+void Array::copyPayload()
+{
+    Payload* const own = createPayloadCopy();
+    payload()->removeReference();
+    elements_ = own->elements();
+    retainElements();
+}
+
+Payload* Array::createPayloadCopy() const
+{
+    return classID_ == hvSTRING_CLASS ? copyStrings() : Payload::createCopy(elements_, size(), elementSize());
+}
+
+Payload* Array::copyStrings() const
+{
+    Payload* const copy = Payload::createZeroed(size(), elementSize());
+    auto* const begin = static_cast<StringElement*>(copy->elements());
+    try {
+        std::ranges::copy(strings(), begin);
+    } catch (...) {
+        std::destroy_n(begin, size());
+        copy->free();
+        throw;
+    }
+    return copy;
+}
+
+/// Takes references for elements that were copied byte by byte.
+void Array::retainElements() const noexcept
+{
+    if (classID_ == hvCELL_CLASS) {
+        for (Array* const cell : cells()) {
+            if (cell) {
+                ++cell->references_;
+                ++cell->cellsAround_;
+            }
+        }
+    } else if (classID_ == hvOBJECT_CLASS) {
+        for (Object* const object : objects()) {
+            if (object)
+                object->addInternal();
+        }
+    }
+}
+
+void Array::destroy() noexcept
+{
+    if (isPlain(classID_)) [[likely]]
+        destroyPlain();
+    else if (classID_ == hvOBJECT_CLASS)
+        destroyObjects();
+    else if (classID_ == hvCELL_CLASS)
+        CellNest::destroy(this);
+    else
+        destroyStrings();
+}
+
+// The array itself goes first: objects that end run native code.
+void Array::destroyObjects() noexcept
+{
+    if (!hasPayload()) {
+        Object* const object = *objectSlots();
+        freeHeader();
+        if (object)
+            object->removeInternal();
+        return;
+    }
+    Payload* const held = payload();
+    std::span const objects = this->objects();
+    freeHeader();
+    if (!held->removeReference())
+        return;
+    for (Object* const object : objects) {
+        if (object)
+            object->removeInternal();
+    }
+    held->free();
+}
+
+void Array::destroyStrings() noexcept
+{
+    if (hasPayload() && payload()->removeReference()) {
+        std::destroy_n(stringSlots(), size());
+        payload()->free();
+    }
+    freeHeader();
+}
+
+void Array::destroyPlain() noexcept
+{
+    if (hasPayload()) [[unlikely]]
+        destroyPlainPayload();
+    else
+        freeHeader();
+}
+
+void Array::destroyPlainPayload() noexcept
+{
+    if (payload()->removeReference())
+        payload()->free();
+    freeHeader();
+}
+
+void Array::freeHeaderWithoutShare() noexcept
+{
+    ThreadShare& share = takeThreadShare();
+    --share.counts.arrays;
+    SmallMemory::giveBack(this, share);
+}
+
+} // namespace velmara

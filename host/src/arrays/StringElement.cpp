@@ -1,0 +1,20 @@
+#include "arrays/StringElement.hpp"
+
+namespace velmara {
+
+StringElement::StringElement(StringElement const& other)
+{
+    if (other.isLong())
+        makeLong(other.view());
+    else
+        short_ = other.short_;
+}
+
+void StringElement::makeLong(std::u16string_view text)
+{
+    auto* const units = TextMemory::allocate<char16_t>(text.size());
+    text.copy(units, text.size());
+    long_ = {longText, text.size(), units};
+}
+
+} // namespace velmara

@@ -1,0 +1,121 @@
+#pragma once
+
+#include "classes/ClassContents.hpp"
+#include "memory/Retirable.hpp"
+#include "objects/ObjectClass.hpp"
+
+#include "orbis/COSClass.hpp"
+#include "orbis/COSClassInfo.hpp"
+
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace velmara {
+
+/// A published class. It is described by its class info when it is first needed.
+class Class final : public orbis::COSClass, public ObjectClass, public Retirable {
+public:
+    Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, Machine& machine);
+    ~Class() override { objects().finalizeAll(); }
+
+    static Class* of(ObjectClass* cls) { return static_cast<Class*>(cls); }
+
+    bool isEnumeration() const { return isEnumeration_; }
+
+    /// True when the class is described completely; only then has it members and superclasses.
+    bool isReady() const { return state_ == State::Ready; }
+
+    /// True once the class is being unpublished.
+    bool isClosed() const { return state_ == State::Closed; }
+
+    /// Has the class described when it is not yet. When describing fails, what was added is dropped, and the
+    /// error names the class. While the class is being described this does nothing.
+    void makeReady();
+
+    /// Why a script may make no objects of the class: the key of the error in "VELMARA:class"; null when it may.
+    char const* constructionRefusal() const { return constructionRefusal_; }
+
+    /// A new, uninitialised object without a reference.
+    Object& makeObject();
+
+    /// True while the class or a subclass of it is being described: it cannot be unpublished now.
+    bool isBusy() const;
+
+    /// Ends the class: its objects end, no more are made, and its subclasses, which cannot be without it, go back
+    /// to where they were before they were described.
+    void close();
+
+    ClassContents const& contents() const { return *contents_; }
+    MemberTables const& tables() const { return *contents_->tables; }
+    std::vector<ObjectClass*> const& linearization() const override { return contents_->linearization; }
+    bool isA(Name ancestor) const;
+
+    /// The distance of a class in the linearisation, -1 when it is not there.
+    int distanceTo(Name ancestor) const;
+
+    /// Null when there is none, also after the class infos of the hierarchy were asked to load one of that name.
+    [[gnu::always_inline]] MethodGroup const* findMethods(std::string_view name)
+    {
+        MethodGroup const* const recent = tables().recentMethods.find(name);
+        return recent ? recent : findOtherMethods(name);
+    }
+
+    [[gnu::always_inline]] Property const* findProperty(std::string_view name)
+    {
+        Property const* const recent = tables().recentProperties.find(name);
+        return recent ? recent : findOtherProperty(name);
+    }
+
+    /// Takes the place of the direct superclasses while the class is being described.
+    void setSuperclasses(std::span<orbis::COSNameID const> names);
+
+    /// Adds an enumerator while the class, an enumeration, is being described.
+    void addEnumerator(std::string_view name, std::int64_t value);
+
+    /// Throws "VELMARA:enumeration:noObjects" for an enumeration.
+    void requireNoEnumeration() const;
+
+    char const* getName() const override { return ownName()->text; }
+    void addMethod(orbis::COSMethodInfo* method) override;
+    void addProperty(orbis::COSPropInfo* property) override;
+    orbis::COSInterfacePtr newInstance() override;
+    void initializeInstance(orbis::COSInterfacePtr instance) override;
+
+private:
+    enum class State { Untouched, Describing, Ready, Closed };
+
+    void describe();
+    void dropContents() noexcept;
+
+    using NewTables = std::vector<std::pair<Class*, std::unique_ptr<MemberTables>>>;
+    void buildTables(NewTables& tables);
+    void rebuildTables();
+
+    /// Throws why no object of the class can be made.
+    void refuseObject() const;
+    void requireOpen(Name member) const;
+    void requireNoEnumerator(Name member) const;
+    [[noreturn]] void refuseDuplicate(Name member) const;
+
+    MethodGroup const* findOtherMethods(std::string_view name);
+    MethodGroup const* loadMethods(std::string_view name);
+    Property const* findOtherProperty(std::string_view name);
+    Property const* loadProperty(std::string_view name);
+
+    /// Asks the class infos of the hierarchy by `attempt` until `find` finds something.
+    template <class Find, class Attempt>
+    auto load(Find find, Attempt attempt);
+
+    std::unique_ptr<ClassContents> contents_;
+    std::unique_ptr<ClassContents> empty_; ///< what takes the place of contents: there is one once there are any
+    std::vector<Class*> subclasses_;       ///< direct ones that are described or being described
+    char const* constructionRefusal_ = nullptr;
+    State state_ = State::Untouched;
+    bool isEnumeration_;
+    bool isLoading_ = false; ///< a class info was asked to load a member
+    bool isStale_ = false;   ///< what was loaded is not in the tables yet
+};
+
+} // namespace velmara

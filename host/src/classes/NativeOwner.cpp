@@ -1,0 +1,17 @@
+#include "additions/NativeOwner.hpp"
+
+#include "classes/Class.hpp"
+
+namespace orbis::additions {
+
+NativeOwner::~NativeOwner() = default;
+
+void NativeOwner::discardNative(void*) noexcept {}
+
+NativeOwner* nativeOwnerOf(COSNameID const& className)
+{
+    COSClass* const cls = COSClass::getClass(className);
+    return cls ? dynamic_cast<NativeOwner*>(&static_cast<velmara::Class*>(cls)->info()) : nullptr;
+}
+
+} // namespace orbis::additions

@@ -1,0 +1,197 @@
+#include "classes/Package.hpp"
+
+#include "classes/PackageTree.hpp"
+#include "errors/errorTranslation.hpp"
+#include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
+#include "memory/makeRoom.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace velmara {
+
+Package::Package(PackageTree& tree, Package* parent, Name name) : tree_(tree), parent_(parent), name_(name) {}
+
+void Package::populate()
+{
+    if (state_ != State::Untouched)
+        return;
+    Machine::Entry const entry(tree_.machine());
+    state_ = State::Populating;
+    try {
+        tree_.populating([this] { info()->initializePackage(this); });
+    } catch (...) {
+        state_ = State::Untouched;
+        rethrowShortage();
+        throwHostError("VELMARA:package", "population", {std::string(fullName()), textOfCurrentException()});
+    }
+    state_ = State::Populated;
+}
+
+void Package::adopt(std::unique_ptr<orbis::COSPackageInfo> info)
+{
+    info_ = std::make_unique<Info>(std::move(info));
+    state_ = State::Untouched;
+}
+
+void Package::disown() noexcept
+{
+    tree_.machine().retire(std::move(info_));
+    state_ = State::Populated;
+}
+
+bool Package::isBusy() const
+{
+    return state_ == State::Populating || std::ranges::any_of(packages_, [](auto const& p) { return p->isBusy(); }) ||
+           std::ranges::any_of(classes_, [](auto const& c) { return c->isBusy(); });
+}
+
+void Package::close()
+{
+    state_ = State::Closed;
+    for (std::size_t i = 0; i < packages_.size(); ++i)
+        packages_[i]->close();
+    for (std::size_t i = 0; i < classes_.size(); ++i)
+        classes_[i]->close();
+}
+
+void Package::clear() noexcept
+{
+    close();
+    for (auto& cls : std::exchange(classes_, {}))
+        tree_.machine().retire(std::move(cls));
+    for (auto& package : std::exchange(packages_, {}))
+        tree_.machine().retire(std::move(package));
+    state_ = State::Populated;
+}
+
+void Package::finalizeAllObjects()
+{
+    // By index: ending runs foreign code, which may publish more.
+    for (std::size_t i = 0; i < packages_.size(); ++i)
+        packages_[i]->finalizeAllObjects();
+    for (std::size_t i = 0; i < classes_.size(); ++i)
+        classes_[i]->objects().finalizeAll();
+}
+
+MethodGroup const* Package::findFunctions(std::string_view ownName)
+{
+    auto const find = [this, ownName] {
+        Name const name = findInterned(ownName);
+        auto const* const group = name ? functionGroups_.find(name) : nullptr;
+        return group && !(*group)->methods.empty() ? group->get() : nullptr;
+    };
+    MethodGroup const* found = find();
+    if (!found && info() && info()->attemptToLoadFunction(std::string(ownName).c_str()))
+        found = find();
+    return found;
+}
+
+void Package::requireOpen() const
+{
+    if (state_ == State::Closed)
+        throwHostError("VELMARA:package", "closed", {std::string(fullName())});
+}
+
+Package& Package::place(std::unique_ptr<Package> package)
+{
+    requireOpen();
+    makeRoom(packages_);
+    tree_.enter(*package, [this, added = package.get()] { remove(*added); });
+    return *packages_.emplace_back(std::move(package));
+}
+
+Class& Package::place(std::unique_ptr<Class> cls)
+{
+    requireOpen();
+    makeRoom(classes_);
+    tree_.enter(*cls, [this, added = cls.get()] { remove(*added); });
+    return *classes_.emplace_back(std::move(cls));
+}
+
+namespace {
+
+/// Takes the element out of the list that owns it. Empty when it is no longer there.
+template <class T>
+std::unique_ptr<T> takeOut(std::vector<std::unique_ptr<T>>& owners, T const& element)
+{
+    auto const found = std::ranges::find(owners, &element, &std::unique_ptr<T>::get);
+    if (found == owners.end())
+        return nullptr;
+    std::unique_ptr<T> taken = std::move(*found);
+    owners.erase(found);
+    return taken;
+}
+
+} // namespace
+
+void Package::remove(Package& package)
+{
+    package.close();
+    tree_.leave(package);
+    tree_.machine().retire(takeOut(packages_, package));
+}
+
+void Package::remove(Class& cls)
+{
+    cls.close();
+    tree_.leave(cls);
+    tree_.machine().retire(takeOut(classes_, cls));
+}
+
+void Package::remove(Method& function)
+{
+    std::unique_ptr<Method> taken = takeOut(functions_, function);
+    if (!taken)
+        return;
+    (*functionGroups_.find(function.name))->remove(function);
+    tree_.machine().retire(std::move(taken));
+}
+
+void Package::addSubPackage(orbis::COSPackageInfo* info)
+{
+    std::unique_ptr<orbis::COSPackageInfo> owned(info);
+    requireOpen();
+    if (!owned)
+        throwHostError("VELMARA:package", "null");
+    char const* const name = owned->getName();
+    std::string const own = name ? name : "";
+    std::string const full = std::string(fullName()) + "." + own;
+    if (own.find('.') != std::string::npos)
+        throwHostError("VELMARA:package", "name", {own, "the name of a package in another one holds no dot"});
+    tree_.addPackage(std::move(owned), full);
+}
+
+void Package::addClass(orbis::COSClassInfo* info)
+{
+    std::unique_ptr<orbis::COSClassInfo> owned(info);
+    requireOpen();
+    if (!owned)
+        throwHostError("VELMARA:class", "null");
+    tree_.addClass(std::move(owned), *this);
+}
+
+void Package::addFunction(orbis::COSMethodInfo* function)
+{
+    auto added = std::make_unique<Method>(std::unique_ptr<orbis::COSMethodInfo>(function), nullptr);
+    requireOpen();
+    std::string const full = std::string(fullName()) + "." + added->name->string();
+    std::unique_ptr<MethodGroup>* group = functionGroups_.find(added->name);
+    auto const isSame = [&added](Method const* other) { return other->hasSameInputs(*added); };
+    if (!group || (*group)->methods.empty())
+        tree_.requireFree(full);
+    else if (std::ranges::any_of((*group)->methods, isSame))
+        throwHostError("VELMARA:package", "duplicate", {full});
+    makeRoom(functions_);
+    tree_.makeRoomToRecord();
+    if (!group) {
+        auto made = std::make_unique<MethodGroup>();
+        *(group = &functionGroups_[added->name]) = std::move(made);
+    }
+    (*group)->add(*added);
+    Method& placed = *functions_.emplace_back(std::move(added));
+    tree_.record([this, &placed] { remove(placed); });
+}
+
+} // namespace velmara

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "classes/Class.hpp"
+#include "members/Method.hpp"
+#include "memory/Retirable.hpp"
+
+#include "orbis/COSPackage.hpp"
+#include "orbis/COSPackageInfo.hpp"
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace velmara {
+
+class PackageTree;
+
+/// A package of the tree: the packages, classes and functions that it owns. Without an info, as at first, it only holds
+/// others.
+class Package final : public orbis::COSPackage, public Retirable {
+public:
+    enum class State { Untouched, Populating, Populated, Closed };
+
+    /// `name` is the full dotted one; null for the tree's root.
+    Package(PackageTree& tree, Package* parent, Name name);
+
+    Name name() const { return name_; }
+    std::string_view fullName() const { return name_ ? name_->view() : std::string_view(); }
+    Package* parent() const { return parent_; }
+    orbis::COSPackageInfo* info() const { return info_ ? info_->info.get() : nullptr; }
+    State state() const { return state_; }
+
+    /// True when it was made only to hold others and holds none.
+    bool isPlaceholder() const { return !info_ && packages_.empty() && classes_.empty() && functions_.empty(); }
+
+    /// Has the package populated when it is not yet. When that fails, all that was added during it is dropped, and
+    /// the error names the package. While it is being populated this does nothing.
+    void populate();
+
+    /// Gives an info to a package that was only made to hold others.
+    void adopt(std::unique_ptr<orbis::COSPackageInfo> info);
+    void disown() noexcept;
+
+    /// True while the package, or a package or class in it, is being described: it cannot be removed now.
+    bool isBusy() const;
+
+    /// Ends all that the package holds.
+    void close();
+    void finalizeAllObjects();
+
+    /// Ends all that the package holds, and holds nothing from then on.
+    void clear() noexcept;
+
+    std::vector<std::unique_ptr<Package>> const& packages() const { return packages_; }
+    std::vector<std::unique_ptr<Class>> const& classes() const { return classes_; }
+    std::vector<std::unique_ptr<Method>> const& functions() const { return functions_; }
+
+    /// The functions of one name; null when there is none.
+    MethodGroup const* findFunctions(std::string_view ownName);
+
+    Package& place(std::unique_ptr<Package> package);
+    Class& place(std::unique_ptr<Class> cls);
+
+    /// Takes a package, a class or a function out of the tree: it ends, and is destroyed when nothing uses it.
+    void remove(Package& package);
+    void remove(Class& cls);
+    void remove(Method& function);
+
+    void addSubPackage(orbis::COSPackageInfo* info) override;
+    void addClass(orbis::COSClassInfo* info) override;
+    void addFunction(orbis::COSMethodInfo* function) override;
+
+private:
+    struct Info : Retirable {
+        explicit Info(std::unique_ptr<orbis::COSPackageInfo> given) : info(std::move(given)) {}
+        std::unique_ptr<orbis::COSPackageInfo> info;
+    };
+
+    /// Throws "VELMARA:package:closed" once the package is being removed.
+    void requireOpen() const;
+
+    PackageTree& tree_;
+    Package* parent_;
+    Name name_;
+    std::unique_ptr<Info> info_;
+    std::vector<std::unique_ptr<Package>> packages_;
+    std::vector<std::unique_ptr<Class>> classes_;
+    std::vector<std::unique_ptr<Method>> functions_;
+    NameMap<std::unique_ptr<MethodGroup>> functionGroups_; ///< empty ones included
+    State state_ = State::Populated;
+};
+
+} // namespace velmara

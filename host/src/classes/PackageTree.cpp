@@ -1,0 +1,290 @@
+#include "classes/PackageTree.hpp"
+
+#include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
+#include "memory/makeRoom.hpp"
+#include "types/TypeRepository.hpp"
+
+#include "libkwfl/IMsgIDException.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace velmara {
+
+namespace {
+
+/// A dotted name in two: what precedes the last dot (empty without one) and what follows it.
+std::pair<std::string_view, std::string_view> splitLast(std::string_view name)
+{
+    std::size_t const dot = name.rfind('.');
+    if (dot == std::string_view::npos)
+        return {{}, name};
+    return {name.substr(0, dot), name.substr(dot + 1)};
+}
+
+bool isDottedName(std::string_view name)
+{
+    return !name.empty() && name.front() != '.' && name.back() != '.' && name.find("..") == std::string_view::npos;
+}
+
+template <class T>
+T* findByText(NameMap<T*> const& map, std::string_view fullName)
+{
+    Name const name = findInterned(fullName);
+    T* const* const found = name ? map.find(name) : nullptr;
+    return found ? *found : nullptr;
+}
+
+} // namespace
+
+PackageTree::PackageTree(Machine& machine) : machine_(machine), root_(*this, nullptr, nullptr) {}
+
+Package* PackageTree::findPublishedPackage(std::string_view fullName)
+{
+    return fullName.empty() ? &root_ : findByText(packages_, fullName);
+}
+
+Package* PackageTree::findPackage(std::string_view fullName)
+{
+    Package* package = &root_;
+    for (std::size_t end = 0; package && end < fullName.size();) {
+        std::size_t const begin = end == 0 ? 0 : end + 1;
+        end = std::min(fullName.find('.', begin), fullName.size());
+        package->populate();
+        Package* found = findByText(packages_, fullName.substr(0, end));
+        std::string const own(fullName.substr(begin, end - begin));
+        if (!found && package->info() && package->info()->attemptToLoadSubPackage(own.c_str()))
+            found = findByText(packages_, fullName.substr(0, end));
+        package = found;
+    }
+    return package;
+}
+
+Class* PackageTree::findPublishedClass(Name fullName) const
+{
+    Class* const* const found = classes_.find(fullName);
+    return found && !(*found)->isClosed() ? *found : nullptr;
+}
+
+Class* PackageTree::findClass(Name fullName)
+{
+    Class* const found = findPublishedClass(fullName);
+    return found ? found : findClass(fullName->view());
+}
+
+Class* PackageTree::findClass(std::string_view fullName)
+{
+    auto const find = [this, fullName]() -> Class* {
+        Class* const* const found = classes_.findText(fullName);
+        if (!found || (*found)->isClosed())
+            return nullptr;
+        recentClasses_.remember(fullName, **found);
+        return *found;
+    };
+    if (Class* const found = find())
+        return found;
+    auto const [parent, own] = splitLast(fullName);
+    Package* const package = findPackage(parent);
+    if (!package)
+        return nullptr;
+    package->populate();
+    Class* found = find();
+    if (!found && package->info() && package->info()->attemptToLoadClass(std::string(own).c_str()))
+        found = find();
+    return found;
+}
+
+Class* PackageTree::findGlobalClass(std::string_view name)
+{
+    if (name.find('.') != std::string_view::npos)
+        return nullptr;
+    Class* found = findClass(name);
+    for (std::size_t i = 0; i < root_.packages().size() && !found; ++i) {
+        try {
+            root_.packages()[i]->populate();
+        } catch (foundation::core::except::IMsgIDException const& error) {
+            if (error.getErrorID() != "VELMARA:package:population")
+                throw;
+            // Who asks for that package itself is told why.
+        }
+        found = findClass(name);
+    }
+    return found;
+}
+
+MethodGroup const* PackageTree::findFunctions(std::string_view fullName)
+{
+    auto const [parent, own] = splitLast(fullName);
+    Package* const package = parent.empty() ? nullptr : findPackage(parent);
+    if (!package)
+        return nullptr;
+    package->populate();
+    return package->findFunctions(own);
+}
+
+void PackageTree::requireFree(std::string_view fullName)
+{
+    if (!isDottedName(fullName))
+        throwHostError(
+            "VELMARA:package", "name",
+            {std::string(fullName), fullName.empty() ? "the name is empty" : "a part between dots is empty"});
+    auto const parts = splitLast(fullName);
+    std::string_view const own = parts.second;
+    Package* const package = findPublishedPackage(parts.first);
+    bool const isFunction = package && std::ranges::any_of(package->functions(), [&](auto const& function) {
+                                return function->name->view() == own;
+                            });
+    if (isFunction || findByText(packages_, fullName) || findByText(classes_, fullName))
+        throwHostError("VELMARA:package", "duplicate", {std::string(fullName)});
+}
+
+Package& PackageTree::findOrMake(std::string_view fullName)
+{
+    if (Package* const found = findPublishedPackage(fullName))
+        return *found;
+    requireFree(fullName);
+    Package& parent = findOrMake(splitLast(fullName).first);
+    return parent.place(std::make_unique<Package>(*this, &parent, intern(fullName)));
+}
+
+void PackageTree::addPackage(std::unique_ptr<orbis::COSPackageInfo> info, std::string_view fullName)
+{
+    Package* const existing = fullName.empty() ? nullptr : findPublishedPackage(fullName);
+    if (!existing || existing->info())
+        requireFree(fullName);
+    changing([&] {
+        Package& package = findOrMake(fullName);
+        makeRoomToRecord();
+        package.adopt(std::move(info));
+        record([&package] { package.disown(); });
+    });
+}
+
+void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info, Package& package)
+{
+    char const* const text = info->getName();
+    std::string_view const fullName = text ? text : "";
+    requireFree(fullName);
+    if (package.name() && splitLast(fullName).first != package.fullName())
+        throwHostError("VELMARA:class", "otherPackage", {std::string(fullName), std::string(package.fullName())});
+    package.place(std::make_unique<Class>(std::move(info), intern(fullName), machine_));
+}
+
+void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info)
+{
+    requireFree(info->getName());
+    changing([&] {
+        Package& package = findOrMake(splitLast(info->getName()).first);
+        addClass(std::move(info), package);
+    });
+}
+
+namespace {
+
+/// Parents that were made only to hold others go with the last of them. All but the top level have a parent.
+void removeWithEmptyParents(Package& package)
+{
+    Package& parent = *package.parent();
+    parent.remove(package);
+    if (parent.name() && parent.isPlaceholder())
+        removeWithEmptyParents(parent);
+}
+
+} // namespace
+
+void PackageTree::removePackage(Name fullName)
+{
+    Package* const* const found = packages_.find(fullName);
+    if (!found)
+        return;
+    Package& removed = **found;
+    for (Package const* package = &removed; package; package = package->parent())
+        if (package->state() == Package::State::Closed)
+            return;       // it is going already
+    if (removed.isBusy()) // NOLINT(clang-analyzer-core.CallAndMessage): a stored package is not null
+        throwHostError("VELMARA:package", "busy", {fullName->string()});
+    Machine::Entry const entry(machine_);
+    removeWithEmptyParents(removed);
+}
+
+void PackageTree::finalizeAllObjects()
+{
+    root_.finalizeAllObjects();
+}
+
+void PackageTree::clear() noexcept
+{
+    root_.close();
+    packages_ = {};
+    classes_ = {};
+    recentClasses_.clear();
+    root_.clear();
+}
+
+void PackageTree::leave(Package const& package) noexcept
+{
+    Package* const* const found = packages_.find(package.name());
+    if (found && *found == &package)
+        packages_.erase(package.name());
+    for (auto const& inner : package.packages())
+        leave(*inner);
+    for (auto const& cls : package.classes())
+        leave(*cls);
+}
+
+void PackageTree::leave(Class const& cls) noexcept
+{
+    Class* const* const found = classes_.find(cls.name());
+    if (found && *found == &cls) {
+        classes_.erase(cls.name());
+        recentClasses_.clear();
+        machine_.types().forgetClass(cls.name());
+    }
+}
+
+void PackageTree::record(Undo undo) noexcept
+{
+    if (changes_ != 0 && !isUndoing_)
+        record_.push_back(std::move(undo));
+}
+
+void PackageTree::makeRoomToRecord()
+{
+    makeRoom(record_);
+}
+
+void PackageTree::changing(std::function<void()> const& change)
+{
+    std::size_t const before = record_.size();
+    ++changes_;
+    try {
+        change();
+    } catch (...) {
+        undoTo(before);
+        --changes_;
+        throw;
+    }
+    if (--changes_ == 0)
+        record_.clear();
+}
+
+void PackageTree::populating(std::function<void()> const& populate)
+{
+    std::size_t const before = record_.size();
+    changing(populate);
+    record_.resize(std::min(before, record_.size()));
+}
+
+void PackageTree::undoTo(std::size_t recorded) noexcept
+{
+    bool const wasUndoing = std::exchange(isUndoing_, true);
+    while (record_.size() > recorded) {
+        Undo const undo = std::move(record_.back());
+        record_.pop_back();
+        undo();
+    }
+    isUndoing_ = wasUndoing;
+}
+
+} // namespace velmara

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "classes/Package.hpp"
+#include "classes/RecentClasses.hpp"
+#include "names/NameMap.hpp"
+
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace velmara {
+
+class Machine;
+
+/// All that one virtual machine has published, by full dotted name. The root holds the global classes.
+class PackageTree {
+public:
+    explicit PackageTree(Machine& machine);
+
+    Machine& machine() const { return machine_; }
+    Package& root() { return root_; }
+
+    /// Null when there is none. The parents are populated when they were not yet, and asked to load the package.
+    Package* findPackage(std::string_view fullName);
+
+    /// Null when there is none; the class is not described by this.
+    Class* findClass(std::string_view fullName);
+    Class* findClass(Name fullName);
+
+    /// The class if it was found lately under this name. It may have been closed since.
+    Class* recentClass(std::string_view fullName) const { return recentClasses_.find(fullName); }
+
+    /// A class without a package. Packages publish these as they are populated, so those at the top level are, but for
+    /// what cannot be.
+    Class* findGlobalClass(std::string_view name);
+
+    /// The class if it is published already; nothing is populated.
+    Class* findPublishedClass(Name fullName) const;
+
+    MethodGroup const* findFunctions(std::string_view fullName);
+
+    void addPackage(std::unique_ptr<orbis::COSPackageInfo> info, std::string_view fullName);
+    void addClass(std::unique_ptr<orbis::COSClassInfo> info, Package& package);
+
+    /// Adds the class to the package that its name tells, which is made when there is none.
+    void addClass(std::unique_ptr<orbis::COSClassInfo> info);
+    void removePackage(Name fullName);
+
+    void finalizeAllObjects();
+
+    /// Removes everything. Needs no memory.
+    void clear() noexcept;
+
+    using Undo = std::function<void()>;
+
+    /// For packages, which own what is published: what is found under its full name from now on, and no longer. `undo`
+    /// is recorded. A failure changes nothing.
+    template <class T>
+    void enter(T& published, Undo undo)
+    {
+        makeRoomToRecord();
+        entriesOf(published)[published.name()] = &published;
+        record(std::move(undo));
+    }
+    void leave(Package const& package) noexcept;
+    void leave(Class const& cls) noexcept;
+
+    /// Throws "VELMARA:package:name" for what is no dotted name, and "VELMARA:package:duplicate" for one that is
+    /// taken.
+    void requireFree(std::string_view fullName);
+
+    /// Keeps `undo` for the case that what is under way fails. There must be room for it.
+    void record(Undo undo) noexcept;
+    void makeRoomToRecord();
+
+    /// Runs `change`; when it throws, all that was recorded meanwhile is undone, last things first. When it succeeds it
+    /// is undone with what it is part of.
+    void changing(std::function<void()> const& change);
+
+    /// The same for what stays when it has succeeded, whatever becomes of what had it done.
+    void populating(std::function<void()> const& populate);
+
+private:
+    NameMap<Package*>& entriesOf(Package const&) { return packages_; }
+    NameMap<Class*>& entriesOf(Class const&) { return classes_; }
+    void undoTo(std::size_t recorded) noexcept;
+    Package& findOrMake(std::string_view fullName);
+    Package* findPublishedPackage(std::string_view fullName);
+
+    Machine& machine_;
+    NameMap<Package*> packages_;
+    NameMap<Class*> classes_;
+    RecentClasses recentClasses_;
+    std::vector<Undo> record_;
+    int changes_ = 0; ///< that are under way
+    bool isUndoing_ = false;
+    Package root_;
+};
+
+} // namespace velmara

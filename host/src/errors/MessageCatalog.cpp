@@ -1,0 +1,69 @@
+#include "errors/MessageCatalog.hpp"
+
+#include "errors/hostMessages.hpp"
+
+#include <charconv>
+
+namespace velmara {
+
+constinit thread_local MessageSource* MessageSource::current_ = nullptr;
+
+namespace {
+
+std::string fullID(std::string_view catalog, std::string_view key)
+{
+    std::string id;
+    id.reserve(catalog.size() + 1 + key.size());
+    return id.append(catalog).append(":").append(key);
+}
+
+char const* findHostText(std::string_view catalog, std::string_view key)
+{
+    for (HostMessage const& message : hostMessages()) {
+        if (message.catalog == catalog && message.key == key)
+            return message.text;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void MessageCatalog::add(std::string_view catalog, std::string_view key, std::string_view text)
+{
+    texts_.insert_or_assign(fullID(catalog, key), std::string(text));
+}
+
+char const* MessageCatalog::find(std::string_view catalog, std::string_view key) const
+{
+    auto const found = texts_.find(fullID(catalog, key));
+    return found != texts_.end() ? found->second.c_str() : findHostText(catalog, key);
+}
+
+std::string messageText(char const* catalog, char const* key, std::vector<std::string> const& arguments)
+{
+    MessageSource* const source = MessageSource::current();
+    char const* const text = source ? source->messages().find(catalog, key) : findHostText(catalog, key);
+    return text ? fillPlaces(text, arguments) : fullID(catalog, key);
+}
+
+std::string fillPlaces(std::string_view text, std::vector<std::string> const& arguments)
+{
+    std::string filled;
+    for (std::size_t brace; (brace = text.find('{')) != text.npos;) {
+        filled += text.substr(0, brace);
+        text.remove_prefix(brace);
+        std::size_t number = 0;
+        auto const [end, error] = std::from_chars(text.data() + 1, text.data() + text.size(), number);
+        bool const isPlace = error == std::errc() && end != text.data() + text.size() && *end == '}';
+        if (isPlace && number < arguments.size()) {
+            filled += arguments[number];
+            text.remove_prefix(std::size_t(end + 1 - text.data()));
+        } else {
+            filled += '{';
+            text.remove_prefix(text.starts_with("{{") ? 2 : 1);
+        }
+    }
+    return filled += text;
+}
+
+} // namespace velmara

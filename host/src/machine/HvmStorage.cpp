@@ -1,0 +1,91 @@
+#include "machine/HvmStorage.hpp"
+
+#include "errors/hostError.hpp"
+
+#include <algorithm>
+#include <atomic>
+#include <utility>
+
+namespace velmara {
+
+namespace {
+constinit std::atomic<std::uint64_t> idCount = 0;
+} // namespace
+
+std::uint64_t HvmStorage::nextID()
+{
+    return idCount.fetch_add(1, std::memory_order_relaxed);
+}
+
+HvmStorage::Entry* HvmStorage::findAmong(Entry* first, std::type_info const& type) const
+{
+    while (first != &none_ && *first->type != type)
+        first = first->sameID;
+    return first != &none_ ? first : nullptr;
+}
+
+HvmStorage::Holder& HvmStorage::findOrInsert(std::uint64_t id, std::type_info const& type, Holder&& value)
+{
+    Holder* const stored = find(id, type);
+    return stored ? *stored : insert(id, type, std::move(value));
+}
+
+HvmStorage::Holder& HvmStorage::insert(std::uint64_t id, std::type_info const& type, Holder&& value)
+{
+    // Everything that may fail comes first: a refused value stays the caller's, and the one before stays stored.
+    if (id >= idCount.load(std::memory_order_relaxed))
+        throwHostError("VELMARA:hvm", "unknownStorageID", {std::to_string(id)});
+    if (id >= idCount_)
+        growTo(id + 1);
+    std::list<Entry> made;
+    made.push_back({id, &type, Holder(nullptr, value.get_deleter())});
+    made.front().holder = std::move(value);
+    while (erase(id, type)) {
+    }
+    return store(made);
+}
+
+void HvmStorage::growTo(std::size_t idCount)
+{
+    auto larger = std::make_unique<Entry*[]>(idCount);
+    std::fill_n(std::copy_n(byID_.get(), idCount_, larger.get()), idCount - idCount_, &none_);
+    byID_ = std::move(larger);
+    idCount_ = idCount;
+}
+
+HvmStorage::Holder& HvmStorage::store(std::list<Entry>& made)
+{
+    Entry& entry = made.front();
+    entry.place = made.begin();
+    entry.sameID = byID_[entry.id];
+    byID_[entry.id] = &entry;
+    inOrder_.splice(inOrder_.end(), made);
+    return entry.holder;
+}
+
+bool HvmStorage::erase(std::uint64_t id, std::type_info const& type)
+{
+    Entry* const entry = findEntry(id, type);
+    if (entry)
+        remove(*entry);
+    return entry != nullptr;
+}
+
+void HvmStorage::clear()
+{
+    while (!inOrder_.empty())
+        remove(inOrder_.back());
+}
+
+void HvmStorage::remove(Entry& entry)
+{
+    Entry** link = &byID_[entry.id];
+    while (*link != &entry)
+        link = &(*link)->sameID;
+    *link = entry.sameID;
+    // The deleter runs when nothing of the entry is left in the storage.
+    std::list<Entry> removed;
+    removed.splice(removed.end(), inOrder_, entry.place);
+}
+
+} // namespace velmara

@@ -1,0 +1,60 @@
+#include "members/EnumeratorTable.hpp"
+
+#include "errors/hostError.hpp"
+#include "objects/Object.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <algorithm>
+
+namespace velmara {
+
+void EnumeratorTable::add(Name className, std::string_view name, std::int64_t value)
+{
+    std::string const cls(className->view());
+    if (name.empty())
+        throwHostError("VELMARA:enumeration", "name", {cls});
+    if (byName_.findText(name))
+        throwHostError("VELMARA:enumeration", "duplicate", {cls, std::string(name)});
+    auto const place = placeOf(value);
+    bool const isNew = place == byValue_.end() || enumerators_[*place].value != value;
+    if (isNew && enumerators_.size() == Object::mostEnumerators)
+        throwHostError("VELMARA:enumeration", "tooMany", {cls, std::to_string(Object::mostEnumerators)});
+    std::size_t const number = isNew ? enumerators_.size() : *place;
+    Name const interned = intern(name);
+    if (isNew) {
+        byValue_.insert(place, number);
+        enumerators_.push_back({{interned->text, value, entries_.size()}, nullptr});
+    }
+    byName_[interned] = number;
+    entries_.push_back({interned, value});
+    longestName_ = std::max(longestName_, name.size());
+}
+
+void EnumeratorTable::makeObjects(ObjectClass& cls)
+{
+    for (std::size_t i = 0; i < enumerators_.size(); ++i)
+        enumerators_[i].object.reset(
+            orbis::omCreateORBISScalar(orbis::COSInterfacePtr(&Object::makeEnumerator(cls, i))));
+}
+
+std::vector<std::size_t>::const_iterator EnumeratorTable::placeOf(std::int64_t value) const
+{
+    return std::ranges::lower_bound(byValue_, value, {}, [this](std::size_t i) { return enumerators_[i].value; });
+}
+
+Enumerator const* EnumeratorTable::find(std::int64_t value) const
+{
+    auto const place = placeOf(value);
+    return place != byValue_.end() && enumerators_[*place].value == value ? &enumerators_[*place] : nullptr;
+}
+
+std::string EnumeratorTable::names() const
+{
+    std::string text;
+    for (Entry const& entry : entries_)
+        text.append(text.empty() ? "" : ", ").append(entry.name->view());
+    return text;
+}
+
+} // namespace velmara

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "members/Signature.hpp"
+#include "memory/Retirable.hpp"
+
+#include "orbis/COSMethodInfo.hpp"
+
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace velmara {
+
+class ObjectClass;
+
+/// A published callable member: its descriptor with the answers that the dispatch needs, asked once.
+struct Method : Retirable {
+    /// `definer` is null for a package function. Throws "VELMARA:member:name" for a descriptor without a name.
+    Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, ObjectClass const* definer);
+
+    /// The inputs that a caller writes down: all but the object.
+    std::span<Parameter const> explicitInputs() const { return std::span(inputs).subspan(takesObject); }
+
+    /// True when both are called with explicit inputs of the same types.
+    bool hasSameInputs(Method const& other) const;
+
+    /// "getSum(a: int32 scalar, b: int32 scalar)", without the object.
+    std::string describe() const;
+
+    bool isAccessible() const { return access == orbis::MemberAccess::Public; }
+
+    std::unique_ptr<orbis::COSMethodInfo> info;
+    Name name;
+    ObjectClass const* definingClass;
+    std::vector<Parameter> inputs;
+    std::size_t inputCount; ///< `inputs.size()`, which takes a division
+    std::vector<Parameter> outputs;
+    TypeReference const* outputType; ///< null when there is none
+    orbis::MemberAccess access;
+    bool isConstructor; ///< named as the class itself, with an object of the class as its output
+    bool isStatic;
+    bool isAbstract;
+    bool isSealed;
+    bool isVisible;
+    bool overridesAllSignatures;
+    bool takesObject; ///< its first input is the object it is called on
+
+    /// True for a method that anyone may call and that takes and gives only scalars, not too many: most are so, and
+    /// are called by a shorter way.
+    bool isPlain;
+    static constexpr std::size_t mostPlainInputs = 8;
+
+    /// The same for a constructor, but for its result, which is the object.
+    bool isPlainConstructor;
+};
+
+/// The methods of one name among which the dispatch chooses.
+struct MethodGroup {
+    /// Those that a script may call come first. A failure changes nothing.
+    void add(Method const& method);
+    void remove(Method const& method);
+
+    auto accessibleEnd() const { return methods.begin() + static_cast<std::ptrdiff_t>(accessible); }
+
+    std::vector<Method const*> methods;
+    std::size_t accessible = 0;
+
+    /// The one that may be called, where there is just one and it is plain: with an object, or without.
+    Method const* plainOfObject = nullptr;
+    Method const* plain = nullptr;
+    Method const* plainConstructor = nullptr;
+
+private:
+    void findPlain();
+};
+
+} // namespace velmara

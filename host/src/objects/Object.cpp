@@ -1,0 +1,237 @@
+#include "objects/Object.hpp"
+
+#include "errors/hostError.hpp"
+#include "memory/LiveCounters.hpp"
+#include "memory/SmallMemory.hpp"
+#include "objects/DeferredFinalizer.hpp"
+#include "objects/ObjectClass.hpp"
+
+#include "additions/ObjectObserver.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace velmara {
+
+// Objects have the size of arrays, and come and go with them.
+inline void* Object::operator new(std::size_t size)
+{
+    static_assert(sizeof(Object) <= SmallMemory::size);
+    ThreadShare* const share = shareOfThisThread;
+    void* const memory = share && size <= SmallMemory::size ? SmallMemory::takeKept(*share) : nullptr;
+    return memory ? memory : SmallMemory::allocate();
+}
+
+inline void Object::operator delete(void* memory) noexcept
+{
+    SmallMemory::giveBack(memory, ownThreadShare());
+}
+
+inline Object::Object(ObjectClass& cls, std::size_t enumerator)
+    : enumerator_(static_cast<std::uint16_t>(enumerator)),
+      own_{.className = cls.name()},
+      class_(&cls),
+      machine_(&cls.machine())
+{
+    cls.objects().add(*this);
+    ++liveCountsOfThisThread().objects;
+}
+
+inline Object::~Object()
+{
+    --liveCountsOfThisThread().objects;
+}
+
+Object& Object::make(ObjectClass& cls)
+{
+    return *new Object(cls);
+}
+
+Object& Object::makeEnumerator(ObjectClass& cls, std::size_t enumerator)
+{
+    return *new Object(cls, enumerator + 1);
+}
+
+[[gnu::flatten]] void Object::initialize()
+{
+    if (!isValid() || isInitialized_) [[unlikely]]
+        throwHostError("VELMARA:object", isValid() ? "initialized" : "invalid", {className()->string()});
+    Machine::Entry const entry(*machine_);
+    isInitialized_ = true;
+    try {
+        auto const& classes = class_->linearization();
+        std::for_each(classes.rbegin(), classes.rend(), [this](ObjectClass* cls) { createInstanceData(*cls); });
+    } catch (...) {
+        if (!isFinalized()) // else that is done, and there is no class any more
+            destroyInstanceData();
+        isInitialized_ = false;
+        throw;
+    }
+}
+
+void Object::createInstanceData(ObjectClass& cls)
+{
+    if (&cls != class_)
+        furtherSlotOf(cls.name()); // room first: what the class makes must not be lost
+    void* const data = cls.info().createInstanceData();
+    if (isValid()) [[likely]] {
+        Slot& slot = &cls == class_ ? own_ : furtherSlotOf(cls.name());
+        slot.native = data;
+        slot.made = true;
+        slot.recorded = data != nullptr;
+        return;
+    }
+    try {
+        cls.info().destroyInstanceData(this, data);
+    } catch (...) {
+    }
+    throwHostError("VELMARA:object", "invalid", {className()->string()});
+}
+
+void Object::destroyInstanceData() noexcept
+{
+    for (ObjectClass* const cls : class_->linearization())
+        destroyInstanceData(*cls);
+}
+
+void Object::destroyInstanceData(ObjectClass& cls) noexcept
+{
+    // Destroying may retract the object, which makes it forget what is left: each slot is looked up when its
+    // turn comes, and is empty from then on.
+    Slot* const slot = cls.name() == own_.className ? &own_ : findFurther(cls.name());
+    if (!slot || !slot->made)
+        return;
+    void* const data = std::exchange(slot->native, nullptr);
+    slot->made = false;
+    bool isReleased = false;
+    try {
+        isReleased = cls.info().destroyInstanceData(this, data);
+    } catch (...) {
+    }
+    if (data && !isReleased && machine_->observer())
+        machine_->observer()->nativeForgotten(this, data, true);
+}
+
+void Object::freeIfUnreferenced() noexcept
+{
+    if (state_ == State::Finalized && external_ + internal_ + weak_ == 0)
+        delete this;
+}
+
+[[gnu::flatten]] void Object::finalize() noexcept
+{
+    if (isFinalized())
+        return;
+    bool const hasInstanceData = isValid() && isInitialized_;
+    state_ = State::Finalizing;
+    class_->objects().remove(*this);
+    {
+        Machine::Entry const entry(*machine_);
+        DeferredFinalizer::Scope const nesting(machine_->deferredFinalizer());
+        if (hasInstanceData)
+            destroyInstanceData();
+        notifyObserver();
+        forgetNativeObjects();
+        class_ = nullptr;
+        machine_ = nullptr;
+    }
+    state_ = State::Finalized;
+    freeIfUnreferenced();
+}
+
+void Object::lastReferenceGone() noexcept
+{
+    if (isFinalized())
+        freeIfUnreferenced();
+    else if (!machine_->deferredFinalizer().defer(*this))
+        finalize();
+}
+
+void Object::finalizeIfUnreferenced() noexcept
+{
+    if (external_ + internal_ == 0)
+        finalize();
+}
+
+void Object::setNativeObject(orbis::COSNameID const& name, void* object)
+{
+    if (!isValid()) [[unlikely]]
+        return refuseNativeObject(object);
+    if (name.interned() == own_.className) [[likely]]
+        own_.record(object);
+    else
+        recordFurther(name.interned(), object);
+}
+
+[[gnu::noinline]] void Object::recordFurther(Name className, void* object)
+{
+    furtherSlotOf(className).record(object);
+}
+
+/// An invalid object has none, and gets none.
+[[gnu::noinline]] void Object::refuseNativeObject(void const* object) const
+{
+    if (object)
+        throwHostError("VELMARA:object", "invalid", {className()->string()});
+}
+
+void* Object::getNativeObject(orbis::COSNameID const& name) const
+{
+    if (name.interned() == own_.className)
+        return own_.native;
+    Slot const* const slot = findFurther(name.interned());
+    if (!slot)
+        return nullptr;
+    return slot->made && !slot->recorded ? own_.native : slot->native;
+}
+
+void Object::setValid(bool valid)
+{
+    if (!isFinalized())
+        state_ = valid ? State::Valid : State::Invalid;
+    if (valid || !machine_)
+        return;
+    addExternal(); // who is notified may release the last reference
+    {
+        Machine::Entry const entry(*machine_);
+        notifyObserver();
+    }
+    forgetNativeObjects();
+    removeExternal();
+}
+
+void Object::notifyObserver() noexcept
+{
+    orbis::additions::ObjectObserver* const observer = machine_->observer();
+    if (!observer)
+        return;
+    forEachNativeObject([&](Name, void* native) { observer->nativeForgotten(this, native, isFinalized()); });
+    observer->objectGone(this);
+}
+
+void Object::forgetNativeObjects() noexcept
+{
+    own_.native = nullptr;
+    own_.made = false;
+    if (further_)
+        further_->clear();
+}
+
+Object::Slot& Object::furtherSlotOf(Name name)
+{
+    if (Slot* const slot = findFurther(name))
+        return *slot;
+    if (!further_)
+        further_ = std::make_unique<std::vector<Slot>>();
+    return further_->emplace_back(Slot{.className = name});
+}
+
+Object::Slot* Object::findFurther(Name name) const
+{
+    if (!further_)
+        return nullptr;
+    auto const slot = std::ranges::find(*further_, name, &Slot::className);
+    return slot == further_->end() ? nullptr : &*slot;
+}
+
+} // namespace velmara

@@ -1,0 +1,116 @@
+#include "types/ScalarConversion.hpp"
+
+#include "additions/convertNumber.hpp"
+#include "additions/numericClasses.hpp"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <concepts>
+#include <limits>
+
+namespace velmara {
+
+using namespace orbis::additions;
+
+namespace {
+
+Fit refuse(Array const&, orbis::COSValue&)
+{
+    return noFit;
+}
+
+template <class Source, class T>
+Fit convert(Array const& input, orbis::COSValue& out)
+{
+    if (input.rows() != 1 || input.columns() != 1)
+        return noFit;
+    Source const number = *static_cast<Source const*>(input.elements());
+    if constexpr (std::same_as<Source, T>) {
+        out = orbis::COSValue(number);
+        return exactFit;
+    } else {
+        std::optional<T> const converted = convertNumber<T>(number);
+        if (!converted)
+            return noFit;
+        out = orbis::COSValue(*converted);
+        return convertedFit;
+    }
+}
+
+constexpr std::size_t classCount = hvOBJECT_CLASS + 1;
+using ConverterRow = std::array<ScalarConverter, classCount>;
+
+template <class T>
+constexpr ConverterRow makeRow()
+{
+    ConverterRow row;
+    row.fill(refuse);
+    auto const add = [&row]<class Source>(Source) {
+        if constexpr (!std::same_as<Source, bool> || std::same_as<T, bool>) // a logical is no number
+            row[orbis::COSValue::classOf<Source>()] = convert<Source, T>;
+    };
+    for (NumericClass const& source : numericClasses)
+        visitNumericClass(source.classID, add);
+    return row;
+}
+
+template <class T>
+constexpr ConverterRow rowTo = makeRow<T>();
+
+std::string rangeText(hvClassID target)
+{
+    return visitNumericClass(target, []<class T>(T) {
+        return std::to_string(std::numeric_limits<T>::lowest()) + " to " +
+               std::to_string(std::numeric_limits<T>::max());
+    });
+}
+
+} // namespace
+
+ScalarConverter const* scalarConverters(hvClassID target)
+{
+    return visitNumericClass(target, []<class T>(T) { return rowTo<T>.data(); });
+}
+
+std::string numberText(Array const& input, std::size_t index)
+{
+    return visitNumericClass(input.classID(), [&]<class T>(T) {
+        char text[32];
+        T const number = static_cast<T const*>(input.elements())[index];
+        if constexpr (std::same_as<T, bool>)
+            return std::string(number ? "true" : "false");
+        else if (std::floating_point<T> && std::isnan(static_cast<double>(number)))
+            return std::string("NaN"); // its sign means nothing
+        else
+            return std::string(text, std::to_chars(text, text + sizeof text, number).ptr);
+    });
+}
+
+std::string explainScalarRefusal(hvClassID target, Array const& input)
+{
+    std::string const targetName(arrayClass(target).name);
+    bool const isLogicalTarget = target == hvLOGICAL_CLASS;
+    bool const isOfKind = isNumeric(input.classID()) || (isLogicalTarget && input.classID() == hvLOGICAL_CLASS);
+    if (!isOfKind)
+        return (isLogicalTarget ? "needs a logical, not " : "needs a number, not ") + std::string(input.className());
+    if (input.rows() != 1 || input.columns() != 1)
+        return "needs one value, not " + std::to_string(input.rows()) + "-by-" + std::to_string(input.columns());
+    if (isLogicalTarget)
+        return "needs true, false, 0 or 1, not " + numberText(input);
+    double converted = 0;
+    bool const isReal = visitNumericClass(input.classID(), [&]<class T>(T) {
+        converted = static_cast<double>(*static_cast<T const*>(input.elements()));
+        return std::floating_point<T>;
+    });
+    bool const isIntegerTarget = target >= hvINT8_CLASS && target <= hvUINT64_CLASS;
+    if (isIntegerTarget && isReal && std::isfinite(converted) && std::trunc(converted) != converted)
+        return numberText(input) + " is no whole number";
+    if (isIntegerTarget)
+        return numberText(input) + " is not in the range " + rangeText(target);
+    if (target == hvSINGLE_CLASS)
+        return numberText(input) + " is not in the range of single";
+    return numberText(input) + " cannot be represented exactly as " + targetName;
+}
+
+} // namespace velmara

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "orbis/COSValue.hpp"
+
+#include <bit>
+#include <cmath>
+#include <concepts>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <utility>
+
+namespace orbis::additions {
+
+/// True when a `double` holds the whole number exactly.
+constexpr bool isExactDouble(std::integral auto number)
+{
+    auto magnitude = static_cast<std::uint64_t>(number);
+    if (std::cmp_less(+number, 0))
+        magnitude = 0 - magnitude;
+    return magnitude == 0 ||
+           std::bit_width(magnitude >> std::countr_zero(magnitude)) <= std::numeric_limits<double>::digits;
+}
+
+/// A number as one of another native type; nothing when it does not fit. Numbers are never cut:
+/// - integers take numbers that are whole and in range;
+/// - double takes every number that it holds exactly;
+/// - single rounds every number to the nearest that it has, but those that would become infinite; infinities and NaN
+///   pass;
+/// - logical takes 0 and 1.
+template <COSScalar T>
+constexpr std::optional<T> convertNumber(std::integral auto number)
+{
+    bool fits = true;
+    if constexpr (std::same_as<T, bool>)
+        fits = number == 0 || number == 1;
+    else if constexpr (std::integral<T>)
+        fits = std::in_range<T>(+number);
+    else if constexpr (std::same_as<T, double>)
+        fits = isExactDouble(number);
+    return fits ? std::optional(static_cast<T>(number)) : std::nullopt;
+}
+
+template <COSScalar T>
+std::optional<T> convertNumber(std::floating_point auto given)
+{
+    auto const number = static_cast<double>(given);
+    bool fits = true;
+    if constexpr (std::same_as<T, bool>) {
+        fits = number == 0 || number == 1;
+    } else if constexpr (std::integral<T>) {
+        // Both bounds are powers of two, so they are exact; a NaN compares false.
+        constexpr auto lowest = static_cast<double>(std::numeric_limits<T>::min());
+        constexpr double beyond = 2.0 * static_cast<double>(std::uint64_t(1) << (std::numeric_limits<T>::digits - 1));
+        fits = number >= lowest && number < beyond && std::trunc(number) == number;
+    } else {
+        fits = std::isfinite(static_cast<T>(number)) || !std::isfinite(number);
+    }
+    return fits ? std::optional(static_cast<T>(number)) : std::nullopt;
+}
+
+} // namespace orbis::additions
