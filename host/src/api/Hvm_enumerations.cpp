@@ -1,7 +1,7 @@
 #include "velmara/Hvm.hpp"
 
 #include "api/HvmCall.hpp"
-#include "api/calls.hpp"
+#include "api/callTargets.hpp"
 #include "classes/DefinedEnumeration.hpp"
 #include "classes/PackageTree.hpp"
 #include "errors/hostError.hpp"

@@ -1,21 +1,22 @@
 #include "velmara/Hvm.hpp"
 
 #include "api/HvmCall.hpp"
-#include "api/calls.hpp"
+#include "api/callTargets.hpp"
 #include "classes/Class.hpp"
 #include "dispatch/ResultValue.hpp"
+#include "dispatch/mismatchReason.hpp"
 #include "errors/hostError.hpp"
 
 namespace velmara {
 
 namespace {
 
-[[noreturn]] void throwPropertyError(char const* key, Property const& property)
+[[noreturn, gnu::noinline]] void throwPropertyError(char const* key, Property const& property)
 {
     throwHostError("VELMARA:property", key, {property.name->string(), property.definingClass.name()->string()});
 }
 
-[[noreturn]] void throwUnreadable(Property const& property)
+[[noreturn, gnu::noinline]] void throwUnreadable(Property const& property)
 {
     if (property.traits.isAbstract)
         throwPropertyError("abstract", property);
@@ -23,7 +24,7 @@ namespace {
     throwPropertyError(isWriteOnly ? "writeOnly" : "getAccess", property);
 }
 
-[[noreturn]] void throwUnwritable(Property const& property)
+[[noreturn, gnu::noinline]] void throwUnwritable(Property const& property)
 {
     if (property.traits.isAbstract)
         throwPropertyError("abstract", property);
@@ -31,11 +32,16 @@ namespace {
     throwPropertyError(isReadOnly ? "readOnly" : "setAccess", property);
 }
 
+[[noreturn, gnu::noinline]] void throwUnknown(Class const& cls, std::string_view name)
+{
+    throwHostError("VELMARA:property", "unknown", {cls.name()->string(), std::string(name)});
+}
+
 [[gnu::always_inline]] inline Property const& requireProperty(Class& cls, std::string_view name)
 {
     Property const* const property = cls.findProperty(name);
     if (!property) [[unlikely]]
-        throwHostError("VELMARA:property", "unknown", {cls.name()->string(), std::string(name)});
+        throwUnknown(cls, name);
     return *property;
 }
 
@@ -92,8 +98,8 @@ ArrayPtr read(Property const& property, Object* object)
 {
     checkInputs(machine, {&value, 1});
     ConvertedInputs converted(1);
-    if (converted.add(property.type(), value) == noFit)
-        throwHostError("VELMARA:property", "value", {property.name->string(), explainRefusal(property.type(), value)});
+    if (converted.add(property.type(), value) == notConvertible)
+        throwHostError("VELMARA:property", "value", {property.name->string(), mismatchReason(property.type(), value)});
     property.info->setValue(owner, *converted.values());
 }
 
@@ -104,7 +110,8 @@ void write(Machine& machine, Property const& property, Object* object, hvArray_t
     Object* const owner = requireOwner(property, object);
     TypeReference const& type = property.type();
     orbis::COSValue scalar;
-    if (value && type.kind == TypeKind::Scalar && type.scalar.read(*Array::of(value), scalar) != noFit) [[likely]]
+    if (value && type.kind == TypeKind::Scalar && type.scalar.read(*Array::of(value), scalar) != notConvertible)
+        [[likely]]
         property.info->setValue(owner, scalar);
     else
         writeAny(machine, property, owner, value);

@@ -1,7 +1,7 @@
 #include "velmara/Hvm.hpp"
 
 #include "api/HvmCall.hpp"
-#include "api/calls.hpp"
+#include "api/callTargets.hpp"
 #include "arrays/Array.hpp"
 #include "classes/Class.hpp"
 

@@ -1,6 +1,6 @@
 #include "api/listings.hpp"
 
-#include "api/calls.hpp"
+#include "api/callTargets.hpp"
 #include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
 #include "errors/hostError.hpp"

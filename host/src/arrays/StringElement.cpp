@@ -12,7 +12,7 @@ StringElement::StringElement(StringElement const& other)
 
 void StringElement::makeLong(std::u16string_view text)
 {
-    auto* const units = TextMemory::allocate<char16_t>(text.size());
+    auto* const units = TextAllocator::allocate<char16_t>(text.size());
     text.copy(units, text.size());
     long_ = {longText, text.size(), units};
 }

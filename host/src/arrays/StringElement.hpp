@@ -1,6 +1,6 @@
 #pragma once
 
-#include "memory/TextMemory.hpp"
+#include "memory/TextAllocator.hpp"
 #include "text/copyUnits.hpp"
 
 #include <cstddef>
@@ -18,7 +18,7 @@ public:
     /// Throws `bad_alloc`.
     explicit StringElement(std::u16string_view text)
     {
-        if (text.size() > mostShort) [[unlikely]]
+        if (text.size() > maxShort) [[unlikely]]
             makeLong(text);
         else
             makeShort(text);
@@ -35,7 +35,7 @@ public:
     ~StringElement()
     {
         if (isLong()) [[unlikely]]
-            TextMemory::free(long_.text);
+            TextAllocator::free(long_.text);
     }
 
     void swap(StringElement& other) noexcept { std::swap(bytes_, other.bytes_); }
@@ -67,11 +67,11 @@ public:
 private:
     static constexpr char16_t missing = 0; ///< other tags of short text are its length and one more
     static constexpr char16_t longText = 0xFFFF;
-    static constexpr std::size_t mostShort = 14;
+    static constexpr std::size_t maxShort = 14;
 
     struct Short {
         char16_t tag;
-        char16_t units[mostShort + 1];
+        char16_t units[maxShort + 1];
     };
 
     struct Long {

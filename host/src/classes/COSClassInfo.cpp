@@ -1,6 +1,6 @@
 #include "orbis/COSClassInfo.hpp"
 
-#include "memory/LiveCounters.hpp"
+#include "memory/ThreadCache.hpp"
 
 #include "libkwfl/bad_alloc.hpp"
 
@@ -22,11 +22,11 @@ void COSClassInfo::operator delete(void* storage)
 
 COSClassInfo::COSClassInfo()
 {
-    ++velmara::liveCountsOfThisThread().classInfos;
+    ++velmara::currentLiveCounts().classInfos;
 }
 COSClassInfo::~COSClassInfo()
 {
-    --velmara::liveCountsOfThisThread().classInfos;
+    --velmara::currentLiveCounts().classInfos;
 }
 
 char const* COSClassInfo::getDescription() const

@@ -1,6 +1,6 @@
 #include "orbis/COSPackageInfo.hpp"
 
-#include "memory/LiveCounters.hpp"
+#include "memory/ThreadCache.hpp"
 
 #include "libkwfl/bad_alloc.hpp"
 
@@ -22,11 +22,11 @@ void COSPackageInfo::operator delete(void* storage)
 
 COSPackageInfo::COSPackageInfo()
 {
-    ++velmara::liveCountsOfThisThread().descriptors;
+    ++velmara::currentLiveCounts().descriptors;
 }
 COSPackageInfo::~COSPackageInfo()
 {
-    --velmara::liveCountsOfThisThread().descriptors;
+    --velmara::currentLiveCounts().descriptors;
 }
 
 char const* COSPackageInfo::getDescription() const

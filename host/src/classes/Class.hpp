@@ -15,7 +15,7 @@
 namespace velmara {
 
 /// A published class. It is described by its class info when it is first needed.
-class Class final : public orbis::COSClass, public ObjectClass, public Retirable {
+class Class final : public ObjectClass, public orbis::COSClass, public Retirable {
 public:
     Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, Machine& machine);
     ~Class() override { objects().finalizeAll(); }
@@ -32,13 +32,13 @@ public:
 
     /// Has the class described when it is not yet. When describing fails, what was added is dropped, and the
     /// error names the class. While the class is being described this does nothing.
-    void makeReady();
+    void ensureReady();
 
     /// Why a script may make no objects of the class: the key of the error in "VELMARA:class"; null when it may.
-    char const* constructionRefusal() const { return constructionRefusal_; }
+    char const* constructionError() const { return constructionError_; }
 
     /// A new, uninitialised object without a reference.
-    Object& makeObject();
+    Object& createObject();
 
     /// True while the class or a subclass of it is being described: it cannot be unpublished now.
     bool isBusy() const;
@@ -49,7 +49,6 @@ public:
 
     ClassContents const& contents() const { return *contents_; }
     MemberTables const& tables() const { return *contents_->tables; }
-    std::vector<ObjectClass*> const& linearization() const override { return contents_->linearization; }
     bool isA(Name ancestor) const;
 
     /// The distance of a class in the linearisation, -1 when it is not there.
@@ -75,7 +74,7 @@ public:
     void addEnumerator(std::string_view name, std::int64_t value);
 
     /// Throws "VELMARA:enumeration:noObjects" for an enumeration.
-    void requireNoEnumeration() const;
+    void requireNotEnumeration() const;
 
     char const* getName() const override { return ownName()->text; }
     void addMethod(orbis::COSMethodInfo* method) override;
@@ -94,10 +93,10 @@ private:
     void rebuildTables();
 
     /// Throws why no object of the class can be made.
-    void refuseObject() const;
+    void throwUncreatable() const;
     void requireOpen(Name member) const;
     void requireNoEnumerator(Name member) const;
-    [[noreturn]] void refuseDuplicate(Name member) const;
+    [[noreturn]] void throwDuplicate(Name member) const;
 
     MethodGroup const* findOtherMethods(std::string_view name);
     MethodGroup const* loadMethods(std::string_view name);
@@ -111,7 +110,7 @@ private:
     std::unique_ptr<ClassContents> contents_;
     std::unique_ptr<ClassContents> empty_; ///< what takes the place of contents: there is one once there are any
     std::vector<Class*> subclasses_;       ///< direct ones that are described or being described
-    char const* constructionRefusal_ = nullptr;
+    char const* constructionError_ = nullptr;
     State state_ = State::Untouched;
     bool isEnumeration_;
     bool isLoading_ = false; ///< a class info was asked to load a member

@@ -4,7 +4,7 @@
 #include "errors/errorTranslation.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
-#include "memory/makeRoom.hpp"
+#include "memory/reserveNext.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -23,8 +23,8 @@ void Package::populate()
         tree_.populating([this] { info()->initializePackage(this); });
     } catch (...) {
         state_ = State::Untouched;
-        rethrowShortage();
-        throwHostError("VELMARA:package", "population", {std::string(fullName()), textOfCurrentException()});
+        rethrowIfOutOfMemory();
+        throwHostError("VELMARA:package", "population", {std::string(fullName()), currentErrorText()});
     }
     state_ = State::Populated;
 }
@@ -97,7 +97,7 @@ void Package::requireOpen() const
 Package& Package::place(std::unique_ptr<Package> package)
 {
     requireOpen();
-    makeRoom(packages_);
+    reserveNext(packages_);
     tree_.enter(*package, [this, added = package.get()] { remove(*added); });
     return *packages_.emplace_back(std::move(package));
 }
@@ -105,7 +105,7 @@ Package& Package::place(std::unique_ptr<Package> package)
 Class& Package::place(std::unique_ptr<Class> cls)
 {
     requireOpen();
-    makeRoom(classes_);
+    reserveNext(classes_);
     tree_.enter(*cls, [this, added = cls.get()] { remove(*added); });
     return *classes_.emplace_back(std::move(cls));
 }
@@ -114,7 +114,7 @@ namespace {
 
 /// Takes the element out of the list that owns it. Empty when it is no longer there.
 template <class T>
-std::unique_ptr<T> takeOut(std::vector<std::unique_ptr<T>>& owners, T const& element)
+std::unique_ptr<T> extract(std::vector<std::unique_ptr<T>>& owners, T const& element)
 {
     auto const found = std::ranges::find(owners, &element, &std::unique_ptr<T>::get);
     if (found == owners.end())
@@ -130,19 +130,19 @@ void Package::remove(Package& package)
 {
     package.close();
     tree_.leave(package);
-    tree_.machine().retire(takeOut(packages_, package));
+    tree_.machine().retire(extract(packages_, package));
 }
 
 void Package::remove(Class& cls)
 {
     cls.close();
     tree_.leave(cls);
-    tree_.machine().retire(takeOut(classes_, cls));
+    tree_.machine().retire(extract(classes_, cls));
 }
 
 void Package::remove(Method& function)
 {
-    std::unique_ptr<Method> taken = takeOut(functions_, function);
+    std::unique_ptr<Method> taken = extract(functions_, function);
     if (!taken)
         return;
     (*functionGroups_.find(function.name))->remove(function);
@@ -183,8 +183,8 @@ void Package::addFunction(orbis::COSMethodInfo* function)
         tree_.requireFree(full);
     else if (std::ranges::any_of((*group)->methods, isSame))
         throwHostError("VELMARA:package", "duplicate", {full});
-    makeRoom(functions_);
-    tree_.makeRoomToRecord();
+    reserveNext(functions_);
+    tree_.reserveUndo();
     if (!group) {
         auto made = std::make_unique<MethodGroup>();
         *(group = &functionGroups_[added->name]) = std::move(made);

@@ -2,7 +2,7 @@
 
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
-#include "memory/makeRoom.hpp"
+#include "memory/reserveNext.hpp"
 #include "types/TypeRepository.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
@@ -139,12 +139,12 @@ void PackageTree::requireFree(std::string_view fullName)
         throwHostError("VELMARA:package", "duplicate", {std::string(fullName)});
 }
 
-Package& PackageTree::findOrMake(std::string_view fullName)
+Package& PackageTree::findOrCreate(std::string_view fullName)
 {
     if (Package* const found = findPublishedPackage(fullName))
         return *found;
     requireFree(fullName);
-    Package& parent = findOrMake(splitLast(fullName).first);
+    Package& parent = findOrCreate(splitLast(fullName).first);
     return parent.place(std::make_unique<Package>(*this, &parent, intern(fullName)));
 }
 
@@ -154,8 +154,8 @@ void PackageTree::addPackage(std::unique_ptr<orbis::COSPackageInfo> info, std::s
     if (!existing || existing->info())
         requireFree(fullName);
     changing([&] {
-        Package& package = findOrMake(fullName);
-        makeRoomToRecord();
+        Package& package = findOrCreate(fullName);
+        reserveUndo();
         package.adopt(std::move(info));
         record([&package] { package.disown(); });
     });
@@ -175,7 +175,7 @@ void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info)
 {
     requireFree(info->getName());
     changing([&] {
-        Package& package = findOrMake(splitLast(info->getName()).first);
+        Package& package = findOrCreate(splitLast(info->getName()).first);
         addClass(std::move(info), package);
     });
 }
@@ -249,9 +249,9 @@ void PackageTree::record(Undo undo) noexcept
         record_.push_back(std::move(undo));
 }
 
-void PackageTree::makeRoomToRecord()
+void PackageTree::reserveUndo()
 {
-    makeRoom(record_);
+    reserveNext(record_);
 }
 
 void PackageTree::changing(std::function<void()> const& change)

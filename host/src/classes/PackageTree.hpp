@@ -59,7 +59,7 @@ public:
     template <class T>
     void enter(T& published, Undo undo)
     {
-        makeRoomToRecord();
+        reserveUndo();
         entriesOf(published)[published.name()] = &published;
         record(std::move(undo));
     }
@@ -72,7 +72,7 @@ public:
 
     /// Keeps `undo` for the case that what is under way fails. There must be room for it.
     void record(Undo undo) noexcept;
-    void makeRoomToRecord();
+    void reserveUndo();
 
     /// Runs `change`; when it throws, all that was recorded meanwhile is undone, last things first. When it succeeds it
     /// is undone with what it is part of.
@@ -85,7 +85,7 @@ private:
     NameMap<Package*>& entriesOf(Package const&) { return packages_; }
     NameMap<Class*>& entriesOf(Class const&) { return classes_; }
     void undoTo(std::size_t recorded) noexcept;
-    Package& findOrMake(std::string_view fullName);
+    Package& findOrCreate(std::string_view fullName);
     Package* findPublishedPackage(std::string_view fullName);
 
     Machine& machine_;

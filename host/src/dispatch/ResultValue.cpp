@@ -1,9 +1,8 @@
 #include "dispatch/ResultValue.hpp"
 
 #include "arrays/Array.hpp"
-#include "arrays/emptyInput.hpp"
-#include "classes/ClassTree.hpp"
-#include "dispatch/objectFit.hpp"
+#include "classes/classHierarchy.hpp"
+#include "dispatch/objectRank.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
 #include "types/TypeRepository.hpp"
@@ -26,7 +25,7 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
     case TypeKind::Any:
         return true;
     case TypeKind::Scalar:
-        return given.classID() == type.scalarClass && given.rows() == 1 && given.columns() == 1;
+        return given.classID() == type.scalarClass && given.isScalar();
     case TypeKind::Elements:
         return given.classID() == type.scalarClass;
     case TypeKind::Text:
@@ -36,7 +35,7 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
     case TypeKind::Named:
         break;
     }
-    return (type.element ? objectVectorFit(type.element, given) : firstObjectFit(type.name, given)) != noFit;
+    return (type.element ? objectVectorRank(type.element, given) : firstObjectRank(type.name, given)) != notConvertible;
 }
 
 [[noreturn]] void refuse(TypeReference const* type, std::string_view member)
@@ -55,7 +54,7 @@ orbis::COSDataType* registered(TypeReference const* type)
 ArrayPtr ResultValue::takeOther(std::string_view member)
 {
     if (type_ && type_->kind == TypeKind::Optional) {
-        if (value_.isArray() && isNothing(*Array::of(value_.array())))
+        if (value_.isArray() && Array::of(value_.array())->isEmptyDouble())
             return ArrayPtr(std::exchange(value_, {}).array());
         type_ = type_->value.get();
         if (type_->kind == TypeKind::Scalar && value_.scalarClass() == type_->scalarClass)

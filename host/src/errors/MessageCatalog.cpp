@@ -43,10 +43,10 @@ std::string messageText(char const* catalog, char const* key, std::vector<std::s
 {
     MessageSource* const source = MessageSource::current();
     char const* const text = source ? source->messages().find(catalog, key) : findHostText(catalog, key);
-    return text ? fillPlaces(text, arguments) : fullID(catalog, key);
+    return text ? fillPlaceholders(text, arguments) : fullID(catalog, key);
 }
 
-std::string fillPlaces(std::string_view text, std::vector<std::string> const& arguments)
+std::string fillPlaceholders(std::string_view text, std::vector<std::string> const& arguments)
 {
     std::string filled;
     for (std::size_t brace; (brace = text.find('{')) != text.npos;) {

@@ -45,6 +45,6 @@ private:
 std::string messageText(char const* catalog, char const* key, std::vector<std::string> const& arguments);
 
 /// Puts argument N in place of each {N}. "{{" is a literal brace; a place without an argument stays as it is.
-std::string fillPlaces(std::string_view text, std::vector<std::string> const& arguments);
+std::string fillPlaceholders(std::string_view text, std::vector<std::string> const& arguments);
 
 } // namespace velmara

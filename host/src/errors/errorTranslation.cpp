@@ -48,7 +48,7 @@ Error currentError()
     }
 }
 
-void rethrowShortage()
+void rethrowIfOutOfMemory()
 {
     try {
         throw;
@@ -63,12 +63,12 @@ void rethrowAsError()
     throw currentError();
 }
 
-std::string textOfCurrentException()
+std::string currentErrorText()
 {
     return currentError().text();
 }
 
-char const* whatOfCurrentException() noexcept
+char const* currentExceptionWhat() noexcept
 {
     try {
         throw;

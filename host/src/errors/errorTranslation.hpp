@@ -15,12 +15,12 @@ Error currentError();
 [[noreturn]] void rethrowAsError();
 
 /// Inside a handler: passes on a shortage of memory, which is no fault of what it came from.
-void rethrowShortage();
+void rethrowIfOutOfMemory();
 
 /// Inside a handler: the text of what is being handled, without its identifier.
-std::string textOfCurrentException();
+std::string currentErrorText();
 
 /// Inside a handler: what the exception says of itself, for as long as it is handled. Needs no memory.
-char const* whatOfCurrentException() noexcept;
+char const* currentExceptionWhat() noexcept;
 
 } // namespace velmara

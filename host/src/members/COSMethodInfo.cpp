@@ -1,6 +1,6 @@
 #include "orbis/COSMethodInfo.hpp"
 
-#include "memory/LiveCounters.hpp"
+#include "memory/ThreadCache.hpp"
 
 #include "libkwfl/bad_alloc.hpp"
 
@@ -32,11 +32,11 @@ void COSMethodInfo::operator delete[](void* storage) // NOLINT(misc-new-delete-o
 
 COSMethodInfo::COSMethodInfo()
 {
-    ++velmara::liveCountsOfThisThread().descriptors;
+    ++velmara::currentLiveCounts().descriptors;
 }
 COSMethodInfo::~COSMethodInfo()
 {
-    --velmara::liveCountsOfThisThread().descriptors;
+    --velmara::currentLiveCounts().descriptors;
 }
 
 char const* COSMethodInfo::getDescription() const

@@ -18,8 +18,8 @@ void EnumeratorTable::add(Name className, std::string_view name, std::int64_t va
         throwHostError("VELMARA:enumeration", "duplicate", {cls, std::string(name)});
     auto const place = placeOf(value);
     bool const isNew = place == byValue_.end() || enumerators_[*place].value != value;
-    if (isNew && enumerators_.size() == Object::mostEnumerators)
-        throwHostError("VELMARA:enumeration", "tooMany", {cls, std::to_string(Object::mostEnumerators)});
+    if (isNew && enumerators_.size() == Object::maxEnumerators)
+        throwHostError("VELMARA:enumeration", "tooMany", {cls, std::to_string(Object::maxEnumerators)});
     std::size_t const number = isNew ? enumerators_.size() : *place;
     Name const interned = intern(name);
     if (isNew) {
@@ -31,11 +31,11 @@ void EnumeratorTable::add(Name className, std::string_view name, std::int64_t va
     longestName_ = std::max(longestName_, name.size());
 }
 
-void EnumeratorTable::makeObjects(ObjectClass& cls)
+void EnumeratorTable::createObjects(ObjectClass& cls)
 {
     for (std::size_t i = 0; i < enumerators_.size(); ++i)
         enumerators_[i].object.reset(
-            orbis::omCreateORBISScalar(orbis::COSInterfacePtr(&Object::makeEnumerator(cls, i))));
+            orbis::omCreateORBISScalar(orbis::COSInterfacePtr(&Object::createEnumerator(cls, i))));
 }
 
 std::vector<std::size_t>::const_iterator EnumeratorTable::placeOf(std::int64_t value) const

@@ -42,7 +42,7 @@ public:
     void add(Name className, std::string_view name, std::int64_t value);
 
     /// Makes the objects of all enumerators, which `cls` has from now on.
-    void makeObjects(ObjectClass& cls);
+    void createObjects(ObjectClass& cls);
 
     /// Null when there is none.
     Enumerator const* find(std::string_view name) const

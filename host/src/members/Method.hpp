@@ -47,11 +47,11 @@ struct Method : Retirable {
 
     /// True for a method that anyone may call and that takes and gives only scalars, not too many: most are so, and
     /// are called by a shorter way.
-    bool isPlain;
-    static constexpr std::size_t mostPlainInputs = 8;
+    bool takesOnlyScalars;
+    static constexpr std::size_t maxScalarInputs = 8;
 
     /// The same for a constructor, but for its result, which is the object.
-    bool isPlainConstructor;
+    bool isScalarConstructor;
 };
 
 /// The methods of one name among which the dispatch chooses.
@@ -66,12 +66,12 @@ struct MethodGroup {
     std::size_t accessible = 0;
 
     /// The one that may be called, where there is just one and it is plain: with an object, or without.
-    Method const* plainOfObject = nullptr;
+    Method const* scalarMethod = nullptr;
     Method const* plain = nullptr;
-    Method const* plainConstructor = nullptr;
+    Method const* scalarConstructor = nullptr;
 
 private:
-    void findPlain();
+    void findScalarMethods();
 };
 
 } // namespace velmara

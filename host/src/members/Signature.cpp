@@ -1,6 +1,6 @@
 #include "members/Signature.hpp"
 
-#include "memory/LiveCounters.hpp"
+#include "memory/ThreadCache.hpp"
 
 #include "orbis/COSMethodSignaturePtr.hpp"
 
@@ -35,11 +35,11 @@ namespace orbis {
 
 COSMethodSignature::COSMethodSignature()
 {
-    ++velmara::liveCountsOfThisThread().descriptors;
+    ++velmara::currentLiveCounts().descriptors;
 }
 COSMethodSignature::~COSMethodSignature()
 {
-    --velmara::liveCountsOfThisThread().descriptors;
+    --velmara::currentLiveCounts().descriptors;
 }
 
 COSMethodSignature* COSMethodSignature::createMethodSignature()

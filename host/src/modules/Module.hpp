@@ -30,7 +30,7 @@ public:
     void terminate();
 
     /// The same, but what the module throws leaves as it is, so that no memory is needed.
-    void terminateAsItIs();
+    void terminateRaw();
 
 private:
     using EntryPoint = void (*)();

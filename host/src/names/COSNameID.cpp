@@ -1,6 +1,6 @@
 #include "orbis/COSNameID.hpp"
 
-#include "memory/LiveCounters.hpp"
+#include "memory/ThreadCache.hpp"
 #include "names/NameTable.hpp"
 
 #include <atomic>
@@ -44,19 +44,19 @@ COSNameID::COSNameID(char const* name) : name_(namesByAddress.recent(name))
 {
     if (!name_ || !name || std::strcmp(name_->text, name) != 0) [[unlikely]]
         name_ = namesByAddress.find(name);
-    ++velmara::liveCountsOfThisThread().heldNames;
+    ++velmara::currentLiveCounts().heldNames;
 }
 
 COSNameID::COSNameID(COSNameID const& other) : name_(other.name_)
 {
-    ++velmara::liveCountsOfThisThread().heldNames;
+    ++velmara::currentLiveCounts().heldNames;
 }
 
 COSNameID& COSNameID::operator=(COSNameID const&) = default;
 
 COSNameID::~COSNameID()
 {
-    --velmara::liveCountsOfThisThread().heldNames;
+    --velmara::currentLiveCounts().heldNames;
 }
 
 COSNameID::operator COSString() const

@@ -19,7 +19,7 @@ std::mutex& writing()
 }
 
 /// The record and its NUL-terminated text in one piece.
-Name makeName(std::string_view text, std::uint64_t hash)
+Name createName(std::string_view text, std::uint64_t hash)
 {
     void* memory = std::malloc(sizeof(orbis::InternedName) + text.size() + 1);
     if (!memory)
@@ -57,7 +57,7 @@ Name NameTable::add(std::string_view text, std::uint64_t hash)
         return known;
     if (2 * (count_ + 1) > slots.mask + 1)
         grow();
-    Name const name = makeName(text, hash);
+    Name const name = createName(text, hash);
     place(*slots_.load(std::memory_order_relaxed), name);
     ++count_;
     return name;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "names/InternedName.hpp"
-#include "text/TextChunks.hpp"
+#include "text/textHash.hpp"
 
 #include <atomic>
 

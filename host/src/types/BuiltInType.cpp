@@ -1,7 +1,7 @@
 #include "types/BuiltInType.hpp"
 
 #include "arrays/Array.hpp"
-#include "arrays/ArrayComparison.hpp"
+#include "arrays/arrayComparison.hpp"
 #include "machine/Machine.hpp"
 #include "types/TypeRepository.hpp"
 
@@ -146,7 +146,7 @@ private:
 
 } // namespace
 
-orbis::COSDataType* makeBuiltInType(TypeReference const& type)
+orbis::COSDataType* createBuiltInType(TypeReference const& type)
 {
     if (type.kind == TypeKind::Optional)
         return new OptionalType(type);

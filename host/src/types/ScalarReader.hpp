@@ -16,7 +16,7 @@ public:
     /// may still succeed.
     [[gnu::always_inline]] bool readDouble(Array const& input, orbis::COSValue& out) const
     {
-        if (input.classID() != hvDOUBLE_CLASS || input.rows() != 1 || input.columns() != 1)
+        if (input.classID() != hvDOUBLE_CLASS || !input.isScalar())
             return false;
         double const number = *static_cast<double const*>(input.elements());
         if (number >= lowest_ && number <= highest_) [[likely]] { // a NaN compares false
@@ -31,7 +31,10 @@ public:
     }
 
     /// Writes `out` when the array fits. The reader must have been made for a class.
-    Fit read(Array const& input, orbis::COSValue& out) const { return converters_[input.classID()](input, out); }
+    ConversionRank read(Array const& input, orbis::COSValue& out) const
+    {
+        return converters_[input.classID()](input, out);
+    }
 
 private:
     hvClassID target_ = hvUNKNOWN_CLASS;

@@ -78,12 +78,12 @@ public:
 
 } // namespace
 
-orbis::COSDataType* makeUnicodeStringType()
+orbis::COSDataType* createUnicodeStringType()
 {
     return new UnicodeStringType;
 }
 
-orbis::COSTypeConversion* makeUnicodeStringConversion()
+orbis::COSTypeConversion* createUnicodeStringConversion()
 {
     return new UnicodeStringConversion;
 }

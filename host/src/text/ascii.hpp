@@ -4,14 +4,13 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+#include <type_traits>
 
-#if defined(__SSE2__)
 #include <emmintrin.h>
-#endif
 
 namespace velmara {
 
-/// ASCII between its two forms, in blocks of 16, 8 or 4 characters. No read or write leaves the text: the last block
+/// ASCII between bytes and UTF-16, in blocks of 16, 8 or 4 characters. No read or write leaves the text: the last block
 /// overlaps the one before.
 
 template <class Char>
@@ -19,8 +18,6 @@ constexpr bool isAsciiUnit(Char unit)
 {
     return static_cast<std::make_unsigned_t<Char>>(unit) < 0x80;
 }
-
-#if defined(__SSE2__)
 
 namespace ascii {
 
@@ -38,7 +35,7 @@ void store(Char* out, Word word)
     std::memcpy(out, &word, sizeof word);
 }
 
-inline bool hasOther(__m128i units, std::uint64_t beyondAscii)
+inline bool hasNonAscii(__m128i units, std::uint64_t beyondAscii)
 {
     __m128i const bits = _mm_and_si128(units, _mm_set1_epi64x(static_cast<long long>(beyondAscii)));
     return _mm_movemask_epi8(_mm_cmpeq_epi8(bits, _mm_setzero_si128())) != 0xFFFF;
@@ -47,17 +44,17 @@ inline bool hasOther(__m128i units, std::uint64_t beyondAscii)
 constexpr std::uint64_t beyondAsciiBytes = 0x8080808080808080;
 constexpr std::uint64_t beyondAsciiUnits = 0xFF80FF80FF80FF80;
 
-/// What is done with the block of `size` characters at a place.
+/// Works on `size` characters at once.
 template <std::size_t size>
 struct Block;
 
 template <>
 struct Block<16> {
-    static bool hasOther(char const* text) { return _mm_movemask_epi8(load<__m128i>(text)) != 0; }
+    static bool hasNonAscii(char const* text) { return _mm_movemask_epi8(load<__m128i>(text)) != 0; }
 
-    static bool hasOther(char16_t const* text)
+    static bool hasNonAscii(char16_t const* text)
     {
-        return ascii::hasOther(_mm_or_si128(load<__m128i>(text), load<__m128i>(text + 8)), beyondAsciiUnits);
+        return ascii::hasNonAscii(_mm_or_si128(load<__m128i>(text), load<__m128i>(text + 8)), beyondAsciiUnits);
     }
 
     static void copy(char const* text, char16_t* out)
@@ -75,8 +72,8 @@ struct Block<16> {
 
 template <>
 struct Block<8> {
-    static bool hasOther(char const* text) { return (load<std::uint64_t>(text) & beyondAsciiBytes) != 0; }
-    static bool hasOther(char16_t const* text) { return ascii::hasOther(load<__m128i>(text), beyondAsciiUnits); }
+    static bool hasNonAscii(char const* text) { return (load<std::uint64_t>(text) & beyondAsciiBytes) != 0; }
+    static bool hasNonAscii(char16_t const* text) { return ascii::hasNonAscii(load<__m128i>(text), beyondAsciiUnits); }
 
     static void copy(char const* text, char16_t* out)
     {
@@ -93,8 +90,8 @@ struct Block<8> {
 
 template <>
 struct Block<4> {
-    static bool hasOther(char const* text) { return (load<std::uint32_t>(text) & beyondAsciiBytes) != 0; }
-    static bool hasOther(char16_t const* text) { return (load<std::uint64_t>(text) & beyondAsciiUnits) != 0; }
+    static bool hasNonAscii(char const* text) { return (load<std::uint32_t>(text) & beyondAsciiBytes) != 0; }
+    static bool hasNonAscii(char16_t const* text) { return (load<std::uint64_t>(text) & beyondAsciiUnits) != 0; }
 
     static void copy(char const* text, char16_t* out)
     {
@@ -110,13 +107,13 @@ struct Block<4> {
 };
 
 template <std::size_t size, class Char>
-std::size_t firstOther(std::basic_string_view<Char> text)
+std::size_t findNonAscii(std::basic_string_view<Char> text)
 {
     std::size_t at = 0;
     for (; at + size <= text.size(); at += size)
-        if (Block<size>::hasOther(text.data() + at))
+        if (Block<size>::hasNonAscii(text.data() + at))
             return at;
-    if (at != text.size() && Block<size>::hasOther(text.data() + text.size() - size))
+    if (at != text.size() && Block<size>::hasNonAscii(text.data() + text.size() - size))
         return at;
     return text.size();
 }
@@ -133,21 +130,17 @@ void copyBlocks(std::basic_string_view<From> text, To* out)
 
 } // namespace ascii
 
-#endif
-
 /// The length of the run of ASCII at the start.
 template <class Char>
 std::size_t asciiRun(std::basic_string_view<Char> text)
 {
     std::size_t run = 0;
-#if defined(__SSE2__)
     if (text.size() >= 16)
-        run = ascii::firstOther<16>(text);
+        run = ascii::findNonAscii<16>(text);
     else if (text.size() >= 8)
-        run = ascii::firstOther<8>(text);
+        run = ascii::findNonAscii<8>(text);
     else if (text.size() >= 4)
-        run = ascii::firstOther<4>(text);
-#endif
+        run = ascii::findNonAscii<4>(text);
     while (run < text.size() && isAsciiUnit(text[run]))
         ++run;
     return run;
@@ -159,11 +152,10 @@ bool isAscii(std::basic_string_view<Char> text)
     return asciiRun(text) == text.size();
 }
 
-/// Writes ASCII in its other form; gives the end of what it wrote.
+/// Writes ASCII in its other form and returns the end of what it wrote.
 template <class From, class To>
 To* copyAscii(std::basic_string_view<From> text, To* out)
 {
-#if defined(__SSE2__)
     if (text.size() >= 16)
         ascii::copyBlocks<16>(text, out);
     else if (text.size() >= 8)
@@ -171,7 +163,6 @@ To* copyAscii(std::basic_string_view<From> text, To* out)
     else if (text.size() >= 4)
         ascii::copyBlocks<4>(text, out);
     else
-#endif
         for (std::size_t i = 0; i < text.size(); ++i)
             out[i] = static_cast<To>(text[i]);
     return out + text.size();

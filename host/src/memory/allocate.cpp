@@ -1,4 +1,4 @@
-#include "memory/SmallMemory.hpp"
+#include "memory/allocate.hpp"
 
 #include "libkwfl/bad_alloc.hpp"
 
@@ -6,16 +6,11 @@
 
 namespace velmara {
 
-void* SmallMemory::allocate()
+void* allocate(std::size_t size)
 {
     if (void* const memory = std::malloc(size))
         return memory;
     throw foundation::core::except::bad_alloc();
-}
-
-void SmallMemory::free(void* memory) noexcept
-{
-    std::free(memory);
 }
 
 } // namespace velmara

@@ -7,18 +7,18 @@ namespace velmara {
 /// How well an input fits a data type: not at all, as everything fits "any", by a conversion, as an object of a
 /// subclass (the nearer, the better), or by its very class. Larger is better. One element alone fits a type of many
 /// one step worse than a type of one, by conversion as by class.
-using Fit = std::uint8_t;
+using ConversionRank = std::uint8_t;
 
-inline constexpr Fit noFit = 0;
-inline constexpr Fit anyFit = 1;
-inline constexpr Fit convertedFit = 3;
-inline constexpr Fit exactFit = 255;
+inline constexpr ConversionRank notConvertible = 0;
+inline constexpr ConversionRank anyRank = 1;
+inline constexpr ConversionRank convertedRank = 3;
+inline constexpr ConversionRank exactRank = 255;
 
 /// `distance` is how far the class is away in the object's hierarchy, 0 for the object's own class.
-constexpr Fit fitOfDistance(int distance)
+constexpr ConversionRank rankOfDistance(int distance)
 {
-    constexpr int farthest = exactFit - convertedFit - 1;
-    return static_cast<Fit>(exactFit - (distance < farthest ? distance : farthest));
+    constexpr int farthest = exactRank - convertedRank - 1;
+    return static_cast<ConversionRank>(exactRank - (distance < farthest ? distance : farthest));
 }
 
 } // namespace velmara

@@ -10,7 +10,7 @@ class Class;
 
 /// Why an input is refused where one enumerator is wanted, and where a vector of them is: "needs one of Red, Green,
 /// not 'Purple'".
-std::string explainEnumeratorRefusal(Class const& enumeration, Array const& input);
-std::string explainEnumeratorsRefusal(Class const& enumeration, Array const& input);
+std::string enumeratorMismatchReason(Class const& enumeration, Array const& input);
+std::string enumeratorsMismatchReason(Class const& enumeration, Array const& input);
 
 } // namespace velmara

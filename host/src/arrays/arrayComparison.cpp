@@ -1,4 +1,4 @@
-#include "arrays/ArrayComparison.hpp"
+#include "arrays/arrayComparison.hpp"
 
 #include "arrays/Array.hpp"
 

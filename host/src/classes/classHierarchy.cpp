@@ -1,4 +1,4 @@
-#include "classes/ClassTree.hpp"
+#include "classes/classHierarchy.hpp"
 
 #include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"

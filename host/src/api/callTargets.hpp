@@ -4,7 +4,6 @@
 #include "classes/PackageTree.hpp"
 #include "dispatch/Dispatch.hpp"
 #include "machine/Machine.hpp"
-#include "objects/objectValidity.hpp"
 
 #include <string_view>
 
@@ -31,7 +30,7 @@ inline Object* requireObject(Machine& machine, hvArray_tag* array)
         requireObjectArray(array);
     Object* const object = Array::of(array)->size() == 0 ? nullptr : Array::of(array)->objects().front();
     if (object)
-        requireUsable(machine, *object);
+        object->requireUsable(machine);
     return object;
 }
 

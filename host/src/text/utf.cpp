@@ -1,6 +1,4 @@
-#include "text/Utf.hpp"
-
-#include "text/AsciiText.hpp"
+#include "text/utf.hpp"
 
 #include "libkwi18n/libkwi18n.hpp"
 
@@ -11,8 +9,8 @@ namespace {
 constexpr char32_t replacement = 0xFFFD;
 
 struct Utf8Lead {
-    int following;     ///< bytes that follow; -1 when no sequence starts so
-    unsigned char low; ///< the range of the first of them
+    int following;     ///< how many bytes follow; -1 when no sequence starts so
+    unsigned char low; ///< the range of the first that follows
     unsigned char high;
 };
 
@@ -29,8 +27,8 @@ Utf8Lead classifyLead(unsigned char lead)
     return {-1, 0, 0};
 }
 
-/// Takes one character, or one ill-formed part, off the front of a text that starts beyond ASCII.
-char32_t takeBeyondAscii(std::string_view& text)
+/// Removes one character, or one ill-formed part, from the front of a text that starts beyond ASCII.
+char32_t takeFirst(std::string_view& text)
 {
     auto const lead = static_cast<unsigned char>(text.front());
     text.remove_prefix(1);
@@ -58,8 +56,8 @@ bool isLowSurrogate(char32_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-/// Takes one character, or one ill-formed unit, off the front.
-char32_t take(std::u16string_view& text)
+/// The same of UTF-16, where an ill-formed part is one unit.
+char32_t takeFirst(std::u16string_view& text)
 {
     char32_t const unit = text.front();
     text.remove_prefix(1);
@@ -71,7 +69,7 @@ char32_t take(std::u16string_view& text)
     return isHighSurrogate(unit) || isLowSurrogate(unit) ? replacement : unit;
 }
 
-char16_t* write(char32_t character, char16_t* out)
+void write(char32_t character, char16_t*& out)
 {
     if (character < 0x10000) {
         *out++ = static_cast<char16_t>(character);
@@ -79,11 +77,10 @@ char16_t* write(char32_t character, char16_t* out)
         *out++ = static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10));
         *out++ = static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF));
     }
-    return out;
 }
 
 /// Writes a character beyond ASCII.
-char* write(char32_t character, char* out)
+void write(char32_t character, char*& out)
 {
     auto const put = [&](char32_t byte) { *out++ = static_cast<char>(byte); };
     if (character < 0x800) {
@@ -97,7 +94,27 @@ char* write(char32_t character, char* out)
         put(0x80 | (character >> 6 & 0x3F));
     }
     put(0x80 | (character & 0x3F));
-    return out;
+}
+
+/// Calls `onAscii` with each run of ASCII, which may be empty, and `onOther` with each character beyond it.
+template <class Char, class OnAscii, class OnOther>
+void scan(std::basic_string_view<Char> text, OnAscii const& onAscii, OnOther const& onOther)
+{
+    while (!text.empty()) {
+        std::size_t const run = asciiRun(text);
+        onAscii(text.substr(0, run));
+        text.remove_prefix(run);
+        while (!text.empty() && !isAsciiUnit(text.front()))
+            onOther(takeFirst(text));
+    }
+}
+
+template <class From, class To>
+void convert(std::basic_string_view<From> text, To* out)
+{
+    scan(
+        text, [&](std::basic_string_view<From> run) { out = copyAscii(run, out); },
+        [&](char32_t character) { write(character, out); });
 }
 
 } // namespace
@@ -105,53 +122,31 @@ char* write(char32_t character, char* out)
 std::size_t sizeAsUtf16(std::string_view utf8)
 {
     std::size_t size = 0;
-    while (!utf8.empty()) {
-        std::size_t const run = asciiRun(utf8);
-        utf8.remove_prefix(run);
-        size += run;
-        while (!utf8.empty() && !isAsciiUnit(utf8.front()))
-            size += takeBeyondAscii(utf8) < 0x10000 ? 1 : 2;
-    }
+    scan(
+        utf8, [&](std::string_view run) { size += run.size(); },
+        [&](char32_t character) { size += character < 0x10000 ? 1 : 2; });
     return size;
 }
 
-char16_t* writeAsUtf16(std::string_view utf8, char16_t* out)
+void writeAsUtf16(std::string_view utf8, char16_t* out)
 {
-    while (!utf8.empty()) {
-        std::size_t const run = asciiRun(utf8);
-        out = copyAscii(utf8.substr(0, run), out);
-        utf8.remove_prefix(run);
-        while (!utf8.empty() && !isAsciiUnit(utf8.front()))
-            out = write(takeBeyondAscii(utf8), out);
-    }
-    return out;
+    convert(utf8, out);
 }
 
 std::size_t sizeAsUtf8(std::u16string_view utf16)
 {
     std::size_t size = 0;
-    while (!utf16.empty()) {
-        std::size_t const run = asciiRun(utf16);
-        utf16.remove_prefix(run);
-        size += run;
-        while (!utf16.empty() && !isAsciiUnit(utf16.front())) {
-            char32_t const character = take(utf16);
-            size += character < 0x800 ? 2 : character < 0x10000 ? 3 : 4;
-        }
-    }
+    scan(
+        utf16, [&](std::u16string_view run) { size += run.size(); },
+        [&](char32_t character) { size += character < 0x800     ? 2
+                                          : character < 0x10000 ? 3
+                                                                : 4; });
     return size;
 }
 
-char* writeAsUtf8(std::u16string_view utf16, char* out)
+void writeAsUtf8(std::u16string_view utf16, char* out)
 {
-    while (!utf16.empty()) {
-        std::size_t const run = asciiRun(utf16);
-        out = copyAscii(utf16.substr(0, run), out);
-        utf16.remove_prefix(run);
-        while (!utf16.empty() && !isAsciiUnit(utf16.front()))
-            out = write(take(utf16), out);
-    }
-    return out;
+    convert(utf16, out);
 }
 
 } // namespace velmara
@@ -160,15 +155,21 @@ namespace fl::i18n {
 
 std::string to_string(std::u16string const& text)
 {
-    std::string utf8(velmara::sizeAsUtf8(text), '\0');
-    velmara::writeAsUtf8(text, utf8.data());
+    std::string utf8;
+    velmara::convertToUtf8(text, [&](std::size_t size) {
+        utf8.resize(size);
+        return utf8.data();
+    });
     return utf8;
 }
 
 std::u16string to_ustring(std::string const& text)
 {
-    std::u16string utf16(velmara::sizeAsUtf16(text), u'\0');
-    velmara::writeAsUtf16(text, utf16.data());
+    std::u16string utf16;
+    velmara::convertToUtf16(text, [&](std::size_t size) {
+        utf16.resize(size);
+        return utf16.data();
+    });
     return utf16;
 }
 

@@ -1,6 +1,6 @@
 #include "velmara/Hvm.hpp"
 
-#include "api/calls.hpp"
+#include "api/callTargets.hpp"
 
 #include "api/HvmCall.hpp"
 #include "arrays/Array.hpp"
@@ -8,7 +8,6 @@
 #include "classes/PackageTree.hpp"
 #include "errors/hostError.hpp"
 #include "objects/Object.hpp"
-#include "objects/objectValidity.hpp"
 
 #include "orbis/objectArrays.hpp"
 
@@ -23,7 +22,7 @@ Class& requireAnyClass(Machine& machine, std::string_view fullName)
         cls = machine.packages().findGlobalClass(fullName);
     if (!cls)
         throwHostError("VELMARA:class", "unknown", {std::string(fullName)});
-    cls->makeReady();
+    cls->ensureReady();
     return *cls;
 }
 
@@ -69,7 +68,7 @@ void endObjects(Machine& machine, hvArray_tag* array)
     requireObjectArray(array);
     for (Object const* const object : Array::of(array)->objects()) {
         if (object && object->machine() && object->machine() != &machine)
-            refuseObject(*object);
+            object->throwUnusable();
         if (object && object->isEnumerator())
             throwHostError("VELMARA:enumeration", "noDelete", {object->className()->string()});
     }

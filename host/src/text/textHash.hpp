@@ -6,8 +6,9 @@
 
 namespace velmara {
 
-/// Hashing and comparing text in chunks of eight bytes, never read past its end: the last chunks overlap those
-/// before them.
+// Hashing and comparing text in chunks of eight bytes. Nothing is read past the end of the text: its last chunks
+// overlap those before.
+
 inline std::uint64_t loadChunk(char const* text)
 {
     std::uint64_t chunk;
@@ -23,7 +24,7 @@ inline std::uint64_t mixChunks(std::uint64_t a, std::uint64_t b)
     return std::uint64_t(product) ^ std::uint64_t(product >> 64);
 }
 
-/// Most names have more than 16 bytes and at most 32, which is four chunks. Only these are worked on in line.
+/// Most names have 17 to 32 bytes, which are four chunks.
 inline bool isFourChunks(std::size_t length)
 {
     return length - 17 < 16;
@@ -43,7 +44,7 @@ inline bool isSameFourChunks(std::string_view a, char const* b)
     return (differ(0) | differ(8) | differ(a.size() - 16) | differ(a.size() - 8)) == 0;
 }
 
-/// Shorter ones are common among type names.
+/// Type names often have 8 to 16 bytes.
 inline bool isTwoChunks(std::size_t length)
 {
     return length - 8 < 9;

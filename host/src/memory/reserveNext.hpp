@@ -4,9 +4,9 @@
 
 namespace velmara {
 
-/// Has the next element that is added take no memory.
+/// Reserves memory for one more element, so that adding it cannot fail.
 template <class T>
-void makeRoom(std::vector<T>& elements)
+void reserveNext(std::vector<T>& elements)
 {
     if (elements.size() == elements.capacity())
         elements.reserve(2 * elements.size() + 1);

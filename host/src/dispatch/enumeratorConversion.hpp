@@ -20,7 +20,7 @@ Class const* findEnumeration(TypeReference const& type);
 /// row of characters, or one string), or a number of any class that is one of the values. Upper and lower case
 /// differ, a logical is no number, and nothing stands for no enumerator. Null when the input means none.
 ///
-/// Of objects, an array of one that is an enumerator is taken, and never a null object (`objectFit`).
+/// Of objects, an array of one that is an enumerator is taken, and never a null object (`objectRank`).
 Enumerator const* findEnumerator(Class const& enumeration, Array const& input);
 
 /// What stands at a zero-based index of an input where a vector of enumerators is wanted: a number of a numeric array,
@@ -33,7 +33,7 @@ bool isListOfEnumerators(Array const& input);
 /// A new row of the objects that an input means where a vector is wanted: a list, or what means one enumerator. Null
 /// when it is neither, or when an element of the list means none.
 ///
-/// Of objects, an array of enumerators of any size is taken as it is, and never a null object (`objectVectorFit`).
+/// Of objects, an array of enumerators of any size is taken as it is, and never a null object (`objectVectorRank`).
 ArrayPtr toEnumerators(Class const& enumeration, Array const& input);
 
 } // namespace velmara

@@ -7,11 +7,11 @@
 
 namespace velmara {
 
-/// The inputs of a plain method (`Method::isPlain`): no conversion of them runs native code or makes anything that
-/// would have to be given back.
-class PlainInputs {
+/// The inputs of a plain method (`Method::takesOnlyScalars`): no conversion of them runs native code or makes anything
+/// that would have to be given back.
+class ScalarInputs {
 public:
-    PlainInputs() {}
+    ScalarInputs() {}
 
     /// False when the method cannot be called with them. A method that takes an object is given `self`, an array.
     [[gnu::always_inline]] bool readForObject(Method const& method, hvArray_tag* self, Inputs inputs)
@@ -49,7 +49,7 @@ private:
     static bool readOthers(Parameter const* parameter, orbis::COSValue* value, Inputs inputs);
 
     union {
-        orbis::COSValue values_[Method::mostPlainInputs]; ///< not initialised: only what is read is ever used
+        orbis::COSValue values_[Method::maxScalarInputs]; ///< not initialised: only what is read is ever used
     };
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "arrays/Array.hpp"
-#include "types/Fit.hpp"
+#include "types/ConversionRank.hpp"
 #include "types/TypeReference.hpp"
 
 namespace velmara {
@@ -9,15 +9,15 @@ namespace velmara {
 /// How well an array fits a class's type where its first object counts, as in what a method is called on: by that
 /// object (or by its own class where that is null or missing), and an empty 0-by-0 array of doubles as the null object.
 /// An enumeration has no null object, and takes an array of one object only.
-Fit firstObjectFit(Name className, Array const& input);
+ConversionRank firstObjectRank(Name className, Array const& input);
 
 /// The same for an input, where several objects are too many.
-Fit objectFit(Name className, Array const& input);
+ConversionRank objectRank(Name className, Array const& input);
 
 /// How well objects of a class fit that class or an ancestor.
-Fit classFit(Name className, Name ancestor);
+ConversionRank classRank(Name className, Name ancestor);
 
 /// How well an array fits the vector type of a class: an array of objects that are all of the class.
-Fit objectVectorFit(Name element, Array const& input);
+ConversionRank objectVectorRank(Name element, Array const& input);
 
 } // namespace velmara

@@ -1,9 +1,9 @@
-#include "dispatch/enumerationFit.hpp"
+#include "dispatch/enumeratorConversion.hpp"
 
 #include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
 #include "machine/Machine.hpp"
-#include "text/Utf.hpp"
+#include "text/utf.hpp"
 
 #include "additions/convertNumber.hpp"
 #include "additions/numericClasses.hpp"
@@ -63,7 +63,7 @@ Class const* findEnumeration(TypeReference const& type)
     Class* const cls = Machine::required().packages().findClass(type.element ? type.element : type.name);
     if (!cls || !cls->isEnumeration())
         return nullptr;
-    cls->makeReady();
+    cls->ensureReady();
     return cls->isReady() ? cls : nullptr;
 }
 

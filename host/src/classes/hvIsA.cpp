@@ -1,5 +1,5 @@
 #include "arrays/arrayArguments.hpp"
-#include "classes/ClassTree.hpp"
+#include "classes/classHierarchy.hpp"
 
 #include "libhv/libhv.hpp"
 

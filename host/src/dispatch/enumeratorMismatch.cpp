@@ -1,8 +1,8 @@
-#include "dispatch/enumerationRefusal.hpp"
+#include "dispatch/enumeratorMismatch.hpp"
 
-#include "arrays/emptyInput.hpp"
 #include "classes/Class.hpp"
-#include "dispatch/enumerationFit.hpp"
+#include "dispatch/enumeratorConversion.hpp"
+#include "types/ElementConversion.hpp"
 #include "types/ScalarConversion.hpp"
 
 #include "libkwi18n/libkwi18n.hpp"
@@ -34,7 +34,7 @@ std::string describeElement(Array const& input, std::size_t index)
 
 std::string describeGiven(Array const& input)
 {
-    if (isNothing(input))
+    if (input.isEmptyDouble())
         return "[]";
     if (input.classID() == hvOBJECT_CLASS && input.size() == 1 && !input.objects().front())
         return "a null object";
@@ -42,23 +42,22 @@ std::string describeGiven(Array const& input)
         return quoted(input.text());
     if (input.size() == 1 && isListOfEnumerators(input) && input.classID() != hvCELL_CLASS)
         return describeElement(input, 0);
-    std::string const size = std::to_string(input.rows()) + "-by-" + std::to_string(input.columns());
-    return std::string(input.className()) + " " + size;
+    return std::string(input.className()) + " " + input.sizeText();
 }
 
 } // namespace
 
-std::string explainEnumeratorRefusal(Class const& enumeration, Array const& input)
+std::string enumeratorMismatchReason(Class const& enumeration, Array const& input)
 {
     return "needs one of " + enumeration.contents().enumerators.names() + ", not " + describeGiven(input);
 }
 
-std::string explainEnumeratorsRefusal(Class const& enumeration, Array const& input)
+std::string enumeratorsMismatchReason(Class const& enumeration, Array const& input)
 {
     std::string const reason = "needs one of " + enumeration.contents().enumerators.names() + ", not ";
     for (std::size_t i = 0; isListOfEnumerators(input) && i < input.size(); ++i)
         if (!findEnumeratorAt(enumeration, input, i))
-            return "element " + std::to_string(i) + " (counted from 0): " + reason + describeElement(input, i);
+            return elementPlace(i) + reason + describeElement(input, i);
     return reason + describeGiven(input);
 }
 
