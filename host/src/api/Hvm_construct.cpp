@@ -11,7 +11,7 @@ namespace velmara {
 
 namespace {
 
-/// A new object, held by its array from the beginning.
+/// A new object, which its array holds from the beginning.
 [[gnu::always_inline]] inline ArrayPtr createObject(Class& cls)
 {
     ArrayPtr array(Array::createObjects(cls.name(), 1, 1));
@@ -21,7 +21,7 @@ namespace {
     return array;
 }
 
-/// Calls a constructor for a new object. When it fails, the object ends with its array.
+/// Calls a constructor for a new object. When it fails, the object is finalized with its array.
 [[gnu::always_inline]] inline ArrayPtr invokeConstructor(Class& cls, Method const& constructor, int inputCount,
                                                          orbis::COSValue const* inputs)
 {

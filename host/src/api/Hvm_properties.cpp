@@ -45,7 +45,7 @@ namespace {
     return *property;
 }
 
-/// The object that the property is one of; null for a static one.
+/// The object whose property it is; null for a static one.
 [[gnu::always_inline]] inline Object* requireOwner(Property const& property, Object* object)
 {
     if (property.traits.isStatic)
@@ -55,7 +55,7 @@ namespace {
     return object;
 }
 
-/// A value that was read, until it is given back to the property.
+/// A value that was read, until the property releases it.
 class ReadValue {
 public:
     ReadValue(Property const& property, Object* object)
@@ -88,7 +88,8 @@ ArrayPtr read(Property const& property, Object* object)
     if (!property.canBeRead) [[unlikely]]
         throwUnreadable(property);
     Object* const owner = requireOwner(property, object);
-    ResultValue result(&property.type()); // outlives the read value: the array goes after the property was told
+    ResultValue result(
+        &property.type()); // destroyed after the read value: the property releases that before the array is destroyed
     ReadValue const value(property, owner);
     result.slot() = value.value();
     return result.take(property.name);

@@ -136,7 +136,7 @@ Array* Array::shareData() const
 
 Array* Array::copyDeep() const
 {
-    return DeepCopy().make(*this);
+    return DeepCopy().create(*this);
 }
 
 void Array::copyPayload()

@@ -9,8 +9,8 @@
 
 namespace velmara {
 
-/// One element of a string array: missing, or UTF-16 text of its own. Short text stands in the element itself, so
-/// that most string arrays are one piece of memory. All bytes zero is a missing element.
+/// One element of a string array: missing, or UTF-16 text of its own. Short text is in the element itself, so that
+/// most string arrays are one piece of memory. All bytes zero is a missing element.
 class StringElement {
 public:
     StringElement() : short_{} {}
@@ -19,9 +19,9 @@ public:
     explicit StringElement(std::u16string_view text)
     {
         if (text.size() > maxShort) [[unlikely]]
-            makeLong(text);
+            storeLong(text);
         else
-            makeShort(text);
+            storeShort(text);
     }
 
     StringElement(StringElement const& other);
@@ -82,14 +82,14 @@ private:
 
     bool isLong() const { return short_.tag == longText; }
 
-    void makeShort(std::u16string_view text)
+    void storeShort(std::u16string_view text)
     {
         short_.tag = static_cast<char16_t>(text.size() + 1);
         copyUnits(text, short_.units);
         short_.units[text.size()] = u'\0';
     }
 
-    void makeLong(std::u16string_view text);
+    void storeLong(std::u16string_view text);
 
     struct Bytes {
         alignas(8) std::byte bytes[32];

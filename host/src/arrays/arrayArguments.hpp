@@ -8,7 +8,7 @@ namespace velmara {
 [[noreturn]] void throwIndexOutside(Array const& array, std::size_t index);
 [[noreturn]] void throwWrongClass(Array const& array, char const* key);
 
-/// What the host's array functions ask of their arguments before they touch them; "VELMARA:array:..." errors.
+/// The arrays that the host's array functions need as their arguments; throw "VELMARA:array:..." for others.
 template <class Tag>
 auto& requireArray(Tag* array)
 {

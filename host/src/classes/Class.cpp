@@ -19,7 +19,7 @@ std::vector<ObjectClass*> linearize(Class& cls)
     std::vector<ObjectClass*> order;
     for (Class* const superclass : cls.contents().superclasses)
         order.insert(order.end(), superclass->linearization().begin(), superclass->linearization().end());
-    // Of a class that is reached on several ways the last place is kept: behind all its subclasses.
+    // A class that is reached on several ways counts at its last place: behind all its subclasses.
     std::vector<ObjectClass*> reversed;
     for (auto it = order.rbegin(); it != order.rend(); ++it)
         if (std::ranges::find(reversed, *it) == reversed.end())
@@ -81,7 +81,7 @@ void Class::describe()
 void Class::dropContents() noexcept
 {
     if (!empty_)
-        return; // there are none
+        return; // there are no contents
     for (Class* const superclass : contents_->superclasses)
         std::erase(superclass->subclasses_, this);
     setLinearization(empty_->linearization);

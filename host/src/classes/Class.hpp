@@ -14,7 +14,7 @@
 
 namespace velmara {
 
-/// A published class. It is described by its class info when it is first needed.
+/// A published class. Its class info describes it when it is first needed.
 class Class final : public ObjectClass, public orbis::COSClass, public Retirable {
 public:
     Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, Machine& machine);
@@ -24,27 +24,27 @@ public:
 
     bool isEnumeration() const { return isEnumeration_; }
 
-    /// True when the class is described completely; only then has it members and superclasses.
+    /// True when the class is described completely; only then it has members and superclasses.
     bool isReady() const { return state_ == State::Ready; }
 
     /// True once the class is being unpublished.
     bool isClosed() const { return state_ == State::Closed; }
 
-    /// Has the class described when it is not yet. When describing fails, what was added is dropped, and the
-    /// error names the class. While the class is being described this does nothing.
+    /// Has the class described when it is not yet. When that fails, what was added is dropped, and the error names the
+    /// class. Does nothing while the class is being described.
     void ensureReady();
 
-    /// Why a script may make no objects of the class: the key of the error in "VELMARA:class"; null when it may.
+    /// The key in "VELMARA:class" of the error that scripts get who create objects of the class; null when they may.
     char const* constructionError() const { return constructionError_; }
 
-    /// A new, uninitialised object without a reference.
+    /// A new, uninitialized object without a reference.
     Object& createObject();
 
     /// True while the class or a subclass of it is being described: it cannot be unpublished now.
     bool isBusy() const;
 
-    /// Ends the class: its objects end, no more are made, and its subclasses, which cannot be without it, go back
-    /// to where they were before they were described.
+    /// Finalizes the objects; no more can be created. Subclasses, which cannot be without the class, are undescribed
+    /// again.
     void close();
 
     ClassContents const& contents() const { return *contents_; }
@@ -54,7 +54,7 @@ public:
     /// The distance of a class in the linearisation, -1 when it is not there.
     int distanceTo(Name ancestor) const;
 
-    /// Null when there is none, also after the class infos of the hierarchy were asked to load one of that name.
+    /// Null when there is none, and no class info of the hierarchy loads one of that name.
     [[gnu::always_inline]] MethodGroup const* findMethods(std::string_view name)
     {
         MethodGroup const* const recent = tables().recentMethods.find(name);
@@ -67,7 +67,7 @@ public:
         return recent ? recent : findOtherProperty(name);
     }
 
-    /// Takes the place of the direct superclasses while the class is being described.
+    /// Replaces the direct superclasses while the class is being described.
     void setSuperclasses(std::span<orbis::COSNameID const> names);
 
     /// Adds an enumerator while the class, an enumeration, is being described.
@@ -92,7 +92,7 @@ private:
     void buildTables(NewTables& tables);
     void rebuildTables();
 
-    /// Throws why no object of the class can be made.
+    /// Throws why no object of the class can be created; nothing when one can.
     void throwUncreatable() const;
     void requireOpen(Name member) const;
     void requireNoEnumerator(Name member) const;
@@ -108,12 +108,12 @@ private:
     auto load(Find find, Attempt attempt);
 
     std::unique_ptr<ClassContents> contents_;
-    std::unique_ptr<ClassContents> empty_; ///< what takes the place of contents: there is one once there are any
+    std::unique_ptr<ClassContents> empty_; ///< what will replace the contents: there once the class is described
     std::vector<Class*> subclasses_;       ///< direct ones that are described or being described
     char const* constructionError_ = nullptr;
     State state_ = State::Untouched;
     bool isEnumeration_;
-    bool isLoading_ = false; ///< a class info was asked to load a member
+    bool isLoading_ = false; ///< its class info is loading a member
     bool isStale_ = false;   ///< what was loaded is not in the tables yet
 };
 

@@ -73,7 +73,7 @@ void Class::addEnumerator(std::string_view name, std::int64_t value)
 void Class::buildTables(NewTables& tables)
 {
     if (!isReady())
-        return; // it was unpublished meanwhile
+        return; // unpublished meanwhile
     tables.emplace_back(this, buildMemberTables(linearization()));
     for (Class* const subclass : subclasses_)
         subclass->buildTables(tables);
@@ -83,7 +83,7 @@ void Class::rebuildTables()
 {
     NewTables rebuilt;
     buildTables(rebuilt);
-    // A call that is under way may still look at the old tables.
+    // Running calls may still use the old tables.
     for (auto& [cls, tables] : rebuilt)
         machine().retire(std::exchange(cls->contents_->tables, std::move(tables)));
 }
@@ -111,7 +111,7 @@ auto Class::load(Find find, Attempt attempt)
         cls.isLoading_ = false;
         found = find();
         if (wasStale)
-            --i; // its class info is yet to be asked
+            --i; // its class info has not tried yet
     }
     return found;
 }

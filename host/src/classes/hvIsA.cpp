@@ -9,9 +9,9 @@ bool matrix::detail::noninlined::hv_array_api::hvIsA(hvArray_tag const* array, c
 {
     if (!array || !className)
         return false;
-    Array const& asked = *Array::of(array);
-    if (asked.classID() != hvOBJECT_CLASS)
-        return asked.className() == className;
+    Array const& object = *Array::of(array);
+    if (object.classID() != hvOBJECT_CLASS)
+        return object.className() == className;
     Name const name = findInterned(className);
-    return name && (name == asked.objectClass() || isSubclass(asked.objectClass(), name));
+    return name && (name == object.objectClass() || isSubclass(object.objectClass(), name));
 }

@@ -15,8 +15,8 @@ namespace velmara {
 
 namespace {
 
-/// Throws what the conversion throws. "[]" is an empty list of whatever a list type holds: where a type does not take
-/// it, the type is asked again with an empty cell array.
+/// Throws what the conversion throws. "[]" is an empty list of anything: a list type that does not take it gets an
+/// empty cell array instead.
 hvArray_tag* convert(TypeReference const& type, orbis::COSTypeConversion& conversion, hvArray_tag* input)
 {
     hvArray_tag* converted = nullptr;
@@ -155,7 +155,7 @@ ConversionRank ConvertedInputs::addRegistered(TypeReference const& type, hvArray
         converted = convert(type, *conversion, input);
     } catch (...) {
         rethrowIfOutOfMemory();
-        return notConvertible; // whoever needs the reason asks for it
+        return notConvertible; // `mismatchReason` tells why
     }
     dataType->getReference(); // it may be unregistered before its value is released
     own(dataType, converted);

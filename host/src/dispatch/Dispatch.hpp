@@ -11,10 +11,11 @@ namespace velmara {
 
 class Machine;
 
-/// Refuses missing inputs, and objects that are invalid or of other virtual machines.
+/// Throws for missing inputs, and for objects that are invalid or of other virtual machines.
 void checkInputs(Machine const& machine, Inputs inputs);
 
-/// Converts the inputs for one method and tells `visit` how well each explicit one fits; false when one does not.
+/// Converts the inputs for one method and calls `visit` with the rank of each explicit one; false when one does not
+/// fit.
 template <class Visit>
 [[gnu::always_inline]] inline bool convertFor(Method const& method, CallInputs const& call, ConvertedInputs& converted,
                                               Visit visit)
@@ -38,16 +39,15 @@ template <class Visit>
     return true;
 }
 
-/// Of several methods that may be called, the one that takes the inputs and fits them best: at least as well as
-/// every other in each input, and better in one. Throws when none fits (with each one and the reason why not),
-/// and when several fit equally well.
+/// Of several methods that may be called, the one that fits the inputs best: at least as well as every other in each
+/// input, and better in one. Throws when none fits (with each one and the reason), and when several fit equally well.
 Method const& chooseAmong(MethodGroup const& group, CallInputs call);
 
-/// Throws what is wrong where the one method that may be called, or is called, cannot be.
+/// Throws why no method of the group can be called.
 [[noreturn]] void throwUncallable(MethodGroup const& group, CallInputs call);
 
-/// Picks the method of the group to be called. Fills `converted` with the inputs for it; nothing has been called
-/// by then. Throws like `chooseAmong`, and for methods that are abstract or not open to calls from outside.
+/// The method of the group to be called. Fills `converted` with its inputs; calls nothing. Throws like `chooseAmong`,
+/// and for methods that are abstract or not open to calls from outside.
 [[gnu::always_inline]] inline Method const& choose(MethodGroup const& group, CallInputs const& call,
                                                    ConvertedInputs& converted)
 {

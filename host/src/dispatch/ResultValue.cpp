@@ -38,7 +38,7 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
     return (type.element ? objectVectorRank(type.element, given) : firstObjectRank(type.name, given)) != notConvertible;
 }
 
-[[noreturn]] void refuse(TypeReference const* type, std::string_view member)
+[[noreturn]] void throwMismatch(TypeReference const* type, std::string_view member)
 {
     throwHostError("VELMARA:result", "type", {std::string(member), type ? type->name->string() : std::string("void")});
 }
@@ -64,7 +64,7 @@ ArrayPtr ResultValue::takeOther(std::string_view member)
         return takeArray(member);
     if (value_.isEmpty())
         return nullptr;
-    refuse(type_, member);
+    throwMismatch(type_, member);
 }
 
 ArrayPtr ResultValue::takeArray(std::string_view member)
@@ -79,11 +79,11 @@ ArrayPtr ResultValue::takeArray(std::string_view member)
         return ArrayPtr(std::exchange(value_, {}).array());
     }
     if (!type_ || (value_.array() && !isOf(*type_, value_.array())))
-        refuse(type_, member);
+        throwMismatch(type_, member);
     return ArrayPtr(std::exchange(value_, {}).array());
 }
 
-void ResultValue::giveBack() noexcept
+void ResultValue::release() noexcept
 {
     if (orbis::COSDataType* const type = registered(type_)) {
         try {

@@ -46,7 +46,7 @@ std::string explain(Method const& method, CallInputs const& call)
     return "fits";
 }
 
-/// How many of the first inputs the method takes.
+/// How many of the first inputs fit.
 std::size_t countFitting(Method const& method, CallInputs const& call)
 {
     auto const parameters = method.explicitInputs();
@@ -57,8 +57,8 @@ std::size_t countFitting(Method const& method, CallInputs const& call)
     return fitting;
 }
 
-/// Many candidates are cut to the nearest few: those that take as many inputs or nearly so, and of these the ones that
-/// take more of the first inputs.
+/// The few candidates nearest to the call, where there are many: those with about as many inputs, and of these the ones
+/// that more of the first inputs fit.
 std::vector<Method const*> nearest(std::span<Method const* const> candidates, CallInputs const& call)
 {
     constexpr std::size_t many = 6, few = 3;

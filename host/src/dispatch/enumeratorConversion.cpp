@@ -33,7 +33,7 @@ Enumerator const* findByText(EnumeratorTable const& enumerators, std::u16string_
     std::size_t const length = sizeAsUtf8(text);
     if (length > enumerators.longestName())
         return nullptr;
-    std::byte buffer[256]; // room for all but the longest names
+    std::byte buffer[256]; // enough for all but the longest names
     std::pmr::monotonic_buffer_resource memory(buffer, sizeof buffer);
     std::pmr::vector<char> name(length, &memory);
     writeAsUtf8(text, name.data());

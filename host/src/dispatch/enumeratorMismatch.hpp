@@ -8,8 +8,7 @@ namespace velmara {
 
 class Class;
 
-/// Why an input is refused where one enumerator is wanted, and where a vector of them is: "needs one of Red, Green,
-/// not 'Purple'".
+/// Why an input means no enumerator, and no vector of them: "needs one of Red, Green, not 'Purple'".
 std::string enumeratorMismatchReason(Class const& enumeration, Array const& input);
 std::string enumeratorsMismatchReason(Class const& enumeration, Array const& input);
 

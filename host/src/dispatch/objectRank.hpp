@@ -6,9 +6,9 @@
 
 namespace velmara {
 
-/// How well an array fits a class's type where its first object counts, as in what a method is called on: by that
-/// object (or by its own class where that is null or missing), and an empty 0-by-0 array of doubles as the null object.
-/// An enumeration has no null object, and takes an array of one object only.
+/// How well an array fits the type of a class where its first object counts, as that which a method is called on: by
+/// that object, or by the array's class where that is null or missing; "[]" is the null object. An enumeration has no
+/// null object, and takes an array of one object only.
 ConversionRank firstObjectRank(Name className, Array const& input);
 
 /// The same for an input, where several objects are too many.

@@ -54,7 +54,7 @@ void rethrowIfOutOfMemory()
         throw;
     } catch (std::bad_alloc const&) {
         throw;
-    } catch (...) { // all else is the caller's
+    } catch (...) { // the caller handles all else
     }
 }
 

@@ -13,12 +13,12 @@ namespace velmara {
 
 class ObjectClass;
 
-/// A published callable member: its descriptor with the answers that the dispatch needs, asked once.
+/// A published callable member: its descriptor, and what that said of itself when it was published.
 struct Method : Retirable {
     /// `definer` is null for a package function. Throws "VELMARA:member:name" for a descriptor without a name.
     Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, ObjectClass const* definer);
 
-    /// The inputs that a caller writes down: all but the object.
+    /// The inputs that a caller writes: all but the object.
     std::span<Parameter const> explicitInputs() const { return std::span(inputs).subspan(takesObject); }
 
     /// True when both are called with explicit inputs of the same types.
@@ -33,7 +33,7 @@ struct Method : Retirable {
     Name name;
     ObjectClass const* definingClass;
     std::vector<Parameter> inputs;
-    std::size_t inputCount; ///< `inputs.size()`, which takes a division
+    std::size_t inputCount; ///< `inputs.size()`, which would be a division
     std::vector<Parameter> outputs;
     TypeReference const* outputType; ///< null when there is none
     orbis::MemberAccess access;

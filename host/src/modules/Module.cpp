@@ -68,7 +68,7 @@ void Module::initialize()
 {
     addMessages();
     try {
-        Machine::required().packages().changing(initialize_);
+        Machine::required().packages().transact(initialize_);
     } catch (...) {
         rethrowFailure("initialization");
     }

@@ -17,7 +17,7 @@ namespace velmara {
 
 namespace {
 
-/// A file that is shorter than it says would be mapped, and end the process as soon as the missing part is touched.
+/// A file that is shorter than its headers say would be mapped, and kill the process when the missing part is touched.
 void requireComplete(std::filesystem::path const& file)
 {
     std::ifstream content(file, std::ios::binary);

@@ -5,8 +5,8 @@
 namespace velmara {
 
 /// How well an input fits a data type: not at all, as everything fits "any", by a conversion, as an object of a
-/// subclass (the nearer, the better), or by its very class. Larger is better. One element alone fits a type of many
-/// one step worse than a type of one, by conversion as by class.
+/// subclass (the nearer, the better), or by its very class. Larger is better. One element fits a type of many one step
+/// worse than a type of one.
 using ConversionRank = std::uint8_t;
 
 inline constexpr ConversionRank notConvertible = 0;

@@ -12,7 +12,7 @@ public:
     /// `target` is a numeric or logical class.
     explicit ScalarReader(hvClassID target);
 
-    /// Reads a double that this type takes without loss, the usual input from a script. Where it gives false, `read`
+    /// Reads a double that this type takes without loss, the usual input from a script. Where it returns false, `read`
     /// may still succeed.
     [[gnu::always_inline]] bool readDouble(Array const& input, orbis::COSValue& out) const
     {
@@ -30,7 +30,7 @@ public:
         return target_ == hvDOUBLE_CLASS;
     }
 
-    /// Writes `out` when the array fits. The reader must have been made for a class.
+    /// Writes `out` when the array fits. Not for a default-constructed reader.
     ConversionRank read(Array const& input, orbis::COSValue& out) const
     {
         return converters_[input.classID()](input, out);

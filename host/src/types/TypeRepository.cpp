@@ -65,7 +65,7 @@ void TypeRepository::remove(Name name)
     Entry* const entry = types_.find(name);
     if (!entry || !entry->isRegistered || entry->isPermanent)
         return;
-    Held const removed = std::move(entry->type); // its end runs foreign code: the table is in order before
+    Held const removed = std::move(entry->type); // its destructor runs foreign code: the table is in order before
     types_.erase(name);
 }
 

@@ -5,7 +5,7 @@
 
 namespace velmara {
 
-/// "unicodeString": the host's type of one UTF-16 text. Its values are `fl::ustring*`, made with `new`, in the place of
+/// "unicodeString": the host's type of one UTF-16 text. Its values are `fl::ustring*` from `new`, instead of
 /// arrays.
 orbis::COSDataType* createUnicodeStringType();
 

@@ -1,12 +1,11 @@
-#include "api/listings.hpp"
+#include "velmara/Hvm.hpp"
 
+#include "api/HvmCall.hpp"
 #include "api/callTargets.hpp"
-#include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
 #include "errors/hostError.hpp"
-#include "machine/Machine.hpp"
 
-#include "orbis/COSDataType.hpp"
+#include "additions/NativeOwner.hpp"
 
 #include <algorithm>
 
@@ -88,9 +87,7 @@ void addMembers(Class& cls, ClassRecord& listed)
     }
 }
 
-} // namespace
-
-NameKind lookUp(Machine& machine, std::string_view fullName)
+NameKind lookUpName(Machine& machine, std::string_view fullName)
 {
     PackageTree& packages = machine.packages();
     if (packages.findClass(fullName))
@@ -102,7 +99,7 @@ NameKind lookUp(Machine& machine, std::string_view fullName)
     return packages.findGlobalClass(fullName) ? NameKind::Class : NameKind::None;
 }
 
-PackageRecord describePackage(Machine& machine, std::string_view fullName)
+PackageRecord recordPackage(Machine& machine, std::string_view fullName)
 {
     Package* const package = machine.packages().findPackage(fullName);
     if (!package)
@@ -123,7 +120,7 @@ PackageRecord describePackage(Machine& machine, std::string_view fullName)
     return listed;
 }
 
-ClassRecord describeClass(Machine& machine, std::string_view fullName)
+ClassRecord recordClass(Machine& machine, std::string_view fullName)
 {
     Class& cls = requireClass(machine, fullName);
     orbis::COSClassInfo const& info = cls.info();
@@ -142,12 +139,74 @@ ClassRecord describeClass(Machine& machine, std::string_view fullName)
     return listed;
 }
 
-MethodRecord describeFunction(Machine& machine, std::string_view fullName)
+MethodRecord recordFunction(Machine& machine, std::string_view fullName)
 {
     MethodGroup const* const group = machine.packages().findFunctions(fullName);
     if (!group)
         throwHostError("VELMARA:function", "unknown", {std::string(fullName)});
     return record(*group->methods.front());
+}
+
+std::string ownerOf(orbis::COSClassInfo const& info)
+{
+    if (!info.isHandle())
+        return "value";
+    if (info.isEnumeration())
+        return "enumerator";
+    auto const* const owner = dynamic_cast<orbis::additions::NativeOwner const*>(&info);
+    return owner ? owner->nativeOwner() : "handle";
+}
+
+ObjectRecord record(Object const& object, std::string const& owner)
+{
+    return {.className = object.className()->string(),
+            .owner = owner,
+            .isValid = object.isValid(),
+            .externalReferences = object.getExternalReferenceCount(),
+            .internalReferences = object.getInternalReferenceCount(),
+            .weakReferences = object.weakReferenceCount(),
+            .nativeObject = object.ownNativeObject()};
+}
+
+void addObjects(Package const& package, std::vector<ObjectRecord>& listed)
+{
+    for (auto const& cls : package.classes()) {
+        std::string const owner = ownerOf(cls->info());
+        cls->objects().forEach([&](Object const& object) { listed.push_back(record(object, owner)); });
+    }
+    for (auto const& inner : package.packages())
+        addObjects(*inner, listed);
+}
+
+} // namespace
+
+NameKind Hvm::lookUp(std::string_view fullName)
+{
+    return callInto(*state_, [&] { return lookUpName(*state_, fullName); });
+}
+
+PackageRecord Hvm::describePackage(std::string_view fullName)
+{
+    return callInto(*state_, [&] { return recordPackage(*state_, fullName); });
+}
+
+ClassRecord Hvm::describeClass(std::string_view fullName)
+{
+    return callInto(*state_, [&] { return recordClass(*state_, fullName); });
+}
+
+MethodRecord Hvm::describeFunction(std::string_view fullName)
+{
+    return callInto(*state_, [&] { return recordFunction(*state_, fullName); });
+}
+
+std::vector<ObjectRecord> Hvm::objects() const
+{
+    return callInto(*state_, [&] {
+        std::vector<ObjectRecord> listed;
+        addObjects(state_->packages().root(), listed);
+        return listed;
+    });
 }
 
 } // namespace velmara
