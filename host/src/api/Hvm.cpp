@@ -2,8 +2,6 @@
 
 #include "api/HvmCall.hpp"
 #include "api/HvmState.hpp"
-#include "api/listings.hpp"
-#include "api/objectListing.hpp"
 
 #include <utility>
 
@@ -36,7 +34,7 @@ Hvm::Scope::Scope(Hvm& hvm)
 Hvm::Scope::~Scope()
 {
     Machine::makeCurrent(previous_);
-    Scope** inner = &innermost; // mostly this one, but they may end in any order
+    Scope** inner = &innermost; // mostly this one, but they may be destroyed in any order
     while (*inner != this)
         inner = &(*inner)->outer_;
     *inner = outer_;
@@ -62,31 +60,6 @@ void Hvm::unloadModule(std::string_view name)
 std::vector<ModuleRecord> Hvm::modules() const
 {
     return callInto(*state_, [&] { return state_->modules.records(); });
-}
-
-NameKind Hvm::lookUp(std::string_view fullName)
-{
-    return callInto(*state_, [&] { return velmara::lookUp(*state_, fullName); });
-}
-
-PackageRecord Hvm::describePackage(std::string_view fullName)
-{
-    return callInto(*state_, [&] { return velmara::describePackage(*state_, fullName); });
-}
-
-ClassRecord Hvm::describeClass(std::string_view fullName)
-{
-    return callInto(*state_, [&] { return velmara::describeClass(*state_, fullName); });
-}
-
-MethodRecord Hvm::describeFunction(std::string_view fullName)
-{
-    return callInto(*state_, [&] { return velmara::describeFunction(*state_, fullName); });
-}
-
-std::vector<ObjectRecord> Hvm::objects() const
-{
-    return callInto(*state_, [&] { return listObjects(*state_); });
 }
 
 } // namespace velmara

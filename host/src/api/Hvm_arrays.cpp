@@ -1,8 +1,8 @@
 #include "velmara/Hvm.hpp"
 
 #include "arrays/Array.hpp"
-#include "arrays/ArrayComparison.hpp"
-#include "classes/ClassTree.hpp"
+#include "arrays/arrayComparison.hpp"
+#include "classes/classHierarchy.hpp"
 #include "objects/Object.hpp"
 
 #include <algorithm>

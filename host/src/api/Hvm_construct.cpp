@@ -1,6 +1,6 @@
 #include "velmara/Hvm.hpp"
 
-#include "api/calls.hpp"
+#include "api/callTargets.hpp"
 
 #include "api/HvmCall.hpp"
 #include "arrays/Array.hpp"
@@ -11,21 +11,21 @@ namespace velmara {
 
 namespace {
 
-/// A new object, held by its array from the beginning.
-[[gnu::always_inline]] inline ArrayPtr makeObject(Class& cls)
+/// A new object, which its array holds from the beginning.
+[[gnu::always_inline]] inline ArrayPtr createObject(Class& cls)
 {
     ArrayPtr array(Array::createObjects(cls.name(), 1, 1));
-    Object& object = cls.makeObject();
-    Array::of(array.get())->takeFirstObject(0, object);
+    Object& object = cls.createObject();
+    Array::of(array.get())->setFirstObject(0, object);
     object.initialize();
     return array;
 }
 
-/// Calls a constructor for a new object. When it fails, the object ends with its array.
+/// Calls a constructor for a new object. When it fails, the object is finalized with its array.
 [[gnu::always_inline]] inline ArrayPtr invokeConstructor(Class& cls, Method const& constructor, int inputCount,
                                                          orbis::COSValue const* inputs)
 {
-    ArrayPtr object = makeObject(cls);
+    ArrayPtr object = createObject(cls);
     orbis::COSValue output(object.get());
     int outputCount = 0;
     constructor.info->invoke(nullptr, outputCount, &output, inputCount, inputs);
@@ -43,7 +43,7 @@ namespace {
     if (constructors.methods.empty()) {
         if (!inputs.empty())
             throwHostError("VELMARA:class", "noConstructor", {cls.name()->string()});
-        return makeObject(cls);
+        return createObject(cls);
     }
     CallInputs const call{nullptr, inputs};
     ConvertedInputs converted(call.capacity());
@@ -55,11 +55,11 @@ namespace {
 {
     Class& cls = requireClass(machine, className);
     if (cls.isEnumeration()) [[unlikely]]
-        cls.requireNoEnumeration();
-    if (char const* const refusal = cls.constructionRefusal()) [[unlikely]]
+        cls.requireNotEnumeration();
+    if (char const* const refusal = cls.constructionError()) [[unlikely]]
         throwHostError("VELMARA:class", refusal, {cls.name()->string()});
-    if (Method const* const constructor = cls.tables().constructors.plainConstructor) [[likely]] {
-        PlainInputs plain;
+    if (Method const* const constructor = cls.tables().constructors.scalarConstructor) [[likely]] {
+        ScalarInputs plain;
         if (plain.read(*constructor, inputs)) [[likely]]
             return invokeConstructor(cls, *constructor, static_cast<int>(constructor->inputCount), plain.values());
     }

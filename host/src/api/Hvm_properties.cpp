@@ -1,21 +1,22 @@
 #include "velmara/Hvm.hpp"
 
 #include "api/HvmCall.hpp"
-#include "api/calls.hpp"
+#include "api/callTargets.hpp"
 #include "classes/Class.hpp"
 #include "dispatch/ResultValue.hpp"
+#include "dispatch/mismatchReason.hpp"
 #include "errors/hostError.hpp"
 
 namespace velmara {
 
 namespace {
 
-[[noreturn]] void throwPropertyError(char const* key, Property const& property)
+[[noreturn, gnu::noinline]] void throwPropertyError(char const* key, Property const& property)
 {
     throwHostError("VELMARA:property", key, {property.name->string(), property.definingClass.name()->string()});
 }
 
-[[noreturn]] void throwUnreadable(Property const& property)
+[[noreturn, gnu::noinline]] void throwUnreadable(Property const& property)
 {
     if (property.traits.isAbstract)
         throwPropertyError("abstract", property);
@@ -23,7 +24,7 @@ namespace {
     throwPropertyError(isWriteOnly ? "writeOnly" : "getAccess", property);
 }
 
-[[noreturn]] void throwUnwritable(Property const& property)
+[[noreturn, gnu::noinline]] void throwUnwritable(Property const& property)
 {
     if (property.traits.isAbstract)
         throwPropertyError("abstract", property);
@@ -31,15 +32,20 @@ namespace {
     throwPropertyError(isReadOnly ? "readOnly" : "setAccess", property);
 }
 
+[[noreturn, gnu::noinline]] void throwUnknown(Class const& cls, std::string_view name)
+{
+    throwHostError("VELMARA:property", "unknown", {cls.name()->string(), std::string(name)});
+}
+
 [[gnu::always_inline]] inline Property const& requireProperty(Class& cls, std::string_view name)
 {
     Property const* const property = cls.findProperty(name);
     if (!property) [[unlikely]]
-        throwHostError("VELMARA:property", "unknown", {cls.name()->string(), std::string(name)});
+        throwUnknown(cls, name);
     return *property;
 }
 
-/// The object that the property is one of; null for a static one.
+/// The object whose property it is; null for a static one.
 [[gnu::always_inline]] inline Object* requireOwner(Property const& property, Object* object)
 {
     if (property.traits.isStatic)
@@ -49,7 +55,7 @@ namespace {
     return object;
 }
 
-/// A value that was read, until it is given back to the property.
+/// A value that was read, until the property releases it.
 class ReadValue {
 public:
     ReadValue(Property const& property, Object* object)
@@ -82,7 +88,8 @@ ArrayPtr read(Property const& property, Object* object)
     if (!property.canBeRead) [[unlikely]]
         throwUnreadable(property);
     Object* const owner = requireOwner(property, object);
-    ResultValue result(&property.type()); // outlives the read value: the array goes after the property was told
+    ResultValue result(
+        &property.type()); // destroyed after the read value: the property releases that before the array is destroyed
     ReadValue const value(property, owner);
     result.slot() = value.value();
     return result.take(property.name);
@@ -92,8 +99,8 @@ ArrayPtr read(Property const& property, Object* object)
 {
     checkInputs(machine, {&value, 1});
     ConvertedInputs converted(1);
-    if (converted.add(property.type(), value) == noFit)
-        throwHostError("VELMARA:property", "value", {property.name->string(), explainRefusal(property.type(), value)});
+    if (converted.add(property.type(), value) == notConvertible)
+        throwHostError("VELMARA:property", "value", {property.name->string(), mismatchReason(property.type(), value)});
     property.info->setValue(owner, *converted.values());
 }
 
@@ -104,7 +111,8 @@ void write(Machine& machine, Property const& property, Object* object, hvArray_t
     Object* const owner = requireOwner(property, object);
     TypeReference const& type = property.type();
     orbis::COSValue scalar;
-    if (value && type.kind == TypeKind::Scalar && type.scalar.read(*Array::of(value), scalar) != noFit) [[likely]]
+    if (value && type.kind == TypeKind::Scalar && type.scalar.read(*Array::of(value), scalar) != notConvertible)
+        [[likely]]
         property.info->setValue(owner, scalar);
     else
         writeAny(machine, property, owner, value);

@@ -1,7 +1,7 @@
 #include "velmara/Hvm.hpp"
 
 #include "api/HvmCall.hpp"
-#include "api/calls.hpp"
+#include "api/callTargets.hpp"
 #include "arrays/Array.hpp"
 #include "classes/Class.hpp"
 
@@ -52,7 +52,8 @@ std::vector<Reference> findReferences(Machine& machine, hvArray_tag* array)
     std::vector<Reference> found;
     if (!object)
         return found;
-    // Asking runs native code, which may end the object or add members; old tables stay until it is over.
+    // The queries run native code, which may finalize the object or add members; old tables stay until the call
+    // returns.
     orbis::COSInterfacePtr const held(object);
     Class::of(object->classOf())->tables().propertiesByName.forEach([&](Name name, Property const* property) {
         if (!property->canBeRead || property->traits.isStatic || !property->traits.canContainInterfaces)

@@ -13,10 +13,10 @@
 
 namespace velmara {
 
-Array* Array::createFirstHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+Array* Array::createUncachedHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
 {
-    auto* const array = new (SmallMemory::allocate()) Array(classID, rows, columns, objectClass);
-    ++ownThreadShare().counts.arrays;
+    auto* const array = new (allocate(BlockPool::blockSize)) Array(classID, rows, columns, objectClass);
+    ++currentThreadCache().counts.arrays;
     return array;
 }
 
@@ -64,13 +64,13 @@ Array* Array::createCopy(hvClassID classID, std::size_t rows, std::size_t column
 {
     std::size_t const count = elementCount(rows, columns);
     std::size_t const elementSize = arrayClass(classID).elementSize;
-    if (count > sizeOfPlace / elementSize) {
+    if (count > inlineCapacity / elementSize) {
         Payload* const payload = Payload::createCopy(elements, count, elementSize);
         return createAround(*payload, classID, rows, columns, nullptr);
     }
     Array* const array = createHeader(classID, rows, columns, nullptr);
     if (count != 0)
-        std::memcpy(array->place_, elements, count * elementSize);
+        std::memcpy(array->inlineStorage_, elements, count * elementSize);
     return array;
 }
 
@@ -78,12 +78,12 @@ Array* Array::createZeroed(hvClassID classID, std::size_t rows, std::size_t colu
 {
     std::size_t const count = elementCount(rows, columns);
     std::size_t const elementSize = arrayClass(classID).elementSize;
-    if (count == 0 || (isPlain(classID) && count <= sizeOfPlace / elementSize)) {
+    if (count == 0 || (hasPlainElements(classID) && count <= inlineCapacity / elementSize)) {
         Array* const array = createHeader(classID, rows, columns, objectClass);
-        std::memset(array->place_, 0, sizeOfPlace);
+        std::memset(array->inlineStorage_, 0, inlineCapacity);
         return array;
     }
-    // A single cell has a payload like any other: a copied nest knows by it what was shared.
+    // A single cell has a payload, too: by it a deep copy knows what was shared.
     Payload* const payload = Payload::createZeroed(count, elementSize);
     return createAround(*payload, classID, rows, columns, objectClass);
 }
@@ -91,6 +91,11 @@ Array* Array::createZeroed(hvClassID classID, std::size_t rows, std::size_t colu
 std::string_view Array::className() const
 {
     return objectClass_ ? objectClass_->view() : arrayClass(classID_).name;
+}
+
+std::string Array::sizeText() const
+{
+    return std::to_string(rows()) + "-by-" + std::to_string(columns());
 }
 
 void* Array::writableElements()
@@ -112,7 +117,7 @@ void Array::setCellWithCare(std::size_t index, Array* value)
             return;
         throwHostError("VELMARA:array", "alreadyStored");
     }
-    // Only an array that stands in a cell already, or the value itself, can be found inside the value.
+    // Only an array that is in a cell already, or the value itself, can be inside the value.
     if (value && (value == this || cellsAround_ > 0) && CellNest::contains(*value, *this))
         throwHostError("VELMARA:array", "cycle");
     makeUnshared();
@@ -124,14 +129,14 @@ Array* Array::shareData() const
     if (hasPayload())
         return createSharing(*payload());
     Array* const copy = createHeader(classID_, rows(), columns(), objectClass_);
-    std::memcpy(copy->place_, place_, sizeof place_);
+    std::memcpy(copy->inlineStorage_, inlineStorage_, sizeof inlineStorage_);
     copy->retainElements();
     return copy;
 }
 
 Array* Array::copyDeep() const
 {
-    return DeepCopy().make(*this);
+    return DeepCopy().create(*this);
 }
 
 void Array::copyPayload()
@@ -181,7 +186,7 @@ void Array::retainElements() const noexcept
 
 void Array::destroy() noexcept
 {
-    if (isPlain(classID_)) [[likely]]
+    if (hasPlainElements(classID_)) [[likely]]
         destroyPlain();
     else if (classID_ == hvOBJECT_CLASS)
         destroyObjects();
@@ -191,7 +196,7 @@ void Array::destroy() noexcept
         destroyStrings();
 }
 
-// The array itself goes first: objects that end run native code.
+// The array itself is freed first: finalizing objects runs native code.
 void Array::destroyObjects() noexcept
 {
     if (!hasPayload()) {
@@ -235,13 +240,6 @@ void Array::destroyPlainPayload() noexcept
     if (payload()->removeReference())
         payload()->free();
     freeHeader();
-}
-
-void Array::freeHeaderWithoutShare() noexcept
-{
-    ThreadShare& share = takeThreadShare();
-    --share.counts.arrays;
-    SmallMemory::giveBack(this, share);
 }
 
 } // namespace velmara

@@ -3,7 +3,7 @@
 #include "arrays/ArrayClass.hpp"
 #include "arrays/Payload.hpp"
 #include "arrays/StringElement.hpp"
-#include "memory/SmallMemory.hpp"
+#include "memory/BlockPool.hpp"
 #include "names/InternedName.hpp"
 #include "objects/Object.hpp"
 
@@ -12,27 +12,27 @@
 #include <cstring>
 #include <new>
 #include <span>
+#include <string>
 #include <string_view>
 #include <utility>
 
 namespace velmara {
 
-/// What stands behind every `hvArray_tag`: class, sizes, and elements. Few plain elements (a scalar, a short text) and
-/// the one element of an object array stand in the array itself; other elements stand in a payload that copies share
-/// until one of them writes. Elements are numbers, characters, `Array*` (cells, null when empty), `StringElement`s or
-/// `Object*` (null allowed).
+/// What every `hvArray_tag` is: class, sizes, and elements. Elements are numbers, characters, `Array*` (cells, null
+/// when empty), `StringElement`s or `Object*` (null allowed). Few plain elements (a scalar, a short text) and the one
+/// element of an object array are in the array itself, so that what calls pass most is one allocation; other elements
+/// are in a payload, which copies share until one of them writes.
 ///
-/// It keeps one allocation in all for what calls pass around most. Functions that make, copy or write throw
-/// `bad_alloc` without memory, and leave everything as it was.
+/// Functions that create, copy or write throw `bad_alloc` without memory, and leave everything as it was.
 class Array final : public hvArray_tag {
 public:
-    /// Of the place in the array itself, in bytes.
-    static constexpr std::size_t sizeOfPlace = 40;
+    /// How many bytes of elements fit in the array itself.
+    static constexpr std::size_t inlineCapacity = 40;
 
     /// A new array of zeros, empty cells or missing strings, of any class but objects, with one reference.
     static Array* create(hvClassID classID, std::size_t rows, std::size_t columns)
     {
-        bool const isScalar = rows == 1 && columns == 1 && isPlain(classID);
+        bool const isScalar = rows == 1 && columns == 1 && hasPlainElements(classID);
         return isScalar ? createScalar(classID, 0) : createZeroed(classID, rows, columns, nullptr);
     }
 
@@ -40,22 +40,22 @@ public:
     static Array* createScalar(hvClassID classID, std::uint64_t bytes)
     {
         Array* const array = createHeader(classID, 1, 1, nullptr);
-        std::memcpy(array->place_, &bytes, sizeof bytes);
+        std::memcpy(array->inlineStorage_, &bytes, sizeof bytes);
         return array;
     }
 
-    /// A new array of `size` characters: one row, or 0-by-0 when there are none. They are yet to be written to
-    /// `newText`.
+    /// A new array of `size` characters, which are yet to be written to `writableText`: one row, or 0-by-0 when there
+    /// are none.
     static Array* createText(std::size_t size)
     {
-        if (size > sizeOfPlace / sizeof(char16_t))
+        if (size > inlineCapacity / sizeof(char16_t))
             return createLongText(size);
         return createHeader(hvCHAR_CLASS, size != 0, size, nullptr);
     }
 
-    char16_t* newText() { return static_cast<char16_t*>(elements_); }
+    char16_t* writableText() { return static_cast<char16_t*>(elements_); }
 
-    /// A new array of a plain class with a copy of `elements`, which are as many as it has.
+    /// A new array of a plain class with a copy of its elements.
     static Array* createCopy(hvClassID classID, std::size_t rows, std::size_t columns, void const* elements);
 
     /// A new array of null objects, typed by a class name.
@@ -71,6 +71,17 @@ public:
     static Array* of(hvArray_tag* array) { return static_cast<Array*>(array); }
     static Array const* of(hvArray_tag const* array) { return static_cast<Array const*>(array); }
 
+    bool isScalar() const { return dimensions_[0] == 1 && dimensions_[1] == 1; }
+
+    /// One row of characters, or none.
+    bool isText() const { return classID_ == hvCHAR_CLASS && (rows() == 1 || size() == 0); }
+
+    /// "[]", a double array of 0-by-0, stands for no object and for no value.
+    bool isEmptyDouble() const { return classID_ == hvDOUBLE_CLASS && rows() == 0 && columns() == 0; }
+
+    /// One string, which is missing, stands for no value, too.
+    bool isMissingString() const { return classID_ == hvSTRING_CLASS && size() == 1 && strings().front().isMissing(); }
+
     hvClassID classID() const { return classID_; }
     std::size_t rows() const { return dimensions_[0]; }
     std::size_t columns() const { return dimensions_[1]; }
@@ -79,6 +90,9 @@ public:
 
     /// The name of the class: "double", "cell", ..., a published class's full name.
     std::string_view className() const;
+
+    /// "2-by-3"
+    std::string sizeText() const;
 
     /// The class name of an object array, null for others.
     Name objectClass() const { return objectClass_; }
@@ -108,22 +122,21 @@ public:
 
     void setObject(std::size_t index, Object* object);
 
-    /// Sets the one object of a 1-by-1 array of just its class, where none is yet; otherwise does nothing and gives
-    /// false. What every object that crosses passes through.
-    bool takeFirstObject(std::size_t index, Object& object);
+    /// Sets the one object of a 1-by-1 array of just its class that has none yet, as for every object that a call
+    /// passes; otherwise does nothing and returns false.
+    bool setFirstObject(std::size_t index, Object& object);
 
     /// A new array of the same elements: one that shares the payload, or one that owns copies of all that it holds.
-    /// What shares data inside the source shares it in a deep copy, too, so that a copy never outgrows its source.
+    /// Arrays that share data inside the source do so in a deep copy, too, so that a copy never outgrows its source.
     Array* shareData() const;
     Array* copyDeep() const;
 
     void setTemporary(bool isTemporary) { flags_ = isTemporary ? flags_ | temporaryFlag : flags_ & ~temporaryFlag; }
 
-    /// The place for an element in the array itself. Arrays of cells and of strings keep none there, so it is free for
-    /// what is worked out about them.
-    void* freePlace() const { return place_; }
+    /// The inline storage of arrays of cells or strings, whose elements are never there.
+    void* scratch() const { return inlineStorage_; }
 
-    /// Gives one reference back; the last one frees the array.
+    /// Releases one reference; the last one destroys the array.
     void release() noexcept
     {
         if (--references_ == 0)
@@ -143,11 +156,11 @@ private:
 
     ~Array() = default;
 
-    /// An array whose elements, if it has any, stand in the array itself, and are yet to be written.
+    /// An array whose elements, if it has any, are in the array itself, and are yet to be written.
     static Array* createHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
 
-    /// The same where the thread keeps no memory.
-    static Array* createFirstHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
+    /// The same when the thread's cache has no block.
+    static Array* createUncachedHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
 
     /// Takes over `payload`, also when it throws.
     static Array* createAround(Payload& payload, hvClassID classID, std::size_t rows, std::size_t columns,
@@ -156,7 +169,7 @@ private:
     static Array* createLongText(std::size_t size);
     static Array* createZeroed(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
 
-    bool hasPayload() const { return elements_ != place_; }
+    bool hasPayload() const { return elements_ != inlineStorage_; }
     Payload* payload() const { return Payload::of(elements_); }
     std::size_t elementSize() const { return arrayClass(classID_).elementSize; }
     void setCellWithCare(std::size_t index, Array* value);
@@ -202,38 +215,35 @@ private:
     void destroyPlain() noexcept;
     [[gnu::noinline]] void destroyPlainPayload() noexcept;
     void freeHeader() noexcept;
-    void freeHeaderWithoutShare() noexcept;
 
     hvClassID classID_;
     std::uint32_t cellsAround_ = 0; ///< how many of the references are held by cells
     std::size_t dimensions_[2];
     Name objectClass_;
-    void* elements_ = place_;
-    alignas(8) mutable std::byte place_[sizeOfPlace]; ///< for elements that stand in the array itself
+    void* elements_ = inlineStorage_;
+    alignas(8) mutable std::byte inlineStorage_[inlineCapacity];
 };
 
-static_assert(sizeof(Array) == SmallMemory::size);
+static_assert(sizeof(Array) == BlockPool::blockSize);
 
 inline Array* Array::createHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
 {
-    ThreadShare* const share = shareOfThisThread;
-    void* const memory = share ? SmallMemory::takeKept(*share) : nullptr;
-    if (!memory) [[unlikely]]
-        return createFirstHeader(classID, rows, columns, objectClass);
-    ++share->counts.arrays;
-    return new (memory) Array(classID, rows, columns, objectClass);
+    ThreadCache* const cache = threadCache;
+    void* const block = cache ? BlockPool::acquire(*cache) : nullptr;
+    if (!block) [[unlikely]]
+        return createUncachedHeader(classID, rows, columns, objectClass);
+    ++cache->counts.arrays;
+    return new (block) Array(classID, rows, columns, objectClass);
 }
 
 inline void Array::freeHeader() noexcept
 {
-    ThreadShare* const share = shareOfThisThread;
-    if (!share) [[unlikely]]
-        return freeHeaderWithoutShare();
-    --share->counts.arrays;
-    SmallMemory::giveBack(this, *share);
+    ThreadCache& cache = currentThreadCache();
+    --cache.counts.arrays;
+    BlockPool::release(this, cache);
 }
 
-inline bool Array::takeFirstObject(std::size_t index, Object& object)
+inline bool Array::setFirstObject(std::size_t index, Object& object)
 {
     bool const isFirst = classID_ == hvOBJECT_CLASS && index < size() && !hasPayload() && !*objectSlots() &&
                          objectClass_ == object.className();
@@ -249,7 +259,7 @@ inline void Array::setObject(std::size_t index, Object* object)
     makeUnshared();
     if (object)
         object->addInternal();
-    // Last, because an object that ends runs native code, which may use this array.
+    // Last, because finalizing the object runs native code, which may use this array.
     if (Object* const old = std::exchange(objectSlots()[index], object))
         old->removeInternal();
 }

@@ -13,7 +13,7 @@ struct ArrayClass {
 };
 
 /// True for the numeric, logical and character classes, whose elements own nothing.
-constexpr bool isPlain(hvClassID id)
+constexpr bool hasPlainElements(hvClassID id)
 {
     return id >= hvLOGICAL_CLASS && id <= hvUINT64_CLASS;
 }

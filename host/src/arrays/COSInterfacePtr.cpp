@@ -13,7 +13,7 @@ namespace {
 
 using velmara::Object;
 
-void hold(COSInterface* object, COSReferenceType type)
+void acquire(COSInterface* object, COSReferenceType type)
 {
     if (!object)
         return;
@@ -23,7 +23,7 @@ void hold(COSInterface* object, COSReferenceType type)
         static_cast<Object*>(object)->addWeak();
 }
 
-void letGo(COSInterface* object, COSReferenceType type)
+void release(COSInterface* object, COSReferenceType type)
 {
     if (!object)
         return;
@@ -37,25 +37,25 @@ void letGo(COSInterface* object, COSReferenceType type)
 
 COSInterfacePtr::COSInterfacePtr(COSInterface* object) : object_(object), type_(COSReferenceType::Strong)
 {
-    hold(object_, COSReferenceType::Strong);
+    acquire(object_, COSReferenceType::Strong);
 }
 
 COSInterfacePtr::COSInterfacePtr(COSInterfacePtr const& other) : object_(other.object_), type_(other.type_)
 {
-    hold(object_, type_);
+    acquire(object_, type_);
 }
 
 COSInterfacePtr& COSInterfacePtr::operator=(COSInterfacePtr const& other) // NOLINT(bugprone-unhandled-self-assignment)
 {
-    hold(other.object_, other.type_);
-    // The last step, because an object that ends runs native code, which may use this handle.
-    letGo(std::exchange(object_, other.object_), std::exchange(type_, other.type_));
+    acquire(other.object_, other.type_);
+    // Last, because finalizing the object runs native code, which may use this handle.
+    release(std::exchange(object_, other.object_), std::exchange(type_, other.type_));
     return *this;
 }
 
 COSInterfacePtr::~COSInterfacePtr()
 {
-    letGo(object_, type_);
+    release(object_, type_);
 }
 
 COSInterface* COSInterfacePtr::livingObject() const
@@ -86,13 +86,13 @@ COSInterface const& COSInterfacePtr::operator*() const
 
 void COSInterfacePtr::setReferenceType(COSReferenceType type)
 {
-    // A weak handle whose object has ended becomes an empty strong one.
+    // A weak handle whose object is finalized becomes an empty strong one.
     COSInterface* const held = *this;
-    hold(held, type);
-    letGo(std::exchange(object_, held), std::exchange(type_, type));
+    acquire(held, type);
+    release(std::exchange(object_, held), std::exchange(type_, type));
 }
 
-// These two stand where the constructor of the handle that they make can stand in them: most calls pass through one.
+// These two are here so that the handle's constructor is inlined into them: most calls use one.
 
 COSInterfacePtr omGetArrayElement(hvArray_tag const* array, std::size_t index)
 {

@@ -9,7 +9,7 @@ namespace velmara {
 
 Array*& CellNest::nextDying(Array& array)
 {
-    return *static_cast<Array**>(array.freePlace());
+    return *static_cast<Array**>(array.scratch());
 }
 
 void CellNest::destroy(Array* cells) noexcept

@@ -4,13 +4,13 @@ namespace velmara {
 
 class Array;
 
-/// Work on cell arrays that hold cell arrays, to any depth: none of it recurses.
+/// Cell arrays that hold cell arrays, to any depth: nothing here recurses.
 class CellNest {
 public:
-    /// Frees a cell array whose last reference is gone, and what only it held. Needs no memory.
+    /// Frees a cell array whose last reference was released, and what only it held. Needs no memory.
     static void destroy(Array* cells) noexcept;
 
-    /// True when `sought` is `nest` or stands anywhere inside it.
+    /// True when `sought` is `nest` or is anywhere inside it.
     static bool contains(Array const& nest, Array const& sought);
 
 private:

@@ -9,7 +9,7 @@ void DeepCopy::Release::operator()(Array* array) const noexcept
     array->release();
 }
 
-Array* DeepCopy::make(Array const& source)
+Array* DeepCopy::create(Array const& source)
 {
     Owner outermost = copy(source);
     while (!open_.empty()) {

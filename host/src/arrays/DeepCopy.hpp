@@ -10,10 +10,11 @@ namespace velmara {
 class Array;
 class Payload;
 
-/// One deep copy in the making. Payloads that occur several times in the source are copied once.
+/// Creates one deep copy. Payloads that occur several times in the source are copied once. Takes no stack for nested
+/// cells.
 class DeepCopy {
 public:
-    Array* make(Array const& source);
+    Array* create(Array const& source);
 
 private:
     struct Release {
@@ -21,7 +22,7 @@ private:
     };
     using Owner = std::unique_ptr<Array, Release>;
 
-    /// A cell array whose copy's cells are still empty.
+    /// The cells of an array, and those of its copy, which are still empty.
     struct Open {
         std::span<Array* const> from;
         Array** to;

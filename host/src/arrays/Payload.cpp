@@ -1,5 +1,7 @@
 #include "arrays/Payload.hpp"
 
+#include "memory/allocate.hpp"
+
 #include "libkwfl/bad_alloc.hpp"
 
 #include <cstdlib>
@@ -23,8 +25,6 @@ std::size_t sizeInBytes(std::size_t count, std::size_t size)
 
 Payload* Payload::withOneReference(void* memory)
 {
-    if (!memory)
-        throw foundation::core::except::bad_alloc();
     auto* const payload = static_cast<Payload*>(memory);
     payload->references_ = 1;
     return payload;
@@ -32,15 +32,18 @@ Payload* Payload::withOneReference(void* memory)
 
 Payload* Payload::create(std::size_t count, std::size_t size)
 {
-    return withOneReference(std::malloc(sizeInBytes(count, size)));
+    return withOneReference(allocate(sizeInBytes(count, size)));
 }
 
 Payload* Payload::createZeroed(std::size_t count, std::size_t size)
 {
     std::size_t const bytes = sizeInBytes(count, size);
-    if (bytes >= largeSize)
-        return withOneReference(std::calloc(1, bytes));
-    Payload* const payload = withOneReference(std::malloc(bytes));
+    if (bytes >= largeSize) {
+        if (void* const memory = std::calloc(1, bytes))
+            return withOneReference(memory);
+        throw foundation::core::except::bad_alloc();
+    }
+    Payload* const payload = withOneReference(allocate(bytes));
     std::memset(payload->elements(), 0, bytes - sizeof(Payload));
     return payload;
 }

@@ -5,12 +5,12 @@
 
 namespace velmara {
 
-/// The elements of arrays that share their data, behind a plain reference count. Whoever gives the last reference
-/// back also ends the elements.
+/// The elements of arrays that share their data, behind a plain reference count. Whoever removes the last reference
+/// destroys the elements.
 class alignas(16) Payload {
 public:
-    /// Room for `count` elements of `size` bytes, with one reference. Throws `bad_alloc`, also when there cannot be so
-    /// many.
+    /// Memory for `count` elements of `size` bytes, with one reference. Throws `bad_alloc`, also when there cannot be
+    /// so many.
     static Payload* create(std::size_t count, std::size_t size);
 
     /// The same, all zero.

@@ -9,14 +9,14 @@ namespace velmara {
 
 StringArrayView const& StringArrayView::of(Array const& strings)
 {
-    static_assert(sizeof(StringArrayView) <= Array::sizeOfPlace);
-    return *new (strings.freePlace()) StringArrayView(strings);
+    static_assert(sizeof(StringArrayView) <= Array::inlineCapacity);
+    return *new (strings.scratch()) StringArrayView(strings);
 }
 
 StringElement const& StringArrayView::element(std::size_t index) const
 {
     if (index >= array_->size()) [[unlikely]]
-        refuseIndex(*array_, index);
+        throwIndexOutside(*array_, index);
     return array_->strings()[index];
 }
 

@@ -7,7 +7,7 @@ namespace velmara {
 class Array;
 class StringElement;
 
-/// The view of one string array. It stands in the array itself, so it lives as long.
+/// The view of one string array. It is in the array itself, so it lives as long.
 class StringArrayView final : public Tarnwick::StringArray {
 public:
     static StringArrayView const& of(Array const& strings);

@@ -5,14 +5,14 @@ namespace velmara {
 StringElement::StringElement(StringElement const& other)
 {
     if (other.isLong())
-        makeLong(other.view());
+        storeLong(other.view());
     else
         short_ = other.short_;
 }
 
-void StringElement::makeLong(std::u16string_view text)
+void StringElement::storeLong(std::u16string_view text)
 {
-    auto* const units = TextMemory::allocate<char16_t>(text.size());
+    auto* const units = TextAllocator::allocate<char16_t>(text.size());
     text.copy(units, text.size());
     long_ = {longText, text.size(), units};
 }

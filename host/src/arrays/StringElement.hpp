@@ -1,6 +1,6 @@
 #pragma once
 
-#include "memory/TextMemory.hpp"
+#include "memory/TextAllocator.hpp"
 #include "text/copyUnits.hpp"
 
 #include <cstddef>
@@ -9,8 +9,8 @@
 
 namespace velmara {
 
-/// One element of a string array: missing, or UTF-16 text of its own. Short text stands in the element itself, so
-/// that most string arrays are one piece of memory. All bytes zero is a missing element.
+/// One element of a string array: missing, or UTF-16 text of its own. Short text is in the element itself, so that
+/// most string arrays are one piece of memory. All bytes zero is a missing element.
 class StringElement {
 public:
     StringElement() : short_{} {}
@@ -18,10 +18,10 @@ public:
     /// Throws `bad_alloc`.
     explicit StringElement(std::u16string_view text)
     {
-        if (text.size() > mostShort) [[unlikely]]
-            makeLong(text);
+        if (text.size() > maxShort) [[unlikely]]
+            storeLong(text);
         else
-            makeShort(text);
+            storeShort(text);
     }
 
     StringElement(StringElement const& other);
@@ -35,7 +35,7 @@ public:
     ~StringElement()
     {
         if (isLong()) [[unlikely]]
-            TextMemory::free(long_.text);
+            TextAllocator::free(long_.text);
     }
 
     void swap(StringElement& other) noexcept { std::swap(bytes_, other.bytes_); }
@@ -67,11 +67,11 @@ public:
 private:
     static constexpr char16_t missing = 0; ///< other tags of short text are its length and one more
     static constexpr char16_t longText = 0xFFFF;
-    static constexpr std::size_t mostShort = 14;
+    static constexpr std::size_t maxShort = 14;
 
     struct Short {
         char16_t tag;
-        char16_t units[mostShort + 1];
+        char16_t units[maxShort + 1];
     };
 
     struct Long {
@@ -82,14 +82,14 @@ private:
 
     bool isLong() const { return short_.tag == longText; }
 
-    void makeShort(std::u16string_view text)
+    void storeShort(std::u16string_view text)
     {
         short_.tag = static_cast<char16_t>(text.size() + 1);
         copyUnits(text, short_.units);
         short_.units[text.size()] = u'\0';
     }
 
-    void makeLong(std::u16string_view text);
+    void storeLong(std::u16string_view text);
 
     struct Bytes {
         alignas(8) std::byte bytes[32];

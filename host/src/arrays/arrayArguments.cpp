@@ -4,17 +4,17 @@
 
 namespace velmara {
 
-void refuseNullArray()
+void throwNullArray()
 {
     throwHostError("VELMARA:array", "null");
 }
 
-void refuseIndex(Array const& array, std::size_t index)
+void throwIndexOutside(Array const& array, std::size_t index)
 {
     throwHostError("VELMARA:array", "index", {std::to_string(index), std::to_string(array.size())});
 }
 
-void refuseClass(Array const& array, char const* key)
+void throwWrongClass(Array const& array, char const* key)
 {
     throwHostError("VELMARA:array", key, {std::string(array.className())});
 }

@@ -4,16 +4,16 @@
 
 namespace velmara {
 
-[[noreturn]] void refuseNullArray();
-[[noreturn]] void refuseIndex(Array const& array, std::size_t index);
-[[noreturn]] void refuseClass(Array const& array, char const* key);
+[[noreturn]] void throwNullArray();
+[[noreturn]] void throwIndexOutside(Array const& array, std::size_t index);
+[[noreturn]] void throwWrongClass(Array const& array, char const* key);
 
-/// What the host's array functions ask of their arguments before they touch them; "VELMARA:array:..." errors.
+/// The arrays that the host's array functions need as their arguments; throw "VELMARA:array:..." for others.
 template <class Tag>
 auto& requireArray(Tag* array)
 {
     if (!array) [[unlikely]]
-        refuseNullArray();
+        throwNullArray();
     return *Array::of(array);
 }
 
@@ -22,9 +22,9 @@ auto& requireCell(Tag* array, std::size_t index)
 {
     auto& cells = requireArray(array);
     if (cells.classID() != hvCELL_CLASS) [[unlikely]]
-        refuseClass(cells, "notCell");
+        throwWrongClass(cells, "notCell");
     if (index >= cells.size()) [[unlikely]]
-        refuseIndex(cells, index);
+        throwIndexOutside(cells, index);
     return cells;
 }
 
@@ -33,7 +33,7 @@ auto& requireStrings(Tag* array)
 {
     auto& strings = requireArray(array);
     if (strings.classID() != hvSTRING_CLASS) [[unlikely]]
-        refuseClass(strings, "notString");
+        throwWrongClass(strings, "notString");
     return strings;
 }
 
@@ -42,7 +42,7 @@ auto& requireString(Tag* array, std::size_t index)
 {
     auto& strings = requireStrings(array);
     if (index >= strings.size()) [[unlikely]]
-        refuseIndex(strings, index);
+        throwIndexOutside(strings, index);
     return strings;
 }
 
@@ -51,7 +51,7 @@ auto& requireObjects(Tag* array)
 {
     auto& objects = requireArray(array);
     if (objects.classID() != hvOBJECT_CLASS) [[unlikely]]
-        refuseClass(objects, "notObject");
+        throwWrongClass(objects, "notObject");
     return objects;
 }
 
@@ -60,7 +60,7 @@ auto& requireObject(Tag* array, std::size_t index)
 {
     auto& objects = requireObjects(array);
     if (index >= objects.size()) [[unlikely]]
-        refuseIndex(objects, index);
+        throwIndexOutside(objects, index);
     return objects;
 }
 

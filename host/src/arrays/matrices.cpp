@@ -9,15 +9,15 @@ using namespace velmara;
 
 namespace {
 
-[[noreturn, gnu::noinline]] void refuseClassID(hvClassID classID)
+[[noreturn, gnu::noinline]] void throwNotNumeric(hvClassID classID)
 {
     throwHostError("VELMARA:array", "notNumeric", {std::to_string(classID)});
 }
 
 void requirePlain(hvClassID classID)
 {
-    if (!isPlain(classID)) [[unlikely]]
-        refuseClassID(classID);
+    if (!hasPlainElements(classID)) [[unlikely]]
+        throwNotNumeric(classID);
 }
 
 } // namespace
@@ -37,13 +37,13 @@ hvArray* createMatrix(std::size_t m, std::size_t n, hvClassID classID, void cons
 void const* getData(hvArray_tag const* array)
 {
     Array const& matrix = requireArray(array);
-    return isPlain(matrix.classID()) ? matrix.elements() : nullptr;
+    return hasPlainElements(matrix.classID()) ? matrix.elements() : nullptr;
 }
 
 void* getWritableData(hvArray_tag* array)
 {
     Array& matrix = requireArray(array);
-    return isPlain(matrix.classID()) ? matrix.writableElements() : nullptr;
+    return hasPlainElements(matrix.classID()) ? matrix.writableElements() : nullptr;
 }
 
 } // namespace orbis::additions

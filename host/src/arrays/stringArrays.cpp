@@ -15,8 +15,8 @@ hvArray* createStringMatrix(std::size_t m, std::size_t n)
 void setString(hvArray_tag* strings, std::size_t index, std::u16string_view text)
 {
     Array& array = requireString(strings, index);
-    StringElement made(text); // first: the text may be an element's
-    array.writableString(index).swap(made);
+    StringElement element(text); // first: the text may be that of an element
+    array.writableString(index).swap(element);
 }
 
 void setMissing(hvArray_tag* strings, std::size_t index)

@@ -1,8 +1,7 @@
 #include "arrays/Array.hpp"
-#include "memory/TextMemory.hpp"
-#include "text/AsciiText.hpp"
-#include "text/Utf.hpp"
+#include "memory/TextAllocator.hpp"
 #include "text/copyUnits.hpp"
+#include "text/utf.hpp"
 
 #include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
@@ -10,7 +9,7 @@
 namespace matrix::detail::noninlined::hv_array_api {
 
 using velmara::Array;
-using velmara::TextMemory;
+using velmara::TextAllocator;
 
 namespace {
 
@@ -19,29 +18,15 @@ bool isCharacters(hvArray_tag const* array)
     return array && Array::of(array)->classID() == hvCHAR_CLASS;
 }
 
-[[gnu::noinline]] hvArray* createBeyondAscii(std::string_view utf8)
-{
-    Array* const array = Array::createText(velmara::sizeAsUtf16(utf8));
-    velmara::writeAsUtf16(utf8, array->newText());
-    return array;
-}
-
-[[gnu::noinline]] char* writeBeyondAscii(std::u16string_view utf16)
-{
-    char* const text = TextMemory::allocate<char>(velmara::sizeAsUtf8(utf16));
-    velmara::writeAsUtf8(utf16, text);
-    return text;
-}
-
 } // namespace
 
 hvArray* hvCreateString(char const* text)
 {
-    std::string_view const utf8 = text ? text : "";
-    if (!velmara::isAscii(utf8)) [[unlikely]]
-        return createBeyondAscii(utf8);
-    Array* const array = Array::createText(utf8.size());
-    velmara::copyAscii(utf8, array->newText());
+    Array* array = nullptr;
+    velmara::convertToUtf16(text ? text : "", [&](std::size_t size) {
+        array = Array::createText(size);
+        return array->writableText();
+    });
     return array;
 }
 
@@ -54,11 +39,9 @@ char* hvArrayToString(hvArray_tag const* array)
 {
     if (!isCharacters(array))
         return nullptr;
-    std::u16string_view const utf16 = Array::of(array)->text();
-    if (!velmara::isAscii(utf16)) [[unlikely]]
-        return writeBeyondAscii(utf16);
-    char* const text = TextMemory::allocate<char>(utf16.size());
-    velmara::copyAscii(utf16, text);
+    char* text = nullptr;
+    velmara::convertToUtf8(Array::of(array)->text(),
+                           [&](std::size_t size) { return text = TextAllocator::allocate<char>(size); });
     return text;
 }
 
@@ -72,19 +55,19 @@ char16_t* hvArrayToString_UTF16(hvArray_tag const* array)
     if (!isCharacters(array))
         return nullptr;
     std::u16string_view const utf16 = Array::of(array)->text();
-    auto* const text = TextMemory::allocate<char16_t>(utf16.size());
+    auto* const text = TextAllocator::allocate<char16_t>(utf16.size());
     velmara::copyUnits(utf16, text);
     return text;
 }
 
 void hvFree(void* text)
 {
-    TextMemory::free(text);
+    TextAllocator::free(text);
 }
 
 void hvFreeEx(void* text)
 {
-    TextMemory::free(text);
+    TextAllocator::free(text);
 }
 
 } // namespace matrix::detail::noninlined::hv_array_api
@@ -92,6 +75,6 @@ void hvFreeEx(void* text)
 hvArray* orbis::additions::createText(std::u16string_view text)
 {
     velmara::Array* const array = velmara::Array::createText(text.size());
-    velmara::copyUnits(text, array->newText());
+    velmara::copyUnits(text, array->writableText());
     return array;
 }

@@ -14,7 +14,7 @@ COSClass* COSClass::getClass(COSNameID const& name)
     Machine* const machine = Machine::current();
     velmara::Class* const cls = machine ? machine->packages().findClass(name.interned()) : nullptr;
     if (cls && !cls->isReady())
-        cls->makeReady();
+        cls->ensureReady();
     return cls;
 }
 

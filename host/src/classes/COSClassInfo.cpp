@@ -1,8 +1,7 @@
 #include "orbis/COSClassInfo.hpp"
 
-#include "memory/LiveCounters.hpp"
-
-#include "libkwfl/bad_alloc.hpp"
+#include "memory/ThreadCache.hpp"
+#include "memory/allocate.hpp"
 
 #include <cstdlib>
 
@@ -10,9 +9,7 @@ namespace orbis {
 
 void* COSClassInfo::operator new(std::size_t size)
 {
-    if (void* const storage = std::malloc(size))
-        return storage;
-    throw foundation::core::except::bad_alloc();
+    return velmara::allocate(size);
 }
 
 void COSClassInfo::operator delete(void* storage)
@@ -22,11 +19,11 @@ void COSClassInfo::operator delete(void* storage)
 
 COSClassInfo::COSClassInfo()
 {
-    ++velmara::liveCountsOfThisThread().classInfos;
+    ++velmara::currentLiveCounts().classInfos;
 }
 COSClassInfo::~COSClassInfo()
 {
-    --velmara::liveCountsOfThisThread().classInfos;
+    --velmara::currentLiveCounts().classInfos;
 }
 
 char const* COSClassInfo::getDescription() const

@@ -1,8 +1,7 @@
 #include "orbis/COSPackageInfo.hpp"
 
-#include "memory/LiveCounters.hpp"
-
-#include "libkwfl/bad_alloc.hpp"
+#include "memory/ThreadCache.hpp"
+#include "memory/allocate.hpp"
 
 #include <cstdlib>
 
@@ -10,9 +9,7 @@ namespace orbis {
 
 void* COSPackageInfo::operator new(std::size_t size)
 {
-    if (void* const storage = std::malloc(size))
-        return storage;
-    throw foundation::core::except::bad_alloc();
+    return velmara::allocate(size);
 }
 
 void COSPackageInfo::operator delete(void* storage)
@@ -22,11 +19,11 @@ void COSPackageInfo::operator delete(void* storage)
 
 COSPackageInfo::COSPackageInfo()
 {
-    ++velmara::liveCountsOfThisThread().descriptors;
+    ++velmara::currentLiveCounts().descriptors;
 }
 COSPackageInfo::~COSPackageInfo()
 {
-    --velmara::liveCountsOfThisThread().descriptors;
+    --velmara::currentLiveCounts().descriptors;
 }
 
 char const* COSPackageInfo::getDescription() const

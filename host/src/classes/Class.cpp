@@ -19,7 +19,7 @@ std::vector<ObjectClass*> linearize(Class& cls)
     std::vector<ObjectClass*> order;
     for (Class* const superclass : cls.contents().superclasses)
         order.insert(order.end(), superclass->linearization().begin(), superclass->linearization().end());
-    // Of a class that is reached on several ways the last place is kept: behind all its subclasses.
+    // A class that is reached on several ways counts at its last place: behind all its subclasses.
     std::vector<ObjectClass*> reversed;
     for (auto it = order.rbegin(); it != order.rend(); ++it)
         if (std::ranges::find(reversed, *it) == reversed.end())
@@ -29,7 +29,7 @@ std::vector<ObjectClass*> linearize(Class& cls)
     return reversed;
 }
 
-char const* refusalOf(orbis::COSClassInfo const& info)
+char const* constructionErrorOf(orbis::COSClassInfo const& info)
 {
     if (info.classIsAbstract() || info.isAbstract())
         return "abstract";
@@ -43,9 +43,10 @@ Class::Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, Machine& mach
       contents_(std::make_unique<ClassContents>()),
       isEnumeration_(this->info().isEnumeration())
 {
+    setLinearization(contents_->linearization);
 }
 
-void Class::makeReady()
+void Class::ensureReady()
 {
     if (state_ == State::Ready || state_ == State::Describing) [[likely]]
         return;
@@ -60,8 +61,8 @@ void Class::makeReady()
     } catch (...) {
         state_ = State::Untouched;
         dropContents();
-        rethrowShortage();
-        throwHostError("VELMARA:class", "initialization", {name()->string(), textOfCurrentException()});
+        rethrowIfOutOfMemory();
+        throwHostError("VELMARA:class", "initialization", {name()->string(), currentErrorText()});
     }
     state_ = State::Ready;
 }
@@ -69,20 +70,21 @@ void Class::makeReady()
 void Class::describe()
 {
     info().initializeClass(this);
-    constructionRefusal_ = refusalOf(info());
+    constructionError_ = constructionErrorOf(info());
     contents_->linearization = linearize(*this);
     contents_->tables = buildMemberTables(contents_->linearization);
     if (isEnumeration_ && contents_->enumerators.empty())
         throwHostError("VELMARA:enumeration", "empty", {name()->string()});
-    contents_->enumerators.makeObjects(*this);
+    contents_->enumerators.createObjects(*this);
 }
 
 void Class::dropContents() noexcept
 {
     if (!empty_)
-        return; // there are none
+        return; // there are no contents
     for (Class* const superclass : contents_->superclasses)
         std::erase(superclass->subclasses_, this);
+    setLinearization(empty_->linearization);
     machine().retire(std::exchange(contents_, std::move(empty_)));
 }
 
@@ -125,7 +127,7 @@ void Class::setSuperclasses(std::span<orbis::COSNameID const> names)
         Class* const cls = machine().packages().findClass(superclass.interned()->view());
         if (!cls)
             throwHostError("VELMARA:class", "unknown", {superclass.interned()->string()});
-        cls->makeReady();
+        cls->ensureReady();
         if (!cls->isReady())
             throwHostError("VELMARA:class", "cycle", {name()->string(), cls->name()->string()});
         if (cls->info().isSealed() || cls->isEnumeration())
@@ -142,27 +144,27 @@ void Class::setSuperclasses(std::span<orbis::COSNameID const> names)
     contents_->superclasses = std::move(classes);
 }
 
-[[gnu::noinline]] void Class::refuseObject() const
+[[gnu::noinline]] void Class::throwUncreatable() const
 {
     if (machine().isEnding())
         throwHostError("VELMARA:hvm", "ending");
     if (!isReady())
         throwHostError("VELMARA:class", "notInitialized", {name()->string()});
-    requireNoEnumeration();
+    requireNotEnumeration();
 }
 
-Object& Class::makeObject()
+Object& Class::createObject()
 {
     if (machine().isEnding() || !isReady() || isEnumeration_) [[unlikely]]
-        refuseObject();
-    return Object::make(*this);
+        throwUncreatable();
+    return Object::create(*this);
 }
 
 orbis::COSInterfacePtr Class::newInstance()
 {
     if (!machine().isEnding())
-        makeReady();
-    return &makeObject();
+        ensureReady();
+    return &createObject();
 }
 
 void Class::initializeInstance(orbis::COSInterfacePtr instance)

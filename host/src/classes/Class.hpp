@@ -14,8 +14,8 @@
 
 namespace velmara {
 
-/// A published class. It is described by its class info when it is first needed.
-class Class final : public orbis::COSClass, public ObjectClass, public Retirable {
+/// A published class. Its class info describes it when it is first needed.
+class Class final : public ObjectClass, public orbis::COSClass, public Retirable {
 public:
     Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, Machine& machine);
     ~Class() override { objects().finalizeAll(); }
@@ -24,38 +24,37 @@ public:
 
     bool isEnumeration() const { return isEnumeration_; }
 
-    /// True when the class is described completely; only then has it members and superclasses.
+    /// True when the class is described completely; only then it has members and superclasses.
     bool isReady() const { return state_ == State::Ready; }
 
     /// True once the class is being unpublished.
     bool isClosed() const { return state_ == State::Closed; }
 
-    /// Has the class described when it is not yet. When describing fails, what was added is dropped, and the
-    /// error names the class. While the class is being described this does nothing.
-    void makeReady();
+    /// Has the class described when it is not yet. When that fails, what was added is dropped, and the error names the
+    /// class. Does nothing while the class is being described.
+    void ensureReady();
 
-    /// Why a script may make no objects of the class: the key of the error in "VELMARA:class"; null when it may.
-    char const* constructionRefusal() const { return constructionRefusal_; }
+    /// The key in "VELMARA:class" of the error that scripts get who create objects of the class; null when they may.
+    char const* constructionError() const { return constructionError_; }
 
-    /// A new, uninitialised object without a reference.
-    Object& makeObject();
+    /// A new, uninitialized object without a reference.
+    Object& createObject();
 
     /// True while the class or a subclass of it is being described: it cannot be unpublished now.
     bool isBusy() const;
 
-    /// Ends the class: its objects end, no more are made, and its subclasses, which cannot be without it, go back
-    /// to where they were before they were described.
+    /// Finalizes the objects; no more can be created. Subclasses, which cannot be without the class, are undescribed
+    /// again.
     void close();
 
     ClassContents const& contents() const { return *contents_; }
     MemberTables const& tables() const { return *contents_->tables; }
-    std::vector<ObjectClass*> const& linearization() const override { return contents_->linearization; }
     bool isA(Name ancestor) const;
 
     /// The distance of a class in the linearisation, -1 when it is not there.
     int distanceTo(Name ancestor) const;
 
-    /// Null when there is none, also after the class infos of the hierarchy were asked to load one of that name.
+    /// Null when there is none, and no class info of the hierarchy loads one of that name.
     [[gnu::always_inline]] MethodGroup const* findMethods(std::string_view name)
     {
         MethodGroup const* const recent = tables().recentMethods.find(name);
@@ -68,14 +67,14 @@ public:
         return recent ? recent : findOtherProperty(name);
     }
 
-    /// Takes the place of the direct superclasses while the class is being described.
+    /// Replaces the direct superclasses while the class is being described.
     void setSuperclasses(std::span<orbis::COSNameID const> names);
 
     /// Adds an enumerator while the class, an enumeration, is being described.
     void addEnumerator(std::string_view name, std::int64_t value);
 
     /// Throws "VELMARA:enumeration:noObjects" for an enumeration.
-    void requireNoEnumeration() const;
+    void requireNotEnumeration() const;
 
     char const* getName() const override { return ownName()->text; }
     void addMethod(orbis::COSMethodInfo* method) override;
@@ -93,11 +92,11 @@ private:
     void buildTables(NewTables& tables);
     void rebuildTables();
 
-    /// Throws why no object of the class can be made.
-    void refuseObject() const;
+    /// Throws why no object of the class can be created; nothing when one can.
+    void throwUncreatable() const;
     void requireOpen(Name member) const;
     void requireNoEnumerator(Name member) const;
-    [[noreturn]] void refuseDuplicate(Name member) const;
+    [[noreturn]] void throwDuplicate(Name member) const;
 
     MethodGroup const* findOtherMethods(std::string_view name);
     MethodGroup const* loadMethods(std::string_view name);
@@ -109,12 +108,12 @@ private:
     auto load(Find find, Attempt attempt);
 
     std::unique_ptr<ClassContents> contents_;
-    std::unique_ptr<ClassContents> empty_; ///< what takes the place of contents: there is one once there are any
+    std::unique_ptr<ClassContents> empty_; ///< what will replace the contents: there once the class is described
     std::vector<Class*> subclasses_;       ///< direct ones that are described or being described
-    char const* constructionRefusal_ = nullptr;
+    char const* constructionError_ = nullptr;
     State state_ = State::Untouched;
     bool isEnumeration_;
-    bool isLoading_ = false; ///< a class info was asked to load a member
+    bool isLoading_ = false; ///< its class info is loading a member
     bool isStale_ = false;   ///< what was loaded is not in the tables yet
 };
 

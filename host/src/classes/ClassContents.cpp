@@ -9,7 +9,7 @@ namespace velmara {
 
 namespace {
 
-[[noreturn]] void refuseSealed(Class const& cls, Name member, ObjectClass const& definer)
+[[noreturn]] void throwSealed(Class const& cls, Name member, ObjectClass const& definer)
 {
     throwHostError("VELMARA:class", "sealedMember", {cls.name()->string(), member->string(), definer.name()->string()});
 }
@@ -22,7 +22,7 @@ bool isHidden(Method const& inherited, MethodGroup const& group, Class const& cl
                (method->overridesAllSignatures || method->hasSameInputs(inherited));
     });
     if (hidden && inherited.isSealed)
-        refuseSealed(cls, inherited.name, *inherited.definingClass);
+        throwSealed(cls, inherited.name, *inherited.definingClass);
     return hidden;
 }
 
@@ -42,7 +42,7 @@ void addProperties(MemberTables& tables, Class const& cls, Class const& definer)
     for (auto const& property : definer.contents().properties) {
         Property const*& entry = tables.propertiesByName[property->name];
         if (entry && property->traits.isSealed)
-            refuseSealed(cls, property->name, definer);
+            throwSealed(cls, property->name, definer);
         if (!entry)
             entry = property.get();
     }

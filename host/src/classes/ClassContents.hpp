@@ -36,8 +36,7 @@ struct ClassContents : Retirable {
     std::unique_ptr<MemberTables> tables = std::make_unique<MemberTables>();
 };
 
-/// The tables of the class that stands first in the linearisation. Refuses members that redefine sealed ones of a
-/// superclass.
+/// The tables of the first class of the linearization. Throws when a member redefines a sealed one of a superclass.
 std::unique_ptr<MemberTables> buildMemberTables(std::vector<ObjectClass*> const& linearization);
 
 } // namespace velmara

@@ -13,7 +13,7 @@ void Class::requireOpen(Name member) const
         throwHostError("VELMARA:class", "closed", {name()->string(), member->string()});
 }
 
-void Class::refuseDuplicate(Name member) const
+void Class::throwDuplicate(Name member) const
 {
     throwHostError("VELMARA:class", "duplicateMember", {name()->string(), member->string()});
 }
@@ -21,7 +21,7 @@ void Class::refuseDuplicate(Name member) const
 void Class::requireNoEnumerator(Name member) const
 {
     if (contents_->enumerators.find(member->view()))
-        refuseDuplicate(member);
+        throwDuplicate(member);
 }
 
 void Class::addMethod(orbis::COSMethodInfo* method)
@@ -36,7 +36,7 @@ void Class::addMethod(orbis::COSMethodInfo* method)
     if (std::ranges::any_of(contents_->methods, isSame) ||
         std::ranges::find(contents_->properties, added->name, [](auto const& p) { return p->name; }) !=
             contents_->properties.end())
-        refuseDuplicate(added->name);
+        throwDuplicate(added->name);
     contents_->methods.push_back(std::move(added));
 }
 
@@ -48,11 +48,11 @@ void Class::addProperty(orbis::COSPropInfo* property)
     auto const nameOf = [](auto const& member) { return member->name; };
     if (std::ranges::find(contents_->properties, added->name, nameOf) != contents_->properties.end() ||
         std::ranges::find(contents_->methods, added->name, nameOf) != contents_->methods.end())
-        refuseDuplicate(added->name);
+        throwDuplicate(added->name);
     contents_->properties.push_back(std::move(added));
 }
 
-void Class::requireNoEnumeration() const
+void Class::requireNotEnumeration() const
 {
     if (isEnumeration_)
         throwHostError("VELMARA:enumeration", "noObjects", {name()->string(), contents_->enumerators.names()});
@@ -66,14 +66,14 @@ void Class::addEnumerator(std::string_view name, std::int64_t value)
         throwHostError("VELMARA:class", "closed", {this->name()->string(), std::string(name)});
     auto const isCalledSo = [name](auto const& member) { return member->name->view() == name; };
     if (std::ranges::any_of(contents_->methods, isCalledSo) || std::ranges::any_of(contents_->properties, isCalledSo))
-        refuseDuplicate(intern(name));
+        throwDuplicate(intern(name));
     contents_->enumerators.add(this->name(), name, value);
 }
 
 void Class::buildTables(NewTables& tables)
 {
     if (!isReady())
-        return; // it was unpublished meanwhile
+        return; // unpublished meanwhile
     tables.emplace_back(this, buildMemberTables(linearization()));
     for (Class* const subclass : subclasses_)
         subclass->buildTables(tables);
@@ -83,7 +83,7 @@ void Class::rebuildTables()
 {
     NewTables rebuilt;
     buildTables(rebuilt);
-    // A call that is under way may still look at the old tables.
+    // Running calls may still use the old tables.
     for (auto& [cls, tables] : rebuilt)
         machine().retire(std::exchange(cls->contents_->tables, std::move(tables)));
 }
@@ -111,7 +111,7 @@ auto Class::load(Find find, Attempt attempt)
         cls.isLoading_ = false;
         found = find();
         if (wasStale)
-            --i; // its class info is yet to be asked
+            --i; // its class info has not tried yet
     }
     return found;
 }

@@ -4,7 +4,7 @@
 #include "errors/errorTranslation.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
-#include "memory/makeRoom.hpp"
+#include "memory/reserveNext.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -20,11 +20,11 @@ void Package::populate()
     Machine::Entry const entry(tree_.machine());
     state_ = State::Populating;
     try {
-        tree_.populating([this] { info()->initializePackage(this); });
+        tree_.populate([this] { info()->initializePackage(this); });
     } catch (...) {
         state_ = State::Untouched;
-        rethrowShortage();
-        throwHostError("VELMARA:package", "population", {std::string(fullName()), textOfCurrentException()});
+        rethrowIfOutOfMemory();
+        throwHostError("VELMARA:package", "population", {std::string(fullName()), currentErrorText()});
     }
     state_ = State::Populated;
 }
@@ -68,7 +68,7 @@ void Package::clear() noexcept
 
 void Package::finalizeAllObjects()
 {
-    // By index: ending runs foreign code, which may publish more.
+    // By index: finalizing runs foreign code, which may publish more.
     for (std::size_t i = 0; i < packages_.size(); ++i)
         packages_[i]->finalizeAllObjects();
     for (std::size_t i = 0; i < classes_.size(); ++i)
@@ -94,34 +94,34 @@ void Package::requireOpen() const
         throwHostError("VELMARA:package", "closed", {std::string(fullName())});
 }
 
-Package& Package::place(std::unique_ptr<Package> package)
+Package& Package::add(std::unique_ptr<Package> package)
 {
     requireOpen();
-    makeRoom(packages_);
-    tree_.enter(*package, [this, added = package.get()] { remove(*added); });
+    reserveNext(packages_);
+    tree_.insert(*package, [this, added = package.get()] { remove(*added); });
     return *packages_.emplace_back(std::move(package));
 }
 
-Class& Package::place(std::unique_ptr<Class> cls)
+Class& Package::add(std::unique_ptr<Class> cls)
 {
     requireOpen();
-    makeRoom(classes_);
-    tree_.enter(*cls, [this, added = cls.get()] { remove(*added); });
+    reserveNext(classes_);
+    tree_.insert(*cls, [this, added = cls.get()] { remove(*added); });
     return *classes_.emplace_back(std::move(cls));
 }
 
 namespace {
 
-/// Takes the element out of the list that owns it. Empty when it is no longer there.
+/// Removes the element from the list that owns it. Null when it is no longer there.
 template <class T>
-std::unique_ptr<T> takeOut(std::vector<std::unique_ptr<T>>& owners, T const& element)
+std::unique_ptr<T> extract(std::vector<std::unique_ptr<T>>& owners, T const& element)
 {
     auto const found = std::ranges::find(owners, &element, &std::unique_ptr<T>::get);
     if (found == owners.end())
         return nullptr;
-    std::unique_ptr<T> taken = std::move(*found);
+    std::unique_ptr<T> extracted = std::move(*found);
     owners.erase(found);
-    return taken;
+    return extracted;
 }
 
 } // namespace
@@ -129,20 +129,20 @@ std::unique_ptr<T> takeOut(std::vector<std::unique_ptr<T>>& owners, T const& ele
 void Package::remove(Package& package)
 {
     package.close();
-    tree_.leave(package);
-    tree_.machine().retire(takeOut(packages_, package));
+    tree_.erase(package);
+    tree_.machine().retire(extract(packages_, package));
 }
 
 void Package::remove(Class& cls)
 {
     cls.close();
-    tree_.leave(cls);
-    tree_.machine().retire(takeOut(classes_, cls));
+    tree_.erase(cls);
+    tree_.machine().retire(extract(classes_, cls));
 }
 
 void Package::remove(Method& function)
 {
-    std::unique_ptr<Method> taken = takeOut(functions_, function);
+    std::unique_ptr<Method> taken = extract(functions_, function);
     if (!taken)
         return;
     (*functionGroups_.find(function.name))->remove(function);
@@ -183,15 +183,15 @@ void Package::addFunction(orbis::COSMethodInfo* function)
         tree_.requireFree(full);
     else if (std::ranges::any_of((*group)->methods, isSame))
         throwHostError("VELMARA:package", "duplicate", {full});
-    makeRoom(functions_);
-    tree_.makeRoomToRecord();
+    reserveNext(functions_);
+    tree_.reserveUndo();
     if (!group) {
-        auto made = std::make_unique<MethodGroup>();
-        *(group = &functionGroups_[added->name]) = std::move(made);
+        auto created = std::make_unique<MethodGroup>();
+        *(group = &functionGroups_[added->name]) = std::move(created);
     }
     (*group)->add(*added);
-    Method& placed = *functions_.emplace_back(std::move(added));
-    tree_.record([this, &placed] { remove(placed); });
+    Method& recorded = *functions_.emplace_back(std::move(added));
+    tree_.recordUndo([this, &recorded] { remove(recorded); });
 }
 
 } // namespace velmara

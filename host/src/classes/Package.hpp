@@ -30,25 +30,25 @@ public:
     orbis::COSPackageInfo* info() const { return info_ ? info_->info.get() : nullptr; }
     State state() const { return state_; }
 
-    /// True when it was made only to hold others and holds none.
+    /// True when it was created only to hold others and holds none.
     bool isPlaceholder() const { return !info_ && packages_.empty() && classes_.empty() && functions_.empty(); }
 
-    /// Has the package populated when it is not yet. When that fails, all that was added during it is dropped, and
-    /// the error names the package. While it is being populated this does nothing.
+    /// Has the package populated when it is not yet. When that fails, all that was added is dropped, and the error
+    /// names the package. Does nothing while the package is being populated.
     void populate();
 
-    /// Gives an info to a package that was only made to hold others.
+    /// Gives an info to a package that was created only to hold others; `disown` takes it away again.
     void adopt(std::unique_ptr<orbis::COSPackageInfo> info);
     void disown() noexcept;
 
     /// True while the package, or a package or class in it, is being described: it cannot be removed now.
     bool isBusy() const;
 
-    /// Ends all that the package holds.
+    /// Finalizes all objects of its classes and closes everything in it.
     void close();
     void finalizeAllObjects();
 
-    /// Ends all that the package holds, and holds nothing from then on.
+    /// Closes the package and removes everything from it.
     void clear() noexcept;
 
     std::vector<std::unique_ptr<Package>> const& packages() const { return packages_; }
@@ -58,10 +58,11 @@ public:
     /// The functions of one name; null when there is none.
     MethodGroup const* findFunctions(std::string_view ownName);
 
-    Package& place(std::unique_ptr<Package> package);
-    Class& place(std::unique_ptr<Class> cls);
+    Package& add(std::unique_ptr<Package> package);
+    Class& add(std::unique_ptr<Class> cls);
 
-    /// Takes a package, a class or a function out of the tree: it ends, and is destroyed when nothing uses it.
+    /// Removes a package, a class or a function from the tree. It is closed at once, and destroyed when nothing uses
+    /// it.
     void remove(Package& package);
     void remove(Class& cls);
     void remove(Method& function);

@@ -2,7 +2,7 @@
 
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
-#include "memory/makeRoom.hpp"
+#include "memory/reserveNext.hpp"
 #include "types/TypeRepository.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
@@ -106,7 +106,7 @@ Class* PackageTree::findGlobalClass(std::string_view name)
         } catch (foundation::core::except::IMsgIDException const& error) {
             if (error.getErrorID() != "VELMARA:package:population")
                 throw;
-            // Who asks for that package itself is told why.
+            // Reported when that package itself is needed.
         }
         found = findClass(name);
     }
@@ -139,13 +139,13 @@ void PackageTree::requireFree(std::string_view fullName)
         throwHostError("VELMARA:package", "duplicate", {std::string(fullName)});
 }
 
-Package& PackageTree::findOrMake(std::string_view fullName)
+Package& PackageTree::findOrCreate(std::string_view fullName)
 {
     if (Package* const found = findPublishedPackage(fullName))
         return *found;
     requireFree(fullName);
-    Package& parent = findOrMake(splitLast(fullName).first);
-    return parent.place(std::make_unique<Package>(*this, &parent, intern(fullName)));
+    Package& parent = findOrCreate(splitLast(fullName).first);
+    return parent.add(std::make_unique<Package>(*this, &parent, intern(fullName)));
 }
 
 void PackageTree::addPackage(std::unique_ptr<orbis::COSPackageInfo> info, std::string_view fullName)
@@ -153,11 +153,11 @@ void PackageTree::addPackage(std::unique_ptr<orbis::COSPackageInfo> info, std::s
     Package* const existing = fullName.empty() ? nullptr : findPublishedPackage(fullName);
     if (!existing || existing->info())
         requireFree(fullName);
-    changing([&] {
-        Package& package = findOrMake(fullName);
-        makeRoomToRecord();
+    transact([&] {
+        Package& package = findOrCreate(fullName);
+        reserveUndo();
         package.adopt(std::move(info));
-        record([&package] { package.disown(); });
+        recordUndo([&package] { package.disown(); });
     });
 }
 
@@ -168,21 +168,21 @@ void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info, Package& p
     requireFree(fullName);
     if (package.name() && splitLast(fullName).first != package.fullName())
         throwHostError("VELMARA:class", "otherPackage", {std::string(fullName), std::string(package.fullName())});
-    package.place(std::make_unique<Class>(std::move(info), intern(fullName), machine_));
+    package.add(std::make_unique<Class>(std::move(info), intern(fullName), machine_));
 }
 
 void PackageTree::addClass(std::unique_ptr<orbis::COSClassInfo> info)
 {
     requireFree(info->getName());
-    changing([&] {
-        Package& package = findOrMake(splitLast(info->getName()).first);
+    transact([&] {
+        Package& package = findOrCreate(splitLast(info->getName()).first);
         addClass(std::move(info), package);
     });
 }
 
 namespace {
 
-/// Parents that were made only to hold others go with the last of them. All but the top level have a parent.
+/// Parents that were created only to hold others are removed with the last of them. All but the root have a parent.
 void removeWithEmptyParents(Package& package)
 {
     Package& parent = *package.parent();
@@ -201,7 +201,7 @@ void PackageTree::removePackage(Name fullName)
     Package& removed = **found;
     for (Package const* package = &removed; package; package = package->parent())
         if (package->state() == Package::State::Closed)
-            return;       // it is going already
+            return;       // it is being removed already
     if (removed.isBusy()) // NOLINT(clang-analyzer-core.CallAndMessage): a stored package is not null
         throwHostError("VELMARA:package", "busy", {fullName->string()});
     Machine::Entry const entry(machine_);
@@ -222,18 +222,18 @@ void PackageTree::clear() noexcept
     root_.clear();
 }
 
-void PackageTree::leave(Package const& package) noexcept
+void PackageTree::erase(Package const& package) noexcept
 {
     Package* const* const found = packages_.find(package.name());
     if (found && *found == &package)
         packages_.erase(package.name());
     for (auto const& inner : package.packages())
-        leave(*inner);
+        erase(*inner);
     for (auto const& cls : package.classes())
-        leave(*cls);
+        erase(*cls);
 }
 
-void PackageTree::leave(Class const& cls) noexcept
+void PackageTree::erase(Class const& cls) noexcept
 {
     Class* const* const found = classes_.find(cls.name());
     if (found && *found == &cls) {
@@ -243,45 +243,45 @@ void PackageTree::leave(Class const& cls) noexcept
     }
 }
 
-void PackageTree::record(Undo undo) noexcept
+void PackageTree::recordUndo(Undo undo) noexcept
 {
-    if (changes_ != 0 && !isUndoing_)
-        record_.push_back(std::move(undo));
+    if (depth_ != 0 && !isUndoing_)
+        undos_.push_back(std::move(undo));
 }
 
-void PackageTree::makeRoomToRecord()
+void PackageTree::reserveUndo()
 {
-    makeRoom(record_);
+    reserveNext(undos_);
 }
 
-void PackageTree::changing(std::function<void()> const& change)
+void PackageTree::transact(std::function<void()> const& change)
 {
-    std::size_t const before = record_.size();
-    ++changes_;
+    std::size_t const before = undos_.size();
+    ++depth_;
     try {
         change();
     } catch (...) {
         undoTo(before);
-        --changes_;
+        --depth_;
         throw;
     }
-    if (--changes_ == 0)
-        record_.clear();
+    if (--depth_ == 0)
+        undos_.clear();
 }
 
-void PackageTree::populating(std::function<void()> const& populate)
+void PackageTree::populate(std::function<void()> const& populate)
 {
-    std::size_t const before = record_.size();
-    changing(populate);
-    record_.resize(std::min(before, record_.size()));
+    std::size_t const before = undos_.size();
+    transact(populate);
+    undos_.resize(std::min(before, undos_.size()));
 }
 
 void PackageTree::undoTo(std::size_t recorded) noexcept
 {
     bool const wasUndoing = std::exchange(isUndoing_, true);
-    while (record_.size() > recorded) {
-        Undo const undo = std::move(record_.back());
-        record_.pop_back();
+    while (undos_.size() > recorded) {
+        Undo const undo = std::move(undos_.back());
+        undos_.pop_back();
         undo();
     }
     isUndoing_ = wasUndoing;

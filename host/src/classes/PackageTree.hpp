@@ -21,7 +21,7 @@ public:
     Machine& machine() const { return machine_; }
     Package& root() { return root_; }
 
-    /// Null when there is none. The parents are populated when they were not yet, and asked to load the package.
+    /// Null when there is none. Parents are populated when they were not yet, and may load the package.
     Package* findPackage(std::string_view fullName);
 
     /// Null when there is none; the class is not described by this.
@@ -43,7 +43,7 @@ public:
     void addPackage(std::unique_ptr<orbis::COSPackageInfo> info, std::string_view fullName);
     void addClass(std::unique_ptr<orbis::COSClassInfo> info, Package& package);
 
-    /// Adds the class to the package that its name tells, which is made when there is none.
+    /// Adds the class to the package of its full name, which is created when there is none.
     void addClass(std::unique_ptr<orbis::COSClassInfo> info);
     void removePackage(Name fullName);
 
@@ -54,46 +54,46 @@ public:
 
     using Undo = std::function<void()>;
 
-    /// For packages, which own what is published: what is found under its full name from now on, and no longer. `undo`
-    /// is recorded. A failure changes nothing.
+    /// For packages, which own what is published: makes it known under its full name, and no longer. `undo` is
+    /// recorded. A failure changes nothing.
     template <class T>
-    void enter(T& published, Undo undo)
+    void insert(T& published, Undo undo)
     {
-        makeRoomToRecord();
+        reserveUndo();
         entriesOf(published)[published.name()] = &published;
-        record(std::move(undo));
+        recordUndo(std::move(undo));
     }
-    void leave(Package const& package) noexcept;
-    void leave(Class const& cls) noexcept;
+    void erase(Package const& package) noexcept;
+    void erase(Class const& cls) noexcept;
 
     /// Throws "VELMARA:package:name" for what is no dotted name, and "VELMARA:package:duplicate" for one that is
     /// taken.
     void requireFree(std::string_view fullName);
 
-    /// Keeps `undo` for the case that what is under way fails. There must be room for it.
-    void record(Undo undo) noexcept;
-    void makeRoomToRecord();
+    /// Keeps `undo` in case the current transaction fails. `reserveUndo` must have been called for it.
+    void recordUndo(Undo undo) noexcept;
+    void reserveUndo();
 
-    /// Runs `change`; when it throws, all that was recorded meanwhile is undone, last things first. When it succeeds it
-    /// is undone with what it is part of.
-    void changing(std::function<void()> const& change);
+    /// Runs `change`; when it throws, all that was recorded meanwhile is undone, the last first. When it succeeds, it
+    /// is undone with the transaction that it is part of.
+    void transact(std::function<void()> const& change);
 
-    /// The same for what stays when it has succeeded, whatever becomes of what had it done.
-    void populating(std::function<void()> const& populate);
+    /// The same, but what has succeeded stays when the transaction around it fails.
+    void populate(std::function<void()> const& populate);
 
 private:
     NameMap<Package*>& entriesOf(Package const&) { return packages_; }
     NameMap<Class*>& entriesOf(Class const&) { return classes_; }
     void undoTo(std::size_t recorded) noexcept;
-    Package& findOrMake(std::string_view fullName);
+    Package& findOrCreate(std::string_view fullName);
     Package* findPublishedPackage(std::string_view fullName);
 
     Machine& machine_;
     NameMap<Package*> packages_;
     NameMap<Class*> classes_;
     RecentClasses recentClasses_;
-    std::vector<Undo> record_;
-    int changes_ = 0; ///< that are under way
+    std::vector<Undo> undos_;
+    int depth_ = 0; ///< of transactions
     bool isUndoing_ = false;
     Package root_;
 };

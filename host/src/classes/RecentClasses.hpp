@@ -1,7 +1,7 @@
 #pragma once
 
 #include "classes/Class.hpp"
-#include "text/TextChunks.hpp"
+#include "text/textHash.hpp"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "orbis/objectArrays.hpp"
 
 #include "arrays/arrayArguments.hpp"
-#include "classes/ClassTree.hpp"
+#include "classes/classHierarchy.hpp"
 #include "errors/hostError.hpp"
 #include "objects/Object.hpp"
 
@@ -53,7 +53,7 @@ void omSetArrayElement(hvArray_tag* array, std::size_t index, COSInterfacePtr co
 {
     if (array && object.getReferenceType() == COSReferenceType::Strong) [[likely]] {
         Object* const held = objectOf(object);
-        if (held && Array::of(array)->takeFirstObject(index, *held))
+        if (held && Array::of(array)->setFirstObject(index, *held))
             return;
     }
     setElement(array, index, object);

@@ -9,12 +9,12 @@ namespace velmara {
 
 using Inputs = std::span<hvArray_tag* const>;
 
-/// What one call is made with. `self` is an object array, or null where there is no object.
+/// The arguments of one call. `self` is an object array, or null where there is no object.
 struct CallInputs {
     hvArray_tag* self;
     Inputs inputs;
 
-    /// How many values a call needs at most.
+    /// The most values that the call can need.
     std::size_t capacity() const { return inputs.size() + 1; }
 };
 

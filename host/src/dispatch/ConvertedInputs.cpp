@@ -1,50 +1,30 @@
 #include "dispatch/ConvertedInputs.hpp"
 
-#include "arrays/Array.hpp"
-#include "arrays/emptyInput.hpp"
 #include "classes/Class.hpp"
-#include "classes/PackageTree.hpp"
-#include "dispatch/enumerationFit.hpp"
-#include "dispatch/enumerationRefusal.hpp"
-#include "dispatch/objectFit.hpp"
+#include "dispatch/enumeratorConversion.hpp"
+#include "dispatch/objectRank.hpp"
 #include "errors/errorTranslation.hpp"
-#include "machine/Machine.hpp"
-#include "objects/Object.hpp"
-#include "objects/objectValidity.hpp"
 #include "types/ElementConversion.hpp"
-#include "types/ScalarConversion.hpp"
 #include "types/TypeRepository.hpp"
 
 #include "additions/additions.hpp"
 #include "libhv/libhv.hpp"
 #include "orbis/COSTypeConversion.hpp"
 
-#include <vector>
-
 namespace velmara {
 
 namespace {
 
-bool isText(Array const& input)
-{
-    return input.classID() == hvCHAR_CLASS && (input.rows() == 1 || input.size() == 0);
-}
-
-bool isOneElement(Array const& input)
-{
-    return input.rows() == 1 && input.columns() == 1;
-}
-
-/// Throws what the conversion throws. "[]" is an empty list of whatever a list type holds: where a type does not take
-/// it, the type is asked again with an empty cell array.
+/// Throws what the conversion throws. "[]" is an empty list of anything: a list type that does not take it gets an
+/// empty cell array instead.
 hvArray_tag* convert(TypeReference const& type, orbis::COSTypeConversion& conversion, hvArray_tag* input)
 {
     hvArray_tag* converted = nullptr;
     try {
         conversion.convertFromHost(&converted, input);
     } catch (...) {
-        rethrowShortage();
-        if (!type.element || !isNothing(*Array::of(input)))
+        rethrowIfOutOfMemory();
+        if (!type.element || !Array::of(input)->isEmptyDouble())
             throw;
         ArrayPtr const none(hvCreateCellMatrix(0, 0));
         conversion.convertFromHost(&converted, none.get());
@@ -54,143 +34,135 @@ hvArray_tag* convert(TypeReference const& type, orbis::COSTypeConversion& conver
 
 } // namespace
 
-struct ConvertedInputs::Room {
-    explicit Room(std::size_t capacity) : values(capacity), owned(capacity) {}
-
-    std::vector<orbis::COSValue> values;
-    std::vector<Owned> owned;
-};
-
-void ConvertedInputs::DeleteRoom::operator()(Room* room) const
+void ConvertedInputs::grow(std::size_t capacity)
 {
-    delete room;
+    moreValues_ = std::make_unique<orbis::COSValue[]>(capacity);
+    moreOwned_ = std::make_unique<Owned[]>(capacity);
+    values_ = moreValues_.get();
+    owned_ = moreOwned_.get();
 }
 
-void ConvertedInputs::makeRoom(std::size_t capacity)
+void ConvertedInputs::own(orbis::COSDataType* type, hvArray_tag* value)
 {
-    room_.reset(new Room(capacity));
-    values_ = room_->values.data();
-    owned_ = room_->owned.data();
+    values_[count_] = orbis::COSValue(value);
+    owned_[ownedCount_++] = {type, values_[count_]};
 }
 
-Fit ConvertedInputs::addSelf(TypeReference const& type, hvArray_tag* self)
+ConversionRank ConvertedInputs::addSelf(TypeReference const& type, hvArray_tag* self)
 {
     Array const& array = *Array::of(self);
-    checkObjects(Machine::required(), array.objects());
-    Fit const fit = type.kind == TypeKind::Named && !type.element ? firstObjectFit(type.name, array) : noFit;
-    if (fit == noFit)
+    Object::requireUsable(Machine::required(), array.objects());
+    ConversionRank const rank =
+        type.kind == TypeKind::Named && !type.element ? firstObjectRank(type.name, array) : notConvertible;
+    if (rank == notConvertible)
         return add(type, self);
     addAsIs(self);
-    return fit;
+    return rank;
 }
 
-Fit ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
+ConversionRank ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
 {
     if (Array::of(input)->classID() == hvOBJECT_CLASS)
-        checkObjects(Machine::required(), Array::of(input)->objects());
+        Object::requireUsable(Machine::required(), Array::of(input)->objects());
     if (type.kind == TypeKind::Optional)
         return addOptional(type, input);
-    Fit fit = noFit;
+    ConversionRank rank = notConvertible;
     values_[count_] = orbis::COSValue(input);
     if (type.kind == TypeKind::Text)
-        fit = addText(input);
+        rank = addText(input);
     else if (type.kind == TypeKind::Elements)
-        fit = addElements(type, input);
+        rank = addElements(type, input);
     else if (type.kind == TypeKind::Any)
-        fit = anyFit;
+        rank = anyRank;
     else if (type.kind == TypeKind::Named)
-        fit = addNamed(type, input);
-    if (fit != noFit)
+        rank = addNamed(type, input);
+    if (rank != notConvertible)
         ++count_;
-    return fit;
+    return rank;
 }
 
-Fit ConvertedInputs::addText(hvArray_tag* input)
+ConversionRank ConvertedInputs::addText(hvArray_tag* input)
 {
     Array const& array = *Array::of(input);
-    if (isText(array))
-        return exactFit;
+    if (array.isText())
+        return exactRank;
     if (array.classID() != hvSTRING_CLASS || array.size() != 1 || array.strings().front().isMissing())
-        return noFit;
-    values_[count_] = orbis::COSValue(orbis::additions::createText(array.strings().front().view()));
-    owned_[ownedCount_++] = {nullptr, values_[count_]};
-    return convertedFit;
+        return notConvertible;
+    own(nullptr, orbis::additions::createText(array.strings().front().view()));
+    return convertedRank;
 }
 
-Fit ConvertedInputs::addElements(TypeReference const& type, hvArray_tag* input)
+ConversionRank ConvertedInputs::addElements(TypeReference const& type, hvArray_tag* input)
 {
     Array const& array = *Array::of(input);
     if (array.classID() == type.scalarClass)
-        return isOneElement(array) ? exactFit - 1 : exactFit;
+        return array.isScalar() ? exactRank - 1 : exactRank;
     hvArray_tag* const converted = convertElements(type.scalarClass, array).release();
     if (!converted)
-        return noFit;
-    values_[count_] = orbis::COSValue(converted);
-    owned_[ownedCount_++] = {nullptr, values_[count_]};
-    return isOneElement(array) ? convertedFit - 1 : convertedFit;
+        return notConvertible;
+    own(nullptr, converted);
+    return array.isScalar() ? convertedRank - 1 : convertedRank;
 }
 
-Fit ConvertedInputs::addOptional(TypeReference const& type, hvArray_tag* input)
+ConversionRank ConvertedInputs::addOptional(TypeReference const& type, hvArray_tag* input)
 {
-    if (!isNothing(*Array::of(input)) && !isMissingString(*Array::of(input)))
+    if (!Array::of(input)->isEmptyDouble() && !Array::of(input)->isMissingString())
         return add(*type.value, input);
     values_[count_++] = orbis::COSValue();
-    return convertedFit;
+    return convertedRank;
 }
 
-Fit ConvertedInputs::addNamed(TypeReference const& type, hvArray_tag* input)
+ConversionRank ConvertedInputs::addNamed(TypeReference const& type, hvArray_tag* input)
 {
     Array const& array = *Array::of(input);
-    Fit fit = noFit;
+    ConversionRank rank = notConvertible;
     if (array.classID() == hvOBJECT_CLASS && !type.element)
-        fit = objectFit(type.name, array);
-    if (fit == noFit && Machine::required().types().findRegistered(type.name))
+        rank = objectRank(type.name, array);
+    if (rank == notConvertible && Machine::required().types().findRegistered(type.name))
         return addRegistered(type, input);
-    if (fit == noFit)
-        fit = type.element ? objectVectorFit(type.element, array) : objectFit(type.name, array);
-    return fit == noFit ? addEnumeration(type, input) : fit;
+    if (rank == notConvertible)
+        rank = type.element ? objectVectorRank(type.element, array) : objectRank(type.name, array);
+    return rank == notConvertible ? addEnumeration(type, input) : rank;
 }
 
-Fit ConvertedInputs::addEnumeration(TypeReference const& type, hvArray_tag* input)
+ConversionRank ConvertedInputs::addEnumeration(TypeReference const& type, hvArray_tag* input)
 {
     Class const* const enumeration = findEnumeration(type);
     if (!enumeration || Array::of(input)->classID() == hvOBJECT_CLASS)
-        return noFit;
+        return notConvertible;
     if (!type.element) {
         Enumerator const* const found = findEnumerator(*enumeration, *Array::of(input));
         if (found)
             values_[count_] = orbis::COSValue(found->object.get());
-        return found ? convertedFit : noFit;
+        return found ? convertedRank : notConvertible;
     }
     hvArray_tag* const converted = toEnumerators(*enumeration, *Array::of(input)).release();
     if (!converted)
-        return noFit;
-    values_[count_] = orbis::COSValue(converted);
-    owned_[ownedCount_++] = {nullptr, values_[count_]};
-    return converted->get_number_of_elements() == 1 ? convertedFit - 1 : convertedFit;
+        return notConvertible;
+    own(nullptr, converted);
+    return converted->get_number_of_elements() == 1 ? convertedRank - 1 : convertedRank;
 }
 
-Fit ConvertedInputs::addRegistered(TypeReference const& type, hvArray_tag* input)
+ConversionRank ConvertedInputs::addRegistered(TypeReference const& type, hvArray_tag* input)
 {
     TypeRepository const& types = Machine::required().types();
     orbis::COSDataType* const dataType = types.findRegistered(type.name);
     orbis::COSTypeConversion* const conversion = types.findConversion(anyTypeName(), type.name);
     if (!conversion)
-        return dataType->isVELMARAArrayType() ? convertedFit : noFit;
+        return dataType->isVELMARAArrayType() ? convertedRank : notConvertible;
     hvArray_tag* converted = nullptr;
     try {
         converted = convert(type, *conversion, input);
     } catch (...) {
-        rethrowShortage();
-        return noFit; // whoever needs the reason asks for it
+        rethrowIfOutOfMemory();
+        return notConvertible; // `mismatchReason` tells why
     }
-    dataType->getReference(); // it may be unregistered before its value is given back
-    values_[count_] = orbis::COSValue(converted);
-    owned_[ownedCount_++] = {dataType, values_[count_]};
-    return type.element && isOneElement(*Array::of(input)) ? convertedFit - 1 : convertedFit;
+    dataType->getReference(); // it may be unregistered before its value is released
+    own(dataType, converted);
+    return type.element && Array::of(input)->isScalar() ? convertedRank - 1 : convertedRank;
 }
 
-void ConvertedInputs::giveBack()
+void ConvertedInputs::release()
 {
     while (ownedCount_ > 0) {
         Owned const& owned = owned_[--ownedCount_];
@@ -204,86 +176,6 @@ void ConvertedInputs::giveBack()
         }
         owned.type->releaseReference();
     }
-}
-
-namespace {
-
-std::string explainConversion(orbis::COSDataType& type, orbis::COSTypeConversion& conversion, hvArray_tag* input)
-{
-    hvArray_tag* converted = nullptr;
-    try {
-        conversion.convertFromHost(&converted, input);
-        type.releaseValue(orbis::COSValue(converted));
-    } catch (...) {
-        rethrowShortage();
-        return textOfCurrentException();
-    }
-    return "was refused";
-}
-
-std::string explainTextRefusal(Array const& array)
-{
-    if (array.classID() == hvCHAR_CLASS)
-        return "needs one row of text";
-    if (array.classID() != hvSTRING_CLASS)
-        return "needs text, not " + std::string(array.className());
-    return array.size() == 1 ? "needs text, not a missing string" : "needs one text, not several strings or none";
-}
-
-std::string sizeOf(Array const& array)
-{
-    return std::to_string(array.rows()) + "-by-" + std::to_string(array.columns());
-}
-
-/// The first element of cells or objects that is no `wanted`; empty where all are, or `input` holds neither.
-std::string explainElement(Name wanted, Array const& input)
-{
-    bool const areCells = input.classID() == hvCELL_CLASS;
-    for (std::size_t i = 0; (areCells || input.classID() == hvOBJECT_CLASS) && i < input.size(); ++i) {
-        std::string given;
-        if (areCells && !input.cells()[i])
-            given = "an empty cell";
-        else if (areCells && firstObjectFit(wanted, *input.cells()[i]) == noFit)
-            given = input.cells()[i]->className();
-        else if (Object const* const object = areCells ? nullptr : input.objects()[i])
-            given = classFit(object->className(), wanted) == noFit ? object->className()->view() : std::string_view();
-        if (!given.empty())
-            return "element " + std::to_string(i) + " (counted from 0): needs " + wanted->string() + ", not " + given;
-    }
-    return {};
-}
-
-} // namespace
-
-std::string explainRefusal(TypeReference const& type, hvArray_tag* input)
-{
-    Array const& array = *Array::of(input);
-    std::string const given(array.className());
-    std::string const wanted(type.name->view());
-    if (type.kind == TypeKind::Scalar)
-        return explainScalarRefusal(type.scalarClass, array);
-    if (type.kind == TypeKind::Elements)
-        return explainElementsRefusal(type.scalarClass, array);
-    if (type.kind == TypeKind::Optional)
-        return explainRefusal(*type.value, input);
-    if (type.kind == TypeKind::Text)
-        return explainTextRefusal(array);
-    Machine& machine = Machine::required();
-    if (orbis::COSDataType* const registered = machine.types().findRegistered(type.name)) {
-        auto* const conversion = machine.types().findConversion(anyTypeName(), type.name);
-        return conversion ? explainConversion(*registered, *conversion, input) : "nothing converts to " + wanted;
-    }
-    if (!machine.packages().findPublishedClass(type.element ? type.element : type.name))
-        return "no data type or class " + wanted + " is known";
-    if (Class const* const enumeration = findEnumeration(type))
-        return type.element ? explainEnumeratorsRefusal(*enumeration, array)
-                            : explainEnumeratorRefusal(*enumeration, array);
-    if (!type.element && array.classID() == hvOBJECT_CLASS && array.size() > 1)
-        return "needs one object, not " + sizeOf(array);
-    std::string element = type.element ? explainElement(type.element, array) : std::string();
-    if (!element.empty())
-        return element;
-    return "needs " + wanted + ", not " + given;
 }
 
 } // namespace velmara

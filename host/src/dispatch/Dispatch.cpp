@@ -4,7 +4,6 @@
 #include "dispatch/dispatchErrors.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
-#include "objects/objectValidity.hpp"
 
 #include <algorithm>
 #include <functional>
@@ -17,11 +16,11 @@ namespace {
 
 struct Candidate {
     Method const* method;
-    std::span<Fit const> fits;
+    std::span<ConversionRank const> ranks;
 
     bool isBetterThan(Candidate const& other) const
     {
-        return std::ranges::equal(fits, other.fits, std::greater_equal()) && !std::ranges::equal(fits, other.fits);
+        return std::ranges::equal(ranks, other.ranks, std::greater_equal()) && !std::ranges::equal(ranks, other.ranks);
     }
 };
 
@@ -33,7 +32,7 @@ void checkInputs(Machine const& machine, Inputs inputs)
         if (!input)
             throwHostError("VELMARA:dispatch", "nullInput");
         if (Array::of(input)->classID() == hvOBJECT_CLASS)
-            checkObjects(machine, Array::of(input)->objects());
+            Object::requireUsable(machine, Array::of(input)->objects());
     }
 }
 
@@ -43,23 +42,23 @@ Method const& chooseAmong(MethodGroup const& group, CallInputs call)
     std::pmr::monotonic_buffer_resource memory(buffer, sizeof buffer);
     // A copy: conversions run native code, which may add to the group.
     std::pmr::vector<Method const*> const methods(group.methods.begin(), group.accessibleEnd(), &memory);
-    std::pmr::vector<Fit> fits(methods.size() * call.inputs.size(), noFit, &memory);
+    std::pmr::vector<ConversionRank> ranks(methods.size() * call.inputs.size(), notConvertible, &memory);
     std::pmr::vector<Candidate> matching(&memory);
     matching.reserve(methods.size());
     for (std::size_t i = 0; i < methods.size(); ++i) {
         ConvertedInputs trial(call.capacity());
-        Fit* const row = fits.data() + i * call.inputs.size();
-        if (convertFor(*methods[i], call, trial, [next = row](Fit fit) mutable { *next++ = fit; }))
+        ConversionRank* const row = ranks.data() + i * call.inputs.size();
+        if (convertFor(*methods[i], call, trial, [next = row](ConversionRank rank) mutable { *next++ = rank; }))
             matching.push_back({methods[i], {row, call.inputs.size()}});
     }
     if (matching.empty())
-        refuseNoMatch(methods, call);
+        throwNoMatch(methods, call);
     std::pmr::vector<Method const*> unbeaten(&memory);
     for (Candidate const& candidate : matching)
         if (std::ranges::none_of(matching, [&](Candidate const& other) { return other.isBetterThan(candidate); }))
             unbeaten.push_back(candidate.method);
     if (unbeaten.size() > 1)
-        refuseAmbiguous(unbeaten, call);
+        throwAmbiguous(unbeaten, call);
     return *unbeaten.front();
 }
 

@@ -2,8 +2,8 @@
 
 #include "dispatch/CallInputs.hpp"
 #include "dispatch/ConvertedInputs.hpp"
-#include "dispatch/PlainInputs.hpp"
 #include "dispatch/ResultValue.hpp"
+#include "dispatch/ScalarInputs.hpp"
 
 #include "velmara/ArrayPtr.hpp"
 
@@ -11,10 +11,11 @@ namespace velmara {
 
 class Machine;
 
-/// Refuses missing inputs, and objects that are invalid or of other virtual machines.
+/// Throws for missing inputs, and for objects that are invalid or of other virtual machines.
 void checkInputs(Machine const& machine, Inputs inputs);
 
-/// Converts the inputs for one method and tells `visit` how well each explicit one fits; false when one does not.
+/// Converts the inputs for one method and calls `visit` with the rank of each explicit one; false when one does not
+/// fit.
 template <class Visit>
 [[gnu::always_inline]] inline bool convertFor(Method const& method, CallInputs const& call, ConvertedInputs& converted,
                                               Visit visit)
@@ -25,35 +26,35 @@ template <class Visit>
     if (method.takesObject) {
         if (parameter->type.name == Array::of(call.self)->objectClass()) [[likely]]
             converted.addAsIs(call.self);
-        else if (converted.addSelf(parameter->type, call.self) == noFit)
+        else if (converted.addSelf(parameter->type, call.self) == notConvertible)
             return false;
         ++parameter;
     }
     for (hvArray_tag* const input : call.inputs) {
-        Fit const fit = input ? converted.add((parameter++)->type, input) : noFit;
-        if (fit == noFit)
+        ConversionRank const rank = input ? converted.add((parameter++)->type, input) : notConvertible;
+        if (rank == notConvertible)
             return false;
-        visit(fit);
+        visit(rank);
     }
     return true;
 }
 
-/// Of several methods that may be called, the one that takes the inputs and fits them best: at least as well as
-/// every other in each input, and better in one. Throws when none fits (with each one and the reason why not),
-/// and when several fit equally well.
+/// Of several methods that may be called, the one that fits the inputs best: at least as well as every other in each
+/// input, and better in one. Throws when none fits (with each one and the reason), and when several fit equally well.
 Method const& chooseAmong(MethodGroup const& group, CallInputs call);
 
-/// Throws what is wrong where the one method that may be called, or is called, cannot be.
-[[noreturn]] void refuseCall(MethodGroup const& group, CallInputs call);
+/// Throws why no method of the group can be called.
+[[noreturn]] void throwUncallable(MethodGroup const& group, CallInputs call);
 
-/// Picks the method of the group to be called. Fills `converted` with the inputs for it; nothing has been called
-/// by then. Throws like `chooseAmong`, and for methods that are abstract or not open to calls from outside.
+/// The method of the group to be called. Fills `converted` with its inputs; calls nothing. Throws like `chooseAmong`,
+/// and for methods that are abstract or not open to calls from outside.
 [[gnu::always_inline]] inline Method const& choose(MethodGroup const& group, CallInputs const& call,
                                                    ConvertedInputs& converted)
 {
     Method const& chosen = group.accessible > 1 ? chooseAmong(group, call) : *group.methods.front();
-    if (group.accessible == 0 || !convertFor(chosen, call, converted, [](Fit) {}) || chosen.isAbstract) [[unlikely]]
-        refuseCall(group, call);
+    if (group.accessible == 0 || !convertFor(chosen, call, converted, [](ConversionRank) {}) || chosen.isAbstract)
+        [[unlikely]]
+        throwUncallable(group, call);
     return chosen;
 }
 
@@ -72,8 +73,8 @@ ArrayPtr dispatchAny(MethodGroup const& group, CallInputs const& call);
 /// Chooses a method of an object's class and calls it on `self`; a failure inside it is final.
 [[gnu::always_inline]] inline ArrayPtr dispatchOnObject(MethodGroup const& group, hvArray_tag* self, Inputs inputs)
 {
-    if (Method const* const method = group.plainOfObject) [[likely]] {
-        PlainInputs plain;
+    if (Method const* const method = group.scalarMethod) [[likely]] {
+        ScalarInputs plain;
         if (plain.readForObject(*method, self, inputs)) [[likely]]
             return invoke(*method, static_cast<int>(method->inputCount), plain.values());
     }
@@ -84,7 +85,7 @@ ArrayPtr dispatchAny(MethodGroup const& group, CallInputs const& call);
 [[gnu::always_inline]] inline ArrayPtr dispatch(MethodGroup const& group, Inputs inputs)
 {
     if (Method const* const method = group.plain) [[likely]] {
-        PlainInputs plain;
+        ScalarInputs plain;
         if (plain.read(*method, inputs)) [[likely]]
             return invoke(*method, static_cast<int>(method->inputCount), plain.values());
     }

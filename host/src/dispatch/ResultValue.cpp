@@ -1,9 +1,8 @@
 #include "dispatch/ResultValue.hpp"
 
 #include "arrays/Array.hpp"
-#include "arrays/emptyInput.hpp"
-#include "classes/ClassTree.hpp"
-#include "dispatch/objectFit.hpp"
+#include "classes/classHierarchy.hpp"
+#include "dispatch/objectRank.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
 #include "types/TypeRepository.hpp"
@@ -26,7 +25,7 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
     case TypeKind::Any:
         return true;
     case TypeKind::Scalar:
-        return given.classID() == type.scalarClass && given.rows() == 1 && given.columns() == 1;
+        return given.classID() == type.scalarClass && given.isScalar();
     case TypeKind::Elements:
         return given.classID() == type.scalarClass;
     case TypeKind::Text:
@@ -36,10 +35,10 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
     case TypeKind::Named:
         break;
     }
-    return (type.element ? objectVectorFit(type.element, given) : firstObjectFit(type.name, given)) != noFit;
+    return (type.element ? objectVectorRank(type.element, given) : firstObjectRank(type.name, given)) != notConvertible;
 }
 
-[[noreturn]] void refuse(TypeReference const* type, std::string_view member)
+[[noreturn]] void throwMismatch(TypeReference const* type, std::string_view member)
 {
     throwHostError("VELMARA:result", "type", {std::string(member), type ? type->name->string() : std::string("void")});
 }
@@ -55,7 +54,7 @@ orbis::COSDataType* registered(TypeReference const* type)
 ArrayPtr ResultValue::takeOther(std::string_view member)
 {
     if (type_ && type_->kind == TypeKind::Optional) {
-        if (value_.isArray() && isNothing(*Array::of(value_.array())))
+        if (value_.isArray() && Array::of(value_.array())->isEmptyDouble())
             return ArrayPtr(std::exchange(value_, {}).array());
         type_ = type_->value.get();
         if (type_->kind == TypeKind::Scalar && value_.scalarClass() == type_->scalarClass)
@@ -65,7 +64,7 @@ ArrayPtr ResultValue::takeOther(std::string_view member)
         return takeArray(member);
     if (value_.isEmpty())
         return nullptr;
-    refuse(type_, member);
+    throwMismatch(type_, member);
 }
 
 ArrayPtr ResultValue::takeArray(std::string_view member)
@@ -80,11 +79,11 @@ ArrayPtr ResultValue::takeArray(std::string_view member)
         return ArrayPtr(std::exchange(value_, {}).array());
     }
     if (!type_ || (value_.array() && !isOf(*type_, value_.array())))
-        refuse(type_, member);
+        throwMismatch(type_, member);
     return ArrayPtr(std::exchange(value_, {}).array());
 }
 
-void ResultValue::giveBack() noexcept
+void ResultValue::release() noexcept
 {
     if (orbis::COSDataType* const type = registered(type_)) {
         try {

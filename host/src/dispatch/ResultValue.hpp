@@ -11,11 +11,11 @@
 
 namespace velmara {
 
-/// A value that native code gave as a result. It is the host's from then on, also when it turns out not to be of
-/// the data type that was promised.
+/// A value that native code returned. The host owns it from then on, also when it is not of the data type of the
+/// signature.
 class ResultValue {
 public:
-    /// `type` is null where no result was promised.
+    /// `type` is null where the signature has no result.
     explicit ResultValue(TypeReference const* type, orbis::COSValue value = {}) : type_(type), value_(value) {}
     ResultValue(ResultValue const&) = delete;
     ResultValue& operator=(ResultValue const&) = delete;
@@ -23,7 +23,7 @@ public:
     ~ResultValue()
     {
         if (value_.isArray())
-            giveBack();
+            release();
     }
 
     orbis::COSValue& slot() { return value_; }
@@ -40,7 +40,7 @@ public:
 private:
     ArrayPtr takeOther(std::string_view member);
     ArrayPtr takeArray(std::string_view member);
-    void giveBack() noexcept;
+    void release() noexcept;
 
     TypeReference const* type_;
     orbis::COSValue value_;

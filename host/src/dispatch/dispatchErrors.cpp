@@ -1,6 +1,7 @@
 #include "dispatch/dispatchErrors.hpp"
 
 #include "arrays/Array.hpp"
+#include "dispatch/mismatchReason.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
 
@@ -20,8 +21,7 @@ std::string describeGiven(Inputs inputs)
         Array const& array = *Array::of(input);
         if (text.size() > 1)
             text += ", ";
-        text.append(array.className()).append(" ").append(std::to_string(array.rows()));
-        text.append("-by-").append(std::to_string(array.columns()));
+        text.append(array.className()).append(" ").append(array.sizeText());
     }
     return text + ")";
 }
@@ -38,27 +38,27 @@ std::string explain(Method const& method, CallInputs const& call)
     auto const parameters = method.explicitInputs();
     if (parameters.size() != call.inputs.size())
         return "takes " + count(parameters.size());
-    if (method.takesObject && ConvertedInputs(1).addSelf(method.inputs.front().type, call.self) == noFit)
-        return method.inputs.front().name + ": " + explainRefusal(method.inputs.front().type, call.self);
+    if (method.takesObject && ConvertedInputs(1).addSelf(method.inputs.front().type, call.self) == notConvertible)
+        return method.inputs.front().name + ": " + mismatchReason(method.inputs.front().type, call.self);
     for (std::size_t i = 0; i < parameters.size(); ++i)
-        if (ConvertedInputs(1).add(parameters[i].type, call.inputs[i]) == noFit)
-            return parameters[i].name + ": " + explainRefusal(parameters[i].type, call.inputs[i]);
+        if (ConvertedInputs(1).add(parameters[i].type, call.inputs[i]) == notConvertible)
+            return parameters[i].name + ": " + mismatchReason(parameters[i].type, call.inputs[i]);
     return "fits";
 }
 
-/// How many of the first inputs the method takes.
+/// How many of the first inputs fit.
 std::size_t countFitting(Method const& method, CallInputs const& call)
 {
     auto const parameters = method.explicitInputs();
     std::size_t fitting = 0;
     while (fitting < std::min(parameters.size(), call.inputs.size()) &&
-           ConvertedInputs(1).add(parameters[fitting].type, call.inputs[fitting]) != noFit)
+           ConvertedInputs(1).add(parameters[fitting].type, call.inputs[fitting]) != notConvertible)
         ++fitting;
     return fitting;
 }
 
-/// Many candidates are cut to the nearest few: those that take as many inputs or nearly so, and of these the ones that
-/// take more of the first inputs.
+/// The few candidates nearest to the call, where there are many: those with about as many inputs, and of these the ones
+/// that more of the first inputs fit.
 std::vector<Method const*> nearest(std::span<Method const* const> candidates, CallInputs const& call)
 {
     constexpr std::size_t many = 6, few = 3;
@@ -85,7 +85,7 @@ std::string nameOf(Method const& method)
 
 } // namespace
 
-void refuseNoMatch(std::span<Method const* const> candidates, CallInputs const& call)
+void throwNoMatch(std::span<Method const* const> candidates, CallInputs const& call)
 {
     checkInputs(Machine::required(), call.inputs);
     std::vector<Method const*> const shown = nearest(candidates, call);
@@ -97,7 +97,7 @@ void refuseNoMatch(std::span<Method const* const> candidates, CallInputs const& 
     throwHostError("VELMARA:dispatch", "noMatch", {nameOf(*candidates.front()), explained, describeGiven(call.inputs)});
 }
 
-void refuseAmbiguous(std::span<Method const* const> rivals, CallInputs const& call)
+void throwAmbiguous(std::span<Method const* const> rivals, CallInputs const& call)
 {
     std::string candidates;
     for (Method const* const method : rivals)
@@ -105,7 +105,7 @@ void refuseAmbiguous(std::span<Method const* const> rivals, CallInputs const& ca
     throwHostError("VELMARA:dispatch", "ambiguous", {nameOf(*rivals.front()), candidates, describeGiven(call.inputs)});
 }
 
-void refuseCall(MethodGroup const& group, CallInputs call)
+void throwUncallable(MethodGroup const& group, CallInputs call)
 {
     Method const& method = *group.methods.front();
     if (group.accessible == 0)
@@ -113,10 +113,10 @@ void refuseCall(MethodGroup const& group, CallInputs call)
     std::vector<Method const*> const candidates(group.methods.begin(), group.accessibleEnd());
     auto const isCallable = [&call](Method const* candidate) {
         ConvertedInputs trial(call.capacity());
-        return convertFor(*candidate, call, trial, [](Fit) {});
+        return convertFor(*candidate, call, trial, [](ConversionRank) {});
     };
     if (std::ranges::none_of(candidates, isCallable))
-        refuseNoMatch(candidates, call);
+        throwNoMatch(candidates, call);
     throwHostError("VELMARA:member", "abstract", {nameOf(method)});
 }
 

@@ -17,15 +17,6 @@ std::string fullID(std::string_view catalog, std::string_view key)
     return id.append(catalog).append(":").append(key);
 }
 
-char const* findHostText(std::string_view catalog, std::string_view key)
-{
-    for (HostMessage const& message : hostMessages()) {
-        if (message.catalog == catalog && message.key == key)
-            return message.text;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 void MessageCatalog::add(std::string_view catalog, std::string_view key, std::string_view text)
@@ -36,17 +27,17 @@ void MessageCatalog::add(std::string_view catalog, std::string_view key, std::st
 char const* MessageCatalog::find(std::string_view catalog, std::string_view key) const
 {
     auto const found = texts_.find(fullID(catalog, key));
-    return found != texts_.end() ? found->second.c_str() : findHostText(catalog, key);
+    return found != texts_.end() ? found->second.c_str() : findHostMessage(catalog, key);
 }
 
 std::string messageText(char const* catalog, char const* key, std::vector<std::string> const& arguments)
 {
     MessageSource* const source = MessageSource::current();
-    char const* const text = source ? source->messages().find(catalog, key) : findHostText(catalog, key);
-    return text ? fillPlaces(text, arguments) : fullID(catalog, key);
+    char const* const text = source ? source->messages().find(catalog, key) : findHostMessage(catalog, key);
+    return text ? fillPlaceholders(text, arguments) : fullID(catalog, key);
 }
 
-std::string fillPlaces(std::string_view text, std::vector<std::string> const& arguments)
+std::string fillPlaceholders(std::string_view text, std::vector<std::string> const& arguments)
 {
     std::string filled;
     for (std::size_t brace; (brace = text.find('{')) != text.npos;) {
@@ -54,8 +45,8 @@ std::string fillPlaces(std::string_view text, std::vector<std::string> const& ar
         text.remove_prefix(brace);
         std::size_t number = 0;
         auto const [end, error] = std::from_chars(text.data() + 1, text.data() + text.size(), number);
-        bool const isPlace = error == std::errc() && end != text.data() + text.size() && *end == '}';
-        if (isPlace && number < arguments.size()) {
+        bool const isPlaceholder = error == std::errc() && end != text.data() + text.size() && *end == '}';
+        if (isPlaceholder && number < arguments.size()) {
             filled += arguments[number];
             text.remove_prefix(std::size_t(end + 1 - text.data()));
         } else {

@@ -11,10 +11,10 @@ namespace velmara {
 /// The message texts that modules added to a virtual machine, above the host's own texts.
 class MessageCatalog {
 public:
-    /// Takes the place of an earlier text of the same key.
+    /// Replaces an earlier text of the same key.
     void add(std::string_view catalog, std::string_view key, std::string_view text);
 
-    /// The text as it was added; null when neither this catalog nor the host has one.
+    /// The text with its placeholders; null when neither this catalog nor the host has one.
     char const* find(std::string_view catalog, std::string_view key) const;
 
 private:
@@ -44,7 +44,7 @@ private:
 /// id when there is no text for it. Works without a virtual machine for the host's own errors.
 std::string messageText(char const* catalog, char const* key, std::vector<std::string> const& arguments);
 
-/// Puts argument N in place of each {N}. "{{" is a literal brace; a place without an argument stays as it is.
-std::string fillPlaces(std::string_view text, std::vector<std::string> const& arguments);
+/// Replaces each {N} by argument N. "{{" is a literal brace; a placeholder without an argument stays as it is.
+std::string fillPlaceholders(std::string_view text, std::vector<std::string> const& arguments);
 
 } // namespace velmara

@@ -48,13 +48,13 @@ Error currentError()
     }
 }
 
-void rethrowShortage()
+void rethrowIfOutOfMemory()
 {
     try {
         throw;
     } catch (std::bad_alloc const&) {
         throw;
-    } catch (...) { // all else is the caller's
+    } catch (...) { // the caller handles all else
     }
 }
 
@@ -63,12 +63,12 @@ void rethrowAsError()
     throw currentError();
 }
 
-std::string textOfCurrentException()
+std::string currentErrorText()
 {
     return currentError().text();
 }
 
-char const* whatOfCurrentException() noexcept
+char const* currentExceptionWhat() noexcept
 {
     try {
         throw;

@@ -6,21 +6,21 @@
 
 namespace velmara {
 
-/// Inside a handler: what is being handled as a `velmara::Error`. An exception with a message identity keeps it; a
-/// shortage of memory is `Error::outOfMemory` wherever it arises; others become "VELMARA:native:exception" with their
-/// text, and what is no exception at all "VELMARA:native:unknown".
+/// Inside a handler: the current exception as a `velmara::Error`. One with a message identifier keeps it; `bad_alloc`
+/// is `Error::outOfMemory`; others become "VELMARA:native:exception" with their text, and what is no exception at all
+/// "VELMARA:native:unknown".
 Error currentError();
 
 /// Inside a handler: throws that error.
 [[noreturn]] void rethrowAsError();
 
-/// Inside a handler: passes on a shortage of memory, which is no fault of what it came from.
-void rethrowShortage();
+/// Inside a handler: rethrows `bad_alloc`, for which the code that threw it is not to blame.
+void rethrowIfOutOfMemory();
 
-/// Inside a handler: the text of what is being handled, without its identifier.
-std::string textOfCurrentException();
+/// Inside a handler: the text of that error, without its identifier.
+std::string currentErrorText();
 
-/// Inside a handler: what the exception says of itself, for as long as it is handled. Needs no memory.
-char const* whatOfCurrentException() noexcept;
+/// Inside a handler: `what()` of the current exception, valid while it is handled. Needs no memory.
+char const* currentExceptionWhat() noexcept;
 
 } // namespace velmara

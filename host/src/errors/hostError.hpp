@@ -5,7 +5,7 @@
 
 namespace velmara {
 
-/// Throws the host's own error `catalog:key`; its text stands in hostMessages.cpp. Both names are literals.
+/// Throws the host's own error `catalog:key`; its text is in hostMessages.cpp. Both names are literals.
 [[noreturn]] void throwHostError(char const* catalog, char const* key, std::vector<std::string> arguments = {});
 
 } // namespace velmara

@@ -4,6 +4,12 @@ namespace velmara {
 
 namespace {
 
+struct HostMessage {
+    char const* catalog;
+    char const* key;
+    char const* text;
+};
+
 constexpr HostMessage messages[] = {
     {"VELMARA:array", "null", "An array is needed here, but there is none."},
     {"VELMARA:array", "index", "Index {0} lies outside an array of {1} elements; the first element has index 0."},
@@ -94,9 +100,13 @@ constexpr HostMessage messages[] = {
 
 } // namespace
 
-std::span<HostMessage const> hostMessages()
+char const* findHostMessage(std::string_view catalog, std::string_view key)
 {
-    return messages;
+    for (HostMessage const& message : messages) {
+        if (message.catalog == catalog && message.key == key)
+            return message.text;
+    }
+    return nullptr;
 }
 
 } // namespace velmara

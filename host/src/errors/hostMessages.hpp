@@ -1,17 +1,10 @@
 #pragma once
 
-#include <span>
+#include <string_view>
 
 namespace velmara {
 
-/// One text of the host's own message catalogs; {0}, {1}, ... stand for the arguments.
-struct HostMessage {
-    char const* catalog;
-    char const* key;
-    char const* text;
-};
-
-/// All of the host's own texts.
-std::span<HostMessage const> hostMessages();
+/// The host's own text of a message, in which {0}, {1}, ... stand for the arguments; null when there is none.
+char const* findHostMessage(std::string_view catalog, std::string_view key);
 
 } // namespace velmara

@@ -32,17 +32,17 @@ HvmStorage::Holder& HvmStorage::findOrInsert(std::uint64_t id, std::type_info co
 
 HvmStorage::Holder& HvmStorage::insert(std::uint64_t id, std::type_info const& type, Holder&& value)
 {
-    // Everything that may fail comes first: a refused value stays the caller's, and the one before stays stored.
+    // What may fail comes first: then the value stays the caller's, and the one before stays stored.
     if (id >= idCount.load(std::memory_order_relaxed))
         throwHostError("VELMARA:hvm", "unknownStorageID", {std::to_string(id)});
     if (id >= idCount_)
         growTo(id + 1);
-    std::list<Entry> made;
-    made.push_back({id, &type, Holder(nullptr, value.get_deleter())});
-    made.front().holder = std::move(value);
+    std::list<Entry> created;
+    created.push_back({id, &type, Holder(nullptr, value.get_deleter())});
+    created.front().holder = std::move(value);
     while (erase(id, type)) {
     }
-    return store(made);
+    return store(created);
 }
 
 void HvmStorage::growTo(std::size_t idCount)
@@ -53,13 +53,13 @@ void HvmStorage::growTo(std::size_t idCount)
     idCount_ = idCount;
 }
 
-HvmStorage::Holder& HvmStorage::store(std::list<Entry>& made)
+HvmStorage::Holder& HvmStorage::store(std::list<Entry>& created)
 {
-    Entry& entry = made.front();
-    entry.place = made.begin();
+    Entry& entry = created.front();
+    entry.position = created.begin();
     entry.sameID = byID_[entry.id];
     byID_[entry.id] = &entry;
-    inOrder_.splice(inOrder_.end(), made);
+    inOrder_.splice(inOrder_.end(), created);
     return entry.holder;
 }
 
@@ -85,7 +85,7 @@ void HvmStorage::remove(Entry& entry)
     *link = entry.sameID;
     // The deleter runs when nothing of the entry is left in the storage.
     std::list<Entry> removed;
-    removed.splice(removed.end(), inOrder_, entry.place);
+    removed.splice(removed.end(), inOrder_, entry.position);
 }
 
 } // namespace velmara

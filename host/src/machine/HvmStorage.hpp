@@ -8,8 +8,8 @@
 
 namespace velmara {
 
-/// The values that modules keep in one virtual machine, known by id and type. Values go in the reverse order in
-/// which they were stored; while one goes it is no longer found, and its deleter may use the storage.
+/// The values that modules keep in one virtual machine, known by id and type. They are destroyed in the reverse order
+/// of their insertion; a value being destroyed is no longer found, and its deleter may use the storage.
 class HvmStorage {
 public:
     using Holder = foundation::usm::Detail<foundation::usm::scope::Hvm>::Holder;
@@ -32,7 +32,7 @@ public:
     Holder& insert(std::uint64_t id, std::type_info const& type, Holder&& value);
     bool erase(std::uint64_t id, std::type_info const& type);
 
-    /// Gives up everything, also what deleters store meanwhile.
+    /// Destroys everything, also what deleters store meanwhile.
     void clear();
 
 private:
@@ -41,7 +41,7 @@ private:
         std::type_info const* type;
         Holder holder;
         Entry* sameID = nullptr; ///< the next entry of this id, of another type; `none_` after the last
-        std::list<Entry>::iterator place = {};
+        std::list<Entry>::iterator position = {};
     };
 
     Entry* findEntry(std::uint64_t id, std::type_info const& type) const
@@ -57,12 +57,12 @@ private:
     Entry* findAmong(Entry* first, std::type_info const& type) const;
 
     void growTo(std::size_t idCount);
-    Holder& store(std::list<Entry>& made);
+    Holder& store(std::list<Entry>& created);
     void remove(Entry& entry);
 
-    Entry none_{.id = 0, .type = nullptr, .holder = Holder(nullptr, nullptr)}; ///< stands where an id has no entry
+    Entry none_{.id = 0, .type = nullptr, .holder = Holder(nullptr, nullptr)}; ///< for ids without an entry
     std::list<Entry> inOrder_;
-    std::unique_ptr<Entry*[]> byID_; ///< no vector, whose size is a difference to be worked out at every access
+    std::unique_ptr<Entry*[]> byID_; ///< no vector, whose size would be computed at every access
     std::size_t idCount_ = 0;
 };
 

@@ -69,8 +69,7 @@ public:
     /// Destroys what was unpublished (null allowed) as soon as no native code that may still use it is running.
     void retire(std::unique_ptr<Retirable> unpublished) noexcept;
 
-    /// A stay in the virtual machine: makes it current, and keeps what is unpublished meanwhile until the outermost
-    /// stay is over.
+    /// Makes the virtual machine current. What is unpublished meanwhile is kept until the outermost entry is left.
     class Entry {
     public:
         explicit Entry(Machine& machine) : machine_(machine), previous_(makeCurrent(&machine)) { ++machine.entries_; }
@@ -89,7 +88,7 @@ public:
         Machine* previous_;
     };
 
-    /// The begin and the end of one call into the virtual machine. Stands before the call's `Entry`.
+    /// The begin and the end of one call into the virtual machine. Created before the call's `Entry`.
     class CallBoundary {
     public:
         explicit CallBoundary(Machine& machine) : machine_(machine) { pass(); }

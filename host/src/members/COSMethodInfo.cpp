@@ -1,8 +1,7 @@
 #include "orbis/COSMethodInfo.hpp"
 
-#include "memory/LiveCounters.hpp"
-
-#include "libkwfl/bad_alloc.hpp"
+#include "memory/ThreadCache.hpp"
+#include "memory/allocate.hpp"
 
 #include <cstdlib>
 
@@ -10,9 +9,7 @@ namespace orbis {
 
 void* COSMethodInfo::operator new(std::size_t size)
 {
-    if (void* const storage = std::malloc(size))
-        return storage;
-    throw foundation::core::except::bad_alloc();
+    return velmara::allocate(size);
 }
 
 void* COSMethodInfo::operator new(std::size_t, void* place)
@@ -32,11 +29,11 @@ void COSMethodInfo::operator delete[](void* storage) // NOLINT(misc-new-delete-o
 
 COSMethodInfo::COSMethodInfo()
 {
-    ++velmara::liveCountsOfThisThread().descriptors;
+    ++velmara::currentLiveCounts().descriptors;
 }
 COSMethodInfo::~COSMethodInfo()
 {
-    --velmara::liveCountsOfThisThread().descriptors;
+    --velmara::currentLiveCounts().descriptors;
 }
 
 char const* COSMethodInfo::getDescription() const

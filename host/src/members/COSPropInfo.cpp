@@ -1,18 +1,18 @@
 #include "orbis/COSPropInfo.hpp"
 
-#include "memory/LiveCounters.hpp"
+#include "memory/ThreadCache.hpp"
 
 namespace orbis {
 
 COSPropInfo::COSPropInfo()
 {
-    ++velmara::liveCountsOfThisThread().descriptors;
+    ++velmara::currentLiveCounts().descriptors;
 }
 COSPropInfo::COSPropInfo(COSPropInfo const&) : COSPropInfo() {}
 COSPropInfo& COSPropInfo::operator=(COSPropInfo const&) = default;
 COSPropInfo::~COSPropInfo()
 {
-    --velmara::liveCountsOfThisThread().descriptors;
+    --velmara::currentLiveCounts().descriptors;
 }
 
 ExtendedMemberAccess COSPropInfo::getExtendedGetAccess() const

@@ -16,14 +16,14 @@ void EnumeratorTable::add(Name className, std::string_view name, std::int64_t va
         throwHostError("VELMARA:enumeration", "name", {cls});
     if (byName_.findText(name))
         throwHostError("VELMARA:enumeration", "duplicate", {cls, std::string(name)});
-    auto const place = placeOf(value);
-    bool const isNew = place == byValue_.end() || enumerators_[*place].value != value;
-    if (isNew && enumerators_.size() == Object::mostEnumerators)
-        throwHostError("VELMARA:enumeration", "tooMany", {cls, std::to_string(Object::mostEnumerators)});
-    std::size_t const number = isNew ? enumerators_.size() : *place;
+    auto const position = positionOf(value);
+    bool const isNew = position == byValue_.end() || enumerators_[*position].value != value;
+    if (isNew && enumerators_.size() == Object::maxEnumerators)
+        throwHostError("VELMARA:enumeration", "tooMany", {cls, std::to_string(Object::maxEnumerators)});
+    std::size_t const number = isNew ? enumerators_.size() : *position;
     Name const interned = intern(name);
     if (isNew) {
-        byValue_.insert(place, number);
+        byValue_.insert(position, number);
         enumerators_.push_back({{interned->text, value, entries_.size()}, nullptr});
     }
     byName_[interned] = number;
@@ -31,22 +31,22 @@ void EnumeratorTable::add(Name className, std::string_view name, std::int64_t va
     longestName_ = std::max(longestName_, name.size());
 }
 
-void EnumeratorTable::makeObjects(ObjectClass& cls)
+void EnumeratorTable::createObjects(ObjectClass& cls)
 {
     for (std::size_t i = 0; i < enumerators_.size(); ++i)
         enumerators_[i].object.reset(
-            orbis::omCreateORBISScalar(orbis::COSInterfacePtr(&Object::makeEnumerator(cls, i))));
+            orbis::omCreateORBISScalar(orbis::COSInterfacePtr(&Object::createEnumerator(cls, i))));
 }
 
-std::vector<std::size_t>::const_iterator EnumeratorTable::placeOf(std::int64_t value) const
+std::vector<std::size_t>::const_iterator EnumeratorTable::positionOf(std::int64_t value) const
 {
     return std::ranges::lower_bound(byValue_, value, {}, [this](std::size_t i) { return enumerators_[i].value; });
 }
 
 Enumerator const* EnumeratorTable::find(std::int64_t value) const
 {
-    auto const place = placeOf(value);
-    return place != byValue_.end() && enumerators_[*place].value == value ? &enumerators_[*place] : nullptr;
+    auto const position = positionOf(value);
+    return position != byValue_.end() && enumerators_[*position].value == value ? &enumerators_[*position] : nullptr;
 }
 
 std::string EnumeratorTable::names() const

@@ -17,7 +17,7 @@ namespace velmara {
 
 class ObjectClass;
 
-/// One enumerator and its one object, which stands in a 1-by-1 array of its own.
+/// One enumerator and its one object, in a 1-by-1 array of its own.
 struct Enumerator : orbis::additions::Enumerator {
     ArrayPtr object;
 
@@ -41,8 +41,8 @@ public:
     /// "VELMARA:enumeration:..." for no name, and for one that is taken; `className` is for its text.
     void add(Name className, std::string_view name, std::int64_t value);
 
-    /// Makes the objects of all enumerators, which `cls` has from now on.
-    void makeObjects(ObjectClass& cls);
+    /// Creates the objects of all enumerators.
+    void createObjects(ObjectClass& cls);
 
     /// Null when there is none.
     Enumerator const* find(std::string_view name) const
@@ -63,8 +63,8 @@ public:
     std::string names() const;
 
 private:
-    /// Where the value stands, or would stand, in `byValue_`.
-    std::vector<std::size_t>::const_iterator placeOf(std::int64_t value) const;
+    /// Where the value is, or would be, in `byValue_`.
+    std::vector<std::size_t>::const_iterator positionOf(std::int64_t value) const;
 
     std::vector<Entry> entries_;
     std::vector<Enumerator> enumerators_;

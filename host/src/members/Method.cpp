@@ -46,10 +46,10 @@ Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, ObjectClass con
     takesObject = definer && !isStatic && !isConstructor;
     if (takesObject && inputs.empty())
         throwHostError("VELMARA:member", "noObjectInput", {definer->name()->string(), info->getName()});
-    bool const takesScalars = isAccessible() && !isAbstract && inputCount <= mostPlainInputs &&
+    bool const takesScalars = isAccessible() && !isAbstract && inputCount <= maxScalarInputs &&
                               std::ranges::all_of(explicitInputs(), isScalar);
-    isPlain = takesScalars && !isConstructor && (!outputType || isScalar(outputs.front()));
-    isPlainConstructor = takesScalars && isConstructor;
+    takesOnlyScalars = takesScalars && !isConstructor && (!outputType || isScalar(outputs.front()));
+    isScalarConstructor = takesScalars && isConstructor;
 }
 
 bool Method::hasSameInputs(Method const& other) const
@@ -69,22 +69,22 @@ void MethodGroup::add(Method const& method)
     methods.insert(method.isAccessible() ? accessibleEnd() : methods.end(), &method);
     if (method.isAccessible())
         ++accessible;
-    findPlain();
+    findScalarMethods();
 }
 
 void MethodGroup::remove(Method const& method)
 {
     if (std::erase(methods, &method) != 0 && method.isAccessible())
         --accessible;
-    findPlain();
+    findScalarMethods();
 }
 
-void MethodGroup::findPlain()
+void MethodGroup::findScalarMethods()
 {
     Method const* const only = accessible == 1 ? methods.front() : nullptr;
-    plainOfObject = only && only->isPlain && only->takesObject ? only : nullptr;
-    plain = only && only->isPlain && !only->takesObject ? only : nullptr;
-    plainConstructor = only && only->isPlainConstructor ? only : nullptr;
+    scalarMethod = only && only->takesOnlyScalars && only->takesObject ? only : nullptr;
+    plain = only && only->takesOnlyScalars && !only->takesObject ? only : nullptr;
+    scalarConstructor = only && only->isScalarConstructor ? only : nullptr;
 }
 
 } // namespace velmara

@@ -13,12 +13,12 @@ namespace velmara {
 
 class ObjectClass;
 
-/// A published callable member: its descriptor with the answers that the dispatch needs, asked once.
+/// A published callable member: its descriptor, and what that said of itself when it was published.
 struct Method : Retirable {
     /// `definer` is null for a package function. Throws "VELMARA:member:name" for a descriptor without a name.
     Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, ObjectClass const* definer);
 
-    /// The inputs that a caller writes down: all but the object.
+    /// The inputs that a caller writes: all but the object.
     std::span<Parameter const> explicitInputs() const { return std::span(inputs).subspan(takesObject); }
 
     /// True when both are called with explicit inputs of the same types.
@@ -33,7 +33,7 @@ struct Method : Retirable {
     Name name;
     ObjectClass const* definingClass;
     std::vector<Parameter> inputs;
-    std::size_t inputCount; ///< `inputs.size()`, which takes a division
+    std::size_t inputCount; ///< `inputs.size()`, which would be a division
     std::vector<Parameter> outputs;
     TypeReference const* outputType; ///< null when there is none
     orbis::MemberAccess access;
@@ -47,11 +47,11 @@ struct Method : Retirable {
 
     /// True for a method that anyone may call and that takes and gives only scalars, not too many: most are so, and
     /// are called by a shorter way.
-    bool isPlain;
-    static constexpr std::size_t mostPlainInputs = 8;
+    bool takesOnlyScalars;
+    static constexpr std::size_t maxScalarInputs = 8;
 
     /// The same for a constructor, but for its result, which is the object.
-    bool isPlainConstructor;
+    bool isScalarConstructor;
 };
 
 /// The methods of one name among which the dispatch chooses.
@@ -66,12 +66,12 @@ struct MethodGroup {
     std::size_t accessible = 0;
 
     /// The one that may be called, where there is just one and it is plain: with an object, or without.
-    Method const* plainOfObject = nullptr;
+    Method const* scalarMethod = nullptr;
     Method const* plain = nullptr;
-    Method const* plainConstructor = nullptr;
+    Method const* scalarConstructor = nullptr;
 
 private:
-    void findPlain();
+    void findScalarMethods();
 };
 
 } // namespace velmara

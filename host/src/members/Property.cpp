@@ -24,7 +24,7 @@ std::string text(char const* given)
 
 PropertyTraits ask(orbis::COSPropInfo const& info, bool hasDefault)
 {
-    // Evaluated in the order in which they stand here.
+    // Evaluated in this order.
     return {.hasDefault = hasDefault,
             .getAccess = info.getMemberGetAccess(),
             .extendedGetAccess = info.getExtendedGetAccess(),
@@ -87,7 +87,7 @@ void Property::askTypeQuietly() const noexcept
     try {
         askType();
     } catch (...) {
-        // Whoever needs it is told: the package of another class cannot be populated, say.
+        // Thrown again when the type is needed: the package of its class cannot be populated, say.
     }
 }
 

@@ -14,14 +14,13 @@ namespace velmara {
 
 class ObjectClass;
 
-/// A published property: its descriptor with the answers that it gave about itself.
+/// A published property: its descriptor, and what that said of itself when it was published.
 struct Property {
     /// Asks all questions that need no object, in the order in which they are declared.
     Property(std::unique_ptr<orbis::COSPropInfo> descriptor, ObjectClass const& definer);
 
-    /// The type of its values. Asked for again when it is needed and was not there before, since a class may be
-    /// described before the classes of its properties are published; throws "VELMARA:property:dataType" while there is
-    /// no such type.
+    /// The type of its values. Looked up again when it was missing before, since a class may be described before the
+    /// classes of its properties are published; throws "VELMARA:property:dataType" while there is no such type.
     TypeReference const& type() const { return type_ ? *type_ : requireType(); }
 
     bool hasType() const { return type_ || askType() != nullptr; }

@@ -1,9 +1,5 @@
 #include "members/Signature.hpp"
 
-#include "memory/LiveCounters.hpp"
-
-#include "orbis/COSMethodSignaturePtr.hpp"
-
 namespace velmara {
 
 void Signature::addOutput(orbis::COSNameID const& dataType, orbis::COSString const& name)
@@ -30,45 +26,3 @@ std::string describe(std::span<Parameter const> parameters)
 }
 
 } // namespace velmara
-
-namespace orbis {
-
-COSMethodSignature::COSMethodSignature()
-{
-    ++velmara::liveCountsOfThisThread().descriptors;
-}
-COSMethodSignature::~COSMethodSignature()
-{
-    --velmara::liveCountsOfThisThread().descriptors;
-}
-
-COSMethodSignature* COSMethodSignature::createMethodSignature()
-{
-    return new velmara::Signature;
-}
-
-COSMethodSignaturePtr::COSMethodSignaturePtr() = default;
-COSMethodSignaturePtr::~COSMethodSignaturePtr()
-{
-    delete signature_;
-}
-
-COSMethodSignaturePtr& COSMethodSignaturePtr::operator=(COSMethodSignature* signature)
-{
-    if (signature != signature_) {
-        delete signature_;
-        signature_ = signature;
-    }
-    return *this;
-}
-
-COSMethodSignaturePtr::operator COSMethodSignature*() const
-{
-    return signature_;
-}
-COSMethodSignature* COSMethodSignaturePtr::operator->() const
-{
-    return signature_;
-}
-
-} // namespace orbis

@@ -15,7 +15,7 @@ struct Parameter {
     std::string name;
 };
 
-/// The host's signature: data types are resolved as far as their names tell, so that the dispatch does not look
+/// The host's signature. Its data types are resolved as far as their names allow, so that the dispatch does not look
 /// them up again.
 class Signature final : public orbis::COSMethodSignature {
 public:

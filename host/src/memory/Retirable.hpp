@@ -5,7 +5,7 @@
 
 namespace velmara {
 
-/// Something published that native code may still be using when it is unpublished. It brings its place in the list of
+/// Something published that native code may still be using when it is unpublished. It has its own link for the list of
 /// such things, so that unpublishing needs no memory.
 class Retirable {
 public:
@@ -20,7 +20,7 @@ private:
     std::unique_ptr<Retirable> next_;
 };
 
-/// The unpublished things that wait to be destroyed, in the order in which they came.
+/// What was unpublished and waits to be destroyed, in that order.
 class RetiredList {
 public:
     bool empty() const { return !first_; }
@@ -32,7 +32,7 @@ public:
         last_ = added;
     }
 
-    /// Destroying runs foreign code, which may add more.
+    /// Destructors run foreign code, which may add more.
     void destroyAll() noexcept
     {
         while (first_) {

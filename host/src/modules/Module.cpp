@@ -15,7 +15,7 @@ namespace velmara {
 
 namespace {
 
-ModuleRecord makeRecord(std::filesystem::path const& file, std::string name)
+ModuleRecord createRecord(std::filesystem::path const& file, std::string name)
 {
     ModuleRecord record;
     record.name = std::move(name);
@@ -27,7 +27,7 @@ ModuleRecord makeRecord(std::filesystem::path const& file, std::string name)
 
 Module::Module(std::filesystem::path const& file, std::string name)
     : file_(file),
-      record_(makeRecord(file, std::move(name))),
+      record_(createRecord(file, std::move(name))),
       library_(file),
       initialize_(entryPoint("VXInitialize_")),
       terminate_(entryPoint("VXTerminate_"))
@@ -68,7 +68,7 @@ void Module::initialize()
 {
     addMessages();
     try {
-        Machine::required().packages().changing(initialize_);
+        Machine::required().packages().transact(initialize_);
     } catch (...) {
         rethrowFailure("initialization");
     }
@@ -78,13 +78,13 @@ void Module::initialize()
 void Module::terminate()
 {
     try {
-        terminateAsItIs();
+        terminateRaw();
     } catch (...) {
         rethrowFailure("termination");
     }
 }
 
-void Module::terminateAsItIs()
+void Module::terminateRaw()
 {
     terminate_();
     isLoaded_ = false;

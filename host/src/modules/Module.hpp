@@ -22,15 +22,15 @@ public:
     ModuleRecord const& record() const { return record_; }
     bool isLoaded() const { return isLoaded_; }
 
-    /// Adds the module's texts and runs its initialisation; it is loaded when that succeeds. When it fails, what it
-    /// published is taken back, and what it throws becomes an `Error` that names the module.
+    /// Adds the module's texts and runs its initialization; it is loaded when that succeeds. When it fails, what it
+    /// published is removed again, and what it throws becomes an `Error` that names the module.
     void initialize();
 
     /// The module stays loaded when this fails; likewise.
     void terminate();
 
-    /// The same, but what the module throws leaves as it is, so that no memory is needed.
-    void terminateAsItIs();
+    /// The same, but what the module throws is passed on as it is, which needs no memory.
+    void terminateRaw();
 
 private:
     using EntryPoint = void (*)();

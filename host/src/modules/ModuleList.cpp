@@ -53,10 +53,10 @@ void ModuleList::terminateAll(FailureReport const& report) noexcept
         Module& module = *modules_[i];
         try {
             if (module.isLoaded())
-                module.terminateAsItIs();
+                module.terminateRaw();
         } catch (...) {
             if (report)
-                report(module.name(), whatOfCurrentException());
+                report(module.name(), currentExceptionWhat());
         }
     }
 }

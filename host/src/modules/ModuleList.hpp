@@ -27,8 +27,8 @@ public:
     /// A module's name, and why it failed to terminate.
     using FailureReport = std::function<void(std::string const&, char const*)>;
 
-    /// Terminates what is loaded, the last one first. Each that fails is told to `report`, which may be empty and
-    /// throws nothing. Needs no memory.
+    /// Terminates what is loaded, the last one first. `report`, which may be empty and throws nothing, is called with
+    /// each that fails. Needs no memory.
     void terminateAll(FailureReport const& report) noexcept;
 
 private:

@@ -17,8 +17,8 @@ namespace velmara {
 
 namespace {
 
-/// A file that is shorter than it says would be mapped, and end the process as soon as the missing part is touched.
-void requireWhole(std::filesystem::path const& file)
+/// A file that is shorter than its headers say would be mapped, and kill the process when the missing part is touched.
+void requireComplete(std::filesystem::path const& file)
 {
     std::ifstream content(file, std::ios::binary);
     std::uintmax_t const needed = imageSize(content);
@@ -36,7 +36,7 @@ void* mapLibrary(std::filesystem::path const& file);
 
 SharedLibrary::SharedLibrary(std::filesystem::path const& file)
 {
-    requireWhole(file);
+    requireComplete(file);
     handle_ = mapLibrary(file);
 }
 

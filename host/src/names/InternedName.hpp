@@ -24,7 +24,7 @@ namespace velmara {
 
 using Name = orbis::InternedName const*;
 
-/// The interned name, made when it is new. Known names are found without a lock or an allocation.
+/// The interned name, created when it is new. Known names are found without a lock or an allocation.
 Name intern(std::string_view text);
 
 /// The interned name, or null when the text was never interned. Names that come from scripts are only looked up.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "names/InternedName.hpp"
-#include "text/TextChunks.hpp"
+#include "text/textHash.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -23,14 +23,14 @@ public:
     bool empty() const { return size_ == 0; }
     std::size_t size() const { return size_; }
 
-    /// The value, or null. It stays in its place until the next insertion or removal.
+    /// The value, or null. It stays where it is until the next insertion or removal.
     T* find(Name name) { return const_cast<T*>(std::as_const(*this).find(name)); }
 
     T const* find(Name name) const
     {
         if (size_ == 0)
             return nullptr;
-        Entry const& entry = entries_[placeOf(name)];
+        Entry const& entry = entries_[indexOf(name)];
         return entry.name ? &entry.value : nullptr;
     }
 
@@ -47,12 +47,12 @@ public:
         return nullptr;
     }
 
-    /// The value found, or a default-made one. Room for it is made first: a failure changes nothing.
+    /// The value, default-constructed when it is new. Grows first: a failure changes nothing.
     T& operator[](Name name)
     {
         if ((size_ + 1) * 2 > entries_.size())
             grow();
-        Entry& entry = entries_[placeOf(name)];
+        Entry& entry = entries_[indexOf(name)];
         if (!entry.name) {
             entry.name = name;
             ++size_;
@@ -62,9 +62,9 @@ public:
 
     void erase(Name name)
     {
-        if (size_ == 0 || !entries_[placeOf(name)].name)
+        if (size_ == 0 || !entries_[indexOf(name)].name)
             return;
-        std::size_t hole = placeOf(name);
+        std::size_t hole = indexOf(name);
         // What follows the hole in its run moves up where it would otherwise no longer be found.
         for (std::size_t i = next(hole); entries_[i].name; i = next(i)) {
             std::size_t const wanted = entries_[i].name->hash & mask_;
@@ -77,12 +77,12 @@ public:
         --size_;
     }
 
-    /// The name of an entry that `isMeant(name, value)`, null when there is none.
+    /// The name of an entry that `matches(name, value)`, null when there is none.
     template <class Predicate>
-    Name findIf(Predicate const& isMeant) const
+    Name findIf(Predicate const& matches) const
     {
         for (Entry const& entry : entries_)
-            if (entry.name && isMeant(entry.name, entry.value))
+            if (entry.name && matches(entry.name, entry.value))
                 return entry.name;
         return nullptr;
     }
@@ -99,7 +99,7 @@ public:
 private:
     std::size_t next(std::size_t i) const { return (i + 1) & mask_; }
 
-    std::size_t placeOf(Name name) const
+    std::size_t indexOf(Name name) const
     {
         std::size_t i = name->hash & mask_;
         while (entries_[i].name && entries_[i].name != name)
@@ -114,7 +114,7 @@ private:
         mask_ = entries_.size() - 1;
         for (Entry& entry : old)
             if (entry.name)
-                entries_[placeOf(entry.name)] = std::move(entry);
+                entries_[indexOf(entry.name)] = std::move(entry);
     }
 
     std::vector<Entry> entries_; ///< a power of two, at most half full

@@ -1,6 +1,7 @@
 #include "names/NameTable.hpp"
 
-#include <cstdlib>
+#include "memory/allocate.hpp"
+
 #include <memory>
 #include <mutex>
 #include <new>
@@ -19,11 +20,9 @@ std::mutex& writing()
 }
 
 /// The record and its NUL-terminated text in one piece.
-Name makeName(std::string_view text, std::uint64_t hash)
+Name createName(std::string_view text, std::uint64_t hash)
 {
-    void* memory = std::malloc(sizeof(orbis::InternedName) + text.size() + 1);
-    if (!memory)
-        throw std::bad_alloc();
+    void* memory = allocate(sizeof(orbis::InternedName) + text.size() + 1);
     char* copy = static_cast<char*>(memory) + sizeof(orbis::InternedName);
     text.copy(copy, text.size());
     copy[text.size()] = '\0';
@@ -41,7 +40,7 @@ Name NameTable::find(Slots const& slots, std::string_view text, std::uint64_t ha
     }
 }
 
-void NameTable::place(Slots& slots, Name name)
+void NameTable::insert(Slots& slots, Name name)
 {
     std::size_t index = name->hash & slots.mask;
     while (slots.first[index].load(std::memory_order_relaxed))
@@ -57,8 +56,8 @@ Name NameTable::add(std::string_view text, std::uint64_t hash)
         return known;
     if (2 * (count_ + 1) > slots.mask + 1)
         grow();
-    Name const name = makeName(text, hash);
-    place(*slots_.load(std::memory_order_relaxed), name);
+    Name const name = createName(text, hash);
+    insert(*slots_.load(std::memory_order_relaxed), name);
     ++count_;
     return name;
 }
@@ -71,7 +70,7 @@ void NameTable::grow()
     auto larger = std::make_unique<Slots>(Slots{capacity - 1, slots.get(), &old});
     for (std::size_t index = 0; index <= old.mask; ++index) {
         if (Name const name = old.first[index].load(std::memory_order_relaxed))
-            place(*larger, name);
+            insert(*larger, name);
     }
     slots.release();
     slots_.store(larger.release(), std::memory_order_release);

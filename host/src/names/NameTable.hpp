@@ -1,15 +1,15 @@
 #pragma once
 
 #include "names/InternedName.hpp"
-#include "text/TextChunks.hpp"
+#include "text/textHash.hpp"
 
 #include <atomic>
 
 namespace velmara {
 
 /// All interned names of the process, by open addressing. Readers take no lock: a name is published by one store
-/// into its slot, and a larger table by one store of its address. Names and outgrown tables are kept for good,
-/// because a reader may be looking at them and because names outlive every virtual machine.
+/// into its slot, and a larger table by one store of its address. Names and outgrown tables are never freed: a
+/// reader may be using them, and names outlive every virtual machine.
 class NameTable {
 public:
     constexpr NameTable() = default;
@@ -37,7 +37,7 @@ private:
     static constexpr std::size_t firstCapacity = 1024;
 
     static Name find(Slots const& slots, std::string_view text, std::uint64_t hash);
-    static void place(Slots& slots, Name name);
+    static void insert(Slots& slots, Name name);
     void grow();
 
     Slot firstSlots_[firstCapacity] = {};

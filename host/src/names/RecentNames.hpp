@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text/TextChunks.hpp"
+#include "text/textHash.hpp"
 
 #include <cstddef>
 #include <cstdint>

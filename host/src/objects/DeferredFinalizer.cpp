@@ -17,7 +17,7 @@ void DeferredFinalizer::enqueue(Object& object) noexcept
         waiting_.push_back(&object);
         object.addWeak();
     } catch (std::bad_alloc const&) {
-        // It ends with its class.
+        // See `defer`.
     }
 }
 

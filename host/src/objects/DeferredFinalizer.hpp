@@ -6,34 +6,34 @@ namespace velmara {
 
 class Object;
 
-/// The end of an object may end the objects that it refers to, and so on: a long chain of them would use up the stack.
-/// Where ends are nested too deeply, further ones wait here for the outermost to come back.
+/// Finalizing an object may release the last reference to others, and so on: a long chain would overflow the stack.
+/// Where finalizations are nested too deeply, further objects wait here until the outermost one returns.
 class DeferredFinalizer {
 public:
     DeferredFinalizer();
     DeferredFinalizer(DeferredFinalizer const&) = delete;
     DeferredFinalizer& operator=(DeferredFinalizer const&) = delete;
 
-    /// One end, from its beginning to its return.
+    /// One finalization, from its beginning to its return.
     class Scope {
     public:
-        explicit Scope(DeferredFinalizer& queue) : queue_(queue) { ++queue_.depth_; }
+        explicit Scope(DeferredFinalizer& finalizer) : finalizer_(finalizer) { ++finalizer_.depth_; }
         Scope(Scope const&) = delete;
         Scope& operator=(Scope const&) = delete;
 
         ~Scope()
         {
-            if (queue_.depth_ == 1 && !queue_.waiting_.empty())
-                queue_.finalizeWaiting();
-            --queue_.depth_;
+            if (finalizer_.depth_ == 1 && !finalizer_.waiting_.empty())
+                finalizer_.finalizeWaiting();
+            --finalizer_.depth_;
         }
 
     private:
-        DeferredFinalizer& queue_;
+        DeferredFinalizer& finalizer_;
     };
 
-    /// Has an object without references end later, unless it has got one until then. False when it is to end now. Of a
-    /// great many objects those for which there is no memory end as late as their classes.
+    /// Has an object without references finalized later, unless it has one again by then. False when it is to be
+    /// finalized now. Without memory to wait in, it is finalized with its class.
     bool defer(Object& object) noexcept
     {
         if (depth_ < maxDepth)

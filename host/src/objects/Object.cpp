@@ -1,8 +1,8 @@
 #include "objects/Object.hpp"
 
 #include "errors/hostError.hpp"
-#include "memory/LiveCounters.hpp"
-#include "memory/SmallMemory.hpp"
+#include "memory/BlockPool.hpp"
+#include "memory/ThreadCache.hpp"
 #include "objects/DeferredFinalizer.hpp"
 #include "objects/ObjectClass.hpp"
 
@@ -13,18 +13,17 @@
 
 namespace velmara {
 
-// Objects have the size of arrays, and come and go with them.
-inline void* Object::operator new(std::size_t size)
+inline void* Object::operator new(std::size_t)
 {
-    static_assert(sizeof(Object) <= SmallMemory::size);
-    ThreadShare* const share = shareOfThisThread;
-    void* const memory = share && size <= SmallMemory::size ? SmallMemory::takeKept(*share) : nullptr;
-    return memory ? memory : SmallMemory::allocate();
+    static_assert(sizeof(Object) <= BlockPool::blockSize);
+    ThreadCache* const cache = threadCache;
+    void* const block = cache ? BlockPool::acquire(*cache) : nullptr;
+    return block ? block : allocate(BlockPool::blockSize);
 }
 
-inline void Object::operator delete(void* memory) noexcept
+inline void Object::operator delete(void* block) noexcept
 {
-    SmallMemory::giveBack(memory, ownThreadShare());
+    BlockPool::release(block, currentThreadCache());
 }
 
 inline Object::Object(ObjectClass& cls, std::size_t enumerator)
@@ -34,20 +33,20 @@ inline Object::Object(ObjectClass& cls, std::size_t enumerator)
       machine_(&cls.machine())
 {
     cls.objects().add(*this);
-    ++liveCountsOfThisThread().objects;
+    ++currentLiveCounts().objects;
 }
 
 inline Object::~Object()
 {
-    --liveCountsOfThisThread().objects;
+    --currentLiveCounts().objects;
 }
 
-Object& Object::make(ObjectClass& cls)
+Object& Object::create(ObjectClass& cls)
 {
     return *new Object(cls);
 }
 
-Object& Object::makeEnumerator(ObjectClass& cls, std::size_t enumerator)
+Object& Object::createEnumerator(ObjectClass& cls, std::size_t enumerator)
 {
     return *new Object(cls, enumerator + 1);
 }
@@ -62,7 +61,7 @@ Object& Object::makeEnumerator(ObjectClass& cls, std::size_t enumerator)
         auto const& classes = class_->linearization();
         std::for_each(classes.rbegin(), classes.rend(), [this](ObjectClass* cls) { createInstanceData(*cls); });
     } catch (...) {
-        if (!isFinalized()) // else that is done, and there is no class any more
+        if (!isFinalized()) // else it has neither class nor instance data
             destroyInstanceData();
         isInitialized_ = false;
         throw;
@@ -72,12 +71,12 @@ Object& Object::makeEnumerator(ObjectClass& cls, std::size_t enumerator)
 void Object::createInstanceData(ObjectClass& cls)
 {
     if (&cls != class_)
-        furtherSlotOf(cls.name()); // room first: what the class makes must not be lost
+        furtherSlotOf(cls.name()); // reserved first: what the class creates must not be lost
     void* const data = cls.info().createInstanceData();
     if (isValid()) [[likely]] {
         Slot& slot = &cls == class_ ? own_ : furtherSlotOf(cls.name());
         slot.native = data;
-        slot.made = true;
+        slot.created = true;
         slot.recorded = data != nullptr;
         return;
     }
@@ -96,13 +95,12 @@ void Object::destroyInstanceData() noexcept
 
 void Object::destroyInstanceData(ObjectClass& cls) noexcept
 {
-    // Destroying may retract the object, which makes it forget what is left: each slot is looked up when its
-    // turn comes, and is empty from then on.
+    // Destructors may invalidate the object, which clears all slots: each is looked up when its turn comes.
     Slot* const slot = cls.name() == own_.className ? &own_ : findFurther(cls.name());
-    if (!slot || !slot->made)
+    if (!slot || !slot->created)
         return;
     void* const data = std::exchange(slot->native, nullptr);
-    slot->made = false;
+    slot->created = false;
     bool isReleased = false;
     try {
         isReleased = cls.info().destroyInstanceData(this, data);
@@ -139,12 +137,17 @@ void Object::freeIfUnreferenced() noexcept
     freeIfUnreferenced();
 }
 
-void Object::lastReferenceGone() noexcept
+void Object::onLastReference() noexcept
 {
     if (isFinalized())
         freeIfUnreferenced();
     else if (!machine_->deferredFinalizer().defer(*this))
         finalize();
+}
+
+void Object::throwUnusable() const
+{
+    throwHostError("VELMARA:object", isValid() ? "otherVirtualMachine" : "invalid", {className()->string()});
 }
 
 void Object::finalizeIfUnreferenced() noexcept
@@ -156,7 +159,7 @@ void Object::finalizeIfUnreferenced() noexcept
 void Object::setNativeObject(orbis::COSNameID const& name, void* object)
 {
     if (!isValid()) [[unlikely]]
-        return refuseNativeObject(object);
+        return requireNull(object);
     if (name.interned() == own_.className) [[likely]]
         own_.record(object);
     else
@@ -168,8 +171,8 @@ void Object::setNativeObject(orbis::COSNameID const& name, void* object)
     furtherSlotOf(className).record(object);
 }
 
-/// An invalid object has none, and gets none.
-[[gnu::noinline]] void Object::refuseNativeObject(void const* object) const
+/// An invalid object has no native objects, and gets none.
+[[gnu::noinline]] void Object::requireNull(void const* object) const
 {
     if (object)
         throwHostError("VELMARA:object", "invalid", {className()->string()});
@@ -182,7 +185,7 @@ void* Object::getNativeObject(orbis::COSNameID const& name) const
     Slot const* const slot = findFurther(name.interned());
     if (!slot)
         return nullptr;
-    return slot->made && !slot->recorded ? own_.native : slot->native;
+    return slot->created && !slot->recorded ? own_.native : slot->native;
 }
 
 void Object::setValid(bool valid)
@@ -191,7 +194,7 @@ void Object::setValid(bool valid)
         state_ = valid ? State::Valid : State::Invalid;
     if (valid || !machine_)
         return;
-    addExternal(); // who is notified may release the last reference
+    addExternal(); // the observer may release the last reference
     {
         Machine::Entry const entry(*machine_);
         notifyObserver();
@@ -212,7 +215,7 @@ void Object::notifyObserver() noexcept
 void Object::forgetNativeObjects() noexcept
 {
     own_.native = nullptr;
-    own_.made = false;
+    own_.created = false;
     if (further_)
         further_->clear();
 }

@@ -6,8 +6,8 @@
 
 #include <cstdint>
 #include <limits>
-
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace velmara {
@@ -15,19 +15,18 @@ namespace velmara {
 class Machine;
 class ObjectClass;
 
-/// A host object. It lives while it is referred to; it ends (gives up its instance data and becomes invalid) with
-/// its last reference, when it is deleted, when its class is unpublished, and when its virtual machine ends. Its
-/// storage goes when no handle, strong or weak, and no array is left.
+/// A host object. It is finalized (gives up its instance data and becomes invalid) with its last reference, when it is
+/// deleted, when its class is unpublished, and when its virtual machine is destroyed. Its memory is freed when no
+/// handle, strong or weak, and no array is left.
 class Object final : public orbis::COSInterface {
 public:
-    /// A new object of `cls` with no reference yet, entered in the class's list. It has no instance data until
-    /// `initialize`.
-    static Object& make(ObjectClass& cls);
+    /// A new object without a reference, in the list of its class. It has no instance data until `initialize`.
+    static Object& create(ObjectClass& cls);
 
-    /// The object of an enumerator of `cls`: it is never initialized, so it has no instance data.
-    static Object& makeEnumerator(ObjectClass& cls, std::size_t enumerator);
+    /// The object of an enumerator, whose number in the class's table is `enumerator`. It is never initialized.
+    static Object& createEnumerator(ObjectClass& cls, std::size_t enumerator);
 
-    static constexpr std::size_t mostEnumerators = std::numeric_limits<std::uint16_t>::max();
+    static constexpr std::size_t maxEnumerators = std::numeric_limits<std::uint16_t>::max();
 
     void addExternal() { ++external_; }
     void addInternal() { ++internal_; }
@@ -36,13 +35,13 @@ public:
     void removeExternal()
     {
         if (--external_ + internal_ == 0)
-            lastReferenceGone();
+            onLastReference();
     }
 
     void removeInternal()
     {
         if (external_ + --internal_ == 0)
-            lastReferenceGone();
+            onLastReference();
     }
 
     void removeWeak()
@@ -51,30 +50,29 @@ public:
             freeIfUnreferenced();
     }
 
-    /// The name of its class, also when the class is gone.
+    /// The name of its class, which may have been unpublished.
     Name className() const { return own_.className; }
 
-    /// Null once the object has ended.
+    /// Null once the object is finalized; so is `machine`.
     ObjectClass* classOf() const { return class_; }
     Machine* machine() const { return machine_; }
 
     bool isValid() const { return state_ == State::Valid; }
 
-    /// Enumerators are one object each, which scripts neither make nor end.
+    /// Each enumerator is one object, which scripts neither create nor delete.
     bool isEnumerator() const { return enumerator_ != 0; }
 
-    /// The number of the enumerator in its class's table.
     std::size_t enumerator() const { return enumerator_ - std::size_t(1); }
 
-    /// True when the object's life is over: weak handles to it are null.
+    /// True from the beginning of its finalization on: weak handles to it are null.
     bool isFinalized() const { return state_ >= State::Finalizing; }
 
-    /// Makes the instance data of the class and its superclasses, superclasses first. When one fails, what was
-    /// made is destroyed again and the object stays uninitialised.
+    /// Creates the instance data of the class and its superclasses, superclasses first. When one fails, what was
+    /// created is destroyed again and the object stays uninitialized.
     void initialize();
 
-    /// Gives up the instance data, the most derived class's first, and leaves the object invalid, without class
-    /// and virtual machine. Nothing escapes; a second call does nothing.
+    /// Destroys the instance data, the most derived class's first, and leaves the object invalid, without class and
+    /// virtual machine. Nothing escapes; a second call does nothing.
     void finalize() noexcept;
     void finalizeIfUnreferenced() noexcept;
 
@@ -86,6 +84,22 @@ public:
     int getExternalReferenceCount() const override { return external_; }
     int getInternalReferenceCount() const override { return internal_; }
     int weakReferenceCount() const { return weak_; }
+
+    /// Throws "VELMARA:object:invalid" or "VELMARA:object:otherVirtualMachine" when the object cannot be used.
+    void requireUsable(Machine const& machine) const
+    {
+        if (!isValid() || machine_ != &machine) [[unlikely]]
+            throwUnusable();
+    }
+    [[noreturn]] void throwUnusable() const;
+
+    /// The same for each of the objects that is not null.
+    static void requireUsable(Machine const& machine, std::span<Object* const> objects)
+    {
+        for (Object const* const object : objects)
+            if (object)
+                object->requireUsable(machine);
+    }
 
     /// The native object for its own class, null when there is none.
     void const* ownNativeObject() const { return own_.native; }
@@ -108,11 +122,11 @@ private:
 
     enum class State : std::uint8_t { Valid, Invalid, Finalizing, Finalized };
 
-    /// The native object for one class name; `made` when the class's `createInstanceData` ran for it, `recorded` when
-    /// that or someone since gave one. For a superclass without one of its own, that of the object's class counts.
+    /// The native object for one class name. A superclass that created none and for which none was recorded has that of
+    /// the object's own class.
     struct Slot {
-        bool made = false;
-        bool recorded = false;
+        bool created = false;  ///< by the class's `createInstanceData`, which may have given null
+        bool recorded = false; ///< by that, or by `setNativeObject` since
         Name className = nullptr;
         void* native = nullptr;
 
@@ -129,12 +143,12 @@ private:
     static void* operator new(std::size_t size);
     static void operator delete(void* memory) noexcept;
 
-    void lastReferenceGone() noexcept;
+    void onLastReference() noexcept;
     void freeIfUnreferenced() noexcept;
 
     Slot& furtherSlotOf(Name className);
     Slot* findFurther(Name className) const;
-    void refuseNativeObject(void const* object) const;
+    void requireNull(void const* object) const;
     void recordFurther(Name className, void* object);
     void createInstanceData(ObjectClass& cls);
     void destroyInstanceData() noexcept;

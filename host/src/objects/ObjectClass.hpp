@@ -26,7 +26,7 @@ public:
     ObjectList& objects() { return objects_; }
 
     /// The class itself first, then its superclasses, each before its own. Empty before the class is described.
-    virtual std::vector<ObjectClass*> const& linearization() const = 0;
+    std::vector<ObjectClass*> const& linearization() const { return *linearization_; }
 
 protected:
     ObjectClass(std::unique_ptr<orbis::COSClassInfo> info, Name name, Machine& machine)
@@ -39,12 +39,16 @@ protected:
 
     ~ObjectClass() = default;
 
+    /// `order` stays the caller's.
+    void setLinearization(std::vector<ObjectClass*> const& order) { linearization_ = &order; }
+
 private:
     std::unique_ptr<orbis::COSClassInfo> info_;
     Name name_;
     Name ownName_;
     Machine& machine_;
     ObjectList objects_;
+    std::vector<ObjectClass*> const* linearization_ = nullptr;
 };
 
 } // namespace velmara

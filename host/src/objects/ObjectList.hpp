@@ -4,7 +4,7 @@
 
 namespace velmara {
 
-/// The objects of one class that have not ended.
+/// The objects of one class that are not finalized. Each has the links of its own.
 class ObjectList {
 public:
     ObjectList() = default;
@@ -27,7 +27,7 @@ public:
         object.previous_ = object.next_ = nullptr;
     }
 
-    /// An object leaves the list when its end begins.
+    /// An object leaves the list when its finalization begins.
     void finalizeAll()
     {
         while (first_)

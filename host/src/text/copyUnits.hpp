@@ -5,7 +5,7 @@
 
 namespace velmara {
 
-/// Copies UTF-16 text, without a call when it is short: in two blocks that overlap.
+/// Copies UTF-16 text. A short one is copied in line, in two blocks that overlap.
 inline void copyUnits(std::u16string_view text, char16_t* out)
 {
     std::size_t const size = text.size();

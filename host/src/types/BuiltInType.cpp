@@ -1,9 +1,10 @@
 #include "types/BuiltInType.hpp"
 
 #include "arrays/Array.hpp"
-#include "arrays/ArrayComparison.hpp"
+#include "arrays/arrayComparison.hpp"
 #include "machine/Machine.hpp"
 #include "types/TypeRepository.hpp"
+#include "types/valueOrder.hpp"
 
 #include "additions/numericClasses.hpp"
 #include "libhv/libhv.hpp"
@@ -14,10 +15,6 @@ namespace {
 
 /// How the host orders its kinds of types; registered types have numbers of their own.
 enum BuiltInTypeKind : int { scalarTypeKind = 1, arrayTypeKind = 2, objectTypeKind = 3 };
-
-constexpr std::uint32_t before = 0xFFFFFFFF;
-constexpr std::uint32_t after = 1;
-constexpr std::uint32_t unordered = 2;
 
 class ScalarType final : public orbis::COSDataType {
 public:
@@ -34,17 +31,14 @@ public:
     }
 
     bool checkValue(orbis::COSValue value, bool) const override { return value.scalarClass() == type_.scalarClass; }
-    bool isEqualValue(orbis::COSValue a, orbis::COSValue b) const override { return compareValues(a, b) == 0; }
+    bool isEqualValue(orbis::COSValue a, orbis::COSValue b) const override { return compareValues(a, b) == equal; }
 
     std::uint32_t compareValues(orbis::COSValue a, orbis::COSValue b) const override
     {
         if (!checkValue(a, true) || !checkValue(b, true))
-            return a.isEmpty() && b.isEmpty() ? 0 : unordered;
-        return orbis::additions::visitNumericClass(type_.scalarClass, [&]<class T>(T) -> std::uint32_t {
-            T const x = a.scalar<T>();
-            T const y = b.scalar<T>();
-            return x == y ? 0 : x < y ? before : x > y ? after : unordered;
-        });
+            return a.isEmpty() && b.isEmpty() ? equal : unordered;
+        return orbis::additions::visitNumericClass(type_.scalarClass,
+                                                   [&]<class T>(T) { return orderOf(a.scalar<T>(), b.scalar<T>()); });
     }
 
     std::size_t valueByteSize(orbis::COSValue) const override
@@ -79,7 +73,7 @@ public:
     std::uint32_t compareValues(orbis::COSValue a, orbis::COSValue b) const override
     {
         if (isEqualValue(a, b))
-            return 0;
+            return equal;
         if (type_.kind != TypeKind::Text || !a.array() || !b.array())
             return unordered;
         return Array::of(a.array())->text() < Array::of(b.array())->text() ? before : after;
@@ -113,12 +107,12 @@ public:
     char const* typeCategory() const override { return "Optional"; }
     bool slot11Flag() const override { return false; }
     bool canContainInterfaces() const override { return inner() && inner()->canContainInterfaces(); }
-    bool isEqualValue(orbis::COSValue a, orbis::COSValue b) const override { return compareValues(a, b) == 0; }
+    bool isEqualValue(orbis::COSValue a, orbis::COSValue b) const override { return compareValues(a, b) == equal; }
 
     std::uint32_t compareValues(orbis::COSValue a, orbis::COSValue b) const override
     {
         if (a.isEmpty() || b.isEmpty())
-            return a.isEmpty() && b.isEmpty() ? 0 : unordered;
+            return a.isEmpty() && b.isEmpty() ? equal : unordered;
         return inner() ? inner()->compareValues(a, b) : unordered;
     }
 
@@ -146,7 +140,7 @@ private:
 
 } // namespace
 
-orbis::COSDataType* makeBuiltInType(TypeReference const& type)
+orbis::COSDataType* createBuiltInType(TypeReference const& type)
 {
     if (type.kind == TypeKind::Optional)
         return new OptionalType(type);

@@ -8,6 +8,6 @@ namespace velmara {
 
 /// A new data type of the host's own, or the type of a published class: its values are native scalars for the
 /// scalar types, host arrays for the others.
-orbis::COSDataType* makeBuiltInType(TypeReference const& type);
+orbis::COSDataType* createBuiltInType(TypeReference const& type);
 
 } // namespace velmara

@@ -1,16 +1,16 @@
 #include "orbis/COSDataType.hpp"
 
-#include "memory/LiveCounters.hpp"
+#include "memory/ThreadCache.hpp"
 
 namespace orbis {
 
 COSDataType::COSDataType()
 {
-    ++velmara::liveCountsOfThisThread().descriptors;
+    ++velmara::currentLiveCounts().descriptors;
 }
 COSDataType::~COSDataType()
 {
-    --velmara::liveCountsOfThisThread().descriptors;
+    --velmara::currentLiveCounts().descriptors;
 }
 
 char const* COSDataType::getDescription() const

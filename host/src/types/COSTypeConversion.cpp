@@ -1,16 +1,16 @@
 #include "orbis/COSTypeConversion.hpp"
 
-#include "memory/LiveCounters.hpp"
+#include "memory/ThreadCache.hpp"
 
 namespace orbis {
 
 COSTypeConversion::COSTypeConversion()
 {
-    ++velmara::liveCountsOfThisThread().descriptors;
+    ++velmara::currentLiveCounts().descriptors;
 }
 COSTypeConversion::~COSTypeConversion()
 {
-    --velmara::liveCountsOfThisThread().descriptors;
+    --velmara::currentLiveCounts().descriptors;
 }
 
 } // namespace orbis

@@ -4,10 +4,6 @@
 #include "machine/Machine.hpp"
 #include "types/TypeRepository.hpp"
 
-#include "orbis/COSDataTypePtr.hpp"
-
-#include <utility>
-
 namespace orbis {
 
 using velmara::Machine;
@@ -46,44 +42,6 @@ COSTypeConversion* COSTypeRepository::getConversion(COSNameID const& from, COSNa
 {
     Machine* const machine = Machine::current();
     return machine ? machine->types().findConversion(from.interned(), to.interned()) : nullptr;
-}
-
-COSDataTypePtr::COSDataTypePtr(char const* name) : type_(nullptr)
-{
-    Machine* const machine = Machine::current();
-    if (machine && name)
-        type_ = machine->types().obtain(velmara::intern(name));
-    if (type_)
-        type_->getReference();
-}
-
-COSDataTypePtr::COSDataTypePtr(COSDataTypePtr const& other) : type_(other.type_)
-{
-    if (type_)
-        type_->getReference();
-}
-
-COSDataTypePtr& COSDataTypePtr::operator=(COSDataTypePtr const& other)
-{
-    COSDataTypePtr copy(other);
-    std::swap(type_, copy.type_);
-    return *this;
-}
-
-COSDataTypePtr::~COSDataTypePtr()
-{
-    if (type_)
-        type_->releaseReference();
-}
-
-COSDataTypePtr::operator COSDataType*() const
-{
-    return type_;
-}
-
-COSDataType* COSDataTypePtr::operator->() const
-{
-    return type_;
 }
 
 } // namespace orbis

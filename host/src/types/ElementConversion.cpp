@@ -35,19 +35,23 @@ ArrayPtr elementOf(Array const& input, std::size_t index)
 }
 
 /// The first cell that does not hold what is wanted; empty where all do.
-std::string explainCell(hvClassID target, Array const& input)
+std::string cellMismatchReason(hvClassID target, Array const& input)
 {
     for (std::size_t i = 0; i < input.size(); ++i) {
         Array const* const cell = input.cells()[i];
         orbis::COSValue converted;
-        if (!cell || scalarConverters(target)[cell->classID()](*cell, converted) == noFit)
-            return "; element " + std::to_string(i) +
-                   " (counted from 0): " + (cell ? explainScalarRefusal(target, *cell) : "is an empty cell");
+        if (!cell || scalarConverters(target)[cell->classID()](*cell, converted) == notConvertible)
+            return "; " + elementPlace(i) + (cell ? scalarMismatchReason(target, *cell) : "is an empty cell");
     }
     return {};
 }
 
 } // namespace
+
+std::string elementPlace(std::size_t index)
+{
+    return "element " + std::to_string(index) + " (counted from 0): ";
+}
 
 ArrayPtr convertElements(hvClassID target, Array const& input)
 {
@@ -63,19 +67,18 @@ ArrayPtr convertElements(hvClassID target, Array const& input)
     return allFit ? std::move(converted) : nullptr;
 }
 
-std::string explainElementsRefusal(hvClassID target, Array const& input)
+std::string elementsMismatchReason(hvClassID target, Array const& input)
 {
     if (!isNumeric(input.classID()))
         return std::string(target == hvLOGICAL_CLASS ? "needs logicals" : "needs numbers") + ", not " +
                std::string(input.className()) +
-               (input.classID() == hvCELL_CLASS ? explainCell(target, input) : std::string());
+               (input.classID() == hvCELL_CLASS ? cellMismatchReason(target, input) : std::string());
     ScalarConverter const convert = scalarConverters(target)[input.classID()];
     for (std::size_t i = 0; i < input.size(); ++i) {
         ArrayPtr const element = elementOf(input, i);
         orbis::COSValue converted;
-        if (convert(*Array::of(element.get()), converted) == noFit)
-            return "element " + std::to_string(i) +
-                   " (counted from 0): " + explainScalarRefusal(target, *Array::of(element.get()));
+        if (convert(*Array::of(element.get()), converted) == notConvertible)
+            return elementPlace(i) + scalarMismatchReason(target, *Array::of(element.get()));
     }
     return "fits";
 }

@@ -15,26 +15,26 @@ using namespace orbis::additions;
 
 namespace {
 
-Fit refuse(Array const&, orbis::COSValue&)
+ConversionRank refuse(Array const&, orbis::COSValue&)
 {
-    return noFit;
+    return notConvertible;
 }
 
 template <class Source, class T>
-Fit convert(Array const& input, orbis::COSValue& out)
+ConversionRank convert(Array const& input, orbis::COSValue& out)
 {
-    if (input.rows() != 1 || input.columns() != 1)
-        return noFit;
+    if (!input.isScalar())
+        return notConvertible;
     Source const number = *static_cast<Source const*>(input.elements());
     if constexpr (std::same_as<Source, T>) {
         out = orbis::COSValue(number);
-        return exactFit;
+        return exactRank;
     } else {
         std::optional<T> const converted = convertNumber<T>(number);
         if (!converted)
-            return noFit;
+            return notConvertible;
         out = orbis::COSValue(*converted);
-        return convertedFit;
+        return convertedRank;
     }
 }
 
@@ -87,15 +87,15 @@ std::string numberText(Array const& input, std::size_t index)
     });
 }
 
-std::string explainScalarRefusal(hvClassID target, Array const& input)
+std::string scalarMismatchReason(hvClassID target, Array const& input)
 {
     std::string const targetName(arrayClass(target).name);
     bool const isLogicalTarget = target == hvLOGICAL_CLASS;
     bool const isOfKind = isNumeric(input.classID()) || (isLogicalTarget && input.classID() == hvLOGICAL_CLASS);
     if (!isOfKind)
         return (isLogicalTarget ? "needs a logical, not " : "needs a number, not ") + std::string(input.className());
-    if (input.rows() != 1 || input.columns() != 1)
-        return "needs one value, not " + std::to_string(input.rows()) + "-by-" + std::to_string(input.columns());
+    if (!input.isScalar())
+        return "needs one value, not " + input.sizeText();
     if (isLogicalTarget)
         return "needs true, false, 0 or 1, not " + numberText(input);
     double converted = 0;

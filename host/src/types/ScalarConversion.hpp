@@ -1,7 +1,7 @@
 #pragma once
 
 #include "arrays/Array.hpp"
-#include "types/Fit.hpp"
+#include "types/ConversionRank.hpp"
 
 #include "orbis/COSValue.hpp"
 
@@ -12,7 +12,7 @@ namespace velmara {
 
 /// Reads a 1-by-1 array of one class as a native scalar of another, by the rules of `convertNumber`. A logical is no
 /// number: only logicals take it. `out` is written only when the array fits.
-using ScalarConverter = Fit (*)(Array const& input, orbis::COSValue& out);
+using ScalarConverter = ConversionRank (*)(Array const& input, orbis::COSValue& out);
 
 /// The converters to the class `target`, a numeric or logical one, by the class of the input.
 ScalarConverter const* scalarConverters(hvClassID target);
@@ -20,8 +20,8 @@ ScalarConverter const* scalarConverters(hvClassID target);
 /// An element of a numeric or logical array, as messages write it.
 std::string numberText(Array const& input, std::size_t index = 0);
 
-/// Why the array is refused: "2.5 is no whole number".
-std::string explainScalarRefusal(hvClassID target, Array const& input);
+/// Why the array does not fit: "2.5 is no whole number".
+std::string scalarMismatchReason(hvClassID target, Array const& input);
 
 /// A new 1-by-1 array of a value that holds a scalar.
 inline Array* createScalar(orbis::COSValue const& value)

@@ -12,11 +12,11 @@ public:
     /// `target` is a numeric or logical class.
     explicit ScalarReader(hvClassID target);
 
-    /// Reads a double that this type takes without loss, the usual input from a script. Where it gives false, `read`
+    /// Reads a double that this type takes without loss, the usual input from a script. Where it returns false, `read`
     /// may still succeed.
     [[gnu::always_inline]] bool readDouble(Array const& input, orbis::COSValue& out) const
     {
-        if (input.classID() != hvDOUBLE_CLASS || input.rows() != 1 || input.columns() != 1)
+        if (input.classID() != hvDOUBLE_CLASS || !input.isScalar())
             return false;
         double const number = *static_cast<double const*>(input.elements());
         if (number >= lowest_ && number <= highest_) [[likely]] { // a NaN compares false
@@ -30,8 +30,11 @@ public:
         return target_ == hvDOUBLE_CLASS;
     }
 
-    /// Writes `out` when the array fits. The reader must have been made for a class.
-    Fit read(Array const& input, orbis::COSValue& out) const { return converters_[input.classID()](input, out); }
+    /// Writes `out` when the array fits. Not for a default-constructed reader.
+    ConversionRank read(Array const& input, orbis::COSValue& out) const
+    {
+        return converters_[input.classID()](input, out);
+    }
 
 private:
     hvClassID target_ = hvUNKNOWN_CLASS;

@@ -32,7 +32,7 @@ BuiltIn const* findBuiltIn(Name name)
     return table.find(name);
 }
 
-/// The name before the suffix; null when it does not end so.
+/// The name before the suffix; null for names without it.
 Name withoutSuffix(Name name, std::string_view suffix)
 {
     std::string_view const text = name->view();

@@ -10,14 +10,14 @@
 
 namespace velmara {
 
-/// What a data type name means to the dispatch. All but `Named` are the host's own and mean the same in every
-/// virtual machine; a named type is a registered one, a class, or a class's vector type.
+/// What a data type name means to the dispatch. All but `Named` are the host's own and the same in every virtual
+/// machine; a named type is a registered one, a class, or the vector type of a class.
 /// - `Elements` ("double vector"): arrays of any size of one numeric or logical class;
 /// - `Optional` ("... or empty"): values of another type, and besides "[]" (a double array of 0-by-0) and a missing
 ///   string, whose value is an empty slot.
 enum class TypeKind : std::uint8_t { Void, Any, Scalar, Elements, Text, Optional, Named };
 
-/// A data type by its name, with what can be known from the name alone.
+/// A data type by its name, and what follows from the name alone.
 struct TypeReference {
     explicit TypeReference(Name typeName);
 

@@ -11,9 +11,9 @@ namespace velmara {
 TypeRepository::TypeRepository(ClassQuery isClass) : isClass_(isClass)
 {
     Name const unicodeString = intern("unicodeString");
-    add(std::unique_ptr<orbis::COSDataType>(makeUnicodeStringType()));
+    add(std::unique_ptr<orbis::COSDataType>(createUnicodeStringType()));
     addConversion(anyTypeName(), unicodeString,
-                  std::unique_ptr<orbis::COSTypeConversion>(makeUnicodeStringConversion()));
+                  std::unique_ptr<orbis::COSTypeConversion>(createUnicodeStringConversion()));
     types_[unicodeString].isPermanent = true;
 }
 
@@ -40,7 +40,7 @@ orbis::COSDataType* TypeRepository::obtain(Name name)
         return nullptr;
     if (Entry const* const entry = types_.find(name)) // populating packages may have registered it
         return entry->type.get();
-    Held made(makeBuiltInType(type));
+    Held made(createBuiltInType(type));
     made->getReference();
     Entry& entry = types_[name];
     entry.type = std::move(made);
@@ -65,7 +65,7 @@ void TypeRepository::remove(Name name)
     Entry* const entry = types_.find(name);
     if (!entry || !entry->isRegistered || entry->isPermanent)
         return;
-    Held const removed = std::move(entry->type); // its end runs foreign code: the table is in order before
+    Held const removed = std::move(entry->type); // its destructor runs foreign code: the table is in order before
     types_.erase(name);
 }
 

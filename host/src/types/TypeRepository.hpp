@@ -10,7 +10,7 @@
 namespace velmara {
 
 /// The registered data types and conversions of one virtual machine, "unicodeString" among them from the start, and
-/// the host's other data types and those of classes, which are made when they are first asked for.
+/// the host's other data types and those of classes, which are created when they are first needed.
 class TypeRepository {
 public:
     /// Tells whether a class of that full name is published in the current virtual machine.

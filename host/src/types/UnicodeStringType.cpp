@@ -2,6 +2,7 @@
 
 #include "arrays/arrayArguments.hpp"
 #include "errors/hostError.hpp"
+#include "types/valueOrder.hpp"
 
 #include "additions/additions.hpp"
 #include "libkwi18n/libkwi18n.hpp"
@@ -9,10 +10,6 @@
 namespace velmara {
 
 namespace {
-
-constexpr std::uint32_t before = 0xFFFFFFFF;
-constexpr std::uint32_t after = 1;
-constexpr std::uint32_t unordered = 2;
 
 /// A value of the type; null where there is none.
 fl::ustring* textOf(hvArray_tag* value)
@@ -27,7 +24,7 @@ hvArray_tag* newValue(std::u16string_view text)
 
 std::u16string_view readText(Array const& array)
 {
-    if (array.classID() == hvCHAR_CLASS && (array.rows() == 1 || array.size() == 0))
+    if (array.isText())
         return array.text();
     if (array.classID() != hvSTRING_CLASS || array.size() != 1)
         throwHostError("VELMARA:class", "RequireString");
@@ -43,14 +40,13 @@ public:
     int typeKind() const override { return 1; }
     char const* typeCategory() const override { return "Fundamental"; }
     bool slot11Flag() const override { return false; }
-    bool isEqualValue(orbis::COSValue a, orbis::COSValue b) const override { return compareValues(a, b) == 0; }
+    bool isEqualValue(orbis::COSValue a, orbis::COSValue b) const override { return compareValues(a, b) == equal; }
 
     std::uint32_t compareValues(orbis::COSValue a, orbis::COSValue b) const override
     {
         if (a.isEmpty() || b.isEmpty())
-            return a.isEmpty() && b.isEmpty() ? 0 : unordered;
-        int const order = textOf(a.array())->compare(*textOf(b.array()));
-        return order == 0 ? 0 : order < 0 ? before : after;
+            return a.isEmpty() && b.isEmpty() ? equal : unordered;
+        return orderOf(*textOf(a.array()), *textOf(b.array()));
     }
 
     std::size_t valueByteSize(orbis::COSValue value) const override
@@ -78,12 +74,12 @@ public:
 
 } // namespace
 
-orbis::COSDataType* makeUnicodeStringType()
+orbis::COSDataType* createUnicodeStringType()
 {
     return new UnicodeStringType;
 }
 
-orbis::COSTypeConversion* makeUnicodeStringConversion()
+orbis::COSTypeConversion* createUnicodeStringConversion()
 {
     return new UnicodeStringConversion;
 }

@@ -5,11 +5,11 @@
 
 namespace velmara {
 
-/// "unicodeString": the host's type of one UTF-16 text. Its values are `fl::ustring*`, made with `new`, in the place of
+/// "unicodeString": the host's type of one UTF-16 text. Its values are `fl::ustring*` from `new`, instead of
 /// arrays.
-orbis::COSDataType* makeUnicodeStringType();
+orbis::COSDataType* createUnicodeStringType();
 
 /// Its conversion from "any". See `COSTypeRepository::getConversion`.
-orbis::COSTypeConversion* makeUnicodeStringConversion();
+orbis::COSTypeConversion* createUnicodeStringConversion();
 
 } // namespace velmara

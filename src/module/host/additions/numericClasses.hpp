@@ -82,4 +82,13 @@ constexpr auto visitNumericClass(hvClassID classID, Visit&& visit)
     }
 }
 
+static_assert([] {
+    bool agree = true;
+    for (NumericClass const& record : numericClasses)
+        agree = agree && visitNumericClass(record.classID, [&]<class T>(T) {
+                    return &numericClassOf<T> == &record && sizeof(T) == record.size;
+                });
+    return agree;
+}());
+
 } // namespace orbis::additions

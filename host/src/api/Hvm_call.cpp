@@ -1,0 +1,81 @@
+#include "velmara/Hvm.hpp"
+
+#include "api/HvmCall.hpp"
+#include "api/callTargets.hpp"
+#include "dispatch/Dispatch.hpp"
+#include "errors/hostError.hpp"
+
+#include <algorithm>
+
+namespace velmara {
+
+namespace {
+
+[[gnu::always_inline]] inline ArrayPtr callMethod(Machine& machine, hvArray_tag* array, std::string_view method,
+                                                  Inputs inputs)
+{
+    Class& cls = requireClassOf(machine, array, requireObject(machine, array));
+    MethodGroup const* const group = cls.findMethods(method);
+    if (!group)
+        throwHostError("VELMARA:member", "unknown", {cls.name()->string(), std::string(method)});
+    return dispatchOnObject(*group, array, inputs);
+}
+
+ArrayPtr callStaticMethod(Machine& machine, std::string_view className, std::string_view method, Inputs inputs)
+{
+    Class& cls = requireClass(machine, className);
+    MethodGroup const* const group = cls.findMethods(method);
+    if (!group)
+        throwHostError("VELMARA:member", "unknown", {std::string(className), std::string(method)});
+    if (std::ranges::all_of(group->methods, &Method::takesObject))
+        throwHostError("VELMARA:member", "notStatic", {std::string(className), std::string(method)});
+    return dispatch(*group, inputs);
+}
+
+ArrayPtr callPackageFunction(Machine& machine, std::string_view fullName, Inputs inputs)
+{
+    MethodGroup const* const group = machine.packages().findFunctions(fullName);
+    if (!group)
+        throwHostError("VELMARA:function", "unknown", {std::string(fullName)});
+    return dispatch(*group, inputs);
+}
+
+void endObjects(Machine& machine, hvArray_tag* array)
+{
+    requireObjectArray(array);
+    for (Object const* const object : Array::of(array)->objects()) {
+        if (object && object->machine() && object->machine() != &machine)
+            object->throwUnusable();
+        if (object && object->isEnumerator())
+            throwHostError("VELMARA:enumeration", "noDelete", {object->className()->string()});
+    }
+    // Ending runs native code, which may write to the array: the objects are held and counted apart from it.
+    ArrayPtr const held(Array::of(array)->shareData());
+    for (std::size_t i = 0; i < Array::of(held.get())->size(); ++i)
+        if (Object* const object = Array::of(held.get())->objects()[i])
+            object->finalize();
+}
+
+} // namespace
+
+ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs)
+{
+    return callInto(*state_, [&] { return callMethod(*state_, object, method, inputs); });
+}
+
+ArrayPtr Hvm::callStatic(std::string_view className, std::string_view method, Inputs inputs)
+{
+    return callInto(*state_, [&] { return callStaticMethod(*state_, className, method, inputs); });
+}
+
+ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs)
+{
+    return callInto(*state_, [&] { return callPackageFunction(*state_, fullName, inputs); });
+}
+
+void Hvm::deleteObjects(hvArray_tag* objects)
+{
+    callInto(*state_, [&] { endObjects(*state_, objects); });
+}
+
+} // namespace velmara

@@ -1,0 +1,212 @@
+#include "velmara/Hvm.hpp"
+
+#include "api/HvmCall.hpp"
+#include "api/callTargets.hpp"
+#include "classes/PackageTree.hpp"
+#include "errors/hostError.hpp"
+
+#include "additions/NativeOwner.hpp"
+
+#include <algorithm>
+
+namespace velmara {
+
+namespace {
+
+std::string text(char const* description)
+{
+    return description ? description : "";
+}
+
+std::vector<ParameterRecord> records(std::vector<Parameter> const& parameters)
+{
+    std::vector<ParameterRecord> made;
+    made.reserve(parameters.size());
+    for (Parameter const& parameter : parameters)
+        made.push_back({parameter.name, parameter.type.name->string()});
+    return made;
+}
+
+std::string signatureLine(Method const& method)
+{
+    std::string line;
+    if (!method.outputs.empty())
+        line = method.outputs.front().name + " = ";
+    line += method.name->string() + "(" + describe(method.inputs) + ")";
+    if (!method.outputs.empty())
+        line += " -> " + method.outputs.front().type.name->string();
+    return line;
+}
+
+MethodRecord record(Method const& method)
+{
+    using Kind = MethodRecord::Kind;
+    Kind const kind = !method.definingClass  ? Kind::Function
+                      : method.isConstructor ? Kind::Constructor
+                      : method.isStatic      ? Kind::StaticMethod
+                                             : Kind::Method;
+    return {.name = method.name->string(),
+            .kind = kind,
+            .access = method.access,
+            .isVisible = method.isVisible,
+            .isSealed = method.isSealed,
+            .isAbstract = method.isAbstract,
+            .description = text(method.info->getDescription()),
+            .inputs = records(method.inputs),
+            .outputs = records(method.outputs),
+            .definingClass = method.definingClass ? method.definingClass->name()->string() : "",
+            .signature = signatureLine(method)};
+}
+
+PropertyRecord record(Property const& property)
+{
+    PropertyRecord listed;
+    static_cast<PropertyTraits&>(listed) = property.traits;
+    listed.name = property.name->string();
+    listed.dataType = property.hasType() ? property.type().name->string() : ""; // while there is no such type
+    listed.description = property.description;
+    listed.detailedDescription = property.detailedDescription;
+    listed.definingClass = property.definingClass.name()->string();
+    return listed;
+}
+
+void addMembers(Class& cls, ClassRecord& listed)
+{
+    for (Method const* const constructor : cls.tables().constructors.methods)
+        listed.methods.push_back(record(*constructor));
+    for (ObjectClass* const ancestor : cls.linearization()) {
+        ClassContents const& contents = Class::of(ancestor)->contents();
+        for (auto const& method : contents.methods) {
+            MethodGroup const* const group = cls.tables().methodGroups.find(method->name);
+            if (group && std::ranges::find(group->methods, method.get()) != group->methods.end())
+                listed.methods.push_back(record(*method));
+        }
+        for (auto const& property : contents.properties)
+            if (*cls.tables().propertiesByName.find(property->name) == property.get())
+                listed.properties.push_back(record(*property));
+    }
+}
+
+NameKind lookUpName(Machine& machine, std::string_view fullName)
+{
+    PackageTree& packages = machine.packages();
+    if (packages.findClass(fullName))
+        return NameKind::Class;
+    if (packages.findFunctions(fullName))
+        return NameKind::Function;
+    if (!fullName.empty() && packages.findPackage(fullName))
+        return NameKind::Package;
+    return packages.findGlobalClass(fullName) ? NameKind::Class : NameKind::None;
+}
+
+PackageRecord recordPackage(Machine& machine, std::string_view fullName)
+{
+    Package* const package = machine.packages().findPackage(fullName);
+    if (!package)
+        throwHostError("VELMARA:package", "unknown", {std::string(fullName)});
+    package->populate();
+    PackageRecord listed;
+    listed.name = fullName;
+    listed.description = package->info() ? text(package->info()->getDescription()) : "";
+    for (auto const& inner : package->packages())
+        listed.packages.push_back(inner->name()->string());
+    for (auto const& cls : package->classes())
+        listed.classes.push_back(cls->name()->string());
+    for (auto const& function : package->functions())
+        listed.functions.push_back(record(*function));
+    std::ranges::sort(listed.packages);
+    std::ranges::sort(listed.classes);
+    std::ranges::stable_sort(listed.functions, {}, &MethodRecord::name);
+    return listed;
+}
+
+ClassRecord recordClass(Machine& machine, std::string_view fullName)
+{
+    Class& cls = requireClass(machine, fullName);
+    orbis::COSClassInfo const& info = cls.info();
+    ClassRecord listed;
+    listed.name = cls.name()->string();
+    listed.description = text(info.getDescription());
+    listed.isHandle = info.isHandle();
+    listed.isAbstract = info.classIsAbstract();
+    listed.isHidden = info.isHidden();
+    listed.isEnumeration = cls.isEnumeration();
+    for (auto const& [name, value] : cls.contents().enumerators.entries())
+        listed.enumerators.push_back({name->string(), value});
+    for (Class const* const superclass : cls.contents().superclasses)
+        listed.superclasses.push_back(superclass->name()->string());
+    addMembers(cls, listed);
+    return listed;
+}
+
+MethodRecord recordFunction(Machine& machine, std::string_view fullName)
+{
+    MethodGroup const* const group = machine.packages().findFunctions(fullName);
+    if (!group)
+        throwHostError("VELMARA:function", "unknown", {std::string(fullName)});
+    return record(*group->methods.front());
+}
+
+std::string ownerOf(orbis::COSClassInfo const& info)
+{
+    if (!info.isHandle())
+        return "value";
+    if (info.isEnumeration())
+        return "enumerator";
+    auto const* const owner = dynamic_cast<orbis::additions::NativeOwner const*>(&info);
+    return owner ? owner->nativeOwner() : "handle";
+}
+
+ObjectRecord record(Object const& object, std::string const& owner)
+{
+    return {.className = object.className()->string(),
+            .owner = owner,
+            .isValid = object.isValid(),
+            .externalReferences = object.getExternalReferenceCount(),
+            .internalReferences = object.getInternalReferenceCount(),
+            .weakReferences = object.weakReferenceCount(),
+            .nativeObject = object.ownNativeObject()};
+}
+
+void addObjects(Package const& package, std::vector<ObjectRecord>& listed)
+{
+    for (auto const& cls : package.classes()) {
+        std::string const owner = ownerOf(cls->info());
+        cls->objects().forEach([&](Object const& object) { listed.push_back(record(object, owner)); });
+    }
+    for (auto const& inner : package.packages())
+        addObjects(*inner, listed);
+}
+
+} // namespace
+
+NameKind Hvm::lookUp(std::string_view fullName)
+{
+    return callInto(*state_, [&] { return lookUpName(*state_, fullName); });
+}
+
+PackageRecord Hvm::describePackage(std::string_view fullName)
+{
+    return callInto(*state_, [&] { return recordPackage(*state_, fullName); });
+}
+
+ClassRecord Hvm::describeClass(std::string_view fullName)
+{
+    return callInto(*state_, [&] { return recordClass(*state_, fullName); });
+}
+
+MethodRecord Hvm::describeFunction(std::string_view fullName)
+{
+    return callInto(*state_, [&] { return recordFunction(*state_, fullName); });
+}
+
+std::vector<ObjectRecord> Hvm::objects() const
+{
+    return callInto(*state_, [&] {
+        std::vector<ObjectRecord> listed;
+        addObjects(state_->packages().root(), listed);
+        return listed;
+    });
+}
+
+} // namespace velmara

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "velmara/LiveCounts.hpp"
+
+#include <cstddef>
+
+namespace velmara {
+
+/// A block of memory that waits for its next use.
+struct FreeBlock {
+    FreeBlock* next;
+};
+
+/// What one thread counts and caches for itself, without a lock or an atomic operation. A count may be negative
+/// (created on this thread, destroyed on another); the sum over all caches is exact. The cache of a thread that has
+/// ended is the next new thread's.
+struct ThreadCache {
+    LiveCounts counts;
+    FreeBlock* freeBlocks = nullptr;
+    std::size_t freeCount = 0;
+};
+
+// Null until the thread first needs it. The host library is never loaded late enough to lack static TLS space for one
+// pointer; this model saves a call on every use. Windows has no such choice.
+#if defined(_WIN32)
+extern constinit thread_local ThreadCache* threadCache;
+#else
+extern constinit thread_local ThreadCache* threadCache [[gnu::tls_model("initial-exec")]];
+#endif
+
+/// Gives the calling thread its cache for the rest of its life.
+ThreadCache& acquireThreadCache() noexcept;
+
+inline ThreadCache& currentThreadCache() noexcept
+{
+    if (ThreadCache* const cache = threadCache) [[likely]]
+        return *cache;
+    return acquireThreadCache();
+}
+
+/// The calling thread's part of the live counts.
+inline LiveCounts& currentLiveCounts() noexcept
+{
+    return currentThreadCache().counts;
+}
+
+} // namespace velmara
