@@ -19,7 +19,7 @@ bool haveSameShape(Array const& a, Array const& b)
 }
 
 /// Each text with its terminator, as for texts alone.
-std::size_t byteSize(std::span<StringElement const> strings)
+std::size_t textByteSize(std::span<StringElement const> strings)
 {
     std::size_t total = 0;
     for (StringElement const& element : strings)
@@ -72,7 +72,7 @@ std::size_t byteSize(hvArray_tag const* array)
         if (next->classID() == hvCELL_CLASS)
             open.insert(open.end(), next->cells().begin(), next->cells().end());
         if (next->classID() == hvSTRING_CLASS)
-            total += byteSize(next->strings());
+            total += textByteSize(next->strings());
         else
             total += next->size() * arrayClass(next->classID()).elementSize;
     }
