@@ -15,7 +15,7 @@ enum class MemberKind { Callable, Property, StaticProperty, Enumerator };
 /// Throws an `Error` that names what is missing, and what comes close to it.
 MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name);
 
-/// Whether the property `name` of a class is static. Throws an `Error` when it is no property.
+/// The kind of the member `name`, `Property` or `StaticProperty`. Throws an `Error` when it is no property.
 MemberKind checkProperty(lua_State* L, std::string_view className, std::string_view name);
 
 /// Pushes the cache of the class: a table with a function under the name of each callable member that was found.
@@ -24,7 +24,7 @@ void pushMemberCache(lua_State* L, std::string_view className);
 /// Pushes the function that calls the package function of that full name.
 void pushPackageFunction(lua_State* L, std::string_view fullName);
 
-/// What a function pushed by one of the above calls: its full name ("PACKAGE.CLASS.MEMBER" for a member), or
+/// The full name ("PACKAGE.CLASS.MEMBER") that the function at `index` calls, when it was pushed by one of the above;
 /// empty for any other value.
 std::string_view calledName(lua_State* L, int index);
 

@@ -14,8 +14,7 @@ struct ScriptFrame {
     std::string function; ///< its name where it has one
 };
 
-/// The script's running functions, innermost first, from `level` on; functions that are not the script's are left
-/// out. At maxFrames `maxFrames` of them.
+/// The script's running functions from `level` on, innermost first and at most `maxFrames`. C functions are omitted.
 std::vector<ScriptFrame> scriptFrames(lua_State* L, int level, std::size_t maxFrames);
 
 } // namespace velmara::console

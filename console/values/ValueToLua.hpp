@@ -7,7 +7,7 @@
 
 namespace velmara::console {
 
-/// Pushes the Lua value for the result of a call, or for the array of a cell. The array stays the caller's:
+/// Pushes the Lua value for the result of a call, or for the array of a cell. The array stays the caller's.
 ///
 /// - one number: a float for double and single, an integer for the integer classes, a host array for a uint64
 ///   beyond Lua's integers; one logical: a boolean
