@@ -29,7 +29,7 @@ ArrayPtr callStaticMethod(Machine& machine, std::string_view className, std::str
         throwHostError("VELMARA:member", "unknown", {std::string(className), std::string(method)});
     if (std::ranges::all_of(group->methods, &Method::takesObject))
         throwHostError("VELMARA:member", "notStatic", {std::string(className), std::string(method)});
-    return dispatch(*group, inputs);
+    return dispatch(*group, {nullptr, inputs});
 }
 
 ArrayPtr callPackageFunction(Machine& machine, std::string_view fullName, Inputs inputs)
@@ -37,7 +37,7 @@ ArrayPtr callPackageFunction(Machine& machine, std::string_view fullName, Inputs
     MethodGroup const* const group = machine.packages().findFunctions(fullName);
     if (!group)
         throwHostError("VELMARA:function", "unknown", {std::string(fullName)});
-    return dispatch(*group, inputs);
+    return dispatch(*group, {nullptr, inputs});
 }
 
 void endObjects(Machine& machine, hvArray_tag* array)

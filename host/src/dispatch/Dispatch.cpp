@@ -62,7 +62,7 @@ Method const& chooseAmong(MethodGroup const& group, CallInputs call)
     return *unbeaten.front();
 }
 
-ArrayPtr dispatchAny(MethodGroup const& group, CallInputs const& call)
+ArrayPtr dispatch(MethodGroup const& group, CallInputs const& call)
 {
     ConvertedInputs converted(call.capacity());
     Method const& method = choose(group, call, converted);
