@@ -17,7 +17,7 @@ public:
     [[gnu::always_inline]] Class* find(std::string_view fullName) const
     {
         Class* const recent = classes_[placeOf(fullName)];
-        return recent && isSameText(recent->name()->view(), fullName) ? recent : nullptr;
+        return recent && recent->name()->view() == fullName ? recent : nullptr;
     }
 
     void remember(std::string_view fullName, Class& cls) { classes_[placeOf(fullName)] = &cls; }

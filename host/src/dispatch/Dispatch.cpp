@@ -1,7 +1,6 @@
 #include "dispatch/Dispatch.hpp"
 
 #include "arrays/Array.hpp"
-#include "dispatch/dispatchErrors.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
 

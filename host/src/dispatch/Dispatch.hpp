@@ -43,6 +43,10 @@ template <class Visit>
 /// input, and better in one. Throws when none fits (with each one and the reason), and when several fit equally well.
 Method const& chooseAmong(MethodGroup const& group, CallInputs call);
 
+/// The errors of the dispatch. Each names what may be called and what was given.
+[[noreturn]] void throwNoMatch(std::span<Method const* const> candidates, CallInputs const& call);
+[[noreturn]] void throwAmbiguous(std::span<Method const* const> rivals, CallInputs const& call);
+
 /// Throws why no method of the group can be called.
 [[noreturn]] void throwUncallable(MethodGroup const& group, CallInputs call);
 
