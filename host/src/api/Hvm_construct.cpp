@@ -1,6 +1,7 @@
 #include "velmara/Hvm.hpp"
 
 #include "api/callTargets.hpp"
+#include "dispatch/Dispatch.hpp"
 
 #include "api/HvmCall.hpp"
 #include "arrays/Array.hpp"

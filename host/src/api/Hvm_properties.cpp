@@ -3,6 +3,7 @@
 #include "api/HvmCall.hpp"
 #include "api/callTargets.hpp"
 #include "classes/Class.hpp"
+#include "dispatch/Dispatch.hpp"
 #include "dispatch/ResultValue.hpp"
 #include "dispatch/mismatchReason.hpp"
 #include "errors/hostError.hpp"

@@ -2,7 +2,6 @@
 
 #include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
-#include "dispatch/Dispatch.hpp"
 #include "machine/Machine.hpp"
 
 #include <string_view>

@@ -31,8 +31,7 @@ bool isDottedName(std::string_view name)
 template <class T>
 T* findByText(NameMap<T*> const& map, std::string_view fullName)
 {
-    Name const name = findInterned(fullName);
-    T* const* const found = name ? map.find(name) : nullptr;
+    T* const* const found = map.findText(fullName);
     return found ? *found : nullptr;
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "classes/Class.hpp"
-#include "text/textHash.hpp"
 
 #include <cstddef>
 #include <cstdint>

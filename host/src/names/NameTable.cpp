@@ -1,6 +1,7 @@
 #include "names/NameTable.hpp"
 
 #include "memory/allocate.hpp"
+#include "text/textHash.hpp"
 
 #include <memory>
 #include <mutex>
