@@ -76,10 +76,10 @@ public:
     /// One row of characters, or none.
     bool isText() const { return classID_ == hvCHAR_CLASS && (rows() == 1 || size() == 0); }
 
-    /// "[]", a double array of 0-by-0, stands for no object and for no value.
+    /// "[]", a double array of 0-by-0, means no object and no value.
     bool isEmptyDouble() const { return classID_ == hvDOUBLE_CLASS && rows() == 0 && columns() == 0; }
 
-    /// One string, which is missing, stands for no value, too.
+    /// One string, which is missing, means no value, too.
     bool isMissingString() const { return classID_ == hvSTRING_CLASS && size() == 1 && strings().front().isMissing(); }
 
     hvClassID classID() const { return classID_; }
