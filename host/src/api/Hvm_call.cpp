@@ -11,13 +11,18 @@ namespace velmara {
 
 namespace {
 
+[[noreturn, gnu::noinline]] void throwUnknownMethod(std::string_view className, std::string_view method)
+{
+    throwHostError("VELMARA:member", "unknown", {std::string(className), std::string(method)});
+}
+
 [[gnu::always_inline]] inline ArrayPtr callMethod(Machine& machine, hvArray_tag* array, std::string_view method,
                                                   Inputs inputs)
 {
     Class& cls = requireClassOf(machine, array, requireObject(machine, array));
     MethodGroup const* const group = cls.findMethods(method);
     if (!group)
-        throwHostError("VELMARA:member", "unknown", {cls.name()->string(), std::string(method)});
+        throwUnknownMethod(cls.name()->view(), method);
     return dispatchOnObject(*group, array, inputs);
 }
 
@@ -26,7 +31,7 @@ ArrayPtr callStaticMethod(Machine& machine, std::string_view className, std::str
     Class& cls = requireClass(machine, className);
     MethodGroup const* const group = cls.findMethods(method);
     if (!group)
-        throwHostError("VELMARA:member", "unknown", {std::string(className), std::string(method)});
+        throwUnknownMethod(className, method);
     if (std::ranges::all_of(group->methods, &Method::takesObject))
         throwHostError("VELMARA:member", "notStatic", {std::string(className), std::string(method)});
     return dispatch(*group, {nullptr, inputs});
