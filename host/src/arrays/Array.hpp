@@ -215,6 +215,7 @@ private:
     void destroyPlain() noexcept;
     [[gnu::noinline]] void destroyPlainPayload() noexcept;
     void freeHeader() noexcept;
+    [[gnu::noinline]] void freeUncachedHeader() noexcept;
 
     hvClassID classID_;
     std::uint32_t cellsAround_ = 0; ///< how many of the references are held by cells
@@ -238,9 +239,11 @@ inline Array* Array::createHeader(hvClassID classID, std::size_t rows, std::size
 
 inline void Array::freeHeader() noexcept
 {
-    ThreadCache& cache = currentThreadCache();
-    --cache.counts.arrays;
-    BlockPool::release(this, cache);
+    ThreadCache* const cache = threadCache;
+    if (!cache) [[unlikely]]
+        return freeUncachedHeader();
+    --cache->counts.arrays;
+    BlockPool::release(this, *cache);
 }
 
 inline bool Array::setFirstObject(std::size_t index, Object& object)
