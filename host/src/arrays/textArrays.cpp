@@ -22,12 +22,8 @@ bool isCharacters(hvArray_tag const* array)
 
 hvArray* hvCreateString(char const* text)
 {
-    Array* array = nullptr;
-    velmara::convertTo(std::string_view(text ? text : ""), [&](std::size_t size) {
-        array = Array::createText(size);
-        return array->writableText();
-    });
-    return array;
+    return velmara::convertTo(std::string_view(text ? text : ""), Array::createText,
+                              [](Array* array) { return array->writableText(); });
 }
 
 hvArray* hvCreateString_UTF16(char16_t const* text)
@@ -39,7 +35,7 @@ char* hvArrayToString(hvArray_tag const* array)
 {
     if (!isCharacters(array))
         return nullptr;
-    return velmara::convertTo(Array::of(array)->text(), TextAllocator::allocate<char>);
+    return velmara::convertTo(Array::of(array)->text(), TextAllocator::allocate<char>, [](char* text) { return text; });
 }
 
 char* hvArray2String(hvArray_tag const* array)

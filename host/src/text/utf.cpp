@@ -158,12 +158,9 @@ namespace {
 template <class To, class From>
 std::basic_string<To> converted(std::basic_string<From> const& text)
 {
-    std::basic_string<To> result;
-    velmara::convertTo(std::basic_string_view<From>(text), [&](std::size_t size) {
-        result.resize(size);
-        return result.data();
-    });
-    return result;
+    return velmara::convertTo(
+        std::basic_string_view<From>(text), [](std::size_t size) { return std::basic_string<To>(size, To()); },
+        [](std::basic_string<To>& result) { return result.data(); });
 }
 
 } // namespace

@@ -16,23 +16,24 @@ std::size_t convertedSize(std::u16string_view utf16);
 void convert(std::string_view utf8, char16_t* out);
 void convert(std::u16string_view utf16, char* out);
 
-template <class Char, class Allocate>
-[[gnu::noinline]] auto convertNonAscii(std::basic_string_view<Char> text, Allocate const& allocate)
+template <class Char, class Allocate, class MemoryOf>
+[[gnu::noinline]] auto convertNonAscii(std::basic_string_view<Char> text, Allocate allocate, MemoryOf memoryOf)
 {
-    auto* const out = allocate(convertedSize(text));
-    convert(text, out);
-    return out;
+    auto result = allocate(convertedSize(text));
+    convert(text, memoryOf(result));
+    return result;
 }
 
-/// Converts a text to memory of just its size, which `allocate(size)` returns. ASCII is the quick case.
-template <class Char, class Allocate>
-auto convertTo(std::basic_string_view<Char> text, Allocate const& allocate)
+/// Converts a text to `memoryOf(result)`, where the result is `allocate(size)` for just its size. ASCII is the quick
+/// case.
+template <class Char, class Allocate, class MemoryOf>
+auto convertTo(std::basic_string_view<Char> text, Allocate allocate, MemoryOf memoryOf)
 {
     if (!isAscii(text)) [[unlikely]]
-        return convertNonAscii(text, allocate);
-    auto* const out = allocate(text.size());
-    copyAscii(text, out);
-    return out;
+        return convertNonAscii(text, allocate, memoryOf);
+    auto result = allocate(text.size());
+    copyAscii(text, memoryOf(result));
+    return result;
 }
 
 } // namespace velmara
