@@ -49,17 +49,17 @@ void Hvm::Scope::forget(HvmState const& ended)
 
 ModuleRecord Hvm::loadModule(std::filesystem::path const& file)
 {
-    return callInto(*state_, [&] { return state_->modules.load(file).record(); });
+    return callInto(*state_, [&] { return state_->modules().load(file).record(); });
 }
 
 void Hvm::unloadModule(std::string_view name)
 {
-    callInto(*state_, [&] { state_->modules.unload(name); });
+    callInto(*state_, [&] { state_->modules().unload(name); });
 }
 
 std::vector<ModuleRecord> Hvm::modules() const
 {
-    return callInto(*state_, [&] { return state_->modules.records(); });
+    return callInto(*state_, [&] { return state_->modules().records(); });
 }
 
 } // namespace velmara

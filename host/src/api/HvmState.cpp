@@ -27,12 +27,14 @@ HvmState::~HvmState()
     {
         Entry const entry(*this);
         packages_.finalizeAllObjects();
-        modules.terminateAll(terminationReport_);
+        modules_.terminateAll(terminationReport_);
         packages_.clear();
     }
     clearStorage();
     packages_.clear(); // what deleters may have published
     types_.clear();
+    clearStorage(); // what was stored meanwhile, while the modules' code is there
+    retire(nullptr);
     makeCurrent(previous == this ? nullptr : previous);
     Hvm::Scope::forget(*this);
 }

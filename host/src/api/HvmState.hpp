@@ -8,13 +8,8 @@
 
 namespace velmara {
 
-/// A base of its own, so that the modules' code is unloaded last.
-struct LoadedModules {
-    ModuleList modules;
-};
-
 /// What an Hvm owns: everything that belongs to one virtual machine.
-class HvmState final : private LoadedModules, public Machine {
+class HvmState final : public Machine {
 public:
     HvmState();
 
@@ -22,11 +17,12 @@ public:
     /// and unloads the modules' libraries last.
     ~HvmState();
 
-    using LoadedModules::modules;
+    ModuleList& modules() { return modules_; }
 
     void setTerminationReport(ModuleList::FailureReport report) { terminationReport_ = std::move(report); }
 
 private:
+    ModuleList modules_; // first, so that the modules' code is unloaded last
     ModuleList::FailureReport terminationReport_;
     DeferredFinalizer deferredFinalizer_;
     TypeRepository types_;

@@ -11,13 +11,18 @@ namespace velmara {
 
 namespace {
 
+[[noreturn, gnu::noinline]] void throwUnknownMethod(std::string_view className, std::string_view method)
+{
+    throwHostError("VELMARA:member", "unknown", {std::string(className), std::string(method)});
+}
+
 [[gnu::always_inline]] inline ArrayPtr callMethod(Machine& machine, hvArray_tag* array, std::string_view method,
                                                   Inputs inputs)
 {
     Class& cls = requireClassOf(machine, array, requireObject(machine, array));
     MethodGroup const* const group = cls.findMethods(method);
     if (!group)
-        throwHostError("VELMARA:member", "unknown", {cls.name()->string(), std::string(method)});
+        throwUnknownMethod(cls.name()->view(), method);
     return dispatchOnObject(*group, array, inputs);
 }
 
@@ -26,10 +31,10 @@ ArrayPtr callStaticMethod(Machine& machine, std::string_view className, std::str
     Class& cls = requireClass(machine, className);
     MethodGroup const* const group = cls.findMethods(method);
     if (!group)
-        throwHostError("VELMARA:member", "unknown", {std::string(className), std::string(method)});
+        throwUnknownMethod(className, method);
     if (std::ranges::all_of(group->methods, &Method::takesObject))
         throwHostError("VELMARA:member", "notStatic", {std::string(className), std::string(method)});
-    return dispatch(*group, inputs);
+    return dispatch(*group, {nullptr, inputs});
 }
 
 ArrayPtr callPackageFunction(Machine& machine, std::string_view fullName, Inputs inputs)
@@ -37,7 +42,7 @@ ArrayPtr callPackageFunction(Machine& machine, std::string_view fullName, Inputs
     MethodGroup const* const group = machine.packages().findFunctions(fullName);
     if (!group)
         throwHostError("VELMARA:function", "unknown", {std::string(fullName)});
-    return dispatch(*group, inputs);
+    return dispatch(*group, {nullptr, inputs});
 }
 
 void endObjects(Machine& machine, hvArray_tag* array)

@@ -20,11 +20,11 @@ std::string text(char const* description)
 
 std::vector<ParameterRecord> records(std::vector<Parameter> const& parameters)
 {
-    std::vector<ParameterRecord> made;
-    made.reserve(parameters.size());
+    std::vector<ParameterRecord> listed;
+    listed.reserve(parameters.size());
     for (Parameter const& parameter : parameters)
-        made.push_back({parameter.name, parameter.type.name->string()});
-    return made;
+        listed.push_back({parameter.name, parameter.type.name->string()});
+    return listed;
 }
 
 std::string signatureLine(Method const& method)

@@ -3,6 +3,7 @@
 #include "api/HvmCall.hpp"
 #include "api/callTargets.hpp"
 #include "classes/Class.hpp"
+#include "dispatch/Dispatch.hpp"
 #include "dispatch/ResultValue.hpp"
 #include "dispatch/mismatchReason.hpp"
 #include "errors/hostError.hpp"
@@ -30,6 +31,11 @@ namespace {
         throwPropertyError("abstract", property);
     bool const isReadOnly = property.canBeRead && property.traits.setAccess == orbis::MemberAccess::NoAccess;
     throwPropertyError(isReadOnly ? "readOnly" : "setAccess", property);
+}
+
+[[noreturn, gnu::noinline]] void throwMismatch(Property const& property, hvArray_tag* value)
+{
+    throwHostError("VELMARA:property", "value", {property.name->string(), mismatchReason(property.type(), value)});
 }
 
 [[noreturn, gnu::noinline]] void throwUnknown(Class const& cls, std::string_view name)
@@ -88,20 +94,11 @@ ArrayPtr read(Property const& property, Object* object)
     if (!property.canBeRead) [[unlikely]]
         throwUnreadable(property);
     Object* const owner = requireOwner(property, object);
-    ResultValue result(
-        &property.type()); // destroyed after the read value: the property releases that before the array is destroyed
+    // Destroyed after the read value: the property releases its value before an array of it is destroyed.
+    ResultValue result(&property.type());
     ReadValue const value(property, owner);
     result.slot() = value.value();
     return result.take(property.name);
-}
-
-[[gnu::noinline]] void writeAny(Machine& machine, Property const& property, Object* owner, hvArray_tag* value)
-{
-    checkInputs(machine, {&value, 1});
-    ConvertedInputs converted(1);
-    if (converted.add(property.type(), value) == notConvertible)
-        throwHostError("VELMARA:property", "value", {property.name->string(), mismatchReason(property.type(), value)});
-    property.info->setValue(owner, *converted.values());
 }
 
 void write(Machine& machine, Property const& property, Object* object, hvArray_tag* value)
@@ -110,12 +107,11 @@ void write(Machine& machine, Property const& property, Object* object, hvArray_t
         throwUnwritable(property);
     Object* const owner = requireOwner(property, object);
     TypeReference const& type = property.type();
-    orbis::COSValue scalar;
-    if (value && type.kind == TypeKind::Scalar && type.scalar.read(*Array::of(value), scalar) != notConvertible)
-        [[likely]]
-        property.info->setValue(owner, scalar);
-    else
-        writeAny(machine, property, owner, value);
+    checkInputs(machine, {&value, 1});
+    ConvertedInputs converted(1);
+    if (converted.add(type, value) == notConvertible) [[unlikely]]
+        throwMismatch(property, value);
+    property.info->setValue(owner, *converted.values());
 }
 
 } // namespace

@@ -4,7 +4,7 @@
 
 namespace velmara {
 
-Class& requireAnyClass(Machine& machine, std::string_view fullName)
+Class& requireClass(Machine& machine, std::string_view fullName)
 {
     Class* cls = machine.packages().findClass(fullName);
     if (!cls)

@@ -2,22 +2,14 @@
 
 #include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
-#include "dispatch/Dispatch.hpp"
 #include "machine/Machine.hpp"
 
 #include <string_view>
 
 namespace velmara {
 
-/// `requireClass` for every class.
-Class& requireAnyClass(Machine& machine, std::string_view fullName);
-
 /// The class of that full name, described. Throws "VELMARA:class:unknown" when there is none.
-inline Class& requireClass(Machine& machine, std::string_view fullName)
-{
-    Class* const recent = machine.packages().recentClass(fullName);
-    return recent && recent->isReady() ? *recent : requireAnyClass(machine, fullName);
-}
+Class& requireClass(Machine& machine, std::string_view fullName);
 
 /// Throws "VELMARA:object:notObject" for what is no object array.
 void requireObjectArray(hvArray_tag const* array);

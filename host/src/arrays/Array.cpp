@@ -242,4 +242,10 @@ void Array::destroyPlainPayload() noexcept
     freeHeader();
 }
 
+void Array::freeUncachedHeader() noexcept
+{
+    acquireThreadCache();
+    freeHeader();
+}
+
 } // namespace velmara

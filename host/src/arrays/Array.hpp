@@ -76,10 +76,10 @@ public:
     /// One row of characters, or none.
     bool isText() const { return classID_ == hvCHAR_CLASS && (rows() == 1 || size() == 0); }
 
-    /// "[]", a double array of 0-by-0, stands for no object and for no value.
+    /// "[]", a double array of 0-by-0, means no object and no value.
     bool isEmptyDouble() const { return classID_ == hvDOUBLE_CLASS && rows() == 0 && columns() == 0; }
 
-    /// One string, which is missing, stands for no value, too.
+    /// One string, which is missing, means no value, too.
     bool isMissingString() const { return classID_ == hvSTRING_CLASS && size() == 1 && strings().front().isMissing(); }
 
     hvClassID classID() const { return classID_; }
@@ -215,6 +215,7 @@ private:
     void destroyPlain() noexcept;
     [[gnu::noinline]] void destroyPlainPayload() noexcept;
     void freeHeader() noexcept;
+    [[gnu::noinline]] void freeUncachedHeader() noexcept;
 
     hvClassID classID_;
     std::uint32_t cellsAround_ = 0; ///< how many of the references are held by cells
@@ -238,9 +239,11 @@ inline Array* Array::createHeader(hvClassID classID, std::size_t rows, std::size
 
 inline void Array::freeHeader() noexcept
 {
-    ThreadCache& cache = currentThreadCache();
-    --cache.counts.arrays;
-    BlockPool::release(this, cache);
+    ThreadCache* const cache = threadCache;
+    if (!cache) [[unlikely]]
+        return freeUncachedHeader();
+    --cache->counts.arrays;
+    BlockPool::release(this, *cache);
 }
 
 inline bool Array::setFirstObject(std::size_t index, Object& object)

@@ -22,12 +22,8 @@ bool isCharacters(hvArray_tag const* array)
 
 hvArray* hvCreateString(char const* text)
 {
-    Array* array = nullptr;
-    velmara::convertToUtf16(text ? text : "", [&](std::size_t size) {
-        array = Array::createText(size);
-        return array->writableText();
-    });
-    return array;
+    return velmara::convertTo(std::string_view(text ? text : ""), Array::createText,
+                              [](Array* array) { return array->writableText(); });
 }
 
 hvArray* hvCreateString_UTF16(char16_t const* text)
@@ -39,10 +35,7 @@ char* hvArrayToString(hvArray_tag const* array)
 {
     if (!isCharacters(array))
         return nullptr;
-    char* text = nullptr;
-    velmara::convertToUtf8(Array::of(array)->text(),
-                           [&](std::size_t size) { return text = TextAllocator::allocate<char>(size); });
-    return text;
+    return velmara::convertTo(Array::of(array)->text(), TextAllocator::allocate<char>, [](char* text) { return text; });
 }
 
 char* hvArray2String(hvArray_tag const* array)

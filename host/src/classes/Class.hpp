@@ -51,7 +51,7 @@ public:
     MemberTables const& tables() const { return *contents_->tables; }
     bool isA(Name ancestor) const;
 
-    /// The distance of a class in the linearisation, -1 when it is not there.
+    /// The distance of a class in the linearization, -1 when it is not there.
     int distanceTo(Name ancestor) const;
 
     /// Null when there is none, and no class info of the hierarchy loads one of that name.

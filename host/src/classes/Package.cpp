@@ -78,8 +78,7 @@ void Package::finalizeAllObjects()
 MethodGroup const* Package::findFunctions(std::string_view ownName)
 {
     auto const find = [this, ownName] {
-        Name const name = findInterned(ownName);
-        auto const* const group = name ? functionGroups_.find(name) : nullptr;
+        auto const* const group = functionGroups_.findText(ownName);
         return group && !(*group)->methods.empty() ? group->get() : nullptr;
     };
     MethodGroup const* found = find();

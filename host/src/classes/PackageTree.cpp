@@ -31,8 +31,7 @@ bool isDottedName(std::string_view name)
 template <class T>
 T* findByText(NameMap<T*> const& map, std::string_view fullName)
 {
-    Name const name = findInterned(fullName);
-    T* const* const found = name ? map.find(name) : nullptr;
+    T* const* const found = map.findText(fullName);
     return found ? *found : nullptr;
 }
 
@@ -77,10 +76,7 @@ Class* PackageTree::findClass(std::string_view fullName)
 {
     auto const find = [this, fullName]() -> Class* {
         Class* const* const found = classes_.findText(fullName);
-        if (!found || (*found)->isClosed())
-            return nullptr;
-        recentClasses_.remember(fullName, **found);
-        return *found;
+        return found && !(*found)->isClosed() ? *found : nullptr;
     };
     if (Class* const found = find())
         return found;
@@ -218,7 +214,6 @@ void PackageTree::clear() noexcept
     root_.close();
     packages_ = {};
     classes_ = {};
-    recentClasses_.clear();
     root_.clear();
 }
 
@@ -238,7 +233,6 @@ void PackageTree::erase(Class const& cls) noexcept
     Class* const* const found = classes_.find(cls.name());
     if (found && *found == &cls) {
         classes_.erase(cls.name());
-        recentClasses_.clear();
         machine_.types().forgetClass(cls.name());
     }
 }

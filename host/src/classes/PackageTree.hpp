@@ -1,7 +1,6 @@
 #pragma once
 
 #include "classes/Package.hpp"
-#include "classes/RecentClasses.hpp"
 #include "names/NameMap.hpp"
 
 #include <functional>
@@ -27,9 +26,6 @@ public:
     /// Null when there is none; the class is not described by this.
     Class* findClass(std::string_view fullName);
     Class* findClass(Name fullName);
-
-    /// The class if it was found lately under this name. It may have been closed since.
-    Class* recentClass(std::string_view fullName) const { return recentClasses_.find(fullName); }
 
     /// A class without a package. Packages publish these as they are populated, so those at the top level are, but for
     /// what cannot be.
@@ -91,7 +87,6 @@ private:
     Machine& machine_;
     NameMap<Package*> packages_;
     NameMap<Class*> classes_;
-    RecentClasses recentClasses_;
     std::vector<Undo> undos_;
     int depth_ = 0; ///< of transactions
     bool isUndoing_ = false;

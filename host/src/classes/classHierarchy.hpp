@@ -8,8 +8,8 @@ namespace velmara {
 
 class Object;
 
-/// True when `cls` is `ancestor` or, in the current virtual machine, one of its subclasses. Classes are not
-/// initialised by the question.
+/// True when `cls` is `ancestor` or, in the current virtual machine, one of its subclasses. No class is
+/// described for it.
 bool isSubclass(Name cls, Name ancestor);
 
 /// The most specific class that all the objects are of; null objects are passed over. Null when there is no

@@ -1,4 +1,4 @@
-#include "arrays/arrayArguments.hpp"
+#include "arrays/Array.hpp"
 #include "classes/classHierarchy.hpp"
 
 #include "libhv/libhv.hpp"

@@ -1,15 +1,12 @@
-#include "classes/Class.hpp"
 #include "classes/PackageTree.hpp"
-#include "machine/Machine.hpp"
-#include "objects/Object.hpp"
 
 #include "additions/additions.hpp"
 
-namespace velmara {
+namespace orbis::additions {
+
+using namespace velmara;
 
 namespace {
-
-using orbis::additions::RecordedObject;
 
 void collect(Package const& package, std::vector<RecordedObject>& records)
 {
@@ -25,15 +22,11 @@ void collect(Package const& package, std::vector<RecordedObject>& records)
 
 } // namespace
 
-} // namespace velmara
-
-namespace orbis::additions {
-
 std::vector<RecordedObject> recordedObjects()
 {
     std::vector<RecordedObject> records;
-    if (velmara::Machine* const machine = velmara::Machine::current())
-        velmara::collect(machine->packages().root(), records);
+    if (Machine* const machine = Machine::current())
+        collect(machine->packages().root(), records);
     return records;
 }
 

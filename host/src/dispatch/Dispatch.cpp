@@ -1,7 +1,6 @@
 #include "dispatch/Dispatch.hpp"
 
 #include "arrays/Array.hpp"
-#include "dispatch/dispatchErrors.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
 
@@ -62,7 +61,7 @@ Method const& chooseAmong(MethodGroup const& group, CallInputs call)
     return *unbeaten.front();
 }
 
-ArrayPtr dispatchAny(MethodGroup const& group, CallInputs const& call)
+ArrayPtr dispatch(MethodGroup const& group, CallInputs const& call)
 {
     ConvertedInputs converted(call.capacity());
     Method const& method = choose(group, call, converted);

@@ -43,6 +43,10 @@ template <class Visit>
 /// input, and better in one. Throws when none fits (with each one and the reason), and when several fit equally well.
 Method const& chooseAmong(MethodGroup const& group, CallInputs call);
 
+/// The errors of the dispatch. Each names what may be called and what was given.
+[[noreturn]] void throwNoMatch(std::span<Method const* const> candidates, CallInputs const& call);
+[[noreturn]] void throwAmbiguous(std::span<Method const* const> rivals, CallInputs const& call);
+
 /// Throws why no method of the group can be called.
 [[noreturn]] void throwUncallable(MethodGroup const& group, CallInputs call);
 
@@ -67,29 +71,18 @@ Method const& chooseAmong(MethodGroup const& group, CallInputs call);
     return outputCount == 0 ? nullptr : result.take(method.name);
 }
 
-/// `dispatch` for every method and every input.
-ArrayPtr dispatchAny(MethodGroup const& group, CallInputs const& call);
+/// Chooses a method of the group and calls it.
+ArrayPtr dispatch(MethodGroup const& group, CallInputs const& call);
 
-/// Chooses a method of an object's class and calls it on `self`; a failure inside it is final.
+/// The same on an object, an array: shorter for the one method that takes and returns only scalars, as most do.
 [[gnu::always_inline]] inline ArrayPtr dispatchOnObject(MethodGroup const& group, hvArray_tag* self, Inputs inputs)
 {
     if (Method const* const method = group.scalarMethod) [[likely]] {
-        ScalarInputs plain;
-        if (plain.readForObject(*method, self, inputs)) [[likely]]
-            return invoke(*method, static_cast<int>(method->inputCount), plain.values());
+        ScalarInputs scalars;
+        if (scalars.read(*method, self, inputs)) [[likely]]
+            return invoke(*method, static_cast<int>(method->inputCount), scalars.values());
     }
-    return dispatchAny(group, {self, inputs});
-}
-
-/// The same where there is no object.
-[[gnu::always_inline]] inline ArrayPtr dispatch(MethodGroup const& group, Inputs inputs)
-{
-    if (Method const* const method = group.plain) [[likely]] {
-        ScalarInputs plain;
-        if (plain.read(*method, inputs)) [[likely]]
-            return invoke(*method, static_cast<int>(method->inputCount), plain.values());
-    }
-    return dispatchAny(group, {nullptr, inputs});
+    return dispatch(group, {self, inputs});
 }
 
 } // namespace velmara

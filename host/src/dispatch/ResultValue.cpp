@@ -1,7 +1,6 @@
 #include "dispatch/ResultValue.hpp"
 
 #include "arrays/Array.hpp"
-#include "classes/classHierarchy.hpp"
 #include "dispatch/objectRank.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"

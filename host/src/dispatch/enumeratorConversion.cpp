@@ -30,13 +30,13 @@ std::optional<std::int64_t> wholeNumberAt(Array const& input, std::size_t index)
 
 Enumerator const* findByText(EnumeratorTable const& enumerators, std::u16string_view text)
 {
-    std::size_t const length = sizeAsUtf8(text);
+    std::size_t const length = convertedSize(text);
     if (length > enumerators.longestName())
         return nullptr;
     std::byte buffer[256]; // enough for all but the longest names
     std::pmr::monotonic_buffer_resource memory(buffer, sizeof buffer);
     std::pmr::vector<char> name(length, &memory);
-    writeAsUtf8(text, name.data());
+    convert(text, name.data());
     return enumerators.find(std::string_view(name.data(), length));
 }
 

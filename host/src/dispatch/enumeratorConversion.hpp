@@ -18,12 +18,12 @@ Class const* findEnumeration(TypeReference const& type);
 
 /// What an input that is no array of objects means where one enumerator is wanted: text that is one of the names (a
 /// row of characters, or one string), or a number of any class that is one of the values. Upper and lower case
-/// differ, a logical is no number, and nothing stands for no enumerator. Null when the input means none.
+/// differ, a logical is no number, and nothing means no enumerator. Null when the input means none.
 ///
 /// Of objects, an array of one that is an enumerator is taken, and never a null object (`objectRank`).
 Enumerator const* findEnumerator(Class const& enumeration, Array const& input);
 
-/// What stands at a zero-based index of an input where a vector of enumerators is wanted: a number of a numeric array,
+/// What is at a zero-based index of an input where a vector of enumerators is wanted: a number of a numeric array,
 /// a string of a string array, or a cell, which may hold whatever means one enumerator, its object included.
 Enumerator const* findEnumeratorAt(Class const& enumeration, Array const& input, std::size_t index);
 

@@ -2,7 +2,6 @@
 
 #include "arrays/Array.hpp"
 #include "types/ConversionRank.hpp"
-#include "types/TypeReference.hpp"
 
 namespace velmara {
 

@@ -46,10 +46,8 @@ Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, ObjectClass con
     takesObject = definer && !isStatic && !isConstructor;
     if (takesObject && inputs.empty())
         throwHostError("VELMARA:member", "noObjectInput", {definer->name()->string(), info->getName()});
-    bool const takesScalars = isAccessible() && !isAbstract && inputCount <= maxScalarInputs &&
-                              std::ranges::all_of(explicitInputs(), isScalar);
-    takesOnlyScalars = takesScalars && !isConstructor && (!outputType || isScalar(outputs.front()));
-    isScalarConstructor = takesScalars && isConstructor;
+    takesOnlyScalars = takesObject && isAccessible() && !isAbstract && inputCount <= maxScalarInputs &&
+                       std::ranges::all_of(explicitInputs(), isScalar) && (!outputType || isScalar(outputs.front()));
 }
 
 bool Method::hasSameInputs(Method const& other) const
@@ -69,22 +67,19 @@ void MethodGroup::add(Method const& method)
     methods.insert(method.isAccessible() ? accessibleEnd() : methods.end(), &method);
     if (method.isAccessible())
         ++accessible;
-    findScalarMethods();
+    findScalarMethod();
 }
 
 void MethodGroup::remove(Method const& method)
 {
     if (std::erase(methods, &method) != 0 && method.isAccessible())
         --accessible;
-    findScalarMethods();
+    findScalarMethod();
 }
 
-void MethodGroup::findScalarMethods()
+void MethodGroup::findScalarMethod()
 {
-    Method const* const only = accessible == 1 ? methods.front() : nullptr;
-    scalarMethod = only && only->takesOnlyScalars && only->takesObject ? only : nullptr;
-    plain = only && only->takesOnlyScalars && !only->takesObject ? only : nullptr;
-    scalarConstructor = only && only->isScalarConstructor ? only : nullptr;
+    scalarMethod = accessible == 1 && methods.front()->takesOnlyScalars ? methods.front() : nullptr;
 }
 
 } // namespace velmara

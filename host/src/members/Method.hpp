@@ -45,13 +45,9 @@ struct Method : Retirable {
     bool overridesAllSignatures;
     bool takesObject; ///< its first input is the object it is called on
 
-    /// True for a method that anyone may call and that takes and gives only scalars, not too many: most are so, and
-    /// are called by a shorter way.
+    /// True for a method that anyone may call on an object, and that takes and returns only scalars, not too many.
     bool takesOnlyScalars;
     static constexpr std::size_t maxScalarInputs = 8;
-
-    /// The same for a constructor, but for its result, which is the object.
-    bool isScalarConstructor;
 };
 
 /// The methods of one name among which the dispatch chooses.
@@ -65,13 +61,11 @@ struct MethodGroup {
     std::vector<Method const*> methods;
     std::size_t accessible = 0;
 
-    /// The one that may be called, where there is just one and it is plain: with an object, or without.
+    /// The one that may be called, if it takes only scalars; null when there are several.
     Method const* scalarMethod = nullptr;
-    Method const* plain = nullptr;
-    Method const* scalarConstructor = nullptr;
 
 private:
-    void findScalarMethods();
+    void findScalarMethod();
 };
 
 } // namespace velmara

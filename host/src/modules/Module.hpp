@@ -13,7 +13,7 @@ namespace velmara {
 /// lives, also after it was terminated.
 class Module {
 public:
-    /// Maps the file; nothing of the module runs but its static initialisation. Throws
+    /// Maps the file; nothing of the module runs but its static initialization. Throws
     /// "VELMARA:module:noEntryPoint" for a library without the entry points of the module `name`.
     Module(std::filesystem::path const& file, std::string name);
 

@@ -15,7 +15,7 @@ namespace velmara {
 /// machine to be current.
 class ModuleList {
 public:
-    /// Loads a module and initialises it. One that is loaded, or was, is only initialised again. Throws
+    /// Loads a module and initializes it. One that is loaded, or was, is only initialized again. Throws
     /// "VELMARA:module:otherFile" when a module of its name was loaded from another file.
     Module const& load(std::filesystem::path const& file);
 

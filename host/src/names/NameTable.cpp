@@ -1,6 +1,7 @@
 #include "names/NameTable.hpp"
 
 #include "memory/allocate.hpp"
+#include "text/textHash.hpp"
 
 #include <memory>
 #include <mutex>
@@ -35,7 +36,7 @@ Name NameTable::find(Slots const& slots, std::string_view text, std::uint64_t ha
 {
     for (std::size_t index = hash;; ++index) {
         Name const name = slots.first[index & slots.mask].load(std::memory_order_acquire);
-        if (!name || (name->hash == hash && isSameText(name->view(), text)))
+        if (!name || (name->hash == hash && name->view() == text))
             return name;
     }
 }

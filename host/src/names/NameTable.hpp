@@ -1,7 +1,6 @@
 #pragma once
 
 #include "names/InternedName.hpp"
-#include "text/textHash.hpp"
 
 #include <atomic>
 

@@ -15,7 +15,7 @@ namespace velmara {
 class Machine;
 class ObjectClass;
 
-/// A host object. It is finalized (gives up its instance data and becomes invalid) with its last reference, when it is
+/// A host object. It is finalized (destroys its instance data and becomes invalid) with its last reference, when it is
 /// deleted, when its class is unpublished, and when its virtual machine is destroyed. Its memory is freed when no
 /// handle, strong or weak, and no array is left.
 class Object final : public orbis::COSInterface {

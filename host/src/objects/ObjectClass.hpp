@@ -37,7 +37,7 @@ protected:
     {
     }
 
-    ~ObjectClass() = default;
+    virtual ~ObjectClass() = default; // virtual, so that this is the base without an offset
 
     /// `order` stays the caller's.
     void setLinearization(std::vector<ObjectClass*> const& order) { linearization_ = &order; }

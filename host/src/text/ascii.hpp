@@ -10,7 +10,7 @@
 
 namespace velmara {
 
-/// ASCII between bytes and UTF-16, in blocks of 16, 8 or 4 characters. No read or write leaves the text: the last block
+/// ASCII between bytes and UTF-16, in blocks of 16 or 8 characters. No read or write leaves the text: the last block
 /// overlaps the one before.
 
 template <class Char>
@@ -88,24 +88,6 @@ struct Block<8> {
     }
 };
 
-template <>
-struct Block<4> {
-    static bool hasNonAscii(char const* text) { return (load<std::uint32_t>(text) & beyondAsciiBytes) != 0; }
-    static bool hasNonAscii(char16_t const* text) { return (load<std::uint64_t>(text) & beyondAsciiUnits) != 0; }
-
-    static void copy(char const* text, char16_t* out)
-    {
-        __m128i const bytes = _mm_cvtsi32_si128(load<int>(text));
-        store(out, _mm_cvtsi128_si64(_mm_unpacklo_epi8(bytes, _mm_setzero_si128())));
-    }
-
-    static void copy(char16_t const* text, char* out)
-    {
-        __m128i const units = _mm_cvtsi64_si128(load<long long>(text));
-        store(out, _mm_cvtsi128_si32(_mm_packus_epi16(units, units)));
-    }
-};
-
 template <std::size_t size, class Char>
 std::size_t findNonAscii(std::basic_string_view<Char> text)
 {
@@ -139,8 +121,6 @@ std::size_t asciiRun(std::basic_string_view<Char> text)
         run = ascii::findNonAscii<16>(text);
     else if (text.size() >= 8)
         run = ascii::findNonAscii<8>(text);
-    else if (text.size() >= 4)
-        run = ascii::findNonAscii<4>(text);
     while (run < text.size() && isAsciiUnit(text[run]))
         ++run;
     return run;
@@ -160,8 +140,6 @@ To* copyAscii(std::basic_string_view<From> text, To* out)
         ascii::copyBlocks<16>(text, out);
     else if (text.size() >= 8)
         ascii::copyBlocks<8>(text, out);
-    else if (text.size() >= 4)
-        ascii::copyBlocks<4>(text, out);
     else
         for (std::size_t i = 0; i < text.size(); ++i)
             out[i] = static_cast<To>(text[i]);

@@ -110,67 +110,69 @@ void scan(std::basic_string_view<Char> text, OnAscii const& onAscii, OnOther con
 }
 
 template <class From, class To>
-void convert(std::basic_string_view<From> text, To* out)
+void convertText(std::basic_string_view<From> text, To* out)
 {
     scan(
         text, [&](std::basic_string_view<From> run) { out = copyAscii(run, out); },
         [&](char32_t character) { write(character, out); });
 }
 
+template <class Char, class SizeOf>
+std::size_t sizeOfText(std::basic_string_view<Char> text, SizeOf const& sizeOf)
+{
+    std::size_t size = 0;
+    scan(
+        text, [&](std::basic_string_view<Char> run) { size += run.size(); },
+        [&](char32_t character) { size += sizeOf(character); });
+    return size;
+}
+
 } // namespace
 
-std::size_t sizeAsUtf16(std::string_view utf8)
+std::size_t convertedSize(std::string_view utf8)
 {
-    std::size_t size = 0;
-    scan(
-        utf8, [&](std::string_view run) { size += run.size(); },
-        [&](char32_t character) { size += character < 0x10000 ? 1 : 2; });
-    return size;
+    return sizeOfText(utf8, [](char32_t character) { return character < 0x10000 ? 1 : 2; });
 }
 
-void writeAsUtf16(std::string_view utf8, char16_t* out)
+std::size_t convertedSize(std::u16string_view utf16)
 {
-    convert(utf8, out);
+    return sizeOfText(utf16, [](char32_t character) { return character < 0x800 ? 2 : character < 0x10000 ? 3 : 4; });
 }
 
-std::size_t sizeAsUtf8(std::u16string_view utf16)
+void convert(std::string_view utf8, char16_t* out)
 {
-    std::size_t size = 0;
-    scan(
-        utf16, [&](std::u16string_view run) { size += run.size(); },
-        [&](char32_t character) { size += character < 0x800     ? 2
-                                          : character < 0x10000 ? 3
-                                                                : 4; });
-    return size;
+    convertText(utf8, out);
 }
 
-void writeAsUtf8(std::u16string_view utf16, char* out)
+void convert(std::u16string_view utf16, char* out)
 {
-    convert(utf16, out);
+    convertText(utf16, out);
 }
 
 } // namespace velmara
 
 namespace fl::i18n {
 
+namespace {
+
+template <class To, class From>
+std::basic_string<To> converted(std::basic_string<From> const& text)
+{
+    return velmara::convertTo(
+        std::basic_string_view<From>(text), [](std::size_t size) { return std::basic_string<To>(size, To()); },
+        [](std::basic_string<To>& result) { return result.data(); });
+}
+
+} // namespace
+
 std::string to_string(std::u16string const& text)
 {
-    std::string utf8;
-    velmara::convertToUtf8(text, [&](std::size_t size) {
-        utf8.resize(size);
-        return utf8.data();
-    });
-    return utf8;
+    return converted<char>(text);
 }
 
 std::u16string to_ustring(std::string const& text)
 {
-    std::u16string utf16;
-    velmara::convertToUtf16(text, [&](std::size_t size) {
-        utf16.resize(size);
-        return utf16.data();
-    });
-    return utf16;
+    return converted<char16_t>(text);
 }
 
 } // namespace fl::i18n

@@ -7,32 +7,33 @@
 
 namespace velmara {
 
-/// Between UTF-8 and UTF-16 in two steps, so that the text is written once and to where it stays: first its size in the
-/// other form, then the text itself to memory of that size. Ill-formed input becomes U+FFFD: one for each maximal part
-/// of a UTF-8 sequence that could have gone on, one for each lone UTF-16 surrogate.
-std::size_t sizeAsUtf16(std::string_view utf8);
-void writeAsUtf16(std::string_view utf8, char16_t* out);
+/// Between UTF-8 and UTF-16. Ill-formed input becomes U+FFFD: one for each maximal part of a UTF-8 sequence that could
+/// have gone on, one for each lone UTF-16 surrogate.
+std::size_t convertedSize(std::string_view utf8);
+std::size_t convertedSize(std::u16string_view utf16);
 
-std::size_t sizeAsUtf8(std::u16string_view utf16);
-void writeAsUtf8(std::u16string_view utf16, char* out);
+/// Writes as many units as `convertedSize` says.
+void convert(std::string_view utf8, char16_t* out);
+void convert(std::u16string_view utf16, char* out);
 
-/// Both steps; `allocate(size)` returns the memory.
-template <class Allocate>
-void convertToUtf16(std::string_view utf8, Allocate const& allocate)
+template <class Char, class Allocate, class MemoryOf>
+[[gnu::noinline]] auto convertNonAscii(std::basic_string_view<Char> text, Allocate allocate, MemoryOf memoryOf)
 {
-    if (isAscii(utf8)) [[likely]]
-        copyAscii(utf8, allocate(utf8.size()));
-    else
-        writeAsUtf16(utf8, allocate(sizeAsUtf16(utf8)));
+    auto result = allocate(convertedSize(text));
+    convert(text, memoryOf(result));
+    return result;
 }
 
-template <class Allocate>
-void convertToUtf8(std::u16string_view utf16, Allocate const& allocate)
+/// Converts a text to `memoryOf(result)`, where the result is `allocate(size)` for just its size. ASCII is the quick
+/// case.
+template <class Char, class Allocate, class MemoryOf>
+auto convertTo(std::basic_string_view<Char> text, Allocate allocate, MemoryOf memoryOf)
 {
-    if (isAscii(utf16)) [[likely]]
-        copyAscii(utf16, allocate(utf16.size()));
-    else
-        writeAsUtf8(utf16, allocate(sizeAsUtf8(utf16)));
+    if (!isAscii(text)) [[unlikely]]
+        return convertNonAscii(text, allocate, memoryOf);
+    auto result = allocate(text.size());
+    copyAscii(text, memoryOf(result));
+    return result;
 }
 
 } // namespace velmara

@@ -15,7 +15,7 @@ using namespace orbis::additions;
 
 namespace {
 
-ConversionRank refuse(Array const&, orbis::COSValue&)
+ConversionRank convertNone(Array const&, orbis::COSValue&)
 {
     return notConvertible;
 }
@@ -45,7 +45,7 @@ template <class T>
 constexpr ConverterRow makeRow()
 {
     ConverterRow row;
-    row.fill(refuse);
+    row.fill(convertNone);
     auto const add = [&row]<class Source>(Source) {
         if constexpr (!std::same_as<Source, bool> || std::same_as<T, bool>) // a logical is no number
             row[orbis::COSValue::classOf<Source>()] = convert<Source, T>;

@@ -40,10 +40,10 @@ orbis::COSDataType* TypeRepository::obtain(Name name)
         return nullptr;
     if (Entry const* const entry = types_.find(name)) // populating packages may have registered it
         return entry->type.get();
-    Held made(createBuiltInType(type));
-    made->getReference();
+    Held created(createBuiltInType(type));
+    created->getReference();
     Entry& entry = types_[name];
-    entry.type = std::move(made);
+    entry.type = std::move(created);
     return entry.type.get();
 }
 

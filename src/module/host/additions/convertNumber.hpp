@@ -45,18 +45,17 @@ template <COSScalar T>
 std::optional<T> convertNumber(std::floating_point auto given)
 {
     auto const number = static_cast<double>(given);
-    bool fits = true;
-    if constexpr (std::same_as<T, bool>) {
-        fits = number == 0 || number == 1;
-    } else if constexpr (std::integral<T>) {
+    if constexpr (std::integral<T> && !std::same_as<T, bool>) {
         // Both bounds are powers of two, so they are exact; a NaN compares false.
         constexpr auto lowest = static_cast<double>(std::numeric_limits<T>::min());
         constexpr double beyond = 2.0 * static_cast<double>(std::uint64_t(1) << (std::numeric_limits<T>::digits - 1));
-        fits = number >= lowest && number < beyond && std::trunc(number) == number;
-    } else {
-        fits = std::isfinite(static_cast<T>(number)) || !std::isfinite(number);
+        if (!(number >= lowest && number < beyond)) // NOLINT(readability-simplify-boolean-expr): NaN
+            return std::nullopt;
     }
-    return fits ? std::optional(static_cast<T>(number)) : std::nullopt;
+    auto const converted = static_cast<T>(number);
+    bool const fits = std::floating_point<T> ? std::isfinite(static_cast<double>(converted)) || !std::isfinite(number)
+                                             : static_cast<double>(converted) == number;
+    return fits ? std::optional(converted) : std::nullopt;
 }
 
 } // namespace orbis::additions

@@ -1,4 +1,4 @@
-#include "dispatch/dispatchErrors.hpp"
+#include "dispatch/Dispatch.hpp"
 
 #include "arrays/Array.hpp"
 #include "dispatch/mismatchReason.hpp"
