@@ -17,20 +17,24 @@ int sentinelText(lua_State* L)
     return 1;
 }
 
+/// The address of `type` is the value's key in the registry.
 void pushSentinel(lua_State* L, char const* text, char const* type)
 {
-    luaL_checkstack(L, 8, nullptr);
-    pushCached(L, "velmara.sentinels", type, [&] {
-        lua_newuserdatauv(L, 0, 0);
-        pushNamedMetatable(L, type, [&] {
-            setField(L, "__metatable", text);
-            setField(L, "__name", text);
-            lua_pushstring(L, text);
-            lua_pushcclosure(L, sentinelText, 1);
-            lua_setfield(L, -2, "__tostring");
-        });
-        lua_setmetatable(L, -2);
+    luaL_checkstack(L, 6, nullptr);
+    if (lua_rawgetp(L, LUA_REGISTRYINDEX, type) == LUA_TUSERDATA)
+        return;
+    lua_pop(L, 1);
+    lua_newuserdatauv(L, 0, 0);
+    pushNamedMetatable(L, type, [&] {
+        setField(L, "__metatable", text);
+        setField(L, "__name", text);
+        lua_pushstring(L, text);
+        lua_pushcclosure(L, sentinelText, 1);
+        lua_setfield(L, -2, "__tostring");
     });
+    lua_setmetatable(L, -2);
+    lua_pushvalue(L, -1);
+    lua_rawsetp(L, LUA_REGISTRYINDEX, type);
 }
 
 } // namespace

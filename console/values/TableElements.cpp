@@ -25,8 +25,10 @@ unsigned kindsOf(lua_State* L, int index)
         return Elements::Booleans;
     case LUA_TTABLE:
         return Elements::Tables;
-    default:
+    case LUA_TUSERDATA:
         return isObject(L, index) ? Elements::Objects : 0U;
+    default:
+        return 0;
     }
 }
 

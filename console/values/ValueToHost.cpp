@@ -20,7 +20,9 @@ namespace {
 template <class T>
 ArrayPtr scalar(T value, hvClassID classID)
 {
-    return ArrayPtr(orbis::additions::createMatrix(1, 1, classID, &value));
+    ArrayPtr array(orbis::additions::createMatrix(1, 1, classID));
+    *static_cast<T*>(orbis::additions::getWritableData(array.get())) = value;
+    return array;
 }
 
 ArrayPtr emptyArray()

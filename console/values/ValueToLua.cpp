@@ -9,6 +9,7 @@
 
 #include "additions/additions.hpp"
 #include "additions/numericClasses.hpp"
+#include "libkwi18n/libkwi18n.hpp"
 
 namespace velmara::console {
 
@@ -56,7 +57,7 @@ void pushElements(lua_State* L, hvArray_tag const& array, PushAt const& pushAt)
 /// The characters of one row, as a string.
 void pushRow(lua_State* L, hvArray_tag const& characters, std::size_t row)
 {
-    pushText(L, toUtf8(rowOf(characters, row)));
+    pushText(L, fl::i18n::to_string(rowOf(characters, row)));
 }
 
 void pushCells(lua_State* L, hvArray_tag const& cells, Conversion& conversion)
