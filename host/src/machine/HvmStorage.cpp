@@ -9,12 +9,12 @@
 namespace velmara {
 
 namespace {
-constinit std::atomic<std::uint64_t> idCount = 0;
+constinit std::atomic<std::uint64_t> givenIDs = 0;
 } // namespace
 
 std::uint64_t HvmStorage::nextID()
 {
-    return idCount.fetch_add(1, std::memory_order_relaxed);
+    return givenIDs.fetch_add(1, std::memory_order_relaxed);
 }
 
 HvmStorage::Entry* HvmStorage::findAmong(Entry* first, std::type_info const& type) const
@@ -33,7 +33,7 @@ HvmStorage::Holder& HvmStorage::findOrInsert(std::uint64_t id, std::type_info co
 HvmStorage::Holder& HvmStorage::insert(std::uint64_t id, std::type_info const& type, Holder&& value)
 {
     // What may fail comes first: then the value stays the caller's, and the one before stays stored.
-    if (id >= idCount.load(std::memory_order_relaxed))
+    if (id >= givenIDs.load(std::memory_order_relaxed))
         throwHostError("VELMARA:hvm", "unknownStorageID", {std::to_string(id)});
     if (id >= idCount_)
         growTo(id + 1);

@@ -141,7 +141,7 @@ private:
     ~Object();
 
     static void* operator new(std::size_t size);
-    static void operator delete(void* memory) noexcept;
+    static void operator delete(void* block) noexcept;
 
     void onLastReference() noexcept;
     void freeIfUnreferenced() noexcept;
