@@ -4,6 +4,7 @@
 #include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/marshaling/Marshaler.hpp"
 
+#include "additions/numericClasses.hpp"
 #include "orbis/COSNameID.hpp"
 #include "orbis/COSValue.hpp"
 
@@ -31,13 +32,10 @@ public:
     }
 
     template <COSScalar T>
-    static char const* dataTypeText()
+    static constexpr char const* dataTypeText()
     {
-        return scalarTypeText(COSValue::classOf<T>());
+        return additions::numericClassOf<T>.scalarType;
     }
-
-private:
-    static char const* scalarTypeText(hvClassID classID);
 };
 
 } // namespace orbis::factory

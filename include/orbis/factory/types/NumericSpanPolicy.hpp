@@ -4,6 +4,8 @@
 #include "orbis/factory/detail/arrays/numericArrays.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
+#include "additions/numericClasses.hpp"
+
 #include "orbis/COSNameID.hpp"
 
 #include <span>
@@ -32,7 +34,7 @@ public:
     template <class Span>
     static char const* dataTypeText()
     {
-        return detail::vectorTypeText<typename Span::value_type>();
+        return additions::numericClassOf<typename Span::value_type>.vectorType;
     }
 
     /// Does not own the elements.

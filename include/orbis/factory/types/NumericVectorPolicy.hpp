@@ -4,6 +4,8 @@
 #include "orbis/factory/detail/arrays/numericArrays.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
+#include "additions/numericClasses.hpp"
+
 #include "orbis/COSNameID.hpp"
 
 #include <span>
@@ -39,7 +41,7 @@ public:
     template <class Vector>
     static char const* dataTypeText()
     {
-        return detail::vectorTypeText<typename Vector::value_type>();
+        return additions::numericClassOf<typename Vector::value_type>.vectorType;
     }
 };
 

@@ -13,36 +13,6 @@
 
 namespace orbis::factory::detail {
 
-/// The host data type of arrays, of any size, whose numeric class corresponds to `T`.
-template <COSScalar T>
-constexpr char const* vectorTypeText()
-{
-    switch (COSValue::classOf<T>()) {
-    case hvLOGICAL_CLASS:
-        return "logical vector";
-    case hvSINGLE_CLASS:
-        return "single vector";
-    case hvINT8_CLASS:
-        return "int8 vector";
-    case hvUINT8_CLASS:
-        return "uint8 vector";
-    case hvINT16_CLASS:
-        return "int16 vector";
-    case hvUINT16_CLASS:
-        return "uint16 vector";
-    case hvINT32_CLASS:
-        return "int32 vector";
-    case hvUINT32_CLASS:
-        return "uint32 vector";
-    case hvINT64_CLASS:
-        return "int64 vector";
-    case hvUINT64_CLASS:
-        return "uint64 vector";
-    default:
-        return "double vector";
-    }
-}
-
 /// Returns the elements of an array of the class of `T`, in column order; none for null. They are valid as long as the
 /// array.
 template <COSScalar T>
