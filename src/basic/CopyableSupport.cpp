@@ -34,7 +34,7 @@ bool isInUnconstructedSet(void const* object)
     return unconstructed().objects.contains(object);
 }
 
-void removeFromUnconstructedSet(void const* object)
+[[gnu::noinline]] void removeFromUnconstructedSet(void const* object)
 {
     auto* const set = basic::HvmScoped<UnconstructedSet>::find();
     if (!set || !set->isAny)

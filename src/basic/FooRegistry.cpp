@@ -73,11 +73,12 @@ bool FooRegistry::bind(void* object, COSInterface* host, COSNameID const& classN
     return found != end() && found->second->host == host;
 }
 
-bool FooRegistry::bindInPlaceOf(void const* previous, void* object, COSInterface* host, COSNameID const& className)
+void FooRegistry::bindInPlaceOf(void const* previous, void* object, COSInterface* host, COSNameID const& className)
 {
     if (previous && previous != object && isBoundTo(previous, host))
         requireDependents().superseded.emplace(host, previous);
-    return !object || bind(object, host, className);
+    if (object)
+        bind(object, host, className);
 }
 
 void FooRegistry::record(COSInterface* host, COSNameID const& className, void* object)

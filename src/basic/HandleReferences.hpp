@@ -37,7 +37,7 @@ public:
 
     /// Releases the references on `host` that were taken for its binding to `bound` (null: to any), because the handles
     /// can no longer find it. This may destroy objects.
-    void release(COSInterface* host, void const* bound) noexcept;
+    [[gnu::noinline]] void release(COSInterface* host, void const* bound) noexcept;
 
     /// Releases all deferred references. This may destroy objects.
     void releaseDeferred() noexcept;

@@ -19,10 +19,11 @@ struct FooRegistry;
 /// Debugging data about bindings.
 struct BindingHistory {
     /// Records that `object` is about to be bound to `host` in `table`. Throws `std::bad_alloc`.
-    void remember(FooRegistry const& table, void const* object, COSInterface* host, COSNameID const& className);
+    [[gnu::noinline]] void remember(FooRegistry const& table, void const* object, COSInterface* host,
+                                    COSNameID const& className);
 
     /// Records that the binding of `object` was erased.
-    void forget(void const* object) noexcept;
+    [[gnu::noinline]] void forget(void const* object) noexcept;
 
     /// Reports the binding of `object` as a leak.
     void report(void const* object) const noexcept;
@@ -50,7 +51,7 @@ struct HostDependents {
     }
 
     /// Removes everything that depends on `host`, including what `table` still binds to it. Foreign code may run.
-    void forgetHost(FooRegistry& table, COSInterface* host) noexcept;
+    [[gnu::noinline]] void forgetHost(FooRegistry& table, COSInterface* host) noexcept;
 
     HandleReferences handles;
     HostShares shares;

@@ -17,11 +17,17 @@ std::uint64_t HvmStorage::nextID()
     return givenIDs.fetch_add(1, std::memory_order_relaxed);
 }
 
-HvmStorage::Entry* HvmStorage::findAmong(Entry* first, std::type_info const& type) const
+HvmStorage::Entry* HvmStorage::entryAmong(Entry* first, std::type_info const& type) const
 {
     while (first != &none_ && *first->type != type)
         first = first->sameID;
     return first != &none_ ? first : nullptr;
+}
+
+HvmStorage::Holder* HvmStorage::holderAmong(Entry* first, std::type_info const& type) const
+{
+    Entry* const entry = entryAmong(first, type);
+    return entry ? &entry->holder : nullptr;
 }
 
 HvmStorage::Holder& HvmStorage::findOrInsert(std::uint64_t id, std::type_info const& type, Holder&& value)
@@ -65,7 +71,7 @@ HvmStorage::Holder& HvmStorage::store(std::list<Entry>& created)
 
 bool HvmStorage::erase(std::uint64_t id, std::type_info const& type)
 {
-    Entry* const entry = findEntry(id, type);
+    Entry* const entry = id < idCount_ ? entryAmong(byID_[id], type) : nullptr;
     if (entry)
         remove(*entry);
     return entry != nullptr;

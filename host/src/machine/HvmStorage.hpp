@@ -24,8 +24,10 @@ public:
 
     Holder* find(std::uint64_t id, std::type_info const& type) const
     {
-        Entry* const entry = findEntry(id, type);
-        return entry ? &entry->holder : nullptr;
+        if (id >= idCount_) [[unlikely]]
+            return nullptr;
+        Entry* const first = byID_[id];
+        return first->type == &type ? &first->holder : holderAmong(first, type);
     }
 
     Holder& findOrInsert(std::uint64_t id, std::type_info const& type, Holder&& value);
@@ -44,17 +46,10 @@ private:
         std::list<Entry>::iterator position = {};
     };
 
-    Entry* findEntry(std::uint64_t id, std::type_info const& type) const
-    {
-        if (id >= idCount_) [[unlikely]]
-            return nullptr;
-        Entry* const entry = byID_[id];
-        return entry->type == &type ? entry : findAmong(entry, type);
-    }
-
     /// The entry of that type from `first` on: one id may be used with several types, and one type may have several
     /// addresses.
-    Entry* findAmong(Entry* first, std::type_info const& type) const;
+    Entry* entryAmong(Entry* first, std::type_info const& type) const;
+    [[gnu::noinline]] Holder* holderAmong(Entry* first, std::type_info const& type) const;
 
     void growTo(std::size_t idCount);
     Holder& store(std::list<Entry>& created);

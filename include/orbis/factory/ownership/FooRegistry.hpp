@@ -32,7 +32,7 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     /// The same (no entry for a null `object`), before `object` replaces `previous` (null allowed) as what `host`
     /// records. A binding of `previous` to `host` becomes superseded: it is removed when `host` becomes invalid or is
     /// destroyed. Throws `std::bad_alloc`.
-    bool bindInPlaceOf(void const* previous, void* object, COSInterface* host, COSNameID const& className);
+    void bindInPlaceOf(void const* previous, void* object, COSInterface* host, COSNameID const& className);
 
     /// Makes `host` record `object` (null allowed). On failure removes the binding that was just added for it, and
     /// rethrows.
