@@ -36,6 +36,9 @@ protected:
         EXPECT_EQ(velmara::liveCounts(), velmara::LiveCounts{});
     }
 
+    /// Before the members of fixtures are destroyed, to which callbacks refer.
+    void TearDown() override { endHvm(); }
+
     velmara::Hvm& hvm() { return *hvm_; }
 
     void endHvm()

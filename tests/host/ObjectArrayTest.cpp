@@ -29,8 +29,6 @@ protected:
         }
     }
 
-    void TearDown() override { endHvm(); } // objects that end write to the log
-
     COSInterfacePtr object(char const* className) { return omGetArrayElement(hvm().construct(className).get(), 0); }
 
     static ArrayPtr matrix(std::size_t columns, char const* className)

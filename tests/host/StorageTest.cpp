@@ -32,8 +32,6 @@ std::string nameOf(Storage::Holder const* found)
 
 class StorageTest : public HvmTest {
 protected:
-    void TearDown() override { endHvm(); } // what is stored writes to the log
-
     std::uint64_t const id_ = Storage::getNextID(typeid(Value));
     std::uint64_t const otherID_ = Storage::getNextID(typeid(Value));
     std::type_info const& type_ = typeid(Value);

@@ -233,11 +233,7 @@ void describeAmount(ClassDescriber<Amount>& amount)
 class ValueClassTest : public HvmTest {
 protected:
     ValueClassTest() { publishClass<Amount, NonHandleClassInfo<Amount, Amount>>(&describeAmount); }
-    ~ValueClassTest() override
-    {
-        endHvm();
-        EXPECT_EQ(Amount::alive, 0);
-    }
+    ~ValueClassTest() override { EXPECT_EQ(Amount::alive, 0); }
 
     ArrayPtr amount(double value) { return hvm().construct("tests.Amount", inputs(number(value))); }
     ArrayPtr call(ArrayPtr const& object, char const* method, hvArray* input)

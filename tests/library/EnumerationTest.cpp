@@ -1,8 +1,7 @@
-#include "HvmTest.hpp"
+#include "library/FunctionsTest.hpp"
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/classes/EnumerationClassInfo.hpp"
-#include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
 
 #include "orbis/objectArrays.hpp"
@@ -82,41 +81,31 @@ void describeLamp(ClassDescriber<Lamp>& lamp)
         .staticProperty("first", [] { return Color::Blue; });
 }
 
-class EnumerationTest : public HvmTest {
+class EnumerationTest : public FunctionsTest {
 protected:
     EnumerationTest()
     {
         registerOrbisPackage("tests", [](COSPackage* package) {
             package->addClass(new EnumerationClassInfo<Color>("What a lamp shines in"));
             package->addClass(new Described<Lamp>(&describeLamp));
-            publish(package, describeFunctions()
-                                 .function("next", &next, "color")
-                                 .function("reversed", &reversed)
-                                 .function("numberOf", &numberOf)
-                                 .function("orRed", [](std::optional<Color> c) { return c.value_or(Color::Red); })
-                                 .function("unnamed",
-                                           [] {
-                                               return std::vector{Color::Red, Color(9)};
-                                           })
-                                 .function("mode", [](int mode) { return Mode(mode); })
-                                 .function("numberOfMode", [](Mode mode) { return int(mode); })
-                                 .function("modes", [](std::vector<Mode> modes) { return modes; }));
         });
+        publishFunctions(describeFunctions()
+                             .function("next", &next, "color")
+                             .function("reversed", &reversed)
+                             .function("numberOf", &numberOf)
+                             .function("orRed", [](std::optional<Color> c) { return c.value_or(Color::Red); })
+                             .function("unnamed",
+                                       [] {
+                                           return std::vector({Color::Red, Color(9)});
+                                       })
+                             .function("mode", [](int mode) { return Mode(mode); })
+                             .function("numberOfMode", [](Mode mode) { return int(mode); })
+                             .function("modes", [](std::vector<Mode> modes) { return modes; }));
     }
-    ~EnumerationTest() override
-    {
-        endHvm();
-        EXPECT_EQ(Lamp::alive, 0);
-    }
+    ~EnumerationTest() override { EXPECT_EQ(Lamp::alive, 0); }
 
     ArrayPtr color(char const* name) { return hvm().getEnumerator("tests.Color", name); }
     static ArrayPtr text(char const* text) { return ArrayPtr(hvCreateString(text)); }
-
-    ArrayPtr call(char const* function, ArrayPtr const& input)
-    {
-        return hvm().callFunction(std::string("tests.") + function,
-                                  std::span<hvArray* const>(inputs(input)).first(input ? 1 : 0));
-    }
 
     /// The names of the enumerators in an array.
     static std::string names(ArrayPtr const& array)
@@ -182,7 +171,7 @@ TEST_F(EnumerationTest, ValuesWithoutANameAreRefused)
         unknown + "tests.Color cannot pass on 9, which the host and the native code do not both have: the native code "
                   "has Blue, Red, Crimson, Green.";
     expectMessage([&] { hvm().callStatic("tests.Lamp", "unnamed"); }, {text});
-    expectMessage([&] { call("unnamed", nullptr); }, {text});
+    expectMessage([&] { call("unnamed"); }, {text});
     EXPECT_THROW(detail::enumeratorFromHost(detail::enumerationRecord<Color>, nullptr), std::exception);
 }
 

@@ -135,7 +135,6 @@ protected:
     ~HierarchyTest() override
     {
         Node::make = nullptr;
-        endHvm();
         EXPECT_EQ(Node::alive, 0);
     }
 

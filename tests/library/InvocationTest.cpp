@@ -18,11 +18,7 @@ namespace {
 class InvocationTest : public HvmTest {
 protected:
     InvocationTest() { TallyInfo::publishIn("tests"); }
-    ~InvocationTest() override
-    {
-        endHvm();
-        EXPECT_EQ(Tally::alive, 0);
-    }
+    ~InvocationTest() override { EXPECT_EQ(Tally::alive, 0); }
 
     ArrayPtr tally(double start) { return hvm().construct("tests.Tally", NumericInputs({start}).arrays); }
 

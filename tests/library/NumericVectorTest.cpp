@@ -1,7 +1,5 @@
-#include "HvmTest.hpp"
+#include "library/FunctionsTest.hpp"
 
-#include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 #include "orbis/factory/types/NumericSpanPolicy.hpp"
 #include "orbis/factory/types/NumericVectorPolicy.hpp"
 
@@ -37,33 +35,26 @@ int answer(A...)
 using Integers = std::vector<std::int32_t>;
 using Reals = std::vector<double>;
 
-class NumericVectorTest : public HvmTest {
+class NumericVectorTest : public FunctionsTest {
 protected:
     NumericVectorTest()
     {
-        registerOrbisPackage("vectors", [](COSPackage* package) {
-            publish(package, describeFunctions()
-                                 .function("sum", &sum)
-                                 .function(
-                                     "tail", +[](std::span<std::int16_t const> values) { return values.last(1); })
-                                 .function("real", &answer<1, double>)
-                                 .function("real", &answer<2, Reals>)
-                                 .function("integer", &answer<1, std::int32_t>)
-                                 .function("integer", &answer<2, Integers>)
-                                 .function("both", &answer<1, Integers>)
-                                 .function("both", &answer<2, Reals>));
-        });
-    }
-
-    ArrayPtr call(std::string const& function, ArrayPtr const& array)
-    {
-        return hvm().callFunction("vectors." + function, inputs(array));
+        publishFunctions(describeFunctions()
+                             .function("sum", &sum)
+                             .function(
+                                 "tail", +[](std::span<std::int16_t const> values) { return values.last(1); })
+                             .function("real", &answer<1, double>)
+                             .function("real", &answer<2, Reals>)
+                             .function("integer", &answer<1, std::int32_t>)
+                             .function("integer", &answer<2, Integers>)
+                             .function("both", &answer<1, Integers>)
+                             .function("both", &answer<2, Reals>));
     }
 
     template <class T>
     void publishReversed(char const* name)
     {
-        publish(COSPackage::getPackage("vectors"), describeFunctions().function(name, &reversed<T>));
+        publishFunctions(describeFunctions().function(name, &reversed<T>));
     }
 
     template <class T>
@@ -71,7 +62,7 @@ protected:
     {
         using Limits = std::numeric_limits<T>;
         publishReversed<T>(name);
-        auto const record = hvm().describeFunction(std::string("vectors.") + name);
+        auto const record = hvm().describeFunction(std::string("tests.") + name);
         EXPECT_EQ(record.inputs.at(0).dataType, dataType);
         EXPECT_EQ(record.outputs.at(0).dataType, dataType);
         for (auto const& values :

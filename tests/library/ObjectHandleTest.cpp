@@ -61,12 +61,7 @@ struct Ringed : full::Wrappable {
 class ObjectHandleTest : public HvmTest {
 protected:
     ObjectHandleTest() { TallyInfo::publishIn("tests"); }
-    ~ObjectHandleTest() override
-    {
-        endHvm();
-        EXPECT_EQ(Tally::alive, 0);
-        EXPECT_EQ(Linked::alive, 0);
-    }
+    ~ObjectHandleTest() override { EXPECT_EQ(Tally::alive + Linked::alive + Ringed::alive, 0); }
 
     static int references(Tally* tally)
     {

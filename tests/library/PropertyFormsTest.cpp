@@ -109,7 +109,6 @@ protected:
         publishClass<Image>(&describeImage);
         object_ = hvm().construct("tests.Image");
     }
-    ~PropertyFormsTest() override { object_.reset(); }
 
     Image& native()
     {

@@ -52,7 +52,6 @@ protected:
     }
     ~SharedObjectsTest() override
     {
-        this->endHvm();
         N::held.clear();
         N::known.clear();
         EXPECT_EQ(Object::alive, 0);

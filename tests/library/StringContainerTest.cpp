@@ -1,10 +1,8 @@
-#include "HvmTest.hpp"
+#include "library/FunctionsTest.hpp"
 #include "library/texts.hpp"
 
 #include "orbis/factory/base/argumentErrors.hpp"
 #include "orbis/factory/base/errorIdentities.hpp"
-#include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
 #include "orbis/factory/types/StringViewPolicy.hpp"
 #include "orbis/factory/types/stringVectors.hpp"
@@ -21,29 +19,21 @@ using Strings = std::vector<fl::ustring>;
 using StringSet = std::set<fl::ustring>;
 using Utf8Strings = std::vector<std::string>;
 
-class StringContainerTest : public HvmTest {
+class StringContainerTest : public FunctionsTest {
 protected:
     StringContainerTest()
     {
-        registerOrbisPackage("tests", [](COSPackage* package) {
-            publish(package,
-                    describeFunctions()
-                        .function("vector", [](Strings const& strings) { return strings; })
-                        .function("set", [](StringSet strings) { return strings; })
-                        .function("utf8", [](Utf8Strings const& strings) { return strings; })
-                        .function("maybe", [](std::optional<Utf8Strings> strings) { return strings.has_value(); })
-                        .function("view", [](std::string_view text) { return text; })
-                        .function("wide", [](std::u16string_view text) { return text.substr(1); })
-                        .function("length", [](std::string_view text) { return double(text.size()); })
-                        .function("maybeView", [](std::optional<std::string_view> const& text) {
-                            return text ? std::string(*text) : std::string("none");
-                        }));
-        });
-    }
-
-    ArrayPtr call(std::string const& function, ArrayPtr const& input)
-    {
-        return hvm().callFunction("tests." + function, inputs(input));
+        publishFunctions(describeFunctions()
+                             .function("vector", [](Strings const& strings) { return strings; })
+                             .function("set", [](StringSet strings) { return strings; })
+                             .function("utf8", [](Utf8Strings const& strings) { return strings; })
+                             .function("maybe", [](std::optional<Utf8Strings> strings) { return strings.has_value(); })
+                             .function("view", [](std::string_view text) { return text; })
+                             .function("wide", [](std::u16string_view text) { return text.substr(1); })
+                             .function("length", [](std::string_view text) { return double(text.size()); })
+                             .function("maybeView", [](std::optional<std::string_view> const& text) {
+                                 return text ? std::string(*text) : std::string("none");
+                             }));
     }
 
     /// The texts in a column of cells.

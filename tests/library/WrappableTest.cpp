@@ -40,11 +40,7 @@ namespace {
 
 class WrappableTest : public HvmTest {
 protected:
-    ~WrappableTest() override
-    {
-        endHvm();
-        EXPECT_EQ(Thing::alive, 0);
-    }
+    ~WrappableTest() override { EXPECT_EQ(Thing::alive, 0); }
 
     static void publishThing()
     {
