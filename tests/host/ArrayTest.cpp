@@ -1,8 +1,6 @@
 #include "HvmTest.hpp"
 #include "messageIdOf.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 #include <array>
 #include <cstdint>
 #include <cstring>

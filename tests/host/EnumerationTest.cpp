@@ -167,7 +167,7 @@ TEST_F(EnumerationTest, OneObjectForEachEnumeratorAndMachine)
 {
     COSInterfacePtr const red = getEnumerator("t.Color", "Red");
     ArrayPtr const again = hvm().getEnumerator("t.Color", "Crimson");
-    EXPECT_EQ(orbis::omGetArrayElement(again.get(), 0), static_cast<orbis::COSInterface*>(red));
+    EXPECT_EQ(objectIn(again), static_cast<orbis::COSInterface*>(red));
     EXPECT_NE(getEnumerator("t.Color", "Blue"), static_cast<orbis::COSInterface*>(red));
     EXPECT_EQ(getEnumerator("t.Color", "Purple"), nullptr);
     EXPECT_EQ(getEnumerator("t.Other", "Red"), nullptr);
@@ -176,7 +176,7 @@ TEST_F(EnumerationTest, OneObjectForEachEnumeratorAndMachine)
     EXPECT_EQ(errorOf([&] { hvm().getEnumerator("t.Other", "Red"); }), "VELMARA:enumeration:notEnumeration");
     EXPECT_EQ(describeEnumerator(nullptr), nullptr);
     ArrayPtr const other = hvm().construct("t.Other");
-    EXPECT_EQ(describeEnumerator(orbis::omGetArrayElement(other.get(), 0)), nullptr);
+    EXPECT_EQ(describeEnumerator(objectIn(other)), nullptr);
     Enumerator const& blue = *describeEnumerator(getEnumerator("t.Color", "Blue"));
     EXPECT_EQ(std::pair(blue.value, blue.position), std::pair(std::int64_t(1) << 40, std::size_t(3)));
 

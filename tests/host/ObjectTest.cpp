@@ -37,8 +37,6 @@ protected:
         }
     }
 
-    static COSInterfacePtr objectIn(ArrayPtr const& array) { return orbis::omGetArrayElement(array.get(), 0); }
-
     std::string log_;
     char failing_ = 0;
     std::function<void(char, COSInterface*)> onDestroy_;
@@ -218,8 +216,7 @@ TEST_F(ObjectTest, LiveObjectsAreListedWithWhoHoldsThem)
     publishHierarchy();
     EXPECT_TRUE(hvm().objects().empty());
     ArrayPtr const b = hvm().construct("B"), first = hvm().construct("A"), second = hvm().construct("A");
-    ArrayPtr const pair(orbis::omCreateORBISMatrix(1, 2, "A"));
-    orbis::omSetArrayElement(pair.get(), 0, objectIn(first));
+    ArrayPtr const pair = rowOf("A", {&first, nullptr});
     COSInterfacePtr const strong = objectIn(second);
     COSInterfacePtr weak = objectIn(second);
     weak.setReferenceType(orbis::COSReferenceType::Weak);

@@ -40,7 +40,7 @@ TEST_F(VirtualMachineTest, EndsObjectsThenPackagesThenStorage)
                         EXPECT_EQ(orbis::COSClass::getClass("A"), nullptr);
                     }));
     ArrayPtr const left = hvm().construct("A");
-    COSInterfacePtr handle = orbis::omGetArrayElement(left.get(), 0);
+    COSInterfacePtr handle = objectIn(left);
     endHvm();
     EXPECT_EQ(log, "object info storage ");
     EXPECT_FALSE(velmara::isValid(left.get()));

@@ -6,8 +6,6 @@
 #include "orbis/factory/types/OptionalPolicy.hpp"
 #include "orbis/factory/withDefaults.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 using namespace orbis;
 using namespace orbis::factory;
 using Counted = hvArrayReferenceCountedProxy;
@@ -21,9 +19,8 @@ TEST_F(ArrayProxyTest, PlainProxiesConvertToTheOneObjectOnly)
 {
     TallyInfo::publishIn("tests");
     ArrayPtr const tally = hvm().construct("tests.Tally"), one = number(1);
-    ArrayPtr const pair(omCreateORBISMatrix(1, 2, "tests.Tally")), empty(omCreateORBISMatrix(0, 0, "tests.Tally"));
-    omSetArrayElement(pair.get(), 0, omGetArrayElement(tally.get(), 0));
-    COSInterfacePtr const object = omGetArrayElement(tally.get(), 0);
+    ArrayPtr const pair = rowOf("tests.Tally", {&tally, nullptr}), empty(omCreateORBISMatrix(0, 0, "tests.Tally"));
+    COSInterfacePtr const object = objectIn(tally);
     COSInterface* const raw = object;
     for (hvArray* const array : {tally.get(), pair.get(), empty.get(), one.get(), static_cast<hvArray*>(nullptr)}) {
         COSInterfacePtr const found = hvArrayProxy(array), foundConst = hvConstArrayProxy(array);

@@ -10,8 +10,6 @@
 #include "orbis/factory/ownership/BindingRegistry.hpp"
 #include "orbis/factory/ownership/FooRegistry.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 #include <cstdio>
 #include <functional>
 

@@ -8,8 +8,6 @@
 #include "orbis/factory/ownership/FooRegistry.hpp"
 #include "orbis/factory/types/ObjectVectorPolicy.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 #include <memory>
 #include <stdexcept>
 #include <thread>

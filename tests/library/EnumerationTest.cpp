@@ -4,8 +4,6 @@
 #include "orbis/factory/classes/EnumerationClassInfo.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 using namespace orbis;
 using namespace orbis::factory;
 using velmara::ArrayPtr;
@@ -112,7 +110,7 @@ protected:
     {
         std::string text = std::to_string(array->get_dimensions()[0]) + "-by-n";
         for (std::size_t i = 0; i < array->get_number_of_elements(); ++i)
-            text += std::string(" ") + additions::describeEnumerator(omGetArrayElement(array.get(), i))->name;
+            text += std::string(" ") + additions::describeEnumerator(objectIn(array, i))->name;
         return text;
     }
 };

@@ -3,8 +3,6 @@
 
 #include "orbis/factory/ownership/FooRegistry.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 #include <functional>
 #include <stdexcept>
 

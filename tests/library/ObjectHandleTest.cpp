@@ -5,8 +5,6 @@
 #include "orbis/factory/ObjectHandle.hpp"
 #include "orbis/factory/ownership/BindingRegistry.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 #include <algorithm>
 #include <cstddef>
 #include <memory>
@@ -127,7 +125,7 @@ TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
     first.reset();
     second.reset();
     ArrayPtr const handedOut = hvm().construct("tests.Linked", NumericInputs{1}.arrays);
-    COSInterfacePtr const host = omGetArrayElement(handedOut.get(), 0);
+    COSInterfacePtr const host = objectIn(handedOut);
     EXPECT_EQ(basic::BindingRegistry::find(host->getNativeObject(COSNameID("tests.Linked"))), host);
     EXPECT_EQ(hvm().get(handedOut.get(), "next")->get_number_of_elements(), 0u);
     hvm().deleteObjects(handedOut.get());

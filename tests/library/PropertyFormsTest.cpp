@@ -9,7 +9,6 @@
 
 #include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSDataType.hpp"
-#include "orbis/objectArrays.hpp"
 
 #include <algorithm>
 #include <stdexcept>
@@ -110,11 +109,7 @@ protected:
         object_ = hvm().construct("tests.Image");
     }
 
-    Image& native()
-    {
-        COSInterface* const host = omGetArrayElement(object_.get(), 0);
-        return *static_cast<Image*>(host->getNativeObject(COSNameID("tests.Image")));
-    }
+    Image& native() { return *static_cast<Image*>(objectIn(object_)->getNativeObject(COSNameID("tests.Image"))); }
 
     template <class T>
     T read(char const* name)
@@ -216,7 +211,7 @@ TEST_F(PropertyFormsTest, DescriptorsAreMadeFromTheDescription)
     EXPECT_EQ(made("shown")->getMemberSetAccess(), MemberAccess::NoAccess);
     EXPECT_EQ(made("twin")->getMemberSetAccess(), MemberAccess::NoAccess) << "a function is no data";
     EXPECT_STREQ(made("title")->getDataType()->scalarTypeName(), "char vector");
-    COSInterface* const host = omGetArrayElement(object_.get(), 0);
+    COSInterface* const host = objectIn(object_);
     for (std::string const& error : {messageIdOf([&] { made("extent")->getValue(host); }),
                                      messageIdOf([&] { made("extent")->releaseValue(host, {}); }),
                                      messageIdOf([&] { made("scale")->setValue(host, COSValue(1.0)); })})
@@ -247,7 +242,7 @@ struct Told final : impl::PropertyImpl {
 TEST_F(PropertyFormsTest, MissingSidesHaveNoAccess)
 {
     ArrayPtr const other = hvm().construct("tests.Image");
-    COSInterface* const object = omGetArrayElement(object_.get(), 0);
+    COSInterface* const object = objectIn(object_);
     impl::ClassGetter<int, Image, int (Image::*)() const, int> getter(&Image::getWidth);
     impl::ClassGetter<Image*, Image, Image* (Image::*)() const, Image*> objectGetter(&Image::getNext);
     impl::ClassSetter<int, Image, void (Image::*)(int)> setter(&Image::setWidth);
@@ -281,7 +276,7 @@ TEST_F(PropertyFormsTest, MissingSidesHaveNoAccess)
     EXPECT_FALSE(held.getInterfaces(nullptr, object).hasMoreElements());
     hvm().set(object_.get(), "next", other.get());
     auto interfaces = held.getInterfaces(nullptr, object);
-    EXPECT_EQ(interfaces.nextElement(), static_cast<COSInterface*>(omGetArrayElement(other.get(), 0)));
+    EXPECT_EQ(interfaces.nextElement(), objectIn(other));
     EXPECT_FALSE(interfaces.hasMoreElements());
     EXPECT_FALSE(both.getInterfaces(nullptr, object).hasMoreElements());
 }
