@@ -142,12 +142,8 @@ TEST_F(DispatchTest, OfManyTheNearestAreListed)
 
 TEST_F(DispatchTest, NumbersAreNeverCut)
 {
-    struct Row {
-        std::string type;
-        std::vector<double> fitting, refused;
-    };
     constexpr double two31 = 2147483648.0, two53 = 9007199254740992.0, two63 = 9223372036854775808.0;
-    Row const rows[] = {
+    std::tuple<std::string, std::vector<double>, std::vector<double>> const rows[] = {
         {"int8 scalar", {-128, 127}, {-129, 128}},
         {"uint8 scalar", {255, -0.0}, {-1}},
         {"int16 scalar", {}, {32768}},
@@ -160,8 +156,8 @@ TEST_F(DispatchTest, NumbersAreNeverCut)
         {"logical scalar", {1}, {2, notANumber}},
     };
     publish(new Class("N", [&rows](orbis::COSClass* cls) {
-        for (Row const& row : rows)
-            cls->addMethod(answering(row.type, {row.type}, 1, {.isStatic = true}));
+        for (auto const& [type, fitting, refused] : rows)
+            cls->addMethod(answering(type, {type}, 1, {.isStatic = true}));
     }));
     for (auto const& [type, fitting, refused] : rows) {
         auto const outcome = [&, type = type](double value) {
@@ -190,15 +186,12 @@ TEST_F(DispatchTest, WholeNumbersOfOtherClassesKeepTheirValue)
     }));
     ArrayPtr const large = array(std::int64_t(1) << 60), odd = array((std::int64_t(1) << 53) + 1);
     ArrayPtr const negative = array(std::int16_t(-5));
-    struct Case {
-        char const* type;
-        ArrayPtr const& given;
-        std::optional<double> value; ///< none where it is refused
-    };
+    using Case = std::tuple<char const*, ArrayPtr const&, std::optional<double>>; // none where it is refused
     for (auto const& [type, given, value] :
          {Case{"double scalar", large, 0x1p60}, Case{"uint64 scalar", large, 0x1p60},
           Case{"single scalar", large, 0x1p60}, Case{"single scalar", odd, 0x1p53}, Case{"int8 scalar", negative, -5},
-          Case{"double scalar", odd, {}}, Case{"uint64 scalar", negative, {}}, Case{"int8 scalar", large, {}}}) {
+          Case{"double scalar", odd, std::nullopt}, Case{"uint64 scalar", negative, std::nullopt},
+          Case{"int8 scalar", large, std::nullopt}}) {
         std::optional<double> seen;
         auto const call = [&, t = type, &g = given] { seen = scalar<double>(hvm().callStatic("N", t, inputs(g))); };
         EXPECT_EQ(errorOf(call), value ? "" : "VELMARA:dispatch:noMatch") << type;

@@ -120,11 +120,7 @@ TEST_F(PropertyTest, EachMisuseHasAnErrorOfItsOwn)
         add("plain", true, true, MemberAccess::Public, false);
     }));
     ArrayPtr const q = hvm().construct("Q"), value = number(1);
-    struct Case {
-        char const* name;
-        char const* reading;
-        char const* writing;
-    };
+    using Case = std::tuple<char const*, char const*, char const*>;
     for (auto const& [name, reading, writing] :
          {Case{"private", "getAccess", "setAccess"}, Case{"protected", "getAccess", "setAccess"},
           Case{"privateReader", "getAccess", "setAccess"}, Case{"abstract", "abstract", "abstract"},

@@ -29,12 +29,7 @@ std::string taken(char* text, void (*release)(void*))
 
 TEST_F(TextArrayTest, CharacterArraysHoldUtf16)
 {
-    struct {
-        velmara::ArrayPtr array;
-        std::size_t rows, columns;
-        std::string utf8;
-        std::u16string utf16;
-    } const cases[] = {
+    std::tuple<velmara::ArrayPtr, std::size_t, std::size_t, std::string, std::u16string> const cases[] = {
         {velmara::ArrayPtr(hvCreateString("gr\xC3\xBC\xC3\x9F")), 1, 4, "gr\xC3\xBC\xC3\x9F", u"gr\xFC\xDF"},
         {velmara::ArrayPtr(hvCreateString("a\xFF")), 1, 2, "a\xEF\xBF\xBD", u"a\xFFFD"},
         {velmara::ArrayPtr(hvCreateString_UTF16(u"\xD83D\xDE00")), 1, 2, "\xF0\x9F\x98\x80", u"\xD83D\xDE00"},

@@ -170,10 +170,7 @@ TEST_F(HierarchyTest, BaseMembersWorkOnDerivedObjects)
 
 TEST_F(HierarchyTest, ABasePointerYieldsTheMostDerivedPublishedClass)
 {
-    struct Case {
-        Node* node;
-        char const* name;
-    };
+    using Case = std::pair<Node*, char const*>;
     // Nothing but Node is described when the first one crosses.
     for (auto const& [node, name] :
          {Case{new Leaf, "tests.Leaf"}, Case{new Branch, "tests.Branch"}, Case{new Bud, "tests.Leaf"},

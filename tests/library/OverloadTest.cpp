@@ -50,11 +50,7 @@ protected:
 TEST_F(OverloadTest, ExactBeatsConvertibleBeatsAny)
 {
     ArrayPtr const a = characters(u"a");
-    struct Case {
-        char const* function;
-        ArrayPtr input;
-        char16_t const* chosen;
-    };
+    using Case = std::tuple<char const*, ArrayPtr, char16_t const*>;
     for (auto const& [function, input, chosen] :
          {Case{"four", characters(u""), u"text"}, Case{"four", strings({u"a"}), u"text"},
           Case{"four", strings({u"a", u"b"}), u"strings"}, Case{"four", strings({{}}), u"strings"},

@@ -133,11 +133,8 @@ protected:
 
 TEST_F(PropertyFormsTest, ScalarsThroughDataAndFunctions)
 {
-    struct Case {
-        char const* name;
-        double first;  ///< what it reads as in the beginning
-        double second; ///< what it reads as once 7 was written; the same when it refuses that
-    };
+    // What it reads as at first, and after 7 was written; the same where that is refused.
+    using Case = std::tuple<char const*, double, double>;
     for (auto const& [name, first, second] :
          {Case{"width", 3, 7}, Case{"scale", 0.5, 0.5}, Case{"shown", 7, 7}, Case{"mixed", 7, 14},
           Case{"doubled", 28, 6}, Case{"global", 3.25, 3.25}, Case{"limit", 10, 7}, Case{"limitByFunctions", 7, 7},
@@ -251,11 +248,7 @@ TEST_F(PropertyFormsTest, MissingSidesHaveNoAccess)
     impl::PropertyImpl const both("b", &getter, &setter, P::PrivateSetter());
     impl::PropertyImpl const held("h", &objectGetter, {});
 
-    struct Case {
-        impl::PropertyImpl const& property;
-        int get, set;
-        bool isTransient, canContain;
-    };
+    using Case = std::tuple<impl::PropertyImpl const&, int, int, bool, bool>;
     for (auto const& [property, get, set, isTransient, canContain] :
          {Case{readOnly, 0, 5, true, false}, Case{writeOnly, 5, 0, true, true}, Case{both, 0, 2, false, false},
           Case{held, 0, 5, true, true}}) {

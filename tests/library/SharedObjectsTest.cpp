@@ -117,14 +117,10 @@ TYPED_TEST(SharedObjectsTest, RowsHaveTheMostSpecificCommonClass)
 {
     auto const base = TypeParam::name, derived = TypeParam::derivedName;
     ArrayPtr const a = this->make(), b = this->make(true), c = this->make(true);
-    struct Case {
-        ArrayPtr row;
-        char const* cls;
-    };
-    Case cases[] = {{this->row({&a, &b}), base},
-                    {this->row({&b, nullptr, &c}), derived},
-                    {this->row({}), base},
-                    {this->row({nullptr}), base}};
+    std::pair<ArrayPtr, char const*> const cases[] = {{this->row({&a, &b}), base},
+                                                      {this->row({&b, nullptr, &c}), derived},
+                                                      {this->row({}), base},
+                                                      {this->row({nullptr}), base}};
     for (auto const& [row, cls] : cases) {
         this->call("hold", row);
         this->call("know", row);

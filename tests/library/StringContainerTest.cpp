@@ -104,11 +104,7 @@ TEST_F(StringContainerTest, ViewsSeeTextThatTheCallOwns)
 TEST_F(StringContainerTest, EveryMistakeHasItsErrorInTheScript)
 {
     ArrayPtr const a = characters(u"a"), omega = characters(u"\u03A9"), one = number(1), string = strings({u"b"});
-    struct Case {
-        char const* function;
-        ArrayPtr input;
-        std::string id, text;
-    };
+    using Case = std::tuple<char const*, ArrayPtr, std::string, std::string>;
     std::string const own = "orbis_factory:orbis_factory:", noMatch = "VELMARA:dispatch:noMatch";
     for (auto const& [function, input, id, text] :
          {Case{"vector", cells({a.get(), a.get(), one.get()}), own + "must_be_string", "Element 2 (counted from 0)"},
