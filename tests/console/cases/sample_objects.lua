@@ -1,12 +1,9 @@
 -- The samples of objects: what they refuse, what they survive, and which side ends when the other one does.
 print(OrbisFactoryBuiltInTester():getInt8()) -- before anything of its package was needed
 local of = orbis_factory
-local function refused(f, ...) -- of the candidates' reasons, the last one's
-  local ok, message = pcall(f, ...)
-  message = tostring(message):gsub("VELMARA:native:exception: Native code failed: ", "native: ")
-  print(ok and "not refused" or message:match("[^\n]*$"))
-end
-local function eachRefused(calls) for _, call in ipairs(calls) do refused(table.unpack(call)) end end
+local refused, eachRefused = loadfile("../refused.lua")(function(err) -- of the candidates' reasons, the last one's
+  return tostring(err):gsub("VELMARA:native:exception: Native code failed: ", "native: "):match("[^\n]*$")
+end)
 local function states(...)
   local texts = {}
   for _, object in ipairs({...}) do texts[#texts + 1] = isvalid(object) and "valid" or "ended" end
