@@ -7,14 +7,7 @@
 using namespace described;
 using velmara::ArrayPtr;
 
-namespace {
-
-class ClassTest : public HvmTest {
-protected:
-    int counter_ = 0;
-};
-
-} // namespace
+using ClassTest = HvmTest;
 
 TEST_F(ClassTest, FailedDescriptionIsDroppedNamedAndTriedAgain)
 {
@@ -31,36 +24,31 @@ TEST_F(ClassTest, FailedDescriptionIsDroppedNamedAndTriedAgain)
     EXPECT_EQ(attempts, 2);
 }
 
-TEST_F(ClassTest, MembersThatAreRefusedAreNotLost)
+TEST_F(ClassTest, RefusedMembersAreNotLeaked)
 {
-    auto const idOfDescribing = [this](std::function<void(orbis::COSClass*)> const& describe) {
-        std::string id;
-        std::string const name = "K" + std::to_string(++counter_);
-        publish(new Class(name, [&](orbis::COSClass* cls) { id = messageIdOf([&] { describe(cls); }); }));
+    auto const f = [](std::vector<std::string> const& inputs) { return answering("f", inputs, 1, {.isStatic = true}); };
+    std::pair<char const*, std::function<void(orbis::COSClass*)>> const cases[] = {
+        {"VELMARA:class:duplicateMember",
+         [&](orbis::COSClass* cls) {
+             for (std::size_t const count : {1, 2, 1})
+                 cls->addMethod(f(std::vector<std::string>(count, "any")));
+         }},
+        {"VELMARA:class:duplicateMember",
+         [&](orbis::COSClass* cls) {
+             cls->addMethod(f({"any"}));
+             auto* const property = new Property;
+             property->name = "f";
+             cls->addProperty(property);
+         }},
+        {"VELMARA:member:name", [](orbis::COSClass* cls) { cls->addMethod(answering("", {"any"}, 1)); }},
+        {"VELMARA:member:noObjectInput", [](orbis::COSClass* cls) { cls->addMethod(answering("f", {}, 1)); }},
+    };
+    for (std::size_t i = 0; i < std::size(cases); ++i) {
+        std::string id, name = "K" + std::to_string(i);
+        publish(new Class(name, [&](orbis::COSClass* cls) { id = messageIdOf([&] { cases[i].second(cls); }); }));
         hvm().describeClass(name);
-        return id;
-    };
-    auto const property = [] {
-        auto* const made = new Property;
-        made->name = "f";
-        return made;
-    };
-    auto const statically = MethodTraits{.isStatic = true};
-    EXPECT_EQ(idOfDescribing([&](orbis::COSClass* cls) {
-                  cls->addMethod(answering("f", {"any"}, 1, statically));
-                  cls->addMethod(answering("f", {"any", "any"}, 1, statically));
-                  cls->addMethod(answering("f", {"any"}, 1, statically));
-              }),
-              "VELMARA:class:duplicateMember");
-    EXPECT_EQ(idOfDescribing([&](orbis::COSClass* cls) {
-                  cls->addMethod(answering("f", {"any"}, 1, statically));
-                  cls->addProperty(property());
-              }),
-              "VELMARA:class:duplicateMember");
-    EXPECT_EQ(idOfDescribing([](orbis::COSClass* cls) { cls->addMethod(answering("", {"any"}, 1)); }),
-              "VELMARA:member:name");
-    EXPECT_EQ(idOfDescribing([](orbis::COSClass* cls) { cls->addMethod(answering("f", {}, 1)); }),
-              "VELMARA:member:noObjectInput");
+        EXPECT_EQ(id, cases[i].first);
+    }
     orbis::COSClass* const cls = orbis::COSClass::getClass("K1");
     EXPECT_EQ(messageIdOf([&] { cls->addMethod(answering("g", {"K1"}, 1)); }), "VELMARA:class:closed");
     EXPECT_EQ(messageIdOf([&] { publish(new Class("K1")); }), "VELMARA:package:duplicate");

@@ -246,12 +246,10 @@ TEST_F(DispatchTest, MembersOpenToCalls)
                                   [](Call const& call) { call.give(COSValue(hvCreateCellMatrix(1, 1))); }));
     }));
     ArrayPtr const m = hvm().construct("M"), one = number(1);
-    for (auto const& [name, error] : {std::pair("hidden", "member:access"),
-                                      {"mixed", "dispatch:noMatch"},
-                                      {"abstract", "member:abstract"},
-                                      {"missing", "member:unknown"},
-                                      {"lies", "result:type"},
-                                      {"liesMore", "result:type"}})
+    using Case = std::pair<char const*, char const*>;
+    for (auto const& [name, error] :
+         {Case{"hidden", "member:access"}, Case{"mixed", "dispatch:noMatch"}, Case{"abstract", "member:abstract"},
+          Case{"missing", "member:unknown"}, Case{"lies", "result:type"}, Case{"liesMore", "result:type"}})
         EXPECT_EQ(errorOf([&, name = name] { hvm().call(m.get(), name); }), std::string("VELMARA:") + error) << name;
     EXPECT_EQ(scalar<double>(hvm().call(m.get(), "mixed", inputs(one))), 2);
     EXPECT_EQ(scalar<double>(hvm().call(m.get(), "static", inputs(one))), 3);

@@ -141,17 +141,13 @@ TEST_F(EnumerationTest, ObjectsTextAndNumbersMeanEnumerators)
 
 TEST_F(EnumerationTest, TheBestOverloadIsChosen)
 {
-    std::pair<ArrayPtr, char const*> cases[] = {{objects({"Red"}), "t.Color"},
-                                                {objects({"Red", "Red"}), "t.Color vector"},
-                                                {text(u"Red"), "t.Color"},
-                                                {text(u"Purple"), "any"},
-                                                {doubles({1}), "double scalar"},
-                                                {matrix<std::int8_t>(1, 1, {9}), "double scalar"},
-                                                {strings({u"Red"}), "t.Color"},
-                                                {strings({u"Red", u"Blue"}), "t.Color vector"},
-                                                {cells(text(u"Red")), "t.Color vector"},
-                                                {objects({}), "t.Color vector"}};
-    for (auto const& [input, chosen] : cases)
+    using Case = std::pair<ArrayPtr, char const*>;
+    for (auto const& [input, chosen] :
+         {Case{objects({"Red"}), "t.Color"}, Case{objects({"Red", "Red"}), "t.Color vector"},
+          Case{text(u"Red"), "t.Color"}, Case{text(u"Purple"), "any"}, Case{doubles({1}), "double scalar"},
+          Case{matrix<std::int8_t>(1, 1, {9}), "double scalar"}, Case{strings({u"Red"}), "t.Color"},
+          Case{strings({u"Red", u"Blue"}), "t.Color vector"}, Case{cells(text(u"Red")), "t.Color vector"},
+          Case{objects({}), "t.Color vector"}})
         EXPECT_EQ(answer("t.chosen", input), chosen);
 }
 

@@ -69,11 +69,10 @@ TEST_F(PropertyTest, ReadAndWrittenEachOnItsOwnTerms)
     EXPECT_EQ(scalar<std::int32_t>(read("size")), 7);
     EXPECT_EQ(read("readOnly")->get_number_of_elements(), 4u);
     write("writeOnly", seven);
-    for (auto const& [name, error] : {std::pair("writeOnly", "property:writeOnly"),
-                                      {"lies", "result:type"},
-                                      {"unknown", "property:dataType"},
-                                      {"fails", "native:exception"},
-                                      {"missing", "property:unknown"}})
+    using Case = std::pair<char const*, char const*>;
+    for (auto const& [name, error] :
+         {Case{"writeOnly", "property:writeOnly"}, Case{"lies", "result:type"}, Case{"unknown", "property:dataType"},
+          Case{"fails", "native:exception"}, Case{"missing", "property:unknown"}})
         EXPECT_EQ(errorOf([&, name = name] { read(name); }), std::string("VELMARA:") + error) << name;
     EXPECT_EQ(unreleased_, 0);
     EXPECT_EQ(errorOf([&] { write("size", number(0.5)); }), "VELMARA:property:value");

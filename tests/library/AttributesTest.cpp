@@ -107,13 +107,12 @@ TEST(PropertyAttributes, AccessOfTheTwoSidesIsIndependent)
 
 TEST(String, OwnsItsText)
 {
-    String text("");
-    EXPECT_STREQ(text, "");
-    text = String(std::string("abc"));
+    String text(std::string("abc"));
     String const& same = text;
     text = same;
     String const copy(text);
-    text = String("other");
+    text = String("");
+    EXPECT_STREQ(text, "");
     EXPECT_STREQ(copy, "abc");
 }
 

@@ -77,11 +77,7 @@ PUBLISHED_IN_TESTS(Node, using Root = Node;)
 PUBLISHED_IN_TESTS(Leaf, using Root = Node;)
 PUBLISHED_IN_TESTS(Branch, using Root = Node;)
 PUBLISHED_IN_TESTS(Part)
-template <>
-struct orbis::factory::HostClass<Twig> {
-    static constexpr char const* name = "twigs.Twig";
-    using Root = Node;
-};
+PUBLISHED_IN("twigs", Twig, using Root = Node;)
 PUBLISHED_IN_TESTS(Wheel)
 PUBLISHED_IN_TESTS(Motor)
 PUBLISHED_IN_TESTS(Wheelmotor)
