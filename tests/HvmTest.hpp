@@ -88,18 +88,6 @@ protected:
         return lines;
     }
 
-    /// Numbers as inputs of a call.
-    struct NumericInputs {
-        NumericInputs(std::initializer_list<double> numbers)
-        {
-            for (double const value : numbers)
-                arrays.push_back(owners.emplace_back(number(value)).get());
-        }
-
-        std::vector<velmara::ArrayPtr> owners;
-        std::vector<hvArray*> arrays;
-    };
-
     /// The element of a 1-by-1 array of the native type's class.
     template <class T>
     static T scalar(velmara::ArrayPtr const& array)

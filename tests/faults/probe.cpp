@@ -147,7 +147,7 @@ struct orbis::factory::HostDataType<Length> {
 
 namespace {
 
-/// A class info whose every answer may fail; what it has to give back is given back before.
+/// A class info whose every answer may fail; it releases what it has to before that.
 template <class T, class Base>
 struct Info final : Base {
     Info() : Base(HostClass<T>::name, "") {}

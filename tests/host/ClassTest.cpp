@@ -127,7 +127,7 @@ TEST_F(ClassTest, HierarchiesAreOrderedAndFreeOfCycles)
         EXPECT_EQ(errorOf([&] { hvm().construct(bad); }), "VELMARA:class:initialization") << bad;
 }
 
-TEST_F(ClassTest, UnpublishedBaseTakesItsSubclassesBack)
+TEST_F(ClassTest, UnpublishingABaseUnpublishesItsSubclasses)
 {
     int destroyed = 0;
     auto const publishBase = [&] {

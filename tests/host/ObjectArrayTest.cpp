@@ -11,7 +11,7 @@ using velmara::ArrayPtr;
 
 namespace {
 
-/// "Left" and "Right" below "Base", and "Other"; the log has the first letter of each object that ended.
+/// "Left" and "Right" below "Base", and "Other"; the log has the first letter of each destroyed object.
 class ObjectArrayTest : public HvmTest {
 protected:
     ObjectArrayTest()
@@ -22,7 +22,7 @@ protected:
                 info->describe = [](orbis::COSClass* cls) { setSuperclass(cls, "Base"); };
             info->destroy = [this, name](COSInterface*, void*) {
                 log_ += *name;
-                if (auto const then = std::exchange(whenEnded_, nullptr))
+                if (auto const then = std::exchange(whenDestroyed_, nullptr))
                     then();
             };
             publish(info);
@@ -37,7 +37,7 @@ protected:
     }
 
     std::string log_;
-    std::function<void()> whenEnded_;
+    std::function<void()> whenDestroyed_;
 };
 
 } // namespace
@@ -116,12 +116,12 @@ TEST_F(ObjectArrayTest, ElementsAreOfTheArraysClass)
     EXPECT_EQ(velmara::className(empty.get()), "Right");
 }
 
-TEST_F(ObjectArrayTest, AnObjectThatEndsMayUseWhatHeldIt)
+TEST_F(ObjectArrayTest, ADestroyedObjectMayUseItsFormerHolder)
 {
     ArrayPtr const row = matrix(2, "Other");
     COSInterfacePtr handle = object("Other");
     omSetArrayElement(row.get(), 0, object("Other"));
-    whenEnded_ = [&] {
+    whenDestroyed_ = [&] {
         EXPECT_EQ(omGetArrayElement(row.get(), 0), static_cast<COSInterface*>(handle));
         omSetArrayElement(row.get(), 0, nullptr);
     };
@@ -129,7 +129,7 @@ TEST_F(ObjectArrayTest, AnObjectThatEndsMayUseWhatHeldIt)
     EXPECT_EQ(omGetArrayElement(row.get(), 0), nullptr);
 
     COSInterfacePtr const next = object("Other");
-    whenEnded_ = [&] { EXPECT_EQ(handle, static_cast<COSInterface*>(next)); };
+    whenDestroyed_ = [&] { EXPECT_EQ(handle, static_cast<COSInterface*>(next)); };
     handle = next;
     EXPECT_EQ(log_, "OO");
     EXPECT_EQ(next->getExternalReferenceCount(), 2);

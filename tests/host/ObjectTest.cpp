@@ -44,7 +44,7 @@ protected:
 
 } // namespace
 
-TEST_F(ObjectTest, InstanceDataIsMadeFromTheBaseAndDestroyedToTheBaseOnce)
+TEST_F(ObjectTest, InstanceDataIsCreatedFromTheBaseAndDestroyedToTheBaseOnce)
 {
     publishHierarchy();
     ArrayPtr c = hvm().construct("C");
@@ -81,7 +81,7 @@ TEST_F(ObjectTest, SuperclassesWithoutNativeObjectsHaveThatOfTheObjectsClass)
     }
 }
 
-TEST_F(ObjectTest, EndsOnceInEveryOrder)
+TEST_F(ObjectTest, ObjectsAreDestroyedOnceInEveryOrder)
 {
     publishHierarchy();
     ArrayPtr deleted = hvm().construct("A"), atEnd = hvm().construct("A"), invalid = hvm().construct("A");
@@ -105,16 +105,16 @@ TEST_F(ObjectTest, EndsOnceInEveryOrder)
     EXPECT_EQ(objectIn(atEnd)->getNativeObject("A"), nullptr);
 }
 
-TEST_F(ObjectTest, ReferencesMayMoveWhileAnObjectEnds)
+TEST_F(ObjectTest, ReferencesMayMoveWhileAnObjectIsDestroyed)
 {
     publishHierarchy();
     COSInterfacePtr kept;
     ArrayPtr other = hvm().construct("A");
     onDestroy_ = [&](char, COSInterface* object) {
-        kept = object; // taken and given back
+        kept = object; // acquired and released
         kept = nullptr;
         if (other)
-            std::exchange(other, nullptr).reset(); // ends another one
+            std::exchange(other, nullptr).reset(); // destroys another one
         kept = object;
     };
     hvm().construct("A").reset();
@@ -124,7 +124,7 @@ TEST_F(ObjectTest, ReferencesMayMoveWhileAnObjectEnds)
     kept = nullptr;
 }
 
-TEST_F(ObjectTest, RetractingWhileEndingForgetsTheRest)
+TEST_F(ObjectTest, RetractingDuringDestructionSkipsTheRest)
 {
     publishHierarchy();
     onDestroy_ = [](char cls, COSInterface* object) {
@@ -136,7 +136,7 @@ TEST_F(ObjectTest, RetractingWhileEndingForgetsTheRest)
     EXPECT_EQ(log_, "ABCcb");
 }
 
-TEST_F(ObjectTest, FailedInstanceDataIsTakenBack)
+TEST_F(ObjectTest, FailedInstanceDataIsRolledBack)
 {
     publishHierarchy();
     failing_ = 'C';
@@ -148,7 +148,7 @@ TEST_F(ObjectTest, FailedInstanceDataIsTakenBack)
         failing_ = at;
         EXPECT_THROW(derived->initializeInstance(twice), std::runtime_error);
     }
-    EXPECT_EQ(log_, "ABCbaABaA") << "what was taken back once is not taken back again";
+    EXPECT_EQ(log_, "ABCbaABaA") << "rolled back once only";
     failing_ = 0;
     orbis::COSClass* const cls = orbis::COSClass::getClass("B");
     COSInterfacePtr const object = cls->newInstance();
@@ -159,7 +159,7 @@ TEST_F(ObjectTest, FailedInstanceDataIsTakenBack)
     EXPECT_EQ(log_, "ABCbaABaAAB");
 }
 
-TEST_F(ObjectTest, MadeInvalidOrEndedWhileItsDataIsMade)
+TEST_F(ObjectTest, InvalidatedOrDestroyedWhileItsDataIsCreated)
 {
     auto* const info = new Class("S");
     ArrayPtr object;
@@ -203,7 +203,7 @@ TEST_F(ObjectTest, ConstructorsRunOnAnInitialisedObjectAndFailCleanly)
     EXPECT_EQ(errorOf([&] { construct({minus.get()}); }), "VELMARA:native:exception");
     EXPECT_EQ(log_, "N");
     EXPECT_EQ(errorOf([&] { construct({}); }), "VELMARA:dispatch:noMatch");
-    EXPECT_EQ(log_, "N") << "no object was made for a refused call";
+    EXPECT_EQ(log_, "N") << "no object was created for a refused call";
     auto* const abstract = new Class("Abstract");
     abstract->is_abstract = true;
     publish(abstract);

@@ -13,7 +13,7 @@ using Storage = foundation::usm::Detail<foundation::usm::scope::Hvm>;
 struct Value {
     std::string name;
     std::string* log;
-    std::function<void()> atEnd = [] {};
+    std::function<void()> whenDestroyed = [] {};
 };
 
 Storage::Holder holder(Value value)
@@ -21,7 +21,7 @@ Storage::Holder holder(Value value)
     return {new Value(std::move(value)), [](void* memory) {
                 std::unique_ptr<Value> const ending(static_cast<Value*>(memory));
                 *ending->log += ending->name;
-                ending->atEnd();
+                ending->whenDestroyed();
             }};
 }
 
@@ -71,7 +71,7 @@ TEST_F(StorageTest, FindOrInsertKeepsTheFirstAndInsertReplaces)
     EXPECT_EQ(log_, "a");
 }
 
-TEST_F(StorageTest, ValuesGoInReverseOrderAndAreNotFoundThen)
+TEST_F(StorageTest, ValuesAreDestroyedInReverseOrderAndNotFoundThen)
 {
     auto const noteFound = [this] {
         log_ += '(' + nameOf(Storage::find(id_, type_)) + nameOf(Storage::find(otherID_, type_)) +

@@ -55,7 +55,7 @@ TEST_F(TextArrayTest, CharacterArraysHoldUtf16)
 }
 
 // ASCII is copied in blocks of several sizes: all lengths around them, and what is no ASCII at every place. One
-// replacement stands for each maximal part that could have begun a character.
+// replacement represents each maximal part that could have begun a character.
 TEST_F(TextArrayTest, TextOfEveryLengthIsWholeInBothForms)
 {
     std::tuple<std::string, std::u16string, std::string> const others[] = {
@@ -99,7 +99,7 @@ TEST_F(TextArrayTest, TextOfEveryLengthIsWholeInBothForms)
     EXPECT_EQ(IUserException::ToUstringImpl(nullptr), u"");
 }
 
-TEST_F(TextArrayTest, TextsAndArraysEndOnAnyThread)
+TEST_F(TextArrayTest, TextsAndArraysAreFreedOnAnyThread)
 {
     std::vector<velmara::ArrayPtr> arrays;
     std::vector<char*> copies;
@@ -116,7 +116,7 @@ TEST_F(TextArrayTest, TextsAndArraysEndOnAnyThread)
         EXPECT_EQ(taken(std::exchange(copies[i], nullptr), hvFreeEx), std::to_string(i % 3000));
     std::thread([&] { arrays.clear(); }).join();
     EXPECT_EQ(velmara::liveCounts().arrays, 0);
-    std::thread(make).join(); // in memory that was given back meanwhile
+    std::thread(make).join(); // in memory that was freed meanwhile
     std::thread([&] {
         for (char* const copy : copies)
             hvFree(copy);

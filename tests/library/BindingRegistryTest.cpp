@@ -147,7 +147,7 @@ TEST_F(BindingRegistryTest, NoBindingOutlivesItsHostObject)
     }
 }
 
-TEST_F(BindingRegistryTest, AHostObjectThatMovesGivesItsShareUp)
+TEST_F(BindingRegistryTest, AHostObjectThatMovesReleasesItsShare)
 {
     Plain p, q;
     auto const shared = std::make_shared<int>(1);

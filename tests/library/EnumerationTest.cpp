@@ -146,12 +146,10 @@ TEST_F(EnumerationTest, CrossesByName)
 
 TEST_F(EnumerationTest, InMembersOfEveryKind)
 {
-    ArrayPtr const red = color("Red"), blue = color("Blue"), green = text("Green");
-    hvArray* inputs[] = {green.get()};
-    ArrayPtr const lamp = hvm().construct("tests.Lamp", inputs);
+    ArrayPtr const red = color("Red"), blue = color("Blue");
+    ArrayPtr const lamp = hvm().construct("tests.Lamp", inputs(text("Green")));
     EXPECT_EQ(names(hvm().call(lamp.get(), "get")), "1-by-n Green");
-    inputs[0] = red.get();
-    hvm().call(lamp.get(), "set", inputs);
+    hvm().call(lamp.get(), "set", inputs(red));
     EXPECT_TRUE(velmara::isSameObject(hvm().get(lamp.get(), "color").get(), red.get()));
     hvm().set(lamp.get(), "color", blue.get());
     EXPECT_EQ(names(hvm().get(lamp.get(), "color")), "1-by-n Blue");

@@ -19,12 +19,9 @@ protected:
     InvocationTest() { TallyInfo::publishIn("tests"); }
     ~InvocationTest() override { EXPECT_EQ(Tally::alive, 0); }
 
-    ArrayPtr tally(double start) { return hvm().construct("tests.Tally", NumericInputs({start}).arrays); }
+    ArrayPtr tally(double start) { return hvm().construct("tests.Tally", inputs(number(start))); }
 
-    ArrayPtr call(ArrayPtr const& object, char const* method, NumericInputs const& numbers = {})
-    {
-        return hvm().call(object.get(), method, numbers.arrays);
-    }
+    ArrayPtr call(ArrayPtr const& object, char const* method) { return hvm().call(object.get(), method); }
 };
 
 TEST_F(InvocationTest, NullSelfIsRefusedWhereAnObjectIsRequired)

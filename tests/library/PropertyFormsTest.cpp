@@ -159,7 +159,7 @@ TEST_F(PropertyFormsTest, ScalarsThroughDataAndFunctions)
     Image::limit = 10;
 }
 
-TEST_F(PropertyFormsTest, TextsRowsAndObjectsAreConvertedAndGivenBack)
+TEST_F(PropertyFormsTest, TextsRowsAndObjectsAreConvertedAndReleased)
 {
     EXPECT_EQ(textOf(hvm().get(object_.get(), "title")), "untitled");
     EXPECT_EQ(write("title", ArrayPtr(hvCreateString("sunrise"))), "");
@@ -196,7 +196,7 @@ TEST_F(PropertyFormsTest, ReleaseRoutinesRunOnceForEachValue)
     EXPECT_EQ(native().locks, -10) << "writing reads nothing";
 }
 
-TEST_F(PropertyFormsTest, DescriptorsAreMadeFromTheDescription)
+TEST_F(PropertyFormsTest, DescriptorsAreCreatedFromTheDescription)
 {
     ClassDescriber<Image> description;
     describeImage(description);
@@ -230,9 +230,9 @@ struct Typed final : impl::Getter {
     char const* type_;
 };
 
-struct Told final : impl::PropertyImpl {
+struct WithDescription final : impl::PropertyImpl {
     using PropertyImpl::PropertyImpl;
-    char const* getDescription() const override { return "told"; }
+    char const* getDescription() const override { return "described"; }
 };
 
 /// The descriptors themselves, as the host asks them.
@@ -260,10 +260,10 @@ TEST_F(PropertyFormsTest, MissingSidesHaveNoAccess)
         EXPECT_FALSE(property.getVXArrays(nullptr, object).hasMoreElements());
     }
     Typed typed("double scalar"), untyped(nullptr);
-    Told const told("t", &typed, &setter, {});
-    EXPECT_STREQ(told.getDetailedDescription(), "told");
+    WithDescription const described("t", &typed, &setter, {});
+    EXPECT_STREQ(described.getDetailedDescription(), "described");
     impl::PropertyImpl const unnamed("u", &untyped, &setter, {});
-    EXPECT_STREQ(told.getDataType()->scalarTypeName(), "double scalar");
+    EXPECT_STREQ(described.getDataType()->scalarTypeName(), "double scalar");
     for (impl::PropertyImpl const* const property : {&unnamed, &writeOnly})
         EXPECT_STREQ(property->getDataType()->scalarTypeName(), "int32 scalar");
     EXPECT_FALSE(held.getInterfaces(nullptr, object).hasMoreElements());

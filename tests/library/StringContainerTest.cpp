@@ -89,7 +89,7 @@ TEST_F(StringContainerTest, TextsCrossBothWaysInTheContainersOrder)
 
 TEST_F(StringContainerTest, ViewsSeeTextThatTheCallOwns)
 {
-    constexpr std::u16string_view text = u"a text that is too long to stand in a small place";
+    constexpr std::u16string_view text = u"a text that is too long for inline storage";
     EXPECT_EQ(textOf(call("view", characters(text))), text);
     EXPECT_EQ(scalar<double>(call("length", characters({u"a\0é", 3}))), 4.0);
     EXPECT_EQ(textOf(call("wide", characters(u"x\xD800"))), u"\xD800");

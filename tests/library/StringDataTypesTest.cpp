@@ -68,7 +68,7 @@ struct Overtaken {
     inline static int alive = 0;
 };
 
-TEST_F(StringDataTypesTest, WhatLosesTheRaceForItsPlaceIsDestroyed)
+TEST_F(StringDataTypesTest, TheOvertakenOneIsDestroyed)
 {
     Overtaken const& stored = basic::HvmScoped<Overtaken>::get();
     EXPECT_EQ(Overtaken::alive, 1);
@@ -127,7 +127,7 @@ TEST_F(StringDataTypesTest, ValuesCompareByTheirTexts)
     }
 }
 
-TEST_F(StringDataTypesTest, ConversionsTakeWhatTheyShouldAndShareData)
+TEST_F(StringDataTypesTest, ConversionsAcceptTheirClassesAndShareData)
 {
     detail::initStringDataTypes();
     constexpr char const* requireString = "VELMARA:class:RequireString";
