@@ -70,36 +70,32 @@ TEST_F(DispatchTest, PicksByNumberOfInputsAndBestFit)
 // Twice each and in turns: recently found names are found again beside others.
 TEST_F(DispatchTest, MethodsOfAnyNameAndAnyNumberOfInputs)
 {
-    constexpr std::size_t most = 20;
-    publish(new Class("D", [](orbis::COSClass* cls) {
-        for (std::size_t size = 1; size <= most; ++size) {
-            std::vector<std::string> const types(size, "int32 scalar");
+    constexpr std::size_t maxInputs = 20;
+    auto const nameOf = [](std::size_t size, char mark) {
+        std::string name(size, 'x');
+        name[size / 2] = mark;
+        return name;
+    };
+    publish(new Class("D", [&](orbis::COSClass* cls) {
+        for (std::size_t size = 1; size <= maxInputs; ++size)
             for (char const mark : {'a', 'b'}) {
-                std::string name(size, 'x');
-                name[size / 2] = mark;
-                cls->addMethod(new Method(name, "double scalar", types,
-                                          [mark](Call const& call) {
-                                              auto const last = call.inputs[call.inputCount - 1].scalar<std::int32_t>();
-                                              call.give(
-                                                  COSValue(last * 100.0 + call.inputCount + (mark == 'b' ? 0.5 : 0.0)));
-                                          },
-                                          {.isStatic = true}));
+                auto const answer = [mark](Call const& call) {
+                    auto const last = call.inputs[call.inputCount - 1].scalar<std::int32_t>();
+                    call.give(COSValue(last * 1e6 + call.inputCount * 1e3 + mark));
+                };
+                std::vector<std::string> const types(size, "int32 scalar");
+                cls->addMethod(new Method(nameOf(size, mark), "double scalar", types, answer, {.isStatic = true}));
             }
-        }
     }));
-    for (std::size_t const round : {1u, 2u}) {
-        for (std::size_t size = 1; size <= most; ++size) {
-            ArrayPtr const other = array(0.0), last = array(static_cast<double>(round));
+    for (double const round : {1, 2}) {
+        for (std::size_t size = 1; size <= maxInputs; ++size) {
+            ArrayPtr const other = array(0.0), last = array(round);
             std::vector<hvArray_tag*> inputs(size, other.get());
             inputs.back() = last.get();
-            std::string name(size, 'x');
-            for (char const mark : {'a', 'b'}) {
-                name[size / 2] = mark;
-                double const expected = round * 100.0 + size + (mark == 'b' ? 0.5 : 0.0);
-                EXPECT_EQ(scalar<double>(hvm().callStatic("D", name, inputs)), expected) << name;
-            }
-            name[size / 2] = 'c';
-            EXPECT_EQ(errorOf([&] { hvm().callStatic("D", name, inputs); }), "VELMARA:member:unknown") << name;
+            auto const call = [&](char mark) { return hvm().callStatic("D", nameOf(size, mark), inputs); };
+            for (char const mark : {'a', 'b'})
+                EXPECT_EQ(scalar<double>(call(mark)), round * 1e6 + size * 1e3 + mark) << size << mark;
+            EXPECT_EQ(errorOf([&] { call('c'); }), "VELMARA:member:unknown") << size;
         }
     }
 }
