@@ -5,6 +5,7 @@
 #include "velmara/LiveCounts.hpp"
 
 #include "additions/additions.hpp"
+#include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSValue.hpp"
 #include "orbis/objectArrays.hpp"
 
@@ -108,6 +109,18 @@ protected:
     static std::string errorOf(F&& action)
     {
         return caught(action, &velmara::Error::identifier);
+    }
+
+    /// The message id with which a host call is refused; empty when it is not refused.
+    template <class F>
+    static std::string messageIdOf(F&& call)
+    {
+        try {
+            call();
+        } catch (foundation::core::except::IMsgIDException const& error) {
+            return error.getErrorID();
+        }
+        return {};
     }
 
     /// `action` fails with an error whose message, identifier and text, has all the parts.

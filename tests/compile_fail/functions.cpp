@@ -2,8 +2,8 @@
 // expect OPTIONAL: There is no marshaling policy for this native type
 // expect OUTPUT: A parameter that is a reference to a non-const value cannot cross
 // expect CLASS: The class that this pointer points to is not published: specialise orbis::factory::HostClass for it
-// expect ENUM: This enumeration is not published: specialise orbis::factory::HostEnumeration for it, beside the
-// enumeration. expect NAMES: More parameter names are listed than the function has parameters: remove the extra names.
+// expect ENUM: enumeration is not published: specialise orbis::factory::HostEnumeration for it, beside the enumeration.
+// expect NAMES: More parameter names are listed than the function has parameters: remove the extra names.
 // expect DEFAULT: A default value does not convert to the type of its parameter
 // expect FRACTION: A default value for an integer parameter is a floating-point number: write an integer.
 #include "Published.hpp"

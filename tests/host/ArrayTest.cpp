@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "messageIdOf.hpp"
 
 #include <array>
 #include <cstdint>

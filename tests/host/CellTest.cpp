@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "messageIdOf.hpp"
 
 using orbis::additions::createMatrix;
 using orbis::additions::getCell;

@@ -1,7 +1,6 @@
 #include "HvmTest.hpp"
 #include "TestDescriptors.hpp"
 #include "library/texts.hpp"
-#include "messageIdOf.hpp"
 
 #include "libkwi18n/libkwi18n.hpp"
 #include "orbis/COSTypeConversion.hpp"

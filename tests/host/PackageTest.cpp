@@ -1,6 +1,5 @@
 #include "HvmTest.hpp"
 #include "host/TestDescriptors.hpp"
-#include "host/messageIdOf.hpp"
 
 #include "orbis/COSTypeRepository.hpp"
 

@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "messageIdOf.hpp"
 
 #include "libkwfoundation_usm/Detail.hpp"
 

@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "messageIdOf.hpp"
 
 #include "libkwi18n/libkwi18n.hpp"
 #include "orbis/COSDataType.hpp"

@@ -10,7 +10,6 @@
 #include "orbis/factory/ownership/InterfaceEnumeration.hpp"
 #include "orbis/factory/ownership/RawClassPointerMarshaler.hpp"
 
-#include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSClass.hpp"
 #include "orbis/COSInterface.hpp"
 

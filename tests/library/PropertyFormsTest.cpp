@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "host/messageIdOf.hpp"
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/descriptors/PropertyImpl.hpp"
@@ -7,7 +6,6 @@
 #include "orbis/factory/types/StringViewPolicy.hpp"
 #include "orbis/factory/types/stringVectors.hpp"
 
-#include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSDataType.hpp"
 
 #include <algorithm>

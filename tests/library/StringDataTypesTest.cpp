@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "host/messageIdOf.hpp"
 #include "library/texts.hpp"
 
 #include "orbis/factory/ownership/HvmScoped.hpp"

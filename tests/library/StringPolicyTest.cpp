@@ -1,4 +1,3 @@
-#include "host/messageIdOf.hpp"
 #include "library/FunctionsTest.hpp"
 #include "library/texts.hpp"
 

@@ -1,4 +1,4 @@
--- Objects that are deleted, given back, of an unloaded module, or of another virtual machine.
+-- Objects that are deleted, closed, of an unloaded module, or of another virtual machine.
 local refused, eachRefused = loadfile("../refused.lua")(function(err) return err.identifier end)
 local function value(object) return object.value end
 
