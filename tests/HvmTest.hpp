@@ -5,7 +5,9 @@
 #include "velmara/LiveCounts.hpp"
 
 #include "additions/additions.hpp"
+#include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSValue.hpp"
+#include "orbis/objectArrays.hpp"
 
 #include <gtest/gtest.h>
 
@@ -17,10 +19,10 @@
 #include <string>
 #include <vector>
 
-/// Owns one virtual machine, current on the test's thread. After every test nothing of the host may be alive.
+/// Owns one virtual machine, current on the test's thread. Nothing of the host may be alive after a test.
 class HvmTest : public ::testing::Test {
 public:
-    /// Looks for what does not fit together in the current virtual machine; set where there is a library that can.
+    /// Finds inconsistencies in the current virtual machine; set where there is a library that can.
     inline static std::string (*check)() = nullptr;
 
 protected:
@@ -35,6 +37,9 @@ protected:
         endHvm();
         EXPECT_EQ(velmara::liveCounts(), velmara::LiveCounts{});
     }
+
+    /// Before the members of fixtures are destroyed, to which callbacks refer.
+    void TearDown() override { endHvm(); }
 
     velmara::Hvm& hvm() { return *hvm_; }
 
@@ -58,17 +63,31 @@ protected:
 
     static velmara::ArrayPtr number(double value) { return matrix<double>(1, 1, {value}); }
 
-    /// NumericInputs as inputs of a call.
-    struct NumericInputs {
-        NumericInputs(std::initializer_list<double> numbers)
-        {
-            for (double const value : numbers)
-                arrays.push_back(owners.emplace_back(number(value)).get());
-        }
+    /// The object in an array; null where there is none.
+    static orbis::COSInterface* objectIn(velmara::ArrayPtr const& array, std::size_t index = 0)
+    {
+        return orbis::omGetArrayElement(array.get(), index);
+    }
 
-        std::vector<velmara::ArrayPtr> owners;
-        std::vector<hvArray*> arrays;
-    };
+    /// A row of a class with the objects of other arrays; null is no object.
+    static velmara::ArrayPtr rowOf(char const* className, std::initializer_list<velmara::ArrayPtr const*> objects)
+    {
+        velmara::ArrayPtr row(orbis::omCreateORBISMatrix(1, objects.size(), className));
+        for (std::size_t i = 0; velmara::ArrayPtr const* const object : objects)
+            orbis::omSetArrayElement(row.get(), i++, object ? objectIn(*object) : nullptr);
+        return row;
+    }
+
+    /// The methods of a class, a line each: the defining class, what the method is, and its signature.
+    std::string methodsOf(std::string const& className)
+    {
+        std::string lines;
+        for (velmara::MethodRecord const& method : hvm().describeClass(className).methods)
+            lines += method.definingClass + (method.isSealed ? ": sealed " : ": ") +
+                     (method.kind == velmara::MethodRecord::Kind::StaticMethod ? "static " : "") + method.signature +
+                     '\n';
+        return lines;
+    }
 
     /// The element of a 1-by-1 array of the native type's class.
     template <class T>
@@ -85,14 +104,26 @@ protected:
         return {arrays.get()...};
     }
 
-    /// The identifier of the error that `action` ends with; empty when it succeeds.
+    /// The identifier of the error with which `action` fails; empty when it succeeds.
     template <class F>
     static std::string errorOf(F&& action)
     {
         return caught(action, &velmara::Error::identifier);
     }
 
-    /// `action` ends with an error whose message, identifier and text, has all the parts.
+    /// The message id with which a host call is refused; empty when it is not refused.
+    template <class F>
+    static std::string messageIdOf(F&& call)
+    {
+        try {
+            call();
+        } catch (foundation::core::except::IMsgIDException const& error) {
+            return error.getErrorID();
+        }
+        return {};
+    }
+
+    /// `action` fails with an error whose message, identifier and text, has all the parts.
     template <class F>
     static void expectMessage(F&& action, std::vector<std::string> const& parts)
     {

@@ -1,4 +1,4 @@
-// expect: This data would keep what is gone after the call that writes it
+// expect EITHER: This data would keep what is gone after the call that writes it
 // each: char const*; char16_t*; std::string_view; Span; hvArrayProxy; hvConstArrayProxy; Place*; Text; Places
 #include "Published.hpp"
 

@@ -1,4 +1,4 @@
-// expect: A default value is kept for later calls and would refer to memory that is not its own
+// expect EITHER: A default value is kept for later calls and would refer to memory that is not its own
 // each: text; utf16; view; Array(array); ConstArray(array); array
 #include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/types/StringViewPolicy.hpp"

@@ -68,13 +68,7 @@ struct Handle;
 
 } // namespace
 
-#define PUBLISHED(Type, ...)                                                                                           \
-    template <>                                                                                                        \
-    struct orbis::factory::HostClass<Type> {                                                                           \
-        static constexpr char const* name = "probe." #Type;                                                            \
-        __VA_ARGS__                                                                                                    \
-    };
-PUBLISHED(Handle)
+PUBLISHED_IN("probe", Handle)
 
 namespace {
 
@@ -129,10 +123,10 @@ double sum(std::vector<double> const& numbers)
 
 } // namespace
 
-PUBLISHED(Value, using Policy = ValuePolicy;)
-PUBLISHED(Shared)
-PUBLISHED(Derived)
-PUBLISHED(Native)
+PUBLISHED_IN("probe", Value, using Policy = ValuePolicy;)
+PUBLISHED_IN("probe", Shared)
+PUBLISHED_IN("probe", Derived)
+PUBLISHED_IN("probe", Native)
 
 template <>
 struct orbis::factory::HostDataType<Length> {
@@ -153,7 +147,7 @@ struct orbis::factory::HostDataType<Length> {
 
 namespace {
 
-/// A class info whose every answer may fail; what it has to give back is given back before.
+/// A class info whose every answer may fail; it releases what it has to before that.
 template <class T, class Base>
 struct Info final : Base {
     Info() : Base(HostClass<T>::name, "") {}

@@ -1,7 +1,4 @@
 #include "HvmTest.hpp"
-#include "messageIdOf.hpp"
-
-#include "orbis/objectArrays.hpp"
 
 #include <array>
 #include <cstdint>
@@ -91,7 +88,7 @@ TEST_F(ArrayTest, DataIsSharedUntilOneSideWrites)
     EXPECT_EQ(velmara::liveCounts().arrays, 3);
 }
 
-TEST_F(ArrayTest, EachReferenceIsGivenBackOnce)
+TEST_F(ArrayTest, EachReferenceIsReleasedOnce)
 {
     ArrayPtr array(createMatrix(2, 2, hvINT32_CLASS));
     array->add_reference();

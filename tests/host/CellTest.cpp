@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "messageIdOf.hpp"
 
 using orbis::additions::createMatrix;
 using orbis::additions::getCell;
@@ -59,10 +58,10 @@ TEST_F(CellTest, WhatBelongsToACellIsNotStoredAgain)
     ArrayPtr const copy(hvCreateDeepCopy(cells.get()));
     auto* const copied = const_cast<hvArray*>(getCell(copy.get(), 0));
     EXPECT_EQ(messageIdOf([&] { hvSetCell(cells.get(), 1, copied); }), "VELMARA:array:alreadyStored");
-    value->add_reference(); // which the test's owner gives back
+    value->add_reference(); // which the test's owner releases
 }
 
-TEST_F(CellTest, NoCellStandsInItself)
+TEST_F(CellTest, NoCellContainsItself)
 {
     ArrayPtr const outer(hvCreateCellMatrix(1, 2));
     hvArray* const inner = hvCreateCellMatrix(1, 1);

@@ -1,7 +1,6 @@
 #include "HvmTest.hpp"
 #include "TestDescriptors.hpp"
 #include "library/texts.hpp"
-#include "messageIdOf.hpp"
 
 #include "libkwi18n/libkwi18n.hpp"
 #include "orbis/COSTypeConversion.hpp"
@@ -19,7 +18,7 @@ namespace {
 constexpr char const* words = "DataTypeTest.Words vector";
 
 /// A registered type whose name ends as those of class vectors do: columns of strings or cells. It counts the values
-/// not given back.
+/// that are not released.
 struct WordsType : orbis::COSDataType {
     explicit WordsType(int& values) : liveValues(values) {}
     int& liveValues;
@@ -52,7 +51,7 @@ struct WordsConversion : orbis::COSTypeConversion {
     }
 };
 
-/// What a method does that gives back what it was given.
+/// Returns the input of a method.
 void echo(Call const& call, std::string const& type)
 {
     COSValue const& input = call.inputs[0];
@@ -66,6 +65,12 @@ void echo(Call const& call, std::string const& type)
 } // namespace
 
 struct DataTypeTest : HvmTest {
+    DataTypeTest()
+    {
+        orbis::COSTypeRepository::addGlobalType(new WordsType(liveValues_));
+        orbis::COSTypeRepository::addConversion("any", words, new WordsConversion(liveValues_));
+    }
+
     ArrayPtr call(std::string const& type, ArrayPtr const& input)
     {
         return hvm().callStatic("DataTypeTest", type, inputs(input));
@@ -74,10 +79,8 @@ struct DataTypeTest : HvmTest {
     int liveValues_ = 0;
 };
 
-TEST_F(DataTypeTest, EachTypeTakesAndGivesWhatItSays)
+TEST_F(DataTypeTest, EachTypeAcceptsAndReturnsItsClasses)
 {
-    orbis::COSTypeRepository::addGlobalType(new WordsType(liveValues_));
-    orbis::COSTypeRepository::addConversion("any", words, new WordsConversion(liveValues_));
     publish(new Class("DataTypeTest.Thing"));
     ArrayPtr const one = number(1), text(createText(u"t\u00E4xt")), empty(hvCreateString("")),
                    square(createMatrix(2, 2, hvCHAR_CLASS)), cells(hvCreateCellMatrix(2, 1)),
@@ -120,12 +123,14 @@ TEST_F(DataTypeTest, EachTypeTakesAndGivesWhatItSays)
                 << velmara::className(input->get());
     }
     EXPECT_EQ(orbis::COSDataTypePtr(words)->typeKind(), 7);
+    expectMessage([&] { call("unicodeString", one); },
+                  {"Text is needed here: one row of characters, or a string array of one element."});
+    expectMessage([&] { call("unicodeString", missing); },
+                  {"A missing string cannot be used here; give a text, which may be empty."});
 }
 
-TEST_F(DataTypeTest, RegisteredTypesGiveBackWhatTheyMade)
+TEST_F(DataTypeTest, RegisteredTypesReleaseWhatTheyCreate)
 {
-    orbis::COSTypeRepository::addGlobalType(new WordsType(liveValues_));
-    orbis::COSTypeRepository::addConversion("any", words, new WordsConversion(liveValues_));
     publish(new Class("DataTypeTest", [&](orbis::COSClass* cls) {
         cls->addMethod(new Method("f", words, {words, "double scalar"},
                                   [&](Call const& call) {
@@ -149,15 +154,4 @@ TEST_F(DataTypeTest, RegisteredTypesGiveBackWhatTheyMade)
     expectMessage([&] { f(one, one); }, {"a: Native code failed: no words"});
     EXPECT_EQ(messageIdOf([&] { orbis::COSTypeRepository::addGlobalType(new WordsType(liveValues_)); }),
               "VELMARA:type:duplicate");
-}
-
-TEST_F(DataTypeTest, RefusalsSayWhatToDo)
-{
-    publish(new Class("DataTypeTest", [](orbis::COSClass* cls) {
-        cls->addMethod(new Method("read", "", {"unicodeString"}, {}, {.isStatic = true}));
-    }));
-    expectMessage([&] { call("read", number(1)); },
-                  {"Text is needed here: one row of characters, or a string array of one element."});
-    expectMessage([&] { call("read", strings({{}})); },
-                  {"A missing string cannot be used here; give a text, which may be empty."});
 }

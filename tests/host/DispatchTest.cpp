@@ -20,7 +20,18 @@ protected:
         }));
     }
 
-    double callF(std::vector<hvArray_tag*> const& inputs) { return scalar<double>(hvm().callStatic("D", "f", inputs)); }
+    template <class... A>
+    double callF(A const&... arrays)
+    {
+        return scalar<double>(hvm().callStatic("D", "f", inputs(arrays...)));
+    }
+
+    /// The identifier and the text with which a call of "f" is refused.
+    template <class... A>
+    std::string refusal(A const&... arrays)
+    {
+        return caught([&] { callF(arrays...); }, &velmara::Error::what);
+    }
 
     template <class T>
     static ArrayPtr array(T value)
@@ -45,79 +56,69 @@ TEST_F(DispatchTest, PicksByNumberOfInputsAndBestFit)
                       {"any"},
                       {"int32 scalar", "double scalar"},
                       {"double scalar", "double scalar"}});
-    ArrayPtr const real = array(1.0), integer = array(std::int32_t(1)), word = text("x"), yes = array(true);
-    ArrayPtr const single = array(1.5f);
-    EXPECT_EQ(callF({}), 0);
-    EXPECT_EQ(callF({real.get()}), 1);
-    EXPECT_EQ(callF({integer.get()}), 2);
-    EXPECT_EQ(callF({word.get()}), 3);
-    EXPECT_EQ(callF({yes.get()}), 4) << "a logical is no number";
-    EXPECT_EQ(callF({single.get()}), 1) << "a fraction fits no integer";
-    EXPECT_EQ(callF({integer.get(), real.get()}), 5);
-    EXPECT_EQ(callF({real.get(), real.get()}), 6);
+    ArrayPtr const real = array(1.0), integer = array(std::int32_t(1));
+    EXPECT_EQ(callF(), 0);
+    EXPECT_EQ(callF(real), 1);
+    EXPECT_EQ(callF(integer), 2);
+    EXPECT_EQ(callF(text("x")), 3);
+    EXPECT_EQ(callF(array(true)), 4) << "a logical is no number";
+    EXPECT_EQ(callF(array(1.5f)), 1) << "a fraction fits no integer";
+    EXPECT_EQ(callF(integer, real), 5);
+    EXPECT_EQ(callF(real, real), 6);
 }
 
-// Twice each and in turns, so that names found a moment ago are found again beside others.
+// Twice each and in turns: recently found names are found again beside others.
 TEST_F(DispatchTest, MethodsOfAnyNameAndAnyNumberOfInputs)
 {
-    constexpr std::size_t most = 20;
-    publish(new Class("D", [](orbis::COSClass* cls) {
-        for (std::size_t size = 1; size <= most; ++size) {
-            std::vector<std::string> const types(size, "int32 scalar");
+    constexpr std::size_t maxInputs = 20;
+    auto const nameOf = [](std::size_t size, char mark) {
+        std::string name(size, 'x');
+        name[size / 2] = mark;
+        return name;
+    };
+    publish(new Class("D", [&](orbis::COSClass* cls) {
+        for (std::size_t size = 1; size <= maxInputs; ++size)
             for (char const mark : {'a', 'b'}) {
-                std::string name(size, 'x');
-                name[size / 2] = mark;
-                cls->addMethod(new Method(name, "double scalar", types,
-                                          [mark](Call const& call) {
-                                              auto const last = call.inputs[call.inputCount - 1].scalar<std::int32_t>();
-                                              call.give(
-                                                  COSValue(last * 100.0 + call.inputCount + (mark == 'b' ? 0.5 : 0.0)));
-                                          },
-                                          {.isStatic = true}));
+                auto const answer = [mark](Call const& call) {
+                    auto const last = call.inputs[call.inputCount - 1].scalar<std::int32_t>();
+                    call.give(COSValue(last * 1e6 + call.inputCount * 1e3 + mark));
+                };
+                std::vector<std::string> const types(size, "int32 scalar");
+                cls->addMethod(new Method(nameOf(size, mark), "double scalar", types, answer, {.isStatic = true}));
             }
-        }
     }));
-    for (std::size_t const round : {1u, 2u}) {
-        for (std::size_t size = 1; size <= most; ++size) {
-            ArrayPtr const other = array(0.0), last = array(static_cast<double>(round));
+    for (double const round : {1, 2}) {
+        for (std::size_t size = 1; size <= maxInputs; ++size) {
+            ArrayPtr const other = array(0.0), last = array(round);
             std::vector<hvArray_tag*> inputs(size, other.get());
             inputs.back() = last.get();
-            std::string name(size, 'x');
-            for (char const mark : {'a', 'b'}) {
-                name[size / 2] = mark;
-                double const expected = round * 100.0 + size + (mark == 'b' ? 0.5 : 0.0);
-                EXPECT_EQ(scalar<double>(hvm().callStatic("D", name, inputs)), expected) << name;
-            }
-            name[size / 2] = 'c';
-            EXPECT_EQ(errorOf([&] { hvm().callStatic("D", name, inputs); }), "VELMARA:member:unknown") << name;
+            auto const call = [&](char mark) { return hvm().callStatic("D", nameOf(size, mark), inputs); };
+            for (char const mark : {'a', 'b'})
+                EXPECT_EQ(scalar<double>(call(mark)), round * 1e6 + size * 1e3 + mark) << size << mark;
+            EXPECT_EQ(errorOf([&] { call('c'); }), "VELMARA:member:unknown") << size;
         }
     }
 }
 
-TEST_F(DispatchTest, EquallyGoodOnesAreRefusedAndListed)
+TEST_F(DispatchTest, EquallyGoodOverloadsAreRefusedAndListed)
 {
     publishOverloads({{"int32 scalar", "double scalar"}, {"double scalar", "int32 scalar"}, {"char", "char"}});
-    ArrayPtr const real = array(1.0), integer = array(std::int32_t(1)), word = text("x");
-    EXPECT_EQ(callF({integer.get(), real.get()}), 0);
-    EXPECT_EQ(callF({word.get(), word.get()}), 2);
-    expectMessage(
-        [&] {
-            callF({real.get(), real.get()});
-        },
-        {"VELMARA:dispatch:ambiguous: ",
-         "f(a: int32 scalar, b: double scalar)\n  f(a: double scalar, b: int32 scalar)"});
-    EXPECT_EQ(caught([&] { callF({real.get(), real.get()}); }, &velmara::Error::text).find("char"), std::string::npos);
+    ArrayPtr const real = array(1.0);
+    EXPECT_EQ(callF(array(std::int32_t(1)), real), 0);
+    EXPECT_EQ(callF(text("x"), text("x")), 2);
+    EXPECT_EQ(refusal(real, real),
+              "VELMARA:dispatch:ambiguous: Several \"f\" take (double 1-by-1, double 1-by-1) equally well:\n"
+              "  f(a: int32 scalar, b: double scalar)\n"
+              "  f(a: double scalar, b: int32 scalar)");
 }
 
 TEST_F(DispatchTest, NoMatchSaysWhyForEachAndWhatWasGiven)
 {
     publishOverloads({{"int32 scalar"}, {"char vector"}, {"double scalar", "double scalar"}});
-    ArrayPtr const half = array(2.5);
-    EXPECT_EQ(caught([&] { callF({half.get()}); }, &velmara::Error::what),
-              "VELMARA:dispatch:noMatch: No \"f\" takes (double 1-by-1):\n"
-              "  f(a: int32 scalar): a: 2.5 is no whole number\n"
-              "  f(a: char vector): a: needs text, not double\n"
-              "  f(a: double scalar, b: double scalar): takes 2 inputs");
+    EXPECT_EQ(refusal(array(2.5)), "VELMARA:dispatch:noMatch: No \"f\" takes (double 1-by-1):\n"
+                                   "  f(a: int32 scalar): a: 2.5 is no whole number\n"
+                                   "  f(a: char vector): a: needs text, not double\n"
+                                   "  f(a: double scalar, b: double scalar): takes 2 inputs");
 }
 
 TEST_F(DispatchTest, OfManyTheNearestAreListed)
@@ -127,13 +128,8 @@ TEST_F(DispatchTest, OfManyTheNearestAreListed)
         overloads.emplace_back(size, size % 2 == 1 ? "char vector" : "double scalar");
     overloads.push_back({"double scalar", "char vector"});
     publishOverloads(overloads);
-    ArrayPtr const one = array(1.0), yes = array(true);
-    EXPECT_EQ(caught(
-                  [&] {
-                      callF({one.get(), yes.get()});
-                  },
-                  &velmara::Error::text),
-              "No \"f\" takes (double 1-by-1, logical 1-by-1):\n"
+    EXPECT_EQ(refusal(array(1.0), array(true)),
+              "VELMARA:dispatch:noMatch: No \"f\" takes (double 1-by-1, logical 1-by-1):\n"
               "  f(a: double scalar, b: double scalar): b: needs a number, not logical\n"
               "  f(a: double scalar, b: char vector): b: needs text, not logical\n"
               "  f(a: char vector): takes 1 input\n"
@@ -142,12 +138,8 @@ TEST_F(DispatchTest, OfManyTheNearestAreListed)
 
 TEST_F(DispatchTest, NumbersAreNeverCut)
 {
-    struct Row {
-        std::string type;
-        std::vector<double> fitting, refused;
-    };
     constexpr double two31 = 2147483648.0, two53 = 9007199254740992.0, two63 = 9223372036854775808.0;
-    Row const rows[] = {
+    std::tuple<std::string, std::vector<double>, std::vector<double>> const rows[] = {
         {"int8 scalar", {-128, 127}, {-129, 128}},
         {"uint8 scalar", {255, -0.0}, {-1}},
         {"int16 scalar", {}, {32768}},
@@ -160,8 +152,8 @@ TEST_F(DispatchTest, NumbersAreNeverCut)
         {"logical scalar", {1}, {2, notANumber}},
     };
     publish(new Class("N", [&rows](orbis::COSClass* cls) {
-        for (Row const& row : rows)
-            cls->addMethod(answering(row.type, {row.type}, 1, {.isStatic = true}));
+        for (auto const& [type, fitting, refused] : rows)
+            cls->addMethod(answering(type, {type}, 1, {.isStatic = true}));
     }));
     for (auto const& [type, fitting, refused] : rows) {
         auto const outcome = [&, type = type](double value) {
@@ -176,14 +168,12 @@ TEST_F(DispatchTest, NumbersAreNeverCut)
 
 TEST_F(DispatchTest, WholeNumbersOfOtherClassesKeepTheirValue)
 {
-    std::vector<double> seen;
-    publish(new Class("N", [&seen](orbis::COSClass* cls) {
+    publish(new Class("N", [](orbis::COSClass* cls) {
         auto const add = [&](char const* type, auto zero) {
-            using T = decltype(zero);
-            cls->addMethod(
-                new Method(type, "", {type},
-                           [&](Call const& call) { seen.push_back(static_cast<double>(call.inputs[0].scalar<T>())); },
-                           {.isStatic = true}));
+            auto const answer = [](Call const& call) {
+                call.give(COSValue(static_cast<double>(call.inputs[0].scalar<decltype(zero)>())));
+            };
+            cls->addMethod(new Method(type, "double scalar", {type}, answer, {.isStatic = true}));
         };
         add("double scalar", double());
         add("uint64 scalar", std::uint64_t());
@@ -192,32 +182,28 @@ TEST_F(DispatchTest, WholeNumbersOfOtherClassesKeepTheirValue)
     }));
     ArrayPtr const large = array(std::int64_t(1) << 60), odd = array((std::int64_t(1) << 53) + 1);
     ArrayPtr const negative = array(std::int16_t(-5));
-    auto const call = [&](char const* type, ArrayPtr const& value) {
-        return errorOf([&] { hvm().callStatic("N", type, inputs(value)); });
-    };
-    EXPECT_EQ(call("double scalar", large), "");
-    EXPECT_EQ(call("uint64 scalar", large), "");
-    EXPECT_EQ(call("single scalar", large), "");
-    EXPECT_EQ(call("single scalar", odd), "") << "rounded, as a fraction is";
-    EXPECT_EQ(call("int8 scalar", negative), "");
-    EXPECT_EQ(seen,
-              (std::vector<double>{std::ldexp(1, 60), std::ldexp(1, 60), std::ldexp(1, 60), std::ldexp(1, 53), -5}));
-    EXPECT_EQ(call("double scalar", odd), "VELMARA:dispatch:noMatch");
-    EXPECT_EQ(call("uint64 scalar", negative), "VELMARA:dispatch:noMatch");
-    EXPECT_EQ(call("int8 scalar", large), "VELMARA:dispatch:noMatch");
+    using Case = std::tuple<char const*, ArrayPtr const&, std::optional<double>>; // none where it is refused
+    for (auto const& [type, given, value] :
+         {Case{"double scalar", large, 0x1p60}, Case{"uint64 scalar", large, 0x1p60},
+          Case{"single scalar", large, 0x1p60}, Case{"single scalar", odd, 0x1p53}, Case{"int8 scalar", negative, -5},
+          Case{"double scalar", odd, std::nullopt}, Case{"uint64 scalar", negative, std::nullopt},
+          Case{"int8 scalar", large, std::nullopt}}) {
+        std::optional<double> seen;
+        auto const call = [&, t = type, &g = given] { seen = scalar<double>(hvm().callStatic("N", t, inputs(g))); };
+        EXPECT_EQ(errorOf(call), value ? "" : "VELMARA:dispatch:noMatch") << type;
+        EXPECT_EQ(seen, value) << type;
+    }
 }
 
 TEST_F(DispatchTest, ArraysThatAreNoScalarsAreRefused)
 {
     publishOverloads({{"double scalar"}, {"char vector"}});
-    ArrayPtr const row(orbis::additions::createMatrix(1, 2, hvDOUBLE_CLASS));
-    ArrayPtr const none(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
-    ArrayPtr const page(orbis::additions::createMatrix(2, 2, hvCHAR_CLASS));
-    ArrayPtr const empty = text("");
-    for (ArrayPtr const* refused : {&row, &none, &page})
-        EXPECT_EQ(errorOf([&] { callF({refused->get()}); }), "VELMARA:dispatch:noMatch");
-    EXPECT_EQ(callF({empty.get()}), 1);
-    EXPECT_EQ(errorOf([&] { callF({nullptr}); }), "VELMARA:dispatch:nullInput");
+    ArrayPtr const row = matrix<double>(1, 2, {0, 0}), none = matrix<double>(0, 0, {}),
+                   page(orbis::additions::createMatrix(2, 2, hvCHAR_CLASS));
+    for (ArrayPtr const* const refused : {&row, &none, &page})
+        EXPECT_EQ(errorOf([&] { callF(*refused); }), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(callF(text("")), 1);
+    EXPECT_EQ(errorOf([&] { callF(ArrayPtr()); }), "VELMARA:dispatch:nullInput");
 }
 
 TEST_F(DispatchTest, ObjectsFitTheirClassAndItsSuperclassesTheNearestBest)
@@ -229,20 +215,16 @@ TEST_F(DispatchTest, ObjectsFitTheirClassAndItsSuperclassesTheNearestBest)
     publishOverloads({{"A"}, {"B"}, {"A vector", "logical scalar"}});
     ArrayPtr const a = hvm().construct("A"), b = hvm().construct("B"), c = hvm().construct("C"),
                    x = hvm().construct("X");
-    EXPECT_EQ(callF({a.get()}), 0);
-    EXPECT_EQ(callF({b.get()}), 1);
-    EXPECT_EQ(callF({c.get()}), 1);
-    EXPECT_EQ(errorOf([&] { callF({x.get()}); }), "VELMARA:dispatch:noMatch");
-    ArrayPtr const yes = array(true), none(orbis::omCreateORBISMatrix(0, 0, "C")),
-                   pair(orbis::omCreateORBISMatrix(1, 2, "A"));
-    orbis::omSetArrayElement(pair.get(), 0, orbis::omGetArrayElement(c.get(), 0));
-    EXPECT_EQ(callF({none.get()}), 1);
-    EXPECT_EQ(errorOf([&] { callF({pair.get()}); }), "VELMARA:dispatch:noMatch");
-    expectMessage([&] { callF({pair.get()}); }, {"f(a: A): a: needs one object, not 1-by-2"});
-    EXPECT_EQ(callF({pair.get(), yes.get()}), 2);
-    EXPECT_EQ(errorOf([&] { callF({x.get(), yes.get()}); }), "VELMARA:dispatch:noMatch");
+    ArrayPtr const yes = array(true), none(orbis::omCreateORBISMatrix(0, 0, "C")), pair = rowOf("A", {&c, nullptr});
+    EXPECT_EQ(callF(a), 0);
+    for (ArrayPtr const* const fitting : {&b, &c, &none})
+        EXPECT_EQ(callF(*fitting), 1);
+    EXPECT_EQ(callF(pair, yes), 2);
+    EXPECT_EQ(errorOf([&] { callF(x); }), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(errorOf([&] { callF(x, yes); }), "VELMARA:dispatch:noMatch");
+    expectMessage([&] { callF(pair); }, {"VELMARA:dispatch:noMatch: ", "f(a: A): a: needs one object, not 1-by-2"});
     hvm().deleteObjects(a.get());
-    EXPECT_EQ(errorOf([&] { callF({a.get()}); }), "VELMARA:object:invalid");
+    EXPECT_EQ(errorOf([&] { callF(a); }), "VELMARA:object:invalid");
 }
 
 TEST_F(DispatchTest, MembersOpenToCalls)
@@ -260,17 +242,15 @@ TEST_F(DispatchTest, MembersOpenToCalls)
                                   [](Call const& call) { call.give(COSValue(hvCreateCellMatrix(1, 1))); }));
     }));
     ArrayPtr const m = hvm().construct("M"), one = number(1);
-    auto const errorOfCall = [&](char const* name) { return errorOf([&] { hvm().call(m.get(), name); }); };
-    EXPECT_EQ(errorOfCall("hidden"), "VELMARA:member:access");
-    EXPECT_EQ(errorOfCall("mixed"), "VELMARA:dispatch:noMatch");
+    using Case = std::pair<char const*, char const*>;
+    for (auto const& [name, error] :
+         {Case{"hidden", "member:access"}, Case{"mixed", "dispatch:noMatch"}, Case{"abstract", "member:abstract"},
+          Case{"missing", "member:unknown"}, Case{"lies", "result:type"}, Case{"liesMore", "result:type"}})
+        EXPECT_EQ(errorOf([&, name = name] { hvm().call(m.get(), name); }), std::string("VELMARA:") + error) << name;
     EXPECT_EQ(scalar<double>(hvm().call(m.get(), "mixed", inputs(one))), 2);
-    EXPECT_EQ(errorOfCall("abstract"), "VELMARA:member:abstract");
-    EXPECT_EQ(errorOfCall("missing"), "VELMARA:member:unknown");
     EXPECT_EQ(scalar<double>(hvm().call(m.get(), "static", inputs(one))), 3);
     EXPECT_EQ(errorOf([&] { hvm().callStatic("M", "member"); }), "VELMARA:member:notStatic");
     EXPECT_EQ(hvm().call(m.get(), "nothing"), nullptr);
-    EXPECT_EQ(errorOfCall("lies"), "VELMARA:result:type");
-    EXPECT_EQ(errorOfCall("liesMore"), "VELMARA:result:type");
     EXPECT_EQ(errorOf([&] { hvm().call(one.get(), "member"); }), "VELMARA:object:notObject");
     ArrayPtr const none(orbis::omCreateORBISMatrix(0, 0, "M"));
     EXPECT_EQ(scalar<double>(hvm().call(none.get(), "member")), 4) << "the method itself decides about a null object";

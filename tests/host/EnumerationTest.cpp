@@ -10,6 +10,7 @@ using namespace orbis::additions;
 using orbis::COSClass;
 using orbis::COSInterfacePtr;
 using texts::strings;
+constexpr auto text = texts::characters;
 using velmara::ArrayPtr;
 
 namespace {
@@ -58,18 +59,13 @@ protected:
         }));
     }
 
-    static ArrayPtr text(char16_t const* text) { return ArrayPtr(hvCreateString_UTF16(text)); }
-
     static ArrayPtr doubles(std::vector<double> const& values) { return matrix(1, values.size(), values); }
     static ArrayPtr nothing() { return ArrayPtr(createMatrix(0, 0, hvDOUBLE_CLASS)); }
 
     template <class... A>
-    static ArrayPtr cells(A... contents)
+    static ArrayPtr cells(A const&... contents)
     {
-        ArrayPtr array(hvCreateCellMatrix(1, sizeof...(A)));
-        std::size_t i = 0;
-        (hvSetCell(array.get(), i++, contents.release()), ...);
-        return array;
+        return texts::cells({contents.get()...});
     }
 
     static ArrayPtr objects(std::vector<char const*> const& names, char const* className = "t.Color")
@@ -104,14 +100,10 @@ std::string const refusal = "needs one of Red, Grün, Crimson, Blue, not ";
 TEST_F(EnumerationTest, ObjectsTextAndNumbersMeanEnumerators)
 {
     double const nan = std::numeric_limits<double>::quiet_NaN();
-    struct Case {
-        ArrayPtr input;
-        std::string one;
-        std::string many; // as for one where it is empty
-    };
     std::string const first = "element 0 (counted from 0): " + refusal,
                       second = "element 1 (counted from 0): " + refusal;
-    Case cases[] = {
+    // As one and as many; both are the same where the latter is empty.
+    std::tuple<ArrayPtr, std::string, std::string> const cases[] = {
         {objects({"Crimson"}), "Red ", ""},
         {text(u"Grün"), "Grün ", ""},
         {strings({u"Crimson"}), "Red ", ""},
@@ -141,25 +133,21 @@ TEST_F(EnumerationTest, ObjectsTextAndNumbersMeanEnumerators)
         {cells(objects({"Red", "Blue"})), refusal + "cell 1-by-1", first + "t.Color 1-by-2"},
         {cells(objects({nullptr})), refusal + "cell 1-by-1", first + "a null object"},
     };
-    for (Case const& c : cases) {
-        EXPECT_EQ(answer("t.one", c.input), c.one);
-        EXPECT_EQ(answer("t.many", c.input) + (c.many == " " ? " " : ""), c.many.empty() ? c.one : c.many) << c.one;
+    for (auto const& [input, one, many] : cases) {
+        EXPECT_EQ(answer("t.one", input), one);
+        EXPECT_EQ(answer("t.many", input) + (many == " " ? " " : ""), many.empty() ? one : many) << one;
     }
 }
 
-TEST_F(EnumerationTest, TheBestFitIsChosen)
+TEST_F(EnumerationTest, TheBestOverloadIsChosen)
 {
-    std::pair<ArrayPtr, char const*> cases[] = {{objects({"Red"}), "t.Color"},
-                                                {objects({"Red", "Red"}), "t.Color vector"},
-                                                {text(u"Red"), "t.Color"},
-                                                {text(u"Purple"), "any"},
-                                                {doubles({1}), "double scalar"},
-                                                {matrix<std::int8_t>(1, 1, {9}), "double scalar"},
-                                                {strings({u"Red"}), "t.Color"},
-                                                {strings({u"Red", u"Blue"}), "t.Color vector"},
-                                                {cells(text(u"Red")), "t.Color vector"},
-                                                {objects({}), "t.Color vector"}};
-    for (auto const& [input, chosen] : cases)
+    using Case = std::pair<ArrayPtr, char const*>;
+    for (auto const& [input, chosen] :
+         {Case{objects({"Red"}), "t.Color"}, Case{objects({"Red", "Red"}), "t.Color vector"},
+          Case{text(u"Red"), "t.Color"}, Case{text(u"Purple"), "any"}, Case{doubles({1}), "double scalar"},
+          Case{matrix<std::int8_t>(1, 1, {9}), "double scalar"}, Case{strings({u"Red"}), "t.Color"},
+          Case{strings({u"Red", u"Blue"}), "t.Color vector"}, Case{cells(text(u"Red")), "t.Color vector"},
+          Case{objects({}), "t.Color vector"}})
         EXPECT_EQ(answer("t.chosen", input), chosen);
 }
 
@@ -167,7 +155,7 @@ TEST_F(EnumerationTest, OneObjectForEachEnumeratorAndMachine)
 {
     COSInterfacePtr const red = getEnumerator("t.Color", "Red");
     ArrayPtr const again = hvm().getEnumerator("t.Color", "Crimson");
-    EXPECT_EQ(orbis::omGetArrayElement(again.get(), 0), static_cast<orbis::COSInterface*>(red));
+    EXPECT_EQ(objectIn(again), static_cast<orbis::COSInterface*>(red));
     EXPECT_NE(getEnumerator("t.Color", "Blue"), static_cast<orbis::COSInterface*>(red));
     EXPECT_EQ(getEnumerator("t.Color", "Purple"), nullptr);
     EXPECT_EQ(getEnumerator("t.Other", "Red"), nullptr);
@@ -176,7 +164,7 @@ TEST_F(EnumerationTest, OneObjectForEachEnumeratorAndMachine)
     EXPECT_EQ(errorOf([&] { hvm().getEnumerator("t.Other", "Red"); }), "VELMARA:enumeration:notEnumeration");
     EXPECT_EQ(describeEnumerator(nullptr), nullptr);
     ArrayPtr const other = hvm().construct("t.Other");
-    EXPECT_EQ(describeEnumerator(orbis::omGetArrayElement(other.get(), 0)), nullptr);
+    EXPECT_EQ(describeEnumerator(objectIn(other)), nullptr);
     Enumerator const& blue = *describeEnumerator(getEnumerator("t.Color", "Blue"));
     EXPECT_EQ(std::pair(blue.value, blue.position), std::pair(std::int64_t(1) << 40, std::size_t(3)));
 
@@ -188,12 +176,11 @@ TEST_F(EnumerationTest, OneObjectForEachEnumeratorAndMachine)
         foreign = second.getEnumerator("t.Color", "Red");
         EXPECT_FALSE(velmara::isSameObject(foreign.get(), again.get()));
     }
-    EXPECT_EQ(answer("t.many", cells(ArrayPtr(hvCreateSharedDataCopy(foreign.get())))),
-              "element 0 (counted from 0): " + refusal + "t.Color 1-by-1");
+    EXPECT_EQ(answer("t.many", cells(foreign)), "element 0 (counted from 0): " + refusal + "t.Color 1-by-1");
     EXPECT_EQ(errorOf([&] { hvm().callFunction("t.one", inputs(foreign)); }), "VELMARA:object:otherVirtualMachine");
 }
 
-TEST_F(EnumerationTest, EndsWithItsClass)
+TEST_F(EnumerationTest, EnumeratorsAreDestroyedWithTheirClass)
 {
     COSInterfacePtr const red = getEnumerator("t.Color", "Red");
     ArrayPtr const held = hvm().getEnumerator("t.Color", "Red");
@@ -210,11 +197,7 @@ TEST_F(EnumerationTest, EndsWithItsClass)
 
 TEST_F(EnumerationTest, WrongDescriptionsAreRefused)
 {
-    struct Case {
-        char const* reason;
-        std::function<void(COSClass*)> describe;
-    };
-    Case const cases[] = {
+    std::pair<char const*, std::function<void(COSClass*)>> const cases[] = {
         {"described: Enumeration \"Bad\" has no enumerators", [](COSClass*) {}},
         {"An enumerator of \"Bad\" needs a name", [](COSClass* cls) { addEnumerator(cls, "", 1); }},
         {"An enumerator of \"Bad\" needs a name", [](COSClass* cls) { addEnumerator(cls, nullptr, 1); }},
@@ -230,12 +213,12 @@ TEST_F(EnumerationTest, WrongDescriptionsAreRefused)
                  addEnumerator(cls, ("e" + std::to_string(i)).c_str(), i);
          }},
     };
-    for (Case const& c : cases) {
+    for (auto const& [reason, describe] : cases) {
         velmara::Hvm machine;
         velmara::Hvm::Scope const scope(machine);
         publish("t");
-        COSClass::addGlobalClass(new Enumeration("Bad", c.describe));
-        expectMessage([&] { machine.describeClass("Bad"); }, {c.reason});
+        COSClass::addGlobalClass(new Enumeration("Bad", describe));
+        expectMessage([&] { machine.describeClass("Bad"); }, {reason});
     }
     described::publish(new described::Class("Plain", addColors));
     described::publish(new described::Class("Shade", [](COSClass* cls) { described::setSuperclass(cls, "t.Color"); }));

@@ -1,6 +1,5 @@
 #include "HvmTest.hpp"
 #include "host/TestDescriptors.hpp"
-#include "host/messageIdOf.hpp"
 
 using namespace described;
 using orbis::COSInterfacePtr;
@@ -11,7 +10,7 @@ using velmara::ArrayPtr;
 
 namespace {
 
-/// "Left" and "Right" below "Base", and "Other"; the log has the first letter of each object that ended.
+/// "Left" and "Right" below "Base", and "Other"; the log has the first letter of each destroyed object.
 class ObjectArrayTest : public HvmTest {
 protected:
     ObjectArrayTest()
@@ -22,14 +21,12 @@ protected:
                 info->describe = [](orbis::COSClass* cls) { setSuperclass(cls, "Base"); };
             info->destroy = [this, name](COSInterface*, void*) {
                 log_ += *name;
-                if (auto const then = std::exchange(whenEnded_, nullptr))
+                if (auto const then = std::exchange(whenDestroyed_, nullptr))
                     then();
             };
             publish(info);
         }
     }
-
-    void TearDown() override { endHvm(); } // objects that end write to the log
 
     COSInterfacePtr object(char const* className) { return omGetArrayElement(hvm().construct(className).get(), 0); }
 
@@ -39,7 +36,7 @@ protected:
     }
 
     std::string log_;
-    std::function<void()> whenEnded_;
+    std::function<void()> whenDestroyed_;
 };
 
 } // namespace
@@ -118,12 +115,12 @@ TEST_F(ObjectArrayTest, ElementsAreOfTheArraysClass)
     EXPECT_EQ(velmara::className(empty.get()), "Right");
 }
 
-TEST_F(ObjectArrayTest, AnObjectThatEndsMayUseWhatHeldIt)
+TEST_F(ObjectArrayTest, ADestroyedObjectMayUseItsFormerHolder)
 {
     ArrayPtr const row = matrix(2, "Other");
     COSInterfacePtr handle = object("Other");
     omSetArrayElement(row.get(), 0, object("Other"));
-    whenEnded_ = [&] {
+    whenDestroyed_ = [&] {
         EXPECT_EQ(omGetArrayElement(row.get(), 0), static_cast<COSInterface*>(handle));
         omSetArrayElement(row.get(), 0, nullptr);
     };
@@ -131,7 +128,7 @@ TEST_F(ObjectArrayTest, AnObjectThatEndsMayUseWhatHeldIt)
     EXPECT_EQ(omGetArrayElement(row.get(), 0), nullptr);
 
     COSInterfacePtr const next = object("Other");
-    whenEnded_ = [&] { EXPECT_EQ(handle, static_cast<COSInterface*>(next)); };
+    whenDestroyed_ = [&] { EXPECT_EQ(handle, static_cast<COSInterface*>(next)); };
     handle = next;
     EXPECT_EQ(log_, "OO");
     EXPECT_EQ(next->getExternalReferenceCount(), 2);

@@ -1,6 +1,5 @@
 #include "HvmTest.hpp"
 #include "host/TestDescriptors.hpp"
-#include "host/messageIdOf.hpp"
 
 #include <algorithm>
 #include <stdexcept>
@@ -37,8 +36,6 @@ protected:
         }
     }
 
-    static COSInterfacePtr objectIn(ArrayPtr const& array) { return orbis::omGetArrayElement(array.get(), 0); }
-
     std::string log_;
     char failing_ = 0;
     std::function<void(char, COSInterface*)> onDestroy_;
@@ -46,7 +43,7 @@ protected:
 
 } // namespace
 
-TEST_F(ObjectTest, InstanceDataIsMadeFromTheBaseAndDestroyedToTheBaseOnce)
+TEST_F(ObjectTest, InstanceDataIsCreatedFromTheBaseAndDestroyedToTheBaseOnce)
 {
     publishHierarchy();
     ArrayPtr c = hvm().construct("C");
@@ -83,7 +80,7 @@ TEST_F(ObjectTest, SuperclassesWithoutNativeObjectsHaveThatOfTheObjectsClass)
     }
 }
 
-TEST_F(ObjectTest, EndsOnceInEveryOrder)
+TEST_F(ObjectTest, ObjectsAreDestroyedOnceInEveryOrder)
 {
     publishHierarchy();
     ArrayPtr deleted = hvm().construct("A"), atEnd = hvm().construct("A"), invalid = hvm().construct("A");
@@ -107,16 +104,16 @@ TEST_F(ObjectTest, EndsOnceInEveryOrder)
     EXPECT_EQ(objectIn(atEnd)->getNativeObject("A"), nullptr);
 }
 
-TEST_F(ObjectTest, ReferencesMayMoveWhileAnObjectEnds)
+TEST_F(ObjectTest, ReferencesMayMoveWhileAnObjectIsDestroyed)
 {
     publishHierarchy();
     COSInterfacePtr kept;
     ArrayPtr other = hvm().construct("A");
     onDestroy_ = [&](char, COSInterface* object) {
-        kept = object; // taken and given back
+        kept = object; // acquired and released
         kept = nullptr;
         if (other)
-            std::exchange(other, nullptr).reset(); // ends another one
+            std::exchange(other, nullptr).reset(); // destroys another one
         kept = object;
     };
     hvm().construct("A").reset();
@@ -126,7 +123,7 @@ TEST_F(ObjectTest, ReferencesMayMoveWhileAnObjectEnds)
     kept = nullptr;
 }
 
-TEST_F(ObjectTest, RetractingWhileEndingForgetsTheRest)
+TEST_F(ObjectTest, RetractingDuringDestructionSkipsTheRest)
 {
     publishHierarchy();
     onDestroy_ = [](char cls, COSInterface* object) {
@@ -138,7 +135,7 @@ TEST_F(ObjectTest, RetractingWhileEndingForgetsTheRest)
     EXPECT_EQ(log_, "ABCcb");
 }
 
-TEST_F(ObjectTest, FailedInstanceDataIsTakenBack)
+TEST_F(ObjectTest, FailedInstanceDataIsRolledBack)
 {
     publishHierarchy();
     failing_ = 'C';
@@ -150,7 +147,7 @@ TEST_F(ObjectTest, FailedInstanceDataIsTakenBack)
         failing_ = at;
         EXPECT_THROW(derived->initializeInstance(twice), std::runtime_error);
     }
-    EXPECT_EQ(log_, "ABCbaABaA") << "what was taken back once is not taken back again";
+    EXPECT_EQ(log_, "ABCbaABaA") << "rolled back once only";
     failing_ = 0;
     orbis::COSClass* const cls = orbis::COSClass::getClass("B");
     COSInterfacePtr const object = cls->newInstance();
@@ -161,7 +158,7 @@ TEST_F(ObjectTest, FailedInstanceDataIsTakenBack)
     EXPECT_EQ(log_, "ABCbaABaAAB");
 }
 
-TEST_F(ObjectTest, MadeInvalidOrEndedWhileItsDataIsMade)
+TEST_F(ObjectTest, InvalidatedOrDestroyedWhileItsDataIsCreated)
 {
     auto* const info = new Class("S");
     ArrayPtr object;
@@ -205,7 +202,7 @@ TEST_F(ObjectTest, ConstructorsRunOnAnInitialisedObjectAndFailCleanly)
     EXPECT_EQ(errorOf([&] { construct({minus.get()}); }), "VELMARA:native:exception");
     EXPECT_EQ(log_, "N");
     EXPECT_EQ(errorOf([&] { construct({}); }), "VELMARA:dispatch:noMatch");
-    EXPECT_EQ(log_, "N") << "no object was made for a refused call";
+    EXPECT_EQ(log_, "N") << "no object was created for a refused call";
     auto* const abstract = new Class("Abstract");
     abstract->is_abstract = true;
     publish(abstract);
@@ -218,8 +215,7 @@ TEST_F(ObjectTest, LiveObjectsAreListedWithWhoHoldsThem)
     publishHierarchy();
     EXPECT_TRUE(hvm().objects().empty());
     ArrayPtr const b = hvm().construct("B"), first = hvm().construct("A"), second = hvm().construct("A");
-    ArrayPtr const pair(orbis::omCreateORBISMatrix(1, 2, "A"));
-    orbis::omSetArrayElement(pair.get(), 0, objectIn(first));
+    ArrayPtr const pair = rowOf("A", {&first, nullptr});
     COSInterfacePtr const strong = objectIn(second);
     COSInterfacePtr weak = objectIn(second);
     weak.setReferenceType(orbis::COSReferenceType::Weak);

@@ -1,6 +1,5 @@
 #include "HvmTest.hpp"
 #include "host/TestDescriptors.hpp"
-#include "host/messageIdOf.hpp"
 
 #include "orbis/COSTypeRepository.hpp"
 
@@ -48,14 +47,14 @@ TEST_F(PackageTest, PopulatedWhenFirstAskedForWhatItHolds)
     EXPECT_EQ(hvm().describeFunction("p.f").signature, "result = f(a: double scalar) -> double scalar");
 }
 
-TEST_F(PackageTest, NestedNamesFindOrMakeTheirParents)
+TEST_F(PackageTest, NestedNamesFindOrCreateTheirParents)
 {
     COSPackage::addPackage(new Package("a.b.c", [](COSPackage* package) { package->addClass(new Class("a.b.c.C")); }));
     EXPECT_EQ(hvm().describePackage("a").packages, (std::vector<std::string>{"a.b"}));
     bool isPopulated = false;
     COSPackage::addPackage(new Package("a.b", [&](COSPackage*) { isPopulated = true; }));
     EXPECT_EQ(hvm().lookUp("a.b.c.C"), NameKind::Class);
-    EXPECT_TRUE(isPopulated) << "a parent that was only made is taken over by one that is described";
+    EXPECT_TRUE(isPopulated) << "a described package replaces an implied parent";
     for (char const* refused : {"a.b", "a.b.c", "a.b.c.C"})
         EXPECT_EQ(messageIdOf([&] { COSPackage::addPackage(new Package(refused)); }), "VELMARA:package:duplicate");
     for (char const* refused : {"", ".a", "a.", "a..d"})
@@ -66,7 +65,7 @@ TEST_F(PackageTest, NestedNamesFindOrMakeTheirParents)
     EXPECT_EQ(messageIdOf([&] { b->addFunction(answering("c", {}, 1)); }), "VELMARA:package:duplicate");
     COSPackage::removePackage("a.b.c");
     COSPackage::removePackage("a.b");
-    EXPECT_EQ(hvm().lookUp("a"), NameKind::None) << "a parent that nobody described goes with what it held";
+    EXPECT_EQ(hvm().lookUp("a"), NameKind::None) << "an implied parent is removed with its content";
     COSPackage::removePackage("a");
 }
 
@@ -98,7 +97,7 @@ TEST_F(PackageTest, FailedPopulationDropsWhatWasAddedAndIsTriedAgain)
     EXPECT_EQ(record.classes, (std::vector<std::string>{"p.C"}));
 }
 
-TEST_F(PackageTest, RemovalEndsObjectsBeforeTheirClassInfo)
+TEST_F(PackageTest, RemovalDestroysObjectsBeforeTheirClassInfo)
 {
     std::string log;
     struct Logged : Class {
@@ -116,7 +115,7 @@ TEST_F(PackageTest, RemovalEndsObjectsBeforeTheirClassInfo)
         };
         info->destroy = [&](COSInterface*, void*) {
             EXPECT_EQ(orbis::COSClass::getClass("p.q.C"), nullptr);
-            COSPackage::removePackage("p.q"); // is going already
+            COSPackage::removePackage("p.q"); // is being removed already
             EXPECT_EQ(messageIdOf([] { COSPackage::addPackage(new Package("p.new")); }), "VELMARA:package:closed");
             log += "object ";
         };

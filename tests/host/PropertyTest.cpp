@@ -8,25 +8,23 @@ using velmara::ArrayPtr;
 
 namespace {
 
-/// A class "P" with properties of every kind. Values that were read and not given back are counted.
+/// A class "P" with properties of every kind. Values that were read and not released are counted.
 class PropertyTest : public HvmTest {
 protected:
     void publishProperties()
     {
         publish(new Class("P", [this](orbis::COSClass* cls) {
-            cls->addProperty(make(
-                "size", "int32 scalar", [this] { return COSValue(value_); }, true));
-            cls->addProperty(make(
-                "readOnly", "char vector", [] { return COSValue(hvCreateString("text")); }, false));
-            cls->addProperty(make("writeOnly", "int32 scalar", {}, true));
-            cls->addProperty(make(
-                "shared", "int32 scalar", [this] { return COSValue(value_); }, true, true));
-            cls->addProperty(make(
-                "lies", "double scalar", [] { return COSValue(hvCreateString("text")); }, false));
-            cls->addProperty(make(
-                "unknown", "no.such.Class", [] { return COSValue(1.0); }, false));
-            cls->addProperty(make(
-                "fails", "double scalar", []() -> COSValue { throw std::runtime_error("no"); }, false));
+            auto const add = [&](auto... how) { cls->addProperty(make(how...)); };
+            auto const value = [this] { return COSValue(value_); };
+            auto const fail = []() -> COSValue { throw std::runtime_error("no"); };
+            auto const text = [] { return COSValue(hvCreateString("text")); };
+            add("size", "int32 scalar", value, true);
+            add("readOnly", "char vector", text, false);
+            add("writeOnly", "int32 scalar", nullptr, true);
+            add("shared", "int32 scalar", value, true, true);
+            add("lies", "double scalar", text, false);
+            add("unknown", "no.such.Class", value, false);
+            add("fails", "double scalar", fail, false);
         }));
     }
 
@@ -49,7 +47,7 @@ protected:
         made->release = [this](COSInterface*, COSValue value) {
             --unreleased_;
             if (value.isArray()) {
-                EXPECT_EQ(value.array()->get_number_of_elements(), 4u) << "the array goes after this";
+                EXPECT_EQ(value.array()->get_number_of_elements(), 4u) << "the array is destroyed after this";
             }
         };
         return made;
@@ -64,27 +62,25 @@ protected:
 TEST_F(PropertyTest, ReadAndWrittenEachOnItsOwnTerms)
 {
     publishProperties();
-    ArrayPtr const p = hvm().construct("P"), seven = number(7), half = number(0.5);
-    auto const readError = [&](char const* name) { return errorOf([&] { hvm().get(p.get(), name); }); };
-    auto const writeError = [&](char const* name, hvArray_tag* value) {
-        return errorOf([&] { hvm().set(p.get(), name, value); });
-    };
-    EXPECT_EQ(writeError("size", seven.get()), "");
-    EXPECT_EQ(scalar<std::int32_t>(hvm().get(p.get(), "size")), 7);
-    EXPECT_EQ(writeError("size", half.get()), "VELMARA:property:value");
-    EXPECT_EQ(writeError("size", nullptr), "VELMARA:dispatch:nullInput");
-    EXPECT_EQ(hvm().get(p.get(), "readOnly")->get_number_of_elements(), 4u);
-    EXPECT_EQ(writeError("readOnly", seven.get()), "VELMARA:property:readOnly");
-    EXPECT_EQ(readError("writeOnly"), "VELMARA:property:writeOnly");
-    EXPECT_EQ(writeError("writeOnly", seven.get()), "");
-    EXPECT_EQ(readError("lies"), "VELMARA:result:type");
-    EXPECT_EQ(readError("unknown"), "VELMARA:property:dataType");
-    EXPECT_EQ(readError("fails"), "VELMARA:native:exception");
-    EXPECT_EQ(readError("missing"), "VELMARA:property:unknown");
+    ArrayPtr const p = hvm().construct("P"), seven = number(7);
+    auto const read = [&](char const* name) { return hvm().get(p.get(), name); };
+    auto const write = [&](char const* name, ArrayPtr const& value) { hvm().set(p.get(), name, value.get()); };
+    write("size", seven);
+    EXPECT_EQ(scalar<std::int32_t>(read("size")), 7);
+    EXPECT_EQ(read("readOnly")->get_number_of_elements(), 4u);
+    write("writeOnly", seven);
+    using Case = std::pair<char const*, char const*>;
+    for (auto const& [name, error] :
+         {Case{"writeOnly", "property:writeOnly"}, Case{"lies", "result:type"}, Case{"unknown", "property:dataType"},
+          Case{"fails", "native:exception"}, Case{"missing", "property:unknown"}})
+        EXPECT_EQ(errorOf([&, name = name] { read(name); }), std::string("VELMARA:") + error) << name;
     EXPECT_EQ(unreleased_, 0);
+    EXPECT_EQ(errorOf([&] { write("size", number(0.5)); }), "VELMARA:property:value");
+    EXPECT_EQ(errorOf([&] { write("size", nullptr); }), "VELMARA:dispatch:nullInput");
+    EXPECT_EQ(errorOf([&] { write("readOnly", seven); }), "VELMARA:property:readOnly");
     hvm().deleteObjects(p.get());
-    EXPECT_EQ(readError("size"), "VELMARA:object:invalid");
-    EXPECT_EQ(writeError("size", seven.get()), "VELMARA:object:invalid");
+    EXPECT_EQ(errorOf([&] { read("size"); }), "VELMARA:object:invalid");
+    EXPECT_EQ(errorOf([&] { write("size", seven); }), "VELMARA:object:invalid");
 }
 
 TEST_F(PropertyTest, StaticOnesNeedNoObject)
@@ -123,11 +119,7 @@ TEST_F(PropertyTest, EachMisuseHasAnErrorOfItsOwn)
         add("plain", true, true, MemberAccess::Public, false);
     }));
     ArrayPtr const q = hvm().construct("Q"), value = number(1);
-    struct Case {
-        char const* name;
-        char const* reading;
-        char const* writing;
-    };
+    using Case = std::tuple<char const*, char const*, char const*>;
     for (auto const& [name, reading, writing] :
          {Case{"private", "getAccess", "setAccess"}, Case{"protected", "getAccess", "setAccess"},
           Case{"privateReader", "getAccess", "setAccess"}, Case{"abstract", "abstract", "abstract"},
@@ -144,8 +136,7 @@ TEST_F(PropertyTest, EachMisuseHasAnErrorOfItsOwn)
 
 namespace {
 
-// The questions in the order of their declaration; the answers alternate, so that none stands in another's place
-// unnoticed.
+// The questions in the order of their declaration; the answers alternate, so that swapped ones are noticed.
 // clang-format off
 #define QUESTIONS(ask)                                                                                                 \
     ask(char const*, getName, "asked") ask(char const*, getDescription, "short")                                       \
@@ -178,7 +169,7 @@ struct Asked final : described::Property {
 
 } // namespace
 
-TEST_F(PropertyTest, TheDescriptorIsAskedOnceInTheOrderOfItsDeclaration)
+TEST_F(PropertyTest, DescriptorsAreAskedOnceInTheOrderOfTheirDeclaration)
 {
     publish(new Class("R", [](orbis::COSClass* cls) { cls->addProperty(new Asked); }));
     Asked::questions.clear();
@@ -195,7 +186,7 @@ TEST_F(PropertyTest, TheDescriptorIsAskedOnceInTheOrderOfItsDeclaration)
                  record.isGrandfathered || record.canContainInterfaces);
 }
 
-TEST_F(PropertyTest, ObjectsTellWhatTheyReferTo)
+TEST_F(PropertyTest, ReferencesOfAnObjectAreListed)
 {
     /// Yields one object as often as it is counted.
     struct Repeated final : orbis::EnumerationImplementation<orbis::COSInterface*> {
@@ -220,7 +211,7 @@ TEST_F(PropertyTest, ObjectsTellWhatTheyReferTo)
         add("private", true, orbis::MemberAccess::Private);
     }));
     ArrayPtr const s = hvm().construct("S"), other = hvm().construct("S");
-    target = orbis::omGetArrayElement(other.get(), 0);
+    target = objectIn(other);
     auto const references = hvm().references(s.get());
     ASSERT_EQ(references.size(), 4u);
     for (std::size_t i = 0; i < 4; ++i) {

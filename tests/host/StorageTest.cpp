@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "messageIdOf.hpp"
 
 #include "libkwfoundation_usm/Detail.hpp"
 
@@ -13,7 +12,7 @@ using Storage = foundation::usm::Detail<foundation::usm::scope::Hvm>;
 struct Value {
     std::string name;
     std::string* log;
-    std::function<void()> atEnd = [] {};
+    std::function<void()> whenDestroyed = [] {};
 };
 
 Storage::Holder holder(Value value)
@@ -21,7 +20,7 @@ Storage::Holder holder(Value value)
     return {new Value(std::move(value)), [](void* memory) {
                 std::unique_ptr<Value> const ending(static_cast<Value*>(memory));
                 *ending->log += ending->name;
-                ending->atEnd();
+                ending->whenDestroyed();
             }};
 }
 
@@ -32,8 +31,6 @@ std::string nameOf(Storage::Holder const* found)
 
 class StorageTest : public HvmTest {
 protected:
-    void TearDown() override { endHvm(); } // what is stored writes to the log
-
     std::uint64_t const id_ = Storage::getNextID(typeid(Value));
     std::uint64_t const otherID_ = Storage::getNextID(typeid(Value));
     std::type_info const& type_ = typeid(Value);
@@ -73,7 +70,7 @@ TEST_F(StorageTest, FindOrInsertKeepsTheFirstAndInsertReplaces)
     EXPECT_EQ(log_, "a");
 }
 
-TEST_F(StorageTest, ValuesGoInReverseOrderAndAreNotFoundThen)
+TEST_F(StorageTest, ValuesAreDestroyedInReverseOrderAndNotFoundThen)
 {
     auto const noteFound = [this] {
         log_ += '(' + nameOf(Storage::find(id_, type_)) + nameOf(Storage::find(otherID_, type_)) +

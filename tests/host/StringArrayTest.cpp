@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "messageIdOf.hpp"
 
 #include "libkwi18n/libkwi18n.hpp"
 #include "orbis/COSDataType.hpp"
@@ -19,7 +18,7 @@ namespace {
 
 constexpr char16_t const* missing = nullptr;
 
-/// Texts on both sides of what stands in an element itself.
+/// Texts shorter and longer than an element's inline storage.
 std::u16string const texts[] = {
     u"",
     u"x",
@@ -76,7 +75,7 @@ TEST_F(StringArrayTest, ElementsAreTextOrMissing)
         expectTexts(stringsOf(rows, columns));
     }
     ArrayPtr const strings = stringsOf(1, 7);
-    for (std::size_t from = 0; from < 7; ++from) { // an element's own text, also one that goes
+    for (std::size_t from = 0; from < 7; ++from) { // an element's own text, also one that is replaced
         setString(strings.get(), 2, String::getString(strings.get()).getText(from));
         setString(strings.get(), 2, textAt(strings, 2));
     }

@@ -189,7 +189,7 @@ struct Package : orbis::COSPackageInfo {
     }
 };
 
-/// Publishes a class "t.NAME" without a package info of its own.
+/// Publishes a class that belongs to no package info.
 inline void publish(Class* info)
 {
     orbis::COSClass::addGlobalClass(info);

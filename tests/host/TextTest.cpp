@@ -29,12 +29,7 @@ std::string taken(char* text, void (*release)(void*))
 
 TEST_F(TextArrayTest, CharacterArraysHoldUtf16)
 {
-    struct {
-        velmara::ArrayPtr array;
-        std::size_t rows, columns;
-        std::string utf8;
-        std::u16string utf16;
-    } const cases[] = {
+    std::tuple<velmara::ArrayPtr, std::size_t, std::size_t, std::string, std::u16string> const cases[] = {
         {velmara::ArrayPtr(hvCreateString("gr\xC3\xBC\xC3\x9F")), 1, 4, "gr\xC3\xBC\xC3\x9F", u"gr\xFC\xDF"},
         {velmara::ArrayPtr(hvCreateString("a\xFF")), 1, 2, "a\xEF\xBF\xBD", u"a\xFFFD"},
         {velmara::ArrayPtr(hvCreateString_UTF16(u"\xD83D\xDE00")), 1, 2, "\xF0\x9F\x98\x80", u"\xD83D\xDE00"},
@@ -60,7 +55,7 @@ TEST_F(TextArrayTest, CharacterArraysHoldUtf16)
 }
 
 // ASCII is copied in blocks of several sizes: all lengths around them, and what is no ASCII at every place. One
-// replacement stands for each maximal part that could have begun a character.
+// replacement represents each maximal part that could have begun a character.
 TEST_F(TextArrayTest, TextOfEveryLengthIsWholeInBothForms)
 {
     std::tuple<std::string, std::u16string, std::string> const others[] = {
@@ -104,7 +99,7 @@ TEST_F(TextArrayTest, TextOfEveryLengthIsWholeInBothForms)
     EXPECT_EQ(IUserException::ToUstringImpl(nullptr), u"");
 }
 
-TEST_F(TextArrayTest, TextsAndArraysEndOnAnyThread)
+TEST_F(TextArrayTest, TextsAndArraysAreFreedOnAnyThread)
 {
     std::vector<velmara::ArrayPtr> arrays;
     std::vector<char*> copies;
@@ -121,7 +116,7 @@ TEST_F(TextArrayTest, TextsAndArraysEndOnAnyThread)
         EXPECT_EQ(taken(std::exchange(copies[i], nullptr), hvFreeEx), std::to_string(i % 3000));
     std::thread([&] { arrays.clear(); }).join();
     EXPECT_EQ(velmara::liveCounts().arrays, 0);
-    std::thread(make).join(); // in memory that was given back meanwhile
+    std::thread(make).join(); // in memory that was freed meanwhile
     std::thread([&] {
         for (char* const copy : copies)
             hvFree(copy);

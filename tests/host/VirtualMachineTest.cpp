@@ -1,6 +1,5 @@
 #include "HvmTest.hpp"
 #include "host/TestDescriptors.hpp"
-#include "host/messageIdOf.hpp"
 
 #include "libkwfoundation_usm/Detail.hpp"
 #include "orbis/COSTypeRepository.hpp"
@@ -14,17 +13,17 @@ namespace {
 
 class VirtualMachineTest : public HvmTest {};
 
-std::string* endingLog = nullptr; // for deleters, which are plain functions
+std::string* destructionLog = nullptr; // for deleters, which are plain functions
 
 } // namespace
 
-TEST_F(VirtualMachineTest, EndsObjectsThenPackagesThenStorage)
+TEST_F(VirtualMachineTest, DestroysObjectsThenPackagesThenStorage)
 {
     std::string log;
-    endingLog = &log;
+    destructionLog = &log;
     struct Logged : Class {
         using Class::Class;
-        ~Logged() override { *endingLog += Storage::isRequiredContextActive() ? "info " : "late info "; }
+        ~Logged() override { *destructionLog += Storage::isRequiredContextActive() ? "info " : "late info "; }
     };
     auto* const info = new Logged("A");
     info->destroy = [&](COSInterface*, void*) {
@@ -35,23 +34,23 @@ TEST_F(VirtualMachineTest, EndsObjectsThenPackagesThenStorage)
     publish(info);
     static std::uint64_t const id = Storage::getNextID(typeid(std::string));
     Storage::insert(id, typeid(std::string), Storage::Holder(&log, [](void*) {
-                        *endingLog += Storage::isRequiredContextActive() ? "early " : "storage ";
+                        *destructionLog += Storage::isRequiredContextActive() ? "early " : "storage ";
                         orbis::COSTypeRepository::removeGlobalType("still there");
                         EXPECT_EQ(orbis::COSClass::getClass("A"), nullptr);
                     }));
     ArrayPtr const left = hvm().construct("A");
-    COSInterfacePtr handle = orbis::omGetArrayElement(left.get(), 0);
+    COSInterfacePtr handle = objectIn(left);
     endHvm();
     EXPECT_EQ(log, "object info storage ");
     EXPECT_FALSE(velmara::isValid(left.get()));
     handle->setValid(true);
-    EXPECT_FALSE(velmara::isValid(left.get())) << "what has ended stays ended";
+    EXPECT_FALSE(velmara::isValid(left.get())) << "what was destroyed stays destroyed";
     EXPECT_EQ(orbis::COSClass::getClass("A"), nullptr);
     EXPECT_EQ(messageIdOf([] { publish(new Class("B")); }), "VELMARA:hvm:noVirtualMachine");
     EXPECT_EQ(messageIdOf([] { orbis::COSPackage::addPackage(new Package("p")); }), "VELMARA:hvm:noVirtualMachine");
 }
 
-TEST_F(VirtualMachineTest, ObjectsBelongToOneAndEndInIt)
+TEST_F(VirtualMachineTest, ObjectsBelongToOneAndAreDestroyedInIt)
 {
     std::string log;
     auto const publishIn = [&](char const* machine) {
@@ -87,7 +86,7 @@ TEST_F(VirtualMachineTest, ObjectsBelongToOneAndEndInIt)
     EXPECT_EQ(errorOf([&] { hvm().call(foreign.get(), "take"); }), "VELMARA:object:invalid");
 }
 
-TEST_F(VirtualMachineTest, NoScopeComesBackToOneThatHasEnded)
+TEST_F(VirtualMachineTest, NoScopeRestoresADestroyedOne)
 {
     using Scope = velmara::Hvm::Scope;
     auto first = std::make_unique<velmara::Hvm>(), second = std::make_unique<velmara::Hvm>();

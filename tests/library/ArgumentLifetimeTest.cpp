@@ -1,8 +1,6 @@
-#include "HvmTest.hpp"
+#include "library/FunctionsTest.hpp"
 #include "library/texts.hpp"
 
-#include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 #include "orbis/factory/types/DataTypePolicy.hpp"
 
 #include <stdexcept>
@@ -81,48 +79,40 @@ struct orbis::factory::HostDataType<Title> {
 
 namespace {
 
-using ArgumentLifetimeTest = HvmTest;
+using ArgumentLifetimeTest = FunctionsTest;
 
 TEST_F(ArgumentLifetimeTest, HoldersLiveExactlyAsLongAsTheCall)
 {
     static int heldAtCall = 0;
     int& held = Marshaler<WatchedPolicy>::held;
-    registerOrbisPackage("tests", [](COSPackage* package) {
-        publish(package, describeFunctions()
-                             .function("call",
-                                       [](Watched a, char const*, Watched const& b, std::string const& text) {
-                                           heldAtCall = Marshaler<WatchedPolicy>::held;
-                                           if (text == "fail")
-                                               throw std::runtime_error("failed");
-                                           return a.text + b.text + text;
-                                       })
-                             .function("result", [](Watched a, Watched, Watched, Watched) { return a; }));
-    });
-    using Inputs = std::initializer_list<std::u16string_view>;
-    auto const call = [this](char const* function, Inputs texts) {
-        std::vector<ArrayPtr> owners;
-        std::vector<hvArray*> inputs;
-        for (std::u16string_view const text : texts)
-            inputs.push_back(owners.emplace_back(characters(text)).get());
-        return hvm().callFunction(function, inputs);
+    publishFunctions(describeFunctions()
+                         .function("call",
+                                   [](Watched a, char const*, Watched const& b, std::string const& text) {
+                                       heldAtCall = Marshaler<WatchedPolicy>::held;
+                                       if (text == "fail")
+                                           throw std::runtime_error("failed");
+                                       return a.text + b.text + text;
+                                   })
+                         .function("result", [](Watched a, Watched, Watched, Watched) { return a; }));
+    using Inputs = std::array<std::u16string_view, 4>;
+    auto const callWith = [this](char const* function, Inputs t) {
+        return call(function, characters(t[0]), characters(t[1]), characters(t[2]), characters(t[3]));
     };
-    EXPECT_EQ(textOf(call("tests.call", {u"a", u"", u"b", u"c"})), u"abc");
+    EXPECT_EQ(textOf(callWith("call", {u"a", u"", u"b", u"c"})), u"abc");
     EXPECT_EQ(heldAtCall, 2);
     for (Inputs const inputs : {Inputs{u"a", u"", u"b", u"fail"}, Inputs{u"a", u"text", u"refused", u""}}) {
-        EXPECT_EQ(errorOf([&] { call("tests.call", inputs); }), "VELMARA:native:exception");
+        EXPECT_EQ(errorOf([&] { callWith("call", inputs); }), "VELMARA:native:exception");
         EXPECT_EQ(held, 0);
     }
-    // That the array of the result is given back, the fixture's counts tell.
-    EXPECT_EQ(errorOf([&] { call("tests.result", {u"", u"", u"", u""}); }), "VELMARA:native:exception");
+    // That the array of the result is released, the fixture's counts tell.
+    EXPECT_EQ(errorOf([&] { callWith("result", {}); }), "VELMARA:native:exception");
     EXPECT_EQ(held, 0);
 }
 
 TEST_F(ArgumentLifetimeTest, AuthorsNameADataTypeForATypeOfTheirOwn)
 {
-    registerOrbisPackage("tests", [](COSPackage* package) {
-        publish(package, describeFunctions().function("echo", [](Title title) { return title; }));
-    });
-    EXPECT_EQ(textOf(hvm().callFunction("tests.echo", inputs(strings({u"a"})))), u"a");
+    publishFunctions(describeFunctions().function("echo", [](Title title) { return title; }));
+    EXPECT_EQ(textOf(call("echo", strings({u"a"}))), u"a");
     EXPECT_EQ(hvm().describeFunction("tests.echo").inputs.at(0).dataType, "OrbisFactoryString scalar");
 }
 

@@ -1,13 +1,10 @@
-#include "HvmTest.hpp"
+#include "library/FunctionsTest.hpp"
 #include "library/Tally.hpp"
 #include "library/publishClass.hpp"
 #include "library/texts.hpp"
 
-#include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
 #include "orbis/factory/withDefaults.hpp"
-
-#include "orbis/objectArrays.hpp"
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -16,15 +13,14 @@ using velmara::ArrayPtr;
 
 namespace {
 
-using ArrayProxyTest = HvmTest;
+using ArrayProxyTest = FunctionsTest;
 
 TEST_F(ArrayProxyTest, PlainProxiesConvertToTheOneObjectOnly)
 {
     TallyInfo::publishIn("tests");
     ArrayPtr const tally = hvm().construct("tests.Tally"), one = number(1);
-    ArrayPtr const pair(omCreateORBISMatrix(1, 2, "tests.Tally")), empty(omCreateORBISMatrix(0, 0, "tests.Tally"));
-    omSetArrayElement(pair.get(), 0, omGetArrayElement(tally.get(), 0));
-    COSInterfacePtr const object = omGetArrayElement(tally.get(), 0);
+    ArrayPtr const pair = rowOf("tests.Tally", {&tally, nullptr}), empty(omCreateORBISMatrix(0, 0, "tests.Tally"));
+    COSInterfacePtr const object = objectIn(tally);
     COSInterface* const raw = object;
     for (hvArray* const array : {tally.get(), pair.get(), empty.get(), one.get(), static_cast<hvArray*>(nullptr)}) {
         COSInterfacePtr const found = hvArrayProxy(array), foundConst = hvConstArrayProxy(array);
@@ -62,30 +58,26 @@ TEST_F(ArrayProxyTest, CountedProxiesHoldOneReferenceEach)
 TEST_F(ArrayProxyTest, NativeFunctionsTakeAndGiveArrays)
 {
     static Counted kept;
-    registerOrbisPackage("tests", [](COSPackage* package) {
-        publish(package, describeFunctions()
-                             .function("size", [](hvArrayProxy a) { return double(a()->get_number_of_elements()); })
-                             .function("size2", [](hvConstArrayProxy const& a) { return double(a() != nullptr); })
-                             .function("make", [] { return hvArrayProxy(hvCreateString("made")); })
-                             .function("echo", [](double, hvConstArrayProxy a) { return a; })
-                             .function("none", [] { return hvConstArrayProxy(nullptr); })
-                             .function("swap", [](Counted array) {
-                                 std::swap(kept, array);
-                                 return array;
-                             }));
-    });
+    publishFunctions(describeFunctions()
+                         .function("size", [](hvArrayProxy a) { return double(a()->get_number_of_elements()); })
+                         .function("size2", [](hvConstArrayProxy const& a) { return double(a() != nullptr); })
+                         .function("make", [] { return hvArrayProxy(hvCreateString("made")); })
+                         .function("echo", [](double, hvConstArrayProxy a) { return a; })
+                         .function("none", [] { return hvConstArrayProxy(nullptr); })
+                         .function("swap", [](Counted array) {
+                             std::swap(kept, array);
+                             return array;
+                         }));
     for (ArrayPtr const& array : {texts::characters(u"ab"), texts::cells({nullptr, nullptr})}) {
-        EXPECT_EQ(scalar<double>(hvm().callFunction("tests.size", inputs(array))), 2);
-        EXPECT_EQ(scalar<double>(hvm().callFunction("tests.size2", inputs(array))), 1);
-        EXPECT_EQ(hvm().callFunction("tests.swap", inputs(array)), nullptr);
-        EXPECT_EQ(hvm().callFunction("tests.swap", inputs(array)).get(), array.get()) << "with a reference of its own";
+        EXPECT_EQ(scalar<double>(call("size", array)), 2);
+        EXPECT_EQ(scalar<double>(call("size2", array)), 1);
+        EXPECT_EQ(call("swap", array), nullptr);
+        EXPECT_EQ(call("swap", array).get(), array.get()) << "with a reference of its own";
         kept = {};
-        ArrayPtr const one = number(1);
-        EXPECT_EQ(hvm().callFunction("tests.echo", inputs(one, array)).get(), array.get())
-            << "with a reference of its own";
+        EXPECT_EQ(call("echo", number(1), array).get(), array.get()) << "with a reference of its own";
     }
-    EXPECT_EQ(texts::textOf(hvm().callFunction("tests.make")), u"made");
-    EXPECT_EQ(hvm().callFunction("tests.none"), nullptr);
+    EXPECT_EQ(texts::textOf(call("make")), u"made");
+    EXPECT_EQ(call("none"), nullptr);
     for (char const* const function : {"tests.size", "tests.size2", "tests.swap"})
         EXPECT_EQ(hvm().describeFunction(function).inputs.at(0).dataType, "any");
 }

@@ -30,10 +30,7 @@ std::string answers(M const& a)
 
 TEST(MethodAttributes, AnswersFollowTheFlags)
 {
-    struct Case {
-        M attributes;
-        char const* answers;
-    };
+    using Case = std::pair<M, char const*>;
     for (auto const& [attributes, expected] :
          {Case{M(), "LVstadof0"}, Case{M::Unlocked(), "lVstadof0"}, Case{M::Hidden(), "Lvstadof0"},
           Case{M::Indestructable(), "LVstaDof0"}, Case{M::OverridesAll(), "LVstadOf0"},
@@ -63,32 +60,27 @@ TEST(MethodAttributes, DescriptorsPassThemOn)
 
 TEST(PropertyAttributes, EachFlagSetsItsOwnAnswer)
 {
-    using Predicate = bool (P::*)() const;
-    struct Case {
-        P attributes;
-        Predicate predicate;
-    };
-    Case const cases[] = {{P::AbortSet(), &P::isAbortSet},
-                          {P::Abstract(), &P::isAbstract},
-                          {P::CopyAllowed(), &P::isCopyAllowed},
-                          {P::DefaultAllowed(), &P::isDefaultAllowed},
-                          {P::Dependent(), &P::isDependent},
-                          {P::Destructible(), &P::isDestructible},
-                          {P::ForceMembership(), &P::forceMemberProperty},
-                          {P::Grandfathered(), &P::isGrandfathered},
-                          {P::InitAllowed(), &P::isInitAllowed},
-                          {P::InspectAllowed(), &P::isInspectAllowed},
-                          {P::ListenerGetAllowed(), &P::isListenerGetAllowed},
-                          {P::ListenerSetAllowed(), &P::isListenerSetAllowed},
-                          {P::ResetAllowed(), &P::isResetAllowed},
-                          {P::Sealed(), &P::isSealed},
-                          {P::Static(), &P::isStatic},
-                          {P::Transient(), &P::isTransient}};
-    for (Case const& set : cases) {
-        for (Case const& asked : cases)
-            EXPECT_EQ((set.attributes.*asked.predicate)(), &set == &asked);
-        EXPECT_FALSE((P().*set.predicate)());
-        EXPECT_TRUE(set.attributes.isVisible());
+    std::pair<P, bool (P::*)() const> const cases[] = {{P::AbortSet(), &P::isAbortSet},
+                                                       {P::Abstract(), &P::isAbstract},
+                                                       {P::CopyAllowed(), &P::isCopyAllowed},
+                                                       {P::DefaultAllowed(), &P::isDefaultAllowed},
+                                                       {P::Dependent(), &P::isDependent},
+                                                       {P::Destructible(), &P::isDestructible},
+                                                       {P::ForceMembership(), &P::forceMemberProperty},
+                                                       {P::Grandfathered(), &P::isGrandfathered},
+                                                       {P::InitAllowed(), &P::isInitAllowed},
+                                                       {P::InspectAllowed(), &P::isInspectAllowed},
+                                                       {P::ListenerGetAllowed(), &P::isListenerGetAllowed},
+                                                       {P::ListenerSetAllowed(), &P::isListenerSetAllowed},
+                                                       {P::ResetAllowed(), &P::isResetAllowed},
+                                                       {P::Sealed(), &P::isSealed},
+                                                       {P::Static(), &P::isStatic},
+                                                       {P::Transient(), &P::isTransient}};
+    for (auto const& [set, answer] : cases) {
+        for (auto const& [other, predicate] : cases)
+            EXPECT_EQ((set.*predicate)(), answer == predicate);
+        EXPECT_FALSE((P().*answer)());
+        EXPECT_TRUE(set.isVisible());
     }
     P changed;
     changed += P::Sealed();
@@ -103,10 +95,7 @@ TEST(PropertyAttributes, EachFlagSetsItsOwnAnswer)
 
 TEST(PropertyAttributes, AccessOfTheTwoSidesIsIndependent)
 {
-    struct Case {
-        P attributes;
-        int get, set;
-    };
+    using Case = std::tuple<P, int, int>;
     for (auto const& [attributes, get, set] :
          {Case{P(), 0, 0}, Case{P::PrivateSetter(), 0, 2}, Case{P::NoAccessGetter() + P::ProtectedSetter(), 5, 1},
           Case{P::PrivateGetter() + P::ProtectedGetter(), 1, 0}, Case{P::NoAccessSetter() + P::PrivateSetter(), 0, 2},
@@ -118,13 +107,12 @@ TEST(PropertyAttributes, AccessOfTheTwoSidesIsIndependent)
 
 TEST(String, OwnsItsText)
 {
-    String text("");
-    EXPECT_STREQ(text, "");
-    text = String(std::string("abc"));
+    String text(std::string("abc"));
     String const& same = text;
     text = same;
     String const copy(text);
-    text = String("other");
+    text = String("");
+    EXPECT_STREQ(text, "");
     EXPECT_STREQ(copy, "abc");
 }
 

@@ -10,10 +10,8 @@
 #include "orbis/factory/ownership/InterfaceEnumeration.hpp"
 #include "orbis/factory/ownership/RawClassPointerMarshaler.hpp"
 
-#include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSClass.hpp"
 #include "orbis/COSInterface.hpp"
-#include "orbis/objectArrays.hpp"
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -47,7 +45,6 @@ protected:
     }
 
     static ArrayPtr announce(void* object) { return ArrayPtr(BindingRegistry::announce(object, plain())); }
-    static COSInterface* hostOf(ArrayPtr const& array) { return omGetArrayElement(array.get(), 0); }
     static COSNameID plain() { return COSNameID("tests.Plain"); }
 };
 
@@ -61,7 +58,8 @@ TEST_F(BindingRegistryTest, EachWayToAnnounceGivesTheSameHostObject)
     ArrayPtr const second(BindingRegistry::announce(static_cast<void const*>(&object), plain(), created));
     EXPECT_FALSE(created);
     EXPECT_TRUE(velmara::isSameObject(first.get(), second.get()));
-    EXPECT_EQ(static_cast<COSInterface*>(BindingRegistry::announceInternal(&object, plain(), created)), hostOf(first));
+    EXPECT_EQ(static_cast<COSInterface*>(BindingRegistry::announceInternal(&object, plain(), created)),
+              objectIn(first));
 }
 
 TEST_F(BindingRegistryTest, NullIsNoObject)
@@ -101,7 +99,7 @@ TEST_F(BindingRegistryTest, HijackMovesOnlyTheBindingOfTheSameHostObject)
 {
     Plain p, q, other;
     ArrayPtr const array = announce(&p);
-    COSInterface* const host = hostOf(array);
+    COSInterface* const host = objectIn(array);
     BindingRegistry::hijack(&p, &q, host, plain());
     EXPECT_FALSE(BindingRegistry::contains(&p));
     EXPECT_EQ(BindingRegistry::find(&q), host);
@@ -109,11 +107,11 @@ TEST_F(BindingRegistryTest, HijackMovesOnlyTheBindingOfTheSameHostObject)
     EXPECT_TRUE(velmara::isValid(array.get()));
 
     ArrayPtr const second = announce(&p);
-    BindingRegistry::hijack(&q, &other, hostOf(second), plain());
+    BindingRegistry::hijack(&q, &other, objectIn(second), plain());
     EXPECT_EQ(BindingRegistry::find(&q), host) << "a binding to another host object stays";
-    EXPECT_EQ(BindingRegistry::find(&other), hostOf(second));
+    EXPECT_EQ(BindingRegistry::find(&other), objectIn(second));
 
-    BindingRegistry::hijack(&other, &q, hostOf(second), plain());
+    BindingRegistry::hijack(&other, &q, objectIn(second), plain());
     EXPECT_EQ(BindingRegistry::find(&q), host) << "a bound address keeps its entry";
     EXPECT_EQ(check(), "") << "which is done on purpose";
     EXPECT_FALSE(BindingRegistry::contains(&other));
@@ -140,7 +138,7 @@ TEST_F(BindingRegistryTest, NoBindingOutlivesItsHostObject)
          }) {
         Plain p, q;
         ArrayPtr array = announce(&p);
-        change(array.get(), hostOf(array), p, q);
+        change(array.get(), objectIn(array), p, q);
         array.reset();
         EXPECT_EQ(BindingRegistry::find(&p), nullptr);
         EXPECT_EQ(BindingRegistry::find(&q), nullptr);
@@ -148,15 +146,15 @@ TEST_F(BindingRegistryTest, NoBindingOutlivesItsHostObject)
     }
 }
 
-TEST_F(BindingRegistryTest, AHostObjectThatMovesGivesItsShareUp)
+TEST_F(BindingRegistryTest, AHostObjectThatMovesReleasesItsShare)
 {
     Plain p, q;
     auto const shared = std::make_shared<int>(1);
     ArrayPtr const array = announce(&p);
     detail::shareWithHost(array.get(), shared);
-    BindingRegistry::hijack(&p, &p, hostOf(array), plain());
+    BindingRegistry::hijack(&p, &p, objectIn(array), plain());
     EXPECT_EQ(shared.use_count(), 2);
-    BindingRegistry::hijack(&p, &q, hostOf(array), plain());
+    BindingRegistry::hijack(&p, &q, objectIn(array), plain());
     EXPECT_EQ(shared.use_count(), 1);
 }
 
@@ -170,7 +168,7 @@ TEST_F(BindingRegistryTest, ValuesAreCopiedWithoutABinding)
             EXPECT_TRUE(CopyableSupport::isInUnconstructedSet(destination));
             *static_cast<Plain*>(destination) = *static_cast<Plain*>(from);
         }));
-    EXPECT_EQ(static_cast<Plain*>(hostOf(array)->getNativeObject(COSNameID("tests.Value")))->value, 42);
+    EXPECT_EQ(static_cast<Plain*>(objectIn(array)->getNativeObject(COSNameID("tests.Value")))->value, 42);
     EXPECT_FALSE(CopyableSupport::isInUnconstructedSet(filled));
     EXPECT_TRUE(basic::registry().empty());
 }
@@ -203,7 +201,7 @@ TEST_F(BindingRegistryTest, TheDumpHasItsExactForm)
 
     Plain object;
     ArrayPtr const array = announce(&object);
-    COSInterfacePtr const held = omGetArrayElement(array.get(), 0);
+    COSInterfacePtr const held = objectIn(array);
     char row[100];
     std::snprintf(row, sizeof row, "%#15llx \t          1 \t          1 \n",
                   static_cast<unsigned long long>(reinterpret_cast<std::uintptr_t>(static_cast<COSInterface*>(held))));
@@ -222,7 +220,7 @@ TEST_F(BindingRegistryTest, HandlesCountAndEnumerationsYieldOnce)
     Handle::decrementRefCount(nullptr);
     Plain object;
     ArrayPtr array = announce(&object);
-    COSInterface* const host = hostOf(array);
+    COSInterface* const host = objectIn(array);
     Handle::incrementRefCount(host);
     EXPECT_EQ(host->getExternalReferenceCount(), 1);
     array.reset();

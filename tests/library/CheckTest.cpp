@@ -10,8 +10,6 @@
 #include "orbis/factory/ownership/BindingRegistry.hpp"
 #include "orbis/factory/ownership/FooRegistry.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 #include <cstdio>
 #include <functional>
 
@@ -22,7 +20,7 @@ using velmara::ArrayPtr;
 
 namespace {
 
-/// From here on every test of this program ends with a look at its virtual machine.
+/// Checks the virtual machine after every test of this program.
 [[maybe_unused]] bool const isChecked = (HvmTest::check = &orbis::factory::check, true);
 
 /// Two bound native objects with their host objects.
@@ -51,7 +49,7 @@ protected:
     CheckTest() { publishPlain(); }
 };
 
-TEST_F(CheckTest, TellsEachInconsistencyOnce)
+TEST_F(CheckTest, ReportsEachInconsistency)
 {
     struct Case {
         char const* expected; ///< part of the sentence
@@ -109,7 +107,7 @@ TEST_F(CheckTest, ReleasedBindingsAndValuesAreInOrder)
     Pair pair;
     BindingRegistry::release(&pair.first);
     ArrayPtr const again(BindingRegistry::announce(&pair.first, COSNameID("tests.Plain")));
-    EXPECT_EQ(orbis::factory::check(), "") << "two host objects stand for it";
+    EXPECT_EQ(orbis::factory::check(), "") << "two host objects represent it";
     BindingRegistry::retract(&pair.second);
     EXPECT_EQ(orbis::factory::check(), "");
     pair.host().addReference();
@@ -119,7 +117,7 @@ TEST_F(CheckTest, ReleasedBindingsAndValuesAreInOrder)
 }
 
 template <class Kind>
-void checkForsaken()
+void checkOrphaned()
 {
     auto const shared = typename Shared<Kind>::Pointer(new Shared<Kind>);
     full::acquireReference(shared);
@@ -130,10 +128,10 @@ void checkForsaken()
     EXPECT_EQ(orbis::factory::check(), "");
 }
 
-TEST_F(CheckTest, ObjectsKeptForNobodyAreFound)
+TEST_F(CheckTest, OrphanedObjectsAreFound)
 {
-    checkForsaken<Boost>();
-    checkForsaken<Std>();
+    checkOrphaned<Boost>();
+    checkOrphaned<Std>();
 }
 
 TEST(Check, WithoutAVirtualMachineAllIsWell)
@@ -142,7 +140,7 @@ TEST(Check, WithoutAVirtualMachineAllIsWell)
     EXPECT_EQ(orbis::factory::check(), "");
 }
 
-TEST(LeakReport, NamesWhatIsStillBoundAtTheEndWhereAskedFor)
+TEST(LeakReport, NamesWhatIsStillBoundWhereAskedFor)
 {
     for (bool const isAskedFor : {true, false}) {
         std::vector<std::string> leaks;

@@ -8,8 +8,6 @@
 #include "orbis/factory/ownership/FooRegistry.hpp"
 #include "orbis/factory/types/ObjectVectorPolicy.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 #include <memory>
 #include <stdexcept>
 #include <thread>
@@ -49,7 +47,7 @@ namespace {
 
 using ClassInfoTest = HvmTest;
 
-/// Makes so many host objects of its class, and then no more. Deletes its native objects.
+/// Creates that many host objects of its class, then fails. Deletes its native objects.
 struct LimitedInfo final : HandleClassInfo<Counted, 1> {
     LimitedInfo() : HandleClassInfo("tests.Counted", "") {}
     void initializeClass(COSClass* cls) override
@@ -68,7 +66,7 @@ struct LimitedInfo final : HandleClassInfo<Counted, 1> {
     inline static std::vector<Counted*> all;
 };
 
-TEST_F(ClassInfoTest, AResultThatCannotCrossIsStillItsOwners)
+TEST_F(ClassInfoTest, AResultThatCannotBeMarshaledStaysWithItsOwner)
 {
     registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new LimitedInfo); });
     auto& all = LimitedInfo::all = {new Counted, new Counted, new Counted};
@@ -89,7 +87,7 @@ TEST_F(ClassInfoTest, AResultThatCannotCrossIsStillItsOwners)
     delete all[1];
 }
 
-TEST_F(ClassInfoTest, AConstructedObjectIsNoLongerWaiting)
+TEST_F(ClassInfoTest, AConstructedObjectIsNotInTheUnconstructedSet)
 {
     publishClass<Counted>([](auto& c) { c.constructor(); });
     ArrayPtr const made = hvm().construct("tests.Counted");
@@ -99,7 +97,7 @@ TEST_F(ClassInfoTest, AConstructedObjectIsNoLongerWaiting)
 
 /// Destroys the instance data of bound objects by hand: what one of the templates does with the binding and with the
 /// native object.
-TEST_F(ClassInfoTest, HandlesGiveUpTheBindingAndDeleteOnlyWhenToldTo)
+TEST_F(ClassInfoTest, HandlesReleaseTheBindingAndDeleteOnlyOnRequest)
 {
     Bare<HandleClassInfo<Counted, 0>> keeps;
     Bare<HandleClassInfo<Counted, 1>> deletes;
@@ -150,7 +148,7 @@ TYPED_TEST(SharedClassInfoTest, TheSharingTypeSaysWhoseTheKeptReferenceIs)
     }
 }
 
-TYPED_TEST(SharedClassInfoTest, AnObjectThatEndedUntoldIsNotAsked)
+TYPED_TEST(SharedClassInfoTest, ObjectsDestroyedWithoutNotificationAreNotAccessed)
 {
     using Object = Shared<TypeParam>;
     publishClass<Object, typename TypeParam::template Info<Object>>([](auto& c) { c.constructor(); });
@@ -205,7 +203,7 @@ namespace {
 
 using AmountInfo = Described<Amount, NonHandleClassInfo<Amount, Amount>>;
 
-/// Leaves it to the constructors to make a value.
+/// Leaves the creation of values to the constructors.
 struct LateInfo : NonHandleClassInfo<Amount, Amount> {
     using NonHandleClassInfo::NonHandleClassInfo;
     void* createInstanceData() override { return nullptr; }
@@ -233,11 +231,7 @@ void describeAmount(ClassDescriber<Amount>& amount)
 class ValueClassTest : public HvmTest {
 protected:
     ValueClassTest() { publishClass<Amount, NonHandleClassInfo<Amount, Amount>>(&describeAmount); }
-    ~ValueClassTest() override
-    {
-        endHvm();
-        EXPECT_EQ(Amount::alive, 0);
-    }
+    ~ValueClassTest() override { EXPECT_EQ(Amount::alive, 0); }
 
     ArrayPtr amount(double value) { return hvm().construct("tests.Amount", inputs(number(value))); }
     ArrayPtr call(ArrayPtr const& object, char const* method, hvArray* input)
@@ -281,7 +275,7 @@ TEST_F(ValueClassTest, NullIsForPointersOnly)
     EXPECT_EQ(valueOf(call(one, "orNull", number(0).get())), 1);
 }
 
-TEST_F(ValueClassTest, TheNativeValueGoesWithItsHostObject)
+TEST_F(ValueClassTest, TheNativeValueIsDestroyedWithItsHostObject)
 {
     AmountInfo info(&describeAmount);
     EXPECT_FALSE(info.isHandle());
@@ -297,7 +291,7 @@ TEST_F(ValueClassTest, TheNativeValueGoesWithItsHostObject)
     EXPECT_EQ(Amount::alive, 0);
 }
 
-TEST_F(ValueClassTest, AConstructorMakesTheValueThatIsNotThere)
+TEST_F(ValueClassTest, AConstructorCreatesTheMissingValue)
 {
     COSPackage::removePackage("tests");
     publishClass<Amount, LateInfo>(&describeAmount);

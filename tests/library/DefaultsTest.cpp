@@ -32,7 +32,7 @@ private:
     std::int32_t offset_;
 };
 
-/// Its native object is there before a constructor is called.
+/// Its native object exists before a constructor is called.
 struct Early : Scale {
     using Scale::Scale;
 };
@@ -88,74 +88,71 @@ protected:
         });
     }
 
-    std::int32_t call(ArrayPtr const& object, char const* method, NumericInputs const& inputs)
+    template <class... N>
+    std::int32_t call(ArrayPtr const& object, char const* method, N... numbers)
     {
-        return scalar<std::int32_t>(hvm().call(object.get(), method, inputs.arrays));
+        return scalar<std::int32_t>(hvm().call(object.get(), method, inputs(number(numbers)...)));
     }
-
-    ArrayPtr scale(NumericInputs const& inputs, char const* name = "tests.Scale")
+    template <class... N>
+    ArrayPtr make(char const* className, N... numbers)
     {
-        return hvm().construct(name, inputs.arrays);
+        return hvm().construct(className, inputs(number(numbers)...));
     }
 };
 
 } // namespace
 
-TEST_F(DefaultsTest, WhatACallLeavesOutIsTheDefault)
+TEST_F(DefaultsTest, OmittedInputsHaveTheirDefaults)
 {
-    ArrayPtr const object = scale({});
-    EXPECT_EQ(call(object, "apply", {10}), 61);
-    EXPECT_EQ(call(object, "apply", {10, 1}), 21);
-    EXPECT_EQ(call(object, "forced", {}), 11);
-    EXPECT_EQ(call(object, "forced", {4}), 9);
-    EXPECT_EQ(call(object, "set", {}), 34);
-    EXPECT_EQ(call(object, "apply", {1, 1}), 8);
-    EXPECT_EQ(call(object, "set", {9}), 34);
-    EXPECT_EQ(call(object, "apply", {1, 1}), 10);
-    EXPECT_EQ(call(scale({3}), "apply", {1, 1}), 4);
-    EXPECT_EQ(call(scale({3, 0}), "apply", {1, 1}), 3);
-    EXPECT_EQ(errorOf([&] { call(object, "apply", {}); }), "VELMARA:dispatch:noMatch");
-    EXPECT_EQ(errorOf([&] { call(object, "apply", {1, 2, 3}); }), "VELMARA:dispatch:noMatch");
+    ArrayPtr const object = make("tests.Scale");
+    EXPECT_EQ(call(object, "apply", 10), 61);
+    EXPECT_EQ(call(object, "apply", 10, 1), 21);
+    EXPECT_EQ(call(object, "forced"), 11);
+    EXPECT_EQ(call(object, "forced", 4), 9);
+    EXPECT_EQ(call(object, "set"), 34);
+    EXPECT_EQ(call(object, "apply", 1, 1), 8);
+    EXPECT_EQ(call(object, "set", 9), 34);
+    EXPECT_EQ(call(object, "apply", 1, 1), 10);
+    EXPECT_EQ(call(make("tests.Scale", 3), "apply", 1, 1), 4);
+    EXPECT_EQ(call(make("tests.Scale", 3, 0), "apply", 1, 1), 3);
+    EXPECT_EQ(errorOf([&] { call(object, "apply"); }), "VELMARA:dispatch:noMatch");
+    EXPECT_EQ(errorOf([&] { call(object, "apply", 1, 2, 3); }), "VELMARA:dispatch:noMatch");
 }
 
 TEST_F(DefaultsTest, StaticMethodsAndFunctionsHaveThemToo)
 {
-    struct Case {
-        std::initializer_list<double> given;
-        std::int32_t expected;
-    };
-    for (auto const& [given, expected] : {Case{{}, 123}, Case{{9}, 923}, Case{{9, 8}, 983}, Case{{9, 8, 7}, 987}}) {
-        EXPECT_EQ(scalar<std::int32_t>(hvm().callStatic("tests.Scale", "digits", NumericInputs(given).arrays)),
-                  expected);
-        auto const function = [&] { return hvm().callFunction("tests.digits", NumericInputs(given).arrays); };
-        if (given.size() == 0)
-            EXPECT_EQ(errorOf(function), "VELMARA:dispatch:noMatch");
-        else
-            EXPECT_EQ(scalar<std::int32_t>(function()), given.size() == 1 ? 945 : given.size() == 2 ? 985 : 987);
+    ArrayPtr const nine = number(9), eight = number(8), seven = number(7);
+    std::array const all = inputs(nine, eight, seven);
+    constexpr std::int32_t ofMethod[] = {123, 923, 983, 987}, ofFunction[] = {0, 945, 985, 987};
+    for (std::size_t count = 0; count <= 3; ++count) {
+        auto const given = std::span(all).first(count);
+        EXPECT_EQ(scalar<std::int32_t>(hvm().callStatic("tests.Scale", "digits", given)), ofMethod[count]);
+        std::int32_t digits = 0;
+        auto const function = [&] { digits = scalar<std::int32_t>(hvm().callFunction("tests.digits", given)); };
+        EXPECT_EQ(errorOf(function), count == 0 ? "VELMARA:dispatch:noMatch" : "");
+        EXPECT_EQ(digits, ofFunction[count]);
     }
     EXPECT_EQ(hvm().callFunction("tests.greet")->get_number_of_elements(), 3u);
 }
 
-TEST_F(DefaultsTest, AnObjectThatIsThereAlreadyTakesTheValue)
+TEST_F(DefaultsTest, AnExistingObjectTakesTheValue)
 {
-    EXPECT_EQ(call(scale({}, "tests.Early"), "apply", {1, 1}), 3);
-    EXPECT_EQ(call(scale({5}, "tests.Early"), "apply", {1, 1}), 6);
+    EXPECT_EQ(call(make("tests.Early"), "apply", 1, 1), 3);
+    EXPECT_EQ(call(make("tests.Early", 5), "apply", 1, 1), 6);
 }
 
 TEST_F(DefaultsTest, ShorterSignaturesAreListed)
 {
-    std::string signatures;
-    for (auto const& method : hvm().describeClass("tests.Scale").methods) {
-        signatures += method.signature + '\n';
-        EXPECT_EQ(method.isSealed, method.name == "apply");
-    }
+    std::string const methods = methodsOf("tests.Scale");
     for (char const* const expected :
-         {"Scale()", "(factor: int32 scalar)", "apply(this: tests.Scale, x: int32 scalar) ",
-          "x: int32 scalar, times: int32 scalar) ", "forced(scale: tests.Scale) "})
-        EXPECT_NE(signatures.find(expected), std::string::npos) << expected << " in\n" << signatures;
+         {": result = Scale() ", "(factor: int32 scalar) ",
+          ": sealed result = apply(this: tests.Scale, x: int32 scalar) ",
+          ": sealed result = apply(this: tests.Scale, x: int32 scalar, times: int32 scalar) ",
+          ": result = set(this: tests.Scale) ", ": result = forced(scale: tests.Scale) "})
+        EXPECT_NE(methods.find(expected), std::string::npos) << expected << " in\n" << methods;
 }
 
-TEST_F(DefaultsTest, AShorterSignatureMustNotBeThereAlready)
+TEST_F(DefaultsTest, AShorterSignatureMustBeNew)
 {
     COSPackage* const package = COSPackage::getPackage("tests");
     auto const twice = describeFunctions()

@@ -1,10 +1,8 @@
 #include "HvmTest.hpp"
-#include "host/messageIdOf.hpp"
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/describeFunctions.hpp"
 
-#include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSClass.hpp"
 #include "orbis/COSMethodInfo.hpp"
 #include "orbis/COSPropInfo.hpp"

@@ -1,11 +1,8 @@
-#include "HvmTest.hpp"
+#include "library/FunctionsTest.hpp"
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/classes/EnumerationClassInfo.hpp"
-#include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
-
-#include "orbis/objectArrays.hpp"
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -82,48 +79,38 @@ void describeLamp(ClassDescriber<Lamp>& lamp)
         .staticProperty("first", [] { return Color::Blue; });
 }
 
-class EnumerationTest : public HvmTest {
+class EnumerationTest : public FunctionsTest {
 protected:
     EnumerationTest()
     {
         registerOrbisPackage("tests", [](COSPackage* package) {
             package->addClass(new EnumerationClassInfo<Color>("What a lamp shines in"));
             package->addClass(new Described<Lamp>(&describeLamp));
-            publish(package, describeFunctions()
-                                 .function("next", &next, "color")
-                                 .function("reversed", &reversed)
-                                 .function("numberOf", &numberOf)
-                                 .function("orRed", [](std::optional<Color> c) { return c.value_or(Color::Red); })
-                                 .function("unnamed",
-                                           [] {
-                                               return std::vector{Color::Red, Color(9)};
-                                           })
-                                 .function("mode", [](int mode) { return Mode(mode); })
-                                 .function("numberOfMode", [](Mode mode) { return int(mode); })
-                                 .function("modes", [](std::vector<Mode> modes) { return modes; }));
         });
+        publishFunctions(describeFunctions()
+                             .function("next", &next, "color")
+                             .function("reversed", &reversed)
+                             .function("numberOf", &numberOf)
+                             .function("orRed", [](std::optional<Color> c) { return c.value_or(Color::Red); })
+                             .function("unnamed",
+                                       [] {
+                                           return std::vector({Color::Red, Color(9)});
+                                       })
+                             .function("mode", [](int mode) { return Mode(mode); })
+                             .function("numberOfMode", [](Mode mode) { return int(mode); })
+                             .function("modes", [](std::vector<Mode> modes) { return modes; }));
     }
-    ~EnumerationTest() override
-    {
-        endHvm();
-        EXPECT_EQ(Lamp::alive, 0);
-    }
+    ~EnumerationTest() override { EXPECT_EQ(Lamp::alive, 0); }
 
     ArrayPtr color(char const* name) { return hvm().getEnumerator("tests.Color", name); }
     static ArrayPtr text(char const* text) { return ArrayPtr(hvCreateString(text)); }
-
-    ArrayPtr call(char const* function, ArrayPtr const& input)
-    {
-        return hvm().callFunction(std::string("tests.") + function,
-                                  std::span<hvArray* const>(inputs(input)).first(input ? 1 : 0));
-    }
 
     /// The names of the enumerators in an array.
     static std::string names(ArrayPtr const& array)
     {
         std::string text = std::to_string(array->get_dimensions()[0]) + "-by-n";
         for (std::size_t i = 0; i < array->get_number_of_elements(); ++i)
-            text += std::string(" ") + additions::describeEnumerator(omGetArrayElement(array.get(), i))->name;
+            text += std::string(" ") + additions::describeEnumerator(objectIn(array, i))->name;
         return text;
     }
 };
@@ -159,12 +146,10 @@ TEST_F(EnumerationTest, CrossesByName)
 
 TEST_F(EnumerationTest, InMembersOfEveryKind)
 {
-    ArrayPtr const red = color("Red"), blue = color("Blue"), green = text("Green");
-    hvArray* inputs[] = {green.get()};
-    ArrayPtr const lamp = hvm().construct("tests.Lamp", inputs);
+    ArrayPtr const red = color("Red"), blue = color("Blue");
+    ArrayPtr const lamp = hvm().construct("tests.Lamp", inputs(text("Green")));
     EXPECT_EQ(names(hvm().call(lamp.get(), "get")), "1-by-n Green");
-    inputs[0] = red.get();
-    hvm().call(lamp.get(), "set", inputs);
+    hvm().call(lamp.get(), "set", inputs(red));
     EXPECT_TRUE(velmara::isSameObject(hvm().get(lamp.get(), "color").get(), red.get()));
     hvm().set(lamp.get(), "color", blue.get());
     EXPECT_EQ(names(hvm().get(lamp.get(), "color")), "1-by-n Blue");
@@ -182,7 +167,7 @@ TEST_F(EnumerationTest, ValuesWithoutANameAreRefused)
         unknown + "tests.Color cannot pass on 9, which the host and the native code do not both have: the native code "
                   "has Blue, Red, Crimson, Green.";
     expectMessage([&] { hvm().callStatic("tests.Lamp", "unnamed"); }, {text});
-    expectMessage([&] { call("unnamed", nullptr); }, {text});
+    expectMessage([&] { call("unnamed"); }, {text});
     EXPECT_THROW(detail::enumeratorFromHost(detail::enumerationRecord<Color>, nullptr), std::exception);
 }
 

@@ -3,8 +3,6 @@
 
 #include "orbis/factory/ownership/FooRegistry.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 #include <functional>
 #include <stdexcept>
 
@@ -79,11 +77,7 @@ PUBLISHED_IN_TESTS(Node, using Root = Node;)
 PUBLISHED_IN_TESTS(Leaf, using Root = Node;)
 PUBLISHED_IN_TESTS(Branch, using Root = Node;)
 PUBLISHED_IN_TESTS(Part)
-template <>
-struct orbis::factory::HostClass<Twig> {
-    static constexpr char const* name = "twigs.Twig";
-    using Root = Node;
-};
+PUBLISHED_IN("twigs", Twig, using Root = Node;)
 PUBLISHED_IN_TESTS(Wheel)
 PUBLISHED_IN_TESTS(Motor)
 PUBLISHED_IN_TESTS(Wheelmotor)
@@ -135,7 +129,6 @@ protected:
     ~HierarchyTest() override
     {
         Node::make = nullptr;
-        endHvm();
         EXPECT_EQ(Node::alive, 0);
     }
 
@@ -173,10 +166,7 @@ TEST_F(HierarchyTest, BaseMembersWorkOnDerivedObjects)
 
 TEST_F(HierarchyTest, ABasePointerYieldsTheMostDerivedPublishedClass)
 {
-    struct Case {
-        Node* node;
-        char const* name;
-    };
+    using Case = std::pair<Node*, char const*>;
     // Nothing but Node is described when the first one crosses.
     for (auto const& [node, name] :
          {Case{new Leaf, "tests.Leaf"}, Case{new Branch, "tests.Branch"}, Case{new Bud, "tests.Leaf"},

@@ -55,7 +55,7 @@ TYPED_TEST(KeepAliveTest, WhatNoSharedPointerOwnsIsRefused)
     EXPECT_THROW(releaseReference(&object), typename TypeParam::BadWeakPointer);
 }
 
-TYPED_TEST(KeepAliveTest, TheEndOfTheVirtualMachineReleasesAll)
+TYPED_TEST(KeepAliveTest, DestroyingTheVirtualMachineReleasesAll)
 {
     auto owner = this->make();
     acquireReference(owner);
@@ -66,14 +66,14 @@ TYPED_TEST(KeepAliveTest, TheEndOfTheVirtualMachineReleasesAll)
     EXPECT_EQ(Shared<TypeParam>::alive, 1);
 }
 
-/// An object that releases another one when it ends, also when that happens inside the set.
+/// Releases another object in its destructor, which may run inside the set.
 template <class Kind>
 struct Chained : Shared<Kind> {
     ~Chained() override { releaseReference(next); }
     typename Kind::Base* next = nullptr;
 };
 
-TYPED_TEST(KeepAliveTest, ObjectsMayReleaseOthersAsTheyEnd)
+TYPED_TEST(KeepAliveTest, DestructorsMayReleaseOtherObjects)
 {
     auto const first = new Chained<TypeParam>;
     {

@@ -64,7 +64,7 @@ TEST_F(ModuleTest, EightVirtualMachinesOnEightThreadsShareNothing)
     std::barrier together(count);
     auto const settle = [&](double start) {
         for (int round = 0; round < 10; ++round) {
-            together.arrive_and_wait(); // the last ones end while these begin
+            together.arrive_and_wait(); // the last ones are destroyed while these begin
             velmara::Hvm machine;
             velmara::Hvm::Scope const scope(machine);
             publishPlain();

@@ -1,7 +1,5 @@
-#include "HvmTest.hpp"
+#include "library/FunctionsTest.hpp"
 
-#include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 #include "orbis/factory/types/NumericSpanPolicy.hpp"
 #include "orbis/factory/types/NumericVectorPolicy.hpp"
 
@@ -37,41 +35,35 @@ int answer(A...)
 using Integers = std::vector<std::int32_t>;
 using Reals = std::vector<double>;
 
-class NumericVectorTest : public HvmTest {
+class NumericVectorTest : public FunctionsTest {
 protected:
     NumericVectorTest()
     {
-        registerOrbisPackage("vectors", [](COSPackage* package) {
-            publish(package, describeFunctions()
-                                 .function("sum", &sum)
-                                 .function(
-                                     "tail", +[](std::span<std::int16_t const> values) { return values.last(1); })
-                                 .function("real", &answer<1, double>)
-                                 .function("real", &answer<2, Reals>)
-                                 .function("integer", &answer<1, std::int32_t>)
-                                 .function("integer", &answer<2, Integers>)
-                                 .function("both", &answer<1, Integers>)
-                                 .function("both", &answer<2, Reals>));
-        });
-    }
-
-    ArrayPtr call(std::string const& function, ArrayPtr const& array)
-    {
-        return hvm().callFunction("vectors." + function, inputs(array));
+        publishFunctions(describeFunctions()
+                             .function("sum", &sum)
+                             .function(
+                                 "tail", +[](std::span<std::int16_t const> values) { return values.last(1); })
+                             .function("real", &answer<1, double>)
+                             .function("real", &answer<2, Reals>)
+                             .function("integer", &answer<1, std::int32_t>)
+                             .function("integer", &answer<2, Integers>)
+                             .function("both", &answer<1, Integers>)
+                             .function("both", &answer<2, Reals>));
     }
 
     template <class T>
     void publishReversed(char const* name)
     {
-        publish(COSPackage::getPackage("vectors"), describeFunctions().function(name, &reversed<T>));
+        publishFunctions(describeFunctions().function(name, &reversed<T>));
     }
 
     template <class T>
-    void expectExtremesToCross(char const* name, char const* dataType)
+    void expectExtremesToCross(T)
     {
+        std::string const name = velmara::className(matrix<T>(1, 1, {T()}).get()), dataType = name + " vector";
         using Limits = std::numeric_limits<T>;
-        publishReversed<T>(name);
-        auto const record = hvm().describeFunction(std::string("vectors.") + name);
+        publishReversed<T>(name.c_str());
+        auto const record = hvm().describeFunction("tests." + name);
         EXPECT_EQ(record.inputs.at(0).dataType, dataType);
         EXPECT_EQ(record.outputs.at(0).dataType, dataType);
         for (auto const& values :
@@ -95,17 +87,9 @@ protected:
 
 TEST_F(NumericVectorTest, EveryClassCrossesBothWays)
 {
-    expectExtremesToCross<double>("double", "double vector");
-    expectExtremesToCross<float>("single", "single vector");
-    expectExtremesToCross<std::int8_t>("int8", "int8 vector");
-    expectExtremesToCross<std::uint8_t>("uint8", "uint8 vector");
-    expectExtremesToCross<std::int16_t>("int16", "int16 vector");
-    expectExtremesToCross<std::uint16_t>("uint16", "uint16 vector");
-    expectExtremesToCross<std::int32_t>("int32", "int32 vector");
-    expectExtremesToCross<std::uint32_t>("uint32", "uint32 vector");
-    expectExtremesToCross<std::int64_t>("int64", "int64 vector");
-    expectExtremesToCross<std::uint64_t>("uint64", "uint64 vector");
-    expectExtremesToCross<bool>("logical", "logical vector");
+    std::tuple<double, float, std::int8_t, std::uint8_t, std::int16_t, std::uint16_t, std::int32_t, std::uint32_t,
+               std::int64_t, std::uint64_t, bool> const each;
+    std::apply([this](auto... values) { (expectExtremesToCross(values), ...); }, each);
 }
 
 TEST_F(NumericVectorTest, OtherNumbersAreConvertedOrRefusedWithTheirPosition)
@@ -113,12 +97,8 @@ TEST_F(NumericVectorTest, OtherNumbersAreConvertedOrRefusedWithTheirPosition)
     publishReversed<std::int32_t>("int32");
     publishReversed<float>("single");
     publishReversed<bool>("logical");
-    struct Case {
-        char const* function;
-        ArrayPtr array;
-        char const* reason; ///< null where the array fits
-    };
-    Case const cases[] = {
+    std::tuple<char const*, ArrayPtr, char const*> const cases[] = {
+        // with no reason where the array fits
         {"int32", matrix<double>(2, 2, {1, -2, 3, 4}), nullptr},
         {"int32", matrix<double>(0, 0, {}), nullptr},
         {"int32", matrix<std::uint64_t>(1, 1, {7}), nullptr},
@@ -142,7 +122,7 @@ TEST_F(NumericVectorTest, OtherNumbersAreConvertedOrRefusedWithTheirPosition)
         else
             EXPECT_EQ(errorOf(action), "");
     }
-    ArrayPtr const result = call("int32", cases[0].array);
+    ArrayPtr const result = call("int32", std::get<1>(cases[0]));
     EXPECT_EQ(static_cast<std::int32_t const*>(additions::getData(result.get()))[2], -2);
 }
 

@@ -5,8 +5,6 @@
 #include "orbis/factory/ObjectHandle.hpp"
 #include "orbis/factory/ownership/BindingRegistry.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 #include <algorithm>
 #include <cstddef>
 #include <memory>
@@ -61,12 +59,7 @@ struct Ringed : full::Wrappable {
 class ObjectHandleTest : public HvmTest {
 protected:
     ObjectHandleTest() { TallyInfo::publishIn("tests"); }
-    ~ObjectHandleTest() override
-    {
-        endHvm();
-        EXPECT_EQ(Tally::alive, 0);
-        EXPECT_EQ(Linked::alive, 0);
-    }
+    ~ObjectHandleTest() override { EXPECT_EQ(Tally::alive + Linked::alive + Ringed::alive, 0); }
 
     static int references(Tally* tally)
     {
@@ -83,7 +76,7 @@ TEST_F(ObjectHandleTest, AHandleHoldsOneReference)
     EXPECT_FALSE(empty);
     {
         Handle handle(first);
-        EXPECT_EQ(references(first), 1) << "the host object was made for it";
+        EXPECT_EQ(references(first), 1) << "the host object was created for it";
         Handle copy(handle);
         EXPECT_EQ(references(first), 2);
         copy.reset(second);
@@ -101,7 +94,7 @@ TEST_F(ObjectHandleTest, AHandleHoldsOneReference)
     EXPECT_THROW(ObjectHandle<Linked>(reinterpret_cast<Linked*>(this)), std::exception) << "not published";
 }
 
-TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
+TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsAreDestroyed)
 {
     COSPackage::removePackage("tests");
     publishClass<Linked>([](auto& c) {
@@ -114,7 +107,7 @@ TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
         head = longer;
     }
     ObjectHandle<Linked> chain(head);
-    chain.reset(head->next()); // which only the one that ends now referred to
+    chain.reset(head->next()); // referred to by the destroyed one only
     EXPECT_EQ(Linked::alive, 100000);
     chain.reset();
     EXPECT_EQ(Linked::alive, 0);
@@ -131,8 +124,8 @@ TEST_F(ObjectHandleTest, ChainsAndRingsOfObjectsEnd)
     hvm().set(second.get(), "next", first.get());
     first.reset();
     second.reset();
-    ArrayPtr const handedOut = hvm().construct("tests.Linked", NumericInputs{1}.arrays);
-    COSInterfacePtr const host = omGetArrayElement(handedOut.get(), 0);
+    ArrayPtr const handedOut = hvm().construct("tests.Linked", inputs(number(1)));
+    COSInterfacePtr const host = objectIn(handedOut);
     EXPECT_EQ(basic::BindingRegistry::find(host->getNativeObject(COSNameID("tests.Linked"))), host);
     EXPECT_EQ(hvm().get(handedOut.get(), "next")->get_number_of_elements(), 0u);
     hvm().deleteObjects(handedOut.get());
@@ -171,7 +164,7 @@ TEST_F(ObjectHandleTest, AHandleBelongsToOneBinding)
     handle.reset(&beside);
     EXPECT_EQ(host->getExternalReferenceCount(), 3);
     basic::BindingRegistry::release(&beside);
-    EXPECT_TRUE(!handle && kept.get() == moved.get()) << "a binding ends with its own handles";
+    EXPECT_TRUE(!handle && kept.get() == moved.get()) << "its own handles are released with a binding";
     EXPECT_EQ(host->getExternalReferenceCount(), 2);
     basic::BindingRegistry::release(moved.get());
 
@@ -185,11 +178,11 @@ TEST_F(ObjectHandleTest, AHandleBelongsToOneBinding)
         EXPECT_NE(handle.get(), nullptr);
     }
     EXPECT_EQ(Tally::alive, 3);
-    EXPECT_EQ(handle.get(), nullptr) << "what it referred to has ended";
+    EXPECT_EQ(handle.get(), nullptr) << "what it referred to is destroyed";
     EXPECT_EQ(references(here), 1);
 }
 
-TEST_F(ObjectHandleTest, AnObjectThatEndedIsNotLookedAt)
+TEST_F(ObjectHandleTest, ADestroyedObjectIsNotAccessed)
 {
     publishClass<Floating, HandleClassInfo<Floating, 0>>([](auto& c) { c.constructor(); });
     alignas(Floating) std::byte place[sizeof(Floating)];

@@ -1,8 +1,7 @@
-#include "HvmTest.hpp"
+#include "library/FunctionsTest.hpp"
 #include "library/Tally.hpp"
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/types/NumericVectorPolicy.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
 
@@ -40,7 +39,7 @@ std::optional<std::int32_t> halved(std::optional<std::int32_t> number)
 
 using Numbers = std::vector<double>;
 
-class OptionalTest : public HvmTest {
+class OptionalTest : public FunctionsTest {
 protected:
     OptionalTest()
     {
@@ -50,23 +49,16 @@ protected:
                 .property("limit", &Settings::limit, &Settings::setLimit)
                 .property("rival", &Settings::rival);
         });
-        registerOrbisPackage("tests", [](COSPackage* package) {
-            publish(package, describeFunctions()
-                                 .function("halved", &halved)
-                                 .function(
-                                     "numbers", +[](std::optional<Numbers> const& given) { return given; })
-                                 .function(
-                                     "tally", +[](std::optional<Tally*> given) { return given.has_value(); })
-                                 .function(
-                                     "choice", +[](std::optional<bool>) { return 1; })
-                                 .function(
-                                     "choice", +[](std::int8_t) { return 2; }));
-        });
-    }
-
-    ArrayPtr call(char const* function, ArrayPtr const& input)
-    {
-        return hvm().callFunction(std::string("tests.") + function, inputs(input));
+        publishFunctions(describeFunctions()
+                             .function("halved", &halved)
+                             .function(
+                                 "numbers", +[](std::optional<Numbers> const& given) { return given; })
+                             .function(
+                                 "tally", +[](std::optional<Tally*> given) { return given.has_value(); })
+                             .function(
+                                 "choice", +[](std::optional<bool>) { return 1; })
+                             .function(
+                                 "choice", +[](std::int8_t) { return 2; }));
     }
 
     static ArrayPtr matrix(std::size_t rows, std::size_t columns, hvClassID classID = hvDOUBLE_CLASS)

@@ -1,8 +1,6 @@
-#include "HvmTest.hpp"
+#include "library/FunctionsTest.hpp"
 #include "library/Tally.hpp"
 #include "library/texts.hpp"
-
-#include "orbis/factory/describeFunctions.hpp"
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -12,40 +10,37 @@ namespace {
 
 using Strings = std::vector<fl::ustring>;
 
-class OverloadTest : public HvmTest {
+class OverloadTest : public FunctionsTest {
 protected:
     OverloadTest()
     {
         TallyInfo::publishIn("tests");
-        registerOrbisPackage("tests.of", [](COSPackage* package) {
-            publish(package,
-                    describeFunctions()
-                        .function(
-                            "four", [](std::string const&) { return u"text"; }, "text")
-                        .function(
-                            "four", [](Strings const&) { return u"strings"; }, "strings")
-                        .function(
-                            "four", [](double) { return u"number"; }, "number")
-                        .function(
-                            "four", [](Tally const*) { return u"object"; }, "object")
-                        .function("wide", [](fl::ustring const&) { return u"wide"; })
-                        .function("wide", [](Strings const&) { return u"strings"; })
-                        .function(
-                            "both", [](std::string const&) { return u"narrow"; }, "narrow")
-                        .function(
-                            "both", [](fl::ustring const&) { return u"wide"; }, "wide")
-                        .function("last", [](hvConstArrayProxy) { return u"any"; })
-                        .function("last", [](Strings const&) { return u"strings"; })
-                        .function("fail", [](std::string const&) -> double { throw std::runtime_error("inside"); })
-                        .function("fail", [](hvConstArrayProxy) { return 1.0; }));
-        });
+        publishFunctions(describeFunctions()
+                             .function(
+                                 "four", [](std::string const&) { return u"text"; }, "text")
+                             .function(
+                                 "four", [](Strings const&) { return u"strings"; }, "strings")
+                             .function(
+                                 "four", [](double) { return u"number"; }, "number")
+                             .function(
+                                 "four", [](Tally const*) { return u"object"; }, "object")
+                             .function("wide", [](fl::ustring const&) { return u"wide"; })
+                             .function("wide", [](Strings const&) { return u"strings"; })
+                             .function(
+                                 "both", [](std::string const&) { return u"narrow"; }, "narrow")
+                             .function(
+                                 "both", [](fl::ustring const&) { return u"wide"; }, "wide")
+                             .function("last", [](hvConstArrayProxy) { return u"any"; })
+                             .function("last", [](Strings const&) { return u"strings"; })
+                             .function("fail", [](std::string const&) -> double { throw std::runtime_error("inside"); })
+                             .function("fail", [](hvConstArrayProxy) { return 1.0; }));
     }
 
     /// What a call gives: its text, or the error.
     std::u16string outcome(std::string const& function, ArrayPtr const& input)
     {
         try {
-            return textOf(hvm().callFunction("tests.of." + function, inputs(input)));
+            return textOf(call(function, input));
         } catch (velmara::Error const& error) {
             return fl::i18n::to_ustring(error.what());
         }
@@ -55,11 +50,7 @@ protected:
 TEST_F(OverloadTest, ExactBeatsConvertibleBeatsAny)
 {
     ArrayPtr const a = characters(u"a");
-    struct Case {
-        char const* function;
-        ArrayPtr input;
-        char16_t const* chosen;
-    };
+    using Case = std::tuple<char const*, ArrayPtr, char16_t const*>;
     for (auto const& [function, input, chosen] :
          {Case{"four", characters(u""), u"text"}, Case{"four", strings({u"a"}), u"text"},
           Case{"four", strings({u"a", u"b"}), u"strings"}, Case{"four", strings({{}}), u"strings"},

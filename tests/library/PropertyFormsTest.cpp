@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "host/messageIdOf.hpp"
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/descriptors/PropertyImpl.hpp"
@@ -7,9 +6,7 @@
 #include "orbis/factory/types/StringViewPolicy.hpp"
 #include "orbis/factory/types/stringVectors.hpp"
 
-#include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSDataType.hpp"
-#include "orbis/objectArrays.hpp"
 
 #include <algorithm>
 #include <stdexcept>
@@ -109,13 +106,8 @@ protected:
         publishClass<Image>(&describeImage);
         object_ = hvm().construct("tests.Image");
     }
-    ~PropertyFormsTest() override { object_.reset(); }
 
-    Image& native()
-    {
-        COSInterface* const host = omGetArrayElement(object_.get(), 0);
-        return *static_cast<Image*>(host->getNativeObject(COSNameID("tests.Image")));
-    }
+    Image& native() { return *static_cast<Image*>(objectIn(object_)->getNativeObject(COSNameID("tests.Image"))); }
 
     template <class T>
     T read(char const* name)
@@ -139,11 +131,8 @@ protected:
 
 TEST_F(PropertyFormsTest, ScalarsThroughDataAndFunctions)
 {
-    struct Case {
-        char const* name;
-        double first;  ///< what it reads as in the beginning
-        double second; ///< what it reads as once 7 was written; the same when it refuses that
-    };
+    // What it reads as at first, and after 7 was written; the same where that is refused.
+    using Case = std::tuple<char const*, double, double>;
     for (auto const& [name, first, second] :
          {Case{"width", 3, 7}, Case{"scale", 0.5, 0.5}, Case{"shown", 7, 7}, Case{"mixed", 7, 14},
           Case{"doubled", 28, 6}, Case{"global", 3.25, 3.25}, Case{"limit", 10, 7}, Case{"limitByFunctions", 7, 7},
@@ -168,7 +157,7 @@ TEST_F(PropertyFormsTest, ScalarsThroughDataAndFunctions)
     Image::limit = 10;
 }
 
-TEST_F(PropertyFormsTest, TextsRowsAndObjectsAreConvertedAndGivenBack)
+TEST_F(PropertyFormsTest, TextsRowsAndObjectsAreConvertedAndReleased)
 {
     EXPECT_EQ(textOf(hvm().get(object_.get(), "title")), "untitled");
     EXPECT_EQ(write("title", ArrayPtr(hvCreateString("sunrise"))), "");
@@ -205,7 +194,7 @@ TEST_F(PropertyFormsTest, ReleaseRoutinesRunOnceForEachValue)
     EXPECT_EQ(native().locks, -10) << "writing reads nothing";
 }
 
-TEST_F(PropertyFormsTest, DescriptorsAreMadeFromTheDescription)
+TEST_F(PropertyFormsTest, DescriptorsAreCreatedFromTheDescription)
 {
     ClassDescriber<Image> description;
     describeImage(description);
@@ -217,7 +206,7 @@ TEST_F(PropertyFormsTest, DescriptorsAreMadeFromTheDescription)
     EXPECT_EQ(made("shown")->getMemberSetAccess(), MemberAccess::NoAccess);
     EXPECT_EQ(made("twin")->getMemberSetAccess(), MemberAccess::NoAccess) << "a function is no data";
     EXPECT_STREQ(made("title")->getDataType()->scalarTypeName(), "char vector");
-    COSInterface* const host = omGetArrayElement(object_.get(), 0);
+    COSInterface* const host = objectIn(object_);
     for (std::string const& error : {messageIdOf([&] { made("extent")->getValue(host); }),
                                      messageIdOf([&] { made("extent")->releaseValue(host, {}); }),
                                      messageIdOf([&] { made("scale")->setValue(host, COSValue(1.0)); })})
@@ -239,16 +228,16 @@ struct Typed final : impl::Getter {
     char const* type_;
 };
 
-struct Told final : impl::PropertyImpl {
+struct WithDescription final : impl::PropertyImpl {
     using PropertyImpl::PropertyImpl;
-    char const* getDescription() const override { return "told"; }
+    char const* getDescription() const override { return "described"; }
 };
 
 /// The descriptors themselves, as the host asks them.
 TEST_F(PropertyFormsTest, MissingSidesHaveNoAccess)
 {
     ArrayPtr const other = hvm().construct("tests.Image");
-    COSInterface* const object = omGetArrayElement(object_.get(), 0);
+    COSInterface* const object = objectIn(object_);
     impl::ClassGetter<int, Image, int (Image::*)() const, int> getter(&Image::getWidth);
     impl::ClassGetter<Image*, Image, Image* (Image::*)() const, Image*> objectGetter(&Image::getNext);
     impl::ClassSetter<int, Image, void (Image::*)(int)> setter(&Image::setWidth);
@@ -257,11 +246,7 @@ TEST_F(PropertyFormsTest, MissingSidesHaveNoAccess)
     impl::PropertyImpl const both("b", &getter, &setter, P::PrivateSetter());
     impl::PropertyImpl const held("h", &objectGetter, {});
 
-    struct Case {
-        impl::PropertyImpl const& property;
-        int get, set;
-        bool isTransient, canContain;
-    };
+    using Case = std::tuple<impl::PropertyImpl const&, int, int, bool, bool>;
     for (auto const& [property, get, set, isTransient, canContain] :
          {Case{readOnly, 0, 5, true, false}, Case{writeOnly, 5, 0, true, true}, Case{both, 0, 2, false, false},
           Case{held, 0, 5, true, true}}) {
@@ -273,16 +258,16 @@ TEST_F(PropertyFormsTest, MissingSidesHaveNoAccess)
         EXPECT_FALSE(property.getVXArrays(nullptr, object).hasMoreElements());
     }
     Typed typed("double scalar"), untyped(nullptr);
-    Told const told("t", &typed, &setter, {});
-    EXPECT_STREQ(told.getDetailedDescription(), "told");
+    WithDescription const described("t", &typed, &setter, {});
+    EXPECT_STREQ(described.getDetailedDescription(), "described");
     impl::PropertyImpl const unnamed("u", &untyped, &setter, {});
-    EXPECT_STREQ(told.getDataType()->scalarTypeName(), "double scalar");
+    EXPECT_STREQ(described.getDataType()->scalarTypeName(), "double scalar");
     for (impl::PropertyImpl const* const property : {&unnamed, &writeOnly})
         EXPECT_STREQ(property->getDataType()->scalarTypeName(), "int32 scalar");
     EXPECT_FALSE(held.getInterfaces(nullptr, object).hasMoreElements());
     hvm().set(object_.get(), "next", other.get());
     auto interfaces = held.getInterfaces(nullptr, object);
-    EXPECT_EQ(interfaces.nextElement(), static_cast<COSInterface*>(omGetArrayElement(other.get(), 0)));
+    EXPECT_EQ(interfaces.nextElement(), objectIn(other));
     EXPECT_FALSE(interfaces.hasMoreElements());
     EXPECT_FALSE(both.getInterfaces(nullptr, object).hasMoreElements());
 }

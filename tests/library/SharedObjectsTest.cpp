@@ -7,7 +7,6 @@
 #include "orbis/factory/types/sharedObjectVectors.hpp"
 
 #include "orbis/COSPropInfo.hpp"
-#include "orbis/objectArrays.hpp"
 
 #include <vector>
 
@@ -52,7 +51,6 @@ protected:
     }
     ~SharedObjectsTest() override
     {
-        this->endHvm();
         N::held.clear();
         N::known.clear();
         EXPECT_EQ(Object::alive, 0);
@@ -83,18 +81,7 @@ protected:
         hvArray* const inputs[] = {input.get()};
         EXPECT_EQ(this->hvm().callStatic(Kind::name, method, inputs), nullptr);
     }
-    static COSInterfacePtr hostAt(ArrayPtr const& array, std::size_t i = 0)
-    {
-        return omGetArrayElement(array.get(), i);
-    }
-    ArrayPtr row(std::initializer_list<ArrayPtr const*> objects)
-    {
-        ArrayPtr array(omCreateORBISMatrix(1, objects.size(), Kind::name));
-        std::size_t i = 0;
-        for (ArrayPtr const* const object : objects)
-            omSetArrayElement(array.get(), i++, object ? hostAt(*object) : COSInterfacePtr());
-        return array;
-    }
+    ArrayPtr row(std::initializer_list<ArrayPtr const*> objects) { return this->rowOf(Kind::name, objects); }
 };
 
 struct Foreign final : HandleClassInfo<int, 0> {
@@ -130,14 +117,10 @@ TYPED_TEST(SharedObjectsTest, RowsHaveTheMostSpecificCommonClass)
 {
     auto const base = TypeParam::name, derived = TypeParam::derivedName;
     ArrayPtr const a = this->make(), b = this->make(true), c = this->make(true);
-    struct Case {
-        ArrayPtr row;
-        char const* cls;
-    };
-    Case cases[] = {{this->row({&a, &b}), base},
-                    {this->row({&b, nullptr, &c}), derived},
-                    {this->row({}), base},
-                    {this->row({nullptr}), base}};
+    std::pair<ArrayPtr, char const*> const cases[] = {{this->row({&a, &b}), base},
+                                                      {this->row({&b, nullptr, &c}), derived},
+                                                      {this->row({}), base},
+                                                      {this->row({nullptr}), base}};
     for (auto const& [row, cls] : cases) {
         this->call("hold", row);
         this->call("know", row);
@@ -147,8 +130,7 @@ TYPED_TEST(SharedObjectsTest, RowsHaveTheMostSpecificCommonClass)
             EXPECT_EQ(given->get_dimensions()[0], 1u);
             ASSERT_EQ(given->get_dimensions()[1], row->get_number_of_elements());
             for (std::size_t i = 0; i < Native<TypeParam>::held.size(); ++i) {
-                EXPECT_EQ(static_cast<COSInterface*>(this->hostAt(given, i)),
-                          static_cast<COSInterface*>(this->hostAt(row, i)));
+                EXPECT_EQ(this->objectIn(given, i), this->objectIn(row, i));
                 EXPECT_EQ(Native<TypeParam>::held[i].get(), Native<TypeParam>::known[i]);
             }
         }
@@ -191,9 +173,7 @@ TYPED_TEST(SharedObjectsTest, PropertiesReferToTheirObjects)
             found.push_back(interfaces.nextElement());
         EXPECT_THROW(interfaces.nextElement(), ENoElements);
     }
-    COSInterface* const hostOfA = this->hostAt(a);
-    COSInterface* const hostOfB = this->hostAt(b);
-    EXPECT_EQ(found, (std::vector{hostOfB, hostOfB, hostOfA}));
+    EXPECT_EQ(found, (std::vector{this->objectIn(b), this->objectIn(b), this->objectIn(a)}));
 }
 
 } // namespace

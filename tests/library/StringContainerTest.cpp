@@ -1,10 +1,8 @@
-#include "HvmTest.hpp"
+#include "library/FunctionsTest.hpp"
 #include "library/texts.hpp"
 
 #include "orbis/factory/base/argumentErrors.hpp"
 #include "orbis/factory/base/errorIdentities.hpp"
-#include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
 #include "orbis/factory/types/StringViewPolicy.hpp"
 #include "orbis/factory/types/stringVectors.hpp"
@@ -21,29 +19,21 @@ using Strings = std::vector<fl::ustring>;
 using StringSet = std::set<fl::ustring>;
 using Utf8Strings = std::vector<std::string>;
 
-class StringContainerTest : public HvmTest {
+class StringContainerTest : public FunctionsTest {
 protected:
     StringContainerTest()
     {
-        registerOrbisPackage("tests", [](COSPackage* package) {
-            publish(package,
-                    describeFunctions()
-                        .function("vector", [](Strings const& strings) { return strings; })
-                        .function("set", [](StringSet strings) { return strings; })
-                        .function("utf8", [](Utf8Strings const& strings) { return strings; })
-                        .function("maybe", [](std::optional<Utf8Strings> strings) { return strings.has_value(); })
-                        .function("view", [](std::string_view text) { return text; })
-                        .function("wide", [](std::u16string_view text) { return text.substr(1); })
-                        .function("length", [](std::string_view text) { return double(text.size()); })
-                        .function("maybeView", [](std::optional<std::string_view> const& text) {
-                            return text ? std::string(*text) : std::string("none");
-                        }));
-        });
-    }
-
-    ArrayPtr call(std::string const& function, ArrayPtr const& input)
-    {
-        return hvm().callFunction("tests." + function, inputs(input));
+        publishFunctions(describeFunctions()
+                             .function("vector", [](Strings const& strings) { return strings; })
+                             .function("set", [](StringSet strings) { return strings; })
+                             .function("utf8", [](Utf8Strings const& strings) { return strings; })
+                             .function("maybe", [](std::optional<Utf8Strings> strings) { return strings.has_value(); })
+                             .function("view", [](std::string_view text) { return text; })
+                             .function("wide", [](std::u16string_view text) { return text.substr(1); })
+                             .function("length", [](std::string_view text) { return double(text.size()); })
+                             .function("maybeView", [](std::optional<std::string_view> const& text) {
+                                 return text ? std::string(*text) : std::string("none");
+                             }));
     }
 
     /// The texts in a column of cells.
@@ -99,7 +89,7 @@ TEST_F(StringContainerTest, TextsCrossBothWaysInTheContainersOrder)
 
 TEST_F(StringContainerTest, ViewsSeeTextThatTheCallOwns)
 {
-    constexpr std::u16string_view text = u"a text that is too long to stand in a small place";
+    constexpr std::u16string_view text = u"a text that is too long for inline storage";
     EXPECT_EQ(textOf(call("view", characters(text))), text);
     EXPECT_EQ(scalar<double>(call("length", characters({u"a\0é", 3}))), 4.0);
     EXPECT_EQ(textOf(call("wide", characters(u"x\xD800"))), u"\xD800");
@@ -114,11 +104,7 @@ TEST_F(StringContainerTest, ViewsSeeTextThatTheCallOwns)
 TEST_F(StringContainerTest, EveryMistakeHasItsErrorInTheScript)
 {
     ArrayPtr const a = characters(u"a"), omega = characters(u"\u03A9"), one = number(1), string = strings({u"b"});
-    struct Case {
-        char const* function;
-        ArrayPtr input;
-        std::string id, text;
-    };
+    using Case = std::tuple<char const*, ArrayPtr, std::string, std::string>;
     std::string const own = "orbis_factory:orbis_factory:", noMatch = "VELMARA:dispatch:noMatch";
     for (auto const& [function, input, id, text] :
          {Case{"vector", cells({a.get(), a.get(), one.get()}), own + "must_be_string", "Element 2 (counted from 0)"},

@@ -1,5 +1,4 @@
 #include "HvmTest.hpp"
-#include "host/messageIdOf.hpp"
 #include "library/texts.hpp"
 
 #include "orbis/factory/ownership/HvmScoped.hpp"
@@ -68,7 +67,7 @@ struct Overtaken {
     inline static int alive = 0;
 };
 
-TEST_F(StringDataTypesTest, WhatLosesTheRaceForItsPlaceIsDestroyed)
+TEST_F(StringDataTypesTest, TheOvertakenOneIsDestroyed)
 {
     Overtaken const& stored = basic::HvmScoped<Overtaken>::get();
     EXPECT_EQ(Overtaken::alive, 1);
@@ -98,12 +97,7 @@ TEST_F(StringDataTypesTest, ValuesCompareByTheirTexts)
                    pair = strings({u"\xD800\xDC00"}), same = strings({u"ab"}), listed = cells({a.get(), ab.get()}),
                    reversed = cells({ab.get(), a.get()}), sparse = strings({u"a", {}, u"ab"}), none = strings({});
     ArrayPtr const null;
-    struct Case {
-        char const* type;
-        ArrayPtr const &a, &b;
-        std::uint32_t order, reverse;
-        std::size_t bytes; ///< of a
-    };
+    using Case = std::tuple<char const*, ArrayPtr const&, ArrayPtr const&, std::uint32_t, std::uint32_t, std::size_t>;
     for (auto const& [name, left, right, order, reverse, bytes] :
          {Case{scalarName, ab, abc, before, 1, 6}, Case{scalarName, b, abc, 1, before, 4},
           Case{scalarName, zeroB, zeroC, before, 1, 8}, Case{scalarName, same, ab, 0, 0, 6},
@@ -132,15 +126,12 @@ TEST_F(StringDataTypesTest, ValuesCompareByTheirTexts)
     }
 }
 
-TEST_F(StringDataTypesTest, ConversionsTakeWhatTheyShouldAndShareData)
+TEST_F(StringDataTypesTest, ConversionsAcceptTheirClassesAndShareData)
 {
     detail::initStringDataTypes();
     constexpr char const* requireString = "VELMARA:class:RequireString";
     constexpr char const* mustBeCells = "orbis_factory:orbis_factory:must_be_cell_array";
-    struct Case {
-        ArrayPtr array;
-        char const *scalarError, *vectorError;
-    };
+    using Case = std::tuple<ArrayPtr, char const*, char const*>;
     for (auto const& [array, scalarError, vectorError] :
          {Case{characters(std::u16string(1000, u'x')), "", mustBeCells}, Case{strings({u"a"}), "", ""},
           Case{strings({{}}), "VELMARA:string:MissingNotSupported", ""}, Case{strings({u"a", u"b"}), requireString, ""},

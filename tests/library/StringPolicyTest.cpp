@@ -1,9 +1,5 @@
-#include "HvmTest.hpp"
-#include "host/messageIdOf.hpp"
+#include "library/FunctionsTest.hpp"
 #include "library/texts.hpp"
-
-#include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/registerOrbisPackage.hpp"
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -11,7 +7,7 @@ using namespace texts;
 
 namespace {
 
-using StringPolicyTest = HvmTest;
+using StringPolicyTest = FunctionsTest;
 
 /// What a native function is given for an array.
 template <class T>
@@ -91,10 +87,8 @@ TEST_F(StringPolicyTest, WhatIsNoTextIsRefused)
 
 TEST_F(StringPolicyTest, EachTypeHasItsDataType)
 {
-    registerOrbisPackage("tests", [](COSPackage* package) {
-        publish(package, describeFunctions().function(
-                             "f", [](std::string const&, char const*, char16_t const*, char, fl::ustring) {}));
-    });
+    publishFunctions(
+        describeFunctions().function("f", [](std::string const&, char const*, char16_t const*, char, fl::ustring) {}));
     std::string types;
     for (auto const& input : hvm().describeFunction("tests.f").inputs)
         types += input.dataType + ", ";

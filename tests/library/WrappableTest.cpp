@@ -4,8 +4,6 @@
 #include "orbis/factory/detail/bindings/hostShares.hpp"
 #include "orbis/factory/ownership/BindingRegistry.hpp"
 
-#include "orbis/objectArrays.hpp"
-
 using namespace orbis;
 using namespace orbis::factory;
 using full::BindingRegistry;
@@ -40,11 +38,7 @@ namespace {
 
 class WrappableTest : public HvmTest {
 protected:
-    ~WrappableTest() override
-    {
-        endHvm();
-        EXPECT_EQ(Thing::alive, 0);
-    }
+    ~WrappableTest() override { EXPECT_EQ(Thing::alive, 0); }
 
     static void publishThing()
     {
@@ -54,7 +48,6 @@ protected:
 
     static COSNameID name() { return "tests.Thing"; }
     static ArrayPtr announce(full::Wrappable* object) { return ArrayPtr(BindingRegistry::announce(object, name())); }
-    static COSInterfacePtr hostOf(ArrayPtr const& array) { return omGetArrayElement(array.get(), 0); }
 };
 
 TEST_F(WrappableTest, CopiesAreUnbound)
@@ -81,7 +74,7 @@ TEST_F(WrappableTest, ConstructorsStoreTheBinding)
     COSClass::getClass(name())->initializeInstance(instance);
     omSetArrayElement(array.get(), 0, instance);
     BindingRegistry::announceForConstructor(&thing, name(), array.get());
-    EXPECT_EQ(BindingRegistry::find(&thing), static_cast<COSInterface*>(hostOf(array)));
+    EXPECT_EQ(BindingRegistry::find(&thing), objectIn(array));
     bool created = true;
     hvDestroyArray(basic::BindingRegistry::announce(static_cast<full::Wrappable*>(&thing), name(), created));
     EXPECT_FALSE(created);

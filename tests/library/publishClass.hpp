@@ -5,13 +5,14 @@
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
-/// Gives a native class its name in the package "tests", and what else its host class says.
-#define PUBLISHED_IN_TESTS(Type, ...)                                                                                  \
+/// Gives a native class its name in a package, and what else its host class says.
+#define PUBLISHED_IN(package, Type, ...)                                                                               \
     template <>                                                                                                        \
     struct orbis::factory::HostClass<Type> {                                                                           \
-        static constexpr char const* name = "tests." #Type;                                                            \
+        static constexpr char const* name = package "." #Type;                                                         \
         __VA_ARGS__                                                                                                    \
     };
+#define PUBLISHED_IN_TESTS(...) PUBLISHED_IN("tests", __VA_ARGS__)
 
 /// The class info `Base` of the class `T`, described by a function.
 template <class T, class Base = orbis::factory::HandleClassInfo<T, 1>>

@@ -1,9 +1,5 @@
 -- Arrays of the host: how they are made, read, written, compared and shown, and what is refused.
-local function refused(f, ...)
-  local ok, err = pcall(f, ...)
-  print(not ok and tostring(err) or "not refused")
-end
-local function eachRefused(calls) for _, call in ipairs(calls) do refused(table.unpack(call)) end end
+local refused, eachRefused = loadfile("../refused.lua")(tostring)
 local function show(...)
   local a = array(...)
   local rows, columns = size(a)

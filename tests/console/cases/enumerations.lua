@@ -1,8 +1,6 @@
 -- run: --no-builtin SCRIPT
 -- Enumerations: defined by a script, used by name, by number and as objects.
-local function refused(f, ...)
-  print(tostring(select(2, pcall(f, ...))):match("[^\n]*$"))
-end
+local refused = loadfile("../refused.lua")(function(err) return tostring(err):match("[^\n]*$") end)
 local function index(object, key) return object[key] end
 local function assign(object, key, value) object[key] = value end
 

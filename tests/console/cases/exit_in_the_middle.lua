@@ -1,4 +1,4 @@
--- A script that ends the process gives everything back, wherever it stands.
+-- A script that ends the process releases everything, wherever it is.
 local a <close> = orbis_factory.Adder()
 local last <close> = setmetatable({}, {__close = function() print("closes", orbis_factory.Adder(1).total) end})
 setmetatable({}, {__gc = function() print("finalizer", pcall(function() return a.total end)) end})

@@ -1,9 +1,5 @@
--- Objects that are deleted, given back, of an unloaded module, or of another virtual machine.
-local function refused(f, ...)
-  local result = table.pack(pcall(f, ...))
-  print(result[1], result[1] and result[2] or result[2].identifier)
-end
-local function eachRefused(calls) for _, call in ipairs(calls) do refused(table.unpack(call)) end end
+-- Objects that are deleted, closed, of an unloaded module, or of another virtual machine.
+local refused, eachRefused = loadfile("../refused.lua")(function(err) return err.identifier end)
 local function value(object) return object.value end
 
 local p = cases.Probe()

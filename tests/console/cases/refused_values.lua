@@ -1,22 +1,18 @@
 -- Values that the host has nothing for are refused, each with its reason.
-local function refused(...)
-  print(select(2, pcall(cases.echo, ...)))
-end
-local function eachRefused(calls) for _, call in ipairs(calls) do refused(table.unpack(call)) end end
-
-eachRefused {{print}, {coroutine.create(print)}, {io.stdout}, {cases}, {cases.Probe}, {{orbis_factory.Adder}},
-  {{x = 1}}, {{1, 2, [4] = 4}}}
-refused({1, nil, 3})
-eachRefused {{{[1.5] = 1}}, {{0.5, (1 << 53) + 1}}, {{{1}, {x = 2}}}}
+local refused = loadfile("../refused.lua")(tostring)
 local cycle = {}
 cycle[1] = cycle
-refused(cycle)
+for _, value in ipairs {print, coroutine.create(print), io.stdout, cases, cases.Probe, {orbis_factory.Adder}, {x = 1},
+  {1, 2, [4] = 4}, {1, nil, 3}, {[1.5] = 1}, {0.5, (1 << 53) + 1}, {{1}, {x = 2}}, cycle} do
+  refused(cases.echo, value)
+end
 local deep = {"bottom"}
 for _ = 1, 199 do deep = {deep} end
 print(#cases.echo(deep))
-refused({deep})
+refused(cases.echo, {deep})
 local given = cases.Probe()
 do local closed <close> = given end
-eachRefused {{given}, {{given}}}
+refused(cases.echo, given)
+refused(cases.echo, {given})
 print(pcall(cases.echo))
 print(select("#", pcall(cases.echo, 1, 2)))

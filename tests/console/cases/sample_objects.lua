@@ -1,12 +1,9 @@
--- The samples of objects: what they refuse, what they survive, and which side ends when the other one does.
+-- The samples of objects: what they refuse, what they survive, and which side is destroyed with the other.
 print(OrbisFactoryBuiltInTester():getInt8()) -- before anything of its package was needed
 local of = orbis_factory
-local function refused(f, ...) -- of the candidates' reasons, the last one's
-  local ok, message = pcall(f, ...)
-  message = tostring(message):gsub("VELMARA:native:exception: Native code failed: ", "native: ")
-  print(ok and "not refused" or message:match("[^\n]*$"))
-end
-local function eachRefused(calls) for _, call in ipairs(calls) do refused(table.unpack(call)) end end
+local refused, eachRefused = loadfile("../refused.lua")(function(err) -- of the candidates' reasons, the last one's
+  return tostring(err):gsub("VELMARA:native:exception: Native code failed: ", "native: "):match("[^\n]*$")
+end)
 local function states(...)
   local texts = {}
   for _, object in ipairs({...}) do texts[#texts + 1] = isvalid(object) and "valid" or "ended" end
@@ -34,7 +31,7 @@ for i = 1, 1000 do many:add(of.TreeNodeDerived("", i)) end
 for i, child in ipairs(many.children) do if i % 2 == 0 then delete(child) end end
 print(#many.children, many:pages())
 
--- ways: loops and hubs, ended in any order
+-- ways: loops and hubs, destroyed in any order
 local hub = of.BinaryGraphNode("hub")
 local spokes = {}
 for i = 1, 1000 do
@@ -120,7 +117,7 @@ bea = nil
 collectgarbage()
 print(of.Person.find("Bea").name)
 
--- every owner ends with its virtual machine, with all that it owns
+-- every owner is destroyed with its virtual machine, with all that it owns
 withvm(function()
   print(of.Person.count(), #of.Sauce.pots(), of.Z.depot().fleet)
   of.Person("Ada"):borrow(of.Container("box"):add("saw", 1))

@@ -1,11 +1,8 @@
 -- The samples of values and packages: what they refuse, what they survive, and what their help says.
 local of = orbis_factory
-local function refused(f, ...) -- of the candidates' reasons, the last one's
-  local ok, message = pcall(f, ...)
-  message = tostring(message):gsub("VELMARA:native:exception: Native code failed: ", "native: ")
-  print(ok and "not refused" or message:match("[^\n]*$"))
-end
-local function eachRefused(calls) for _, call in ipairs(calls) do refused(table.unpack(call)) end end
+local refused, eachRefused = loadfile("../refused.lua")(function(err) -- of the candidates' reasons, the last one's
+  return tostring(err):gsub("VELMARA:native:exception: Native code failed: ", "native: "):match("[^\n]*$")
+end)
 --- All of them are refused with the text; in that, %s is the value.
 local function allRefused(text, f, ...)
   for _, value in ipairs {...} do
@@ -39,6 +36,11 @@ local function turned(quarters) return of.MFVT.turned(of.MFVT(1, 2), quarters) e
 print(turned(-2147483648).east, turned(2147483647).east, turned(-1).east, turned(5).north)
 eachRefused {{of.MFVT().move, of.MFVT(), null}, {of.MFVT().move, of.MFVT(), {of.MFVT(), of.MFVT()}}}
 print(of.MFVT(huge, 0):halfwayTo(of.MFVT(-huge, 0)).east ~= nil)
+
+-- methods as values, static ones, and sums that overflow
+local adder, sum = of.Adder(10), of.Adder.getSum
+print(sum(adder, 20, 22), sum == adder.getSum, adder:getSumOfTen(1, 2, 3, 4, 5, 6, 7, 8, 9, 10), adder.zero(), of.Adder.zero())
+print(select("#", adder:reset()), adder.total, adder:getSum(2147483647, 1), adder == of.Adder(), adder ~= nil, adder == 1)
 
 -- constructors and signatures
 local native = "VELMARA:native:exception: Native code failed: "

@@ -1,0 +1,39 @@
+// expect LAMBDA: A package function is a free function, a static member function or a lambda that captures nothing
+// expect OPTIONAL: There is no marshaling policy for this native type
+// expect OUTPUT: A parameter that is a reference to a non-const value cannot cross
+// expect CLASS: The class that this pointer points to is not published: specialise orbis::factory::HostClass for it
+// expect ENUM: enumeration is not published: specialise orbis::factory::HostEnumeration for it, beside the enumeration.
+// expect NAMES: More parameter names are listed than the function has parameters: remove the extra names.
+// expect DEFAULT: A default value does not convert to the type of its parameter
+// expect FRACTION: A default value for an integer parameter is a floating-point number: write an integer.
+#include "Published.hpp"
+
+#include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/types/OptionalPolicy.hpp"
+#include "orbis/factory/withDefaults.hpp"
+
+using orbis::factory::withDefaults;
+
+struct Published {};
+struct Unknown {};
+enum class Color { Red, Green };
+
+void move(std::optional<OPTIONAL(double, Unknown)> distance);
+void fill(OUTPUT(int const&, int&));
+void use(CLASS(Published, Unknown) *);
+void paint(ENUM(int, Color));
+double power(double base, int exponent);
+
+void describeAll()
+{
+    [[maybe_unused]] int offset = 1;
+    orbis::factory::describeFunctions()
+        .function("shift", [LAMBDA(, offset)](int a) { return a + LAMBDA(1, offset); })
+        .function("move", &move, "distance")
+        .function("fill", &fill)
+        .function("use", &use)
+        .function("paint", &paint)
+        .function("power", &power, NAMES("a, b", "a, b, c"))
+        .function("squared", &power, "base, exponent", withDefaults(DEFAULT(2, "two")))
+        .function("squaredToo", &power, "base, exponent", withDefaults(FRACTION(2, 2.5)));
+}
