@@ -30,7 +30,7 @@ public:
 
     /// The value as an array; null for an empty one. Throws "VELMARA:result:type", which names `member`, when the
     /// value is not of the type.
-    ArrayPtr take(Name member)
+    [[gnu::always_inline]] ArrayPtr take(Name member)
     {
         if (type_ && type_->kind == TypeKind::Scalar && value_.isScalarOf(type_->scalarClass)) [[likely]]
             return ArrayPtr(createScalar(value_));

@@ -31,9 +31,6 @@ protected:
     MessageSource() = default;
     ~MessageSource() = default;
 
-#if defined(__linux__)
-    [[gnu::tls_model("initial-exec")]]
-#endif
     static constinit thread_local MessageSource* current_;
 
 private:

@@ -76,7 +76,7 @@ public:
         Entry(Entry const&) = delete;
         Entry& operator=(Entry const&) = delete;
 
-        ~Entry()
+        [[gnu::always_inline]] ~Entry()
         {
             if (--machine_.entries_ == 0 && !machine_.retired_.empty())
                 machine_.retired_.destroyAll();

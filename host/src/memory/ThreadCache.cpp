@@ -9,11 +9,7 @@
 
 namespace velmara {
 
-#if defined(_WIN32)
 constinit thread_local ThreadCache* threadCache = nullptr;
-#else
-constinit thread_local ThreadCache* threadCache [[gnu::tls_model("initial-exec")]] = nullptr;
-#endif
 
 namespace {
 

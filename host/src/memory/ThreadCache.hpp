@@ -20,13 +20,8 @@ struct ThreadCache {
     std::size_t freeCount = 0;
 };
 
-// Null until the thread first needs it. The host library is never loaded late enough to lack static TLS space for one
-// pointer; this model saves a call on every use. Windows has no such choice.
-#if defined(_WIN32)
+/// Null until the thread first needs it.
 extern constinit thread_local ThreadCache* threadCache;
-#else
-extern constinit thread_local ThreadCache* threadCache [[gnu::tls_model("initial-exec")]];
-#endif
 
 /// Gives the calling thread its cache for the rest of its life.
 ThreadCache& acquireThreadCache() noexcept;
