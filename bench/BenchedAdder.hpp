@@ -8,7 +8,7 @@
 
 #include "velmara/Hvm.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "orbis/COSInterface.hpp"
 #include "orbis/objectArrays.hpp"
 
@@ -104,8 +104,8 @@ public:
 
     static velmara::ArrayPtr number(double value)
     {
-        velmara::ArrayPtr array(orbis::additions::createMatrix(1, 1, hvDOUBLE_CLASS));
-        *static_cast<double*>(orbis::additions::getWritableData(array.get())) = value;
+        velmara::ArrayPtr array(orbis::host_extensions::createMatrix(1, 1, hvDOUBLE_CLASS));
+        *static_cast<double*>(orbis::host_extensions::getWritableData(array.get())) = value;
         return array;
     }
 

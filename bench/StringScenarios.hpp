@@ -7,7 +7,7 @@
 #include "velmara/ArrayPtr.hpp"
 #include "velmara/Hvm.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 
 #include <cstddef>
 #include <string>
@@ -59,8 +59,8 @@ public:
             Strings strings;
             strings.reserve(strings_.size());
             for (std::size_t i = 0; i < strings_.size(); ++i) {
-                hvArray const* const cell = orbis::additions::getCell(cells_.get(), i);
-                auto const* const text = static_cast<char16_t const*>(orbis::additions::getData(cell));
+                hvArray const* const cell = orbis::host_extensions::getCell(cells_.get(), i);
+                auto const* const text = static_cast<char16_t const*>(orbis::host_extensions::getData(cell));
                 strings.emplace_back(text, cell->get_number_of_elements());
             }
             keep(&strings);

@@ -1,4 +1,4 @@
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 #include "orbis/COSTypeConversion.hpp"
 #include "orbis/COSTypeRepository.hpp"
@@ -11,7 +11,7 @@
 
 namespace {
 
-namespace additions = orbis::additions;
+namespace host_extensions = orbis::host_extensions;
 
 constexpr char text[] = "twelve chars";
 constexpr std::size_t cellCount = 1000;
@@ -48,7 +48,7 @@ void readUtf16Text()
 
 void createNumber()
 {
-    hvDestroyArray(additions::createMatrix(1, 1, hvDOUBLE_CLASS));
+    hvDestroyArray(host_extensions::createMatrix(1, 1, hvDOUBLE_CLASS));
 }
 
 void createCells()
@@ -75,9 +75,9 @@ void createCellsOfTexts()
 
 void createStrings()
 {
-    hvArray* const strings = additions::createStringMatrix(cellCount, 1);
+    hvArray* const strings = host_extensions::createStringMatrix(cellCount, 1);
     for (std::size_t i = 0; i < cellCount; ++i)
-        additions::setString(strings, i, u"twelve chars");
+        host_extensions::setString(strings, i, u"twelve chars");
     hvDestroyArray(strings);
 }
 

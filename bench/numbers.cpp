@@ -6,7 +6,7 @@
 #include "velmara/ArrayPtr.hpp"
 #include "velmara/Hvm.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 
 #include <benchmark/benchmark.h>
@@ -48,7 +48,7 @@ void call(benchmark::State& state, F function)
     auto const description = describeFunctions().function("f", function);
     info.method().invoker().invokeFn = description.functions()[0].invokeFn;
     info.method().invoker().setTarget(description.functions()[0].target);
-    velmara::ArrayPtr const input(orbis::additions::createMatrix(1, million, hvDOUBLE_CLASS, numbers.data()));
+    velmara::ArrayPtr const input(orbis::host_extensions::createMatrix(1, million, hvDOUBLE_CLASS, numbers.data()));
     COSValue const given(input.get());
     for (auto _ : state) {
         int outputCount = 1;

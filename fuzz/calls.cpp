@@ -6,7 +6,7 @@
 #include "velmara/Hvm.hpp"
 #include "velmara/LiveCounts.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 
@@ -14,7 +14,7 @@
 #include <iterator>
 #include <vector>
 
-using orbis::additions::createMatrix;
+using orbis::host_extensions::createMatrix;
 using velmara::ArrayPtr;
 using velmara::MethodRecord;
 
@@ -143,15 +143,16 @@ private:
             ArrayPtr array(createMatrix(rows, columns, classes[kind]));
             if (classes[kind] == hvDOUBLE_CLASS)
                 for (std::size_t i = 0; i < rows * columns; ++i)
-                    static_cast<double*>(orbis::additions::getWritableData(array.get()))[i] = input_.byte() - 100.0;
+                    static_cast<double*>(orbis::host_extensions::getWritableData(array.get()))[i] =
+                        input_.byte() - 100.0;
             return array;
         }
         if (kind == 7)
-            return ArrayPtr(orbis::additions::createText(fl::i18n::to_ustring(input_.text(12))));
+            return ArrayPtr(orbis::host_extensions::createText(fl::i18n::to_ustring(input_.text(12))));
         if (kind == 8) {
-            ArrayPtr strings(orbis::additions::createStringMatrix(1, input_.pick(3)));
+            ArrayPtr strings(orbis::host_extensions::createStringMatrix(1, input_.pick(3)));
             if (strings->get_number_of_elements() > 0)
-                orbis::additions::setString(strings.get(), 0, fl::i18n::to_ustring(input_.text(5)));
+                orbis::host_extensions::setString(strings.get(), 0, fl::i18n::to_ustring(input_.text(5)));
             return strings;
         }
         if (kind == 9 && depth > 0) {

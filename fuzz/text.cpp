@@ -1,7 +1,7 @@
 // UTF-8 and UTF-16: conversion in both directions, directly and through arrays.
 #include "fuzz/require.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 
@@ -27,7 +27,7 @@ bool isWellFormed(std::u16string const& text)
 
 void checkArray(std::u16string const& text)
 {
-    std::unique_ptr<hvArray, hvDestroy_deleter> const array(orbis::additions::createText(text));
+    std::unique_ptr<hvArray, hvDestroy_deleter> const array(orbis::host_extensions::createText(text));
     require(array->get_number_of_elements() == text.size(), "the array has another size");
     std::unique_ptr<char16_t, void (*)(void*)> const wide(hvArrayToString_UTF16(array.get()), hvFreeEx);
     require(std::memcmp(wide.get(), text.c_str(), 2 * (text.size() + 1)) == 0, "another text comes from the array");

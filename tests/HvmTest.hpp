@@ -4,7 +4,7 @@
 #include "velmara/Hvm.hpp"
 #include "velmara/LiveCounts.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSValue.hpp"
 #include "orbis/objectArrays.hpp"
@@ -56,8 +56,8 @@ protected:
     template <class T>
     static velmara::ArrayPtr matrix(std::size_t rows, std::size_t columns, std::vector<T> const& elements)
     {
-        velmara::ArrayPtr array(orbis::additions::createMatrix(rows, columns, orbis::COSValue::classOf<T>()));
-        std::ranges::copy(elements, static_cast<T*>(orbis::additions::getWritableData(array.get())));
+        velmara::ArrayPtr array(orbis::host_extensions::createMatrix(rows, columns, orbis::COSValue::classOf<T>()));
+        std::ranges::copy(elements, static_cast<T*>(orbis::host_extensions::getWritableData(array.get())));
         return array;
     }
 
@@ -94,7 +94,7 @@ protected:
     static T scalar(velmara::ArrayPtr const& array)
     {
         EXPECT_TRUE(array && array->get_number_of_elements() == 1);
-        return *static_cast<T const*>(orbis::additions::getData(array.get()));
+        return *static_cast<T const*>(orbis::host_extensions::getData(array.get()));
     }
 
     /// The inputs of a call.

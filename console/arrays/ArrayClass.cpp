@@ -5,7 +5,7 @@
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 
-#include "additions/numericClasses.hpp"
+#include "host_extensions/numericClasses.hpp"
 
 #include <array>
 
@@ -13,8 +13,8 @@ namespace velmara::console {
 
 namespace {
 
-using orbis::additions::isNumeric;
-using orbis::additions::numericClasses;
+using orbis::host_extensions::isNumeric;
+using orbis::host_extensions::numericClasses;
 
 struct Known {
     char const* name = nullptr;

@@ -9,7 +9,7 @@
 #include "values/ArrayElement.hpp"
 #include "values/HostText.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 #include "orbis/objectArrays.hpp"
 
@@ -30,11 +30,11 @@ ArrayPtr createEmpty(lua_State* L, ArrayClass const& arrayClass, Shape shape, Co
     case hvCELL_CLASS:
         return ArrayPtr(hvCreateCellMatrix(shape.rows, shape.columns));
     case hvSTRING_CLASS:
-        return ArrayPtr(orbis::additions::createStringMatrix(shape.rows, shape.columns));
+        return ArrayPtr(orbis::host_extensions::createStringMatrix(shape.rows, shape.columns));
     case hvOBJECT_CLASS:
         return ArrayPtr(orbis::omCreateORBISMatrix(shape.rows, shape.columns, arrayClass.name.c_str()));
     default:
-        return ArrayPtr(orbis::additions::createMatrix(shape.rows, shape.columns, arrayClass.classID));
+        return ArrayPtr(orbis::host_extensions::createMatrix(shape.rows, shape.columns, arrayClass.classID));
     }
 }
 
@@ -65,7 +65,7 @@ Shape checkShape(lua_State* L, ElementSource const& source)
 /// Copies the bytes of the first element to all others.
 void repeatFirst(hvArray_tag* array, std::size_t size)
 {
-    auto* const bytes = static_cast<char*>(orbis::additions::getWritableData(array));
+    auto* const bytes = static_cast<char*>(orbis::host_extensions::getWritableData(array));
     // A new array is zero already; writing zeros to a large one would only make the system commit its memory.
     if (std::all_of(bytes, bytes + size, [](char byte) { return byte == 0; }))
         return;
@@ -82,7 +82,7 @@ void fill(lua_State* L, ElementSource const& source, hvArray_tag* array, Convers
     int const value = lua_gettop(L);
     if (count != 0)
         storeElement(L, value, array, 0, conversion);
-    if (orbis::additions::getData(array) && count != 0)
+    if (orbis::host_extensions::getData(array) && count != 0)
         repeatFirst(array, memoryOfElement(array->_get_class_id_non_trivial()));
     else if (!isNull(L, value) && !isMissing(L, value))
         for (std::size_t i = 1; i < count; ++i)
@@ -101,7 +101,7 @@ void storeEach(lua_State* L, ElementSource const& source, hvArray_tag* array, Co
 
 void copyCell(hvArray_tag const* source, hvArray_tag* target, std::size_t index)
 {
-    hvArray_tag const* const cell = orbis::additions::getCell(source, index);
+    hvArray_tag const* const cell = orbis::host_extensions::getCell(source, index);
     ArrayPtr copy(cell ? hvCreateSharedDataCopy(cell) : nullptr);
     hvSetCell(target, index, copy.get());
     static_cast<void>(copy.release());
@@ -113,9 +113,9 @@ void copyElements(hvArray_tag const* source, hvArray_tag* target)
 {
     hvClassID const classID = source->_get_class_id_non_trivial();
     std::size_t const count = source->get_number_of_elements();
-    if (void const* const data = orbis::additions::getData(source)) {
+    if (void const* const data = orbis::host_extensions::getData(source)) {
         if (count != 0)
-            std::memcpy(orbis::additions::getWritableData(target), data, count * memoryOfElement(classID));
+            std::memcpy(orbis::host_extensions::getWritableData(target), data, count * memoryOfElement(classID));
         return;
     }
     for (std::size_t i = 0; i < count; ++i) {

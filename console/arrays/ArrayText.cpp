@@ -4,8 +4,8 @@
 #include "text/DisplayWidth.hpp"
 #include "values/HostText.hpp"
 
-#include "additions/additions.hpp"
-#include "additions/numericClasses.hpp"
+#include "host_extensions/host_extensions.hpp"
+#include "host_extensions/numericClasses.hpp"
 #include "orbis/objectArrays.hpp"
 
 #include <algorithm>
@@ -17,8 +17,8 @@ namespace velmara::console {
 
 namespace {
 
-using orbis::additions::findNumericClass;
-using orbis::additions::visitNumericClass;
+using orbis::host_extensions::findNumericClass;
+using orbis::host_extensions::visitNumericClass;
 
 constexpr std::size_t maxRows = 10;
 constexpr std::size_t maxColumns = 20;
@@ -54,7 +54,7 @@ std::string numberText(hvArray_tag const& array, std::size_t index, int digits)
     if (!findNumericClass(classID))
         return {};
     return visitNumericClass(classID, [&]<class T>(T) {
-        return numberText(static_cast<T const*>(orbis::additions::getData(&array))[index], digits);
+        return numberText(static_cast<T const*>(orbis::host_extensions::getData(&array))[index], digits);
     });
 }
 
@@ -80,7 +80,7 @@ std::string cellText(hvArray_tag const* cell)
 std::string objectText(hvArray_tag const& array, std::size_t index)
 {
     orbis::COSInterfacePtr const object = orbis::omGetArrayElement(&array, index);
-    if (auto const* const enumerator = orbis::additions::describeEnumerator(object))
+    if (auto const* const enumerator = orbis::host_extensions::describeEnumerator(object))
         return enumerator->name;
     ArrayPtr const scalar(orbis::omCreateORBISScalar(object));
     return scalar->get_number_of_elements() == 0 ? "null" : className(scalar.get());
@@ -94,7 +94,7 @@ std::string elementText(hvArray_tag const& array, std::size_t index)
             return quotedText(*text);
         return "missing";
     case hvCELL_CLASS:
-        return cellText(orbis::additions::getCell(&array, index));
+        return cellText(orbis::host_extensions::getCell(&array, index));
     case hvOBJECT_CLASS:
         return objectText(array, index);
     default:

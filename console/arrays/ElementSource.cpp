@@ -8,7 +8,7 @@
 #include "values/HostText.hpp"
 #include "values/TableElements.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 #include "string_matrix/string_matrix.hpp"
 
@@ -55,7 +55,7 @@ ElementSource::ElementSource(lua_State* L, int index, hvClassID classID, ArraySt
         return;
     std::optional<std::u16string> const text = classID == hvCHAR_CLASS ? readCharacters(L, index) : std::nullopt;
     if (text)
-        readArray(frame.push(ArrayPtr(orbis::additions::createText(*text))));
+        readArray(frame.push(ArrayPtr(orbis::host_extensions::createText(*text))));
     else if (lua_istable(L, index) && proxyName(L, index).empty())
         readTable(classID, frame);
     else if (isHostArray(L, index) && !isTextOf(*checkHostArray(L, index), classID))
@@ -108,10 +108,10 @@ bool ElementSource::readTexts(std::size_t count, ArrayStack::Frame& frame)
         if (!text)
             return false;
         if (!characters)
-            characters = frame.push(ArrayPtr(orbis::additions::createMatrix(count, text->size(), hvCHAR_CLASS)));
+            characters = frame.push(ArrayPtr(orbis::host_extensions::createMatrix(count, text->size(), hvCHAR_CLASS)));
         if (text->size() != characters->get_dimensions()[1])
             failLength(row, text->size(), characters->get_dimensions()[1]);
-        auto* const data = static_cast<char16_t*>(orbis::additions::getWritableData(characters));
+        auto* const data = static_cast<char16_t*>(orbis::host_extensions::getWritableData(characters));
         for (std::size_t column = 0; column < text->size(); ++column)
             data[column * count + row] = (*text)[column];
     }
@@ -139,7 +139,7 @@ void ElementSource::push(std::size_t position) const
     case Kind::Array:
         // Characters as numbers: a lone surrogate has no text.
         if (array_->_get_class_id_non_trivial() == hvCHAR_CLASS)
-            return lua_pushinteger(L_, static_cast<char16_t const*>(orbis::additions::getData(array_))[position]);
+            return lua_pushinteger(L_, static_cast<char16_t const*>(orbis::host_extensions::getData(array_))[position]);
         return pushElement(L_, array_, position);
     case Kind::Empty:
         return;

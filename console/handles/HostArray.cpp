@@ -6,7 +6,7 @@
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
 
-#include "additions/numericClasses.hpp"
+#include "host_extensions/numericClasses.hpp"
 
 #include <algorithm>
 #include <limits>
@@ -88,7 +88,7 @@ std::size_t memoryOfElement(hvClassID classID)
     case hvSTRING_CLASS:
         return 96;
     default:
-        auto const* const numeric = orbis::additions::findNumericClass(classID);
+        auto const* const numeric = orbis::host_extensions::findNumericClass(classID);
         return numeric ? numeric->size : sizeof(void*);
     }
 }

@@ -6,7 +6,7 @@
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "orbis/objectArrays.hpp"
 
 #include <new>
@@ -40,7 +40,7 @@ char const* enumeratorName(lua_State* L, int index)
 {
     hvArray_tag const* const array = holderAt(L, index)->array;
     auto const* const enumerator =
-        array ? orbis::additions::describeEnumerator(orbis::omGetArrayElement(array, 0)) : nullptr;
+        array ? orbis::host_extensions::describeEnumerator(orbis::omGetArrayElement(array, 0)) : nullptr;
     return enumerator ? enumerator->name : nullptr;
 }
 

@@ -10,9 +10,9 @@
 #include "values/ValueToHost.hpp"
 #include "values/ValueToLua.hpp"
 
-#include "additions/additions.hpp"
-#include "additions/convertNumber.hpp"
-#include "additions/numericClasses.hpp"
+#include "host_extensions/convertNumber.hpp"
+#include "host_extensions/host_extensions.hpp"
+#include "host_extensions/numericClasses.hpp"
 #include "libhv/libhv.hpp"
 #include "orbis/objectArrays.hpp"
 #include "string_matrix/string_matrix.hpp"
@@ -25,9 +25,9 @@ namespace velmara::console {
 
 namespace {
 
-using orbis::additions::convertNumber;
-using orbis::additions::findNumericClass;
-using orbis::additions::visitNumericClass;
+using orbis::host_extensions::convertNumber;
+using orbis::host_extensions::findNumericClass;
+using orbis::host_extensions::visitNumericClass;
 
 template <class T>
 void pushNumber(lua_State* L, T number)
@@ -40,7 +40,8 @@ void pushNumber(lua_State* L, T number)
         lua_pushinteger(L, static_cast<lua_Integer>(number));
     else {
         ArrayStack::Frame frame(HostContext::of(L).arrays());
-        hvArray_tag* const scalar = frame.push(ArrayPtr(orbis::additions::createMatrix(1, 1, hvUINT64_CLASS, &number)));
+        hvArray_tag* const scalar =
+            frame.push(ArrayPtr(orbis::host_extensions::createMatrix(1, 1, hvUINT64_CLASS, &number)));
         pushHostArray(L, *scalar);
     }
 }
@@ -80,7 +81,7 @@ std::optional<T> readScalar(hvArray_tag const& array)
     if (!findNumericClass(classID) || array.get_number_of_elements() != 1)
         return std::nullopt;
     return visitNumericClass(classID, [&]<class Source>(Source) {
-        Source const source = *static_cast<Source const*>(orbis::additions::getData(&array));
+        Source const source = *static_cast<Source const*>(orbis::host_extensions::getData(&array));
         return convertNumber<T>(+source); // promotes a logical to 0 or 1
     });
 }
@@ -111,7 +112,7 @@ void storeNumber(lua_State* L, int value, hvArray_tag* array, std::size_t index)
     std::optional<T> const number = readNumber<T>(L, value);
     if (!number)
         throwMismatch(L, value, *array, index, "does not fit its class");
-    static_cast<T*>(orbis::additions::getWritableData(array))[index] = *number;
+    static_cast<T*>(orbis::host_extensions::getWritableData(array))[index] = *number;
 }
 
 void storeCharacter(lua_State* L, int value, hvArray_tag* array, std::size_t index)
@@ -123,7 +124,7 @@ void storeCharacter(lua_State* L, int value, hvArray_tag* array, std::size_t ind
         unit = text.front();
     if (!unit)
         throwMismatch(L, value, *array, index, "is not one UTF-16 unit: a text of one, or a number below 65536");
-    static_cast<char16_t*>(orbis::additions::getWritableData(array))[index] = *unit;
+    static_cast<char16_t*>(orbis::host_extensions::getWritableData(array))[index] = *unit;
 }
 
 void storeText(lua_State* L, int value, hvArray_tag* array, std::size_t index)
@@ -166,7 +167,7 @@ void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
     luaL_checkstack(L, 8, nullptr);
     hvClassID const classID = array->_get_class_id_non_trivial();
-    void const* const data = orbis::additions::getData(array);
+    void const* const data = orbis::host_extensions::getData(array);
     switch (classID) {
     case hvCHAR_CLASS:
         return pushText(L, toUtf8({static_cast<char16_t const*>(data) + index, 1}));
@@ -175,7 +176,7 @@ void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
             return pushText(L, toUtf8(*text));
         return pushMissing(L);
     case hvCELL_CLASS:
-        pushValue(L, orbis::additions::getCell(array, index));
+        pushValue(L, orbis::host_extensions::getCell(array, index));
         return replaceNil(L);
     case hvOBJECT_CLASS:
         pushObject(L, array, index);

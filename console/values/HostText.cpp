@@ -1,6 +1,6 @@
 #include "values/HostText.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 #include "string_matrix/string_matrix.hpp"
 
@@ -18,7 +18,7 @@ std::u16string hostTextAt(lua_State* L, int index)
 
 std::u16string rowOf(hvArray_tag const& characters, std::size_t row)
 {
-    auto const* const data = static_cast<char16_t const*>(orbis::additions::getData(&characters));
+    auto const* const data = static_cast<char16_t const*>(orbis::host_extensions::getData(&characters));
     std::size_t const rows = characters.get_dimensions()[0];
     std::u16string text(rows == 0 ? 0 : characters.get_dimensions()[1], u'\0');
     for (std::size_t column = 0; column < text.size(); ++column)
@@ -36,7 +36,8 @@ std::optional<std::u16string_view> stringAt(hvArray_tag const& strings, std::siz
 
 void storeString(hvArray_tag* strings, std::size_t index, std::optional<std::u16string_view> text)
 {
-    text ? orbis::additions::setString(strings, index, *text) : orbis::additions::setMissing(strings, index);
+    text ? orbis::host_extensions::setString(strings, index, *text)
+         : orbis::host_extensions::setMissing(strings, index);
 }
 
 } // namespace velmara::console

@@ -9,7 +9,7 @@
 
 #include "velmara/Hvm.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 #include "orbis/objectArrays.hpp"
 
@@ -61,13 +61,13 @@ void storeTop(lua_State* L, void* data, hvClassID classID, std::size_t position)
 void storeRow(lua_State* L, int table, hvArray_tag* matrix, std::size_t row, std::size_t rows, std::size_t columns)
 {
     hvClassID const classID = matrix->_get_class_id_non_trivial();
-    void* data = orbis::additions::getWritableData(matrix);
+    void* data = orbis::host_extensions::getWritableData(matrix);
     visitSequence(L, table, columns, [&](std::size_t column) { storeTop(L, data, classID, column * rows + row); });
 }
 
 ArrayPtr matrix(lua_State* L, int table, std::size_t rows, Elements const& row)
 {
-    ArrayPtr array(orbis::additions::createMatrix(rows, row.count, scalarClass(row)));
+    ArrayPtr array(orbis::host_extensions::createMatrix(rows, row.count, scalarClass(row)));
     visitSequence(L, table, rows, [&](std::size_t i) { storeRow(L, lua_gettop(L), array.get(), i, rows, row.count); });
     return array;
 }
@@ -97,10 +97,10 @@ ArrayPtr tableToHost(lua_State* L, int index, Conversion& conversion)
     Conversion::Level const level(conversion, "tables");
     Elements const elements = elementsOf(L, index);
     if (elements.count == 0)
-        return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+        return ArrayPtr(orbis::host_extensions::createMatrix(0, 0, hvDOUBLE_CLASS));
     if (elements.areScalars()) {
         conversion.add(elements.count, sizeof(double));
-        ArrayPtr row(orbis::additions::createMatrix(1, elements.count, scalarClass(elements)));
+        ArrayPtr row(orbis::host_extensions::createMatrix(1, elements.count, scalarClass(elements)));
         storeRow(L, index, row.get(), 0, 1, elements.count);
         return row;
     }

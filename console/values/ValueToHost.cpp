@@ -10,7 +10,7 @@
 
 #include "velmara/Hvm.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 
 namespace velmara::console {
@@ -20,14 +20,14 @@ namespace {
 template <class T>
 ArrayPtr scalar(T value, hvClassID classID)
 {
-    ArrayPtr array(orbis::additions::createMatrix(1, 1, classID));
-    *static_cast<T*>(orbis::additions::getWritableData(array.get())) = value;
+    ArrayPtr array(orbis::host_extensions::createMatrix(1, 1, classID));
+    *static_cast<T*>(orbis::host_extensions::getWritableData(array.get())) = value;
     return array;
 }
 
 ArrayPtr emptyArray()
 {
-    return ArrayPtr(orbis::additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+    return ArrayPtr(orbis::host_extensions::createMatrix(0, 0, hvDOUBLE_CLASS));
 }
 
 ArrayPtr number(lua_State* L, int index)
@@ -45,7 +45,7 @@ ArrayPtr userdata(lua_State* L, int index)
     if (isNull(L, index))
         return emptyArray();
     if (isMissing(L, index))
-        return ArrayPtr(orbis::additions::createStringMatrix(1, 1));
+        return ArrayPtr(orbis::host_extensions::createStringMatrix(1, 1));
     if (isObject(L, index)) {
         hvArray_tag* const object = checkObject(L, index);
         object->add_reference();
@@ -69,7 +69,7 @@ ArrayPtr toHost(lua_State* L, int index, Conversion& conversion)
     case LUA_TNUMBER:
         return number(L, index);
     case LUA_TSTRING:
-        return ArrayPtr(orbis::additions::createText(hostTextAt(L, index)));
+        return ArrayPtr(orbis::host_extensions::createText(hostTextAt(L, index)));
     case LUA_TTABLE:
         return tableToHost(L, lua_absindex(L, index), conversion);
     case LUA_TUSERDATA:

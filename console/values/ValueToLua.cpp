@@ -7,15 +7,15 @@
 #include "values/ArrayElement.hpp"
 #include "values/HostText.hpp"
 
-#include "additions/additions.hpp"
-#include "additions/numericClasses.hpp"
+#include "host_extensions/host_extensions.hpp"
+#include "host_extensions/numericClasses.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 
 namespace velmara::console {
 
 namespace {
 
-using orbis::additions::findNumericClass;
+using orbis::host_extensions::findNumericClass;
 
 std::size_t rowsOf(hvArray_tag const& array)
 {
@@ -64,7 +64,7 @@ void pushCells(lua_State* L, hvArray_tag const& cells, Conversion& conversion)
 {
     Conversion::Level const level(conversion, "cells");
     pushElements(L, cells, [&](std::size_t i) {
-        if (hvArray_tag const* const cell = orbis::additions::getCell(&cells, i))
+        if (hvArray_tag const* const cell = orbis::host_extensions::getCell(&cells, i))
             pushContent(L, *cell, conversion);
         else
             pushNull(L);

@@ -7,7 +7,7 @@
 
 #include "basic/HostDependents.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 
 #include <utility>
 
@@ -15,14 +15,14 @@ namespace orbis::factory::basic {
 
 FooRegistry::FooRegistry() : observer_(*this)
 {
-    if (additions::reportsLeaks())
+    if (host_extensions::reportsLeaks())
         requireDependents().history = std::make_unique<BindingHistory>();
-    additions::observeObjects(&observer_);
+    host_extensions::observeObjects(&observer_);
 }
 
 FooRegistry::~FooRegistry()
 {
-    additions::observeObjects(nullptr);
+    host_extensions::observeObjects(nullptr);
     // Host objects are not notified of remaining entries, because they may be destroyed already.
     for (auto const& [object, entry] : *this) {
         if (history())

@@ -4,7 +4,7 @@
 
 #include "basic/addressText.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 
 namespace orbis::factory::basic {
 
@@ -29,9 +29,9 @@ void BindingHistory::report(void const* object) const noexcept
 {
     try {
         std::string const text = "the native object " + addressText(object) + " is still bound as ";
-        additions::reportLeak((text + classNames.at(object)).c_str());
+        host_extensions::reportLeak((text + classNames.at(object)).c_str());
     } catch (...) {
-        additions::reportLeak("a native object is still bound");
+        host_extensions::reportLeak("a native object is still bound");
     }
 }
 

@@ -3,7 +3,7 @@
 #include "orbis/factory/ownership/FooRegistry.hpp"
 #include "orbis/factory/ownership/HvmScoped.hpp"
 
-#include "additions/NativeOwner.hpp"
+#include "host_extensions/NativeOwner.hpp"
 #include "orbis/objectArrays.hpp"
 
 namespace orbis::factory {
@@ -14,7 +14,7 @@ void detail::discardUnbound(void* object, char const* className) noexcept
         auto const* const table = basic::HvmScoped<basic::FooRegistry>::find();
         if (!object || (table && table->count(object) != 0))
             return;
-        if (additions::NativeOwner* const owner = additions::nativeOwnerOf(COSNameID(className)))
+        if (host_extensions::NativeOwner* const owner = host_extensions::nativeOwnerOf(COSNameID(className)))
             owner->discardNative(object);
     } catch (...) {
         // The class cannot be described, so whether it would delete the object is unknown.

@@ -5,7 +5,7 @@
 
 #include "basic/HostDependents.hpp"
 
-#include "additions/ObjectObserver.hpp"
+#include "host_extensions/ObjectObserver.hpp"
 #include "libkwfoundation_usm/Detail.hpp"
 
 namespace orbis::factory::detail {
@@ -59,7 +59,7 @@ void releaseForHandleLater(void const* handle) noexcept
     if (!heldBy(handle))
         return;
     activeReferences()->defer(handle);
-    additions::requestCallBoundary();
+    host_extensions::requestCallBoundary();
 }
 
 } // namespace orbis::factory::detail

@@ -6,7 +6,7 @@
 #include "basic/addressText.hpp"
 #include "full/orphanedObjects.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libkwfoundation_usm/Detail.hpp"
 
 #include <algorithm>
@@ -16,12 +16,12 @@ namespace orbis::factory {
 
 namespace {
 
-using additions::RecordedObject;
+using host_extensions::RecordedObject;
 
 /// What host objects record, sorted by host object.
 class HostView {
 public:
-    HostView() : records_(additions::recordedObjects())
+    HostView() : records_(host_extensions::recordedObjects())
     {
         std::ranges::sort(records_, std::less(), &RecordedObject::host);
     }

@@ -5,7 +5,7 @@
 
 #include "marshal/throwError.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "orbis/COSString.hpp"
 
 #include <algorithm>
@@ -42,7 +42,7 @@ COSNameID Several::getScalarClassID(COSNameID const& arrayType)
 void publish(COSClass* cls, EnumerationRecord const& enumeration)
 {
     for (EnumerationRecord::Entry const& entry : enumeration.entries)
-        additions::addEnumerator(cls, entry.name, entry.value);
+        host_extensions::addEnumerator(cls, entry.name, entry.value);
 }
 
 namespace detail {
@@ -70,7 +70,7 @@ using Entry = EnumerationRecord::Entry;
 std::int64_t valueByOtherName(EnumerationRecord const& enumeration, COSInterface const* object, char const* name)
 {
     for (Entry const& entry : enumeration.entries)
-        if (additions::getEnumerator(enumeration.hostName, entry.name) == object)
+        if (host_extensions::getEnumerator(enumeration.hostName, entry.name) == object)
             return entry.value;
     throwNoSuchEnumerator(enumeration, name);
 }
@@ -87,7 +87,7 @@ COSInterfacePtr enumeratorObject(EnumerationRecord const& enumeration, COSNameID
     auto const entry = std::ranges::lower_bound(enumeration.byValue, value, {}, &Entry::value);
     if (entry == enumeration.byValue.end() || entry->value != value)
         throwNoSuchEnumerator(enumeration, std::to_string(value));
-    COSInterfacePtr object = additions::getEnumerator(className, entry->name);
+    COSInterfacePtr object = host_extensions::getEnumerator(className, entry->name);
     if (!object)
         throwUnknownToHost(enumeration, entry->name);
     return object;
@@ -95,7 +95,7 @@ COSInterfacePtr enumeratorObject(EnumerationRecord const& enumeration, COSNameID
 
 std::int64_t enumeratorValue(EnumerationRecord const& enumeration, COSInterface const* object)
 {
-    additions::Enumerator const* const enumerator = additions::describeEnumerator(object);
+    host_extensions::Enumerator const* const enumerator = host_extensions::describeEnumerator(object);
     if (!enumerator)
         throwNoSuchEnumerator(enumeration, "null");
     // A class that was published from the same record has its enumerators in the same order.

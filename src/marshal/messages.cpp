@@ -2,7 +2,7 @@
 
 #include "orbis/factory/base/export.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libkwfoundation_usm/Detail.hpp"
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr orbis::additions::Message texts[] = {
+constexpr orbis::host_extensions::Message texts[] = {
     {"must_be_cell_array", "Several strings are needed here: give a cell array with one row of text in each cell, or a "
                            "string array."},
     {"must_be_string", "Element {0} (counted from 0) is no text: put one row of text there, which may be empty."},
@@ -31,7 +31,7 @@ constexpr orbis::additions::Message texts[] = {
 
 constexpr char const* catalog = "orbis_factory:orbis_factory";
 
-constexpr orbis::additions::MessageList catalogs[] = {{catalog, texts}, {nullptr, nullptr}};
+constexpr orbis::host_extensions::MessageList catalogs[] = {{catalog, texts}, {nullptr, nullptr}};
 
 /// A marker in the storage of virtual machines that have the texts.
 struct Added {};
@@ -39,7 +39,7 @@ struct Added {};
 } // namespace
 
 extern "C" {
-ORBIS_FACTORY_API orbis::additions::MessageList const* orbis_factory_messages = catalogs;
+ORBIS_FACTORY_API orbis::host_extensions::MessageList const* orbis_factory_messages = catalogs;
 }
 
 namespace orbis::factory {
@@ -50,7 +50,7 @@ void addMessages()
     static std::uint64_t const id = Storage::getNextID(typeid(Added));
     if (!Storage::isRequiredContextActive() || Storage::find(id, typeid(Added)))
         return;
-    additions::addMessages(catalog, {std::begin(texts), std::end(texts) - 1});
+    host_extensions::addMessages(catalog, {std::begin(texts), std::end(texts) - 1});
     Storage::insert(id, typeid(Added),
                     Storage::Holder(new Added, [](void* object) { delete static_cast<Added*>(object); }));
 }

@@ -9,7 +9,7 @@
 #include "module/makeDescriptor.hpp"
 #include "module/notPublished.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 
 #include <array>
 #include <memory>
@@ -95,7 +95,7 @@ void setSuperclasses(COSClass* cls, std::vector<NativeClassRecord> const& superc
     for (NativeClassRecord const& superclass : superclasses)
         names.emplace_back(superclass.hostName);
     if (!names.empty())
-        additions::setSuperclasses(cls, names);
+        host_extensions::setSuperclasses(cls, names);
 }
 
 } // namespace

@@ -42,7 +42,7 @@ ArrayPtr copyOf(hvArray_tag const* array)
 
 /// What a probe holds: any value.
 struct Probe {
-    ArrayPtr value{additions::createMatrix(0, 0, hvDOUBLE_CLASS)};
+    ArrayPtr value{host_extensions::createMatrix(0, 0, hvDOUBLE_CLASS)};
 };
 
 constexpr char const* probeClass = "cases.Probe";
@@ -112,16 +112,16 @@ private:
 template <class T>
 ArrayPtr matrix(std::size_t rows, std::size_t columns, std::initializer_list<T> elements)
 {
-    ArrayPtr array(additions::createMatrix(rows, columns, COSValue::classOf<T>()));
-    std::copy(elements.begin(), elements.end(), static_cast<T*>(additions::getWritableData(array.get())));
+    ArrayPtr array(host_extensions::createMatrix(rows, columns, COSValue::classOf<T>()));
+    std::copy(elements.begin(), elements.end(), static_cast<T*>(host_extensions::getWritableData(array.get())));
     return array;
 }
 
 ArrayPtr characters()
 {
-    ArrayPtr array(additions::createMatrix(2, 2, hvCHAR_CLASS));
+    ArrayPtr array(host_extensions::createMatrix(2, 2, hvCHAR_CLASS));
     std::u16string_view const text = u"acb\xd800"; // by column; the last one is half a pair
-    std::copy(text.begin(), text.end(), static_cast<char16_t*>(additions::getWritableData(array.get())));
+    std::copy(text.begin(), text.end(), static_cast<char16_t*>(host_extensions::getWritableData(array.get())));
     return array;
 }
 
@@ -130,7 +130,7 @@ public:
     ~Cases() override
     {
         if (leaves_)
-            additions::reportLeak("what the case left");
+            host_extensions::reportLeak("what the case left");
     }
 
     char const* getName() const override { return "cases"; }

@@ -134,14 +134,14 @@ struct orbis::factory::HostDataType<Length> {
     static hvArray* toHost(Length length)
     {
         callback("conversion");
-        hvArray* const value = additions::createMatrix(1, 1, hvDOUBLE_CLASS);
-        *static_cast<double*>(additions::getWritableData(value)) = length.metres;
+        hvArray* const value = host_extensions::createMatrix(1, 1, hvDOUBLE_CLASS);
+        *static_cast<double*>(host_extensions::getWritableData(value)) = length.metres;
         return value;
     }
     static Length fromHost(hvArray* value)
     {
         callback("conversion");
-        return {*static_cast<double const*>(additions::getData(value))};
+        return {*static_cast<double const*>(host_extensions::getData(value))};
     }
 };
 

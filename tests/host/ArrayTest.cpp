@@ -6,9 +6,9 @@
 #include <functional>
 #include <new>
 
-using orbis::additions::createMatrix;
-using orbis::additions::getData;
-using orbis::additions::getWritableData;
+using orbis::host_extensions::createMatrix;
+using orbis::host_extensions::getData;
+using orbis::host_extensions::getWritableData;
 using velmara::ArrayPtr;
 using ArrayTest = HvmTest;
 
@@ -134,9 +134,9 @@ TEST_F(ArrayTest, WrongArgumentsAreRefusedByName)
         {"VELMARA:array:notNumeric", [&] { createMatrix(1, 1, hvSTRING_CLASS); }},
         {"VELMARA:array:notNumeric", [&] { createMatrix(1, 1, hvClassID(99)); }},
         {"VELMARA:array:notCell", [&] { hvSetCell(number.get(), 0, nullptr); }},
-        {"VELMARA:array:notCell", [&] { orbis::additions::getCell(objects.get(), 0); }},
+        {"VELMARA:array:notCell", [&] { orbis::host_extensions::getCell(objects.get(), 0); }},
         {"VELMARA:array:index", [&] { hvSetCell(cells.get(), 2, number.get()); }},
-        {"VELMARA:array:index", [&] { orbis::additions::getCell(cells.get(), SIZE_MAX); }},
+        {"VELMARA:array:index", [&] { orbis::host_extensions::getCell(cells.get(), SIZE_MAX); }},
         {"VELMARA:array:notObject", [&] { orbis::omGetArrayElement(cells.get(), 0); }},
         {"VELMARA:array:notObject", [&] { orbis::omSetArrayElement(number.get(), 0, nullptr); }},
         {"VELMARA:array:notObject", [&] { orbis::omSetClassOfHeterogeneousArray(cells.get()); }},

@@ -1,8 +1,8 @@
 #include "HvmTest.hpp"
 
-using orbis::additions::createMatrix;
-using orbis::additions::getCell;
-using orbis::additions::getData;
+using orbis::host_extensions::createMatrix;
+using orbis::host_extensions::getCell;
+using orbis::host_extensions::getData;
 using velmara::ArrayPtr;
 using velmara::liveCounts;
 using CellTest = HvmTest;

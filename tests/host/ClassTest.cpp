@@ -102,7 +102,7 @@ TEST_F(ClassTest, HierarchiesAreOrderedAndFreeOfCycles)
     auto const below = [](std::vector<char const*> supers) {
         return [supers](orbis::COSClass* cls) {
             std::vector<orbis::COSNameID> const names(supers.begin(), supers.end());
-            orbis::additions::setSuperclasses(cls, names);
+            orbis::host_extensions::setSuperclasses(cls, names);
         };
     };
     publish(new Class("Top", [](orbis::COSClass* cls) { cls->addMethod(answering("f", {"Top"}, 1)); }));

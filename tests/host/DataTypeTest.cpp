@@ -9,7 +9,7 @@
 #include <functional>
 
 using namespace described;
-using namespace orbis::additions;
+using namespace orbis::host_extensions;
 using texts::strings;
 using velmara::ArrayPtr;
 

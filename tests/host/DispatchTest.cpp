@@ -199,7 +199,7 @@ TEST_F(DispatchTest, ArraysThatAreNoScalarsAreRefused)
 {
     publishOverloads({{"double scalar"}, {"char vector"}});
     ArrayPtr const row = matrix<double>(1, 2, {0, 0}), none = matrix<double>(0, 0, {}),
-                   page(orbis::additions::createMatrix(2, 2, hvCHAR_CLASS));
+                   page(orbis::host_extensions::createMatrix(2, 2, hvCHAR_CLASS));
     for (ArrayPtr const* const refused : {&row, &none, &page})
         EXPECT_EQ(errorOf([&] { callF(*refused); }), "VELMARA:dispatch:noMatch");
     EXPECT_EQ(callF(text("")), 1);

@@ -6,7 +6,7 @@
 
 #include <limits>
 
-using namespace orbis::additions;
+using namespace orbis::host_extensions;
 using orbis::COSClass;
 using orbis::COSInterfacePtr;
 using texts::strings;

@@ -23,8 +23,8 @@ using TestedError = Exception<tested_key, std::exception>;
 
 void addText(char const* text)
 {
-    orbis::additions::Message const messages[] = {{"other_key", "other"}, {"tested_key", text}};
-    orbis::additions::addMessages("ExceptionTest:texts", messages);
+    orbis::host_extensions::Message const messages[] = {{"other_key", "other"}, {"tested_key", text}};
+    orbis::host_extensions::addMessages("ExceptionTest:texts", messages);
 }
 
 std::string textOf(std::vector<std::string> arguments)

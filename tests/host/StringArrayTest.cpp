@@ -10,7 +10,7 @@
 #include <functional>
 
 using namespace std::string_literals;
-using namespace orbis::additions;
+using namespace orbis::host_extensions;
 using Tarnwick::String;
 using velmara::ArrayPtr;
 

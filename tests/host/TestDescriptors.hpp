@@ -1,6 +1,6 @@
 #pragma once
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "orbis/COSClass.hpp"
 #include "orbis/COSClassInfo.hpp"
 #include "orbis/COSDataType.hpp"
@@ -198,7 +198,7 @@ inline void publish(Class* info)
 inline void setSuperclass(orbis::COSClass* cls, char const* superclass)
 {
     orbis::COSNameID const name(superclass);
-    orbis::additions::setSuperclasses(cls, {&name, 1});
+    orbis::host_extensions::setSuperclasses(cls, {&name, 1});
 }
 
 } // namespace described

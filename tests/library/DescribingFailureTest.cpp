@@ -50,8 +50,8 @@ struct DescribingFailureTest : HvmTest {
     DescribingFailureTest()
     {
         publishClass<Derived>([](auto& c) { describeMembers(c); });
-        constexpr additions::Message text{"member_not_published", "{0} cannot be published: {1}"};
-        additions::addMessages("orbis_factory:orbis_factory", {&text, 1});
+        constexpr host_extensions::Message text{"member_not_published", "{0} cannot be published: {1}"};
+        host_extensions::addMessages("orbis_factory:orbis_factory", {&text, 1});
     }
 };
 

@@ -110,7 +110,7 @@ protected:
     {
         std::string text = std::to_string(array->get_dimensions()[0]) + "-by-n";
         for (std::size_t i = 0; i < array->get_number_of_elements(); ++i)
-            text += std::string(" ") + additions::describeEnumerator(objectIn(array, i))->name;
+            text += std::string(" ") + host_extensions::describeEnumerator(objectIn(array, i))->name;
         return text;
     }
 };
@@ -136,7 +136,7 @@ TEST_F(EnumerationTest, CrossesByName)
     hvSetCell(cells.get(), 1, color("Blue").release());
     hvSetCell(cells.get(), 2, hvCreateString("Crimson"));
     EXPECT_EQ(names(call("reversed", cells)), "1-by-n Red Blue Red");
-    ArrayPtr const none(additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+    ArrayPtr const none(host_extensions::createMatrix(0, 0, hvDOUBLE_CLASS));
     EXPECT_EQ(names(call("reversed", none)), "1-by-n");
     EXPECT_EQ(names(call("orRed", none)), "1-by-n Red");
     EXPECT_EQ(names(call("orRed", text("Blue"))), "1-by-n Blue");

@@ -74,7 +74,7 @@ protected:
             ASSERT_EQ(result->_get_class_id_non_trivial(), COSValue::classOf<T>());
             EXPECT_EQ(result->get_dimensions()[0], 1u);
             ASSERT_EQ(result->get_number_of_elements(), values.size());
-            auto const* element = static_cast<T const*>(additions::getData(result.get()));
+            auto const* element = static_cast<T const*>(host_extensions::getData(result.get()));
             for (T const expected : reversed(values)) {
                 EXPECT_TRUE(*element == expected || expected != expected) << dataType;
                 ++element;
@@ -123,14 +123,14 @@ TEST_F(NumericVectorTest, OtherNumbersAreConvertedOrRefusedWithTheirPosition)
             EXPECT_EQ(errorOf(action), "");
     }
     ArrayPtr const result = call("int32", std::get<1>(cases[0]));
-    EXPECT_EQ(static_cast<std::int32_t const*>(additions::getData(result.get()))[2], -2);
+    EXPECT_EQ(static_cast<std::int32_t const*>(host_extensions::getData(result.get()))[2], -2);
 }
 
 TEST_F(NumericVectorTest, NothingIsCopiedThatNeedNotBe)
 {
     ArrayPtr const array = matrix<double>(2, 3, {1, 2, 3, 4, 5, 6});
     EXPECT_EQ(scalar<double>(call("sum", array)), 21.0);
-    EXPECT_EQ(seen, additions::getData(array.get()));
+    EXPECT_EQ(seen, host_extensions::getData(array.get()));
     EXPECT_EQ(scalar<double>(call("sum", matrix<std::int8_t>(1, 2, {-1, 3}))), 2.0);
     EXPECT_EQ(scalar<std::int16_t>(call("tail", matrix<std::int16_t>(2, 1, {5, 6}))), 6);
     EXPECT_TRUE(detail::elementsOf<double>(nullptr).empty());

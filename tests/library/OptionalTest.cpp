@@ -63,7 +63,7 @@ protected:
 
     static ArrayPtr matrix(std::size_t rows, std::size_t columns, hvClassID classID = hvDOUBLE_CLASS)
     {
-        return ArrayPtr(additions::createMatrix(rows, columns, classID));
+        return ArrayPtr(host_extensions::createMatrix(rows, columns, classID));
     }
 
     static bool isNothing(ArrayPtr const& array)
@@ -80,7 +80,7 @@ TEST_F(OptionalTest, NoValueIsAnEmptyArrayAndValuesCrossAsAlways)
     EXPECT_EQ(scalar<std::int32_t>(call("halved", number(8))), 4);
     EXPECT_TRUE(isNothing(call("halved", number(7))));
     EXPECT_TRUE(isNothing(call("halved", matrix(0, 0))));
-    EXPECT_TRUE(isNothing(call("halved", ArrayPtr(additions::createStringMatrix(1, 1))))) << "a missing string";
+    EXPECT_TRUE(isNothing(call("halved", ArrayPtr(host_extensions::createStringMatrix(1, 1))))) << "a missing string";
     EXPECT_EQ(call("numbers", matrix(2, 2))->get_number_of_elements(), 4u);
     EXPECT_EQ(call("numbers", matrix(1, 0))->get_dimensions()[0], 1u) << "a row without elements is a value";
     EXPECT_TRUE(isNothing(call("numbers", matrix(0, 0))));

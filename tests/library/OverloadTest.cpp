@@ -76,7 +76,7 @@ TEST_F(OverloadTest, WhatIsNotDecidedIsAnError)
                {u"VELMARA:dispatch:ambiguous", u"narrow: char vector", u"wide: OrbisFactoryString scalar", u"string"}},
           Case{"both", strings({{}}), {u"narrow: needs text, not a missing string", u"wide: A missing string"}},
           Case{"four",
-               ArrayPtr(additions::createMatrix(2, 2, hvCHAR_CLASS)),
+               ArrayPtr(host_extensions::createMatrix(2, 2, hvCHAR_CLASS)),
                {u"VELMARA:dispatch:noMatch", u"text: needs one row of text", u"OrbisFactoryString vector",
                 u"double scalar", u"tests.Tally", u"char 2-by-2"}},
           // Matching is over before anything is called: no failure leads to another candidate.

@@ -164,7 +164,7 @@ TEST_F(PropertyFormsTest, TextsRowsAndObjectsAreConvertedAndReleased)
     EXPECT_EQ(write("title", ArrayPtr(hvCreateString("refused"))), "VELMARA:native:exception");
     EXPECT_EQ(native().title(), "sunrise");
 
-    ArrayPtr const row(additions::createMatrix(1, 3, hvDOUBLE_CLASS));
+    ArrayPtr const row(host_extensions::createMatrix(1, 3, hvDOUBLE_CLASS));
     EXPECT_EQ(hvm().get(object_.get(), "samples")->get_number_of_elements(), 2u);
     EXPECT_EQ(write("samples", row), "");
     EXPECT_EQ(native().samples, std::vector<double>(3));

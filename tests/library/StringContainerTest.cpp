@@ -43,7 +43,7 @@ protected:
         EXPECT_EQ(column->get_dimensions()[1], 1u);
         Strings read;
         for (std::size_t i = 0; i < column->get_number_of_elements(); ++i)
-            read.push_back(textOf(additions::getCell(column.get(), i)));
+            read.push_back(textOf(host_extensions::getCell(column.get(), i)));
         return read;
     }
 };
@@ -67,12 +67,12 @@ TEST_F(StringContainerTest, TextsCrossBothWaysInTheContainersOrder)
     EXPECT_EQ(texts(call("utf8", strings({u"a", {}, u"b", {}}))), (Strings{u"a", u"b"}));
 
     std::mt19937 random(11);
-    ArrayPtr const manyCells(hvCreateCellMatrix(1, 500)), manyStrings(additions::createStringMatrix(500, 1));
+    ArrayPtr const manyCells(hvCreateCellMatrix(1, 500)), manyStrings(host_extensions::createStringMatrix(500, 1));
     Strings given(500);
     for (std::size_t i = 0; i < given.size(); ++i) {
         given[i] = anyText(random);
         hvSetCell(manyCells.get(), i, characters(given[i]).release());
-        additions::setString(manyStrings.get(), i, given[i]);
+        host_extensions::setString(manyStrings.get(), i, given[i]);
     }
     EXPECT_EQ(HostDataType<Strings>::fromHost(manyCells.get()), given);
     EXPECT_EQ(HostDataType<Strings>::fromHost(manyStrings.get()), given);
@@ -83,7 +83,7 @@ TEST_F(StringContainerTest, TextsCrossBothWaysInTheContainersOrder)
         EXPECT_EQ(texts(call("utf8", many)), whole);
     std::ranges::transform(given, given.begin(), upToZero<fl::ustring>);
     EXPECT_EQ(texts(call("vector", manyCells)), given);
-    EXPECT_FALSE(scalar<bool>(call("maybe", ArrayPtr(additions::createMatrix(0, 0, hvDOUBLE_CLASS)))));
+    EXPECT_FALSE(scalar<bool>(call("maybe", ArrayPtr(host_extensions::createMatrix(0, 0, hvDOUBLE_CLASS)))));
     EXPECT_TRUE(scalar<bool>(call("maybe", ArrayPtr(hvCreateCellMatrix(0, 0)))));
 }
 
@@ -95,7 +95,7 @@ TEST_F(StringContainerTest, ViewsSeeTextThatTheCallOwns)
     EXPECT_EQ(textOf(call("wide", characters(u"x\xD800"))), u"\xD800");
     EXPECT_EQ(textOf(call("maybeView", characters(text))), text);
     EXPECT_EQ(textOf(call("maybeView", characters(u""))), u"") << "no characters are a text";
-    EXPECT_EQ(textOf(call("maybeView", ArrayPtr(additions::createMatrix(0, 0, hvDOUBLE_CLASS)))), u"none");
+    EXPECT_EQ(textOf(call("maybeView", ArrayPtr(host_extensions::createMatrix(0, 0, hvDOUBLE_CLASS)))), u"none");
     EXPECT_EQ(textOf(call("maybeView", strings({{}}))), u"none");
     EXPECT_EQ(hvm().describeFunction("tests.maybeView").inputs.at(0).dataType, "char vector or empty");
     EXPECT_EQ(hvm().describeFunction("tests.wide").inputs.at(0).dataType, "OrbisFactoryString scalar");

@@ -143,10 +143,11 @@ TEST_F(StringDataTypesTest, ConversionsAcceptTheirClassesAndShareData)
             ArrayPtr const back = converted(type, array.get(), true);
             EXPECT_NE(back, array);
             if (made && textOf(array).size() == 1000) {
-                EXPECT_EQ(additions::getData(made.get()), additions::getData(array.get()));
-                EXPECT_EQ(additions::getData(back.get()), additions::getData(array.get()));
+                EXPECT_EQ(host_extensions::getData(made.get()), host_extensions::getData(array.get()));
+                EXPECT_EQ(host_extensions::getData(back.get()), host_extensions::getData(array.get()));
                 ArrayPtr const copy(COSDataTypePtr(type)->copyValue(COSValue(array.get())).array());
-                EXPECT_NE(additions::getData(copy.get()), additions::getData(array.get())) << "values stand apart";
+                EXPECT_NE(host_extensions::getData(copy.get()), host_extensions::getData(array.get()))
+                    << "values stand apart";
                 EXPECT_EQ(copy.get()->*Header::flags & 0x200U, 0U) << "nor are they a call's temporaries";
             }
         }

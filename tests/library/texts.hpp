@@ -2,7 +2,7 @@
 
 #include "velmara/ArrayPtr.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 
 #include <algorithm>
 #include <initializer_list>
@@ -17,16 +17,16 @@ using velmara::ArrayPtr;
 
 inline ArrayPtr characters(std::u16string_view text)
 {
-    return ArrayPtr(orbis::additions::createText(text));
+    return ArrayPtr(orbis::host_extensions::createText(text));
 }
 
 /// A row of strings; nothing is a missing one.
 inline ArrayPtr strings(std::initializer_list<std::optional<std::u16string_view>> elements)
 {
-    ArrayPtr array(orbis::additions::createStringMatrix(1, elements.size()));
+    ArrayPtr array(orbis::host_extensions::createStringMatrix(1, elements.size()));
     for (std::size_t i = 0; auto const& element : elements) {
         if (element)
-            orbis::additions::setString(array.get(), i, *element);
+            orbis::host_extensions::setString(array.get(), i, *element);
         ++i;
     }
     return array;
@@ -46,7 +46,7 @@ inline std::u16string textOf(hvArray const* array)
 {
     if (array->_get_class_id_non_trivial() != hvCHAR_CLASS)
         return u"(no characters)";
-    auto const* const data = static_cast<char16_t const*>(orbis::additions::getData(array));
+    auto const* const data = static_cast<char16_t const*>(orbis::host_extensions::getData(array));
     return {data, array->get_number_of_elements()};
 }
 

@@ -5,7 +5,7 @@
 #include "classes/PackageTree.hpp"
 #include "errors/hostError.hpp"
 
-#include "additions/NativeOwner.hpp"
+#include "host_extensions/NativeOwner.hpp"
 
 #include <algorithm>
 
@@ -153,7 +153,7 @@ std::string ownerOf(orbis::COSClassInfo const& info)
         return "value";
     if (info.isEnumeration())
         return "enumerator";
-    auto const* const owner = dynamic_cast<orbis::additions::NativeOwner const*>(&info);
+    auto const* const owner = dynamic_cast<orbis::host_extensions::NativeOwner const*>(&info);
     return owner ? owner->nativeOwner() : "handle";
 }
 

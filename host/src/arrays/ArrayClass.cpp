@@ -2,7 +2,7 @@
 
 #include "arrays/StringElement.hpp"
 
-#include "additions/numericClasses.hpp"
+#include "host_extensions/numericClasses.hpp"
 
 #include <array>
 
@@ -17,7 +17,7 @@ constexpr auto classes = [] {
     table[hvCHAR_CLASS] = {"char", sizeof(char16_t)};
     table[hvSTRING_CLASS] = {"string", sizeof(StringElement)};
     table[hvOBJECT_CLASS] = {"object", sizeof(void*)};
-    for (orbis::additions::NumericClass const& numeric : orbis::additions::numericClasses)
+    for (orbis::host_extensions::NumericClass const& numeric : orbis::host_extensions::numericClasses)
         table[numeric.classID] = {numeric.name, numeric.size};
     return table;
 }();

@@ -1,6 +1,6 @@
 #include "arrays/arrayArguments.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 
 using namespace velmara;
@@ -15,7 +15,7 @@ void matrix::detail::noninlined::hv_array_api::hvSetCell(hvArray_tag* cells, std
     requireCell(cells, index).setCell(index, Array::of(value));
 }
 
-hvArray_tag const* orbis::additions::getCell(hvArray_tag const* cells, std::size_t index)
+hvArray_tag const* orbis::host_extensions::getCell(hvArray_tag const* cells, std::size_t index)
 {
     return requireCell(cells, index).cells()[index];
 }

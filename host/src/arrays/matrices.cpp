@@ -1,9 +1,9 @@
 #include "arrays/arrayArguments.hpp"
 #include "errors/hostError.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 
-namespace orbis::additions {
+namespace orbis::host_extensions {
 
 using namespace velmara;
 
@@ -46,4 +46,4 @@ void* getWritableData(hvArray_tag* array)
     return hasPlainElements(matrix.classID()) ? matrix.writableElements() : nullptr;
 }
 
-} // namespace orbis::additions
+} // namespace orbis::host_extensions

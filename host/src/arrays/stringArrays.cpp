@@ -1,11 +1,11 @@
 #include "arrays/StringArrayView.hpp"
 #include "arrays/arrayArguments.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 
 using namespace velmara;
 
-namespace orbis::additions {
+namespace orbis::host_extensions {
 
 hvArray* createStringMatrix(std::size_t m, std::size_t n)
 {
@@ -24,7 +24,7 @@ void setMissing(hvArray_tag* strings, std::size_t index)
     requireString(strings, index).writableString(index) = StringElement();
 }
 
-} // namespace orbis::additions
+} // namespace orbis::host_extensions
 
 namespace Tarnwick {
 

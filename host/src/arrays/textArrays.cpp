@@ -3,7 +3,7 @@
 #include "text/copyUnits.hpp"
 #include "text/utf.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 
 namespace matrix::detail::noninlined::hv_array_api {
@@ -28,7 +28,7 @@ hvArray* hvCreateString(char const* text)
 
 hvArray* hvCreateString_UTF16(char16_t const* text)
 {
-    return orbis::additions::createText(text ? text : u"");
+    return orbis::host_extensions::createText(text ? text : u"");
 }
 
 char* hvArrayToString(hvArray_tag const* array)
@@ -65,7 +65,7 @@ void hvFreeEx(void* text)
 
 } // namespace matrix::detail::noninlined::hv_array_api
 
-hvArray* orbis::additions::createText(std::u16string_view text)
+hvArray* orbis::host_extensions::createText(std::u16string_view text)
 {
     velmara::Array* const array = velmara::Array::createText(text.size());
     velmara::copyUnits(text, array->writableText());

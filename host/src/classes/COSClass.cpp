@@ -3,7 +3,7 @@
 #include "classes/PackageTree.hpp"
 #include "errors/hostError.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 
 namespace orbis {
 
@@ -29,7 +29,7 @@ void COSClass::addGlobalClass(COSClassInfo* info)
 
 } // namespace orbis
 
-namespace orbis::additions {
+namespace orbis::host_extensions {
 
 void setSuperclasses(COSClass* cls, std::span<COSNameID const> superclasses)
 {
@@ -62,4 +62,4 @@ Enumerator const* describeEnumerator(COSInterface const* object)
     return &velmara::Class::of(enumerator->classOf())->contents().enumerators.at(enumerator->enumerator());
 }
 
-} // namespace orbis::additions
+} // namespace orbis::host_extensions

@@ -1,8 +1,8 @@
-#include "additions/NativeOwner.hpp"
+#include "host_extensions/NativeOwner.hpp"
 
 #include "classes/Class.hpp"
 
-namespace orbis::additions {
+namespace orbis::host_extensions {
 
 NativeOwner::~NativeOwner() = default;
 
@@ -14,4 +14,4 @@ NativeOwner* nativeOwnerOf(COSNameID const& className)
     return cls ? dynamic_cast<NativeOwner*>(&static_cast<velmara::Class*>(cls)->info()) : nullptr;
 }
 
-} // namespace orbis::additions
+} // namespace orbis::host_extensions

@@ -1,8 +1,8 @@
 #include "classes/PackageTree.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 
-namespace orbis::additions {
+namespace orbis::host_extensions {
 
 using namespace velmara;
 
@@ -30,4 +30,4 @@ std::vector<RecordedObject> recordedObjects()
     return records;
 }
 
-} // namespace orbis::additions
+} // namespace orbis::host_extensions

@@ -7,7 +7,7 @@
 #include "types/ElementConversion.hpp"
 #include "types/TypeRepository.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 #include "orbis/COSTypeConversion.hpp"
 
@@ -88,7 +88,7 @@ ConversionRank ConvertedInputs::addText(hvArray_tag* input)
         return exactRank;
     if (array.classID() != hvSTRING_CLASS || array.size() != 1 || array.strings().front().isMissing())
         return notConvertible;
-    own(nullptr, orbis::additions::createText(array.strings().front().view()));
+    own(nullptr, orbis::host_extensions::createText(array.strings().front().view()));
     return convertedRank;
 }
 

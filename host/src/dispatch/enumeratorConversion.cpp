@@ -5,8 +5,8 @@
 #include "machine/Machine.hpp"
 #include "text/utf.hpp"
 
-#include "additions/convertNumber.hpp"
-#include "additions/numericClasses.hpp"
+#include "host_extensions/convertNumber.hpp"
+#include "host_extensions/numericClasses.hpp"
 
 #include <memory_resource>
 #include <optional>
@@ -14,9 +14,9 @@
 
 namespace velmara {
 
-using orbis::additions::convertNumber;
-using orbis::additions::isNumeric;
-using orbis::additions::visitNumericClass;
+using orbis::host_extensions::convertNumber;
+using orbis::host_extensions::isNumeric;
+using orbis::host_extensions::visitNumericClass;
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include "errors/hostError.hpp"
 
-#include "additions/ObjectObserver.hpp"
-#include "additions/additions.hpp"
+#include "host_extensions/ObjectObserver.hpp"
+#include "host_extensions/host_extensions.hpp"
 
 namespace velmara {
 
@@ -49,7 +49,7 @@ void Machine::passCallBoundary() noexcept
 
 } // namespace velmara
 
-namespace orbis::additions {
+namespace orbis::host_extensions {
 
 using velmara::Machine;
 
@@ -84,4 +84,4 @@ void addMessages(char const* catalog, std::span<Message const> messages)
         texts.add(catalog, message.key, message.text);
 }
 
-} // namespace orbis::additions
+} // namespace orbis::host_extensions

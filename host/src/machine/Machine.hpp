@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-namespace orbis::additions {
+namespace orbis::host_extensions {
 class ObjectObserver;
 }
 
@@ -57,7 +57,7 @@ public:
     /// What the report throws is lost.
     void reportLeak(char const* sentence) const noexcept;
 
-    using ObjectObserver = orbis::additions::ObjectObserver;
+    using ObjectObserver = orbis::host_extensions::ObjectObserver;
     void setObserver(ObjectObserver* observer) { observer_ = observer; }
 
     /// Null also once the virtual machine has begun to clear its storage.

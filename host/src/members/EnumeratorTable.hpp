@@ -5,7 +5,7 @@
 
 #include "velmara/ArrayPtr.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 
 #include <cstdint>
 #include <span>
@@ -18,7 +18,7 @@ namespace velmara {
 class ObjectClass;
 
 /// One enumerator and its one object, in a 1-by-1 array of its own.
-struct Enumerator : orbis::additions::Enumerator {
+struct Enumerator : orbis::host_extensions::Enumerator {
     ArrayPtr object;
 
     Object* host() const { return Array::of(object.get())->objects().front(); }

@@ -7,7 +7,7 @@
 #include "machine/Machine.hpp"
 #include "text/pathText.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 
 #include <utility>
 
@@ -55,12 +55,12 @@ std::string Module::versionWord(char const* suffix) const
 void Module::addMessages() const
 {
     auto const* const word =
-        static_cast<orbis::additions::MessageList const* const*>(library_.find(record_.name + "_messages"));
+        static_cast<orbis::host_extensions::MessageList const* const*>(library_.find(record_.name + "_messages"));
     for (auto const* list = word ? *word : nullptr; list && list->catalog; ++list) {
         auto const* end = list->messages;
         while (end->key)
             ++end;
-        orbis::additions::addMessages(list->catalog, {list->messages, end});
+        orbis::host_extensions::addMessages(list->catalog, {list->messages, end});
     }
 }
 

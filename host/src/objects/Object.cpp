@@ -6,7 +6,7 @@
 #include "objects/DeferredFinalizer.hpp"
 #include "objects/ObjectClass.hpp"
 
-#include "additions/ObjectObserver.hpp"
+#include "host_extensions/ObjectObserver.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -205,7 +205,7 @@ void Object::setValid(bool valid)
 
 void Object::notifyObserver() noexcept
 {
-    orbis::additions::ObjectObserver* const observer = machine_->observer();
+    orbis::host_extensions::ObjectObserver* const observer = machine_->observer();
     if (!observer)
         return;
     forEachNativeObject([&](Name, void* native) { observer->nativeForgotten(this, native, isFinalized()); });

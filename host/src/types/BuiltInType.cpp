@@ -6,7 +6,7 @@
 #include "types/TypeRepository.hpp"
 #include "types/valueOrder.hpp"
 
-#include "additions/numericClasses.hpp"
+#include "host_extensions/numericClasses.hpp"
 #include "libhv/libhv.hpp"
 
 namespace velmara {
@@ -27,7 +27,7 @@ public:
 
     char const* cppTypeName() const override
     {
-        return orbis::additions::findNumericClass(type_.scalarClass)->nativeType;
+        return orbis::host_extensions::findNumericClass(type_.scalarClass)->nativeType;
     }
 
     bool checkValue(orbis::COSValue value, bool) const override { return value.scalarClass() == type_.scalarClass; }
@@ -37,13 +37,13 @@ public:
     {
         if (!checkValue(a, true) || !checkValue(b, true))
             return a.isEmpty() && b.isEmpty() ? equal : unordered;
-        return orbis::additions::visitNumericClass(type_.scalarClass,
-                                                   [&]<class T>(T) { return orderOf(a.scalar<T>(), b.scalar<T>()); });
+        return orbis::host_extensions::visitNumericClass(
+            type_.scalarClass, [&]<class T>(T) { return orderOf(a.scalar<T>(), b.scalar<T>()); });
     }
 
     std::size_t valueByteSize(orbis::COSValue) const override
     {
-        return orbis::additions::findNumericClass(type_.scalarClass)->size;
+        return orbis::host_extensions::findNumericClass(type_.scalarClass)->size;
     }
 
     orbis::COSValue copyValue(orbis::COSValue value) const override { return value; }

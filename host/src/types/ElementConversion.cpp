@@ -2,14 +2,14 @@
 
 #include "types/ScalarConversion.hpp"
 
-#include "additions/convertNumber.hpp"
-#include "additions/numericClasses.hpp"
+#include "host_extensions/convertNumber.hpp"
+#include "host_extensions/numericClasses.hpp"
 
 #include <cstring>
 
 namespace velmara {
 
-using namespace orbis::additions;
+using namespace orbis::host_extensions;
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "types/ScalarConversion.hpp"
 
-#include "additions/convertNumber.hpp"
-#include "additions/numericClasses.hpp"
+#include "host_extensions/convertNumber.hpp"
+#include "host_extensions/numericClasses.hpp"
 
 #include <array>
 #include <charconv>
@@ -11,7 +11,7 @@
 
 namespace velmara {
 
-using namespace orbis::additions;
+using namespace orbis::host_extensions;
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "names/NameMap.hpp"
 
-#include "additions/numericClasses.hpp"
+#include "host_extensions/numericClasses.hpp"
 
 #include <string_view>
 
@@ -23,7 +23,7 @@ BuiltIn const* findBuiltIn(Name name)
         types[anyTypeName()] = {TypeKind::Any};
         types[intern("char")] = {TypeKind::Text};
         types[intern("char vector")] = {TypeKind::Text};
-        for (orbis::additions::NumericClass const& numeric : orbis::additions::numericClasses) {
+        for (orbis::host_extensions::NumericClass const& numeric : orbis::host_extensions::numericClasses) {
             types[intern(numeric.scalarType)] = {TypeKind::Scalar, numeric.classID};
             types[intern(numeric.vectorType)] = {TypeKind::Elements, numeric.classID};
         }

@@ -4,7 +4,7 @@
 #include "errors/hostError.hpp"
 #include "types/valueOrder.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 
 namespace velmara {
@@ -66,7 +66,7 @@ class UnicodeStringConversion final : public orbis::COSTypeConversion {
 public:
     void convertToHost(hvArray_tag** out, hvArray_tag* value) override
     {
-        *out = orbis::additions::createText(value ? *textOf(value) : fl::ustring());
+        *out = orbis::host_extensions::createText(value ? *textOf(value) : fl::ustring());
     }
 
     void convertFromHost(hvArray_tag** out, hvArray_tag* in) override { *out = newValue(readText(requireArray(in))); }

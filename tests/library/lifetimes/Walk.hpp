@@ -8,7 +8,7 @@
 #include "velmara/Hvm.hpp"
 #include "velmara/LiveCounts.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "orbis/objectArrays.hpp"
 
 #include <functional>
@@ -214,7 +214,8 @@ private:
         if (!host.native->isAlive)
             return; // released before
         velmara::ArrayPtr const number = hvm().callStatic(name, "take", inputs);
-        check(*static_cast<int const*>(orbis::additions::getData(number.get())) == host.native->number, "what arrived");
+        check(*static_cast<int const*>(orbis::host_extensions::getData(number.get())) == host.native->number,
+              "what arrived");
     }
 
     void forget(Native&, Slot& slot)

@@ -2,7 +2,7 @@
 
 #include "orbis/factory/base/export.hpp"
 
-#include "additions/NativeOwner.hpp"
+#include "host_extensions/NativeOwner.hpp"
 #include "orbis/COSClassInfo.hpp"
 
 #include <string>
@@ -10,7 +10,7 @@
 namespace orbis::factory {
 
 /// Base of the class infos: holds the class's full dotted name and its description.
-class ORBIS_FACTORY_API OrbisFactoryClassInfo : public COSClassInfo, public additions::NativeOwner {
+class ORBIS_FACTORY_API OrbisFactoryClassInfo : public COSClassInfo, public host_extensions::NativeOwner {
 public:
     /// Records in the current virtual machine, if there is one, that the class may be published: a native object of it
     /// that is passed as a pointer to a base makes the library ask the host for the class.

@@ -4,7 +4,7 @@
 #include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/marshaling/Marshaler.hpp"
 
-#include "additions/numericClasses.hpp"
+#include "host_extensions/numericClasses.hpp"
 #include "orbis/COSNameID.hpp"
 #include "orbis/COSValue.hpp"
 
@@ -34,7 +34,7 @@ public:
     template <COSScalar T>
     static constexpr char const* dataTypeText()
     {
-        return additions::numericClassOf<T>.scalarType;
+        return host_extensions::numericClassOf<T>.scalarType;
     }
 };
 

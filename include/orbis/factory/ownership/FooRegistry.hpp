@@ -3,7 +3,7 @@
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/ownership/RegistryEntry.hpp"
 
-#include "additions/ObjectObserver.hpp"
+#include "host_extensions/ObjectObserver.hpp"
 #include "orbis/COSNameID.hpp"
 
 #include <boost/unordered_map.hpp>
@@ -58,7 +58,7 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     bool isAnyUnconstructed = false;
 
 private:
-    class Observer final : public additions::ObjectObserver {
+    class Observer final : public host_extensions::ObjectObserver {
     public:
         explicit Observer(FooRegistry& table) : table_(table) {}
         void nativeForgotten(COSInterface* host, void const* native, bool isDestroyed) noexcept override;

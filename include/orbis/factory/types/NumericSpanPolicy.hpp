@@ -4,7 +4,7 @@
 #include "orbis/factory/detail/arrays/numericArrays.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
-#include "additions/numericClasses.hpp"
+#include "host_extensions/numericClasses.hpp"
 
 #include "orbis/COSNameID.hpp"
 
@@ -34,7 +34,7 @@ public:
     template <class Span>
     static char const* dataTypeText()
     {
-        return additions::numericClassOf<typename Span::value_type>.vectorType;
+        return host_extensions::numericClassOf<typename Span::value_type>.vectorType;
     }
 
     /// Does not own the elements.

@@ -4,7 +4,7 @@
 #include "orbis/factory/detail/arrays/numericArrays.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
-#include "additions/numericClasses.hpp"
+#include "host_extensions/numericClasses.hpp"
 
 #include "orbis/COSNameID.hpp"
 
@@ -41,7 +41,7 @@ public:
     template <class Vector>
     static char const* dataTypeText()
     {
-        return additions::numericClassOf<typename Vector::value_type>.vectorType;
+        return host_extensions::numericClassOf<typename Vector::value_type>.vectorType;
     }
 };
 

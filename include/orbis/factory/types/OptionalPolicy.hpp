@@ -7,7 +7,7 @@
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 #include "orbis/factory/marshaling/ReferredObjects.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "orbis/COSNameID.hpp"
 
 #include <optional>
@@ -50,7 +50,7 @@ public:
         if (value)
             detail::storeResult<T>(outputCount, out, [&]() -> T const& { return *value; });
         else
-            *out = COSValue(additions::createMatrix(0, 0, hvDOUBLE_CLASS));
+            *out = COSValue(host_extensions::createMatrix(0, 0, hvDOUBLE_CLASS));
     }
 
     template <class Optional>

@@ -5,7 +5,7 @@
 #include "orbis/factory/detail/arrays/textCells.hpp"
 #include "orbis/factory/types/DataTypePolicy.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 #include "string_matrix/string_matrix.hpp"
 
@@ -46,7 +46,7 @@ private:
         detail::NewArray text(hvCreateString(string.c_str()));
         if (text.get()->get_number_of_elements() == string.size() || string.find('\0') == string.npos) [[likely]]
             return text.release();
-        return additions::createText(fl::i18n::to_ustring(string));
+        return host_extensions::createText(fl::i18n::to_ustring(string));
     }
 
     static void readStrings(Tarnwick::StringArray const& array, std::vector<std::string>& strings)

@@ -2,7 +2,7 @@
 
 #include "orbis/factory/detail/arrays/NewArray.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/hvArray.hpp"
 #include "orbis/COSValue.hpp"
 
@@ -22,21 +22,21 @@ std::span<T const> elementsOf(hvArray_tag const* array)
         return {};
     if (array->_get_class_id_non_trivial() != COSValue::classOf<T>()) // the host ignored the signature
         throw std::invalid_argument("an array of another numeric class was passed");
-    return {static_cast<T const*>(additions::getData(array)), array->get_number_of_elements()};
+    return {static_cast<T const*>(host_extensions::getData(array)), array->get_number_of_elements()};
 }
 
 /// Returns a new row of the values, owned by the caller.
 template <COSScalar T>
 hvArray* createRow(std::span<T const> values)
 {
-    return additions::createMatrix(1, values.size(), COSValue::classOf<T>(), values.data());
+    return host_extensions::createMatrix(1, values.size(), COSValue::classOf<T>(), values.data());
 }
 
 /// `std::vector<bool>` is packed, so its values are written one by one.
 inline hvArray* createRow(std::vector<bool> const& values)
 {
-    NewArray row(additions::createMatrix(1, values.size(), hvLOGICAL_CLASS));
-    std::copy(values.begin(), values.end(), static_cast<bool*>(additions::getWritableData(row.get())));
+    NewArray row(host_extensions::createMatrix(1, values.size(), hvLOGICAL_CLASS));
+    std::copy(values.begin(), values.end(), static_cast<bool*>(host_extensions::getWritableData(row.get())));
     return row.release();
 }
 

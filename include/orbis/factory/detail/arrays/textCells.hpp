@@ -3,7 +3,7 @@
 #include "orbis/factory/base/argumentErrors.hpp"
 #include "orbis/factory/detail/arrays/NewArray.hpp"
 
-#include "additions/additions.hpp"
+#include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 
 #include <cstddef>
@@ -35,10 +35,10 @@ void readTextCells(hvArray const* cells, Reserve reserve, Append append)
     std::size_t const count = cells->get_number_of_elements();
     reserve(count);
     for (std::size_t i = 0; i < count; ++i) {
-        hvArray const* const cell = additions::getCell(cells, i);
+        hvArray const* const cell = host_extensions::getCell(cells, i);
         if (!cell || cell->_get_class_id_non_trivial() != hvCHAR_CLASS)
             errorMustBeString(i);
-        auto const* const text = static_cast<char16_t const*>(additions::getData(cell));
+        auto const* const text = static_cast<char16_t const*>(host_extensions::getData(cell));
         append(std::u16string_view(text, cell->get_number_of_elements()));
     }
 }

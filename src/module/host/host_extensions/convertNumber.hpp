@@ -10,7 +10,7 @@
 #include <optional>
 #include <utility>
 
-namespace orbis::additions {
+namespace orbis::host_extensions {
 
 /// True when a `double` holds the whole number exactly.
 constexpr bool isExactDouble(std::integral auto number)
@@ -58,4 +58,4 @@ std::optional<T> convertNumber(std::floating_point auto given)
     return fits ? std::optional(converted) : std::nullopt;
 }
 
-} // namespace orbis::additions
+} // namespace orbis::host_extensions

@@ -14,7 +14,7 @@ class COSClass;
 }
 
 /// Functions that the host interface itself lacks. To use the library with another host, implement them for it.
-namespace orbis::additions {
+namespace orbis::host_extensions {
 
 /// Returns a new m-by-n array of zeros of a numeric, logical or character class, owned by the caller.
 ORBIS_HOST_API hvArray* createMatrix(std::size_t m, std::size_t n, hvClassID classID);
@@ -101,4 +101,4 @@ struct MessageList {
 /// with the same keys.
 ORBIS_HOST_API void addMessages(char const* catalog, std::span<Message const> messages);
 
-} // namespace orbis::additions
+} // namespace orbis::host_extensions

@@ -3,7 +3,7 @@
 #include "orbis/COSNameID.hpp"
 #include "orbis_host_export.hpp"
 
-namespace orbis::additions {
+namespace orbis::host_extensions {
 
 /// Optional second base of a class info, which tells listings of live objects who owns the native objects.
 class ORBIS_HOST_API NativeOwner {
@@ -23,4 +23,4 @@ public:
 /// info is none.
 ORBIS_HOST_API NativeOwner* nativeOwnerOf(COSNameID const& className);
 
-} // namespace orbis::additions
+} // namespace orbis::host_extensions

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace orbis::additions {
+namespace orbis::host_extensions {
 
 /// A class of numbers, or the logical one.
 struct NumericClass {
@@ -91,4 +91,4 @@ static_assert([] {
     return agree;
 }());
 
-} // namespace orbis::additions
+} // namespace orbis::host_extensions

@@ -2,7 +2,7 @@
 
 #include "orbis/COSInterface.hpp"
 
-namespace orbis::additions {
+namespace orbis::host_extensions {
 
 /// Is notified when host objects stop representing native objects; for code that keeps data about them.
 class ORBIS_HOST_API ObjectObserver {
@@ -31,4 +31,4 @@ ORBIS_HOST_API void observeObjects(ObjectObserver* observer) noexcept;
 /// Requests one `callBoundary` of the current virtual machine's observer. Does nothing if none is current.
 ORBIS_HOST_API void requestCallBoundary() noexcept;
 
-} // namespace orbis::additions
+} // namespace orbis::host_extensions
