@@ -52,7 +52,7 @@ public:
             fixture_.hvm.construct(adderName);
     }
 
-    /// The part of `construct` that the native object itself costs.
+    /// What the native object itself costs in `construct`.
     void allocate(std::size_t count)
     {
         for (std::size_t i = 0; i < count; ++i)
