@@ -3,6 +3,7 @@
 /// Umbrella header: everything a module needs to publish classes, enumerations and functions. Each header can also be
 /// included alone.
 
+#include "orbis/factory/Module.hpp"
 #include "orbis/factory/ObjectHandle.hpp"
 #include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/check.hpp"
@@ -17,6 +18,8 @@
 #include "orbis/factory/marshaling/ValuePolicy.hpp"
 #include "orbis/factory/ownership/HvmScoped.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
+#include "orbis/factory/resultOwners.hpp"
+#include "orbis/factory/types/NamedPointerPolicies.hpp"
 #include "orbis/factory/types/NumericSpanPolicy.hpp"
 #include "orbis/factory/types/NumericVectorPolicy.hpp"
 #include "orbis/factory/types/ObjectVectorPolicy.hpp"

@@ -46,7 +46,8 @@ void HostDependents::forgetHost(FooRegistry& table, COSInterface* host) noexcept
         for (auto it = unbound.lower_bound({host, nullptr}); it != unbound.end() && it->first == host;)
             it = unbound.erase(it);
     }
-    // Last, because both run foreign code.
+    // Last, because they run foreign code.
+    shares.invalidateParts(host);
     handles.release(host, nullptr);
     shares.drop(host);
 }

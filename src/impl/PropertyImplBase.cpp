@@ -25,6 +25,11 @@ char const* PropertyImplBase::getDescription() const
     return description_;
 }
 
+void PropertyImplBase::setDescription(String const& description)
+{
+    description_ = description;
+}
+
 char const* PropertyImplBase::getDetailedDescription() const
 {
     return getDescription();

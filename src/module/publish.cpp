@@ -14,6 +14,7 @@
 #include <array>
 #include <memory>
 #include <stdexcept>
+#include <string>
 #include <utility>
 
 namespace orbis::factory {
@@ -26,7 +27,8 @@ template <std::size_t... I>
 void createSignature(MemberRecord const& record, char const* selfType, COSMethodSignaturePtr& signature,
                      std::index_sequence<I...>)
 {
-    impl::Invoker::createSignature(record.parameterNames, record.outputType, selfType, record.inputTypes[I]...,
+    impl::Invoker::createSignature(record.parameterNames, record.outputType(), selfType,
+                                   record.inputTypes[I]()...,
                                    signature);
 }
 
@@ -75,7 +77,7 @@ template <class Descriptor>
 void add(COSClass* cls, char const* name, MemberRecord const& record, char const* hostName)
 {
     publishing(hostName, name, [&] {
-        auto descriptor = makeDescriptor<Descriptor>(record, name, attributesOf(record), "");
+        auto descriptor = makeDescriptor<Descriptor>(record, name, attributesOf(record), record.text);
         bind(*descriptor, record, hostName);
         cls->addMethod(descriptor.release());
     });
@@ -85,8 +87,25 @@ std::unique_ptr<impl::PropertyImpl> makeProperty(PropertyRecord const& record)
 {
     if (record.attributes.isStatic() && record.needsObject)
         throw std::invalid_argument("a static property has no object: give static data, or functions that take none");
-    return record.make(record);
+    auto property = record.make(record);
+    property->setDescription(record.text);
+    return property;
 }
+
+/// A function with a text.
+class DescribedFunction : public FunctionInfo {
+public:
+    DescribedFunction(char const* name, MethodAttributes attributes, char const* text)
+        : FunctionInfo(name, attributes),
+          text_(text)
+    {
+    }
+
+    char const* getDescription() const override { return text_.c_str(); }
+
+private:
+    std::string text_;
+};
 
 void setSuperclasses(COSClass* cls, std::vector<NativeClassRecord> const& superclasses)
 {
@@ -122,7 +141,7 @@ void publish(COSPackage* package, FunctionDescription const& description)
     detail::initStringDataTypes();
     for (MemberRecord const& record : description.functions()) {
         publishing(nullptr, record.name, [&] {
-            auto function = makeDescriptor<FunctionInfo>(record, record.name, attributesOf(record));
+            auto function = makeDescriptor<DescribedFunction>(record, record.name, attributesOf(record), record.text);
             bind(function->method(), record, nullptr);
             package->addFunction(function.release());
         });

@@ -16,7 +16,7 @@ class ORBIS_FACTORY_API ClassDescription {
 public:
     explicit ClassDescription(NativeClassRecord const& native);
     ClassDescription(ClassDescription const&);
-    ~ClassDescription();
+    virtual ~ClassDescription();
 
     char const* hostName() const;
     NativeClassRecord const& native() const;

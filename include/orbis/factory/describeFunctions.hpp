@@ -20,9 +20,10 @@ class FunctionDescriber : public FunctionDescription {
     using Traits = detail::CallableTraits<std::decay_t<F>>;
 
 public:
-    /// Adds a free function, static member function or captureless lambda.
+    /// Adds a free function, static member function or captureless lambda, with a text for users.
     template <class F>
-    FunctionDescriber& function(char const* name, F callable, ParameterNames<Traits<F>::arity> names = {})
+    FunctionDescriber& function(char const* name, F callable, ParameterNames<Traits<F>::arity> names = {},
+                                char const* text = "")
     {
         constexpr bool isFree = Traits<F>::kind == detail::CallableKind::Free;
         static_assert(isFree, "A package function is a free function, a static member function or a lambda that "
@@ -32,16 +33,16 @@ public:
             using Parameters = typename Traits<F>::Parameters;
             if constexpr (detail::signatureCanCross<Result>(Parameters{}))
                 add(detail::freeFunctionRecord<typename Traits<F>::Pointer, Result, Parameters>(
-                    name, callable, names.text(), MethodAttributes::Static()));
+                    name, callable, names.text(), text, MethodAttributes::Static()));
         }
         return *this;
     }
 
     template <class F, class... D>
     FunctionDescriber& function(char const* name, F callable, ParameterNames<Traits<F>::arity> names,
-                                Defaults<D...> const& defaults)
+                                Defaults<D...> const& defaults, char const* text = "")
     {
-        function(name, callable, names);
+        function(name, callable, names, text);
         for (MemberRecord const& shorter : defaults.template shorten<void, 0>(functions().back(), callable))
             add(shorter);
         return *this;

@@ -3,6 +3,7 @@
 #include "orbis/factory/descriptors/Getter.hpp"
 #include "orbis/factory/descriptors/ReleaseRoutine.hpp"
 #include "orbis/factory/marshaling/PropertyValue.hpp"
+#include "orbis/factory/marshaling/namedResult.hpp"
 #include "orbis/factory/marshaling/ReferredObjects.hpp"
 
 #include <type_traits>
@@ -19,7 +20,11 @@ public:
     COSValue getValue(COSInterface* object) const override
     {
         using Value = std::conditional_t<std::is_reference_v<R>, V const&, V>;
-        return detail::toValue<Value>([&]() -> R { return derived().read(object); });
+        auto const read = [&]() -> R { return derived().read(object); };
+        if constexpr (detail::StoresNamedObject<R>)
+            return COSValue(detail::namedResult<R>(Derived::needsObject ? object : nullptr, read));
+        else
+            return detail::toValue<Value>(read);
     }
 
     char const* dataTypeName() const override { return detail::dataTypeText<V>(); }

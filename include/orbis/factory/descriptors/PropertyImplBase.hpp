@@ -22,6 +22,8 @@ public:
     /// Returns `getDescription()`, which a subclass may override.
     char const* getDetailedDescription() const override;
 
+    void setDescription(String const& description);
+
     /// Always empty.
     COSValue getDefaultValue() const override;
     MemberAccess getMemberGetAccess() const override;

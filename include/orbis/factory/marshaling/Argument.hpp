@@ -6,6 +6,7 @@
 
 #include "orbis/COSValue.hpp"
 
+#include <concepts>
 #include <cstddef>
 #include <type_traits>
 #include <utility>
@@ -35,7 +36,9 @@ public:
     /// a holder, what its `value()` returns.
     decltype(auto) get()
     {
-        if constexpr (!isHolder)
+        if constexpr (std::same_as<PolicyOf<T>, NamedObjectPolicy>)
+            return passObject();
+        else if constexpr (!isHolder)
             return pass(held_);
         else if constexpr (std::is_lvalue_reference_v<decltype(held_.value())>)
             return pass(held_.value());
@@ -57,6 +60,15 @@ private:
             return static_cast<V&&>(value);
         else
             return (value);
+    }
+
+    /// Copies the script's object, unless the parameter is a reference.
+    decltype(auto) passObject()
+    {
+        if constexpr (std::is_lvalue_reference_v<T>)
+            return static_cast<T>(held_.object);
+        else
+            return std::remove_cvref_t<T>(std::as_const(held_.object));
     }
 
     Held held_;

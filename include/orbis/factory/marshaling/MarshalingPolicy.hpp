@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/classes/HostClass.hpp"
+#include "orbis/factory/marshaling/NamedObjectPolicy.hpp"
 #include "orbis/factory/marshaling/PrimitivePolicy.hpp"
 #include "orbis/factory/marshaling/TypedDynamicCastCppManagedPolicy.hpp"
 #include "orbis/factory/marshaling/VelmaraManagedNoInheritancePolicy.hpp"
@@ -65,17 +66,49 @@ struct MarshaledType {
     using Type = T;
 };
 
-template <PublishedClass T>
+template <class T>
+    requires PublishedClass<T> || NamedType<T>
 struct MarshaledType<T*> {
     using Type = T;
 };
 
+/// The policy of a type without references and qualifiers: the selected one, else the one of named classes.
 template <class T>
-concept HasPolicy = requires { typename MarshalingPolicy<typename NativeType<T>::Type>::Type; };
+struct PolicyFor {};
 
-/// References to non-const: outputs, which cannot be marshaled.
 template <class T>
-concept IsOutput = std::is_lvalue_reference_v<T> && !std::is_const_v<std::remove_reference_t<T>>;
+    requires requires { typename MarshalingPolicy<T>::Type; }
+struct PolicyFor<T> {
+    using Type = typename MarshalingPolicy<T>::Type;
+};
+
+template <NamedType T>
+    requires(!requires { typename MarshalingPolicy<T>::Type; })
+struct PolicyFor<T> {
+    using Type = NamedObjectPolicy;
+};
+
+template <NamedType T>
+    requires(!requires { typename MarshalingPolicy<T*>::Type; })
+struct PolicyFor<T*> {
+    using Type = NamedPointerPolicy;
+};
+
+template <class T>
+using PolicyOf = typename PolicyFor<typename NativeType<T>::Type>::Type;
+
+template <class T>
+concept HasPolicy = requires { typename PolicyOf<T>; };
+
+/// Named classes, and references and pointers to them.
+template <class T>
+concept IsNamedObject = HasPolicy<T> && (std::same_as<PolicyOf<T>, NamedObjectPolicy> ||
+                                         std::same_as<PolicyOf<T>, NamedPointerPolicy>);
+
+/// References to non-const, unless to objects that scripts pass: outputs, which cannot be marshaled.
+template <class T>
+concept IsOutput = std::is_lvalue_reference_v<T> && !std::is_const_v<std::remove_reference_t<T>> &&
+                   !NamedType<std::remove_reference_t<T>>;
 
 /// Returns whether values of the type can be marshaled; stops compilation with a sentence otherwise.
 template <class T>
@@ -98,7 +131,7 @@ consteval bool isMarshalable()
 }
 
 template <class T>
-using MarshalerOf = Marshaler<typename MarshalingPolicy<typename NativeType<T>::Type>::Type>;
+using MarshalerOf = Marshaler<PolicyOf<T>>;
 
 template <class T>
 using MarshaledTypeOf = typename MarshaledType<typename NativeType<T>::Type>::Type;

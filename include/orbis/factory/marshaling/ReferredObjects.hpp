@@ -35,7 +35,7 @@ struct ReferredObject {
 };
 
 template <class T>
-    requires PublishedClass<std::remove_const_t<T>>
+    requires PublishedClass<std::remove_const_t<T>> || NamedType<std::remove_const_t<T>>
 struct ReferredObjects<T*> : ReferredObject<T*> {};
 
 } // namespace orbis::factory::detail

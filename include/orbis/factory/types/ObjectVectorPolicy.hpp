@@ -37,7 +37,7 @@ public:
     template <class Vector>
     static void toHost(Vector const& values, hvArray** out)
     {
-        detail::NewArray row(omCreateORBISMatrix(1, values.size(), COSNameID(HostClass<Class<Vector>>::name)));
+        detail::NewArray row(omCreateORBISMatrix(1, values.size(), COSNameID(detail::hostName<Class<Vector>>())));
         try {
             for (std::size_t i = 0; i < values.size(); ++i)
                 setElement(row.get(), i, values[i]);
@@ -70,7 +70,7 @@ public:
     template <class Vector>
     static char const* dataTypeText()
     {
-        static std::string const text = std::string(HostClass<Class<Vector>>::name) + " vector";
+        static std::string const text = std::string(detail::hostName<Class<Vector>>()) + " vector";
         return text.c_str();
     }
 
@@ -103,13 +103,13 @@ private:
         auto element = detail::MarshalerOf<Pointer>::template fromObject<detail::MarshaledTypeOf<Pointer>>(object);
         if (object && !element)
             detail::throwNullInput(
-                in, HostClass<std::remove_const_t<typename std::pointer_traits<Pointer>::element_type>>::name);
+                in, detail::hostName<std::remove_const_t<typename std::pointer_traits<Pointer>::element_type>>());
         return element;
     }
 };
 
 template <class T>
-    requires PublishedClass<std::remove_const_t<T>>
+    requires PublishedClass<std::remove_const_t<T>> || NamedType<std::remove_const_t<T>>
 struct MarshalingPolicy<std::vector<T*>> {
     using Type = ObjectVectorPolicy;
 };
@@ -132,7 +132,7 @@ struct ReferredByElements {
 };
 
 template <class T>
-    requires PublishedClass<std::remove_const_t<T>>
+    requires PublishedClass<std::remove_const_t<T>> || NamedType<std::remove_const_t<T>>
 struct ReferredObjects<std::vector<T*>> : ReferredByElements<std::vector<T*>> {};
 
 } // namespace detail

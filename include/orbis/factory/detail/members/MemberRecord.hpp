@@ -6,12 +6,16 @@
 
 #include <cstddef>
 #include <memory>
-#include <vector>
+#include <span>
 
 namespace orbis::factory {
 
 /// The maximum number of inputs of a signature, without the object.
 inline constexpr std::size_t maximumInputs = 20;
+
+/// Gives the name of a host data type. Called when the member is published: it throws `std::invalid_argument` for a class
+/// that is not published by then.
+using TypeText = char const* (*)();
 
 /// The description of one callable member, from which its descriptor is created; needs no host. All texts are literals.
 struct MemberRecord {
@@ -21,10 +25,11 @@ struct MemberRecord {
     char const* name;           ///< null for a constructor, which is named after its class
     char const* parameterNames; ///< comma-separated, without the object of a member function; null for none
     MethodAttributes attributes;
-    char const* outputType;              ///< "void" for no result
-    std::vector<char const*> inputTypes; ///< without the object of a member function
+    TypeText outputType;                  ///< "void" for no result
+    std::span<TypeText const> inputTypes; ///< without the object of a member function; static
     impl::Invoker::InvokeFn invokeFn;
     impl::Callable target;
+    char const* text = "";
     bool refusesNull = false;              ///< whether an input must be an object
     std::shared_ptr<void const> kept = {}; ///< owns what `target` points to, unless that is a function
 };

@@ -17,6 +17,7 @@ struct PropertyRecord {
     Make make = nullptr;        ///< creates the descriptor, with its own getter and setter
     impl::Callable getter = {}; ///< null for a write-only property
     impl::Callable setter = {}; ///< null for a read-only property
+    char const* text = "";
     bool needsObject = false;   ///< to read, write or release; must be false for a static property
 };
 

@@ -5,6 +5,7 @@
 #include "orbis/factory/detail/bindings/NativeOwnership.hpp"
 #include "orbis/factory/detail/bindings/bindings.hpp"
 #include "orbis/factory/detail/members/CallableTraits.hpp"
+#include "orbis/factory/marshaling/namedResult.hpp"
 #include "orbis/factory/marshaling/Argument.hpp"
 #include "orbis/factory/ownership/CopyableSupport.hpp"
 #include "orbis/factory/types/HvArrayPolicy.hpp"
@@ -37,14 +38,19 @@ void shareGivenArray([[maybe_unused]] COSValue const* outputs, [[maybe_unused]] 
 
 /// Pointers to objects that are bound when they are marshaled.
 template <class T>
-concept HandlePointer = std::is_pointer_v<T> && requires { requires MarshalerOf<T>::isHandle; };
+concept HandlePointer = std::is_pointer_v<T> && !IsNamedObject<T> && requires { requires MarshalerOf<T>::isHandle; };
 
 /// Like `storeResult`, for the result of a member. The host becomes responsible for an object that is returned, so one
-/// that cannot be bound is deleted as its class info would, instead of leaked.
+/// that cannot be bound is deleted as its class info would, instead of leaked. `whole` is the object of the member, null
+/// when there is none.
 template <class Result, class F>
-void storeCallResult(int& outputCount, COSValue* outputs, F&& function)
+void storeCallResult(int& outputCount, COSValue* outputs, COSInterface* whole, F&& function)
 {
-    if constexpr (HandlePointer<Result>) {
+    if constexpr (StoresNamedObject<Result>) {
+        *outputs = COSValue(namedResult<Result>(whole, std::forward<F>(function)));
+        if (outputCount == 0)
+            outputCount = 1;
+    } else if constexpr (HandlePointer<Result>) {
         using Class = std::remove_const_t<std::remove_pointer_t<Result>>;
         Result const object = std::forward<F>(function)();
         try {
@@ -72,8 +78,10 @@ struct FreeFunctionRoutine<Pointer, Result, TypeList<A...>> {
             if constexpr (std::is_pointer_v<std::remove_cvref_t<decltype(arguments.first())>>)
                 impl::validateSelfPointer(arguments.first(), *invoker);
         }
-        storeCallResult<Result>(outputCount, outputs,
-                                [&]() -> Result { return arguments.apply(invoker->target.template as<Pointer>()); });
+        storeCallResult<Result>(outputCount, outputs, wholeOf<Result>(invoker->forcedMember ? inputs : nullptr),
+                                [&]() -> NativeResult<Result> {
+                                    return arguments.apply(invoker->target.template as<Pointer>());
+                                });
         shareGivenArray<Result>(outputs, inputs, inputCount, invoker->target.template as<Pointer>());
     }
 };
@@ -90,8 +98,8 @@ struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
         ArgumentsOf<A...> arguments(inputs + 1);
         if (!self) [[unlikely]]
             impl::validateSelfPointer(self);
-        storeCallResult<Result>(outputCount, outputs, [&]() -> Result {
-            return arguments.apply([&](auto&&... values) -> Result {
+        storeCallResult<Result>(outputCount, outputs, wholeOf<Result>(inputs), [&]() -> NativeResult<Result> {
+            return arguments.apply([&](auto&&... values) -> NativeResult<Result> {
                 auto const target = invoker->target.template as<Pointer>();
                 if constexpr (std::is_member_function_pointer_v<Pointer>)
                     return (self->*target)(static_cast<decltype(values)>(values)...);
@@ -129,13 +137,12 @@ struct ConstructorRoutine<T, TypeList<A...>, Completion> {
                        COSValue const* inputs)
     {
         hvArray* const constructed = outputs[0].array();
-        COSNameID const className(HostClass<T>::name);
+        COSNameID const className(hostName<T>());
         COSInterfacePtr const held = cosiGetArrayElement(constructed, 0);
         COSInterface* const host = held;
-        T* const existing = MarshalerOf<T*>::template fromBound<T>(host->getNativeObject(className));
         ArgumentsOf<A...> arguments(inputs);
         auto const completion = invoker->target.template as<Completion>();
-        if (existing) {
+        if (T* const existing = findExisting(host, className)) {
             assign(*existing, arguments, completion);
             bind(host, className, existing);
         } else {
@@ -149,6 +156,15 @@ struct ConstructorRoutine<T, TypeList<A...>, Completion> {
     }
 
 private:
+    /// The class infos of named classes create no native object.
+    static T* findExisting([[maybe_unused]] COSInterface* host, [[maybe_unused]] COSNameID const& className)
+    {
+        if constexpr (NamedType<T>)
+            return nullptr;
+        else
+            return MarshalerOf<T*>::template fromBound<T>(host->getNativeObject(className));
+    }
+
     static void bind(COSInterface* host, COSNameID const& className, T* object)
     {
         using Bound = MarshalerOf<T*>;
@@ -164,12 +180,12 @@ private:
     static void assign([[maybe_unused]] T& existing, [[maybe_unused]] ArgumentsOf<A...>& arguments,
                        [[maybe_unused]] Completion completion)
     {
-        if constexpr (sizeof...(A) > 0 || Completion::hasValues) {
+        if constexpr (!NamedType<T> && (sizeof...(A) > 0 || Completion::hasValues)) {
             if constexpr (std::is_move_assignable_v<T>)
                 existing = arguments.apply(
                     completion.complete([](auto&&... values) { return T(static_cast<decltype(values)>(values)...); }));
             else
-                throwNotAssignable(HostClass<T>::name);
+                throwNotAssignable(hostName<T>());
         }
     }
 };

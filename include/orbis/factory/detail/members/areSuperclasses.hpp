@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/classes/HostClass.hpp"
+#include "orbis/factory/detail/objects/NamedClass.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
 #include <concepts>
@@ -19,9 +20,15 @@ consteval bool isSuperclass()
 {
     static_assert(std::derived_from<T, B> && !std::is_same_v<B, T>,
                   "The superclass is no public base class of the class: inherits<...>() names such ones.");
-    static_assert(PublishedClass<B>, "The superclass has no host name: specialise orbis::factory::HostClass for it, "
-                                     "beside the class.");
-    if constexpr (PublishedClass<B> && std::derived_from<T, B> && !std::is_same_v<B, T>) {
+    constexpr bool areNamedAlike = PublishedClass<T> ? PublishedClass<B> : NamedType<B>;
+    static_assert(areNamedAlike || !PublishedClass<T>,
+                  "The superclass has no host name: specialise orbis::factory::HostClass for it, beside the class.");
+    static_assert(areNamedAlike || PublishedClass<T>,
+                  "The superclass has a HostClass and the class has none: publish both with Module::publish, or both "
+                  "with a HostClass and a class info.");
+    if constexpr (NamedType<T> && NamedType<B>)
+        return std::derived_from<T, B> && !std::is_same_v<B, T>;
+    else if constexpr (PublishedClass<B> && std::derived_from<T, B> && !std::is_same_v<B, T>) {
         constexpr bool areValues = ValueClass<T> || ValueClass<B>;
         static_assert(!areValues, "Value classes have no superclasses: publish classes with superclasses as handles.");
         constexpr bool areBoundAlike =

@@ -73,7 +73,7 @@ inline MemberRecord defaultedOverload(MemberRecord const& full, std::size_t omit
                                       impl::Callable target, std::shared_ptr<void const> kept)
 {
     MemberRecord overload = full;
-    overload.inputTypes.resize(full.inputTypes.size() - omitted);
+    overload.inputTypes = full.inputTypes.first(full.inputTypes.size() - omitted);
     overload.invokeFn = routine;
     overload.target = target;
     overload.kept = std::move(kept);

@@ -54,7 +54,8 @@ template <class T>
 struct DescribedSetter<T, NoAccess> : DescribedGetter<T, NoAccess> {};
 
 template <class T, class G, class S>
-PropertyRecord propertyRecord(char const* name, G const& getter, S const& setter, PropertyAttributes attributes)
+PropertyRecord propertyRecord(char const* name, G const& getter, S const& setter, char const* text,
+                              PropertyAttributes attributes)
 {
     using Reading = DescribedGetter<T, G>;
     using Writing = DescribedSetter<T, S>;
@@ -68,6 +69,7 @@ PropertyRecord propertyRecord(char const* name, G const& getter, S const& setter
     };
     record.getter = Reading::keep(getter);
     record.setter = Writing::keep(setter);
+    record.text = text;
     record.needsObject = Reading::needsObject || Writing::needsObject;
     return record;
 }

@@ -3,6 +3,7 @@
 #include "orbis/factory/detail/members/MemberRecord.hpp"
 #include "orbis/factory/detail/members/Routines.hpp"
 
+#include <array>
 #include <type_traits>
 
 namespace orbis::factory::detail {
@@ -17,13 +18,16 @@ consteval bool signatureCanCross(TypeList<A...>)
     if constexpr (std::is_void_v<Result>)
         return parameters && sizeof...(A) <= maximumInputs;
     else
-        return isMarshalable<std::remove_cvref_t<Result>>() && parameters && sizeof...(A) <= maximumInputs;
+        return isMarshalable<std::remove_cvref_t<NativeResult<Result>>>() && parameters && sizeof...(A) <= maximumInputs;
 }
 
 template <class... A>
-std::vector<char const*> inputTypes(TypeList<A...>)
+inline constexpr std::array<TypeText, sizeof...(A)> typeTexts{&dataTypeText<A>...};
+
+template <class... A>
+std::span<TypeText const> inputTypes(TypeList<A...>)
 {
-    return {dataTypeText<A>()...};
+    return typeTexts<A...>;
 }
 
 template <class... A>
@@ -33,44 +37,50 @@ consteval bool refusesNullAmong(TypeList<A...>)
 }
 
 template <class Pointer, class Result, class Parameters>
-MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, MethodAttributes attributes)
+MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, char const* text,
+                              MethodAttributes attributes)
 {
     return {.kind = MemberRecord::Kind::FreeFunction,
             .name = name,
             .parameterNames = names,
             .attributes = attributes,
-            .outputType = dataTypeText<Result>(),
+            .outputType = &dataTypeText<NativeResult<Result>>,
             .inputTypes = inputTypes(Parameters{}),
             .invokeFn = &FreeFunctionRoutine<Pointer, Result, Parameters>::invoke,
             .target = function,
+            .text = text,
             .refusesNull = refusesNullAmong(Parameters{})};
 }
 
 template <class T, class Pointer, class Result, class Parameters>
-MemberRecord memberFunctionRecord(char const* name, Pointer function, char const* names, MethodAttributes attributes)
+MemberRecord memberFunctionRecord(char const* name, Pointer function, char const* names, char const* text,
+                              MethodAttributes attributes)
 {
     return {.kind = MemberRecord::Kind::MemberFunction,
             .name = name,
             .parameterNames = names,
             .attributes = attributes,
-            .outputType = dataTypeText<Result>(),
+            .outputType = &dataTypeText<NativeResult<Result>>,
             .inputTypes = inputTypes(Parameters{}),
             .invokeFn = &MemberFunctionRoutine<T, Pointer, Result, Parameters>::invoke,
             .target = function,
+            .text = text,
             .refusesNull = refusesNullAmong(Parameters{})};
 }
 
 template <class T, class... A>
-MemberRecord constructorRecord(char const* names, MethodAttributes attributes)
+MemberRecord constructorRecord(char const* names, char const* text,
+                              MethodAttributes attributes)
 {
     return {.kind = MemberRecord::Kind::Constructor,
             .name = nullptr,
             .parameterNames = names,
             .attributes = attributes,
-            .outputType = HostClass<T>::name,
+            .outputType = &dataTypeText<T*>,
             .inputTypes = inputTypes(TypeList<A...>{}),
             .invokeFn = &ConstructorRoutine<T, TypeList<A...>>::invoke,
             .target = {},
+            .text = text,
             .refusesNull = refusesNullAmong(TypeList<A...>{})};
 }
 

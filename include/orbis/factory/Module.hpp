@@ -1,0 +1,96 @@
+#pragma once
+
+#include "orbis/factory/base/export.hpp"
+#include "orbis/factory/describe.hpp"
+#include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/detail/objects/ClassNames.hpp"
+
+#include "orbis/COSPackage.hpp"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace orbis::factory {
+
+/// Who destroys the native objects that scripts construct.
+enum class Owner {
+    Host,  ///< their host objects
+    Native ///< native code
+};
+
+/// Publishes the contents of one package. A module gets it in the function that fills its package:
+///
+///     void publishModule(orbis::factory::Module& calc)
+///     {
+///         calc.publish<Adder>("Adder", "Adds numbers and keeps their total")
+///             .constructor<double>("start")
+///             .method("getSum", &Adder::getSum, "a, b", "The sum of both; it counts in the total")
+///             .property("total", &Adder::total, "Of all sums so far");
+///     }
+///
+/// Threading: on the thread of the virtual machine.
+class ORBIS_FACTORY_API Module {
+public:
+    /// `package` is the current virtual machine's, and outlives this; `fullName` is its dotted name.
+    Module(COSPackage& package, std::string fullName);
+    Module(Module const&) = delete;
+    Module& operator=(Module const&) = delete;
+    ~Module();
+
+    COSPackage& package() { return package_; }
+    std::string const& fullName() const { return fullName_; }
+
+    /// Publishes the class `T` under a name without dots, with a text for users. The result takes its members, one line
+    /// each, until the package is complete; see `ClassDescriber`. Without a constructor, scripts cannot create objects.
+    ///
+    /// Throws an `Exception` if the class has another name already.
+    template <class T>
+    ClassDescriber<T>& publish(char const* name, char const* text = "", Owner owner = Owner::Host)
+    {
+        static_assert(!PublishedClass<T>, "The class has a HostClass, which names it: publish it with a class info, or "
+                                          "remove its HostClass.");
+        setName(detail::namedClassOf<T>(), detail::classNames(), name, owner);
+        auto description = std::make_unique<ClassDescriber<T>>();
+        ClassDescriber<T>& result = *description;
+        addClass(detail::namedClassOf<T>(), std::move(description), text);
+        return result;
+    }
+
+    /// Publishes a free function, static member function or captureless lambda; the arguments are those of
+    /// `FunctionDescriber::function`. Returns this.
+    template <class F>
+    Module& function(char const* name, F callable, ParameterNames<detail::CallableTraits<F>::arity> names = {},
+                     char const* text = "")
+    {
+        functions_.function(name, callable, names, text);
+        return *this;
+    }
+
+    template <class F, class... D>
+    Module& function(char const* name, F callable, ParameterNames<detail::CallableTraits<F>::arity> names,
+                     Defaults<D...> const& defaults, char const* text = "")
+    {
+        functions_.function(name, callable, names, defaults, text);
+        return *this;
+    }
+
+    /// Publishes the functions. Called when the package is complete, because their types may be published later.
+    void complete();
+
+private:
+    void setName(detail::NamedClass& named, detail::ClassNames& names, char const* name, Owner owner);
+    void addClass(detail::NamedClass const& named, std::unique_ptr<ClassDescription> description, char const* text);
+
+    COSPackage& package_;
+    std::string fullName_;
+    FunctionDescriber functions_;
+};
+
+/// Publishes a package that `fill` fills, as `registerOrbisPackage` does; for programs that publish classes themselves.
+ORBIS_FACTORY_API COSPackage* registerModule(std::string const& fullName, std::function<void(Module&)> fill);
+
+} // namespace orbis::factory
+
+/// Defined by a module that is built with `orbis_factory_add_module`: fills its package.
+void publishModule(orbis::factory::Module& module);

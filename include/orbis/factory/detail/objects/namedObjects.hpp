@@ -1,0 +1,51 @@
+#pragma once
+
+#include "orbis/factory/detail/objects/NamedClass.hpp"
+
+#include "libhv/hvArray.hpp"
+#include "orbis/COSInterface.hpp"
+
+#include <memory>
+
+/// Objects of named classes, which cross without their types.
+namespace orbis::factory {
+
+/// Who destroys a native object that reaches the host as a result.
+enum class ResultOwner {
+    Host,   ///< the host object owns it, and destroys it
+    Native, ///< native code, which keeps it as long as scripts can use it
+    Whole   ///< it is a part of the object that the member was called on, which is kept alive as long as the part's host
+            ///< object; that becomes invalid with it
+};
+
+namespace detail {
+
+/// Returns the native object of the array's first element or of a host object; null when there is none, or one of
+/// another class.
+ORBIS_FACTORY_API void* nativeOf(NamedClass const& named, hvArray_tag const* in);
+ORBIS_FACTORY_API void* nativeOf(NamedClass const& named, COSInterface const* object);
+
+/// The same, but throws the `null_input` error instead of returning null.
+ORBIS_FACTORY_API void* requireNativeOf(NamedClass const& named, hvArray_tag const* in);
+
+/// Returns a new 1-by-1 array, owned by the caller, with the host object of `object`; 0-by-0 for null. If there is
+/// none, one of the most derived published class is created, and owns the native object as `owner` says; with `Host`,
+/// one is created in any case, and the caller has transferred the native object when this returns. `whole` is used
+/// with `Whole` only. Throws when the class is not published; then nothing has changed.
+ORBIS_FACTORY_API hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOwner owner,
+                                             COSInterface* whole);
+
+/// The same for an object in which the host object gets a share.
+ORBIS_FACTORY_API hvArray_tag* announceShared(NamedClass const& named, void const* object,
+                                              std::shared_ptr<void> share);
+
+/// Returns a share in the native object of the array's first element, which from then on is destroyed with its last
+/// share; empty when there is no such object. Throws an `Exception` when its host object does not own it.
+ORBIS_FACTORY_API std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in);
+
+/// Returns the native object of the array's first element and transfers it to the caller: its host object becomes
+/// invalid. Null when there is no such object. Throws an `Exception` when its host object does not own it alone.
+ORBIS_FACTORY_API void* takeNamed(NamedClass const& named, hvArray_tag const* in);
+
+} // namespace detail
+} // namespace orbis::factory

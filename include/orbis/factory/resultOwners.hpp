@@ -1,0 +1,59 @@
+#pragma once
+
+#include "orbis/factory/detail/members/CallableTraits.hpp"
+#include "orbis/factory/marshaling/namedResult.hpp"
+
+#include <type_traits>
+
+namespace orbis::factory {
+
+namespace detail {
+
+/// A callable of whose result the author says who owns it.
+template <class F, ResultOwner Owner>
+struct ResultOwnerOf {
+    F function;
+
+    template <class Pointer>
+        requires std::is_convertible_v<F, Pointer>
+    operator Pointer() const
+    {
+        return function;
+    }
+};
+
+template <class F, ResultOwner Owner>
+struct CallableTraits<ResultOwnerOf<F, Owner>> : CallableTraits<F> {
+    using Result = OwnedResult<typename CallableTraits<F>::Result, Owner>;
+};
+
+} // namespace detail
+
+/// Says who owns the object that a function returns as a pointer or a reference. Without one of these, it is `inside`
+/// the object that the member was called on, or `borrowed` when there is none; a result by value or in a
+/// `std::unique_ptr` is `owned`.
+///
+///     .method("clone", owned(&Shape::clone))
+///
+/// `owned`: the host object, which deletes it. `borrowed`: native code, as long as scripts can use it. `inside`: the
+/// object that the member was called on, which is kept alive; when it is destroyed, the result's host object becomes
+/// invalid.
+template <class F>
+constexpr auto owned(F function)
+{
+    return detail::ResultOwnerOf<std::decay_t<F>, ResultOwner::Host>{function};
+}
+
+template <class F>
+constexpr auto borrowed(F function)
+{
+    return detail::ResultOwnerOf<std::decay_t<F>, ResultOwner::Native>{function};
+}
+
+template <class F>
+constexpr auto inside(F function)
+{
+    return detail::ResultOwnerOf<std::decay_t<F>, ResultOwner::Whole>{function};
+}
+
+} // namespace orbis::factory

@@ -1,0 +1,100 @@
+#include "orbis/factory/Module.hpp"
+
+#include "orbis/factory/base/Exception.hpp"
+#include "orbis/factory/registerOrbisPackage.hpp"
+
+#include "module/NamedClassInfo.hpp"
+#include "module/cppName.hpp"
+
+#include <mutex>
+#include <utility>
+
+namespace orbis::factory {
+
+namespace {
+
+/// Virtual machines on several threads may publish a class at the same time.
+std::mutex& namingMutex()
+{
+    static std::mutex mutex;
+    return mutex;
+}
+
+detail::NamedClass const& rootOf(detail::NamedClass const& named)
+{
+    return named.base ? rootOf(*named.base) : named;
+}
+
+} // namespace
+
+struct detail::ClassNames::Name {
+    std::string text;
+    Name* next;
+};
+
+detail::ClassNames::~ClassNames()
+{
+    while (first_)
+        delete std::exchange(first_, first_->next);
+}
+
+char const* detail::ClassNames::add(std::string name)
+{
+    first_ = new Name{std::move(name), first_};
+    return first_->text.c_str();
+}
+
+Module::Module(COSPackage& package, std::string fullName) : package_(package), fullName_(std::move(fullName)) {}
+
+Module::~Module() = default;
+
+void Module::setName(detail::NamedClass& named, detail::ClassNames& names, char const* name, Owner owner)
+{
+    std::string fullName = fullName_ + '.' + name;
+    std::lock_guard const lock(namingMutex());
+    if (char const* const given = named.name.load()) {
+        if (fullName != given || named.isOwnedByHost != (owner == Owner::Host))
+            throw Exception("The native class " + cppName(*named.type) + " cannot be published as \"" + fullName +
+                            "\": it is \"" + given + "\" in this program, with the owner that it was given there.");
+        return;
+    }
+    char const* const kept = names.add(std::move(fullName));
+    named.isOwnedByHost = owner == Owner::Host;
+    named.name.store(kept, std::memory_order_release);
+}
+
+void Module::addClass(detail::NamedClass const& named, std::unique_ptr<ClassDescription> description, char const* text)
+{
+    package_.addClass(new NamedClassInfo(named, std::move(description), text));
+}
+
+void Module::complete()
+{
+    factory::publish(&package_, functions_);
+}
+
+void detail::setBase(NamedClass& named, NamedClass& base, void* (*toBase)(void*), void* (*fromBase)(void*))
+{
+    std::lock_guard const lock(namingMutex());
+    base.isBase = true;
+    if (!named.toBase) {
+        named.toBase = toBase;
+        named.fromBase = fromBase;
+        named.base = &base;
+    }
+    bool const isBoundAlike = base.toBase && !base.base ? named.toBase && !named.base : &rootOf(named) == &rootOf(base);
+    if (!isBoundAlike || (named.base != &base && named.base && !rootOf(named).dynamicType))
+        throw Exception("The class " + cppName(*named.type) + " cannot have the superclass " + cppName(*base.type) +
+                        ": its objects are found through the first superclass, which has another base.");
+}
+
+COSPackage* registerModule(std::string const& fullName, std::function<void(Module&)> fill)
+{
+    return registerOrbisPackage(fullName, [fullName, fill = std::move(fill)](COSPackage* package) {
+        Module module(*package, fullName);
+        fill(module);
+        module.complete();
+    });
+}
+
+} // namespace orbis::factory

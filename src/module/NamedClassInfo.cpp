@@ -1,0 +1,63 @@
+#include "module/NamedClassInfo.hpp"
+
+#include "orbis/factory/detail/bindings/bindings.hpp"
+#include "orbis/factory/detail/bindings/hostShares.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace orbis::factory {
+
+NamedClassInfo::NamedClassInfo(detail::NamedClass const& named, std::unique_ptr<ClassDescription> description,
+                               char const* text)
+    : OrbisFactoryClassInfo(detail::className(named), text),
+      named_(named),
+      description_(std::move(description))
+{
+}
+
+void NamedClassInfo::initializeClass(COSClass* cls)
+{
+    factory::publish(cls, *description_);
+}
+
+void* NamedClassInfo::createInstanceData()
+{
+    return nullptr;
+}
+
+bool NamedClassInfo::destroyInstanceData(COSInterface* object, void* data)
+{
+    void* const forgotten = detail::forgetBinding(object, data);
+    bool const isOthers = detail::dropShare(object);
+    if (forgotten && !isOthers)
+        discardNative(forgotten);
+    return forgotten != nullptr;
+}
+
+bool NamedClassInfo::isHandle() const
+{
+    return true;
+}
+
+ClassAccess NamedClassInfo::getAccess() const
+{
+    bool const isConstructible = std::ranges::any_of(description_->members(), [](MemberRecord const& member) {
+        return member.kind == MemberRecord::Kind::Constructor;
+    });
+    return isConstructible ? ClassAccess::Public : ClassAccess::Private;
+}
+
+char const* NamedClassInfo::nativeOwner() const
+{
+    return named_.isOwnedByHost ? "host" : "native";
+}
+
+void NamedClassInfo::discardNative(void* native) noexcept
+{
+    void* const object = named_.isOwnedByHost && named_.destroy ? detail::fromBound(named_, native) : nullptr;
+    if (object)
+        named_.destroy(object);
+}
+
+} // namespace orbis::factory

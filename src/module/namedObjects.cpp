@@ -1,0 +1,239 @@
+#include "orbis/factory/detail/objects/namedObjects.hpp"
+
+#include "orbis/factory/base/Exception.hpp"
+#include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/detail/arrays/throwNullInput.hpp"
+#include "orbis/factory/detail/bindings/bindings.hpp"
+#include "orbis/factory/detail/objects/ObjectPointerMarshaler.hpp"
+#include "orbis/factory/ownership/FooRegistry.hpp"
+
+#include "basic/HostDependents.hpp"
+#include "module/PublishedClasses.hpp"
+#include "module/cppName.hpp"
+
+#include "orbis/COSClass.hpp"
+
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+namespace orbis::factory::detail {
+
+namespace {
+
+using basic::HostShares;
+using basic::PartOf;
+
+HostShares& shares()
+{
+    return basic::registry().requireDependents().shares;
+}
+
+char const* mostDerivedName(NamedClass const& named, void const* object, void* bound)
+{
+    std::type_info const& type = named.dynamicType ? named.dynamicType(object) : *named.type;
+    if (type == *named.type)
+        return className(named);
+    return PublishedClasses::ofCurrentHvm().mostDerived(bound, type, {className(named), named.type, named.isInstance});
+}
+
+/// Returns the host object that represents the object of this class at the address, or null. An object and its first
+/// member have one address, which is bound as one of them only: the member is then found among the parts.
+COSInterface* findHost(void const* bound, char const* className, COSInterface const* whole)
+{
+    COSInterface* const host = basic::BindingRegistry::find(bound);
+    COSNameID const name(className);
+    if (!host || host->getNativeObject(name))
+        return host;
+    auto const& dependents = basic::registry().dependents;
+    return dependents ? dependents->shares.findPart(whole, name, bound) : nullptr;
+}
+
+COSInterfacePtr newHost(COSNameID const& className)
+{
+    COSClass* const cls = COSClass::getClass(className);
+    if (!cls)
+        throw Exception("The class \"" + std::string(static_cast<COSString>(className).c_str()) +
+                        "\" is not published in this virtual machine.");
+    COSInterfacePtr host = cls->newInstance();
+    cls->initializeInstance(host);
+    return host;
+}
+
+/// Creates the host object of `bound`. With a share it does not own the native object alone.
+hvArray_tag* createHost(void* bound, char const* className, bool isNewObject, HostShares::Share const* share)
+{
+    COSNameID const name(className);
+    COSInterfacePtr host = newHost(name);
+    NewArray array(omCreateORBISScalar(host));
+    if (share)
+        shares().give(host, *share); // first: from now on nothing deletes the native object with it
+    if (isNewObject) {
+        bindConstructed(host, name, bound);
+    } else {
+        host->setNativeObject(name, bound);
+        if (!basic::BindingRegistry::contains(bound))
+            basic::registry().bind(bound, host, name);
+    }
+    return array.release();
+}
+
+COSInterfacePtr firstOf(hvArray_tag const* in)
+{
+    return in && in->get_number_of_elements() != 0 ? omGetArrayElement(in, 0) : COSInterfacePtr();
+}
+
+[[noreturn]] void refuse(NamedClass const& named, char const* refused, char const* reason)
+{
+    throw Exception(std::string("The object of class \"") + className(named) + "\" cannot be " + refused + ": " +
+                    reason + '.');
+}
+
+/// Returns the share of the host object, after checking that it owns its native object, alone or with others, and that
+/// the object can be destroyed as one of this class.
+HostShares::Share const* requireOwner(NamedClass const& named, COSInterface const* host, char const* refused)
+{
+    auto const& dependents = basic::registry().dependents;
+    HostShares::Share const* const share = dependents ? dependents->shares.find(host) : nullptr;
+    bool const isShared = share && std::holds_alternative<std::shared_ptr<void>>(*share);
+    if (!isShared && (share || !named.isOwnedByHost))
+        refuse(named, refused, "its host object does not own it");
+    if (!isShared && named.isBase && !named.hasVirtualDestructor)
+        refuse(named, refused, "it may be of a subclass, and the class has no virtual destructor");
+    return share;
+}
+
+/// The deleter of an object that gets shared. It does nothing until the object belongs to it: making the shared pointer
+/// may fail.
+struct Destroyer {
+    void (*destroy)(void*) = nullptr;
+
+    void operator()(void* object) const
+    {
+        if (destroy)
+            destroy(object);
+    }
+};
+
+/// Transfers the object to its shared pointer, which was made with a `Destroyer`.
+void transfer(NamedClass const& named, std::shared_ptr<void> const& shared)
+{
+    std::get_deleter<Destroyer>(shared)->destroy = named.destroy;
+}
+
+} // namespace
+
+char const* className(NamedClass const& named)
+{
+    char const* const name = named.name.load(std::memory_order_acquire);
+    if (!name)
+        throw std::invalid_argument("the class " + cppName(*named.type) +
+                                    " is not published: publish it in the same module");
+    return name;
+}
+
+void* toBound(NamedClass const& named, void* object)
+{
+    NamedClass const* from = &named;
+    while (object && from && from->toBase) {
+        object = from->toBase(object);
+        from = from->base;
+    }
+    return object;
+}
+
+void* fromBound(NamedClass const& named, void* bound)
+{
+    if (!bound || !named.fromBase)
+        return bound;
+    void* const base = named.base ? fromBound(*named.base, bound) : bound;
+    return base ? named.fromBase(base) : nullptr;
+}
+
+void* nativeOf(NamedClass const& named, hvArray_tag const* in)
+{
+    return fromBound(named, nativeObject(in, className(named)));
+}
+
+void* nativeOf(NamedClass const& named, COSInterface const* object)
+{
+    return fromBound(named, nativeObject(object, className(named)));
+}
+
+void* requireNativeOf(NamedClass const& named, hvArray_tag const* in)
+{
+    void* const object = nativeOf(named, in);
+    if (!object)
+        throwNullInput(in, className(named));
+    return object;
+}
+
+hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOwner owner, COSInterface* whole)
+{
+    if (!object)
+        return omCreateORBISMatrix(0, 0, COSNameID(className(named)));
+    void* const bound = toBound(named, const_cast<void*>(object));
+    if (owner != ResultOwner::Host)
+        if (COSInterface* const host = findHost(bound, className(named), whole))
+            return omCreateORBISScalar(host);
+    char const* const name = mostDerivedName(named, object, bound);
+    if (owner == ResultOwner::Whole && whole) {
+        HostShares::Share const part = PartOf{COSInterfacePtr(whole)};
+        return createHost(bound, name, false, &part);
+    }
+    if (owner != ResultOwner::Host) {
+        HostShares::Share const others;
+        return createHost(bound, name, false, named.isOwnedByHost ? &others : nullptr);
+    }
+    if (named.isOwnedByHost)
+        return createHost(bound, name, true, nullptr);
+    // The class info leaves native objects alone, so a share destroys this one.
+    std::shared_ptr<void> const owned(const_cast<void*>(object), Destroyer());
+    HostShares::Share const share = owned;
+    hvArray_tag* const array = createHost(bound, name, true, &share);
+    transfer(named, owned);
+    return array;
+}
+
+hvArray_tag* announceShared(NamedClass const& named, void const* object, std::shared_ptr<void> share)
+{
+    if (!object)
+        return omCreateORBISMatrix(0, 0, COSNameID(className(named)));
+    void* const bound = toBound(named, const_cast<void*>(object));
+    HostShares::Share const held = std::move(share);
+    if (COSInterface* const host = findHost(bound, className(named), nullptr)) {
+        HostShares::Share const* const known = shares().find(host);
+        if (known && !std::holds_alternative<std::shared_ptr<void>>(*known))
+            shares().give(host, held); // was borrowed, or a part
+        return omCreateORBISScalar(host);
+    }
+    return createHost(bound, mostDerivedName(named, object, bound), false, &held);
+}
+
+std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in)
+{
+    COSInterfacePtr const host = firstOf(in);
+    void* const object = nativeOf(named, static_cast<COSInterface const*>(host));
+    if (!object)
+        return nullptr;
+    if (HostShares::Share const* const share = requireOwner(named, host, "shared"))
+        return std::get<std::shared_ptr<void>>(*share);
+    std::shared_ptr<void> shared(object, Destroyer());
+    shares().give(host, shared);
+    transfer(named, shared);
+    return shared;
+}
+
+void* takeNamed(NamedClass const& named, hvArray_tag const* in)
+{
+    COSInterfacePtr host = firstOf(in);
+    void* const object = nativeOf(named, static_cast<COSInterface const*>(host));
+    if (!object)
+        return nullptr;
+    if (requireOwner(named, host, "taken"))
+        refuse(named, "taken", "it is shared");
+    host->setValid(false);
+    return object;
+}
+
+} // namespace orbis::factory::detail
