@@ -5,6 +5,7 @@
 #include "orbis/factory/descriptors/OrbisConstructor.hpp"
 #include "orbis/factory/types/initStringDataTypes.hpp"
 
+#include "module/DocumentedMember.hpp"
 #include "module/PublishedClasses.hpp"
 #include "module/makeDescriptor.hpp"
 #include "module/notPublished.hpp"
@@ -27,8 +28,7 @@ template <std::size_t... I>
 void createSignature(MemberRecord const& record, char const* selfType, COSMethodSignaturePtr& signature,
                      std::index_sequence<I...>)
 {
-    impl::Invoker::createSignature(record.parameterNames, record.outputType(), selfType,
-                                   record.inputTypes[I]()...,
+    impl::Invoker::createSignature(record.parameterNames, record.outputType(), selfType, record.inputTypes[I]()...,
                                    signature);
 }
 
@@ -77,8 +77,10 @@ template <class Descriptor>
 void add(COSClass* cls, char const* name, MemberRecord const& record, char const* hostName)
 {
     publishing(hostName, name, [&] {
-        auto descriptor = makeDescriptor<Descriptor>(record, name, attributesOf(record), record.text);
-        bind(*descriptor, record, hostName);
+        DocumentedMember const member(record);
+        auto descriptor =
+            makeDescriptor<Descriptor>(member.record(), name, attributesOf(record), member.text().c_str());
+        bind(*descriptor, member.record(), hostName);
         cls->addMethod(descriptor.release());
     });
 }
@@ -95,9 +97,9 @@ std::unique_ptr<impl::PropertyImpl> makeProperty(PropertyRecord const& record)
 /// A function with a text.
 class DescribedFunction : public FunctionInfo {
 public:
-    DescribedFunction(char const* name, MethodAttributes attributes, char const* text)
+    DescribedFunction(char const* name, MethodAttributes attributes, std::string text)
         : FunctionInfo(name, attributes),
-          text_(text)
+          text_(std::move(text))
     {
     }
 
@@ -141,8 +143,10 @@ void publish(COSPackage* package, FunctionDescription const& description)
     detail::initStringDataTypes();
     for (MemberRecord const& record : description.functions()) {
         publishing(nullptr, record.name, [&] {
-            auto function = makeDescriptor<DescribedFunction>(record, record.name, attributesOf(record), record.text);
-            bind(function->method(), record, nullptr);
+            DocumentedMember const member(record);
+            auto function =
+                makeDescriptor<DescribedFunction>(member.record(), record.name, attributesOf(record), member.text());
+            bind(function->method(), member.record(), nullptr);
             package->addFunction(function.release());
         });
     }

@@ -1,9 +1,10 @@
 // expect LAMBDA: A package function is a free function, a static member function or a lambda that captures nothing
 // expect OPTIONAL: There is no marshaling policy for this native type
 // expect OUTPUT: A parameter that is a reference to a non-const value cannot cross
-// expect CLASS: The class that this pointer points to is not published: specialise orbis::factory::HostClass for it
+// expect CLASS: This class is only declared here: include the header that defines it.
 // expect ENUM: enumeration is not published: specialise orbis::factory::HostEnumeration for it, beside the enumeration.
 // expect NAMES: More parameter names are listed than the function has parameters: remove the extra names.
+// expect TEXT: The parentheses of a parameter's text do not match
 // expect DEFAULT: A default value does not convert to the type of its parameter
 // expect FRACTION: A default value for an integer parameter is a floating-point number: write an integer.
 #include "Published.hpp"
@@ -15,10 +16,10 @@
 using orbis::factory::withDefaults;
 
 struct Published {};
-struct Unknown {};
+struct Unknown;
 enum class Color { Red, Green };
 
-void move(std::optional<OPTIONAL(double, Unknown)> distance);
+void move(std::optional<OPTIONAL(double, std::initializer_list<int>)> distance);
 void fill(OUTPUT(int const&, int&));
 void use(CLASS(Published, Unknown) *);
 void paint(ENUM(int, Color));
@@ -34,6 +35,7 @@ void describeAll()
         .function("use", &use)
         .function("paint", &paint)
         .function("power", &power, NAMES("a, b", "a, b, c"))
+        .function("raised", &power, TEXT("a (one, two), b", "a (one, b"))
         .function("squared", &power, "base, exponent", withDefaults(DEFAULT(2, "two")))
         .function("squaredToo", &power, "base, exponent", withDefaults(FRACTION(2, 2.5)));
 }

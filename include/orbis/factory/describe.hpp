@@ -2,6 +2,7 @@
 
 #include "orbis/factory/ClassDescription.hpp"
 #include "orbis/factory/ParameterNames.hpp"
+#include "orbis/factory/descriptors/MemberText.hpp"
 #include "orbis/factory/descriptors/releasedBy.hpp"
 #include "orbis/factory/detail/members/areSuperclasses.hpp"
 #include "orbis/factory/detail/members/makePropertyRecord.hpp"
@@ -49,32 +50,26 @@ public:
 
     /// Adds a constructor that takes values of the types `A`.
     template <class... A>
-    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, char const* text = "",
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText text = {},
                                 MethodAttributes attributes = {})
     {
         constexpr bool exists = std::is_constructible_v<T, A...>;
         static_assert(exists, "The class has no public constructor that takes these parameter types: name the types "
                               "of an existing one in constructor<...>().");
         if constexpr (exists && detail::signatureCanCross<void>(detail::TypeList<A...>{}))
-            add(detail::constructorRecord<T, A...>(names.text(), text, attributes));
+            add(detail::constructorRecord<T, A...>(names.text(), text + attributes));
         return *this;
-    }
-
-    template <class... A>
-    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, MethodAttributes attributes)
-    {
-        return constructor<A...>(names, "", attributes);
     }
 
     template <class... A>
     ClassDescriber& constructor(MethodAttributes attributes)
     {
-        return constructor<A...>({}, "", attributes);
+        return constructor<A...>({}, attributes);
     }
 
     template <class... A, class... D>
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults,
-                                char const* text = "", MethodAttributes attributes = {})
+                                MethodText text = {}, MethodAttributes attributes = {})
     {
         constructor<A...>(names, text, attributes);
         return addAll(defaults.template shortenConstructor<T, A...>(members().back()));
@@ -84,38 +79,32 @@ public:
     /// a `T*` first. The latter becomes a forced member, which throws when it is called without an object; its
     /// parameter names begin with the object's.
     template <class F>
-    ClassDescriber& method(char const* name, F function, Names<F> names = {}, char const* text = "",
-                       MethodAttributes attributes = {})
+    ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodText text = {},
+                           MethodAttributes attributes = {})
     {
         using detail::CallableKind;
         checkCallable<F>();
         if constexpr (Traits<F>::kind == CallableKind::Member)
-            addMember(name, function, names.text(), text, attributes);
+            addMember(name, function, names.text(), text + attributes);
         else if constexpr (Traits<F>::kind == CallableKind::Free) {
             constexpr bool takesObject = Traits<F>::template takesObject<T>;
             static_assert(takesObject, "A free function published as a method takes a pointer to the class first: "
                                        "add that parameter, or publish it with staticMethod.");
             if constexpr (takesObject)
-                addFree(name, function, names.text(), text, attributes + MethodAttributes::ForceMembership());
+                addFree(name, function, names.text(), text + attributes + MethodAttributes::ForceMembership());
         }
         return *this;
     }
 
     template <class F>
-    ClassDescriber& method(char const* name, F function, Names<F> names, MethodAttributes attributes)
-    {
-        return method(name, function, names, "", attributes);
-    }
-
-    template <class F>
     ClassDescriber& method(char const* name, F function, MethodAttributes attributes)
     {
-        return method(name, function, {}, "", attributes);
+        return method(name, function, {}, attributes);
     }
 
     template <class F, class... D>
     ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
-                       char const* text = "", MethodAttributes attributes = {})
+                           MethodText text = {}, MethodAttributes attributes = {})
     {
         constexpr std::size_t objects = Traits<F>::kind == detail::CallableKind::Member ? 0 : 1;
         method(name, function, names, text, attributes);
@@ -124,33 +113,27 @@ public:
 
     /// Adds a static method: a free function, static member function or captureless lambda, called without an object.
     template <class F>
-    ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, char const* text = "",
-                       MethodAttributes attributes = {})
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText text = {},
+                                 MethodAttributes attributes = {})
     {
         using detail::CallableKind;
         checkCallable<F>();
         static_assert(Traits<F>::kind != CallableKind::Member, "A static method has no object: publish a member "
                                                                "function with method.");
         if constexpr (Traits<F>::kind == CallableKind::Free)
-            addFree(name, function, names.text(), text, attributes);
+            addFree(name, function, names.text(), text + attributes);
         return *this;
-    }
-
-    template <class F>
-    ClassDescriber& staticMethod(char const* name, F function, Names<F> names, MethodAttributes attributes)
-    {
-        return staticMethod(name, function, names, "", attributes);
     }
 
     template <class F>
     ClassDescriber& staticMethod(char const* name, F function, MethodAttributes attributes)
     {
-        return staticMethod(name, function, {}, "", attributes);
+        return staticMethod(name, function, {}, attributes);
     }
 
     template <class F, class... D>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
-                       char const* text = "", MethodAttributes attributes = {})
+                                 MethodText text = {}, MethodAttributes attributes = {})
     {
         staticMethod(name, function, names, text, attributes);
         return addAll(defaults.template shorten<T, 0>(members().back(), function));
@@ -160,62 +143,45 @@ public:
     /// function or captureless lambda that takes the object or nothing. Non-const data can be written as well, unless
     /// `PropertyAttributes::NoAccessSetter()` is given.
     template <class G>
-    ClassDescriber& property(char const* name, G getter, char const* text = "", PropertyAttributes attributes = {})
+    ClassDescriber& property(char const* name, G getter, PropertyText text = {}, PropertyAttributes attributes = {})
     {
         if constexpr (detail::isWritableData<T, G>)
             return property(name, getter, getter, text, attributes);
         else if constexpr (detail::canRead<T, G>()) {
-            add(detail::propertyRecord<T>(name, getter, detail::NoAccess(), text, attributes));
+            add(detail::propertyRecord<T>(name, getter, detail::NoAccess(), text + attributes));
         }
         return *this;
-    }
-
-    template <class G>
-    ClassDescriber& property(char const* name, G getter, PropertyAttributes attributes)
-    {
-        return property(name, getter, "", attributes);
     }
 
     /// Adds a property that is read and written. The setter is a data member, a member function that takes the value,
     /// or a free function or captureless lambda that takes the value, preceded by the object if it needs it.
     template <class G, class S>
-    ClassDescriber& property(char const* name, G getter, S setter, char const* text = "",
+        requires(!std::convertible_to<S, PropertyText>)
+    ClassDescriber& property(char const* name, G getter, S setter, PropertyText text = {},
                              PropertyAttributes attributes = {})
     {
         if constexpr (detail::canRead<T, G>() && detail::canWrite<T, S>()) {
             if constexpr (detail::areOneType<T, G, S>()) {
-                add(detail::propertyRecord<T>(name, getter, setter, text, attributes));
+                add(detail::propertyRecord<T>(name, getter, setter, text + attributes));
             }
         }
         return *this;
     }
 
-    template <class G, class S>
-    ClassDescriber& property(char const* name, G getter, S setter, PropertyAttributes attributes)
-    {
-        return property(name, getter, setter, "", attributes);
-    }
-
     /// Adds a write-only property. The setter is as above.
     template <class S>
-    ClassDescriber& writeOnlyProperty(char const* name, S setter, char const* text = "",
+    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText text = {},
                                       PropertyAttributes attributes = {})
     {
         if constexpr (detail::canWrite<T, S>()) {
-            add(detail::propertyRecord<T>(name, detail::NoAccess(), setter, text, attributes));
+            add(detail::propertyRecord<T>(name, detail::NoAccess(), setter, text + attributes));
         }
         return *this;
     }
 
-    template <class S>
-    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyAttributes attributes)
-    {
-        return writeOnlyProperty(name, setter, "", attributes);
-    }
-
     /// Adds a read-only property of the class itself: static data, a constant, or a function without parameters.
     template <class G>
-    ClassDescriber& staticProperty(char const* name, G getter, char const* text = "",
+    ClassDescriber& staticProperty(char const* name, G getter, PropertyText text = {},
                                    PropertyAttributes attributes = {})
     {
         if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>())
@@ -223,27 +189,16 @@ public:
         return *this;
     }
 
-    template <class G>
-    ClassDescriber& staticProperty(char const* name, G getter, PropertyAttributes attributes)
-    {
-        return staticProperty(name, getter, "", attributes);
-    }
-
     /// The same, read and written.
     template <class G, class S>
-    ClassDescriber& staticProperty(char const* name, G getter, S setter, char const* text = "",
+        requires(!std::convertible_to<S, PropertyText>)
+    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText text = {},
                                    PropertyAttributes attributes = {})
     {
         if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>() &&
                       detail::needsNoObject<detail::SetterTraits<T, S>>())
             property(name, getter, setter, text, attributes + PropertyAttributes::Static());
         return *this;
-    }
-
-    template <class G, class S>
-    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyAttributes attributes)
-    {
-        return staticProperty(name, getter, setter, "", attributes);
     }
 
 private:
@@ -274,7 +229,7 @@ private:
     }
 
     template <class F>
-    void addMember(char const* name, F function, char const* names, char const* text, MethodAttributes attributes)
+    void addMember(char const* name, F function, char const* names, MethodText const& text)
     {
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
@@ -284,17 +239,17 @@ private:
                       "This is no member function of the class or a public base: publish it with the class that has "
                       "it.");
         if constexpr (isMember && detail::signatureCanCross<Result>(Parameters{}))
-            add(detail::memberFunctionRecord<T, Pointer, Result, Parameters>(name, function, names, text, attributes));
+            add(detail::memberFunctionRecord<T, Pointer, Result, Parameters>(name, function, names, text));
     }
 
     template <class F>
-    void addFree(char const* name, F function, char const* names, char const* text, MethodAttributes attributes)
+    void addFree(char const* name, F function, char const* names, MethodText const& text)
     {
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
         using Pointer = typename Traits<F>::Pointer;
         if constexpr (detail::signatureCanCross<Result>(Parameters{}))
-            add(detail::freeFunctionRecord<Pointer, Result, Parameters>(name, function, names, text, attributes));
+            add(detail::freeFunctionRecord<Pointer, Result, Parameters>(name, function, names, text));
     }
 };
 

@@ -33,7 +33,7 @@ public:
             using Parameters = typename Traits<F>::Parameters;
             if constexpr (detail::signatureCanCross<Result>(Parameters{}))
                 add(detail::freeFunctionRecord<typename Traits<F>::Pointer, Result, Parameters>(
-                    name, callable, names.text(), text, MethodAttributes::Static()));
+                    name, callable, names.text(), MethodText(text) + MethodAttributes::Static()));
         }
         return *this;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/factory/descriptors/MemberText.hpp"
 #include "orbis/factory/detail/members/DescribedProperty.hpp"
 #include "orbis/factory/detail/members/PropertyRecord.hpp"
 #include "orbis/factory/detail/members/releaseRoutine.hpp"
@@ -54,14 +55,13 @@ template <class T>
 struct DescribedSetter<T, NoAccess> : DescribedGetter<T, NoAccess> {};
 
 template <class T, class G, class S>
-PropertyRecord propertyRecord(char const* name, G const& getter, S const& setter, char const* text,
-                              PropertyAttributes attributes)
+PropertyRecord propertyRecord(char const* name, G const& getter, S const& setter, PropertyText const& text)
 {
     using Reading = DescribedGetter<T, G>;
     using Writing = DescribedSetter<T, S>;
     using Reader = typename Reading::Access;
     using Writer = typename Writing::Access;
-    PropertyRecord record{name, attributes};
+    PropertyRecord record{name, text.attributes};
     record.make = [](PropertyRecord const& from) -> std::unique_ptr<impl::PropertyImpl> {
         return std::make_unique<DescribedProperty<Reader, Writer, isReleased<G>>>(
             from.name, [&] { return Reading::make(from.getter); }, [&] { return Writing::make(from.setter); },
@@ -69,7 +69,7 @@ PropertyRecord propertyRecord(char const* name, G const& getter, S const& setter
     };
     record.getter = Reading::keep(getter);
     record.setter = Writing::keep(setter);
-    record.text = text;
+    record.text = text.text;
     record.needsObject = Reading::needsObject || Writing::needsObject;
     return record;
 }

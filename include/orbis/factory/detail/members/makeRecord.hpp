@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/factory/descriptors/MemberText.hpp"
 #include "orbis/factory/detail/members/MemberRecord.hpp"
 #include "orbis/factory/detail/members/Routines.hpp"
 
@@ -18,16 +19,15 @@ consteval bool signatureCanCross(TypeList<A...>)
     if constexpr (std::is_void_v<Result>)
         return parameters && sizeof...(A) <= maximumInputs;
     else
-        return isMarshalable<std::remove_cvref_t<NativeResult<Result>>>() && parameters && sizeof...(A) <= maximumInputs;
+        return isMarshalable<std::remove_cvref_t<NativeResult<Result>>>() && parameters &&
+               sizeof...(A) <= maximumInputs;
 }
-
-template <class... A>
-inline constexpr std::array<TypeText, sizeof...(A)> typeTexts{&dataTypeText<A>...};
 
 template <class... A>
 std::span<TypeText const> inputTypes(TypeList<A...>)
 {
-    return typeTexts<A...>;
+    static constexpr std::array<TypeText, sizeof...(A)> texts{&dataTypeText<A>...};
+    return texts;
 }
 
 template <class... A>
@@ -37,50 +37,47 @@ consteval bool refusesNullAmong(TypeList<A...>)
 }
 
 template <class Pointer, class Result, class Parameters>
-MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, char const* text,
-                              MethodAttributes attributes)
+MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, MethodText const& text)
 {
     return {.kind = MemberRecord::Kind::FreeFunction,
             .name = name,
             .parameterNames = names,
-            .attributes = attributes,
+            .attributes = text.attributes,
             .outputType = &dataTypeText<NativeResult<Result>>,
             .inputTypes = inputTypes(Parameters{}),
             .invokeFn = &FreeFunctionRoutine<Pointer, Result, Parameters>::invoke,
             .target = function,
-            .text = text,
+            .text = text.text,
             .refusesNull = refusesNullAmong(Parameters{})};
 }
 
 template <class T, class Pointer, class Result, class Parameters>
-MemberRecord memberFunctionRecord(char const* name, Pointer function, char const* names, char const* text,
-                              MethodAttributes attributes)
+MemberRecord memberFunctionRecord(char const* name, Pointer function, char const* names, MethodText const& text)
 {
     return {.kind = MemberRecord::Kind::MemberFunction,
             .name = name,
             .parameterNames = names,
-            .attributes = attributes,
+            .attributes = text.attributes,
             .outputType = &dataTypeText<NativeResult<Result>>,
             .inputTypes = inputTypes(Parameters{}),
             .invokeFn = &MemberFunctionRoutine<T, Pointer, Result, Parameters>::invoke,
             .target = function,
-            .text = text,
+            .text = text.text,
             .refusesNull = refusesNullAmong(Parameters{})};
 }
 
 template <class T, class... A>
-MemberRecord constructorRecord(char const* names, char const* text,
-                              MethodAttributes attributes)
+MemberRecord constructorRecord(char const* names, MethodText const& text)
 {
     return {.kind = MemberRecord::Kind::Constructor,
             .name = nullptr,
             .parameterNames = names,
-            .attributes = attributes,
+            .attributes = text.attributes,
             .outputType = &dataTypeText<T*>,
             .inputTypes = inputTypes(TypeList<A...>{}),
             .invokeFn = &ConstructorRoutine<T, TypeList<A...>>::invoke,
             .target = {},
-            .text = text,
+            .text = text.text,
             .refusesNull = refusesNullAmong(TypeList<A...>{})};
 }
 

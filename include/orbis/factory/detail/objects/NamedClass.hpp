@@ -98,13 +98,11 @@ struct NamedClassRecord : NamedClass {
     }
 };
 
-template <class T>
-inline constinit NamedClassRecord<T> namedClassRecord;
-
 template <NamedType T>
 NamedClass& namedClassOf()
 {
-    return namedClassRecord<T>;
+    static constinit NamedClassRecord<T> record;
+    return record;
 }
 
 /// Returns the name of a published class.

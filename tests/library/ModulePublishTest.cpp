@@ -1,0 +1,221 @@
+#include "HvmTest.hpp"
+
+#include "orbis/factory.hpp"
+
+using namespace orbis;
+using namespace orbis::factory;
+using velmara::ArrayPtr;
+
+namespace {
+
+struct Counted {
+    Counted() { ++alive; }
+    Counted(Counted const&) { ++alive; }
+    ~Counted() { --alive; }
+    inline static int alive = 0;
+};
+
+/// Has no virtual destructor, no copy, and an explicit constructor only.
+struct Wheel : Counted {
+    explicit Wheel(int given) : size(given) {}
+    Wheel(Wheel const&) = delete;
+    int size;
+};
+
+struct Engine : Counted {
+    explicit Engine(double given) : power(given) {}
+    virtual ~Engine() = default;
+    double power;
+};
+
+struct Turbo final : Engine {
+    Turbo() : Engine(9) {}
+};
+
+/// Its first member has its address.
+class Car {
+public:
+    explicit Car(std::string name) : name_(std::move(name)) {}
+
+    Engine* part() { return &engine_; }
+    Engine const& reference() const { return engine_; }
+    void exchange(Car& other) { std::swap(engine_.power, other.engine_.power); }
+    std::string const& name() const { return name_; }
+    Car twin() const { return Car(name_ + "'"); }
+    void mount(std::unique_ptr<Wheel> wheel, int position)
+    {
+        if (position < 0)
+            throw std::out_of_range("there is no such position");
+        wheel_ = std::move(wheel);
+    }
+    std::shared_ptr<Wheel> spare() const { return spare_; }
+    void keep(std::shared_ptr<Wheel> wheel) { spare_ = std::move(wheel); }
+    Wheel* wheel() { return wheel_.get(); }
+
+    static Engine& common()
+    {
+        static Engine engine(1);
+        return engine;
+    }
+
+private:
+    Engine engine_{5};
+    std::string name_;
+    std::unique_ptr<Wheel> wheel_;
+    std::shared_ptr<Wheel> spare_;
+};
+
+std::unique_ptr<Engine> makeEngine(bool isTurbo)
+{
+    if (isTurbo)
+        return std::make_unique<Turbo>();
+    return std::make_unique<Engine>(2);
+}
+
+double total(Engine const& a, Engine b)
+{
+    return a.power + b.power;
+}
+
+struct Unpublished {};
+
+class ModulePublishTest : public HvmTest {
+protected:
+    ModulePublishTest()
+    {
+        registerModule("cars", [](Module& cars) {
+            cars.function("total", &total, "a, b", "Of both")
+                .function("makeEngine", &makeEngine, "isTurbo")
+                .function("makeCar", owned(+[] { return new Car("made"); }))
+                .function("common", &Car::common);
+            cars.publish<Car>("Car", "Drives")
+                .constructor<std::string>("name (not, say, its colour)", "Has a name")
+                .method("part", &Car::part)
+                .method("reference", &Car::reference)
+                .method("exchange", &Car::exchange, "other")
+                .method("twin", &Car::twin, {}, "Another one")
+                .method("mount", &Car::mount, "wheel, position")
+                .method("keep", &Car::keep)
+                .method("wheel", &Car::wheel)
+                .property("spare", &Car::spare)
+                .property("name", &Car::name, "As given");
+            cars.publish<Engine>("Engine").property("power", &Engine::power);
+            cars.publish<Turbo>("Turbo").inherits<Engine>();
+            cars.publish<Wheel>("Wheel").constructor<int>("size").property("size", &Wheel::size);
+        });
+        Car::common();
+        before_ = Counted::alive;
+    }
+
+    /// After the virtual machine, everything that the host owns is gone.
+    void TearDown() override
+    {
+        HvmTest::TearDown();
+        EXPECT_EQ(Counted::alive, before_);
+    }
+
+    ArrayPtr car(char const* name) { return hvm().construct("cars.Car", inputs(text(name))); }
+    static ArrayPtr text(char const* value) { return ArrayPtr(hvCreateString(value)); }
+    double power(ArrayPtr const& engine) { return scalar<double>(hvm().get(engine.get(), "power")); }
+
+private:
+    int before_ = 0;
+};
+
+TEST_F(ModulePublishTest, ClassesFunctionsAndTheirTextsAreAsDescribed)
+{
+    velmara::ClassRecord const car = hvm().describeClass("cars.Car");
+    EXPECT_EQ(car.description, "Drives");
+    EXPECT_EQ(car.methods.at(0).description, "Has a name\nname: not, say, its colour");
+    EXPECT_EQ(car.methods.at(0).signature, "result = Car(name: char vector) -> cars.Car");
+    EXPECT_EQ(car.properties.at(1).description, "As given");
+    EXPECT_EQ(hvm().describeFunction("cars.total").description, "Of both");
+    EXPECT_EQ(hvm().describeFunction("cars.total").signature, "result = total(a: cars.Engine, b: cars.Engine) -> double scalar");
+    // Named before the function's classes were, and without a constructor, which no script gets by itself.
+    EXPECT_EQ(errorOf([&] { hvm().construct("cars.Engine"); }), "VELMARA:class:access");
+    registerModule("wrong", [](Module& wrong) {
+        wrong.function(
+            "f", +[](Unpublished const&) {});
+    });
+    expectMessage([&] { hvm().callFunction("wrong.f"); }, {"f cannot be published", "Unpublished is not published"});
+    registerModule("twice", [](Module& twice) { twice.publish<Car>("Vehicle"); });
+    expectMessage([&] { hvm().describeClass("twice.Vehicle"); }, {"twice.Vehicle", "it is \"cars.Car\""});
+}
+
+TEST_F(ModulePublishTest, ReferencesAreTheScriptsObjectsAndValuesAreCopies)
+{
+    ArrayPtr const a = car("a");
+    ArrayPtr const b = car("b");
+    ArrayPtr const engine = hvm().call(a.get(), "part");
+    hvm().set(engine.get(), "power", number(7).get());
+    hvm().call(a.get(), "exchange", inputs(b));
+    EXPECT_EQ(power(hvm().call(b.get(), "part")), 7);
+    EXPECT_EQ(power(engine), 5);
+    EXPECT_EQ(scalar<double>(hvm().callFunction("cars.total", inputs(engine, engine))), 10);
+    ArrayPtr const null(omCreateORBISMatrix(0, 0, "cars.Engine"));
+    expectMessage([&] { hvm().callFunction("cars.total", inputs(engine, null)); }, {"null_input", "Input \"b\""});
+    ArrayPtr const twin = hvm().call(a.get(), "twin");
+    EXPECT_FALSE(velmara::isSameObject(twin.get(), a.get()));
+    EXPECT_EQ(velmara::className(hvm().callFunction("cars.makeEngine", inputs(matrix<bool>(1, 1, {true}))).get()),
+              "cars.Turbo");
+}
+
+/// The first member of an object has its address, and is not it.
+TEST_F(ModulePublishTest, APartIsOneObjectThatKeepsItsWholeAndEndsWithIt)
+{
+    ArrayPtr whole = car("whole");
+    ArrayPtr const part = hvm().call(whole.get(), "part");
+    EXPECT_TRUE(velmara::isSameObject(part.get(), hvm().call(whole.get(), "reference").get()));
+    EXPECT_FALSE(velmara::isSameObject(part.get(), whole.get()));
+    ArrayPtr const again = hvm().call(whole.get(), "twin");
+    whole.reset();
+    EXPECT_EQ(power(part), 5);
+    ArrayPtr const other = hvm().call(again.get(), "part");
+    hvm().deleteObjects(again.get());
+    EXPECT_FALSE(velmara::isValid(other.get()));
+    EXPECT_EQ(errorOf([&] { power(other); }), "VELMARA:object:invalid");
+    // Nobody's part, and never deleted.
+    ArrayPtr common = hvm().callFunction("cars.common");
+    EXPECT_EQ(power(common), 1);
+    hvm().deleteObjects(common.get());
+    EXPECT_EQ(power(hvm().callFunction("cars.common")), 1);
+}
+
+TEST_F(ModulePublishTest, OwnershipMovesOnlyWithACallThatWorks)
+{
+    ArrayPtr const owner = car("owner");
+    ArrayPtr const wheel = hvm().construct("cars.Wheel", inputs(matrix<std::int32_t>(1, 1, {15})));
+    ArrayPtr const none(omCreateORBISMatrix(0, 0, "cars.Wheel"));
+    EXPECT_NE(errorOf([&] { hvm().call(owner.get(), "mount", inputs(wheel, text("x"))); }), "");
+    EXPECT_TRUE(velmara::isValid(wheel.get()));
+    hvm().call(owner.get(), "mount", inputs(wheel, matrix<std::int32_t>(1, 1, {0})));
+    EXPECT_FALSE(velmara::isValid(wheel.get()));
+    ArrayPtr const mounted = hvm().call(owner.get(), "wheel");
+    for (char const* const method : {"mount", "keep"}) // the host object of a part owns nothing
+        expectMessage(
+            [&] {
+                if (std::string_view(method) == "keep")
+                    hvm().call(owner.get(), method, inputs(mounted));
+                else
+                    hvm().call(owner.get(), method, inputs(mounted, matrix<std::int32_t>(1, 1, {0})));
+            },
+            {"cars.Wheel", "its host object does not own it"});
+    EXPECT_TRUE(velmara::isValid(mounted.get()));
+    hvm().call(owner.get(), "mount", inputs(none, matrix<std::int32_t>(1, 1, {0})));
+}
+
+TEST_F(ModulePublishTest, AnyObjectIsSharedFromItsFirstSharedPointerOn)
+{
+    ArrayPtr const owner = car("owner");
+    ArrayPtr wheel = hvm().construct("cars.Wheel", inputs(matrix<std::int32_t>(1, 1, {17})));
+    hvm().call(owner.get(), "keep", inputs(wheel));
+    EXPECT_TRUE(velmara::isSameObject(hvm().get(owner.get(), "spare").get(), wheel.get()));
+    expectMessage([&] { hvm().call(owner.get(), "mount", inputs(wheel, matrix<std::int32_t>(1, 1, {0}))); },
+                  {"cannot be taken: it is shared"});
+    hvm().deleteObjects(wheel.get());
+    wheel = hvm().get(owner.get(), "spare");
+    hvm().deleteObjects(owner.get());
+    EXPECT_EQ(scalar<std::int32_t>(hvm().get(wheel.get(), "size")), 17);
+}
+
+} // namespace
