@@ -1,7 +1,7 @@
 #pragma once
 
-/// The version of the library: the build, the packages and the version record read it from here. Until 1.0 the interface
-/// may change with MINOR, from then on with MAJOR; PATCH and BUILD never change it.
+/// The version of the library: the build, the packages and the version record read it from here. Until 1.0 the
+/// interface may change with MINOR, from then on with MAJOR; PATCH and BUILD never change it.
 #define ORBIS_FACTORY_VERSION_MAJOR 0
 #define ORBIS_FACTORY_VERSION_MINOR 1
 #define ORBIS_FACTORY_VERSION_PATCH 0
