@@ -13,5 +13,5 @@ if(CMAKE_CROSSCOMPILING)
     add_library(Boost::headers INTERFACE IMPORTED GLOBAL)
     target_include_directories(Boost::headers SYSTEM INTERFACE ${PROJECT_BINARY_DIR}/include)
 else()
-    find_package(Boost REQUIRED GLOBAL) # modules in other folders include them, too
+    find_package(Boost REQUIRED)
 endif()
