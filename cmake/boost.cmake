@@ -1,5 +1,8 @@
 # Boost: headers only, from Debian's libboost-dev, for Windows too. The cross compiler must not see the rest of
 # /usr/include, so the build links the Boost folder into one of its own.
+if(TARGET Boost::headers)
+    return() # that of the project which includes this one
+endif()
 if(CMAKE_CROSSCOMPILING)
     set(boost_headers /usr/include/boost)
     if(NOT EXISTS ${boost_headers}/version.hpp)

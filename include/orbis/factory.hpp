@@ -28,4 +28,5 @@
 #include "orbis/factory/types/StringViewPolicy.hpp"
 #include "orbis/factory/types/sharedObjectVectors.hpp"
 #include "orbis/factory/types/stringVectors.hpp"
+#include "orbis/factory/version.hpp"
 #include "orbis/factory/withDefaults.hpp"

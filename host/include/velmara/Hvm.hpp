@@ -64,8 +64,9 @@ public:
         Scope* outer_;
     };
 
-    /// Loads a module by its file and runs its `VXInitialize_NAME`, where NAME is the file's stem without a
-    /// leading "lib". Loading a loaded module again only initialises it again.
+    /// Loads a module by its file and runs its `VXInitialize_NAME`, where NAME is the stem of the file, as which a link
+    /// is followed, without a leading "lib" and a version at its end. Loading a loaded module again only initialises it
+    /// again.
     ModuleRecord loadModule(std::filesystem::path const& file);
 
     /// Runs `VXTerminate_NAME`. The module's code stays mapped until the virtual machine has ended.

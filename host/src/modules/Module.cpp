@@ -23,6 +23,12 @@ ModuleRecord createRecord(std::filesystem::path const& file, std::string name)
     return record;
 }
 
+/// Whether a file name's extension is part of a version, as in libNAME.so.1.2.
+bool isNumber(std::string_view extension)
+{
+    return extension.size() > 1 && extension.find_first_not_of("0123456789", 1) == std::string_view::npos;
+}
+
 } // namespace
 
 Module::Module(std::filesystem::path const& file, std::string name)
@@ -98,7 +104,10 @@ void Module::rethrowFailure(char const* key) const
 
 std::string moduleName(std::filesystem::path const& file)
 {
-    std::string const stem = pathText(file.stem());
+    std::filesystem::path name = file.filename();
+    while (isNumber(pathText(name.extension())))
+        name = name.stem();
+    std::string const stem = pathText(name.stem());
     return stem.starts_with("lib") ? stem.substr(3) : stem;
 }
 

@@ -52,7 +52,7 @@ private:
     bool isLoaded_ = false;
 };
 
-/// The name of the module in a file: its stem without a leading "lib".
+/// The name of the module in a file: its stem without a leading "lib" and a version after it.
 std::string moduleName(std::filesystem::path const& file);
 
 } // namespace velmara

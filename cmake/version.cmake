@@ -1,0 +1,16 @@
+# Reads the version from its header: orbis_version has the three numbers of a release, orbis_abi those that change with the
+# binary interface.
+set(version_header ${CMAKE_CURRENT_LIST_DIR}/../include/orbis/factory/version.hpp)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${version_header})
+foreach(part MAJOR MINOR PATCH BUILD)
+    file(STRINGS ${version_header} line REGEX "_VERSION_${part} [0-9]+$")
+    string(REGEX MATCH "[0-9]+$" ${part} "${line}")
+endforeach()
+set(orbis_version ${MAJOR}.${MINOR}.${PATCH})
+if(MAJOR EQUAL 0)
+    set(orbis_abi ${MAJOR}.${MINOR})
+    set(orbis_compatibility SameMinorVersion)
+else()
+    set(orbis_abi ${MAJOR})
+    set(orbis_compatibility SameMajorVersion)
+endif()
