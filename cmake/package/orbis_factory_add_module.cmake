@@ -1,7 +1,7 @@
 # orbis_factory_add_module(NAME SOURCE...): builds a module for the host, with its entry points and version record. It
 # has one package, with the module's name. One of the sources defines its contents:
 #
-#     void publishModule(orbis::COSPackage* package);
+#     void publishModule(orbis::factory::Module& module);   // or void publishModule(orbis::COSPackage* package)
 function(orbis_factory_add_module name)
     set(MODULE_NAME ${name})
     set(MODULE_VERSION ${PROJECT_VERSION})
