@@ -5,5 +5,6 @@ if(WIN32)
         execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name}
             OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
         file(COPY ${file} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+        execute_process(COMMAND ${CMAKE_STRIP} -p ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${name} COMMAND_ERROR_IS_FATAL ANY)
     endforeach()
 endif()

@@ -52,7 +52,7 @@ print(cases, kept, isvalid(kept), isvalid(Probe), Probe, package)
 refused(Probe)
 refused(function() return package.Probe end)
 eachRefused {{echo, 1}, {value, kept}, {kept.twin, kept}, {unloadmodule, "console_cases"}, {loadmodule, "nowhere.so"},
-  {loadmodule, (loaded[1].file:gsub("orbis_factory(%.%w+)$", "velmara_host%1"))}}
+  {loadmodule, (loaded[1].file:gsub("orbis_factory(%.[%w.]+)$", "velmara_host%1"))}}
 print(loadmodule(loaded[#loaded].file), isvalid(Probe), isvalid(kept))
 Probe().value = 1
 
