@@ -33,8 +33,9 @@ namespace {
     throwPropertyError(isReadOnly ? "readOnly" : "setAccess", property);
 }
 
-[[noreturn, gnu::noinline]] void throwMismatch(Property const& property, hvArray_tag* value)
+[[noreturn, gnu::noinline]] void throwMismatch(Machine& machine, Property const& property, hvArray_tag* value)
 {
+    checkInputs(machine, {&value, 1});
     throwHostError("VELMARA:property", "value", {property.name->string(), mismatchReason(property.type(), value)});
 }
 
@@ -107,10 +108,9 @@ void write(Machine& machine, Property const& property, Object* object, hvArray_t
         throwUnwritable(property);
     Object* const owner = requireOwner(property, object);
     TypeReference const& type = property.type();
-    checkInputs(machine, {&value, 1});
     ConvertedInputs converted(1);
-    if (converted.add(type, value) == notConvertible) [[unlikely]]
-        throwMismatch(property, value);
+    if (!value || converted.add(type, value) == notConvertible) [[unlikely]]
+        throwMismatch(machine, property, value);
     property.info->setValue(owner, *converted.values());
 }
 

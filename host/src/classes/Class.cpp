@@ -46,10 +46,8 @@ Class::Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, Machine& mach
     setLinearization(contents_->linearization);
 }
 
-void Class::ensureReady()
+void Class::makeReady()
 {
-    if (state_ == State::Ready || state_ == State::Describing) [[likely]]
-        return;
     if (state_ == State::Closed)
         throwHostError("VELMARA:class", "unpublished", {name()->string()});
     Machine::Entry const entry(machine());

@@ -36,10 +36,9 @@ hvArray_tag* convert(TypeReference const& type, orbis::COSTypeConversion& conver
 
 void ConvertedInputs::grow(std::size_t capacity)
 {
-    moreValues_ = std::make_unique<orbis::COSValue[]>(capacity);
-    moreOwned_ = std::make_unique<Owned[]>(capacity);
-    values_ = moreValues_.get();
-    owned_ = moreOwned_.get();
+    more_ = std::make_unique<More>(capacity);
+    values_ = more_->values.data();
+    owned_ = more_->owned.data();
 }
 
 void ConvertedInputs::own(orbis::COSDataType* type, hvArray_tag* value)

@@ -8,6 +8,7 @@
 #include "orbis/COSValue.hpp"
 
 #include <memory>
+#include <vector>
 
 namespace velmara {
 
@@ -24,9 +25,9 @@ public:
     ConvertedInputs(ConvertedInputs const&) = delete;
     ConvertedInputs& operator=(ConvertedInputs const&) = delete;
 
-    ~ConvertedInputs()
+    [[gnu::always_inline]] ~ConvertedInputs()
     {
-        if (ownedCount_ != 0)
+        if (ownedCount_ != 0) [[unlikely]]
             release();
     }
 
@@ -56,6 +57,12 @@ private:
         orbis::COSValue value;
     };
 
+    struct More {
+        explicit More(std::size_t capacity) : values(capacity), owned(capacity) {}
+        std::vector<orbis::COSValue> values;
+        std::vector<Owned> owned;
+    };
+
     static constexpr std::size_t inlineCapacity = 24;
 
     ConversionRank addArray(TypeReference const& type, hvArray_tag* input);
@@ -82,8 +89,7 @@ private:
     union {
         Owned inlineOwned_[inlineCapacity];
     };
-    std::unique_ptr<orbis::COSValue[]> moreValues_; ///< where there are more inputs than `inlineCapacity`
-    std::unique_ptr<Owned[]> moreOwned_;
+    std::unique_ptr<More> more_; ///< where there are more inputs than `inlineCapacity`
 };
 
 } // namespace velmara

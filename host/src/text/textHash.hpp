@@ -34,16 +34,32 @@ inline std::uint64_t mixChunks(std::uint64_t a, std::uint64_t b)
     return std::uint64_t(product) ^ std::uint64_t(product >> 64);
 }
 
-/// Hashes chunks of eight bytes. The last one overlaps that before it, so that nothing past the text is read.
+/// Hashes two chunks of eight bytes at a time. The last two overlap those before them where the text is no multiple of
+/// that, so that nothing past it is read.
 inline std::uint64_t hashText(std::string_view text)
 {
     std::uint64_t hash = text.size();
     if (text.size() < 8)
         return mixChunks(loadShort(text.data(), text.size()), hash);
-    char const* const last = text.data() + text.size() - 8;
-    for (char const* chunk = text.data(); chunk < last; chunk += 8)
-        hash = mixChunks(loadChunk(chunk), hash);
-    return mixChunks(loadChunk(last), hash);
+    char const* chunk = text.data();
+    char const* const end = chunk + text.size();
+    for (; end - chunk > 16; chunk += 16)
+        hash = mixChunks(loadChunk(chunk) ^ hash, loadChunk(chunk + 8));
+    return mixChunks(loadChunk(text.size() < 16 ? chunk : end - 16) ^ hash, loadChunk(end - 8));
+}
+
+/// Compares two texts in line: names are short, and those that are compared are mostly the same.
+inline bool isSameText(std::string_view a, std::string_view b)
+{
+    if (a.size() != b.size())
+        return false;
+    if (a.size() < 8)
+        return loadShort(a.data(), a.size()) == loadShort(b.data(), b.size());
+    std::size_t const last = a.size() - 8;
+    for (std::size_t i = 0; i < last; i += 8)
+        if (loadChunk(a.data() + i) != loadChunk(b.data() + i))
+            return false;
+    return loadChunk(a.data() + last) == loadChunk(b.data() + last);
 }
 
 } // namespace velmara
