@@ -102,7 +102,7 @@ ArrayPtr read(Property const& property, Object* object)
     return result.take(property.name);
 }
 
-void write(Machine& machine, Property const& property, Object* object, hvArray_tag* value)
+[[gnu::always_inline]] inline void write(Machine& machine, Property const& property, Object* object, hvArray_tag* value)
 {
     if (!property.canBeWritten) [[unlikely]]
         throwUnwritable(property);
@@ -118,7 +118,7 @@ void write(Machine& machine, Property const& property, Object* object, hvArray_t
 
 ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property)
 {
-    return callInto(*state_, [&] {
+    return callInto(*state_, [&]() __attribute__((always_inline)) {
         Object* const first = requireObject(*state_, object);
         return read(requireProperty(requireClassOf(*state_, object, first), property), first);
     });
@@ -126,7 +126,7 @@ ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property)
 
 void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value)
 {
-    callInto(*state_, [&] {
+    callInto(*state_, [&]() __attribute__((always_inline)) {
         Object* const first = requireObject(*state_, object);
         write(*state_, requireProperty(requireClassOf(*state_, object, first), property), first, value);
     });

@@ -171,6 +171,7 @@ void Class::initializeInstance(orbis::COSInterfacePtr instance)
     if (!object || object->classOf() != this)
         throwHostError("VELMARA:object", "otherClass",
                        {name()->string(), object ? object->className()->string() : std::string("null")});
+    Machine::Entry const entry(machine());
     object->initialize();
 }
 

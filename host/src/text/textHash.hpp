@@ -14,7 +14,7 @@ inline std::uint64_t loadChunk(char const* text)
 }
 
 /// The whole of a text of fewer than eight bytes. Different texts of one length give different chunks.
-inline std::uint64_t loadShort(char const* text, std::size_t length)
+[[gnu::always_inline]] inline std::uint64_t loadShort(char const* text, std::size_t length)
 {
     auto const byte = [text](std::size_t index) { return std::uint64_t(static_cast<unsigned char>(text[index])); };
     if (length >= 4) {
@@ -36,7 +36,7 @@ inline std::uint64_t mixChunks(std::uint64_t a, std::uint64_t b)
 
 /// Hashes two chunks of eight bytes at a time. The last two overlap those before them where the text is no multiple of
 /// that, so that nothing past it is read.
-inline std::uint64_t hashText(std::string_view text)
+[[gnu::always_inline]] inline std::uint64_t hashText(std::string_view text)
 {
     std::uint64_t hash = text.size();
     if (text.size() < 8)
@@ -48,18 +48,16 @@ inline std::uint64_t hashText(std::string_view text)
     return mixChunks(loadChunk(text.size() < 16 ? chunk : end - 16) ^ hash, loadChunk(end - 8));
 }
 
-/// Compares two texts in line: names are short, and those that are compared are mostly the same.
-inline bool isSameText(std::string_view a, std::string_view b)
+/// Compares two texts of one length in line, for names, which are short and mostly the same.
+[[gnu::always_inline]] inline bool isSameText(char const* a, char const* b, std::size_t size)
 {
-    if (a.size() != b.size())
-        return false;
-    if (a.size() < 8)
-        return loadShort(a.data(), a.size()) == loadShort(b.data(), b.size());
-    std::size_t const last = a.size() - 8;
+    if (size < 8)
+        return loadShort(a, size) == loadShort(b, size);
+    std::size_t const last = size - 8;
     for (std::size_t i = 0; i < last; i += 8)
-        if (loadChunk(a.data() + i) != loadChunk(b.data() + i))
+        if (loadChunk(a + i) != loadChunk(b + i))
             return false;
-    return loadChunk(a.data() + last) == loadChunk(b.data() + last);
+    return loadChunk(a + last) == loadChunk(b + last);
 }
 
 } // namespace velmara
