@@ -191,7 +191,7 @@ namespace {
 [[gnu::flatten]] void detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object)
 {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
-    if (table.isAnyUnconstructed) [[unlikely]]
+    if (table.dependents) [[unlikely]]
         CopyableSupport::removeFromUnconstructedSet(object);
     if (!table.bind(object, host, className)) [[unlikely]]
         rebind(host, className, object);
