@@ -7,7 +7,6 @@
 #include "orbis/COSDataType.hpp"
 #include "orbis/COSValue.hpp"
 
-#include <memory>
 #include <vector>
 
 namespace velmara {
@@ -17,7 +16,7 @@ namespace velmara {
 class ConvertedInputs {
 public:
     /// For at most `capacity` inputs. Few need no memory of their own.
-    explicit ConvertedInputs(std::size_t capacity) : values_(inlineValues_), owned_(inlineOwned_)
+    explicit ConvertedInputs(std::size_t capacity) : values_(inlineValues_)
     {
         if (capacity > inlineCapacity)
             grow(capacity);
@@ -27,7 +26,7 @@ public:
 
     [[gnu::always_inline]] ~ConvertedInputs()
     {
-        if (ownedCount_ != 0) [[unlikely]]
+        if (ownedCount_ != 0 || more_) [[unlikely]]
             release();
     }
 
@@ -74,12 +73,12 @@ private:
     ConversionRank addRegistered(TypeReference const& type, hvArray_tag* input);
     void grow(std::size_t capacity);
     void release();
+    Owned* owned() { return more_ ? more_->owned.data() : inlineOwned_; }
 
     /// Makes the value (of the type; null for an array of the host's own) the next input, and owns it.
     void own(orbis::COSDataType* type, hvArray_tag* value);
 
     orbis::COSValue* values_;
-    Owned* owned_;
     int count_ = 0;
     int ownedCount_ = 0;
     // Not initialized: only what is added is ever read.
@@ -89,7 +88,7 @@ private:
     union {
         Owned inlineOwned_[inlineCapacity];
     };
-    std::unique_ptr<More> more_; ///< where there are more inputs than `inlineCapacity`
+    More* more_ = nullptr; ///< where there are more inputs than `inlineCapacity`: owned, too
 };
 
 } // namespace velmara
