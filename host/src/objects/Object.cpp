@@ -114,10 +114,8 @@ void Object::freeIfUnreferenced() noexcept
         delete this;
 }
 
-[[gnu::flatten]] void Object::finalize() noexcept
+[[gnu::flatten]] void Object::finalizeOnce() noexcept
 {
-    if (isFinalized())
-        return;
     bool const hasInstanceData = isValid() && isInitialized_;
     state_ = State::Finalizing;
     class_->objects().remove(*this);
@@ -140,7 +138,7 @@ void Object::onLastReference() noexcept
     if (isFinalized())
         freeIfUnreferenced();
     else if (!machine_->deferredFinalizer().defer(*this))
-        finalize();
+        finalizeOnce();
 }
 
 void Object::throwUnusable() const

@@ -73,7 +73,11 @@ public:
 
     /// Destroys the instance data, the most derived class's first, and leaves the object invalid, without class and
     /// virtual machine. Nothing escapes; a second call does nothing.
-    void finalize() noexcept;
+    void finalize() noexcept
+    {
+        if (!isFinalized())
+            finalizeOnce();
+    }
     void finalizeIfUnreferenced() noexcept;
 
     void setNativeObject(orbis::COSNameID const& className, void* object) override;
@@ -143,6 +147,7 @@ private:
     static void* operator new(std::size_t size);
     static void operator delete(void* block) noexcept;
 
+    void finalizeOnce() noexcept;
     void onLastReference() noexcept;
     void freeIfUnreferenced() noexcept;
 

@@ -26,26 +26,29 @@ inline std::uint64_t loadChunk(char const* text)
     return length == 0 ? 0 : byte(0) | byte(length / 2) << 8 | byte(length - 1) << 16;
 }
 
-/// Both halves of the product, so that every bit of both factors counts.
-inline std::uint64_t mixChunks(std::uint64_t a, std::uint64_t b)
+/// Both halves of the product, so that every bit of both chunks counts.
+inline std::uint64_t mixChunks(std::uint64_t hash, std::uint64_t a, std::uint64_t b)
 {
     __extension__ using Wide = unsigned __int128;
-    Wide const product = Wide(a ^ 0x9E3779B97F4A7C15) * (b ^ 0xD6E8FEB86659FD93);
+    Wide const product = Wide(a ^ hash) * (b ^ 0xD6E8FEB86659FD93);
     return std::uint64_t(product) ^ std::uint64_t(product >> 64);
 }
 
-/// Hashes two chunks of eight bytes at a time. The last two overlap those before them where the text is no multiple of
-/// that, so that nothing past it is read.
+/// Hashes two chunks of eight bytes at a time. The last two overlap those before them, or one another, so that nothing
+/// past the text is read.
 [[gnu::always_inline]] inline std::uint64_t hashText(std::string_view text)
 {
-    std::uint64_t hash = text.size();
-    if (text.size() < 8)
-        return mixChunks(loadShort(text.data(), text.size()), hash);
     char const* chunk = text.data();
-    char const* const end = chunk + text.size();
-    for (; end - chunk > 16; chunk += 16)
-        hash = mixChunks(loadChunk(chunk) ^ hash, loadChunk(chunk + 8));
-    return mixChunks(loadChunk(text.size() < 16 ? chunk : end - 16) ^ hash, loadChunk(end - 8));
+    std::size_t const size = text.size();
+    std::uint64_t hash = size ^ 0x9E3779B97F4A7C15;
+    if (size < 8)
+        return mixChunks(hash, loadShort(chunk, size), 0);
+    if (size < 16)
+        return mixChunks(hash, loadChunk(chunk), loadChunk(chunk + size - 8));
+    char const* const last = chunk + size - 16;
+    for (; chunk < last; chunk += 16)
+        hash = mixChunks(hash, loadChunk(chunk), loadChunk(chunk + 8));
+    return mixChunks(hash, loadChunk(last), loadChunk(last + 8));
 }
 
 /// Compares two texts of one length in line, for names, which are short and mostly the same.
