@@ -11,7 +11,7 @@ using basic::FooRegistry;
 
 void addToUnconstructedSet(void const* object)
 {
-    basic::registry().requireDependents().unconstructed.insert(object);
+    basic::HvmScoped<FooRegistry>::get().requireDependents().unconstructed.insert(object);
 }
 
 bool isInUnconstructedSet(void const* object)
@@ -23,8 +23,11 @@ bool isInUnconstructedSet(void const* object)
 [[gnu::noinline]] void removeFromUnconstructedSet(void const* object)
 {
     FooRegistry* const table = basic::HvmScoped<FooRegistry>::find();
-    if (table && table->dependents)
-        table->dependents->unconstructed.erase(object);
+    if (!table || !table->dependents || table->dependents->unconstructed.empty())
+        return;
+    auto& set = table->dependents->unconstructed;
+    if (auto const found = set.find(object); found != set.end())
+        set.erase(found);
 }
 
 } // namespace orbis::factory::CopyableSupport
