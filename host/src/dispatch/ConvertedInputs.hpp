@@ -32,7 +32,7 @@ public:
 
     /// Converts the next input; adds nothing when it does not rank. Throws only for an object that cannot be used in
     /// the current virtual machine.
-    ConversionRank add(TypeReference const& type, hvArray_tag* input)
+    [[gnu::always_inline]] ConversionRank add(TypeReference const& type, hvArray_tag* input)
     {
         if (type.kind != TypeKind::Scalar)
             return addArray(type, input);
