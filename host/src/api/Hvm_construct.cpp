@@ -35,7 +35,8 @@ namespace {
 }
 
 /// Calls a constructor for a new object. When it fails, the object is finalized with its array.
-[[gnu::always_inline]] inline ArrayPtr invokeConstructor(Class& cls, Method const& constructor, ConvertedInputs const& inputs)
+[[gnu::always_inline]] inline ArrayPtr invokeConstructor(Class& cls, Method const& constructor,
+                                                         ConvertedInputs const& inputs)
 {
     ArrayPtr object = createObject(cls);
     orbis::COSValue output(object.get());
@@ -68,7 +69,8 @@ namespace {
 
 ArrayPtr Hvm::construct(std::string_view className, Inputs inputs)
 {
-    return callInto(*state_, [&]() __attribute__((always_inline)) { return constructObject(*state_, className, inputs); });
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) { return constructObject(*state_, className, inputs); });
 }
 
 } // namespace velmara

@@ -118,18 +118,20 @@ ArrayPtr read(Property const& property, Object* object)
 
 ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property)
 {
-    return callInto(*state_, [&]() __attribute__((always_inline)) {
-        Object* const first = requireObject(*state_, object);
-        return read(requireProperty(requireClassOf(*state_, object, first), property), first);
-    });
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) {
+            Object* const first = requireObject(*state_, object);
+            return read(requireProperty(requireClassOf(*state_, object, first), property), first);
+        });
 }
 
 void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value)
 {
-    callInto(*state_, [&]() __attribute__((always_inline)) {
-        Object* const first = requireObject(*state_, object);
-        write(*state_, requireProperty(requireClassOf(*state_, object, first), property), first, value);
-    });
+    callInto(
+        *state_, [&]() __attribute__((always_inline)) {
+            Object* const first = requireObject(*state_, object);
+            write(*state_, requireProperty(requireClassOf(*state_, object, first), property), first, value);
+        });
 }
 
 ArrayPtr Hvm::getStatic(std::string_view className, std::string_view property)

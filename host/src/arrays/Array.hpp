@@ -227,7 +227,8 @@ private:
 
 static_assert(sizeof(Array) == BlockPool::blockSize);
 
-[[gnu::always_inline]] inline Array* Array::createHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+[[gnu::always_inline]] inline Array* Array::createHeader(hvClassID classID, std::size_t rows, std::size_t columns,
+                                                         Name objectClass)
 {
     ThreadCache* const cache = threadCache;
     void* const block = cache ? BlockPool::acquire(*cache) : nullptr;
