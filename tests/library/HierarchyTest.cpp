@@ -243,7 +243,8 @@ TEST_F(HierarchyTest, WhatCannotBeDescribedIsUnpublished)
         c.template inherits<Node>();
     });
     auto* const leaf = new Leaf;
-    EXPECT_THROW(announce<Node>(leaf), std::bad_alloc) << "which says nothing about the class";
+    ArrayPtr object;
+    EXPECT_THROW(object = announce<Node>(leaf), std::bad_alloc) << "which says nothing about the class";
     EXPECT_EQ(velmara::className(announce<Node>(leaf).get()), "tests.Leaf");
 }
 
