@@ -224,7 +224,9 @@ void drive(Script& script)
     std::size_t const last = script.steps.size() - 1;
     std::optional<Run> run;
     begin(run);
+    std::size_t const interval = faults::allocationInterval;
     for (std::size_t i = 0; i <= last; ++i) {
+        faults::allocationInterval = script.steps[i].starts_with("-- each") ? 1 : interval;
         std::string const output = run->step(script.steps[i], true);
         if (faults::shortage == Shortage::UntilEnd)
             continue;
@@ -244,6 +246,7 @@ void drive(Script& script)
             finishChild(script);
         }
     }
+    faults::allocationInterval = interval;
     faults::isArmed = true;
     run->end(Run::ArraysFirst);
     faults::isArmed = false;
@@ -278,7 +281,8 @@ local function show(text, value, expected) print(text, tostring(value), value ==
 local function refused(text, f, ...) print(text, (select(2, pcall(f, ...)))) end
 return assert(load([==[%]==]))(print, show, refused))";
 
-/// The script of a file. What is not of the tour has its steps between empty lines.
+/// The script of a file. What is not of the tour has its steps between empty lines; in one that begins with "-- each",
+/// each allocation is driven.
 Script scriptOf(std::filesystem::path const& file, bool isTour)
 {
     Script script{file.stem().string(), !isTour, {"loadmodule('" + library + "') loadmodule('" + probe + "')"}};

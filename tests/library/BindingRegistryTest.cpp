@@ -135,6 +135,11 @@ TEST_F(BindingRegistryTest, NoBindingOutlivesItsHostObject)
                  BindingRegistry::announceForConstructor(nullptr, plain(), array, true);
              },
              [](hvArray*, COSInterface* host, Plain&, Plain&) { host->setValid(false); },
+             [](hvArray*, COSInterface* host, Plain& p, Plain& q) {
+                 static Plain other;
+                 BindingRegistry::hijack(&q, &q, host, plain());
+                 BindingRegistry::hijack(&p, &other, host, plain()); // which is bound, but not recorded
+             },
          }) {
         Plain p, q;
         ArrayPtr array = announce(&p);
