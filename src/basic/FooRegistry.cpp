@@ -204,4 +204,13 @@ namespace {
     return table.unbind(object, host) ? object : nullptr;
 }
 
+[[gnu::flatten]] void* detail::forgetBinding(COSInterface const* host, void* object, bool& isOwned)
+{
+    basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
+    bool const wasBound = table.unbind(object, host);
+    bool const wasShared = table.dependents && table.dependents->shares.drop(host);
+    isOwned = wasBound && !wasShared;
+    return wasBound ? object : nullptr;
+}
+
 } // namespace orbis::factory
