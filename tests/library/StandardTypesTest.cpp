@@ -1,0 +1,214 @@
+#include "library/FunctionsTest.hpp"
+
+#include "orbis/factory.hpp"
+#include "orbis/factory/types/objectValues.hpp"
+#include "orbis/factory/types/pair.hpp"
+
+using namespace orbis;
+using namespace orbis::factory;
+using velmara::ArrayPtr;
+using Value = std::shared_ptr<hvArray_tag>;
+
+namespace {
+
+struct Part {
+    explicit Part(double given) : size(given) { ++alive; }
+    Part(Part const& other) : size(other.size) { ++alive; }
+    ~Part() { --alive; }
+    double size;
+    inline static int alive = 0;
+};
+
+template <class T>
+T same(T value)
+{
+    return value;
+}
+
+/// One call of a function that returns its argument: what is passed, and what must come back or be said.
+struct Row {
+    char const* function;
+    Value given;
+    std::string expected; ///< the result as `show` writes it; else a part of the message
+    bool isRefused = false;
+};
+
+class StandardTypesTest : public FunctionsTest {
+protected:
+    StandardTypesTest()
+    {
+        registerModule("parts", [](Module& parts) {
+            parts.publish<Part>("Part").constructor<double>("size").property("size", &Part::size);
+        });
+    }
+
+    void TearDown() override
+    {
+        FunctionsTest::TearDown();
+        EXPECT_EQ(Part::alive, 0);
+    }
+
+    static Value text(char const* value) { return ArrayPtr(hvCreateString(value)); }
+    static Value none() { return matrix<double>(0, 0, {}); }
+    Value part(double size) { return hvm().construct("parts.Part", inputs(number(size))); }
+
+    /// Cells of copies of the arrays, column by column; null for an empty cell.
+    static Value cells(std::size_t rows, std::size_t columns, std::vector<Value const*> const& contents)
+    {
+        Value array(ArrayPtr(hvCreateCellMatrix(rows, columns)));
+        for (std::size_t i = 0; i < contents.size(); ++i)
+            if (contents[i])
+                hvSetCell(array.get(), i, hvCreateSharedDataCopy(contents[i]->get()));
+        return array;
+    }
+
+    template <class... A>
+    static Value list(A const&... contents)
+    {
+        return cells(1, sizeof...(A), {&contents...});
+    }
+
+    /// An array as text: numbers by rows "[1 2; 3 4]", texts "'a'", cells "{...}" likewise, objects by their size.
+    std::string show(hvArray_tag const* array)
+    {
+        if (!array)
+            return "null";
+        hvClassID const classID = array->_get_class_id_non_trivial();
+        if (classID == hvCHAR_CLASS) {
+            auto const* const units = static_cast<char16_t const*>(host_extensions::getData(array));
+            return '\'' + fl::i18n::to_string({units, array->get_number_of_elements()}) + '\'';
+        }
+        std::size_t const rows = array->get_dimensions()[0], columns = array->get_dimensions()[1];
+        std::string shown;
+        for (std::size_t row = 0; row < rows; ++row)
+            for (std::size_t column = 0; column < columns; ++column)
+                shown += (column ? " " : row ? "; " : "") + showElement(array, classID, column * rows + row);
+        return (classID == hvCELL_CLASS ? '{' : '[') + shown + (classID == hvCELL_CLASS ? '}' : ']');
+    }
+
+    std::string showElement(hvArray_tag const* array, hvClassID classID, std::size_t index)
+    {
+        if (classID == hvCELL_CLASS)
+            return show(host_extensions::getCell(array, index));
+        if (classID == hvOBJECT_CLASS) {
+            COSInterfacePtr const object = omGetArrayElement(array, index);
+            return object ? 'P' + show(hvm().get(ArrayPtr(omCreateORBISScalar(object)).get(), "size").get()) : "none";
+        }
+        return host_extensions::visitNumericClass(classID, [&]<class T>(T) {
+            char shown[32];
+            std::snprintf(shown, sizeof shown, "%g",
+                          static_cast<double>(static_cast<T const*>(host_extensions::getData(array))[index]));
+            return std::string(shown);
+        });
+    }
+
+    void check(std::vector<Row> const& rows)
+    {
+        for (Row const& row : rows) {
+            SCOPED_TRACE(row.function + (" must give " + row.expected));
+            auto const action = [&] { EXPECT_EQ(show(call(row.function, row.given).get()), row.expected); };
+            if (row.isRefused)
+                expectMessage(action, {row.expected});
+            else
+                EXPECT_EQ(caught(action, &velmara::Error::what), "");
+        }
+    }
+};
+
+using Named = std::pair<std::string, std::int32_t>;
+using Point = std::pair<double, double>;
+using Mixed = std::tuple<Part, std::optional<double>, std::vector<std::int16_t>, Named, fl::ustring>;
+
+} // namespace
+
+TEST_F(StandardTypesTest, PairsAndTuplesAreListsOfTheirElements)
+{
+    publishFunctions(describeFunctions()
+                         .function("named", &same<Named>)
+                         .function("point", &same<Point>)
+                         .function("mixed", &same<Mixed>)
+                         .function(
+                             "pointer", +[](std::pair<Part*, int> given) { return given.first; })
+                         .function("empty", &same<std::tuple<>>)
+                         .function(
+                             "views", +[] { return std::tuple<std::string_view, char const*>("a", "b"); })
+                         .function(
+                             "made", +[] { return std::pair(std::make_unique<Part>(7), true); }));
+    Value const a = text("a"), one = number(1), half = number(0.5), three = part(3);
+    Value const shorts = matrix<double>(2, 1, {4, 5}), big = matrix<double>(1, 2, {4, 1e6});
+    Value const pair = list(a, one), gone = part(1);
+    hvm().deleteObjects(gone.get());
+    check({
+        {"named", list(a, one), "{'a' [1]}"},
+        {"named", cells(2, 1, {&a, &one}), "{'a' [1]}"},
+        {"point", matrix<std::int8_t>(1, 2, {3, 4}), "[3 4]"},
+        {"mixed", list(three, half, shorts, list(a, one), a), "{[P[3]] [0.5] [4 5] {'a' [1]} 'a'}"},
+        {"mixed", cells(1, 5, {&three, nullptr, nullptr, &pair, &a}), "{[P[3]] [] [] {'a' [1]} 'a'}"},
+        {"pointer", list(three, one), "[P[3]]"},
+        {"pointer", list(none(), one), "[]"},
+        {"empty", none(), "{}"},
+        {"named", list(a), "needs a list of 2 elements, not of 1", true},
+        {"named", list(a, one, one), "needs a list of 2 elements, not of 3", true},
+        {"named", a, "needs a list, not char", true},
+        {"named", list(one, one), "element 0 (counted from 0): needs a text, not double", true},
+        {"named", list(a, half), "element 1 (counted from 0): 0.5 does not fit int32", true},
+        {"named", list(a, shorts), "element 1 (counted from 0): needs one value, not double of 2-by-1", true},
+        {"named", cells(1, 2, {&a, nullptr}), "element 1 (counted from 0): needs a number, not an empty cell", true},
+        {"mixed", list(three, half, big, list(a, one), a),
+         "element 2 (counted from 0): element 1 (counted from 0): 1e+06", true},
+        {"mixed", list(three, half, shorts, list(a, a), a), "element 3 (counted from 0): element 1", true},
+        {"mixed", list(one, half, shorts, list(a, one), a), "needs an object of class \"parts.Part\", not double",
+         true},
+        {"mixed", list(none(), half, shorts, list(a, one), a), "must be an object of class \"parts.Part\"", true},
+        {"pointer", list(gone, one), "element 0 (counted from 0): The value must be an object", true},
+    });
+    EXPECT_EQ(show(call("views").get()), "{'a' 'b'}");
+    EXPECT_EQ(show(call("made").get()), "{[P[7]] [1]}");
+}
+
+using Parts = std::vector<Part>;
+using OwnParts = std::vector<std::unique_ptr<Part>>;
+using SharedParts = std::vector<std::shared_ptr<Part const>>;
+
+TEST_F(StandardTypesTest, VectorsOfObjectsCrossWholeOrNotAtAll)
+{
+    static SharedParts kept;
+    publishFunctions(describeFunctions()
+                         .function("copies", &same<Parts>)
+                         .function("taken", &same<OwnParts>)
+                         .function("shared", &same<SharedParts>)
+                         .function(
+                             "keep", +[](SharedParts given) { kept = std::move(given); })
+                         .function(
+                             "takeAt", +[](OwnParts given, std::int8_t) { return given.size(); }));
+    Value const a = part(1), b = part(2), null(ArrayPtr(omCreateORBISMatrix(0, 0, "parts.Part")));
+    auto const row = [](std::initializer_list<Value const*> parts) {
+        Value objects(ArrayPtr(omCreateORBISMatrix(1, parts.size(), "parts.Part")));
+        for (std::size_t i = 0; Value const* const given : parts)
+            omSetArrayElement(objects.get(), i++, given ? omGetArrayElement(given->get(), 0) : COSInterfacePtr());
+        return objects;
+    };
+    check({
+        {"copies", row({&a, &b}), "[P[1] P[2]]"},
+        {"copies", none(), "[]"},
+        {"copies", null, "[]"},
+        {"shared", null, "[]"},
+        {"copies", row({&a, nullptr}), "element 1 (counted from 0): The value must be an object", true},
+        {"copies", number(1), "VELMARA:dispatch:noMatch", true},
+        {"taken", row({&a, &b, &a}), "element 2 (counted from 0): it is taken already", true},
+    });
+    EXPECT_NE(errorOf([&] { hvm().callFunction("tests.takeAt", inputs(row({&a, &b}), number(0.5))); }), "");
+    EXPECT_EQ(Part::alive, 2) << "nothing was taken";
+    EXPECT_FALSE(velmara::isSameObject(call("copies", a).get(), a.get()));
+
+    hvm().callFunction("tests.keep", inputs(row({&b, nullptr})));
+    EXPECT_TRUE(velmara::isSameObject(call("shared", b).get(), b.get()));
+    EXPECT_EQ(kept.size(), 2u);
+    expectMessage([&] { call("taken", row({&a, nullptr, &b})); }, {"element 2 (counted from 0)", "it is shared"});
+    EXPECT_TRUE(velmara::isValid(a.get()));
+    EXPECT_EQ(show(call("taken", row({&a, nullptr})).get()), "[P[1] none]");
+    EXPECT_FALSE(velmara::isValid(a.get()));
+    hvm().deleteObjects(b.get());
+    EXPECT_EQ(kept.at(0)->size, 2);
+    kept.clear();
+}
