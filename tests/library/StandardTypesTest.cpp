@@ -1,6 +1,7 @@
 #include "library/FunctionsTest.hpp"
 
 #include "orbis/factory.hpp"
+#include "orbis/factory/types/map.hpp"
 #include "orbis/factory/types/objectValues.hpp"
 #include "orbis/factory/types/pair.hpp"
 
@@ -211,4 +212,56 @@ TEST_F(StandardTypesTest, VectorsOfObjectsCrossWholeOrNotAtAll)
     hvm().deleteObjects(b.get());
     EXPECT_EQ(kept.at(0)->size, 2);
     kept.clear();
+}
+
+TEST_F(StandardTypesTest, MapsAreRowsOfKeysAndValues)
+{
+    using Sizes = std::map<std::string, std::int32_t>;
+    publishFunctions(describeFunctions()
+                         .function("sizes", &same<Sizes>)
+                         .function("numbers", &same<std::unordered_map<double, double>>)
+                         .function("parts", &same<std::map<fl::ustring, Part>>)
+                         .function("nested", &same<std::map<std::string, Sizes>>)
+                         .function(
+                             "made",
+                             +[] {
+                                 std::map<int, std::unique_ptr<Part>> parts;
+                                 parts.emplace(2, std::make_unique<Part>(9));
+                                 return parts;
+                             })
+                         .function(
+                             "count", +[](Sizes const& given) { return static_cast<double>(given.size()); }));
+    Value const a = text("a"), b = text("b"), one = number(1), half = number(0.5), three = part(3), nothing = none();
+    Value const zero(matrix<double>(1, 2, {0, 1}));
+    Value const nested = cells(1, 2, {&b, &one});
+    double const nan = std::numeric_limits<double>::quiet_NaN();
+    check({
+        {"sizes", cells(2, 2, {&b, &a, &one, &one}), "{'a' [1]; 'b' [1]}"},
+        {"sizes", list(b, one), "{'b' [1]}"},
+        {"sizes", list(list(b, one)), "{'b' [1]}"},
+        {"sizes", cells(2, 1, {&nested, &nested}), "key \"b\": it is there twice", true},
+        {"sizes", none(), "{}"},
+        {"numbers", matrix<std::int8_t>(3, 2, {3, 1, 2, 6, 4, 5}), "{[1] [4]; [2] [5]; [3] [6]}"},
+        {"numbers", list(list(one, half), zero), "{[0] [1]; [1] [0.5]}"},
+        {"parts", list(a, three), "{'a' [P[3]]}"},
+        {"nested", cells(2, 2, {&b, &a, &nested, &nothing}), "{'a' {}; 'b' {'b' [1]}}"},
+        {"sizes", a, "needs a list, not char", true},
+        {"sizes", cells(2, 2, {&b, &a, &one, &half}), "key \"a\": 0.5 does not fit int32", true},
+        {"sizes", cells(2, 2, {&b, &one, &one, &one}), "element 1 (counted from 0): needs a text", true},
+        {"sizes", cells(2, 2, {&b, nullptr, &one, &one}), "element 1 (counted from 0): needs a text, not an empty cell",
+         true},
+        {"sizes", list(list(b, one), list(a)), "element 1 (counted from 0): needs a list of 2", true},
+        {"sizes", matrix<double>(1, 3, {1, 2, 3}), "needs a list of 2 elements, not of 3", true},
+        {"numbers", matrix<double>(2, 2, {1, nan, 3, 4}), "key nan: it has no place", true},
+        {"nested", list(b, list(b, half)), "key \"b\": key \"b\": 0.5", true},
+        {"parts", list(a, nothing), "key \"a\": The value must be an object", true},
+    });
+    EXPECT_EQ(show(call("made").get()), "{[2] [P[9]]}");
+    constexpr std::size_t many = 20000;
+    Value const large(ArrayPtr(hvCreateCellMatrix(many, 2)));
+    for (std::size_t i = 0; i < many; ++i) {
+        hvSetCell(large.get(), i, hvCreateString(std::to_string(i).c_str()));
+        hvSetCell(large.get(), many + i, number(1).release());
+    }
+    EXPECT_EQ(scalar<double>(call("count", large)), many);
 }
