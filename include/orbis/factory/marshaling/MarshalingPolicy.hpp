@@ -102,13 +102,13 @@ concept HasPolicy = requires { typename PolicyOf<T>; };
 
 /// Named classes, and references and pointers to them.
 template <class T>
-concept IsNamedObject = HasPolicy<T> && (std::same_as<PolicyOf<T>, NamedObjectPolicy> ||
-                                         std::same_as<PolicyOf<T>, NamedPointerPolicy>);
+concept IsNamedObject =
+    HasPolicy<T> && (std::same_as<PolicyOf<T>, NamedObjectPolicy> || std::same_as<PolicyOf<T>, NamedPointerPolicy>);
 
 /// References to non-const, unless to objects that scripts pass: outputs, which cannot be marshaled.
 template <class T>
 concept IsOutput = std::is_lvalue_reference_v<T> && !std::is_const_v<std::remove_reference_t<T>> &&
-                   !NamedType<std::remove_reference_t<T>>;
+                   !(HasPolicy<T> && std::same_as<PolicyOf<T>, NamedObjectPolicy>);
 
 /// Returns whether values of the type can be marshaled; stops compilation with a sentence otherwise.
 template <class T>

@@ -10,8 +10,8 @@
 
 namespace orbis::factory::detail {
 
-/// The entries of a map that a script passes: the rows of an array of two columns, keys and values, or the elements of a
-/// list of lists of two. None for null and for "[]".
+/// The entries of a map that a script passes: the rows of an array of two columns, keys and values, or the elements of
+/// a list of lists of two. None for null and for "[]".
 class ORBIS_FACTORY_API MapEntries {
 public:
     /// `map` outlives this. Throws the `not_convertible` error for an array of another class.
