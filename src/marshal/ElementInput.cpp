@@ -17,6 +17,7 @@
 #include "orbis/objectArrays.hpp"
 #include "string_matrix/string_matrix.hpp"
 
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -35,6 +36,8 @@ std::string withoutOrEmpty(std::string_view dataType)
     return std::string(dataType);
 }
 
+} // namespace
+
 bool isNothing(hvArray_tag const* element)
 {
     if (Tarnwick::String::isString(element))
@@ -42,6 +45,8 @@ bool isNothing(hvArray_tag const* element)
     return !element || (element->_get_class_id_non_trivial() == hvDOUBLE_CLASS && element->get_dimensions()[0] == 0 &&
                         element->get_dimensions()[1] == 0);
 }
+
+namespace {
 
 bool isText(hvArray_tag const* element)
 {
@@ -100,6 +105,23 @@ hvArray_tag* readNumbers(hvArray_tag const* element, hvClassID target)
     return numbers.release();
 }
 
+/// "[]" is an empty list of anything: a list type that does not take it gets an empty cell array instead.
+hvArray_tag* convertRegistered(COSTypeConversion& conversion, hvArray_tag* element, bool isVector)
+{
+    hvArray_tag* converted = nullptr;
+    try {
+        conversion.convertFromHost(&converted, element);
+    } catch (std::bad_alloc const&) {
+        throw;
+    } catch (...) {
+        if (!isVector || !isNothing(element))
+            throw;
+        NewArray const none(hvCreateCellMatrix(0, 0));
+        conversion.convertFromHost(&converted, none.get());
+    }
+    return converted;
+}
+
 /// Returns the object of the enumerator with the name that `element` has; null when there is none.
 hvArray_tag* readEnumerator(COSNameID const& className, hvArray_tag const* element)
 {
@@ -131,6 +153,21 @@ ElementType::ElementType(char const* dataType)
         kind_ = isScalar ? Kind::Scalar : Kind::Elements;
         numericClass_ = numeric.classID;
     }
+}
+
+int ElementType::exactness(hvArray_tag const* value) const
+{
+    if (isNothing(value))
+        return isOptional_ ? 2 : 0;
+    hvClassID const given = value->_get_class_id_non_trivial();
+    bool const isSingle = value->get_number_of_elements() == 1;
+    if (kind_ == Kind::Text)
+        return given == hvCHAR_CLASS ? 2 : 0;
+    if (kind_ == Kind::Named)
+        return given == hvOBJECT_CLASS && hvIsA(value, static_cast<COSString>(name_).c_str()) ? 2 : 0;
+    if (given != numericClass_ || (kind_ == Kind::Scalar && !isSingle))
+        return 0;
+    return kind_ == Kind::Elements && isSingle ? 1 : 2;
 }
 
 ElementInput::ElementInput(ElementType const& type, hvArray_tag const* element)
@@ -171,9 +208,7 @@ void ElementInput::convertNamed(ElementType const& type, hvArray_tag const* elem
 {
     auto* const array = const_cast<hvArray_tag*>(element);
     if (COSTypeConversion* const conversion = COSTypeRepository::getConversion("any", type.name_)) {
-        hvArray_tag* converted = nullptr;
-        conversion->convertFromHost(&converted, array);
-        value_ = COSValue(converted);
+        value_ = COSValue(convertRegistered(*conversion, array, type.isVector_));
         registered_ = &type.name_;
     } else if (hvArray_tag* const enumerator = readEnumerator(type.name_, element)) {
         value_ = COSValue(enumerator);

@@ -30,21 +30,12 @@ private:
     std::string reason_;
 };
 
-std::string reasonOfCurrentException()
+/// The message adds one.
+std::string withoutFullStop(std::string text)
 {
-    try {
-        throw;
-    } catch (std::bad_alloc const&) {
-        throw;
-    } catch (NotConvertible const& error) {
-        return error.reason();
-    } catch (foundation::core::except::IException const& error) {
-        return error.what();
-    } catch (std::exception const& error) {
-        return error.what();
-    } catch (...) {
-        return "something that is no exception was thrown";
-    }
+    if (text.ends_with('.'))
+        text.pop_back();
+    return text;
 }
 
 } // namespace
@@ -54,12 +45,26 @@ void throwNotConvertible(std::string const& reason)
     throw NotConvertible(reason);
 }
 
+std::string reasonOfCurrentException()
+{
+    try {
+        throw;
+    } catch (std::bad_alloc const&) {
+        throw;
+    } catch (NotConvertible const& error) {
+        return error.reason();
+    } catch (foundation::core::except::IException const& error) {
+        return withoutFullStop(error.what());
+    } catch (std::exception const& error) {
+        return withoutFullStop(error.what());
+    } catch (...) {
+        return "something that is no exception was thrown";
+    }
+}
+
 void rethrowAt(std::string const& place)
 {
-    std::string reason = reasonOfCurrentException();
-    if (reason.ends_with('.')) // the message adds one
-        reason.pop_back();
-    throw NotConvertible(place + ": " + reason);
+    throw NotConvertible(place + ": " + reasonOfCurrentException());
 }
 
 void rethrowAtElement(std::size_t index)

@@ -1,9 +1,17 @@
 #include "library/FunctionsTest.hpp"
 
 #include "orbis/factory.hpp"
+#include "orbis/factory/types/array.hpp"
+#include "orbis/factory/types/chrono.hpp"
+#include "orbis/factory/types/complex.hpp"
 #include "orbis/factory/types/map.hpp"
+#include "orbis/factory/types/nestedVectors.hpp"
 #include "orbis/factory/types/objectValues.hpp"
 #include "orbis/factory/types/pair.hpp"
+#include "orbis/factory/types/path.hpp"
+#include "orbis/factory/types/set.hpp"
+#include "orbis/factory/types/variant.hpp"
+#include "orbis/factory/types/wstring.hpp"
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -264,4 +272,148 @@ TEST_F(StandardTypesTest, MapsAreRowsOfKeysAndValues)
         hvSetCell(large.get(), many + i, number(1).release());
     }
     EXPECT_EQ(scalar<double>(call("count", large)), many);
+}
+
+TEST_F(StandardTypesTest, ListsOfOneTypeAreRowsOrCells)
+{
+    using Grid = std::vector<std::vector<std::int16_t>>;
+    publishFunctions(describeFunctions()
+                         .function("three", &same<std::array<std::int32_t, 3>>)
+                         .function("flags", &same<std::array<bool, 2>>)
+                         .function("texts", &same<std::array<std::string, 2>>)
+                         .function("grid", &same<Grid>)
+                         .function("lines", &same<std::vector<std::vector<std::string>>>)
+                         .function("points", &same<std::vector<Point>>)
+                         .function("maybe", &same<std::vector<std::optional<double>>>)
+                         .function("deep", &same<std::vector<std::vector<Parts>>>)
+                         .function("set", &same<std::set<std::int8_t>>)
+                         .function("reals", &same<std::unordered_set<double>>)
+                         .function("names", &same<std::set<std::string>>)
+                         .function("complex", &same<std::complex<double>>)
+                         .function("complexes", &same<std::vector<std::complex<float>>>));
+    auto const row = [](std::vector<double> const& numbers) { return Value(matrix(1, numbers.size(), numbers)); };
+    Value const a = text("a"), b = text("b"), one = row({1}), two = row({1, 2}), three = row({3, 1, 2});
+    Value const square(matrix<double>(2, 2, {1, 3, 2, 4})), half = row({1, 0.5}), nothing = none(), p = part(5);
+    Value const strings(ArrayPtr(host_extensions::createStringMatrix(1, 2)));
+    host_extensions::setString(strings.get(), 0, u"x");
+    host_extensions::setString(strings.get(), 1, u"y");
+    double const nan = std::numeric_limits<double>::quiet_NaN();
+    check({
+        {"three", three, "[3 1 2]"},
+        {"three", two, "needs 3 numbers, not 2", true},
+        {"three", row({1, 2, 0.5}), "element 2 (counted from 0): 0.5", true},
+        {"flags", row({1, 0}), "[1 0]"},
+        {"texts", list(a, b), "{'a' 'b'}"},
+        {"texts", strings, "{'x' 'y'}"},
+        {"texts", list(a, one), "element 1 (counted from 0): needs a text", true},
+        {"grid", list(three, nothing, two), "{[3 1 2] [] [1 2]}"},
+        {"grid", square, "{[1 2] [3 4]}"},
+        {"grid", two, "{[1 2]}"},
+        {"grid", nothing, "{}"},
+        {"grid", list(two, half), "element 1 (counted from 0): element 1 (counted from 0): 0.5 does not fit int16",
+         true},
+        {"grid", list(two, a), "element 1 (counted from 0): needs numbers, not char", true},
+        {"lines", list(list(a, b), nothing), "{{'a'; 'b'} {}}"},
+        {"lines", list(list(a, one)), "element 0 (counted from 0): Element 1 (counted from 0) is no text", true},
+        {"points", square, "{[1 2] [3 4]}"},
+        {"points", three, "element 0 (counted from 0): needs a list of 2 elements, not of 3", true},
+        {"maybe", list(one, nothing), "{[1] []}"},
+        {"maybe", three, "{[3] [1] [2]}"},
+        {"deep", list(list(p), nothing), "{{[P[5]]} {}}"},
+        {"set", three, "[1 2 3]"},
+        {"set", row({1, 2, 1}), "element 2 (counted from 0): it is there already", true},
+        {"set", row({300}), "300", true},
+        {"reals", three, "[1 2 3]"},
+        {"reals", row({1, nan}), "element 1 (counted from 0): NaN", true},
+        {"names", list(b, a), "{'a' 'b'}"},
+        {"names", list(b, a, b), "element 2 (counted from 0): it is there already", true},
+        {"complex", two, "[1 2]"},
+        {"complex", one, "[1 0]"},
+        {"complex", square, "needs one complex number, not 2", true},
+        {"complex", nothing, "needs one complex number, not 0", true},
+        {"complexes", square, "[1 2; 3 4]"},
+        {"complexes", Value(matrix<double>(3, 1, {1, 2, 3})), "[1 0; 2 0; 3 0]"},
+        {"complexes", three, "needs two columns, the real and the imaginary parts, not 3", true},
+        {"complexes", nothing, "[]"},
+    });
+}
+
+TEST_F(StandardTypesTest, VariantsTakeTheValuesOwnKindFirst)
+{
+    using Any =
+        std::variant<std::monostate, std::int32_t, double, bool, std::string, Part*, std::vector<double>, Named>;
+    publishFunctions(describeFunctions()
+                         .function(
+                             "index", +[](Any const& given) { return static_cast<double>(given.index()); })
+                         .function("same", &same<Any>)
+                         .function("number", &same<std::variant<std::int8_t, std::string>>));
+    Value const a = text("a"), one = number(1), yes(matrix<bool>(1, 1, {true})), p = part(5);
+    Value const pair = list(a, one), row(matrix<double>(1, 2, {1, 2})), whole(matrix<std::int32_t>(1, 1, {1}));
+    check({
+        {"index", none(), "[0]"},
+        {"index", whole, "[1]"},
+        {"index", Value(matrix<std::int8_t>(1, 1, {1})), "[1]"},
+        {"index", one, "[2]"},
+        {"index", yes, "[3]"},
+        {"index", a, "[4]"},
+        {"index", p, "[5]"},
+        {"index", row, "[6]"},
+        {"index", pair, "[7]"},
+        {"same", none(), "[]"},
+        {"same", pair, "{'a' [1]}"},
+        {"same", p, "[P[5]]"},
+        {"number", number(3), "[3]"},
+        {"number", number(0.5), "it fits none of the alternatives (0.5 does not fit int8; needs a text, not double)",
+         true},
+        {"same", list(a, a), "element 1 (counted from 0): needs a number, not char", true},
+    });
+}
+
+TEST_F(StandardTypesTest, TimesPathsAndWideTextsAreNumbersAndTexts)
+{
+    using namespace std::chrono;
+    using Days = duration<std::int16_t, std::ratio<86400>>;
+    using Moment = system_clock::time_point;
+    publishFunctions(describeFunctions()
+                         .function(
+                             "wait", +[](milliseconds given) { return static_cast<double>(given.count()); })
+                         .function(
+                             "half", +[](duration<float> given) { return given / 2; })
+                         .function("seconds", &same<seconds>)
+                         .function("days", &same<Days>)
+                         .function(
+                             "next", +[](Moment given) { return given + milliseconds(1500); })
+                         .function(
+                             "parent", +[](std::filesystem::path const& given) { return given.parent_path(); })
+                         .function("wide", &same<std::wstring>)
+                         .function(
+                             "widths", +[](std::wstring const& given) { return static_cast<double>(given.size()); })
+                         .function(
+                             "units", +[] {
+                                 return std::wstring{L'a', wchar_t(0xD800), wchar_t(0), L'b'};
+                             }));
+    double const nan = std::numeric_limits<double>::quiet_NaN();
+    auto const path = [](std::u16string_view text) { return Value(ArrayPtr(host_extensions::createText(text))); };
+    check({
+        {"wait", number(0.1), "[100]"},
+        {"wait", number(-1.0004), "[-1000]"},
+        {"half", number(3), "[1.5]"},
+        {"seconds", number(60), "[60]"},
+        {"seconds", number(1.5), "needs a whole number of units of 1 s, not 1.5", true},
+        {"seconds", number(1e19), "is no duration of this type", true},
+        {"wait", number(nan), "nan s is no duration of this type", true},
+        {"wait", number(-HUGE_VAL), "-inf s is no duration", true},
+        {"days", number(86400.0 * 2), "[172800]"},
+        {"days", number(86400.0 * 32768), "is no duration", true},
+        {"next", number(1000.25), "[1001.75]"},
+        {"next", text("now"), "VELMARA:dispatch:noMatch", true},
+        {"parent", path(u"a/b\u00e9\U0001F600/c"), "'a/b\u00e9\U0001F600'"},
+        {"parent", text(""), "''"},
+        {"parent", path({u"a\0b", 3}), "a path has no zero character", true},
+        {"parent", number(1), "VELMARA:dispatch:noMatch", true},
+        {"wide", path({u"\u00e9\U0001F600\xD800x", 5}), "'\u00e9\U0001F600\uFFFDx'"},
+        {"widths", path(u"\U0001F600"), sizeof(wchar_t) == 4 ? "[1]" : "[2]"},
+        {"wide", text(""), "''"},
+    });
+    EXPECT_EQ(call("units")->get_number_of_elements(), 4u);
 }

@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <concepts>
 #include <map>
 #include <string>
 #include <unordered_map>
@@ -97,8 +99,9 @@ public:
                 return keys.read(entries.key());
             });
             detail::atKey(key, [&] {
-                if (key != key)
-                    detail::throwNotConvertible("it has no place among others");
+                if constexpr (std::floating_point<Key<Map>>)
+                    if (std::isnan(key))
+                        detail::throwNotConvertible("it has no place among others");
                 if (!map.emplace(key, values.read(entries.value())).second)
                     detail::throwNotConvertible("it is there twice");
             });

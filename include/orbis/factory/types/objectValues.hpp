@@ -18,6 +18,11 @@ namespace orbis::factory {
 
 namespace detail {
 
+/// Classes whose objects cross by value.
+template <class T>
+concept IsObjectValue = HasPolicy<T> && !std::is_pointer_v<T> &&
+                        (std::same_as<PolicyOf<T>, NamedObjectPolicy> || std::same_as<PolicyOf<T>, ValueObjectPolicy>);
+
 /// The class of an element: an object, or a pointer that owns one.
 template <class E>
 struct ElementClass {
@@ -123,10 +128,7 @@ public:
 };
 
 template <class T>
-    requires detail::HasPolicy<T> &&
-             (std::same_as<detail::PolicyOf<T>, NamedObjectPolicy> ||
-              std::same_as<detail::PolicyOf<T>, ValueObjectPolicy>) &&
-             (!std::is_pointer_v<T>)
+    requires detail::IsObjectValue<T>
 struct MarshalingPolicy<std::vector<T>> {
     using Type = ObjectValuesPolicy;
 };

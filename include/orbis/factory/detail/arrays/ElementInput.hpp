@@ -10,6 +10,9 @@
 
 namespace orbis::factory::detail {
 
+/// Returns whether an element is what the host passes for no value: an empty cell, "[]" or a missing string.
+ORBIS_FACTORY_API bool isNothing(hvArray_tag const* element);
+
 /// The host data type of the elements of a list. The host converts whole inputs only, so lists convert their elements,
 /// by the rules that it has for inputs.
 class ORBIS_FACTORY_API ElementType {
@@ -18,6 +21,10 @@ public:
 
     /// Whether values are arrays of any size, as those of "double vector" are.
     bool isVector() const { return isVector_; }
+
+    /// Returns how well a value suits the type, before it is converted: 2 when it is one, 1 when it is a single value
+    /// of a vector type, 0 when it is another or that is not known.
+    int exactness(hvArray_tag const* value) const;
 
 private:
     friend class ElementInput;

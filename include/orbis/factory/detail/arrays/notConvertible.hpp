@@ -10,6 +10,9 @@ namespace orbis::factory::detail {
 /// Throws "orbis_factory:orbis_factory:not_convertible".
 [[noreturn]] ORBIS_FACTORY_API void throwNotConvertible(std::string const& reason);
 
+/// Inside a handler: returns the reason, or the text, of the exception being handled. Rethrows exhausted memory.
+ORBIS_FACTORY_API std::string reasonOfCurrentException();
+
 /// Inside a handler: throws the same with the text of the exception being handled after that of the place. Rethrows
 /// exhausted memory.
 [[noreturn]] ORBIS_FACTORY_API void rethrowAt(std::string const& place);
