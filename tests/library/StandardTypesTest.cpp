@@ -28,6 +28,10 @@ struct Part {
     inline static int alive = 0;
 };
 
+struct Counter {
+    int total = 0;
+};
+
 template <class T>
 T same(T value)
 {
@@ -416,4 +420,41 @@ TEST_F(StandardTypesTest, TimesPathsAndWideTextsAreNumbersAndTexts)
         {"wide", text(""), "''"},
     });
     EXPECT_EQ(call("units")->get_number_of_elements(), 4u);
+}
+
+namespace {
+
+struct Scale {
+    double factor;
+    double operator()(double number, double offset) const { return factor * number + offset; }
+};
+
+} // namespace
+
+TEST_F(StandardTypesTest, FunctorsKeepTheirState)
+{
+    auto const shared = std::make_shared<int>(0);
+    {
+        auto const count = [calls = 0, shared](double step) mutable {
+            return ++*shared, calls += static_cast<int>(step);
+        };
+        publishFunctions(describeFunctions()
+                             .function("count", count, "step", withDefaults(10.0))
+                             .function("scale", Scale{3}, "number, offset"));
+        registerModule("wheels", [shared](Module& wheels) {
+            wheels.publish<Counter>("Counter")
+                .constructor()
+                .method("add", [shared](Counter* self, int by) { return self->total += by + *shared; })
+                .method("self", owned([shared](Counter*) { return new Counter; }));
+        });
+    }
+    EXPECT_EQ(scalar<std::int32_t>(call("count", number(2))), 2);
+    EXPECT_EQ(scalar<std::int32_t>(call("count")), 12) << "one state for all signatures";
+    EXPECT_EQ(*shared, 2);
+    EXPECT_EQ(scalar<double>(call("scale", number(2), number(1))), 7);
+    ArrayPtr const counter = hvm().construct("wheels.Counter");
+    EXPECT_EQ(scalar<std::int32_t>(hvm().call(counter.get(), "add", inputs(number(5)))), 7);
+    EXPECT_FALSE(velmara::isSameObject(hvm().call(counter.get(), "self").get(), counter.get()));
+    endHvm();
+    EXPECT_EQ(shared.use_count(), 1) << "released with the virtual machine";
 }
