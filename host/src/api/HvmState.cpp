@@ -29,6 +29,7 @@ HvmState::~HvmState()
         packages_.finalizeAllObjects();
         modules_.terminateAll(terminationReport_);
         packages_.clear();
+        functions().end();
     }
     clearStorage();
     packages_.clear(); // what deleters may have published

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "errors/MessageCatalog.hpp"
+#include "machine/HeldFunction.hpp"
 #include "machine/HvmStorage.hpp"
 #include "memory/Retirable.hpp"
 
@@ -42,6 +43,7 @@ public:
     HvmStorage& storage() { return storage_; }
     PackageTree& packages() const { return *parts_.packages; }
     TypeRepository& types() const { return *parts_.types; }
+    FunctionList& functions() { return *functions_; }
     DeferredFinalizer& deferredFinalizer() const { return *parts_.deferredFinalizer; }
 
     /// False once the virtual machine has begun to clear its storage.
@@ -118,7 +120,11 @@ protected:
     explicit Machine(Parts const& parts) : parts_(parts) {}
     ~Machine() = default;
 
-    void beginEnding() { isEnding_ = true; }
+    void beginEnding()
+    {
+        isEnding_ = true;
+        functions_->beginEnding();
+    }
 
     /// From here on the observer is not called either.
     void clearStorage();
@@ -129,6 +135,7 @@ private:
     Parts parts_;
     LeakReport leakReport_;
     HvmStorage storage_;
+    std::shared_ptr<FunctionList> functions_ = std::make_shared<FunctionList>(*this);
     RetiredList retired_;
     ObjectObserver* observer_ = nullptr;
     int entries_ = 0;
