@@ -54,10 +54,12 @@ void Session::bindExit()
 
 void Session::end()
 {
+    host_.running() = lua_.get();
     if (lua_)
         lua_resetthread(lua_.get()); // closes `<close>` variables while everything still works
     host_.beginClosing();
     lua_.reset();
+    host_.running() = nullptr;
     host_.clear();
 }
 

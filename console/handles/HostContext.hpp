@@ -30,6 +30,10 @@ public:
     /// The virtual machine in use: the innermost one.
     Hvm& hvm() { return *machines_.back(); }
 
+    /// The script, or the coroutine of it, that has called the host most recently and is still running; null once the
+    /// state was closed. Functions of the script that the host calls run there.
+    lua_State*& running() { return running_; }
+
     /// Set for the next call: its result stays an array of the host.
     bool& keepsNextArray() { return keepsNextArray_; }
 
@@ -63,6 +67,7 @@ private:
     /// A virtual machine that reports modules that fail to terminate, and leaks where asked for.
     std::unique_ptr<Hvm> createMachine();
 
+    lua_State* running_;
     std::vector<std::unique_ptr<Hvm>> machines_;
     ArrayStack arrays_;
     HeldArrays heldArrays_;
