@@ -65,10 +65,11 @@ void Session::end()
 
 int Session::finish(int code)
 {
+    bool const isComplete = !host_.isInCallback(); // else native code is never returned to, and leaves what it holds
     end();
     if (host_.hasFailed() && code == exitSuccess)
         code = exitScriptError;
-    return finishOutput(reportLeft() ? exitLeaks : code);
+    return finishOutput(isComplete && reportLeft() ? exitLeaks : code);
 }
 
 bool Session::reportLeft() const

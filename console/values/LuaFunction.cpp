@@ -100,6 +100,13 @@ void LuaFunction::invoke(orbis::COSClient const*, int& outputCount, orbis::COSVa
         fail("ending", "the script has ended: its functions cannot be called any more");
     if (!lua_checkstack(L, 3))
         throw Error::outOfMemory();
+    ArrayStack::Frame frame(host_.arrays());
+    for (int i = 0; i < inputCount; ++i)
+        if (hvArray_tag* const array = inputs[i].array()) {
+            array->add_reference();
+            frame.push(ArrayPtr(array));
+        }
+    HostContext::Callback const callback(host_);
     Call call{*this, {inputs, static_cast<std::size_t>(inputCount)}, {}, {}};
     lua_pushcfunction(L, runProtected);
     lua_pushlightuserdata(L, &call);

@@ -199,6 +199,14 @@ ArrayPtr callWith(FunctionHandle const& function, COSValue number)
     return matrix<double>(1, 1, {call.invoke("double scalar").scalar<double>()});
 }
 
+/// The number that a probe holds, 0 for anything else.
+double scalarOf(COSValue const& probe)
+{
+    auto const& value = static_cast<Probe*>(omGetArrayElement(probe.array(), 0)->getNativeObject(probeClass))->value;
+    bool const isNumber = value->_get_class_id_non_trivial() == hvDOUBLE_CLASS && value->get_number_of_elements() == 1;
+    return isNumber ? *static_cast<double const*>(host_extensions::getData(value.get())) : 0;
+}
+
 /// What `action` gives, or the text of what it throws.
 template <class F>
 ArrayPtr attempt(F const& action)
@@ -246,6 +254,12 @@ public:
         });
         add("kept", {number}, [](auto in) { return callWith(kept.value(), in[0]); });
         add("keptOnThread", {}, [](auto) { return attemptOnThread([] { return callWith(*kept, COSValue(1.0)); }); });
+        add("with", {{probeClass, "probe"}, {"function", "function"}}, [](auto in) {
+            host_extensions::FunctionCall call(FunctionHandle(in[1].array()));
+            call.addInput(probeClass, COSValue(copyOf(in[0].array()).release()));
+            call.invoke("void");
+            return matrix<double>(1, 1, {scalarOf(in[0])});
+        });
         add("drop", {}, [](auto) { return drop(); });
         add("dropOnThread", {}, [](auto) { return attemptOnThread(drop); });
         add("multiplier", {{"double scalar", "factor"}}, [number](auto in) {

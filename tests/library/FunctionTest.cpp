@@ -70,6 +70,8 @@ protected:
             functions.function(
                 "keep", +[](Unary function) { kept = std::move(function); });
             functions.function(
+                "kept", +[] { return kept; });
+            functions.function(
                 "adder", +[](double summand) -> Unary {
                     return summand == 0 ? Unary() : [summand](double number) { return number + summand; };
                 });
@@ -149,6 +151,9 @@ TEST_F(FunctionTest, NativeFunctionsAreCalledByScripts)
     EXPECT_EQ(errorOf([&] { hvm().callFunction(adder.get(), inputs(copy)); }), "VELMARA:dispatch:noMatch");
     EXPECT_EQ(errorOf([&] { hvm().callFunction(number(1).get()); }), "VELMARA:array:notFunction");
     EXPECT_EQ(call("adder", number(0)), nullptr);
+    ArrayPtr const own = giving(1);
+    call("keep", own);
+    EXPECT_EQ(getFunction(call("kept").get()), getFunction(own.get()));
 }
 
 TEST_F(FunctionTest, ObjectsAreLentForTheCall)

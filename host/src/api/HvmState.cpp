@@ -35,7 +35,7 @@ HvmState::~HvmState()
     packages_.clear(); // what deleters may have published
     types_.clear();
     clearStorage(); // what was stored meanwhile, while the modules' code is there
-    retire(nullptr);
+    destroyRetired();
     makeCurrent(previous == this ? nullptr : previous);
     Hvm::Scope::forget(*this);
 }

@@ -71,6 +71,11 @@ FunctionHandle::~FunctionHandle()
     heldIn(function_).releaseAnywhere();
 }
 
+hvArray* createFunction(FunctionHandle const& function)
+{
+    return Array::createFunction(heldIn(function.function_));
+}
+
 struct FunctionCall::State {
     explicit State(FunctionHandle const& called)
         : handle(called),

@@ -129,6 +129,9 @@ protected:
     /// From here on the observer is not called either.
     void clearStorage();
 
+    /// Also inside of native code: a callback that ends the process never returns to it.
+    void destroyRetired() noexcept { retired_.destroyAll(); }
+
 private:
     void passCallBoundary() noexcept;
 

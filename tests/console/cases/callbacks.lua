@@ -89,6 +89,13 @@ local routine = coroutine.wrap(function()
 end)
 routine()
 
+-- what native code uses stays meanwhile
+local used, unused = cases.Probe(), cases.Probe()
+used.value = 5
+shows("in use", pcall(callbacks.with, used, function(x) delete({unused}) delete(x) end))
+shows("in use", pcall(callbacks.with, used, function() unloadmodule("console_cases") end))
+show("used", isvalid(used), isvalid(unused), callbacks.with(used, function() end))
+
 -- another virtual machine
 callbacks.keep(double)
 withvm(function()

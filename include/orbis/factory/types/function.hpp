@@ -27,8 +27,8 @@ namespace orbis::factory {
 /// Its result is converted as an argument of a member is, and must own what it holds. What the script's function throws
 /// leaves it as a `std::exception`, and reaches the calling script unchanged if native code lets it pass.
 ///
-/// As a result it is a function for the script; an empty one is none. An argument is never empty: take a
-/// `std::optional` where the script may pass none.
+/// As a result it is a function for the script, the script's own where it is that; an empty one is none. An argument is
+/// never empty: take a `std::optional` where the script may pass none.
 class FunctionPolicy {};
 
 namespace detail {
@@ -41,14 +41,27 @@ consteval bool ownsWhatItHolds()
         return true;
     else if constexpr (std::is_reference_v<T> || std::is_pointer_v<T>)
         return false;
-    else if constexpr (!isMarshalable<T>())
-        return true; // what is wrong has been said
+    else if constexpr (!HasPolicy<T>)
+        return true;
     else if constexpr (isView<T>())
         return false;
     else if constexpr (requires { typename T::value_type; })
         return ownsWhatItHolds<typename T::value_type>();
     else
         return true;
+}
+
+/// Returns whether a function can return the type; stops compilation with a sentence otherwise.
+template <class R>
+consteval bool isFunctionResult()
+{
+    static_assert(ownsWhatItHolds<R>(), "A function that scripts implement cannot return a pointer, a reference or a "
+                                        "view, as nothing keeps alive what it refers to: return a value or a shared "
+                                        "pointer.");
+    if constexpr (std::is_void_v<R> || !ownsWhatItHolds<R>())
+        return true;
+    else
+        return isMarshalable<R>();
 }
 
 /// References to objects of native code are lent to the script.
@@ -121,6 +134,8 @@ template <class R, class... A>
 class ScriptFunction {
 public:
     explicit ScriptFunction(hvArray_tag const* function) : function_(function) {}
+
+    hvArray* toHost() const { return host_extensions::createFunction(function_); }
 
     R operator()(A... arguments) const
     {
@@ -208,8 +223,11 @@ public:
     template <class Function>
     static void toHost(Function const& function, hvArray** out)
     {
-        if (function)
-            *out = host_extensions::createFunction(new typename detail::FunctionTypes<Function>::Native(function));
+        using Types = detail::FunctionTypes<Function>;
+        if (auto const* const ofScript = function.template target<typename Types::Script>())
+            *out = ofScript->toHost();
+        else if (function)
+            *out = host_extensions::createFunction(new typename Types::Native(function));
     }
 
     template <class Function>
@@ -229,10 +247,7 @@ public:
 template <class R, class... A>
 struct MarshalingPolicy<std::function<R(A...)>> {
     static_assert((true && ... && detail::isMarshalable<A>()));
-    static_assert(detail::ownsWhatItHolds<R>(),
-                  "A function that scripts implement cannot return a pointer, a reference "
-                  "or a view, as nothing keeps alive what it refers to: return a value or "
-                  "a shared pointer.");
+    static_assert(detail::isFunctionResult<R>());
     using Type = FunctionPolicy;
 };
 

@@ -40,9 +40,13 @@ public:
 
 private:
     friend class FunctionCall;
+    friend ORBIS_HOST_API hvArray* createFunction(FunctionHandle const& function);
 
     void* function_;
 };
+
+/// Returns a new array, owned by the caller, that holds the same function.
+ORBIS_HOST_API hvArray* createFunction(FunctionHandle const& function);
 
 /// One call of a function by native code. Threading: on the thread of the function's virtual machine.
 class ORBIS_HOST_API FunctionCall {
