@@ -74,10 +74,10 @@ ConversionRank ConvertedInputs::addArray(TypeReference const& type, hvArray_tag*
         rank = addElements(type, input);
     else if (type.kind == TypeKind::Any)
         rank = anyRank;
-    else if (type.kind == TypeKind::Function)
-        rank = Array::of(input)->function() ? exactRank : notConvertible;
     else if (type.kind == TypeKind::Named)
         rank = addNamed(type, input);
+    else if (type.kind == TypeKind::Function)
+        rank = Array::of(input)->function() ? exactRank : notConvertible;
     if (rank != notConvertible)
         ++count_;
     return rank;
