@@ -8,8 +8,6 @@
 /// A compass needle, which has a heading once it has been turned.
 class Needle {
 public:
-    virtual ~Needle() = default;
-
     std::optional<Angle> heading() const { return heading_; }
 
     /// Turns clockwise and returns the new heading.
@@ -26,32 +24,11 @@ private:
     std::optional<Angle> heading_;
 };
 
-template <>
-struct orbis::factory::HostClass<Needle> {
-    static constexpr char const* name = "compass.Needle";
-};
-
-namespace {
-
-using namespace orbis::factory;
-
-class NeedleInfo final : public HandleClassInfo<Needle, 1> {
-public:
-    NeedleInfo() : HandleClassInfo("compass.Needle", "A compass needle; angles are in degrees") {}
-
-    void initializeClass(orbis::COSClass* cls) override
-    {
-        Angle const quarter{90 * Angle::radiansOfDegree};
-        publish(cls, describe<Needle>()
-                         .constructor()
-                         .method("turn", &Needle::turn, "by", withDefaults(quarter))
-                         .property("heading", &Needle::heading, &Needle::setHeading));
-    }
-};
-
-} // namespace
-
-void publishModule(orbis::COSPackage* package)
+void publishModule(orbis::factory::Module& compass)
 {
-    package->addClass(new NeedleInfo);
+    Angle const quarter{90 * Angle::radiansOfDegree};
+    compass.publish<Needle>("Needle", "A compass needle; angles are in degrees")
+        .constructor()
+        .method("turn", &Needle::turn, "by", orbis::factory::withDefaults(quarter), "Turns clockwise")
+        .property("heading", &Needle::heading, &Needle::setHeading, "Nothing until it was turned");
 }

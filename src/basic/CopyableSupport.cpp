@@ -3,44 +3,31 @@
 #include "orbis/factory/ownership/FooRegistry.hpp"
 #include "orbis/factory/ownership/HvmScoped.hpp"
 
-#include <boost/container/flat_set.hpp>
+#include "basic/HostDependents.hpp"
 
 namespace orbis::factory::CopyableSupport {
 
-namespace {
-
-// A sorted array, as only few objects are under construction at a time.
-struct UnconstructedSet {
-    boost::container::flat_set<void const*> objects;
-    bool& isAny = basic::registry().isAnyUnconstructed; // the table is created first, and so destroyed later
-};
-
-UnconstructedSet& unconstructed()
-{
-    return basic::HvmScoped<UnconstructedSet>::get();
-}
-
-} // namespace
+using basic::FooRegistry;
 
 void addToUnconstructedSet(void const* object)
 {
-    UnconstructedSet& set = unconstructed();
-    set.objects.insert(object);
-    set.isAny = true;
+    basic::HvmScoped<FooRegistry>::get().requireDependents().unconstructed.insert(object);
 }
 
 bool isInUnconstructedSet(void const* object)
 {
-    return unconstructed().objects.contains(object);
+    FooRegistry const& table = basic::registry();
+    return table.dependents && table.dependents->unconstructed.contains(object);
 }
 
 [[gnu::noinline]] void removeFromUnconstructedSet(void const* object)
 {
-    auto* const set = basic::HvmScoped<UnconstructedSet>::find();
-    if (!set || !set->isAny)
+    FooRegistry* const table = basic::HvmScoped<FooRegistry>::find();
+    if (!table || !table->dependents || table->dependents->unconstructed.empty())
         return;
-    set->objects.erase(object);
-    set->isAny = !set->objects.empty();
+    auto& set = table->dependents->unconstructed;
+    if (auto const found = set.find(object); found != set.end())
+        set.erase(found);
 }
 
 } // namespace orbis::factory::CopyableSupport

@@ -51,8 +51,9 @@ bool FooRegistry::bind(void* object, COSInterface* host, COSNameID const& classN
         history()->remember(*this, object, host, className);
     if (!spare_) [[unlikely]]
         return bindFirst(object, host);
-    *spare_.mapped() = RegistryEntry(object, host);
+    RegistryEntry* const entry = spare_.mapped();
     spare_.key() = object;
+    *entry = RegistryEntry(object, host);
     insert(end(), std::move(spare_)); // the overload with a hint leaves a node that it does not insert
     return spare_.empty() || isBoundTo(object, host);
 }
@@ -104,9 +105,11 @@ bool FooRegistry::take(void const* object, COSInterface const* host, COSInterfac
     if (!mapping) [[unlikely]]
         return false;
     bound = mapping.mapped()->host;
-    if (bound != host && host) [[unlikely]] {
-        putBack(std::move(mapping));
-        return false;
+    if (bound != host) [[unlikely]] {
+        if (host) {
+            putBack(std::move(mapping));
+            return false;
+        }
     }
     if (!spare_) [[likely]]
         spare_ = std::move(mapping);
@@ -188,7 +191,7 @@ namespace {
 [[gnu::flatten]] void detail::bindConstructed(COSInterface* host, COSNameID const& className, void* object)
 {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
-    if (table.isAnyUnconstructed) [[unlikely]]
+    if (table.dependents) [[unlikely]]
         CopyableSupport::removeFromUnconstructedSet(object);
     if (!table.bind(object, host, className)) [[unlikely]]
         rebind(host, className, object);
@@ -199,6 +202,15 @@ namespace {
 {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
     return table.unbind(object, host) ? object : nullptr;
+}
+
+[[gnu::flatten]] void* detail::forgetBinding(COSInterface const* host, void* object, bool& isOwned)
+{
+    basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
+    bool const wasBound = table.unbind(object, host);
+    bool const wasShared = table.dependents && table.dependents->shares.drop(host);
+    isOwned = wasBound && !wasShared;
+    return wasBound ? object : nullptr;
 }
 
 } // namespace orbis::factory

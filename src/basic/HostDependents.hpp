@@ -5,6 +5,7 @@
 
 #include "orbis/COSNameID.hpp"
 
+#include <boost/container/flat_set.hpp>
 #include <boost/unordered_map.hpp>
 
 #include <memory>
@@ -36,8 +37,9 @@ struct BindingHistory {
     std::set<std::pair<COSInterface const*, void const*>> unbound;
 };
 
-/// What depends on host objects of one virtual machine, besides their bindings.
+/// What the library knows of the objects of one virtual machine, besides their bindings.
 struct HostDependents {
+    /// Whether nothing depends on any host object.
     bool empty() const noexcept { return handles.empty() && shares.empty() && superseded.empty() && !history; }
 
     /// Call after erasing the binding of `object` to `host`. Releases the references of handles for it, which may
@@ -58,6 +60,9 @@ struct HostDependents {
 
     /// Superseded bindings: addresses bound to a host object that has come to record another one.
     std::set<std::pair<COSInterface const*, void const*>> superseded;
+
+    /// The unconstructed set. A sorted array, as only few objects are under construction at a time.
+    boost::container::flat_set<void const*> unconstructed;
 
     std::unique_ptr<BindingHistory> history; ///< only in a virtual machine that reports leaks
 };

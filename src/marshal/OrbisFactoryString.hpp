@@ -9,8 +9,10 @@ namespace orbis::factory {
 /// The host data type of one UTF-16 string.
 class OrbisFactoryString final : public StringDataType {
 public:
+    static constexpr char const* name = "OrbisFactoryString scalar";
+
     char const* cppTypeName() const override { return "fl::ustring"; }
-    char const* scalarTypeName() const override { return "OrbisFactoryString scalar"; }
+    char const* scalarTypeName() const override { return name; }
 
     /// Orders by UTF-16 code unit.
     std::uint32_t compareValues(COSValue a, COSValue b) const override;

@@ -9,8 +9,10 @@ namespace orbis::factory {
 /// The host data type of a vector of UTF-16 strings: string arrays, and cell arrays of character arrays.
 class OrbisFactoryStringVector final : public StringDataType {
 public:
+    static constexpr char const* name = "OrbisFactoryString vector";
+
     char const* cppTypeName() const override { return "std::vector<fl::ustring>"; }
-    char const* scalarTypeName() const override { return "OrbisFactoryString vector"; }
+    char const* scalarTypeName() const override { return name; }
 
     /// Vectors are unordered: returns 0 when equal, else 2.
     std::uint32_t compareValues(COSValue a, COSValue b) const override;

@@ -68,6 +68,11 @@ void Module::addClass(detail::NamedClass const& named, std::unique_ptr<ClassDesc
     package_.addClass(new NamedClassInfo(named, std::move(description), text));
 }
 
+void Module::addErrorKind(host_extensions::ErrorKind kind)
+{
+    host_extensions::addErrorKind(std::move(kind));
+}
+
 void Module::complete()
 {
     factory::publish(&package_, functions_);

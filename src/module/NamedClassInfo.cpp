@@ -1,7 +1,6 @@
 #include "module/NamedClassInfo.hpp"
 
 #include "orbis/factory/detail/bindings/bindings.hpp"
-#include "orbis/factory/detail/bindings/hostShares.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -28,9 +27,9 @@ void* NamedClassInfo::createInstanceData()
 
 bool NamedClassInfo::destroyInstanceData(COSInterface* object, void* data)
 {
-    void* const forgotten = detail::forgetBinding(object, data);
-    bool const isOthers = detail::dropShare(object);
-    if (forgotten && !isOthers)
+    bool isOwned = false;
+    void* const forgotten = detail::forgetBinding(object, data, isOwned);
+    if (isOwned)
         discardNative(forgotten);
     return forgotten != nullptr;
 }

@@ -195,6 +195,14 @@ hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOw
     return array;
 }
 
+hvArray_tag* announcePart(void* bound, char const* className, COSInterface* whole)
+{
+    if (COSInterface* const host = findHost(bound, className, whole))
+        return omCreateORBISScalar(host);
+    HostShares::Share const part = PartOf{COSInterfacePtr(whole)};
+    return createHost(bound, className, false, &part);
+}
+
 hvArray_tag* announceShared(NamedClass const& named, void const* object, std::shared_ptr<void> share)
 {
     if (!object)

@@ -14,6 +14,7 @@
 SYSTEM_ALLOCATOR(malloc, std::size_t)
 SYSTEM_ALLOCATOR(calloc, std::size_t, std::size_t)
 SYSTEM_ALLOCATOR(realloc, void*, std::size_t)
+SYSTEM_ALLOCATOR(memalign, std::size_t, std::size_t)
 
 namespace {
 
@@ -61,4 +62,16 @@ void* operator new(std::size_t size)
 void* operator new[](std::size_t size)
 {
     return operator new(size);
+}
+
+void* operator new(std::size_t size, std::align_val_t alignment, std::nothrow_t const&) noexcept
+{
+    return fails() ? nullptr : SYSTEM(memalign)(static_cast<std::size_t>(alignment), size);
+}
+
+void* operator new(std::size_t size, std::align_val_t alignment)
+{
+    if (void* const memory = operator new(size, alignment, std::nothrow))
+        return memory;
+    throw std::bad_alloc();
 }

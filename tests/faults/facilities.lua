@@ -35,6 +35,10 @@ for i = 1, 30 do text[i] = "text that is not short: " .. i end
 local strings = orbis_factory.P1.C1.tailor(array("string", {text}))
 return {strings, {strings, {strings}}, array("int16", {{1, 2}, {3, 4}}), null, text[1]}
 
+-- each: texts that are copied with their array
+local text = "text that is not short"
+return orbis_factory.P1.C1.tailor(array("string", {text, text}))
+
 pcall(enumeration, "vehicle.Gear", {"First", "Second", "Neutral", "Reverse"})
 local box = orbis_factory.NP1.N2.gearbox()
 box.gear = "Second"
@@ -56,3 +60,11 @@ for i = 1, 110 do
   outer.other, node = node, outer
 end
 print(node.metres)
+
+-- each: a shortage while an error becomes text is an error of its own
+local err = select(2, pcall(delete, 5))
+local isText, reason = pcall(tostring, err)
+reason = type(reason) == "table" and reason.identifier or reason
+if not isText and reason ~= "not enough memory" and reason ~= "VELMARA:memory:exhausted" then wrong = reason or "none" end
+print(wrong)
+return err.identifier

@@ -81,9 +81,8 @@ class Run {
 public:
     enum Way { ArraysFirst = 1, MachineFirst, OnAnotherThread, BesideAnother, NativesOutlive, ways = NativesOutlive };
 
-    Run()
+    explicit Run(console::CommandLine line = {}) : session_(line)
     {
-        console::CommandLine line;
         line.task = console::CommandLine::Task::Code;
         isReady_ = console::runConsole(session_, line, {}) == 0;
     }
@@ -113,21 +112,34 @@ public:
         return orbis::factory::check();
     }
 
+    /// Drops what native code keeps.
+    void drop()
+    {
+        dropNatives();
+        kept_.clear();
+    }
+
     void end(int way)
     {
         std::optional<velmara::Hvm> other;
         std::optional<velmara::Hvm::Scope> scope;
         if (way == BesideAnother)
             scope.emplace(other.emplace());
+        if (way == ArraysFirst)
+            drop();
         if (way != NativesOutlive)
             dropNatives();
-        if (way == ArraysFirst)
-            kept_.clear();
         if (way == OnAnotherThread)
-            std::thread([this] { session_.end(); }).join();
+            std::thread([this] { // which has counted nothing before
+                faults::shortage = Shortage::UntilEnd;
+                faults::isArmed = true;
+                session_.end();
+                faults::isArmed = false;
+                faults::shortage = Shortage::None;
+            })
+                .join();
         session_.end();
-        kept_.clear();
-        dropNatives();
+        drop();
         if (other)
             other->defineEnumeration("still.Alive", {{velmara::EnumeratorRecord{"Yes", 1}}});
     }
@@ -212,7 +224,9 @@ void drive(Script& script)
     std::size_t const last = script.steps.size() - 1;
     std::optional<Run> run;
     begin(run);
+    std::size_t const interval = faults::allocationInterval;
     for (std::size_t i = 0; i <= last; ++i) {
+        faults::allocationInterval = script.steps[i].starts_with("-- each") ? 1 : interval;
         std::string const output = run->step(script.steps[i], true);
         if (faults::shortage == Shortage::UntilEnd)
             continue;
@@ -232,6 +246,7 @@ void drive(Script& script)
             finishChild(script);
         }
     }
+    faults::allocationInterval = interval;
     faults::isArmed = true;
     run->end(Run::ArraysFirst);
     faults::isArmed = false;
@@ -240,13 +255,34 @@ void drive(Script& script)
         finishChild(script);
 }
 
+/// A script that runs again and again leaves nothing with the session, also where that remembers bindings for its
+/// report.
+void expectNoGrowth(Script const& script)
+{
+    console::CommandLine line;
+    line.reportsLeaks = true;
+    Run run(line);
+    std::size_t before = 0, after = 0;
+    for (int round = 0; round < 4; ++round) {
+        before = after;
+        for (std::string const& step : script.steps)
+            run.step(step);
+        run.drop();
+        run.step("collectgarbage() collectgarbage()");
+        run.drop();
+        after = allocatedBytes();
+    }
+    expect(after == before, script.name + " leaves " + std::to_string(after - before) + " bytes with each run");
+}
+
 constexpr char const* unload = "for _, module in ipairs(modules()) do unloadmodule(module.name) end";
 constexpr char const* tour = R"(
 local function show(text, value, expected) print(text, tostring(value), value == expected or tostring(expected)) end
 local function refused(text, f, ...) print(text, (select(2, pcall(f, ...)))) end
 return assert(load([==[%]==]))(print, show, refused))";
 
-/// The script of a file. What is not of the tour has its steps between empty lines.
+/// The script of a file. What is not of the tour has its steps between empty lines; in one that begins with "-- each",
+/// each allocation is driven.
 Script scriptOf(std::filesystem::path const& file, bool isTour)
 {
     Script script{file.stem().string(), !isTour, {"loadmodule('" + library + "') loadmodule('" + probe + "')"}};
@@ -278,8 +314,10 @@ int main(int count, char** words)
     for (int i = 3; i < count; ++i) {
         if (words[i] == std::string("--"))
             isTour = false;
-        else if (Script script = scriptOf(words[i], isTour); true)
+        else if (Script script = scriptOf(words[i], isTour); true) {
+            expectNoGrowth(script);
             drive(script);
+        }
     }
     return faults::report();
 }

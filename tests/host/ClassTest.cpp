@@ -1,6 +1,7 @@
 #include "HvmTest.hpp"
 #include "host/TestDescriptors.hpp"
 
+#include <new>
 #include <stdexcept>
 
 using namespace described;
@@ -15,12 +16,15 @@ TEST_F(ClassTest, FailedDescriptionIsDroppedNamedAndTriedAgain)
         cls->addMethod(answering("f", {"A"}, 1));
         if (++attempts == 1)
             throw std::runtime_error("not yet");
+        if (attempts == 2)
+            throw std::bad_alloc();
     }));
     EXPECT_EQ(attempts, 0) << "not before it is needed";
     expectMessage([&] { hvm().construct("A"); }, {"VELMARA:class:initialization: ", "\"A\"", "not yet"});
+    EXPECT_EQ(errorOf([&] { hvm().construct("A"); }), "VELMARA:memory:exhausted");
     EXPECT_EQ(hvm().describeClass("A").methods.size(), 1u);
     EXPECT_NE(orbis::COSClass::getClass("A"), nullptr);
-    EXPECT_EQ(attempts, 2);
+    EXPECT_EQ(attempts, 3);
 }
 
 TEST_F(ClassTest, RefusedMembersAreNotLeaked)

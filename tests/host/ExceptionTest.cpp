@@ -6,6 +6,7 @@
 #include "orbis/Enumeration.hpp"
 
 #include <cstdint>
+#include <new>
 
 namespace {
 
@@ -57,7 +58,9 @@ TEST_F(ExceptionTest, TextsAreFilledWithTheArguments)
     described::publish(new described::Class("Z", [&](orbis::COSClass* cls) {
         cls->addMethod(new described::Method("f", "", {}, [&](auto&&) { throw TestedError(tested_key({withZero})); },
                                              {.isStatic = true}));
+        cls->addMethod(new described::Method("g", "", {}, [](auto&&) { throw std::bad_alloc(); }, {.isStatic = true}));
     }));
+    EXPECT_EQ(errorOf([&] { hvm().callStatic("Z", "g"); }), "VELMARA:memory:exhausted");
     EXPECT_EQ(caught([&] { hvm().callStatic("Z", "f"); }, &velmara::Error::text), withZero + " and {1}");
     // A position and UTF-16 text, as errors about elements of containers have them.
     TestedError const made(

@@ -77,11 +77,14 @@ TEST_F(ModuleTest, WhatItsEntryPointsThrowNamesTheModule)
     refuse();
     expectMessage(load, parts);
     EXPECT_TRUE(hvm().modules().empty());
+    EXPECT_EQ(hvm().lookUp("host_test_module"), NameKind::None) << "what it had added is removed";
     orbis::COSPackage::removePackage("refuse_modules");
     load();
     refuse();
     expectMessage(unload, parts);
+    EXPECT_EQ(hvm().modules().size(), 1u) << "it stays";
     orbis::COSPackage::removePackage("refuse_modules");
+    unload();
 
     std::string reported;
     hvm().reportTerminations(

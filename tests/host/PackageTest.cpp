@@ -63,8 +63,12 @@ TEST_F(PackageTest, NestedNamesFindOrCreateTheirParents)
     EXPECT_EQ(messageIdOf([&] { b->addClass(new Class("a.C")); }), "VELMARA:class:otherPackage");
     EXPECT_EQ(messageIdOf([&] { b->addSubPackage(new Package("x.y")); }), "VELMARA:package:name");
     EXPECT_EQ(messageIdOf([&] { b->addFunction(answering("c", {}, 1)); }), "VELMARA:package:duplicate");
+    b->addFunction(answering("f", {}, 1));
+    EXPECT_EQ(messageIdOf([&] { b->addSubPackage(new Package("f")); }), "VELMARA:package:duplicate");
+    EXPECT_EQ(scalar<double>(hvm().callFunction("a.b.f")), 1);
     COSPackage::removePackage("a.b.c");
     COSPackage::removePackage("a.b");
+    EXPECT_EQ(errorOf([&] { hvm().callFunction("a.b.f"); }), "VELMARA:function:unknown");
     EXPECT_EQ(hvm().lookUp("a"), NameKind::None) << "an implied parent is removed with its content";
     COSPackage::removePackage("a");
 }
@@ -81,18 +85,19 @@ TEST_F(PackageTest, FailedPopulationDropsWhatWasAddedAndIsTriedAgain)
         publish(new Class("Global"));
         COSPackage::addPackage(new Package("gone"));
         COSPackage::removePackage("gone");
-        if (++attempts <= 2)
+        if (++attempts <= 3)
             throw std::runtime_error("not yet");
     }));
     COSPackage::addPackage(new Package("p.kept"));
     EXPECT_EQ(hvm().lookUp("Global"), NameKind::None) << "what fails is passed over";
     EXPECT_EQ(messageIdOf([] { COSPackage::getPackage("p.q"); }), "VELMARA:package:population");
+    EXPECT_EQ(errorOf([&] { hvm().callFunction("p.f"); }), "VELMARA:package:population");
     EXPECT_EQ(orbis::COSClass::getClass("Global"), nullptr);
     EXPECT_EQ(hvm().lookUp("other.x"), NameKind::None);
-    EXPECT_EQ(attempts, 2);
+    EXPECT_EQ(attempts, 3);
     EXPECT_EQ(hvm().lookUp("Global"), NameKind::Class) << "packages are populated before a name counts as unknown";
     velmara::PackageRecord const record = hvm().describePackage("p");
-    EXPECT_EQ(attempts, 3);
+    EXPECT_EQ(attempts, 4);
     EXPECT_EQ(record.packages, (std::vector<std::string>{"p.kept", "p.q"}));
     EXPECT_EQ(record.classes, (std::vector<std::string>{"p.C"}));
 }

@@ -134,7 +134,16 @@ TEST_F(BindingRegistryTest, NoBindingOutlivesItsHostObject)
              [](hvArray* array, COSInterface*, Plain&, Plain&) {
                  BindingRegistry::announceForConstructor(nullptr, plain(), array, true);
              },
-             [](hvArray*, COSInterface* host, Plain&, Plain&) { host->setValid(false); },
+             [](hvArray*, COSInterface* host, Plain&, Plain& q) {
+                 host->setValid(false);
+                 EXPECT_THROW(BindingRegistry::hijack(&q, &q, host, plain()), std::exception);
+                 EXPECT_FALSE(BindingRegistry::contains(&q)) << "what the host object refuses";
+             },
+             [](hvArray*, COSInterface* host, Plain& p, Plain& q) {
+                 static Plain other;
+                 BindingRegistry::hijack(&q, &q, host, plain());
+                 BindingRegistry::hijack(&p, &other, host, plain()); // which is bound, but not recorded
+             },
          }) {
         Plain p, q;
         ArrayPtr array = announce(&p);

@@ -66,6 +66,57 @@ struct LimitedInfo final : HandleClassInfo<Counted, 1> {
     inline static std::vector<Counted*> all;
 };
 
+/// A class whose objects the host deletes gives away the address of its first member, and of another one.
+struct Pair final {
+    Counted first, second;
+    Counted* one() { return &first; }
+    Counted* other() { return &second; }
+};
+
+} // namespace
+
+PUBLISHED_IN_TESTS(Pair)
+
+namespace {
+
+struct PairInfo final : OrbisFactoryClassInfo {
+    PairInfo() : OrbisFactoryClassInfo("tests.Pair", "") {}
+    void initializeClass(COSClass* cls) override
+    {
+        publish(cls, describe<Pair>()
+                         .constructor()
+                         .method("one", &Pair::one)
+                         .method("otherOf", [](Pair* pair) { return pair->other(); })
+                         .property("other", &Pair::other));
+    }
+    void* createInstanceData() override { return nullptr; }
+    bool destroyInstanceData(COSInterface* object, void* data) override
+    {
+        delete static_cast<Pair*>(detail::forgetBinding(object, data));
+        return true;
+    }
+    bool isHandle() const override { return true; }
+};
+
+TEST_F(ClassInfoTest, WhatLiesInsideAnObjectIsNeverTheHosts)
+{
+    registerOrbisPackage("tests", [](COSPackage* package) {
+        package->addClass(new PairInfo);
+        package->addClass(new LimitedInfo);
+    });
+    LimitedInfo::remaining = 2;
+    ArrayPtr pair = hvm().construct("tests.Pair");
+    ArrayPtr one = hvm().call(pair.get(), "one");
+    ArrayPtr const other = hvm().call(pair.get(), "otherOf");
+    EXPECT_TRUE(velmara::isSameObject(hvm().call(pair.get(), "one").get(), one.get()));
+    EXPECT_TRUE(velmara::isSameObject(hvm().get(pair.get(), "other").get(), other.get()));
+    one.reset();
+    EXPECT_EQ(Counted::alive, 2);
+    pair.reset();
+    EXPECT_TRUE(velmara::isValid(other.get())) << "it keeps its whole";
+    EXPECT_EQ(Counted::alive, 2);
+}
+
 TEST_F(ClassInfoTest, AResultThatCannotBeMarshaledStaysWithItsOwner)
 {
     registerOrbisPackage("tests", [](COSPackage* package) { package->addClass(new LimitedInfo); });

@@ -4,7 +4,9 @@
 #include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include <functional>
+#include <new>
 #include <stdexcept>
+#include <utility>
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -232,6 +234,18 @@ TEST_F(HierarchyTest, WhatCannotBeDescribedIsUnpublished)
     EXPECT_EQ(velmara::className(announce<Part>(new Wheel).get()), "tests.Part") << "tried in vain";
     publishClass<Node>(&describeNode);
     EXPECT_EQ(velmara::className(next(new Branch).get()), "tests.Branch");
+
+    static bool isMemoryLeft;
+    isMemoryLeft = false;
+    publishClass<Leaf>([](auto& c) {
+        if (!std::exchange(isMemoryLeft, true))
+            throw std::bad_alloc();
+        c.template inherits<Node>();
+    });
+    auto* const leaf = new Leaf;
+    ArrayPtr object;
+    EXPECT_THROW(object = announce<Node>(leaf), std::bad_alloc) << "which says nothing about the class";
+    EXPECT_EQ(velmara::className(announce<Node>(leaf).get()), "tests.Leaf");
 }
 
 TEST_F(HierarchyTest, InitializersThatWaitRunWhereTheirClassesMayBeNeeded)

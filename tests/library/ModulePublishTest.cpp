@@ -79,6 +79,38 @@ double total(Engine const& a, Engine b)
 
 struct Unpublished {};
 
+struct ParseError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+struct Code {
+    int number;
+};
+
+void fail(int how)
+{
+    switch (how) {
+    case 0:
+        throw ParseError("no number");
+    case 1:
+        throw Code{7};
+    case 2: {
+        struct : ParseError {
+            using ParseError::ParseError;
+        } const derived("derived");
+        throw derived;
+    }
+    case 3:
+        try {
+            throw std::logic_error("inner");
+        } catch (...) {
+            std::throw_with_nested(std::runtime_error("outer"));
+        }
+    default:
+        throw Exception("as before");
+    }
+}
+
 class ModulePublishTest : public HvmTest {
 protected:
     ModulePublishTest()
@@ -130,7 +162,8 @@ TEST_F(ModulePublishTest, ClassesFunctionsAndTheirTextsAreAsDescribed)
     EXPECT_EQ(car.methods.at(0).signature, "result = Car(name: char vector) -> cars.Car");
     EXPECT_EQ(car.properties.at(1).description, "As given");
     EXPECT_EQ(hvm().describeFunction("cars.total").description, "Of both");
-    EXPECT_EQ(hvm().describeFunction("cars.total").signature, "result = total(a: cars.Engine, b: cars.Engine) -> double scalar");
+    EXPECT_EQ(hvm().describeFunction("cars.total").signature,
+              "result = total(a: cars.Engine, b: cars.Engine) -> double scalar");
     // Named before the function's classes were, and without a constructor, which no script gets by itself.
     EXPECT_EQ(errorOf([&] { hvm().construct("cars.Engine"); }), "VELMARA:class:access");
     registerModule("wrong", [](Module& wrong) {
@@ -216,6 +249,29 @@ TEST_F(ModulePublishTest, AnyObjectIsSharedFromItsFirstSharedPointerOn)
     wheel = hvm().get(owner.get(), "spare");
     hvm().deleteObjects(owner.get());
     EXPECT_EQ(scalar<std::int32_t>(hvm().get(wheel.get(), "size")), 17);
+}
+
+TEST_F(ModulePublishTest, ErrorsHaveTheIdentifiersOfTheirTypes)
+{
+    auto const messageOf = [&](std::int32_t how) {
+        return caught([&] { hvm().callFunction("errors.fail", inputs(matrix<std::int32_t>(1, 1, {how}))); },
+                      &velmara::Error::what);
+    };
+    registerModule("errors", [](Module& errors) { errors.function("fail", &fail); });
+    EXPECT_EQ(messageOf(3), "VELMARA:native:exception: Native code failed: outer: inner");
+    EXPECT_EQ(messageOf(1), "VELMARA:native:unknown: Native code failed with something that is no exception.");
+    registerModule("kinds", [](Module& kinds) {
+        kinds.error<std::runtime_error>("tests:runtime")
+            .error<ParseError>("tests:parse")
+            .error<Code>("tests:code", [](Code const& code) { return "code " + std::to_string(code.number); })
+            .function(
+                "none", +[] {});
+    });
+    hvm().callFunction("kinds.none");
+    char const* const messages[] = {"tests:parse: no number", "tests:code: code 7", "tests:parse: derived",
+                                    "tests:runtime: outer", "VELMARA:native:exception: Native code failed: as before"};
+    for (std::int32_t how = 0; char const* const message : messages)
+        EXPECT_EQ(messageOf(how++), message);
 }
 
 } // namespace

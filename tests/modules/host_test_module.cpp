@@ -37,9 +37,9 @@ void refuse()
 
 MODULE_EXPORT void VXInitialize_host_test_module()
 {
-    refuse();
     if (!orbis::COSPackage::getPackage("host_test_module"))
         orbis::COSPackage::addPackage(new ModulePackage);
+    refuse();
 }
 
 MODULE_EXPORT void VXTerminate_host_test_module()

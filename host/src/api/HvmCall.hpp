@@ -8,7 +8,7 @@ namespace velmara {
 /// Runs one operation of the driving interface inside a virtual machine: whatever is thrown beneath leaves it as
 /// a `velmara::Error`.
 template <class Operation>
-auto callInto(Machine& machine, Operation const& operation)
+[[gnu::always_inline]] inline auto callInto(Machine& machine, Operation const& operation)
 {
     Machine::CallBoundary const boundary(machine);
     Machine::Entry const entry(machine);

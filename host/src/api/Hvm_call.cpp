@@ -76,17 +76,20 @@ void endObjects(Machine& machine, hvArray_tag* array)
 
 ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs)
 {
-    return callInto(*state_, [&] { return callMethod(*state_, object, method, inputs); });
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) { return callMethod(*state_, object, method, inputs); });
 }
 
 ArrayPtr Hvm::callStatic(std::string_view className, std::string_view method, Inputs inputs)
 {
-    return callInto(*state_, [&] { return callStaticMethod(*state_, className, method, inputs); });
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) { return callStaticMethod(*state_, className, method, inputs); });
 }
 
 ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs)
 {
-    return callInto(*state_, [&] { return callPackageFunction(*state_, fullName, inputs); });
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) { return callPackageFunction(*state_, fullName, inputs); });
 }
 
 ArrayPtr Hvm::callFunction(hvArray_tag* function, Inputs inputs)

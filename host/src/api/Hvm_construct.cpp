@@ -12,41 +12,53 @@ namespace velmara {
 
 namespace {
 
+[[noreturn, gnu::noinline]] void throwClassError(char const* key, Class const& cls)
+{
+    throwHostError("VELMARA:class", key, {cls.name()->string()});
+}
+
+/// For a constructor that returned another array than it was given; the other one is destroyed.
+[[noreturn, gnu::noinline]] void throwForeignResult(orbis::COSValue result, Class const& cls, Method const& constructor)
+{
+    ArrayPtr const foreign(result.array());
+    throwHostError("VELMARA:result", "type", {constructor.name->string(), cls.name()->string()});
+}
+
 /// A new object, which its array holds from the beginning.
-ArrayPtr createObject(Class& cls)
+[[gnu::always_inline]] inline ArrayPtr createObject(Class& cls)
 {
     ArrayPtr array(Array::createObjects(cls.name(), 1, 1));
     Object& object = cls.createObject();
-    Array::of(array.get())->setFirstObject(0, object);
+    Array::of(array.get())->setObject(0, &object);
     object.initialize();
     return array;
 }
 
 /// Calls a constructor for a new object. When it fails, the object is finalized with its array.
-ArrayPtr invokeConstructor(Class& cls, Method const& constructor, ConvertedInputs const& inputs)
+[[gnu::always_inline]] inline ArrayPtr invokeConstructor(Class& cls, Method const& constructor,
+                                                         ConvertedInputs const& inputs)
 {
     ArrayPtr object = createObject(cls);
     orbis::COSValue output(object.get());
     int outputCount = 0;
     constructor.info->invoke(nullptr, outputCount, &output, inputs.count(), inputs.values());
-    if (output.array() != object.get()) {
-        ArrayPtr const foreign(output.array());
-        throwHostError("VELMARA:result", "type", {constructor.name->string(), cls.name()->string()});
-    }
+    if (output.array() != object.get()) [[unlikely]]
+        throwForeignResult(output, cls, constructor);
     return object;
 }
 
-ArrayPtr constructObject(Machine& machine, std::string_view className, Inputs inputs)
+[[gnu::always_inline]] inline ArrayPtr constructObject(Machine& machine, std::string_view className, Inputs inputs)
 {
     Class& cls = requireClass(machine, className);
     cls.requireNotEnumeration();
-    if (char const* const error = cls.constructionError())
-        throwHostError("VELMARA:class", error, {cls.name()->string()});
+    if (char const* const error = cls.constructionError()) [[unlikely]]
+        throwClassError(error, cls);
     MethodGroup const& constructors = cls.tables().constructors;
-    if (constructors.methods.empty() && !inputs.empty())
-        throwHostError("VELMARA:class", "noConstructor", {cls.name()->string()});
-    if (constructors.methods.empty())
+    if (constructors.methods.empty()) {
+        if (!inputs.empty())
+            throwClassError("noConstructor", cls);
         return createObject(cls);
+    }
     CallInputs const call{nullptr, inputs};
     ConvertedInputs converted(call.capacity());
     Method const& constructor = choose(constructors, call, converted);
@@ -57,7 +69,8 @@ ArrayPtr constructObject(Machine& machine, std::string_view className, Inputs in
 
 ArrayPtr Hvm::construct(std::string_view className, Inputs inputs)
 {
-    return callInto(*state_, [&] { return constructObject(*state_, className, inputs); });
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) { return constructObject(*state_, className, inputs); });
 }
 
 } // namespace velmara

@@ -33,8 +33,9 @@ namespace {
     throwPropertyError(isReadOnly ? "readOnly" : "setAccess", property);
 }
 
-[[noreturn, gnu::noinline]] void throwMismatch(Property const& property, hvArray_tag* value)
+[[noreturn, gnu::noinline]] void throwMismatch(Machine& machine, Property const& property, hvArray_tag* value)
 {
+    checkInputs(machine, {&value, 1});
     throwHostError("VELMARA:property", "value", {property.name->string(), mismatchReason(property.type(), value)});
 }
 
@@ -101,16 +102,15 @@ ArrayPtr read(Property const& property, Object* object)
     return result.take(property.name);
 }
 
-void write(Machine& machine, Property const& property, Object* object, hvArray_tag* value)
+[[gnu::always_inline]] inline void write(Machine& machine, Property const& property, Object* object, hvArray_tag* value)
 {
     if (!property.canBeWritten) [[unlikely]]
         throwUnwritable(property);
     Object* const owner = requireOwner(property, object);
     TypeReference const& type = property.type();
-    checkInputs(machine, {&value, 1});
     ConvertedInputs converted(1);
-    if (converted.add(type, value) == notConvertible) [[unlikely]]
-        throwMismatch(property, value);
+    if (!value || converted.add(type, value) == notConvertible) [[unlikely]]
+        throwMismatch(machine, property, value);
     property.info->setValue(owner, *converted.values());
 }
 
@@ -118,18 +118,20 @@ void write(Machine& machine, Property const& property, Object* object, hvArray_t
 
 ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property)
 {
-    return callInto(*state_, [&] {
-        Object* const first = requireObject(*state_, object);
-        return read(requireProperty(requireClassOf(*state_, object, first), property), first);
-    });
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) {
+            Object* const first = requireObject(*state_, object);
+            return read(requireProperty(requireClassOf(*state_, object, first), property), first);
+        });
 }
 
 void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value)
 {
-    callInto(*state_, [&] {
-        Object* const first = requireObject(*state_, object);
-        write(*state_, requireProperty(requireClassOf(*state_, object, first), property), first, value);
-    });
+    callInto(
+        *state_, [&]() __attribute__((always_inline)) {
+            Object* const first = requireObject(*state_, object);
+            write(*state_, requireProperty(requireClassOf(*state_, object, first), property), first, value);
+        });
 }
 
 ArrayPtr Hvm::getStatic(std::string_view className, std::string_view property)

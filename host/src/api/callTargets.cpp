@@ -4,15 +4,17 @@
 
 namespace velmara {
 
-Class& requireClass(Machine& machine, std::string_view fullName)
+Class& requireGlobalClass(Machine& machine, std::string_view fullName)
 {
-    Class* cls = machine.packages().findClass(fullName);
-    if (!cls)
-        cls = machine.packages().findGlobalClass(fullName);
+    Class* const cls = machine.packages().findGlobalClass(fullName);
     if (!cls)
         throwHostError("VELMARA:class", "unknown", {std::string(fullName)});
-    cls->ensureReady();
     return *cls;
+}
+
+Class& requireClassOfEmpty(Machine& machine, hvArray_tag* array)
+{
+    return requireClass(machine, Array::of(array)->className());
 }
 
 void requireObjectArray(hvArray_tag const* array)

@@ -8,8 +8,18 @@
 
 namespace velmara {
 
+/// A class without a package. Throws "VELMARA:class:unknown" when there is none.
+Class& requireGlobalClass(Machine& machine, std::string_view fullName);
+
 /// The class of that full name, described. Throws "VELMARA:class:unknown" when there is none.
-Class& requireClass(Machine& machine, std::string_view fullName);
+[[gnu::always_inline]] inline Class& requireClass(Machine& machine, std::string_view fullName)
+{
+    Class* cls = machine.packages().findClass(fullName);
+    if (!cls) [[unlikely]]
+        cls = &requireGlobalClass(machine, fullName);
+    cls->ensureReady();
+    return *cls;
+}
 
 /// Throws "VELMARA:object:notObject" for what is no object array.
 void requireObjectArray(hvArray_tag const* array);
@@ -26,10 +36,13 @@ inline Object* requireObject(Machine& machine, hvArray_tag* array)
     return object;
 }
 
+/// The class that an object array without objects is of.
+Class& requireClassOfEmpty(Machine& machine, hvArray_tag* array);
+
 /// The class whose members are meant by an object array: its object's, or its own.
-inline Class& requireClassOf(Machine& machine, hvArray_tag* array, Object* object)
+[[gnu::always_inline]] inline Class& requireClassOf(Machine& machine, hvArray_tag* array, Object* object)
 {
-    return object ? *Class::of(object->classOf()) : requireClass(machine, Array::of(array)->className());
+    return object ? *Class::of(object->classOf()) : requireClassOfEmpty(machine, array);
 }
 
 } // namespace velmara

@@ -60,7 +60,7 @@ public:
     static Array* createCopy(hvClassID classID, std::size_t rows, std::size_t columns, void const* elements);
 
     /// A new array of null objects, typed by a class name.
-    static Array* createObjects(Name className, std::size_t rows, std::size_t columns)
+    [[gnu::always_inline]] static Array* createObjects(Name className, std::size_t rows, std::size_t columns)
     {
         if (rows != 1 || columns != 1)
             return createZeroed(hvOBJECT_CLASS, rows, columns, className);
@@ -245,7 +245,8 @@ private:
 
 static_assert(sizeof(Array) == BlockPool::blockSize);
 
-inline Array* Array::createHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+[[gnu::always_inline]] inline Array* Array::createHeader(hvClassID classID, std::size_t rows, std::size_t columns,
+                                                         Name objectClass)
 {
     ThreadCache* const cache = threadCache;
     void* const block = cache ? BlockPool::acquire(*cache) : nullptr;

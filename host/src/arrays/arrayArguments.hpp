@@ -17,51 +17,53 @@ auto& requireArray(Tag* array)
     return *Array::of(array);
 }
 
+/// An array of that class; `key` is that of the error for others.
 template <class Tag>
-auto& requireCell(Tag* array, std::size_t index)
+auto& requireArrayOf(Tag* array, hvClassID classID, char const* key)
 {
-    auto& cells = requireArray(array);
-    if (cells.classID() != hvCELL_CLASS) [[unlikely]]
-        throwWrongClass(cells, "notCell");
-    if (index >= cells.size()) [[unlikely]]
-        throwIndexOutside(cells, index);
-    return cells;
+    auto& elements = requireArray(array);
+    if (elements.classID() != classID) [[unlikely]]
+        throwWrongClass(elements, key);
+    return elements;
+}
+
+/// The same array, which must have an element of that index.
+template <class Elements>
+Elements& requireIndex(Elements& array, std::size_t index)
+{
+    if (index >= array.size()) [[unlikely]]
+        throwIndexOutside(array, index);
+    return array;
 }
 
 template <class Tag>
 auto& requireStrings(Tag* array)
 {
-    auto& strings = requireArray(array);
-    if (strings.classID() != hvSTRING_CLASS) [[unlikely]]
-        throwWrongClass(strings, "notString");
-    return strings;
-}
-
-template <class Tag>
-auto& requireString(Tag* array, std::size_t index)
-{
-    auto& strings = requireStrings(array);
-    if (index >= strings.size()) [[unlikely]]
-        throwIndexOutside(strings, index);
-    return strings;
+    return requireArrayOf(array, hvSTRING_CLASS, "notString");
 }
 
 template <class Tag>
 auto& requireObjects(Tag* array)
 {
-    auto& objects = requireArray(array);
-    if (objects.classID() != hvOBJECT_CLASS) [[unlikely]]
-        throwWrongClass(objects, "notObject");
-    return objects;
+    return requireArrayOf(array, hvOBJECT_CLASS, "notObject");
+}
+
+template <class Tag>
+auto& requireCell(Tag* array, std::size_t index)
+{
+    return requireIndex(requireArrayOf(array, hvCELL_CLASS, "notCell"), index);
+}
+
+template <class Tag>
+auto& requireString(Tag* array, std::size_t index)
+{
+    return requireIndex(requireStrings(array), index);
 }
 
 template <class Tag>
 auto& requireObject(Tag* array, std::size_t index)
 {
-    auto& objects = requireObjects(array);
-    if (index >= objects.size()) [[unlikely]]
-        throwIndexOutside(objects, index);
-    return objects;
+    return requireIndex(requireObjects(array), index);
 }
 
 } // namespace velmara

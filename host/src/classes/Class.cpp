@@ -46,10 +46,8 @@ Class::Class(std::unique_ptr<orbis::COSClassInfo> info, Name name, Machine& mach
     setLinearization(contents_->linearization);
 }
 
-void Class::ensureReady()
+void Class::makeReady()
 {
-    if (state_ == State::Ready || state_ == State::Describing) [[likely]]
-        return;
     if (state_ == State::Closed)
         throwHostError("VELMARA:class", "unpublished", {name()->string()});
     Machine::Entry const entry(machine());
@@ -173,6 +171,7 @@ void Class::initializeInstance(orbis::COSInterfacePtr instance)
     if (!object || object->classOf() != this)
         throwHostError("VELMARA:object", "otherClass",
                        {name()->string(), object ? object->className()->string() : std::string("null")});
+    Machine::Entry const entry(machine());
     object->initialize();
 }
 

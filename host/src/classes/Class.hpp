@@ -32,7 +32,11 @@ public:
 
     /// Has the class described when it is not yet. When that fails, what was added is dropped, and the error names the
     /// class. Does nothing while the class is being described.
-    void ensureReady();
+    void ensureReady()
+    {
+        if (state_ != State::Ready && state_ != State::Describing) [[unlikely]]
+            makeReady();
+    }
 
     /// The key in "VELMARA:class" of the error that scripts get who create objects of the class; null when they may.
     char const* constructionError() const { return constructionError_; }
@@ -74,7 +78,11 @@ public:
     void addEnumerator(std::string_view name, std::int64_t value);
 
     /// Throws "VELMARA:enumeration:noObjects" for an enumeration.
-    void requireNotEnumeration() const;
+    void requireNotEnumeration() const
+    {
+        if (isEnumeration_) [[unlikely]]
+            throwEnumeration();
+    }
 
     char const* getName() const override { return ownName()->text; }
     void addMethod(orbis::COSMethodInfo* method) override;
@@ -85,6 +93,7 @@ public:
 private:
     enum class State { Untouched, Describing, Ready, Closed };
 
+    void makeReady();
     void describe();
     void dropContents() noexcept;
 
@@ -94,6 +103,7 @@ private:
 
     /// Throws why no object of the class can be created; nothing when one can.
     void throwUncreatable() const;
+    [[noreturn]] void throwEnumeration() const;
     void requireOpen(Name member) const;
     void requireNoEnumerator(Name member) const;
     [[noreturn]] void throwDuplicate(Name member) const;

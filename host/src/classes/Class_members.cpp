@@ -52,10 +52,9 @@ void Class::addProperty(orbis::COSPropInfo* property)
     contents_->properties.push_back(std::move(added));
 }
 
-void Class::requireNotEnumeration() const
+void Class::throwEnumeration() const
 {
-    if (isEnumeration_)
-        throwHostError("VELMARA:enumeration", "noObjects", {name()->string(), contents_->enumerators.names()});
+    throwHostError("VELMARA:enumeration", "noObjects", {name()->string(), contents_->enumerators.names()});
 }
 
 void Class::addEnumerator(std::string_view name, std::int64_t value)

@@ -75,18 +75,6 @@ void Package::finalizeAllObjects()
         classes_[i]->objects().finalizeAll();
 }
 
-MethodGroup const* Package::findFunctions(std::string_view ownName)
-{
-    auto const find = [this, ownName] {
-        auto const* const group = functionGroups_.findText(ownName);
-        return group && !(*group)->methods.empty() ? group->get() : nullptr;
-    };
-    MethodGroup const* found = find();
-    if (!found && info() && info()->attemptToLoadFunction(std::string(ownName).c_str()))
-        found = find();
-    return found;
-}
-
 void Package::requireOpen() const
 {
     if (state_ == State::Closed)
@@ -176,18 +164,20 @@ void Package::addFunction(orbis::COSMethodInfo* function)
     auto added = std::make_unique<Method>(std::unique_ptr<orbis::COSMethodInfo>(function), nullptr);
     requireOpen();
     std::string const full = std::string(fullName()) + "." + added->name->string();
-    std::unique_ptr<MethodGroup>* group = functionGroups_.find(added->name);
+    MethodGroup const* const existing = tree_.findPublishedFunctions(full);
     auto const isSame = [&added](Method const* other) { return other->hasSameInputs(*added); };
-    if (!group || (*group)->methods.empty())
+    if (!existing)
         tree_.requireFree(full);
-    else if (std::ranges::any_of((*group)->methods, isSame))
+    else if (std::ranges::any_of(existing->methods, isSame))
         throwHostError("VELMARA:package", "duplicate", {full});
     reserveNext(functions_);
     tree_.reserveUndo();
+    std::unique_ptr<FunctionGroup>* group = functionGroups_.find(added->name);
     if (!group) {
-        auto created = std::make_unique<MethodGroup>();
+        auto created = std::make_unique<FunctionGroup>(intern(full));
         *(group = &functionGroups_[added->name]) = std::move(created);
     }
+    tree_.insert(**group);
     (*group)->add(*added);
     Method& recorded = *functions_.emplace_back(std::move(added));
     tree_.recordUndo([this, &recorded] { remove(recorded); });

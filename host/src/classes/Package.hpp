@@ -15,6 +15,12 @@ namespace velmara {
 
 class PackageTree;
 
+/// The functions of one name in a package.
+struct FunctionGroup : MethodGroup {
+    explicit FunctionGroup(Name full) : fullName(full) {}
+    Name fullName;
+};
+
 /// A package of the tree: the packages, classes and functions that it owns. Without an info, as at first, it only holds
 /// others.
 class Package final : public orbis::COSPackage, public Retirable {
@@ -55,17 +61,15 @@ public:
     std::vector<std::unique_ptr<Class>> const& classes() const { return classes_; }
     std::vector<std::unique_ptr<Method>> const& functions() const { return functions_; }
 
-    /// The functions of one name; null when there is none.
-    MethodGroup const* findFunctions(std::string_view ownName);
+    /// By own name, also those that have no functions any more.
+    NameMap<std::unique_ptr<FunctionGroup>> const& functionGroups() const { return functionGroups_; }
 
     Package& add(std::unique_ptr<Package> package);
     Class& add(std::unique_ptr<Class> cls);
 
-    /// Removes a package, a class or a function from the tree. It is closed at once, and destroyed when nothing uses
-    /// it.
+    /// Removes a package or a class from the tree. It is closed at once, and destroyed when nothing uses it.
     void remove(Package& package);
     void remove(Class& cls);
-    void remove(Method& function);
 
     void addSubPackage(orbis::COSPackageInfo* info) override;
     void addClass(orbis::COSClassInfo* info) override;
@@ -80,6 +84,8 @@ private:
     /// Throws "VELMARA:package:closed" once the package is being removed.
     void requireOpen() const;
 
+    void remove(Method& function);
+
     PackageTree& tree_;
     Package* parent_;
     Name name_;
@@ -87,7 +93,7 @@ private:
     std::vector<std::unique_ptr<Package>> packages_;
     std::vector<std::unique_ptr<Class>> classes_;
     std::vector<std::unique_ptr<Method>> functions_;
-    NameMap<std::unique_ptr<MethodGroup>> functionGroups_; ///< empty ones included
+    NameMap<std::unique_ptr<FunctionGroup>> functionGroups_;
     State state_ = State::Populated;
 };
 

@@ -72,22 +72,16 @@ Class* PackageTree::findClass(Name fullName)
     return found ? found : findClass(fullName->view());
 }
 
-Class* PackageTree::findClass(std::string_view fullName)
+Class* PackageTree::loadClass(std::string_view fullName)
 {
-    auto const find = [this, fullName]() -> Class* {
-        Class* const* const found = classes_.findText(fullName);
-        return found && !(*found)->isClosed() ? *found : nullptr;
-    };
-    if (Class* const found = find())
-        return found;
     auto const [parent, own] = splitLast(fullName);
     Package* const package = findPackage(parent);
     if (!package)
         return nullptr;
     package->populate();
-    Class* found = find();
+    Class* found = findPublishedClass(fullName);
     if (!found && package->info() && package->info()->attemptToLoadClass(std::string(own).c_str()))
-        found = find();
+        found = findPublishedClass(fullName);
     return found;
 }
 
@@ -109,14 +103,17 @@ Class* PackageTree::findGlobalClass(std::string_view name)
     return found;
 }
 
-MethodGroup const* PackageTree::findFunctions(std::string_view fullName)
+MethodGroup const* PackageTree::loadFunctions(std::string_view fullName)
 {
     auto const [parent, own] = splitLast(fullName);
     Package* const package = parent.empty() ? nullptr : findPackage(parent);
     if (!package)
         return nullptr;
     package->populate();
-    return package->findFunctions(own);
+    MethodGroup const* found = findPublishedFunctions(fullName);
+    if (!found && package->info() && package->info()->attemptToLoadFunction(std::string(own).c_str()))
+        found = findPublishedFunctions(fullName);
+    return found;
 }
 
 void PackageTree::requireFree(std::string_view fullName)
@@ -125,13 +122,7 @@ void PackageTree::requireFree(std::string_view fullName)
         throwHostError(
             "VELMARA:package", "name",
             {std::string(fullName), fullName.empty() ? "the name is empty" : "a part between dots is empty"});
-    auto const parts = splitLast(fullName);
-    std::string_view const own = parts.second;
-    Package* const package = findPublishedPackage(parts.first);
-    bool const isFunction = package && std::ranges::any_of(package->functions(), [&](auto const& function) {
-                                return function->name->view() == own;
-                            });
-    if (isFunction || findByText(packages_, fullName) || findByText(classes_, fullName))
+    if (findPublishedFunctions(fullName) || findByText(packages_, fullName) || findByText(classes_, fullName))
         throwHostError("VELMARA:package", "duplicate", {std::string(fullName)});
 }
 
@@ -214,6 +205,7 @@ void PackageTree::clear() noexcept
     root_.close();
     packages_ = {};
     classes_ = {};
+    functions_ = {};
     root_.clear();
 }
 
@@ -226,6 +218,11 @@ void PackageTree::erase(Package const& package) noexcept
         erase(*inner);
     for (auto const& cls : package.classes())
         erase(*cls);
+    package.functionGroups().forEach([this](Name, auto const& group) {
+        FunctionGroup const* const* const functions = functions_.find(group->fullName);
+        if (functions && *functions == group.get())
+            functions_.erase(group->fullName);
+    });
 }
 
 void PackageTree::erase(Class const& cls) noexcept

@@ -24,7 +24,11 @@ public:
     Package* findPackage(std::string_view fullName);
 
     /// Null when there is none; the class is not described by this.
-    Class* findClass(std::string_view fullName);
+    [[gnu::always_inline]] Class* findClass(std::string_view fullName)
+    {
+        Class* const found = findPublishedClass(fullName);
+        return found ? found : loadClass(fullName);
+    }
     Class* findClass(Name fullName);
 
     /// A class without a package. Packages publish these as they are populated, so those at the top level are, but for
@@ -34,7 +38,19 @@ public:
     /// The class if it is published already; nothing is populated.
     Class* findPublishedClass(Name fullName) const;
 
-    MethodGroup const* findFunctions(std::string_view fullName);
+    /// The functions of one name; null when there is none.
+    [[gnu::always_inline]] MethodGroup const* findFunctions(std::string_view fullName)
+    {
+        MethodGroup const* const found = findPublishedFunctions(fullName);
+        return found ? found : loadFunctions(fullName);
+    }
+
+    /// Those that are published already; nothing is populated.
+    [[gnu::always_inline]] MethodGroup const* findPublishedFunctions(std::string_view fullName) const
+    {
+        FunctionGroup const* const* const found = functions_.findText(fullName);
+        return found && !(*found)->methods.empty() ? *found : nullptr;
+    }
 
     void addPackage(std::unique_ptr<orbis::COSPackageInfo> info, std::string_view fullName);
     void addClass(std::unique_ptr<orbis::COSClassInfo> info, Package& package);
@@ -59,6 +75,7 @@ public:
         entriesOf(published)[published.name()] = &published;
         recordUndo(std::move(undo));
     }
+    void insert(FunctionGroup const& functions) { functions_[functions.fullName] = &functions; }
     void erase(Package const& package) noexcept;
     void erase(Class const& cls) noexcept;
 
@@ -80,6 +97,16 @@ public:
 private:
     NameMap<Package*>& entriesOf(Package const&) { return packages_; }
     NameMap<Class*>& entriesOf(Class const&) { return classes_; }
+    [[gnu::always_inline]] Class* findPublishedClass(std::string_view fullName) const
+    {
+        Class* const* const found = classes_.findText(fullName);
+        return found && !(*found)->isClosed() ? *found : nullptr;
+    }
+
+    /// Has the packages on the way populated, and the last one load what it does not publish yet.
+    Class* loadClass(std::string_view fullName);
+    MethodGroup const* loadFunctions(std::string_view fullName);
+
     void undoTo(std::size_t recorded) noexcept;
     Package& findOrCreate(std::string_view fullName);
     Package* findPublishedPackage(std::string_view fullName);
@@ -87,6 +114,7 @@ private:
     Machine& machine_;
     NameMap<Package*> packages_;
     NameMap<Class*> classes_;
+    NameMap<FunctionGroup const*> functions_;
     std::vector<Undo> undos_;
     int depth_ = 0; ///< of transactions
     bool isUndoing_ = false;

@@ -11,6 +11,8 @@
 #include "libhv/libhv.hpp"
 #include "orbis/COSTypeConversion.hpp"
 
+#include <memory>
+
 namespace velmara {
 
 namespace {
@@ -36,16 +38,14 @@ hvArray_tag* convert(TypeReference const& type, orbis::COSTypeConversion& conver
 
 void ConvertedInputs::grow(std::size_t capacity)
 {
-    moreValues_ = std::make_unique<orbis::COSValue[]>(capacity);
-    moreOwned_ = std::make_unique<Owned[]>(capacity);
-    values_ = moreValues_.get();
-    owned_ = moreOwned_.get();
+    more_ = new More(capacity);
+    values_ = more_->values.data();
 }
 
 void ConvertedInputs::own(orbis::COSDataType* type, hvArray_tag* value)
 {
     values_[count_] = orbis::COSValue(value);
-    owned_[ownedCount_++] = {type, values_[count_]};
+    owned()[ownedCount_++] = {type, values_[count_]};
 }
 
 ConversionRank ConvertedInputs::addSelf(TypeReference const& type, hvArray_tag* self)
@@ -166,8 +166,9 @@ ConversionRank ConvertedInputs::addRegistered(TypeReference const& type, hvArray
 
 void ConvertedInputs::release()
 {
+    std::unique_ptr<More> const freed(more_);
     while (ownedCount_ > 0) {
-        Owned const& owned = owned_[--ownedCount_];
+        Owned const& owned = this->owned()[--ownedCount_];
         if (!owned.type) {
             hvDestroyArray(owned.value.array());
             continue;

@@ -7,7 +7,7 @@
 #include "orbis/COSDataType.hpp"
 #include "orbis/COSValue.hpp"
 
-#include <memory>
+#include <vector>
 
 namespace velmara {
 
@@ -16,7 +16,7 @@ namespace velmara {
 class ConvertedInputs {
 public:
     /// For at most `capacity` inputs. Few need no memory of their own.
-    explicit ConvertedInputs(std::size_t capacity) : values_(inlineValues_), owned_(inlineOwned_)
+    explicit ConvertedInputs(std::size_t capacity) : values_(inlineValues_)
     {
         if (capacity > inlineCapacity)
             grow(capacity);
@@ -24,15 +24,15 @@ public:
     ConvertedInputs(ConvertedInputs const&) = delete;
     ConvertedInputs& operator=(ConvertedInputs const&) = delete;
 
-    ~ConvertedInputs()
+    [[gnu::always_inline]] ~ConvertedInputs()
     {
-        if (ownedCount_ != 0)
+        if (ownedCount_ != 0 || more_) [[unlikely]]
             release();
     }
 
     /// Converts the next input; adds nothing when it does not rank. Throws only for an object that cannot be used in
     /// the current virtual machine.
-    ConversionRank add(TypeReference const& type, hvArray_tag* input)
+    [[gnu::always_inline]] ConversionRank add(TypeReference const& type, hvArray_tag* input)
     {
         if (type.kind != TypeKind::Scalar)
             return addArray(type, input);
@@ -56,6 +56,12 @@ private:
         orbis::COSValue value;
     };
 
+    struct More {
+        explicit More(std::size_t capacity) : values(capacity), owned(capacity) {}
+        std::vector<orbis::COSValue> values;
+        std::vector<Owned> owned;
+    };
+
     static constexpr std::size_t inlineCapacity = 24;
 
     ConversionRank addArray(TypeReference const& type, hvArray_tag* input);
@@ -67,12 +73,12 @@ private:
     ConversionRank addRegistered(TypeReference const& type, hvArray_tag* input);
     void grow(std::size_t capacity);
     void release();
+    Owned* owned() { return more_ ? more_->owned.data() : inlineOwned_; }
 
     /// Makes the value (of the type; null for an array of the host's own) the next input, and owns it.
     void own(orbis::COSDataType* type, hvArray_tag* value);
 
     orbis::COSValue* values_;
-    Owned* owned_;
     int count_ = 0;
     int ownedCount_ = 0;
     // Not initialized: only what is added is ever read.
@@ -82,8 +88,7 @@ private:
     union {
         Owned inlineOwned_[inlineCapacity];
     };
-    std::unique_ptr<orbis::COSValue[]> moreValues_; ///< where there are more inputs than `inlineCapacity`
-    std::unique_ptr<Owned[]> moreOwned_;
+    More* more_ = nullptr; ///< where there are more inputs than `inlineCapacity`: owned, too
 };
 
 } // namespace velmara

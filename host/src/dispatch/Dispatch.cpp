@@ -37,6 +37,8 @@ void checkInputs(Machine const& machine, Inputs inputs)
 
 Method const& chooseAmong(MethodGroup const& group, CallInputs call)
 {
+    if (group.accessible == 0)
+        throwUncallable(group, call);
     std::byte buffer[1024];
     std::pmr::monotonic_buffer_resource memory(buffer, sizeof buffer);
     // A copy: conversions run native code, which may add to the group.

@@ -40,7 +40,8 @@ template <class Visit>
 }
 
 /// Of several methods that may be called, the one that fits the inputs best: at least as well as every other in each
-/// input, and better in one. Throws when none fits (with each one and the reason), and when several fit equally well.
+/// input, and better in one. Throws when none may be called, when none fits (with each one and the reason), and when
+/// several fit equally well.
 Method const& chooseAmong(MethodGroup const& group, CallInputs call);
 
 /// The errors of the dispatch. Each names what may be called and what was given.
@@ -55,9 +56,8 @@ Method const& chooseAmong(MethodGroup const& group, CallInputs call);
 [[gnu::always_inline]] inline Method const& choose(MethodGroup const& group, CallInputs const& call,
                                                    ConvertedInputs& converted)
 {
-    Method const& chosen = group.accessible > 1 ? chooseAmong(group, call) : *group.methods.front();
-    if (group.accessible == 0 || !convertFor(chosen, call, converted, [](ConversionRank) {}) || chosen.isAbstract)
-        [[unlikely]]
+    Method const& chosen = group.only ? *group.only : chooseAmong(group, call);
+    if (!convertFor(chosen, call, converted, [](ConversionRank) {}) || chosen.isAbstract) [[unlikely]]
         throwUncallable(group, call);
     return chosen;
 }
@@ -77,7 +77,7 @@ ArrayPtr dispatch(MethodGroup const& group, CallInputs const& call);
 /// The same on an object, an array: shorter for the one method that takes and returns only scalars, as most do.
 [[gnu::always_inline]] inline ArrayPtr dispatchOnObject(MethodGroup const& group, hvArray_tag* self, Inputs inputs)
 {
-    if (Method const* const method = group.scalarMethod) [[likely]] {
+    if (Method const* const method = group.only; method && method->takesOnlyScalars) [[likely]] {
         ScalarInputs scalars;
         if (scalars.read(*method, self, inputs)) [[likely]]
             return invoke(*method, static_cast<int>(method->inputCount), scalars.values());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "errors/ErrorKinds.hpp"
+
 #include <functional>
 #include <map>
 #include <string>
@@ -21,11 +23,12 @@ private:
     std::map<std::string, std::string, std::less<>> texts_; ///< by "catalog:key"
 };
 
-/// Where errors find their texts: the virtual machine that is current on this thread. `Machine` is the only kind.
+/// Where errors find their texts and identifiers: the virtual machine that is current on this thread. `Machine` is the only kind.
 class MessageSource {
 public:
     static MessageSource* current() { return current_; }
     MessageCatalog& messages() { return messages_; }
+    ErrorKinds& errorKinds() { return errorKinds_; }
 
 protected:
     MessageSource() = default;
@@ -35,6 +38,7 @@ protected:
 
 private:
     MessageCatalog messages_;
+    ErrorKinds errorKinds_;
 };
 
 /// The text of an error in the current virtual machine's catalog, with its arguments filled in; the full message

@@ -9,14 +9,41 @@
 
 #include <exception>
 #include <new>
+#include <optional>
 
 namespace velmara {
 
 namespace {
 
+/// The text of an exception and of those that are nested in it.
+std::string chainText(std::exception const& error)
+{
+    std::string text = error.what();
+    auto const* const outer = dynamic_cast<std::nested_exception const*>(&error);
+    if (outer && outer->nested_ptr()) {
+        try {
+            outer->rethrow_nested();
+        } catch (std::exception const& nested) {
+            text += ": " + chainText(nested);
+        } catch (...) { // has no text
+        }
+    }
+    return text;
+}
+
+/// Inside a handler: the current exception, which has no identifier of its own. `key` and `text` say what it is if it
+/// is of no kind that a module added.
+template <class Text>
+Error nativeError(char const* key, Text text)
+{
+    MessageSource* const source = MessageSource::current();
+    if (std::optional<Error> described = source ? source->errorKinds().describeCurrent() : std::nullopt)
+        return *std::move(described);
+    return {std::string("VELMARA:native:") + key, messageText("VELMARA:native", key, {text()})};
+}
+
 Error translatedError()
 {
-    constexpr char const* native = "VELMARA:native";
     try {
         throw;
     } catch (Error const& error) {
@@ -29,11 +56,11 @@ Error translatedError()
         return {identifier.empty() ? "VELMARA:native:exception" : identifier,
                 fl::i18n::to_string(error.GetUnicodeMessageTxt())};
     } catch (foundation::core::except::IException const& error) {
-        return {"VELMARA:native:exception", messageText(native, "exception", {error.what()})};
+        return nativeError("exception", [&] { return std::string(error.what()); });
     } catch (std::exception const& error) {
-        return {"VELMARA:native:exception", messageText(native, "exception", {error.what()})};
+        return nativeError("exception", [&] { return chainText(error); });
     } catch (...) {
-        return {"VELMARA:native:unknown", messageText(native, "unknown", {})};
+        return nativeError("unknown", [] { return std::string(); });
     }
 }
 

@@ -96,10 +96,10 @@ public:
         explicit CallBoundary(Machine& machine) : machine_(machine) { pass(); }
         CallBoundary(CallBoundary const&) = delete;
         CallBoundary& operator=(CallBoundary const&) = delete;
-        ~CallBoundary() { pass(); }
+        [[gnu::always_inline]] ~CallBoundary() { pass(); }
 
     private:
-        void pass() noexcept
+        [[gnu::always_inline]] void pass() noexcept
         {
             if (machine_.isBoundaryRequested_) [[unlikely]]
                 machine_.passCallBoundary();

@@ -67,19 +67,14 @@ void MethodGroup::add(Method const& method)
     methods.insert(method.isAccessible() ? accessibleEnd() : methods.end(), &method);
     if (method.isAccessible())
         ++accessible;
-    findScalarMethod();
+    findOnly();
 }
 
 void MethodGroup::remove(Method const& method)
 {
     if (std::erase(methods, &method) != 0 && method.isAccessible())
         --accessible;
-    findScalarMethod();
-}
-
-void MethodGroup::findScalarMethod()
-{
-    scalarMethod = accessible == 1 && methods.front()->takesOnlyScalars ? methods.front() : nullptr;
+    findOnly();
 }
 
 } // namespace velmara

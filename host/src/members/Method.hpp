@@ -61,11 +61,11 @@ struct MethodGroup {
     std::vector<Method const*> methods;
     std::size_t accessible = 0;
 
-    /// The one that may be called, if it takes only scalars; null when there are several.
-    Method const* scalarMethod = nullptr;
+    /// The one that may be called; null when there are several, or none.
+    Method const* only = nullptr;
 
 private:
-    void findScalarMethod();
+    void findOnly() { only = accessible == 1 ? methods.front() : nullptr; }
 };
 
 } // namespace velmara

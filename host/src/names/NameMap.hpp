@@ -42,7 +42,8 @@ public:
             return nullptr;
         std::uint64_t const hash = hashText(text);
         for (std::size_t i = hash & mask_; entries_[i].name; i = next(i))
-            if (entries_[i].name->hash == hash && entries_[i].name->view() == text)
+            if (entries_[i].name->hash == hash && entries_[i].name->length == text.size() &&
+                isSameText(entries_[i].name->text, text.data(), text.size())) [[likely]]
                 return &entries_[i].value;
         return nullptr;
     }

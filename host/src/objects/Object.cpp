@@ -16,14 +16,19 @@ namespace velmara {
 inline void* Object::operator new(std::size_t)
 {
     static_assert(sizeof(Object) <= BlockPool::blockSize);
-    ThreadCache* const cache = threadCache;
-    void* const block = cache ? BlockPool::acquire(*cache) : nullptr;
-    return block ? block : allocate(BlockPool::blockSize);
+    ThreadCache& cache = currentThreadCache();
+    void* block = BlockPool::acquire(cache);
+    if (!block) [[unlikely]]
+        block = allocate(BlockPool::blockSize);
+    ++cache.counts.objects;
+    return block;
 }
 
 inline void Object::operator delete(void* block) noexcept
 {
-    BlockPool::release(block, currentThreadCache());
+    ThreadCache& cache = currentThreadCache();
+    --cache.counts.objects;
+    BlockPool::release(block, cache);
 }
 
 inline Object::Object(ObjectClass& cls, std::size_t enumerator)
@@ -33,12 +38,6 @@ inline Object::Object(ObjectClass& cls, std::size_t enumerator)
       machine_(&cls.machine())
 {
     cls.objects().add(*this);
-    ++currentLiveCounts().objects;
-}
-
-inline Object::~Object()
-{
-    --currentLiveCounts().objects;
 }
 
 Object& Object::create(ObjectClass& cls)
@@ -55,7 +54,6 @@ Object& Object::createEnumerator(ObjectClass& cls, std::size_t enumerator)
 {
     if (!isValid() || isInitialized_) [[unlikely]]
         throwHostError("VELMARA:object", isValid() ? "initialized" : "invalid", {className()->string()});
-    Machine::Entry const entry(*machine_);
     isInitialized_ = true;
     try {
         auto const& classes = class_->linearization();
@@ -116,10 +114,8 @@ void Object::freeIfUnreferenced() noexcept
         delete this;
 }
 
-[[gnu::flatten]] void Object::finalize() noexcept
+[[gnu::flatten]] void Object::finalizeOnce() noexcept
 {
-    if (isFinalized())
-        return;
     bool const hasInstanceData = isValid() && isInitialized_;
     state_ = State::Finalizing;
     class_->objects().remove(*this);
@@ -142,7 +138,7 @@ void Object::onLastReference() noexcept
     if (isFinalized())
         freeIfUnreferenced();
     else if (!machine_->deferredFinalizer().defer(*this))
-        finalize();
+        finalizeOnce();
 }
 
 void Object::throwUnusable() const

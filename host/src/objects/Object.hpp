@@ -68,12 +68,16 @@ public:
     bool isFinalized() const { return state_ >= State::Finalizing; }
 
     /// Creates the instance data of the class and its superclasses, superclasses first. When one fails, what was
-    /// created is destroyed again and the object stays uninitialized.
+    /// created is destroyed again and the object stays uninitialized. To be called inside an entry of its machine.
     void initialize();
 
     /// Destroys the instance data, the most derived class's first, and leaves the object invalid, without class and
     /// virtual machine. Nothing escapes; a second call does nothing.
-    void finalize() noexcept;
+    void finalize() noexcept
+    {
+        if (!isFinalized())
+            finalizeOnce();
+    }
     void finalizeIfUnreferenced() noexcept;
 
     void setNativeObject(orbis::COSNameID const& className, void* object) override;
@@ -138,11 +142,12 @@ private:
     };
 
     explicit Object(ObjectClass& cls, std::size_t enumerator = 0);
-    ~Object();
+    ~Object() = default;
 
     static void* operator new(std::size_t size);
     static void operator delete(void* block) noexcept;
 
+    void finalizeOnce() noexcept;
     void onLastReference() noexcept;
     void freeIfUnreferenced() noexcept;
 

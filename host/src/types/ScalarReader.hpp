@@ -31,8 +31,10 @@ public:
     }
 
     /// Writes `out` when the array fits. Not for a default-constructed reader.
-    ConversionRank read(Array const& input, orbis::COSValue& out) const
+    [[gnu::always_inline]] ConversionRank read(Array const& input, orbis::COSValue& out) const
     {
+        if (readDouble(input, out)) [[likely]]
+            return target_ == hvDOUBLE_CLASS ? exactRank : convertedRank;
         return converters_[input.classID()](input, out);
     }
 

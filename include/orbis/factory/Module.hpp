@@ -5,13 +5,30 @@
 #include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/detail/objects/ClassNames.hpp"
 
+#include "host_extensions/ErrorKind.hpp"
 #include "orbis/COSPackage.hpp"
 
 #include <functional>
 #include <memory>
 #include <string>
+#include <typeinfo>
+#include <utility>
 
 namespace orbis::factory {
+
+namespace detail {
+
+/// The text of exceptions for which the author gives no other.
+template <class E>
+std::string errorText(E const& error)
+{
+    static_assert(
+        requires { error.what(); }, "This exception has no what(): give a function that takes it and returns "
+                                    "its text.");
+    return error.what();
+}
+
+} // namespace detail
 
 /// Who destroys the native objects that scripts construct.
 enum class Owner {
@@ -75,11 +92,32 @@ public:
         return *this;
     }
 
+    /// Gives native exceptions of type `E`, and of types derived from it that have none, an identifier by which scripts
+    /// tell them apart: `module.error<ParseError>("spatial:parse")`. Their text is `what()`, or what `text` gives: a
+    /// function or captureless lambda that takes an `E const&` and returns a `std::string`. Exceptions with a message
+    /// identifier keep that. Returns this.
+    template <class E>
+    Module& error(char const* identifier, std::string (*text)(E const&) = detail::errorText<E>)
+    {
+        addErrorKind({identifier, &typeid(E), [text](std::string& result) {
+                          try {
+                              throw;
+                          } catch (E const& error) {
+                              result = text(error);
+                              return true;
+                          } catch (...) {
+                              return false;
+                          }
+                      }});
+        return *this;
+    }
+
     /// Publishes the functions. Called when the package is complete, because their types may be published later.
     void complete();
 
 private:
     void setName(detail::NamedClass& named, detail::ClassNames& names, char const* name, Owner owner);
+    void addErrorKind(host_extensions::ErrorKind kind);
     void addClass(detail::NamedClass const& named, std::unique_ptr<ClassDescription> description, char const* text);
 
     COSPackage& package_;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "orbis/factory/detail/members/CallableTraits.hpp"
-#include "orbis/factory/marshaling/namedResult.hpp"
+#include "orbis/factory/marshaling/objectResult.hpp"
 
 #include <type_traits>
 

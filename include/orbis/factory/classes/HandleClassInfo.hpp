@@ -3,7 +3,6 @@
 #include "orbis/factory/classes/HostClass.hpp"
 #include "orbis/factory/classes/OrbisFactoryClassInfo.hpp"
 #include "orbis/factory/detail/bindings/bindings.hpp"
-#include "orbis/factory/detail/bindings/hostShares.hpp"
 
 #include <type_traits>
 
@@ -28,16 +27,14 @@ public:
     void* createInstanceData() override { return nullptr; }
 
     /// Removes the binding of `data`, a native address, to `object` (null: to any host object). Returns whether there
-    /// was one; only then, and only with `N` 1, is the native object deleted. One in which `object` holds a share is
-    /// not: its last shared pointer deletes it.
+    /// was one; only then, and only with `N` 1, is the native object deleted. One in which `object` holds a share, and a
+    /// part of another object, are not.
     bool destroyInstanceData(COSInterface* object, void* data) override
     {
-        void* const forgotten = detail::forgetBinding(object, data);
-        bool isShared = false;
-        if constexpr (std::is_same_v<RootClass<T>, full::Wrappable>)
-            isShared = detail::dropShare(object);
+        bool isOwned = false;
+        void* const forgotten = detail::forgetBinding(object, data, isOwned);
         if constexpr (N == 1) {
-            if (!isShared)
+            if (isOwned)
                 delete static_cast<RootClass<T>*>(forgotten);
         }
         return forgotten != nullptr;

@@ -17,6 +17,7 @@ public:
     }
 
     R read(COSInterface* object) const { return function_(&detail::nativeSelf<T>(object)); }
+    static auto wholeOf(COSInterface* object) { return detail::WholeOfProperty<T>{object}; }
 
 private:
     F function_;

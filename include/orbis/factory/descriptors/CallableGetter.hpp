@@ -3,15 +3,15 @@
 #include "orbis/factory/descriptors/Getter.hpp"
 #include "orbis/factory/descriptors/ReleaseRoutine.hpp"
 #include "orbis/factory/marshaling/PropertyValue.hpp"
-#include "orbis/factory/marshaling/namedResult.hpp"
 #include "orbis/factory/marshaling/ReferredObjects.hpp"
+#include "orbis/factory/marshaling/objectResult.hpp"
 
 #include <type_traits>
 
 namespace orbis::factory::impl {
 
-/// Common base of the getters. `Derived` provides `read(object)`, which returns the native value as an `R`; `V` is the
-/// type as which it is marshaled.
+/// Common base of the getters. `Derived` provides `read(object)`, which returns the native value as an `R`, and
+/// `wholeOf(object)`, of which it may be a part; `V` is the type as which it is marshaled.
 template <class Derived, class R, class V>
 class CallableGetter : public Getter {
 public:
@@ -21,8 +21,8 @@ public:
     {
         using Value = std::conditional_t<std::is_reference_v<R>, V const&, V>;
         auto const read = [&]() -> R { return derived().read(object); };
-        if constexpr (detail::StoresNamedObject<R>)
-            return COSValue(detail::namedResult<R>(Derived::needsObject ? object : nullptr, read));
+        if constexpr (detail::ObjectResult<R>)
+            return COSValue(detail::objectResult<R>(derived().wholeOf(object), read));
         else
             return detail::toValue<Value>(read);
     }

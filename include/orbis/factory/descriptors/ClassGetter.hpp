@@ -19,6 +19,7 @@ public:
     }
 
     R read(COSInterface* object) const { return std::invoke(member_, detail::nativeSelf<T>(object)); }
+    static auto wholeOf(COSInterface* object) { return detail::WholeOfProperty<T>{object}; }
 
 private:
     F member_;

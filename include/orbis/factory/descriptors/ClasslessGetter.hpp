@@ -17,6 +17,7 @@ public:
     }
 
     R read(COSInterface*) const { return function_(); }
+    static auto wholeOf(COSInterface*) { return detail::NoWhole(); }
 
 private:
     R (*function_)();

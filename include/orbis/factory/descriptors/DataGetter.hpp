@@ -17,6 +17,7 @@ public:
     }
 
     V const& read(COSInterface*) const { return *data_; }
+    static auto wholeOf(COSInterface*) { return detail::NoWhole(); }
 
 private:
     V const* data_;

@@ -48,14 +48,11 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     /// Returns `dependents`, created on first use. Throws `std::bad_alloc`.
     HostDependents& requireDependents();
 
-    /// Other data that depends on host objects; null until there is any.
+    /// Other data about objects; null until there is any.
     std::unique_ptr<HostDependents> dependents;
 
     /// Null unless the virtual machine reports leaks.
     BindingHistory* history() const noexcept;
-
-    /// Whether the unconstructed set is non-empty; a copy for constructors, which access this table anyway.
-    bool isAnyUnconstructed = false;
 
 private:
     class Observer final : public host_extensions::ObjectObserver {

@@ -4,7 +4,7 @@
 #include "orbis/factory/marshaling/Argument.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 #include "orbis/factory/marshaling/PropertyValue.hpp"
-#include "orbis/factory/marshaling/namedResult.hpp"
+#include "orbis/factory/marshaling/objectResult.hpp"
 
 #include "host_extensions/functionValues.hpp"
 #include "orbis/COSMethodInfo.hpp"
@@ -111,8 +111,8 @@ struct LoanFor<A> {
 template <class V, class F>
 COSValue toOwnedValue(F&& function)
 {
-    if constexpr (StoresNamedObject<V>)
-        return COSValue(namedResult<V>(nullptr, std::forward<F>(function)));
+    if constexpr (ObjectResult<V>)
+        return COSValue(objectResult<V>(NoWhole(), std::forward<F>(function)));
     else
         return toValue<V>(std::forward<F>(function));
 }

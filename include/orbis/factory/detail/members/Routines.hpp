@@ -5,8 +5,8 @@
 #include "orbis/factory/detail/bindings/NativeOwnership.hpp"
 #include "orbis/factory/detail/bindings/bindings.hpp"
 #include "orbis/factory/detail/members/CallableTraits.hpp"
-#include "orbis/factory/marshaling/namedResult.hpp"
 #include "orbis/factory/marshaling/Argument.hpp"
+#include "orbis/factory/marshaling/objectResult.hpp"
 #include "orbis/factory/ownership/CopyableSupport.hpp"
 #include "orbis/factory/types/HvArrayPolicy.hpp"
 
@@ -36,29 +36,14 @@ void shareGivenArray([[maybe_unused]] COSValue const* outputs, [[maybe_unused]] 
     }
 }
 
-/// Pointers to objects that are bound when they are marshaled.
-template <class T>
-concept HandlePointer = std::is_pointer_v<T> && !IsNamedObject<T> && requires { requires MarshalerOf<T>::isHandle; };
-
-/// Like `storeResult`, for the result of a member. The host becomes responsible for an object that is returned, so one
-/// that cannot be bound is deleted as its class info would, instead of leaked. `whole` is the object of the member, null
-/// when there is none.
-template <class Result, class F>
-void storeCallResult(int& outputCount, COSValue* outputs, COSInterface* whole, F&& function)
+/// Like `storeResult`, for the result of a member that is called on `whole`.
+template <class Result, class Whole, class F>
+void storeCallResult(int& outputCount, COSValue* outputs, [[maybe_unused]] Whole const& whole, F&& function)
 {
-    if constexpr (StoresNamedObject<Result>) {
-        *outputs = COSValue(namedResult<Result>(whole, std::forward<F>(function)));
+    if constexpr (ObjectResult<Result>) {
+        *outputs = COSValue(objectResult<Result>(whole, std::forward<F>(function)));
         if (outputCount == 0)
             outputCount = 1;
-    } else if constexpr (HandlePointer<Result>) {
-        using Class = std::remove_const_t<std::remove_pointer_t<Result>>;
-        Result const object = std::forward<F>(function)();
-        try {
-            storeResult<Result>(outputCount, outputs, [&] { return object; });
-        } catch (...) {
-            discardUnbound(MarshalerOf<Result>::boundAddress(const_cast<Class*>(object)), HostClass<Class>::name);
-            throw;
-        }
     } else {
         storeResult<Result>(outputCount, outputs, std::forward<F>(function));
     }
@@ -69,6 +54,23 @@ struct FreeFunctionRoutine;
 
 template <class Pointer, class Result, class... A>
 struct FreeFunctionRoutine<Pointer, Result, TypeList<A...>> {
+private:
+    /// The object of a forced member.
+    static auto wholeOf(ArgumentsOf<A...>& arguments, impl::Invoker const& invoker, COSValue const* inputs)
+    {
+        if constexpr (ObjectResult<Result> && sizeof...(A) > 0) {
+            using First = std::remove_cvref_t<decltype(arguments.first())>;
+            if constexpr (std::is_pointer_v<First> && std::is_class_v<std::remove_pointer_t<First>>)
+                return WholeInput<std::remove_pointer_t<First>>{invoker.forcedMember ? inputs : nullptr,
+                                                                arguments.first()};
+            else
+                return NoWhole();
+        } else {
+            return NoWhole();
+        }
+    }
+
+public:
     static void invoke(impl::Invoker const* invoker, COSClient const*, int& outputCount, COSValue* outputs,
                        int inputCount, COSValue const* inputs)
     {
@@ -78,10 +80,9 @@ struct FreeFunctionRoutine<Pointer, Result, TypeList<A...>> {
             if constexpr (std::is_pointer_v<std::remove_cvref_t<decltype(arguments.first())>>)
                 impl::validateSelfPointer(arguments.first(), *invoker);
         }
-        storeCallResult<Result>(outputCount, outputs, wholeOf<Result>(invoker->forcedMember ? inputs : nullptr),
-                                [&]() -> NativeResult<Result> {
-                                    return arguments.apply(invoker->target.template as<Pointer>());
-                                });
+        storeCallResult<Result>(
+            outputCount, outputs, wholeOf(arguments, *invoker, inputs),
+            [&]() -> NativeResult<Result> { return arguments.apply(invoker->target.template as<Pointer>()); });
         shareGivenArray<Result>(outputs, inputs, inputCount, invoker->target.template as<Pointer>());
     }
 };
@@ -98,7 +99,7 @@ struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
         ArgumentsOf<A...> arguments(inputs + 1);
         if (!self) [[unlikely]]
             impl::validateSelfPointer(self);
-        storeCallResult<Result>(outputCount, outputs, wholeOf<Result>(inputs), [&]() -> NativeResult<Result> {
+        storeCallResult<Result>(outputCount, outputs, WholeInput<T>{inputs, self}, [&]() -> NativeResult<Result> {
             return arguments.apply([&](auto&&... values) -> NativeResult<Result> {
                 auto const target = invoker->target.template as<Pointer>();
                 if constexpr (std::is_member_function_pointer_v<Pointer>)

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "velmara/Error.hpp"
+
+#include "host_extensions/ErrorKind.hpp"
+
+#include <optional>
+#include <vector>
+
+namespace velmara {
+
+/// The kinds of native exceptions that modules added to a virtual machine.
+class ErrorKinds {
+public:
+    /// Replaces an earlier kind of the same type.
+    void add(orbis::host_extensions::ErrorKind kind);
+
+    /// Inside a handler: the current exception as an error of its kind; nothing when it has none.
+    std::optional<Error> describeCurrent() const;
+
+private:
+    std::vector<orbis::host_extensions::ErrorKind> kinds_;
+};
+
+} // namespace velmara

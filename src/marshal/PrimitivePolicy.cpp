@@ -1,9 +1,0 @@
-#include "orbis/factory/marshaling/PrimitivePolicy.hpp"
-
-namespace orbis::factory {
-
-Marshaler<PrimitivePolicy>& Marshaler<PrimitivePolicy>::operator=(Marshaler const&) = default;
-
-Marshaler<PrimitivePolicy>& Marshaler<PrimitivePolicy>::operator=(Marshaler&&) = default;
-
-} // namespace orbis::factory

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "orbis_host_export.hpp"
+
+#include <functional>
+#include <string>
+#include <typeinfo>
+
+namespace orbis::host_extensions {
+
+/// What scripts learn of native exceptions of one type.
+struct ErrorKind {
+    std::string identifier;
+    std::type_info const* type;
+
+    /// Inside a handler: stores the text of the current exception and returns true if that is of this type or derived
+    /// from it. Throws `std::bad_alloc` only.
+    std::function<bool(std::string& text)> describe;
+};
+
+/// Adds a kind to those of the current virtual machine, and replaces the earlier one of its type. An exception is of the
+/// kind of its own type or else of the last added one that it is derived from; exceptions with a message identifier
+/// keep it. `describe` stays callable as long as the virtual machine. Threading: on the thread of the virtual machine.
+ORBIS_HOST_API void addErrorKind(ErrorKind kind);
+
+} // namespace orbis::host_extensions
