@@ -54,19 +54,22 @@ void Session::bindExit()
 
 void Session::end()
 {
+    host_.running() = lua_.get();
     if (lua_)
         lua_resetthread(lua_.get()); // closes `<close>` variables while everything still works
     host_.beginClosing();
     lua_.reset();
+    host_.running() = nullptr;
     host_.clear();
 }
 
 int Session::finish(int code)
 {
+    bool const isComplete = !host_.isInCallback(); // else native code is never returned to, and leaves what it holds
     end();
     if (host_.hasFailed() && code == exitSuccess)
         code = exitScriptError;
-    return finishOutput(reportLeft() ? exitLeaks : code);
+    return finishOutput(isComplete && reportLeft() ? exitLeaks : code);
 }
 
 bool Session::reportLeft() const

@@ -4,6 +4,7 @@
 #include "text/DisplayWidth.hpp"
 #include "values/HostText.hpp"
 
+#include "host_extensions/functionValues.hpp"
 #include "host_extensions/host_extensions.hpp"
 #include "host_extensions/numericClasses.hpp"
 #include "orbis/objectArrays.hpp"
@@ -183,7 +184,7 @@ std::string arrayText(lua_State* L, hvArray_tag const& array)
     bool const isText = classID == hvCHAR_CLASS || classID == hvSTRING_CLASS;
     if (std::string text = plainText(array); !text.empty() || (isText && array.get_number_of_elements() == 1))
         return text;
-    if (array.get_number_of_elements() == 0)
+    if (array.get_number_of_elements() == 0 || classID == orbis::host_extensions::functionClass)
         return sizeAndClass(array);
     return sizeAndClass(array) + (classID == hvCHAR_CLASS ? charactersText(array) : tableText(array));
 }

@@ -40,6 +40,8 @@ int loadModule(lua_State* L)
 
 int unloadModule(lua_State* L)
 {
+    if (HostContext::of(L).isInCallback())
+        fail("inUse", "a module cannot be unloaded while native code waits for a function of the script");
     HostContext::of(L).hvm().unloadModule(checkText(L, 1));
     return 0;
 }

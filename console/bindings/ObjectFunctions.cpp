@@ -9,7 +9,12 @@
 #include "values/HostCall.hpp"
 #include "values/ValueToHost.hpp"
 
+#include "host_extensions/host_extensions.hpp"
+#include "orbis/objectArrays.hpp"
+
 #include <string>
+#include <unordered_set>
+#include <vector>
 
 namespace velmara::console {
 
@@ -49,6 +54,39 @@ int classOf(lua_State* L)
     return 1;
 }
 
+/// Calls `visit` with each object in an array, in the cells of one, and in their cells.
+template <class Visit>
+void visitObjects(hvArray_tag const* array, Visit const& visit)
+{
+    std::vector<hvArray_tag const*> open{array};
+    std::unordered_set<void const*> seen; // cells may hold the same cells many times over
+    while (!open.empty()) {
+        hvArray_tag const* const next = open.back();
+        open.pop_back();
+        hvClassID const classID = next ? next->_get_class_id_non_trivial() : hvUNKNOWN_CLASS;
+        for (std::size_t i = 0; classID == hvOBJECT_CLASS && i < next->get_number_of_elements(); ++i)
+            visit(static_cast<orbis::COSInterface*>(orbis::omGetArrayElement(next, i)));
+        if (classID == hvCELL_CLASS && seen.insert(next).second)
+            for (std::size_t i = 0; i < next->get_number_of_elements(); ++i)
+                open.push_back(orbis::host_extensions::getCell(next, i));
+    }
+}
+
+/// Throws for objects that native code, which waits for a function of the script, was called with or has passed on.
+void requireUnused(HostContext const& host, hvArray_tag const* objects)
+{
+    if (!host.isInCallback())
+        return;
+    std::unordered_set<void const*> used;
+    for (hvArray_tag const* const array : host.arraysInUse())
+        visitObjects(array, [&](void const* object) { used.insert(object); });
+    visitObjects(objects, [&](void const* object) {
+        if (object && used.contains(object))
+            fail("inUse",
+                 "an object cannot be deleted while native code uses it and waits for a function of the script");
+    });
+}
+
 /// Destroys an object, or the objects in a table or an array, now.
 int deleteObjects(lua_State* L)
 {
@@ -59,6 +97,7 @@ int deleteObjects(lua_State* L)
     hvArray_tag* objects = call.inputs(1).front();
     if (objects->_get_class_id_non_trivial() != hvOBJECT_CLASS && objects->get_number_of_elements() != 0)
         fail("noObject", "delete needs an object, or a table or an array of objects with a class in common");
+    requireUnused(HostContext::of(L), objects);
     if (objects->get_number_of_elements() != 0)
         call.hvm().deleteObjects(objects);
     return 0;

@@ -16,6 +16,9 @@ public:
     ArrayStack& operator=(ArrayStack const&) = delete;
     ~ArrayStack() { shrink(0); }
 
+    std::size_t size() const { return arrays_.size(); }
+    std::span<hvArray_tag* const> first(std::size_t count) const { return std::span(arrays_).first(count); }
+
     /// Releases all arrays from `size` on, the last one first.
     void shrink(std::size_t size) noexcept
     {

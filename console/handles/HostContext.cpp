@@ -7,7 +7,7 @@
 
 namespace velmara::console {
 
-HostContext::HostContext(lua_State* L, bool reportsLeaks) : reportsLeaks_(reportsLeaks)
+HostContext::HostContext(lua_State* L, bool reportsLeaks) : running_(L), reportsLeaks_(reportsLeaks)
 {
     machines_.push_back(createMachine());
     // Lua copies this space of the main thread into every coroutine.

@@ -7,6 +7,8 @@
 #include "velmara/Hvm.hpp"
 
 #include <memory>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace velmara::console {
@@ -29,6 +31,33 @@ public:
 
     /// The virtual machine in use: the innermost one.
     Hvm& hvm() { return *machines_.back(); }
+
+    /// The script, or the coroutine of it, that has called the host most recently and is still running; null once the
+    /// state was closed. Functions of the script that the host calls run there.
+    lua_State*& running() { return running_; }
+
+    /// A function of the script that native code has called, for as long as it runs.
+    class Callback {
+    public:
+        explicit Callback(HostContext& context)
+            : context_(context),
+              previous_(std::exchange(context.waiting_, context.arrays_.size()))
+        {
+        }
+        Callback(Callback const&) = delete;
+        Callback& operator=(Callback const&) = delete;
+        ~Callback() { context_.waiting_ = previous_; }
+
+    private:
+        HostContext& context_;
+        std::optional<std::size_t> previous_;
+    };
+
+    /// True while native code waits for a function of the script.
+    bool isInCallback() const { return waiting_.has_value(); }
+
+    /// The arrays that such native code was called with, or has passed to the script.
+    std::span<hvArray_tag* const> arraysInUse() const { return arrays_.first(waiting_.value_or(0)); }
 
     /// Set for the next call: its result stays an array of the host.
     bool& keepsNextArray() { return keepsNextArray_; }
@@ -63,6 +92,8 @@ private:
     /// A virtual machine that reports modules that fail to terminate, and leaks where asked for.
     std::unique_ptr<Hvm> createMachine();
 
+    lua_State* running_;
+    std::optional<std::size_t> waiting_; ///< how many arrays were in transit when the innermost callback began
     std::vector<std::unique_ptr<Hvm>> machines_;
     ArrayStack arrays_;
     HeldArrays heldArrays_;

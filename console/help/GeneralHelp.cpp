@@ -34,6 +34,7 @@ Values to a module                   and back
   {{1, 2}, {3, 4}}         matrix      double, logical       {{1, 2}, {3, 4}}
   a                        object      one object            a
   {a, b} of one base class object row  0-by-0 object, none   nil
+  a function               function    function              a function
   any other sequence       cell row    0-by-0 double; char   {}; ""
   null in a table          empty cell  anything else         array
   missing                  string      (also one uint64 from 2^63 on)

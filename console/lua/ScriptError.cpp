@@ -1,6 +1,7 @@
 #include "lua/ScriptError.hpp"
 
 #include "lua/CachedValue.hpp"
+#include "lua/ScriptFailure.hpp"
 #include "lua/ScriptFrames.hpp"
 #include "lua/Table.hpp"
 
@@ -20,6 +21,12 @@ int errorToText(lua_State* L)
 {
     luaL_checktype(L, 1, LUA_TTABLE);
     pushText(L, fieldText(L, 1, "identifier") + ": " + fieldText(L, 1, "text"));
+    return 1;
+}
+
+int convertToText(lua_State* L)
+{
+    luaL_tolstring(L, 1, nullptr);
     return 1;
 }
 
@@ -50,6 +57,17 @@ bool isError(lua_State* L, int index)
     return result;
 }
 
+std::string errorText(lua_State* L, int index)
+{
+    index = lua_absindex(L, index);
+    lua_pushcfunction(L, convertToText);
+    lua_pushvalue(L, index);
+    bool const isText = lua_pcall(L, 1, 1, 0) == LUA_OK;
+    std::string text(isText ? textAt(L, -1) : std::string_view("error without a text"));
+    lua_pop(L, 1);
+    return text;
+}
+
 void fail(std::string_view key, std::string const& text)
 {
     throw Error("VELMARA:console:" + std::string(key), text);
@@ -59,6 +77,8 @@ int callGuarded(lua_State* L, lua_CFunction body)
 {
     try {
         return body(L);
+    } catch (ScriptFailure const& failure) {
+        pushFailure(L, failure);
     } catch (Error const& error) {
         pushError(L, error.identifier(), error.text());
     } catch (foundation::core::except::IMsgIDException const& error) {

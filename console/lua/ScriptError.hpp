@@ -14,6 +14,12 @@ void pushError(lua_State* L, std::string_view identifier, std::string_view text)
 /// True when the value at `index` is a table with the texts `identifier` and `text`.
 bool isError(lua_State* L, int index);
 
+/// The identifier of an error value that has none.
+inline constexpr char const* scriptErrorIdentifier = "VELMARA:script:error";
+
+/// The text of any error value at `index`; a fixed text when its `__tostring` fails.
+std::string errorText(lua_State* L, int index);
+
 /// Throws the console's own `velmara::Error` "VELMARA:console:KEY".
 [[noreturn]] void fail(std::string_view key, std::string const& text);
 

@@ -2,6 +2,7 @@
 
 #include "help/Completion.hpp"
 #include "lua/ScriptError.hpp"
+#include "lua/ScriptFailure.hpp"
 #include "lua/ScriptFrames.hpp"
 #include "lua/Table.hpp"
 #include "text/CloseMatches.hpp"
@@ -37,23 +38,6 @@ std::size_t positionLength(std::string const& text)
     return 0;
 }
 
-int convertToText(lua_State* L)
-{
-    luaL_tolstring(L, 1, nullptr);
-    return 1;
-}
-
-/// The text of any error value; a fixed text when its `__tostring` fails.
-std::string textOf(lua_State* L, int index)
-{
-    lua_pushcfunction(L, convertToText);
-    lua_pushvalue(L, index);
-    bool const isText = lua_pcall(L, 1, 1, 0) == LUA_OK;
-    std::string text(isText ? textAt(L, -1) : std::string_view("error without a text"));
-    lua_pop(L, 1);
-    return text;
-}
-
 /// "; did you mean ...?" for Lua's error on a global that is nil; empty for other errors.
 std::string suggestion(lua_State* L, std::string const& text)
 {
@@ -69,7 +53,7 @@ Report reportOf(lua_State* L, int index, std::string const& identifier)
 {
     if (isError(L, index))
         return {fieldText(L, index, "identifier"), fieldText(L, index, "text"), fieldText(L, index, "where")};
-    Report report{identifier, textOf(L, index), {}};
+    Report report{identifier, errorText(L, index), {}};
     if (std::size_t const length = lua_isstring(L, index) ? positionLength(report.text) : 0) {
         report.position = report.text.substr(0, length);
         report.text.erase(0, length + 2);
@@ -98,7 +82,8 @@ int reportError(lua_State* L)
     constexpr std::size_t maxFrames = 8;
     luaL_checkstack(L, 10, nullptr);
     lua_settop(L, 1);
-    pushText(L, format(reportOf(L, 1, "VELMARA:script:error"), scriptFrames(L, 1, maxFrames + 1), maxFrames));
+    pushText(L, format(reportOf(L, 1, scriptErrorIdentifier), failureFrames(L, 1, scriptFrames(L, 1, maxFailureFrames)),
+                       maxFrames));
     return 1;
 }
 
@@ -107,7 +92,7 @@ std::string describeError(lua_State* L, int index, int status)
     index = lua_absindex(L, index);
     std::string const identifier = status == LUA_ERRSYNTAX ? "VELMARA:script:syntax"
                                    : status == LUA_ERRMEM  ? Error::outOfMemory().identifier()
-                                                           : "VELMARA:script:error";
+                                                           : scriptErrorIdentifier;
     return format(reportOf(L, index, identifier), {}, 0);
 }
 

@@ -6,11 +6,13 @@
 #include "handles/Sentinel.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
+#include "values/FunctionValue.hpp"
 #include "values/HostText.hpp"
 #include "values/ValueToHost.hpp"
 #include "values/ValueToLua.hpp"
 
 #include "host_extensions/convertNumber.hpp"
+#include "host_extensions/functionValues.hpp"
 #include "host_extensions/host_extensions.hpp"
 #include "host_extensions/numericClasses.hpp"
 #include "libhv/libhv.hpp"
@@ -27,6 +29,7 @@ namespace {
 
 using orbis::host_extensions::convertNumber;
 using orbis::host_extensions::findNumericClass;
+using orbis::host_extensions::functionClass;
 using orbis::host_extensions::visitNumericClass;
 
 template <class T>
@@ -167,6 +170,8 @@ void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
     luaL_checkstack(L, 8, nullptr);
     hvClassID const classID = array->_get_class_id_non_trivial();
+    if (classID == functionClass)
+        return pushFunction(L, *array);
     void const* const data = orbis::host_extensions::getData(array);
     switch (classID) {
     case hvCHAR_CLASS:
@@ -189,6 +194,8 @@ void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
 void storeElement(lua_State* L, int value, hvArray_tag* array, std::size_t index, Conversion& conversion)
 {
     hvClassID const classID = array->_get_class_id_non_trivial();
+    if (classID == functionClass)
+        throwMismatch(L, value, *array, index, "cannot be stored: a function stays what it is");
     switch (classID) {
     case hvCHAR_CLASS:
         return storeCharacter(L, value, array, index);

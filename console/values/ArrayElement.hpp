@@ -14,6 +14,7 @@ namespace velmara::console {
 /// - of numbers: a float for double and single, else an integer; a uint64 beyond Lua's integers: a 1-by-1 host array
 /// - of logicals: a boolean; of characters: a string of that one UTF-16 unit
 /// - of strings: a string or `missing`
+/// - of a function array: the function
 /// - of cells: see `pushValue`, but `null` instead of nil; of objects: the object or `null`
 void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index);
 

@@ -15,9 +15,13 @@ public:
         : L_(L),
           host_(HostContext::of(L)),
           frame_(host_.arrays()),
+          previous_(std::exchange(host_.running(), L)),
           keepsArray_(std::exchange(host_.keepsNextArray(), false))
     {
     }
+    HostCall(HostCall const&) = delete;
+    HostCall& operator=(HostCall const&) = delete;
+    ~HostCall() { host_.running() = previous_; }
 
     Hvm& hvm() { return host_.hvm(); }
 
@@ -34,6 +38,7 @@ private:
     lua_State* L_;
     HostContext& host_;
     ArrayStack::Frame frame_;
+    lua_State* previous_;
     bool keepsArray_;
 };
 

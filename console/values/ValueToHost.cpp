@@ -5,6 +5,7 @@
 #include "handles/Sentinel.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
+#include "values/FunctionValue.hpp"
 #include "values/HostText.hpp"
 #include "values/TableToHost.hpp"
 
@@ -74,6 +75,8 @@ ArrayPtr toHost(lua_State* L, int index, Conversion& conversion)
         return tableToHost(L, lua_absindex(L, index), conversion);
     case LUA_TUSERDATA:
         return userdata(L, index);
+    case LUA_TFUNCTION:
+        return functionToHost(L, index);
     default:
         fail("value", kindAt(L, index) + " cannot be passed to the host");
     }

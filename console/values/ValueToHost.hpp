@@ -13,6 +13,7 @@ namespace velmara::console {
 /// - a string: 1-by-n characters, its bytes read as UTF-8; the empty string 0-by-0
 /// - an object: itself; a host array: a copy that shares its data; `missing`: a missing string
 /// - nil and `null`: an empty 0-by-0 double
+/// - a function: one that calls it, or that of the host which it stands for; see FunctionValue.hpp
 /// - a table: see TableToHost.hpp
 ///
 /// Throws an `Error` for anything else. Runs no code of the script.

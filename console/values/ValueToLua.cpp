@@ -5,8 +5,10 @@
 #include "handles/Sentinel.hpp"
 #include "lua/Table.hpp"
 #include "values/ArrayElement.hpp"
+#include "values/FunctionValue.hpp"
 #include "values/HostText.hpp"
 
+#include "host_extensions/functionValues.hpp"
 #include "host_extensions/host_extensions.hpp"
 #include "host_extensions/numericClasses.hpp"
 #include "libkwi18n/libkwi18n.hpp"
@@ -85,6 +87,8 @@ void pushValue(lua_State* L, hvArray_tag const* array)
         return lua_pushnil(L);
     if (classID == hvOBJECT_CLASS && count == 1)
         return pushObject(L, array, 0);
+    if (classID == orbis::host_extensions::functionClass)
+        return pushFunction(L, *array);
     if (classID == hvCHAR_CLASS && (isNone || (rowsOf(*array) == 1 && count != 0)))
         return pushRow(L, *array, 0);
     if (findNumericClass(classID) && count == 1)

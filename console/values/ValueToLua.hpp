@@ -14,6 +14,7 @@ namespace velmara::console {
 /// - doubles and logicals: a sequence for one row, else a sequence of rows; for 0-by-0 doubles {}
 /// - a row of characters, or 0-by-0: a string in UTF-8, each lone surrogate as U+FFFD
 /// - one object: the object; a null one, or none 0-by-0: nil; no array: nil
+/// - a function: a Lua function, the script's own where it is that
 /// - anything else: a host array
 ///
 /// An array that becomes a table or a string is the same array again when that is passed to the host.

@@ -5,12 +5,15 @@
 // expect ENUM: enumeration is not published: specialise orbis::factory::HostEnumeration for it, beside the enumeration.
 // expect NAMES: More parameter names are listed than the function has parameters: remove the extra names.
 // expect TEXT: The parentheses of a parameter's text do not match
+// expect KEPT: A function that scripts implement cannot return a pointer, a reference or a view
 // expect DEFAULT: A default value does not convert to the type of its parameter
 // expect FRACTION: A default value for an integer parameter is a floating-point number: write an integer.
 #include "Published.hpp"
 
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/types/NumericSpanPolicy.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
+#include "orbis/factory/types/function.hpp"
 #include "orbis/factory/withDefaults.hpp"
 
 using orbis::factory::withDefaults;
@@ -23,6 +26,7 @@ void move(std::optional<OPTIONAL(double, std::initializer_list<int>)> distance);
 void fill(OUTPUT(int const&, int&));
 void use(CLASS(Published, Unknown) *);
 void paint(ENUM(int, Color));
+void onChange(std::function<KEPT(double, std::optional<std::span<double const>>)(int)> const& callback);
 double power(double base, int exponent);
 
 void describeAll()
@@ -34,6 +38,7 @@ void describeAll()
         .function("fill", &fill)
         .function("use", &use)
         .function("paint", &paint)
+        .function("onChange", &onChange)
         .function("power", &power, NAMES("a, b", "a, b, c"))
         .function("raised", &power, TEXT("a (one, two), b", "a (one, b"))
         .function("squared", &power, "base, exponent", withDefaults(DEFAULT(2, "two")))

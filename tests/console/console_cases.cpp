@@ -4,10 +4,14 @@
 
 #include "velmara/ArrayPtr.hpp"
 
+#include "host_extensions/functionValues.hpp"
+
 #include <initializer_list>
 #include <limits>
+#include <optional>
 #include <span>
 #include <stdexcept>
+#include <thread>
 
 namespace {
 
@@ -178,6 +182,96 @@ private:
     bool leaves_ = false;
 };
 
+using host_extensions::FunctionHandle;
+
+std::optional<FunctionHandle> kept; ///< outlives the virtual machines
+
+ArrayPtr text(char const* text)
+{
+    return ArrayPtr(hvCreateString(text));
+}
+
+/// Calls the function with a number, and gives what it gives.
+ArrayPtr callWith(FunctionHandle const& function, COSValue number)
+{
+    host_extensions::FunctionCall call(function);
+    call.addInput("double scalar", number);
+    return matrix<double>(1, 1, {call.invoke("double scalar").scalar<double>()});
+}
+
+/// The number that a probe holds, 0 for anything else.
+double scalarOf(COSValue const& probe)
+{
+    auto const& value = static_cast<Probe*>(omGetArrayElement(probe.array(), 0)->getNativeObject(probeClass))->value;
+    bool const isNumber = value->_get_class_id_non_trivial() == hvDOUBLE_CLASS && value->get_number_of_elements() == 1;
+    return isNumber ? *static_cast<double const*>(host_extensions::getData(value.get())) : 0;
+}
+
+/// What `action` gives, or the text of what it throws.
+template <class F>
+ArrayPtr attempt(F const& action)
+{
+    try {
+        return action();
+    } catch (std::exception const& error) {
+        return text(error.what());
+    }
+}
+
+template <class F>
+ArrayPtr attemptOnThread(F const& action)
+{
+    ArrayPtr result;
+    std::thread([&] { result = attempt(action); }).join();
+    return result;
+}
+
+ArrayPtr drop()
+{
+    kept.reset();
+    return text("dropped");
+}
+
+/// Calls functions of scripts, and keeps one.
+class Callbacks final : public COSPackageInfo {
+public:
+    char const* getName() const override { return "callbacks"; }
+
+    void initializePackage(COSPackage* package) override
+    {
+        Parameter const function{"function(double scalar) -> double scalar", "function"};
+        Parameter const number{"double scalar", "number"};
+        auto const add = [&](char const* name, std::vector<Parameter> const& inputs, Body const& body) {
+            package->addFunction(new Method(name, true, "any", inputs, body));
+        };
+        add("apply", {function, number}, [](auto in) { return callWith(FunctionHandle(in[0].array()), in[1]); });
+        add("apply", {number, number}, [](auto) { return text("two numbers"); });
+        add("swallow", {function},
+            [](auto in) { return attempt([&] { return callWith(FunctionHandle(in[0].array()), COSValue(1.0)); }); });
+        add("keep", {function}, [](auto in) {
+            kept.emplace(in[0].array());
+            return callWith(*kept, COSValue(0.0));
+        });
+        add("kept", {number}, [](auto in) { return callWith(kept.value(), in[0]); });
+        add("keptOnThread", {}, [](auto) { return attemptOnThread([] { return callWith(*kept, COSValue(1.0)); }); });
+        add("with", {{probeClass, "probe"}, {"function", "function"}}, [](auto in) {
+            host_extensions::FunctionCall call(FunctionHandle(in[1].array()));
+            call.addInput(probeClass, COSValue(copyOf(in[0].array()).release()));
+            call.invoke("void");
+            return matrix<double>(1, 1, {scalarOf(in[0])});
+        });
+        add("drop", {}, [](auto) { return drop(); });
+        add("dropOnThread", {}, [](auto) { return attemptOnThread(drop); });
+        add("multiplier", {{"double scalar", "factor"}}, [number](auto in) {
+            auto const multiply = [factor = in[0].template scalar<double>()](auto inputs) {
+                return matrix<double>(1, 1, {factor * inputs[0].template scalar<double>()});
+            };
+            return ArrayPtr(
+                host_extensions::createFunction(new Method("function", true, "double scalar", {number}, multiply)));
+        });
+    }
+};
+
 } // namespace
 
 #if defined(_WIN32)
@@ -190,10 +284,13 @@ ENTRY_POINT void VXInitialize_console_cases()
 {
     if (!COSPackage::getPackage("cases"))
         COSPackage::addPackage(new Cases);
+    if (!COSPackage::getPackage("callbacks"))
+        COSPackage::addPackage(new Callbacks);
 }
 
 ENTRY_POINT void VXTerminate_console_cases()
 {
+    COSPackage::removePackage("callbacks");
     COSPackage::removePackage("cases");
 }
 

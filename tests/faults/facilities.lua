@@ -22,6 +22,11 @@ local derived = probe.inner.most.makeDerived()
 print(class(derived), derived.metres, derived.length)
 return {derived, probe.Shared(3)}
 
+local most = probe.inner.most
+local function twice(x) return most.sum({x, x}) end
+print(most.keep(twice), most.kept()(3), most.keep(most.kept()), pcall(most.keep, function(x) error("failed " .. x, 0) end))
+return {twice, most.kept(), most.keep(twice)}
+
 print(probe.inner.most.sum({1, 2.5, 3}), pcall(probe.inner.most.sum, {"text"}))
 return probe.inner.most.sum({1})
 

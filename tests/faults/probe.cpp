@@ -10,6 +10,7 @@
 #include "orbis/factory/types/DataTypePolicy.hpp"
 #include "orbis/factory/types/NumericVectorPolicy.hpp"
 #include "orbis/factory/types/SharedPointerPolicy.hpp"
+#include "orbis/factory/types/function.hpp"
 
 #include "orbis/COSPackage.hpp"
 #include "orbis/COSPackageInfo.hpp"
@@ -100,6 +101,7 @@ struct Native : Thing<full::Wrappable, 1> {
 struct {
     std::vector<std::unique_ptr<Native>> own;
     std::vector<std::shared_ptr<Shared>> shared;
+    std::vector<std::function<double(double)>> functions;
 } natives;
 
 Native* makeNative()
@@ -110,6 +112,19 @@ Native* makeNative()
 std::shared_ptr<Shared> makeDerived()
 {
     return natives.shared.emplace_back(std::make_shared<Derived>(2));
+}
+
+double keep(std::function<double(double)> const& function)
+{
+    callback();
+    natives.functions.push_back(function);
+    return function(1);
+}
+
+std::function<double(double)> kept()
+{
+    std::function<double(double)> const last = natives.functions.back();
+    return [last](double number) { return callback(), last(number) + 1; };
 }
 
 double sum(std::vector<double> const& numbers)
@@ -193,6 +208,8 @@ struct Root final : COSPackageInfo {
         registerOrbisPackage("probe.inner.most", [](COSPackage* inner) {
             publish(inner, describeFunctions()
                                .function("sum", &sum, "numbers")
+                               .function("keep", &keep, "function")
+                               .function("kept", &kept)
                                .function("makeNative", &makeNative)
                                .function("makeDerived", &makeDerived));
             callback("initializer");

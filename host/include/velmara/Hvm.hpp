@@ -81,6 +81,9 @@ public:
     ArrayPtr callStatic(std::string_view className, std::string_view method, Inputs inputs = {});
     ArrayPtr callFunction(std::string_view fullName, Inputs inputs = {});
 
+    /// Calls a function value (host_extensions/functionValues.hpp), likewise.
+    ArrayPtr callFunction(hvArray_tag* function, Inputs inputs = {});
+
     /// Reads and writes a property of `object`, likewise. `value` stays the caller's.
     ArrayPtr get(hvArray_tag* object, std::string_view property);
     void set(hvArray_tag* object, std::string_view property, hvArray_tag* value);

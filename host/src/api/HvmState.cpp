@@ -29,12 +29,13 @@ HvmState::~HvmState()
         packages_.finalizeAllObjects();
         modules_.terminateAll(terminationReport_);
         packages_.clear();
+        functions().end();
     }
     clearStorage();
     packages_.clear(); // what deleters may have published
     types_.clear();
     clearStorage(); // what was stored meanwhile, while the modules' code is there
-    retire(nullptr);
+    destroyRetired();
     makeCurrent(previous == this ? nullptr : previous);
     Hvm::Scope::forget(*this);
 }

@@ -2,7 +2,8 @@
 
 #include "api/HvmCall.hpp"
 #include "api/callTargets.hpp"
-#include "dispatch/Dispatch.hpp"
+#include "arrays/arrayArguments.hpp"
+#include "dispatch/FunctionValue.hpp"
 #include "errors/hostError.hpp"
 
 #include <algorithm>
@@ -45,6 +46,16 @@ ArrayPtr callPackageFunction(Machine& machine, std::string_view fullName, Inputs
     return dispatch(*group, {nullptr, inputs});
 }
 
+ArrayPtr callFunctionValue(hvArray_tag* array, Inputs inputs)
+{
+    HeldFunction const* const function = requireArray(array).function();
+    if (!function)
+        throwWrongClass(*Array::of(array), "notFunction");
+    array->add_reference(); // the caller may release it while it runs
+    ArrayPtr const held(array);
+    return FunctionValue::required(*function).call(inputs);
+}
+
 void endObjects(Machine& machine, hvArray_tag* array)
 {
     requireObjectArray(array);
@@ -79,6 +90,11 @@ ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs)
 {
     return callInto(
         *state_, [&]() __attribute__((always_inline)) { return callPackageFunction(*state_, fullName, inputs); });
+}
+
+ArrayPtr Hvm::callFunction(hvArray_tag* function, Inputs inputs)
+{
+    return callInto(*state_, [&] { return callFunctionValue(function, inputs); });
 }
 
 void Hvm::deleteObjects(hvArray_tag* objects)

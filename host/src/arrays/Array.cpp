@@ -176,6 +176,8 @@ void Array::retainElements() const noexcept
                 ++cell->cellsAround_;
             }
         }
+    } else if (HeldFunction* const held = function()) {
+        held->addReference();
     } else if (classID_ == hvOBJECT_CLASS) {
         for (Object* const object : objects()) {
             if (object)
@@ -192,8 +194,10 @@ void Array::destroy() noexcept
         destroyObjects();
     else if (classID_ == hvCELL_CLASS)
         CellNest::destroy(this);
-    else
+    else if (classID_ == hvSTRING_CLASS)
         destroyStrings();
+    else
+        destroyFunction();
 }
 
 // The array itself is freed first: finalizing objects runs native code.
@@ -225,6 +229,14 @@ void Array::destroyStrings() noexcept
         payload()->free();
     }
     freeHeader();
+}
+
+// The array itself is freed first: destroying the function runs foreign code.
+void Array::destroyFunction() noexcept
+{
+    HeldFunction* const held = *functionSlot();
+    freeHeader();
+    held->release();
 }
 
 void Array::destroyPlain() noexcept

@@ -3,6 +3,7 @@
 #include "arrays/ArrayClass.hpp"
 #include "arrays/Payload.hpp"
 #include "arrays/StringElement.hpp"
+#include "machine/HeldFunction.hpp"
 #include "memory/BlockPool.hpp"
 #include "names/InternedName.hpp"
 #include "objects/Object.hpp"
@@ -19,9 +20,9 @@
 namespace velmara {
 
 /// What every `hvArray_tag` is: class, sizes, and elements. Elements are numbers, characters, `Array*` (cells, null
-/// when empty), `StringElement`s or `Object*` (null allowed). Few plain elements (a scalar, a short text) and the one
-/// element of an object array are in the array itself, so that what calls pass most is one allocation; other elements
-/// are in a payload, which copies share until one of them writes.
+/// when empty), `StringElement`s, `Object*` (null allowed) or one `HeldFunction*`. Few plain elements (a scalar, a
+/// short text) and the one element of an object array are in the array itself, so that what calls pass most is one
+/// allocation; other elements are in a payload, which copies share until one of them writes.
 ///
 /// Functions that create, copy or write throw `bad_alloc` without memory, and leave everything as it was.
 class Array final : public hvArray_tag {
@@ -68,6 +69,15 @@ public:
         return array;
     }
 
+    /// A new array that holds the function, with a reference of its own.
+    static Array* createFunction(HeldFunction& function)
+    {
+        Array* const array = createHeader(orbis::host_extensions::functionClass, 1, 1, nullptr);
+        function.addReference();
+        *array->functionSlot() = &function;
+        return array;
+    }
+
     static Array* of(hvArray_tag* array) { return static_cast<Array*>(array); }
     static Array const* of(hvArray_tag const* array) { return static_cast<Array const*>(array); }
 
@@ -104,6 +114,12 @@ public:
     std::span<Array* const> cells() const { return {static_cast<Array* const*>(elements_), size()}; }
     std::span<StringElement const> strings() const { return {static_cast<StringElement const*>(elements_), size()}; }
     std::span<Object* const> objects() const { return {static_cast<Object* const*>(elements_), size()}; }
+
+    /// The function of a function array, null for others.
+    HeldFunction* function() const
+    {
+        return classID_ == orbis::host_extensions::functionClass ? *functionSlot() : nullptr;
+    }
 
     /// The elements of numbers and characters for writing, shared with no other array.
     void* writableElements();
@@ -192,6 +208,7 @@ private:
 
     Array** cellSlots() { return static_cast<Array**>(elements_); }
     StringElement* stringSlots() const { return static_cast<StringElement*>(elements_); }
+    HeldFunction** functionSlot() const { return static_cast<HeldFunction**>(elements_); }
     Object** objectSlots() const { return static_cast<Object**>(elements_); }
 
     /// True when no one but cells holds the array.
@@ -212,6 +229,7 @@ private:
     void destroy() noexcept;
     void destroyObjects() noexcept;
     void destroyStrings() noexcept;
+    void destroyFunction() noexcept;
     void destroyPlain() noexcept;
     [[gnu::noinline]] void destroyPlainPayload() noexcept;
     void freeHeader() noexcept;

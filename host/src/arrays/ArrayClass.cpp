@@ -11,12 +11,13 @@ namespace velmara {
 namespace {
 
 constexpr auto classes = [] {
-    std::array<ArrayClass, hvOBJECT_CLASS + 1> table{};
+    std::array<ArrayClass, classCount> table{};
     table[hvUNKNOWN_CLASS] = {"unknown", 0};
     table[hvCELL_CLASS] = {"cell", sizeof(void*)};
     table[hvCHAR_CLASS] = {"char", sizeof(char16_t)};
     table[hvSTRING_CLASS] = {"string", sizeof(StringElement)};
     table[hvOBJECT_CLASS] = {"object", sizeof(void*)};
+    table[orbis::host_extensions::functionClass] = {"function", sizeof(void*)};
     for (orbis::host_extensions::NumericClass const& numeric : orbis::host_extensions::numericClasses)
         table[numeric.classID] = {numeric.name, numeric.size};
     return table;
@@ -26,7 +27,7 @@ constexpr auto classes = [] {
 
 ArrayClass const& arrayClass(hvClassID id)
 {
-    return classes[id <= hvOBJECT_CLASS ? id : hvUNKNOWN_CLASS];
+    return classes[id < classCount ? id : hvUNKNOWN_CLASS];
 }
 
 } // namespace velmara

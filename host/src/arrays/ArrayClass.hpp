@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host_extensions/functionValues.hpp"
 #include "libhv/hvArray.hpp"
 
 #include <string_view>
@@ -11,6 +12,8 @@ struct ArrayClass {
     std::string_view name;   ///< what `hvIsA` and error texts call it; objects have their class's name instead
     std::size_t elementSize; ///< 0 when there are no arrays of it
 };
+
+inline constexpr std::size_t classCount = orbis::host_extensions::functionClass + 1;
 
 /// True for the numeric, logical and character classes, whose elements own nothing.
 constexpr bool hasPlainElements(hvClassID id)

@@ -76,6 +76,8 @@ ConversionRank ConvertedInputs::addArray(TypeReference const& type, hvArray_tag*
         rank = anyRank;
     else if (type.kind == TypeKind::Named)
         rank = addNamed(type, input);
+    else if (type.kind == TypeKind::Function)
+        rank = Array::of(input)->function() ? exactRank : notConvertible;
     if (rank != notConvertible)
         ++count_;
     return rank;

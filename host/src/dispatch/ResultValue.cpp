@@ -29,6 +29,8 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
         return given.classID() == type.scalarClass;
     case TypeKind::Text:
         return given.classID() == hvCHAR_CLASS;
+    case TypeKind::Function:
+        return given.function() != nullptr;
     case TypeKind::Optional: // replaced by the type of its value before
         return false;
     case TypeKind::Named:

@@ -121,6 +121,8 @@ std::string mismatchReason(TypeReference const& type, hvArray_tag* input)
         return mismatchReason(*type.value, input);
     if (type.kind == TypeKind::Text)
         return textMismatchReason(array);
+    if (type.kind == TypeKind::Function)
+        return "needs a function, not " + (array.isEmptyDouble() ? std::string("[]") : given);
     Machine& machine = Machine::required();
     if (orbis::COSDataType* const registered = machine.types().findRegistered(type.name)) {
         auto* const conversion = machine.types().findConversion(anyTypeName(), type.name);

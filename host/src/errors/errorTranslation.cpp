@@ -87,7 +87,13 @@ void rethrowIfOutOfMemory()
 
 void rethrowAsError()
 {
-    throw currentError();
+    try {
+        throw;
+    } catch (Error const&) {
+        throw; // it may be of a class of its own
+    } catch (...) {
+        throw currentError();
+    }
 }
 
 std::string currentErrorText()

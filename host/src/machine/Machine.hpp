@@ -1,6 +1,7 @@
 #pragma once
 
 #include "errors/MessageCatalog.hpp"
+#include "machine/HeldFunction.hpp"
 #include "machine/HvmStorage.hpp"
 #include "memory/Retirable.hpp"
 
@@ -42,6 +43,7 @@ public:
     HvmStorage& storage() { return storage_; }
     PackageTree& packages() const { return *parts_.packages; }
     TypeRepository& types() const { return *parts_.types; }
+    FunctionList& functions() { return *functions_; }
     DeferredFinalizer& deferredFinalizer() const { return *parts_.deferredFinalizer; }
 
     /// False once the virtual machine has begun to clear its storage.
@@ -118,10 +120,17 @@ protected:
     explicit Machine(Parts const& parts) : parts_(parts) {}
     ~Machine() = default;
 
-    void beginEnding() { isEnding_ = true; }
+    void beginEnding()
+    {
+        isEnding_ = true;
+        functions_->beginEnding();
+    }
 
     /// From here on the observer is not called either.
     void clearStorage();
+
+    /// Also inside of native code: a callback that ends the process never returns to it.
+    void destroyRetired() noexcept { retired_.destroyAll(); }
 
 private:
     void passCallBoundary() noexcept;
@@ -129,6 +138,7 @@ private:
     Parts parts_;
     LeakReport leakReport_;
     HvmStorage storage_;
+    std::shared_ptr<FunctionList> functions_ = std::make_shared<FunctionList>(*this);
     RetiredList retired_;
     ObjectObserver* observer_ = nullptr;
     int entries_ = 0;

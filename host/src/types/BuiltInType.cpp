@@ -62,10 +62,7 @@ public:
     int typeKind() const override { return type_.kind == TypeKind::Named ? objectTypeKind : arrayTypeKind; }
     char const* typeCategory() const override { return type_.kind == TypeKind::Named ? "Class" : "Array"; }
     bool slot11Flag() const override { return false; }
-    bool canContainInterfaces() const override
-    {
-        return type_.kind != TypeKind::Text && type_.kind != TypeKind::Elements;
-    }
+    bool canContainInterfaces() const override { return type_.kind == TypeKind::Any || type_.kind == TypeKind::Named; }
     bool isVELMARAArrayType() const override { return true; }
 
     bool isEqualValue(orbis::COSValue a, orbis::COSValue b) const override { return areEqual(a.array(), b.array()); }

@@ -38,7 +38,6 @@ ConversionRank convert(Array const& input, orbis::COSValue& out)
     }
 }
 
-constexpr std::size_t classCount = hvOBJECT_CLASS + 1;
 using ConverterRow = std::array<ScalarConverter, classCount>;
 
 template <class T>

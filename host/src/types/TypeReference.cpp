@@ -23,6 +23,7 @@ BuiltIn const* findBuiltIn(Name name)
         types[anyTypeName()] = {TypeKind::Any};
         types[intern("char")] = {TypeKind::Text};
         types[intern("char vector")] = {TypeKind::Text};
+        types[intern("function")] = {TypeKind::Function};
         for (orbis::host_extensions::NumericClass const& numeric : orbis::host_extensions::numericClasses) {
             types[intern(numeric.scalarType)] = {TypeKind::Scalar, numeric.classID};
             types[intern(numeric.vectorType)] = {TypeKind::Elements, numeric.classID};
@@ -51,6 +52,8 @@ TypeReference::TypeReference(Name typeName) : name(typeName)
     } else if (Name const valueName = withoutSuffix(name, " or empty")) {
         kind = TypeKind::Optional;
         value = std::make_shared<TypeReference const>(valueName);
+    } else if (name->view().starts_with("function(")) {
+        kind = TypeKind::Function;
     } else {
         element = withoutSuffix(name, " vector");
     }

@@ -13,9 +13,10 @@ namespace velmara {
 /// What a data type name means to the dispatch. All but `Named` are the host's own and the same in every virtual
 /// machine; a named type is a registered one, a class, or the vector type of a class.
 /// - `Elements` ("double vector"): arrays of any size of one numeric or logical class;
+/// - `Function` ("function", "function(double scalar) -> double scalar"): arrays that hold a function;
 /// - `Optional` ("... or empty"): values of another type, and besides "[]" (a double array of 0-by-0) and a missing
 ///   string, whose value is an empty slot.
-enum class TypeKind : std::uint8_t { Void, Any, Scalar, Elements, Text, Optional, Named };
+enum class TypeKind : std::uint8_t { Void, Any, Scalar, Elements, Text, Function, Optional, Named };
 
 /// A data type by its name, and what follows from the name alone.
 struct TypeReference {

@@ -76,7 +76,7 @@ for class, values in pairs({int8 = {-129, 128}, uint8 = {-1, 256, 0.5, 0 / 0, "1
 end
 for _, inputs in ipairs {{}, {"in8", 1}, {"orbis_factory", 1}, {"int8", {1, 300}}, {"int8", {{1, 2}, {3, "x"}}},
   {"int8", {{1, 2}, {3}}}, {"int8", {1, 2, x = 3}}, {"char", {"ab", "c"}}, {"char", "ab", 2, 3},
-  {"string", array("char", {"ab", "cd"})}, {"char", array("string", missing)}, {"cell", {print}},
+  {"string", array("char", {"ab", "cd"})}, {"char", array("string", missing)}, {"cell", {io.stdout}},
   {cases.Probe, orbis_factory.Adder()}, {"double", 0, -1, 2}, {"double", 0, 1.5, 2}, {"double", 0, 2},
   {"double", {1, 2, 3}, 2, 2}, {"double", {1, 2, 3}, 0, 0}} do
   refused(array, table.unpack(inputs))

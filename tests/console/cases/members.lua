@@ -15,7 +15,7 @@ p.common = 6
 print(cases.Probe.common)
 print(#p.fixed)
 local Probe, adder = cases.Probe, orbis_factory.Adder()
-for _, call in ipairs {{assign, p, "fixed", 1}, {assign, p, "twin", 1}, {assign, p, "vale", 1}, {assign, p, "value", print},
+for _, call in ipairs {{assign, p, "fixed", 1}, {assign, p, "twin", 1}, {assign, p, "vale", 1}, {assign, p, "value", coroutine.create(print)},
   {assign, Probe, "value", 1}, {assign, Probe, "twin", 1}, {index, p, "vallue"}, {index, p, "zzz"}, {index, p, 1},
   {index, Probe, "value"}, {index, Probe, "commn"}, {p.twin}, {p.twin, 5}, {p.twin, adder}, {p.give, p, q}, {p.give, array(Probe, {p, q})}, {p.pair, p, adder},
   {p.fail, p}, {Probe, 1, 2}, {index, cases, "Prob"}, {index, cases, "PROBE"}, {index, cases, 1}, {assign, cases, "x", 1},
