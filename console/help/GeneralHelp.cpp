@@ -36,11 +36,12 @@ Values to a module                   and back
   {a, b} of one base class object row  0-by-0 object, none   nil
   a function               function    function              a function
   any other sequence       cell row    0-by-0 double; char   {}; ""
+  {k = 1, l = "x"}         a cell row {key, value} for each, by key
   null in a table          empty cell  anything else         array
   missing                  string      (also one uint64 from 2^63 on)
   nil, null, {}            0-by-0
-Tables must be sequences (keys 1 to n), nested at most 200 deep, a million in
-all. Each ill-formed part of a text becomes U+FFFD.
+Tables must be sequences (keys 1 to n) or have texts for all keys, nested at
+most 200 deep, a million in all. Each ill-formed part of a text becomes U+FFFD.
 
 Arrays of the host are values of their own, of every class and size:
   array(class, values)               of exactly that class, or an error

@@ -40,6 +40,23 @@ std::string keyText(lua_State* L, int index)
 
 } // namespace
 
+std::vector<std::string> textKeysOf(lua_State* L, int table)
+{
+    if (!proxyName(L, table).empty()) // refused by `elementsOf`
+        return {};
+    luaL_checkstack(L, 8, nullptr);
+    std::vector<std::string> keys;
+    for (lua_pushnil(L); lua_next(L, table); lua_pop(L, 1)) {
+        if (lua_type(L, -2) != LUA_TSTRING) {
+            lua_pop(L, 2);
+            return {};
+        }
+        keys.emplace_back(textAt(L, -2));
+    }
+    std::sort(keys.begin(), keys.end());
+    return keys;
+}
+
 Elements elementsOf(lua_State* L, int table)
 {
     if (auto const name = proxyName(L, table); !name.empty())

@@ -3,6 +3,8 @@
 #include "lua/LuaApi.hpp"
 
 #include <cstddef>
+#include <string>
+#include <vector>
 
 namespace velmara::console {
 
@@ -16,6 +18,9 @@ struct Elements {
     bool are(unsigned kind) const { return (kinds & kind) != 0; }
     bool areScalars() const { return count > 0 && are(Numbers | Booleans); }
 };
+
+/// The keys of the table at the absolute `table`, in their order as bytes, if all of them are strings; none for others.
+std::vector<std::string> textKeysOf(lua_State* L, int table);
 
 /// Visits all pairs of the table at the absolute `table`, ignoring its metatable. Throws an `Error` when it is no
 /// sequence: when a key is not a positive integer, or one is missing.

@@ -13,6 +13,7 @@
 #include "libhv/libhv.hpp"
 #include "orbis/objectArrays.hpp"
 
+#include <string>
 #include <vector>
 
 namespace velmara::console {
@@ -25,6 +26,10 @@ Elements commonRow(lua_State* L, int table, std::size_t count)
     Elements common;
     for (std::size_t i = 0; i < count; ++i) {
         lua_rawgeti(L, table, static_cast<lua_Integer>(i + 1));
+        if (!textKeysOf(L, lua_gettop(L)).empty()) {
+            lua_pop(L, 1);
+            return {};
+        }
         Elements const row = elementsOf(L, lua_gettop(L));
         lua_pop(L, 1);
         if (i == 0)
@@ -90,11 +95,28 @@ ArrayPtr cellRow(lua_State* L, int table, std::size_t count, Conversion& convers
     return cells;
 }
 
+ArrayPtr cellMap(lua_State* L, int table, std::vector<std::string> const& keys, Conversion& conversion)
+{
+    std::size_t const count = keys.size();
+    conversion.add(2 * count, memoryOfElement(hvCELL_CLASS));
+    ArrayPtr cells(hvCreateCellMatrix(count, 2));
+    for (std::size_t i = 0; i < count; ++i) {
+        pushText(L, keys[i]);
+        storeElement(L, lua_gettop(L), cells.get(), i, conversion);
+        lua_rawget(L, table);
+        storeElement(L, lua_gettop(L), cells.get(), count + i, conversion);
+        lua_pop(L, 1);
+    }
+    return cells;
+}
+
 } // namespace
 
 ArrayPtr tableToHost(lua_State* L, int index, Conversion& conversion)
 {
     Conversion::Level const level(conversion, "tables");
+    if (auto const keys = textKeysOf(L, index); !keys.empty())
+        return cellMap(L, index, keys, conversion);
     Elements const elements = elementsOf(L, index);
     if (elements.count == 0)
         return ArrayPtr(orbis::host_extensions::createMatrix(0, 0, hvDOUBLE_CLASS));

@@ -2,8 +2,8 @@
 local refused = loadfile("../refused.lua")(tostring)
 local cycle = {}
 cycle[1] = cycle
-for _, value in ipairs {coroutine.create(print), io.stdout, cases, cases.Probe, {orbis_factory.Adder}, {x = 1},
-  {1, 2, [4] = 4}, {1, nil, 3}, {[1.5] = 1}, {0.5, (1 << 53) + 1}, {{1}, {x = 2}}, cycle} do
+for _, value in ipairs {coroutine.create(print), io.stdout, cases, cases.Probe, {orbis_factory.Adder}, {1, x = 1},
+  {1, 2, [4] = 4}, {1, nil, 3}, {[1.5] = 1}, {0.5, (1 << 53) + 1}, {{1}, {2, x = 2}}, cycle} do
   refused(cases.echo, value)
 end
 local deep = {"bottom"}

@@ -11,7 +11,7 @@ end
 
 for _, value in ipairs {1, 1.5, -0.0, 1 << 53, (1 << 53) + 1, math.mininteger, 0 / 0 ~= 0 / 0, math.huge, "", "a\0b",
   "gr\u{fc}n \u{1f600}", {}, {1, 2.5, 3}, {1}, {(1 << 53) + 1, 2}, {true, false}, {{1, 2, 3}, {4, 5, 6}}, {{1}, {2}},
-  {{true}, {false}}, {{1, 2}, {3}}, {"a", "bc"}, {1, "a", true, {2, {3}}, null}, {{}, {}}} do
+  {{true}, {false}}, {b = 2, a = "x", [""] = {c = 1, d = {}}}, {{1, 2}, {3}}, {"a", "bc"}, {1, "a", true, {2, {3}}, null}, {{}, {}}} do
   local back = cases.echo(value)
   print(class(value), type(back), text(back))
 end

@@ -33,6 +33,18 @@ concept PointsToObject = std::is_pointer_v<T> || requires(T const& value) {
     value.use_count();
 };
 
+/// Whether converting a value of the type, or one inside it, takes an object from its host object.
+template <class T>
+consteval bool takesObjects()
+{
+    if constexpr (requires(T const& value) { value.get_deleter(); })
+        return true;
+    else if constexpr (requires { typename T::value_type; })
+        return takesObjects<typename T::value_type>();
+    else
+        return false;
+}
+
 /// Returns whether a list that is an argument can have elements of the type; stops compilation with a sentence
 /// otherwise.
 template <class T>
@@ -43,8 +55,7 @@ consteval bool canBeRead()
                                 !std::is_same_v<T, char16_t*>;
     static_assert(ownsMemory, "The elements of an argument would refer to memory that is freed before the call: take "
                               "elements that own theirs (std::string instead of std::string_view).");
-    constexpr bool isCopied =
-        requires(T (*take)(T)) { take(std::declval<T&&>()); } && !requires(T const& value) { value.get_deleter(); };
+    constexpr bool isCopied = !takesObjects<T>();
     static_assert(isCopied, "Objects are taken from scripts as a std::unique_ptr, or as a std::vector of those "
                             "(orbis/factory/types/objectValues.hpp), and in no other list.");
     return ownsMemory && isCopied;
