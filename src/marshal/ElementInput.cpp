@@ -82,7 +82,8 @@ void convertNumbers(hvArray_tag const& from, hvClassID target, void* to)
 void requireNumbers(hvArray_tag const* array, hvClassID target, char const* needed)
 {
     hvClassID const given = array ? array->_get_class_id_non_trivial() : hvUNKNOWN_CLASS;
-    if (!isNumeric(given) && !(given == target && target == hvLOGICAL_CLASS))
+    bool const isLogical = given == target && target == hvLOGICAL_CLASS;
+    if (!isNumeric(given) && !isLogical)
         throwNeeds(target == hvLOGICAL_CLASS ? "a logical" : needed, array);
 }
 

@@ -24,28 +24,27 @@ bool hasColumns(hvArray_tag const* map)
 
 } // namespace
 
-MapEntries::MapEntries(hvArray_tag const* map) : areColumns_(hasColumns(map)), size_(0)
+MapEntries::MapEntries(hvArray_tag const* map)
 {
-    if (areColumns_) {
+    if (hasColumns(map)) {
         size_ = map->get_dimensions()[0];
         keys_.emplace(map, false);
         values_.emplace(map, false);
     } else {
-        entries_.emplace(map, true);
-        size_ = entries_->size();
+        size_ = entries_.emplace(map, true).size();
     }
 }
 
 void MapEntries::select(std::size_t index)
 {
-    if (areColumns_) {
-        keyAt_ = index;
-        valueAt_ = size_ + index;
-    } else {
+    if (entries_) {
         hvArray_tag const* const entry = entries_->at(index);
         constexpr std::size_t count = 2;
         keys_.emplace(entry, count);
         values_.emplace(entry, count);
+    } else {
+        keyAt_ = index;
+        valueAt_ = size_ + index;
     }
 }
 

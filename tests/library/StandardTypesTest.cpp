@@ -305,6 +305,7 @@ TEST_F(StandardTypesTest, ListsOfOneTypeAreRowsOrCells)
     check({
         {"three", three, "[3 1 2]"},
         {"three", two, "needs 3 numbers, not 2", true},
+        {"three", row({1, 2, 3, 4}), "needs 3 numbers, not 4", true},
         {"three", row({1, 2, 0.5}), "element 2 (counted from 0): 0.5", true},
         {"flags", row({1, 0}), "[1 0]"},
         {"texts", list(a, b), "{'a' 'b'}"},

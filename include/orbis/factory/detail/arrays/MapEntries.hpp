@@ -27,8 +27,7 @@ public:
     hvArray_tag const* value() { return values_->at(valueAt_); }
 
 private:
-    bool areColumns_;
-    std::size_t size_;
+    std::size_t size_ = 0;
     std::optional<ListElements> entries_; ///< unless there are columns
     std::optional<ListElements> keys_;    ///< of all entries, or of the current one
     std::optional<ListElements> values_;  ///< likewise
