@@ -1,6 +1,7 @@
 #include "bindings/ObjectBinding.hpp"
 
 #include "bindings/ClassMembers.hpp"
+#include "bindings/Operators.hpp"
 #include "handles/HostObject.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
@@ -24,8 +25,11 @@ int readMember(lua_State* L)
     lua_pushvalue(L, 2);
     if (lua_rawget(L, lua_upvalueindex(1)) == LUA_TFUNCTION)
         return 1;
-    std::string_view const name = memberName(L, 2);
+    lua_settop(L, 2);
     std::string_view const cls = objectClass(L, 1);
+    if (lua_type(L, 2) != LUA_TSTRING && readItem(L, cls))
+        return 1;
+    std::string_view const name = memberName(L, 2);
     HostCall call(L);
     hvArray_tag* object = call.share(checkObject(L, 1));
     if (!isValid(object))
@@ -37,8 +41,10 @@ int readMember(lua_State* L)
 
 int writeMember(lua_State* L)
 {
-    std::string_view const name = memberName(L, 2);
     std::string_view const cls = objectClass(L, 1);
+    if (lua_type(L, 2) != LUA_TSTRING && writeItem(L, cls))
+        return 0;
+    std::string_view const name = memberName(L, 2);
     HostCall call(L);
     hvArray_tag* object = call.share(checkObject(L, 1));
     if (isValid(object))
@@ -55,6 +61,7 @@ int addMembers(lua_State* L)
     lua_setfield(L, 1, "__index");
     lua_settop(L, 1);
     setField(L, "__newindex", guarded<writeMember>);
+    addOperators(L, fieldText(L, 1, "__name"));
     return 0;
 }
 

@@ -45,6 +45,10 @@ null_input::null_input(std::string const& what, char const* className)
 
 null_input::~null_input() = default;
 
+not_convertible::not_convertible(std::string const& reason) : BaseMsgID(catalog(), "not_convertible", {reason}) {}
+
+not_convertible::~not_convertible() = default;
+
 null_fcn_ptr::null_fcn_ptr() : BaseMsgID(catalog(), "null_fcn_ptr") {}
 
 null_fcn_ptr::~null_fcn_ptr() = default;

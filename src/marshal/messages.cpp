@@ -21,6 +21,7 @@ constexpr orbis::host_extensions::Message texts[] = {
     {"null_self", "The call needs an object and was given none, or one without a native object: call it on an object "
                   "that was constructed and not deleted."},
     {"null_input", "{0} must be an object of class \"{1}\" that was constructed and not deleted, and is none."},
+    {"not_convertible", "A value cannot be converted: {0}."},
     {"null_fcn_ptr", "The property has no function for this access: it can be either read or written, not both."},
     {"no_such_class", "An object of the class {0} cannot be handed out, because no such class is published: load the "
                       "module that publishes it."},

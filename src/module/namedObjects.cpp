@@ -232,14 +232,23 @@ std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in)
     return shared;
 }
 
+void requireOwned(NamedClass const& named, hvArray_tag const* in, bool alone)
+{
+    COSInterfacePtr const host = firstOf(in);
+    if (!host)
+        return;
+    requireNativeOf(named, in);
+    if (requireOwner(named, host, alone ? "taken" : "shared") && alone)
+        refuse(named, "taken", "it is shared");
+}
+
 void* takeNamed(NamedClass const& named, hvArray_tag const* in)
 {
     COSInterfacePtr host = firstOf(in);
     void* const object = nativeOf(named, static_cast<COSInterface const*>(host));
     if (!object)
         return nullptr;
-    if (requireOwner(named, host, "taken"))
-        refuse(named, "taken", "it is shared");
+    requireOwned(named, in, true);
     host->setValid(false);
     return object;
 }

@@ -1,4 +1,4 @@
-// expect LAMBDA: A package function is a free function, a static member function or a lambda that captures nothing
+// expect LAMBDA: A package function is a free function, a static member function, a lambda or another class with one
 // expect OPTIONAL: There is no marshaling policy for this native type
 // expect OUTPUT: A parameter that is a reference to a non-const value cannot cross
 // expect CLASS: This class is only declared here: include the header that defines it.
@@ -31,9 +31,9 @@ double power(double base, int exponent);
 
 void describeAll()
 {
-    [[maybe_unused]] int offset = 1;
+    int offset = 1;
     orbis::factory::describeFunctions()
-        .function("shift", [LAMBDA(, offset)](int a) { return a + LAMBDA(1, offset); })
+        .function("shift", [offset](LAMBDA(int, auto) a) { return a + offset; })
         .function("move", &move, "distance")
         .function("fill", &fill)
         .function("use", &use)

@@ -20,14 +20,16 @@ class FunctionDescriber : public FunctionDescription {
     using Traits = detail::CallableTraits<std::decay_t<F>>;
 
 public:
-    /// Adds a free function, static member function or captureless lambda, with a text for users.
+    /// Adds a free function, static member function, lambda or functor, with a text for users. What a lambda
+    /// captures is copied, and is one for all virtual machines.
     template <class F>
     FunctionDescriber& function(char const* name, F callable, ParameterNames<Traits<F>::arity> names = {},
                                 char const* text = "")
     {
         constexpr bool isFree = Traits<F>::kind == detail::CallableKind::Free;
-        static_assert(isFree, "A package function is a free function, a static member function or a lambda that "
-                              "captures nothing; pick one of several overloads with overload<...>().");
+        static_assert(isFree, "A package function is a free function, a static member function, a lambda or "
+                              "another class with one call operator; pick one of several overloads with "
+                              "overload<...>().");
         if constexpr (isFree) {
             using Result = typename Traits<F>::Result;
             using Parameters = typename Traits<F>::Parameters;

@@ -54,6 +54,14 @@ public:
     ~null_input() override;
 };
 
+/// A value, or an element of one, does not convert to the native type. Argument: the reason, after the places of the
+/// elements that have it.
+class ORBIS_FACTORY_API not_convertible : public resource_core::BaseMsgID {
+public:
+    explicit not_convertible(std::string const& reason);
+    ~not_convertible() override;
+};
+
 /// A property was read without a getter, or written without a setter.
 class ORBIS_FACTORY_API null_fcn_ptr : public resource_core::BaseMsgID {
 public:

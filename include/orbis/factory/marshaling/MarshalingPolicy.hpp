@@ -6,6 +6,7 @@
 #include "orbis/factory/marshaling/TypedDynamicCastCppManagedPolicy.hpp"
 #include "orbis/factory/marshaling/VelmaraManagedNoInheritancePolicy.hpp"
 #include "orbis/factory/marshaling/VelmaraManagedWithInheritancePolicy.hpp"
+#include "orbis/factory/marshaling/missingHeader.hpp"
 #include "orbis/factory/ownership/Wrappable.hpp"
 
 #include <concepts>
@@ -102,13 +103,25 @@ concept HasPolicy = requires { typename PolicyOf<T>; };
 
 /// Named classes, and references and pointers to them.
 template <class T>
-concept IsNamedObject = HasPolicy<T> && (std::same_as<PolicyOf<T>, NamedObjectPolicy> ||
-                                         std::same_as<PolicyOf<T>, NamedPointerPolicy>);
+concept IsNamedObject =
+    HasPolicy<T> && (std::same_as<PolicyOf<T>, NamedObjectPolicy> || std::same_as<PolicyOf<T>, NamedPointerPolicy>);
 
 /// References to non-const, unless to objects that scripts pass: outputs, which cannot be marshaled.
 template <class T>
 concept IsOutput = std::is_lvalue_reference_v<T> && !std::is_const_v<std::remove_reference_t<T>> &&
-                   !NamedType<std::remove_reference_t<T>>;
+                   !(HasPolicy<T> && std::same_as<PolicyOf<T>, NamedObjectPolicy>);
+
+/// The types of Eigen are no objects without their header.
+template <class Native>
+consteval bool missesHeader()
+{
+    if constexpr (!HasPolicy<Native>)
+        return lacksHeader<Native>();
+    else if constexpr (std::same_as<PolicyOf<Native>, NamedObjectPolicy>)
+        return isNamed<Native>("Eigen::") && lacksHeader<Native>();
+    else
+        return false;
+}
 
 /// Returns whether values of the type can be marshaled; stops compilation with a sentence otherwise.
 template <class T>
@@ -122,12 +135,13 @@ consteval bool isMarshalable()
     constexpr bool isUnpublishedEnumeration = std::is_enum_v<Native> && !HasPolicy<T>;
     static_assert(!isUnpublishedEnumeration, "This enumeration is not published: specialise "
                                              "orbis::factory::HostEnumeration for it, beside the enumeration.");
-    static_assert(HasPolicy<T> || isUnpublishedClass || isUnpublishedEnumeration,
+    constexpr bool hasNoHeader = missesHeader<Native>();
+    static_assert(HasPolicy<T> || isUnpublishedClass || isUnpublishedEnumeration || hasNoHeader,
                   "There is no marshaling policy for this native type: include the header of its policy, or "
                   "specialise orbis::factory::MarshalingPolicy for it.");
     static_assert(!IsOutput<T>, "A parameter that is a reference to a non-const value cannot cross: take it by value, "
                                 "and return what the function has to hand back.");
-    return HasPolicy<T> && !IsOutput<T>;
+    return HasPolicy<T> && !hasNoHeader && !IsOutput<T>;
 }
 
 template <class T>

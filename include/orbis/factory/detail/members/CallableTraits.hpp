@@ -1,5 +1,8 @@
 #pragma once
 
+#include "orbis/factory/base/typeName.hpp"
+#include "orbis/factory/detail/members/HeldFunctor.hpp"
+
 #include <cstddef>
 #include <type_traits>
 #include <utility>
@@ -81,5 +84,32 @@ struct CallableTraits<R (C::*)(A...) const noexcept> : MemberTraits<C, R, true, 
 template <class F>
     requires std::is_class_v<F> && requires(F function) { +function; }
 struct CallableTraits<F> : CallableTraits<decltype(+std::declval<F>())> {};
+
+/// The function type of a call operator that is not overloaded.
+template <class Operator>
+struct CallOperator;
+
+template <class C, class R, class... A>
+struct CallOperator<R (C::*)(A...)> {
+    using Pointer = R (*)(A...);
+};
+
+template <class C, class R, class... A>
+struct CallOperator<R (C::*)(A...) const> : CallOperator<R (C::*)(A...)> {};
+template <class C, class R, class... A>
+struct CallOperator<R (C::*)(A...) noexcept> : CallOperator<R (C::*)(A...)> {};
+template <class C, class R, class... A>
+struct CallOperator<R (C::*)(A...) const noexcept> : CallOperator<R (C::*)(A...)> {};
+
+/// Lambdas that capture, and other classes with one call operator: handled as free functions, which keep the object.
+template <class F>
+concept Functor =
+    std::is_class_v<F> && std::is_copy_constructible_v<F> && !isOfStandardLibrary<F> &&
+    !requires(F function) { +function; } && requires { typename CallOperator<decltype(&F::operator())>::Pointer; };
+
+template <Functor F>
+struct CallableTraits<F> : CallableTraits<typename CallOperator<decltype(&F::operator())>::Pointer> {
+    using Pointer = HeldFunctor<F>;
+};
 
 } // namespace orbis::factory::detail

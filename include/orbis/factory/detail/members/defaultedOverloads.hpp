@@ -91,7 +91,8 @@ std::vector<MemberRecord> defaultedOverloads(MemberRecord const& full, std::shar
 
 /// The first `Objects` parameters are the object that a method is called on.
 template <class T, std::size_t Objects, class F, class... D>
-std::vector<MemberRecord> defaultedFunctions(MemberRecord const& full, F function, std::tuple<D...> const& values)
+std::vector<MemberRecord> defaultedFunctions(MemberRecord const& full, [[maybe_unused]] F function,
+                                             std::tuple<D...> const& values)
 {
     using Traits = CallableTraits<F>;
     using Parameters = typename Traits::Parameters;
@@ -107,7 +108,13 @@ std::vector<MemberRecord> defaultedFunctions(MemberRecord const& full, F functio
             else
                 return &FreeFunctionRoutine<Call, Result, Given>::invoke;
         };
-        auto const kept = std::make_shared<Record const>(Record{static_cast<Pointer>(function), values});
+        auto const target = [&]() -> Pointer {
+            if constexpr (std::is_class_v<Pointer>)
+                return Pointer(full.kept); // one object for all of its signatures
+            else
+                return static_cast<Pointer>(function);
+        };
+        auto const kept = std::make_shared<Record const>(Record{target(), values});
         return defaultedOverloads(full, kept, routineFor, std::index_sequence_for<D...>());
     } else {
         return {};

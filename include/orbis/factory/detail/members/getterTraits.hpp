@@ -19,7 +19,7 @@ concept MethodOf =
     CallableTraits<F>::kind == CallableKind::Member && std::derived_from<T, typename CallableTraits<F>::Class>;
 
 template <class F>
-concept FreeFunction = CallableTraits<F>::kind == CallableKind::Free;
+concept FreeFunction = CallableTraits<F>::kind == CallableKind::Free && !Functor<F>;
 
 /// Free functions that take the object first.
 template <class F, class T>

@@ -36,19 +36,38 @@ consteval bool refusesNullAmong(TypeList<A...>)
     return (refusesNull<A>() || ...);
 }
 
+/// How a record stores a callable: as a pointer, or as one to a functor that it keeps.
+template <class Pointer>
+struct StoredCallable {
+    using Call = Pointer;
+
+    static impl::Callable target(Pointer function) { return function; }
+    static std::shared_ptr<void const> kept(Pointer) { return {}; }
+};
+
+template <class F>
+struct StoredCallable<HeldFunctor<F>> {
+    using Call = typename HeldFunctor<F>::Call;
+
+    static impl::Callable target(HeldFunctor<F> const& held) { return held.functor.get(); }
+    static std::shared_ptr<void const> kept(HeldFunctor<F> const& held) { return held.functor; }
+};
+
 template <class Pointer, class Result, class Parameters>
 MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, MethodText const& text)
 {
+    using Stored = StoredCallable<Pointer>;
     return {.kind = MemberRecord::Kind::FreeFunction,
             .name = name,
             .parameterNames = names,
             .attributes = text.attributes,
             .outputType = &dataTypeText<NativeResult<Result>>,
             .inputTypes = inputTypes(Parameters{}),
-            .invokeFn = &FreeFunctionRoutine<Pointer, Result, Parameters>::invoke,
-            .target = function,
+            .invokeFn = &FreeFunctionRoutine<typename Stored::Call, Result, Parameters>::invoke,
+            .target = Stored::target(function),
             .text = text.text,
-            .refusesNull = refusesNullAmong(Parameters{})};
+            .refusesNull = refusesNullAmong(Parameters{}),
+            .kept = Stored::kept(function)};
 }
 
 template <class T, class Pointer, class Result, class Parameters>

@@ -15,8 +15,8 @@ namespace orbis::factory {
 enum class ResultOwner {
     Host,   ///< the host object owns it, and destroys it
     Native, ///< native code, which keeps it as long as scripts can use it
-    Whole   ///< it is a part of the object that the member was called on, which is kept alive as long as the part's host
-            ///< object; that becomes invalid with it
+    Whole ///< it is a part of the object that the member was called on, which is kept alive as long as the part's host
+          ///< object; that becomes invalid with it
 };
 
 namespace detail {
@@ -37,8 +37,7 @@ ORBIS_FACTORY_API hvArray_tag* announceNamed(NamedClass const& named, void const
                                              COSInterface* whole);
 
 /// The same for an object in which the host object gets a share.
-ORBIS_FACTORY_API hvArray_tag* announceShared(NamedClass const& named, void const* object,
-                                              std::shared_ptr<void> share);
+ORBIS_FACTORY_API hvArray_tag* announceShared(NamedClass const& named, void const* object, std::shared_ptr<void> share);
 
 /// Returns a new 1-by-1 array, owned by the caller, with the host object of class `className` for `bound`, which lies
 /// inside the native object of `whole`: so it does not own it.
@@ -57,6 +56,10 @@ ORBIS_FACTORY_API std::shared_ptr<void> shareNamed(NamedClass const& named, hvAr
 /// Returns the native object of the array's first element and transfers it to the caller: its host object becomes
 /// invalid. Null when there is no such object. Throws an `Exception` when its host object does not own it alone.
 ORBIS_FACTORY_API void* takeNamed(NamedClass const& named, hvArray_tag const* in);
+
+/// Throws what `shareNamed` or, with `alone`, `takeNamed` would, and the `null_input` error for an object of another
+/// class. Changes nothing.
+ORBIS_FACTORY_API void requireOwned(NamedClass const& named, hvArray_tag const* in, bool alone);
 
 } // namespace detail
 } // namespace orbis::factory

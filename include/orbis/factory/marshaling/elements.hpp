@@ -1,0 +1,102 @@
+#pragma once
+
+#include "orbis/factory/detail/arrays/ElementInput.hpp"
+#include "orbis/factory/detail/arrays/ListElements.hpp"
+#include "orbis/factory/detail/arrays/NewCells.hpp"
+#include "orbis/factory/detail/arrays/throwNullInput.hpp"
+#include "orbis/factory/marshaling/Argument.hpp"
+
+#include "orbis/objectArrays.hpp"
+
+#include <cstddef>
+#include <type_traits>
+#include <utility>
+
+/// The elements of lists, of any type that crosses.
+namespace orbis::factory::detail {
+
+/// Whether values of the type cross as lists: a matrix is then a list of them, its rows.
+template <class T>
+consteval bool isList()
+{
+    if constexpr (requires { MarshalerOf<T>::template isList<T>(); })
+        return MarshalerOf<T>::template isList<T>();
+    else
+        return false;
+}
+
+/// Raw and shared pointers to objects.
+template <class T>
+concept PointsToObject = std::is_pointer_v<T> || requires(T const& value) {
+    typename T::element_type;
+    value.get();
+    value.use_count();
+};
+
+/// Returns whether a list that is an argument can have elements of the type; stops compilation with a sentence
+/// otherwise.
+template <class T>
+consteval bool canBeRead()
+{
+    constexpr bool ownsMemory = !std::is_reference_v<T> &&
+                                (!isView<T>() || PointsToObject<T>)&&!std::is_same_v<T, char*> &&
+                                !std::is_same_v<T, char16_t*>;
+    static_assert(ownsMemory, "The elements of an argument would refer to memory that is freed before the call: take "
+                              "elements that own theirs (std::string instead of std::string_view).");
+    constexpr bool isCopied =
+        requires(T (*take)(T)) { take(std::declval<T&&>()); } && !requires(T const& value) { value.get_deleter(); };
+    static_assert(isCopied, "Objects are taken from scripts as a std::unique_ptr, or as a std::vector of those "
+                            "(orbis/factory/types/objectValues.hpp), and in no other list.");
+    return ownsMemory && isCopied;
+}
+
+/// Reads elements of type `T`.
+template <class T>
+class ElementReader {
+public:
+    static_assert(canBeRead<T>());
+
+    bool isList() const { return detail::isList<T>() || type_.isVector(); }
+
+    T read(hvArray_tag const* element) const
+    {
+        ElementInput const input(type_, element);
+        Argument<T> argument(input.value());
+        if constexpr (PointsToObject<T>) {
+            T value = argument.get();
+            hvArray_tag const* const array = input.value().array();
+            if (!value && omIsORBIS(array) && array->get_number_of_elements() != 0 && omGetArrayElement(array, 0))
+                throwNullInput(element, dataTypeText<T>());
+            return value;
+        } else {
+            return argument.get();
+        }
+    }
+
+private:
+    ElementType type_{dataTypeText<T>()};
+};
+
+/// Passes the elements of a list to `append`, converted one by one; errors of both name the element. `reserve` gets
+/// their number first.
+template <class T, class Reserve, class Append>
+void readElements(hvArray_tag const* list, Reserve reserve, Append append)
+{
+    ElementReader<T> const reader;
+    ListElements elements(list, reader.isList());
+    reserve(elements.size());
+    for (std::size_t i = 0; i < elements.size(); ++i)
+        atElement(i, [&] { append(reader.read(elements.at(i))); });
+}
+
+/// Returns an array, owned by the caller, of a value that is passed to the host as a `T`; null for an empty value.
+template <class T, class V>
+hvArray_tag* elementToHost(V&& value)
+{
+    COSValue slot;
+    int outputCount = 1;
+    storeResult<T>(outputCount, &slot, [&]() -> V&& { return std::forward<V>(value); });
+    return toArray(slot);
+}
+
+} // namespace orbis::factory::detail
