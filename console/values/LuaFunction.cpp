@@ -41,7 +41,7 @@ void Call::run(lua_State* L)
         pushValue(L, input.array());
     int const status = lua_pcall(L, static_cast<int>(inputs.size()), LUA_MULTRET, base);
     if (status == LUA_ERRMEM)
-        throw Error::outOfMemory();
+        throw Error(Error::outOfMemory());
     if (status != LUA_OK)
         throw failureOf(L, -1);
     if (lua_gettop(L) > base)
@@ -62,10 +62,11 @@ int runProtected(lua_State* L)
 /// What Lua raised in `runProtected` itself, with the error value on top of the stack.
 [[noreturn]] void throwRaised(lua_State* L, int status)
 {
-    Error const error =
-        status == LUA_ERRMEM ? Error::outOfMemory() : Error(scriptErrorIdentifier, std::string(textAt(L, -1)));
+    std::string const text(textAt(L, -1));
     lua_pop(L, 1);
-    throw error;
+    if (status == LUA_ERRMEM)
+        throw Error(Error::outOfMemory());
+    throw Error(scriptErrorIdentifier, text);
 }
 
 } // namespace
@@ -99,7 +100,7 @@ void LuaFunction::invoke(orbis::COSClient const*, int& outputCount, orbis::COSVa
     if (!L || host_.isClosing())
         fail("ending", "the script has ended: its functions cannot be called any more");
     if (!lua_checkstack(L, 3))
-        throw Error::outOfMemory();
+        throw Error(Error::outOfMemory());
     ArrayStack::Frame frame(host_.arrays());
     for (int i = 0; i < inputCount; ++i)
         if (hvArray_tag* const array = inputs[i].array()) {

@@ -11,7 +11,7 @@
 #include "Published.hpp"
 
 #include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/types/NumericSpanPolicy.hpp"
+#include "orbis/factory/types/map.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
 #include "orbis/factory/types/function.hpp"
 #include "orbis/factory/withDefaults.hpp"
@@ -26,7 +26,7 @@ void move(std::optional<OPTIONAL(double, std::initializer_list<int>)> distance);
 void fill(OUTPUT(int const&, int&));
 void use(CLASS(Published, Unknown) *);
 void paint(ENUM(int, Color));
-void onChange(std::function<KEPT(double, std::optional<std::span<double const>>)(int)> const& callback);
+void onChange(std::function<KEPT(double, std::map<std::string, Published*>)(int)> const& callback);
 double power(double base, int exponent);
 
 void describeAll()

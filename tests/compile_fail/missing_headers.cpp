@@ -13,6 +13,7 @@
 // expect OWNED: orbis/factory/types/objectValues.hpp.
 // expect NESTED: include orbis/factory/types/nestedVectors.hpp.
 // expect EIGEN: include orbis/factory/types/eigen.hpp.
+// expect FUNCTION: include orbis/factory/types/function.hpp.
 // expect OTHER: There is no marshaling policy for this native type
 #include "orbis/factory.hpp"
 
@@ -20,6 +21,7 @@
 #include <chrono>
 #include <complex>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <set>
 #include <tuple>
@@ -56,5 +58,6 @@ void describeAll()
         .function("m", &take<OWNED(int, std::vector<std::unique_ptr<Part>>)>)
         .function("n", &take<NESTED(int, std::vector<std::vector<int>>)>)
         .function("o", &take<EIGEN(int, Eigen::Matrix<int>)>)
+        .function("q", &take<FUNCTION(int, std::function<int(int)>)>)
         .function("p", &take<OTHER(int, std::initializer_list<int>)>);
 }

@@ -46,8 +46,10 @@ consteval bool lacksHeader()
                                             "header of their own: include orbis/factory/types/nestedVectors.hpp.");
     constexpr bool isMatrix = isNamed<T>("Eigen::Matrix<", "Eigen::Array<", "Eigen::Map<", "Eigen::Ref<");
     static_assert(!isMatrix, "Eigen's matrices have a header of their own: include orbis/factory/types/eigen.hpp.");
+    constexpr bool isFunction = isNamed<T>("std::function<");
+    static_assert(!isFunction, "std::function has a header of its own: include orbis/factory/types/function.hpp.");
     return isPair || isMap || isArray || isSet || isVariant || isTime || isPath || isWide || isComplex || isVector ||
-           isMatrix;
+           isMatrix || isFunction;
 }
 
 } // namespace orbis::factory::detail

@@ -33,6 +33,17 @@ class FunctionPolicy {};
 
 namespace detail {
 
+template <class T>
+consteval bool ownsWhatItHolds();
+
+/// Whether what a type of the standard library holds by its template arguments owns what it holds.
+template <class T>
+inline constexpr bool argumentsOwn = true;
+
+template <template <class...> class Template, class... T>
+    requires isOfStandardLibrary<Template<T...>>
+inline constexpr bool argumentsOwn<Template<T...>> = (true && ... && ownsWhatItHolds<T>());
+
 /// Returns whether values of the type stay valid after what they were converted from is released.
 template <class T>
 consteval bool ownsWhatItHolds()
@@ -46,9 +57,9 @@ consteval bool ownsWhatItHolds()
     else if constexpr (isView<T>())
         return false;
     else if constexpr (requires { typename T::value_type; })
-        return ownsWhatItHolds<typename T::value_type>();
+        return ownsWhatItHolds<typename T::value_type>() && argumentsOwn<T>;
     else
-        return true;
+        return argumentsOwn<T>;
 }
 
 /// Returns whether a function can return the type; stops compilation with a sentence otherwise.
