@@ -11,9 +11,9 @@
 #include "Published.hpp"
 
 #include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/types/map.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
 #include "orbis/factory/types/function.hpp"
+#include "orbis/factory/types/map.hpp"
 #include "orbis/factory/withDefaults.hpp"
 
 using orbis::factory::withDefaults;

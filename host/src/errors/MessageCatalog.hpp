@@ -23,7 +23,8 @@ private:
     std::map<std::string, std::string, std::less<>> texts_; ///< by "catalog:key"
 };
 
-/// Where errors find their texts and identifiers: the virtual machine that is current on this thread. `Machine` is the only kind.
+/// Where errors find their texts and identifiers: the virtual machine that is current on this thread. `Machine` is the
+/// only kind.
 class MessageSource {
 public:
     static MessageSource* current() { return current_; }

@@ -27,8 +27,8 @@ public:
     void* createInstanceData() override { return nullptr; }
 
     /// Removes the binding of `data`, a native address, to `object` (null: to any host object). Returns whether there
-    /// was one; only then, and only with `N` 1, is the native object deleted. One in which `object` holds a share, and a
-    /// part of another object, are not.
+    /// was one; only then, and only with `N` 1, is the native object deleted. One in which `object` holds a share, and
+    /// a part of another object, are not.
     bool destroyInstanceData(COSInterface* object, void* data) override
     {
         bool isOwned = false;

@@ -18,8 +18,8 @@ struct ErrorKind {
     std::function<bool(std::string& text)> describe;
 };
 
-/// Adds a kind to those of the current virtual machine, and replaces the earlier one of its type. An exception is of the
-/// kind of its own type or else of the last added one that it is derived from; exceptions with a message identifier
+/// Adds a kind to those of the current virtual machine, and replaces the earlier one of its type. An exception is of
+/// the kind of its own type or else of the last added one that it is derived from; exceptions with a message identifier
 /// keep it. `describe` stays callable as long as the virtual machine. Threading: on the thread of the virtual machine.
 ORBIS_HOST_API void addErrorKind(ErrorKind kind);
 

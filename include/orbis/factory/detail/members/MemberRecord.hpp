@@ -13,8 +13,8 @@ namespace orbis::factory {
 /// The maximum number of inputs of a signature, without the object.
 inline constexpr std::size_t maximumInputs = 20;
 
-/// Gives the name of a host data type. Called when the member is published: it throws `std::invalid_argument` for a class
-/// that is not published by then.
+/// Gives the name of a host data type. Called when the member is published: it throws `std::invalid_argument` for a
+/// class that is not published by then.
 using TypeText = char const* (*)();
 
 /// The description of one callable member, from which its descriptor is created; needs no host. All texts are literals.

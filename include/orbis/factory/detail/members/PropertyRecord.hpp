@@ -18,7 +18,7 @@ struct PropertyRecord {
     impl::Callable getter = {}; ///< null for a write-only property
     impl::Callable setter = {}; ///< null for a read-only property
     char const* text = "";
-    bool needsObject = false;   ///< to read, write or release; must be false for a static property
+    bool needsObject = false; ///< to read, write or release; must be false for a static property
 };
 
 } // namespace orbis::factory

@@ -28,12 +28,12 @@ struct NamedClass {
     bool (*isInstance)(void const* bound) = nullptr;                    ///< likewise
     void (*destroy)(void* object) = nullptr;                            ///< null when there is no public destructor
     bool hasVirtualDestructor = false;
-    void* (*toBase)(void* object) = nullptr;                            ///< null for a class that is bound as itself
+    void* (*toBase)(void* object) = nullptr;   ///< null for a class that is bound as itself
     void* (*fromBase)(void* object) = nullptr; ///< gives null for an object of another class
     NamedClass const* base = nullptr;          ///< to which `toBase` converts; null when that is bound as it is
     bool isBase = false;                       ///< whether a subclass is published
     bool isOwnedByHost = true;                 ///< the objects that scripts construct
-    std::atomic<char const*> name = nullptr; ///< full dotted name; null until the class is published
+    std::atomic<char const*> name = nullptr;   ///< full dotted name; null until the class is published
 };
 
 /// Returns the host name. Throws `std::invalid_argument` when the class is not published.
@@ -76,7 +76,8 @@ void* downcast(void* object)
 
 template <class T>
 struct NamedClassRecord : NamedClass {
-    static_assert(requires { sizeof(T); }, "This class is only declared here: include the header that defines it.");
+    static_assert(
+        requires { sizeof(T); }, "This class is only declared here: include the header that defines it.");
 
     constexpr NamedClassRecord() : NamedClass{&typeid(T)}
     {
