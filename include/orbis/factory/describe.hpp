@@ -50,7 +50,7 @@ public:
 
     /// Adds a constructor that takes values of the types `A`.
     template <class... A>
-    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText text = {},
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText const& text = {},
                                 MethodAttributes attributes = {})
     {
         constexpr bool exists = std::is_constructible_v<T, A...>;
@@ -69,17 +69,17 @@ public:
 
     template <class... A, class... D>
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults,
-                                MethodText text = {}, MethodAttributes attributes = {})
+                                MethodText const& text = {}, MethodAttributes attributes = {})
     {
         constructor<A...>(names, text, attributes);
         return addAll(defaults.template shortenConstructor<T, A...>(members().back()));
     }
 
-    /// Adds a method: a member function of `T` or of a public base, or a free function or captureless lambda that takes
-    /// a `T*` first. The latter becomes a forced member, which throws when it is called without an object; its
+    /// Adds a method: a member function of `T` or of a public base, or a free function, lambda or functor that takes a
+    /// `T*` first. The latter becomes a forced member, which throws when it is called without an object; its
     /// parameter names begin with the object's.
     template <class F>
-    ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodText text = {},
+    ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodText const& text = {},
                            MethodAttributes attributes = {})
     {
         using detail::CallableKind;
@@ -104,16 +104,16 @@ public:
 
     template <class F, class... D>
     ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
-                           MethodText text = {}, MethodAttributes attributes = {})
+                           MethodText const& text = {}, MethodAttributes attributes = {})
     {
         constexpr std::size_t objects = Traits<F>::kind == detail::CallableKind::Member ? 0 : 1;
         method(name, function, names, text, attributes);
         return addAll(defaults.template shorten<T, objects>(members().back(), function));
     }
 
-    /// Adds a static method: a free function, static member function or captureless lambda, called without an object.
+    /// Adds a static method: a free function, static member function, lambda or functor, called without an object.
     template <class F>
-    ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText text = {},
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText const& text = {},
                                  MethodAttributes attributes = {})
     {
         using detail::CallableKind;
@@ -133,7 +133,7 @@ public:
 
     template <class F, class... D>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
-                                 MethodText text = {}, MethodAttributes attributes = {})
+                                 MethodText const& text = {}, MethodAttributes attributes = {})
     {
         staticMethod(name, function, names, text, attributes);
         return addAll(defaults.template shorten<T, 0>(members().back(), function));
@@ -143,7 +143,8 @@ public:
     /// function or captureless lambda that takes the object or nothing. Non-const data can be written as well, unless
     /// `PropertyAttributes::NoAccessSetter()` is given.
     template <class G>
-    ClassDescriber& property(char const* name, G getter, PropertyText text = {}, PropertyAttributes attributes = {})
+    ClassDescriber& property(char const* name, G getter, PropertyText const& text = {},
+                             PropertyAttributes attributes = {})
     {
         if constexpr (detail::isWritableData<T, G>)
             return property(name, getter, getter, text, attributes);
@@ -157,7 +158,7 @@ public:
     /// or a free function or captureless lambda that takes the value, preceded by the object if it needs it.
     template <class G, class S>
         requires(!std::convertible_to<S, PropertyText>)
-    ClassDescriber& property(char const* name, G getter, S setter, PropertyText text = {},
+    ClassDescriber& property(char const* name, G getter, S setter, PropertyText const& text = {},
                              PropertyAttributes attributes = {})
     {
         if constexpr (detail::canRead<T, G>() && detail::canWrite<T, S>()) {
@@ -170,7 +171,7 @@ public:
 
     /// Adds a write-only property. The setter is as above.
     template <class S>
-    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText text = {},
+    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText const& text = {},
                                       PropertyAttributes attributes = {})
     {
         if constexpr (detail::canWrite<T, S>()) {
@@ -181,7 +182,7 @@ public:
 
     /// Adds a read-only property of the class itself: static data, a constant, or a function without parameters.
     template <class G>
-    ClassDescriber& staticProperty(char const* name, G getter, PropertyText text = {},
+    ClassDescriber& staticProperty(char const* name, G getter, PropertyText const& text = {},
                                    PropertyAttributes attributes = {})
     {
         if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>())
@@ -192,7 +193,7 @@ public:
     /// The same, read and written.
     template <class G, class S>
         requires(!std::convertible_to<S, PropertyText>)
-    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText text = {},
+    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText const& text = {},
                                    PropertyAttributes attributes = {})
     {
         if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>() &&

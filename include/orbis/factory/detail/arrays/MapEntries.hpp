@@ -23,8 +23,8 @@ public:
     void select(std::size_t index);
 
     /// Those of the current entry, null for an empty cell, valid until the next call of the same function.
-    hvArray_tag const* key() { return keys_->at(keyAt_); }
-    hvArray_tag const* value() { return values_->at(valueAt_); }
+    hvArray_tag const* key() { return keys_ ? keys_->at(keyAt_) : nullptr; }
+    hvArray_tag const* value() { return values_ ? values_->at(valueAt_) : nullptr; }
 
 private:
     std::size_t size_ = 0;
