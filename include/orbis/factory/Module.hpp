@@ -74,7 +74,7 @@ public:
         return result;
     }
 
-    /// Publishes a free function, static member function or captureless lambda; the arguments are those of
+    /// Publishes a free function, static member function, lambda or functor; the arguments are those of
     /// `FunctionDescriber::function`. Returns this.
     template <class F>
     Module& function(char const* name, F callable, ParameterNames<detail::CallableTraits<F>::arity> names = {},
