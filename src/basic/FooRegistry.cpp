@@ -198,19 +198,17 @@ namespace {
     table.record(host, className, object);
 }
 
-[[gnu::flatten]] void* detail::forgetBinding(COSInterface const* host, void* object)
+void* detail::forgetBinding(COSInterface const* host, void* object)
 {
-    basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
-    return table.unbind(object, host) ? object : nullptr;
+    return basic::HvmScoped<basic::FooRegistry>::get().unbind(object, host) ? object : nullptr;
 }
 
-[[gnu::flatten]] void* detail::forgetBinding(COSInterface const* host, void* object, bool& isOwned)
+[[gnu::flatten]] detail::ForgottenBinding detail::forgetBindingAndShare(COSInterface const* host, void* object)
 {
     basic::FooRegistry& table = basic::HvmScoped<basic::FooRegistry>::get();
     bool const wasBound = table.unbind(object, host);
     bool const wasShared = table.dependents && table.dependents->shares.drop(host);
-    isOwned = wasBound && !wasShared;
-    return wasBound ? object : nullptr;
+    return {wasBound && !wasShared ? object : nullptr, wasBound};
 }
 
 } // namespace orbis::factory

@@ -27,11 +27,9 @@ void* NamedClassInfo::createInstanceData()
 
 bool NamedClassInfo::destroyInstanceData(COSInterface* object, void* data)
 {
-    bool isOwned = false;
-    void* const forgotten = detail::forgetBinding(object, data, isOwned);
-    if (isOwned)
-        discardNative(forgotten);
-    return forgotten != nullptr;
+    detail::ForgottenBinding const forgotten = detail::forgetBindingAndShare(object, data);
+    discardNative(forgotten.owned);
+    return forgotten.wasBound;
 }
 
 bool NamedClassInfo::isHandle() const

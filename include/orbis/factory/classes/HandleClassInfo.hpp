@@ -31,13 +31,10 @@ public:
     /// a part of another object, are not.
     bool destroyInstanceData(COSInterface* object, void* data) override
     {
-        bool isOwned = false;
-        void* const forgotten = detail::forgetBinding(object, data, isOwned);
-        if constexpr (N == 1) {
-            if (isOwned)
-                delete static_cast<RootClass<T>*>(forgotten);
-        }
-        return forgotten != nullptr;
+        detail::ForgottenBinding const forgotten = detail::forgetBindingAndShare(object, data);
+        if constexpr (N == 1)
+            delete static_cast<RootClass<T>*>(forgotten.owned);
+        return forgotten.wasBound;
     }
 
     bool isHandle() const override { return true; }

@@ -18,9 +18,13 @@ ORBIS_FACTORY_API void bindConstructed(COSInterface* host, COSNameID const& clas
 /// host object stays bound to that.
 ORBIS_FACTORY_API void* forgetBinding(COSInterface const* host, void* object);
 
-/// The same, and drops the share that `host` holds. `isOwned` becomes true if there was a binding and no share: then
-/// `object` belongs to the host object alone.
-ORBIS_FACTORY_API void* forgetBinding(COSInterface const* host, void* object, bool& isOwned);
+struct ForgottenBinding {
+    void* owned; ///< the native object if it belonged to the host object alone, else null
+    bool wasBound;
+};
+
+/// The same, and drops the share that `host` holds in an object that it does not own alone.
+ORBIS_FACTORY_API ForgottenBinding forgetBindingAndShare(COSInterface const* host, void* object);
 
 /// Deletes a native object, the result of a call, that could not be bound, if the class info of `className` would
 /// delete it with its host object. Does nothing for null and for bound objects.
