@@ -10,7 +10,7 @@ print("taken", isvalid(wheel), car:wheel(1).diameter)
 car.spare = garage.Wheel(16)
 local spare = car.spare
 delete(car)
-print("the part is gone, what is shared is not", isvalid(engine), spare.diameter)
+print("the engine is gone, what is shared is not", isvalid(engine), spare.diameter)
 print(pcall(function() return engine.power end))
 
 delete(garage.showpiece())
