@@ -81,6 +81,9 @@ void Module::complete()
 void detail::setBase(NamedClass& named, NamedClass& base, void* (*toBase)(void*), void* (*fromBase)(void*))
 {
     std::lock_guard const lock(namingMutex());
+    if (named.isOwnedByHost != base.isOwnedByHost) // a result is known as its base only, and is what it is
+        throw Exception("The class " + cppName(*named.type) + " cannot have the superclass " + cppName(*base.type) +
+                        ": one is published with Owner::Host, the other with Owner::Native.");
     base.isBase = true;
     if (!named.toBase) {
         named.toBase = toBase;

@@ -78,6 +78,8 @@ double total(Engine const& a, Engine b)
 }
 
 struct Unpublished {};
+struct Base {};
+struct Derived : Base {};
 
 struct ParseError : std::runtime_error {
     using std::runtime_error::runtime_error;
@@ -171,6 +173,11 @@ TEST_F(ModulePublishTest, ClassesFunctionsAndTheirTextsAreAsDescribed)
             "f", +[](Unpublished const&) {});
     });
     expectMessage([&] { hvm().callFunction("wrong.f"); }, {"f cannot be published", "Unpublished is not published"});
+    registerModule("owners", [](Module& owners) {
+        owners.publish<Base>("Base", "", Owner::Native);
+        owners.publish<Derived>("Derived").inherits<Base>();
+    });
+    expectMessage([&] { hvm().describeClass("owners.Derived"); }, {"Owner::Native"});
     registerModule("twice", [](Module& twice) { twice.publish<Car>("Vehicle"); });
     expectMessage([&] { hvm().describeClass("twice.Vehicle"); }, {"twice.Vehicle", "it is \"cars.Car\""});
 }
