@@ -23,7 +23,7 @@ public:
     }
 
 private:
-    std::shared_ptr<void const> kept_;
+    detail::KeptObject kept_;
 };
 
 /// The same for a member with inputs that must be objects: its errors name the input.

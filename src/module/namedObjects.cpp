@@ -1,4 +1,5 @@
 #include "orbis/factory/detail/objects/namedObjects.hpp"
+#include "orbis/factory/detail/objects/sharedNamedObjects.hpp"
 
 #include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/detail/arrays/NewArray.hpp"
@@ -13,6 +14,7 @@
 
 #include "orbis/COSClass.hpp"
 
+#include <atomic>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -125,7 +127,7 @@ void transfer(NamedClass const& named, std::shared_ptr<void> const& shared)
 
 char const* className(NamedClass const& named)
 {
-    char const* const name = named.name.load(std::memory_order_acquire);
+    char const* const name = std::atomic_ref(const_cast<char const*&>(named.name)).load(std::memory_order_acquire);
     if (!name)
         throw std::invalid_argument("the class " + cppName(*named.type) +
                                     " is not published: publish it in the same module");

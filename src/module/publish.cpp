@@ -3,6 +3,7 @@
 #include "orbis/factory/descriptors/FunctionInfo.hpp"
 #include "orbis/factory/descriptors/MethodImpl.hpp"
 #include "orbis/factory/descriptors/OrbisConstructor.hpp"
+#include "orbis/factory/makeProperty.hpp"
 #include "orbis/factory/types/initStringDataTypes.hpp"
 
 #include "module/DocumentedMember.hpp"
@@ -14,7 +15,6 @@
 
 #include <array>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -83,15 +83,6 @@ void add(COSClass* cls, char const* name, MemberRecord const& record, char const
         bind(*descriptor, member.record(), hostName);
         cls->addMethod(descriptor.release());
     });
-}
-
-std::unique_ptr<impl::PropertyImpl> makeProperty(PropertyRecord const& record)
-{
-    if (record.attributes.isStatic() && record.needsObject)
-        throw std::invalid_argument("a static property has no object: give static data, or functions that take none");
-    auto property = record.make(record);
-    property->setDescription(record.text);
-    return property;
 }
 
 /// A function with a text.

@@ -2,7 +2,7 @@
 
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/classes/NativeClassRecord.hpp"
-#include "orbis/factory/detail/members/MemberRecord.hpp"
+#include "orbis/factory/detail/members/CallableForm.hpp"
 #include "orbis/factory/detail/members/PropertyRecord.hpp"
 
 #include "orbis/COSClass.hpp"
@@ -29,7 +29,11 @@ public:
 protected:
     void add(NativeClassRecord const& superclass);
     void add(MemberRecord record);
-    void add(PropertyRecord record);
+    void add(detail::CallableForm const& form, char const* name, impl::Callable const& target,
+             char const* parameterNames, MethodText text);
+    void add(std::vector<MemberRecord> records);
+    void add(char const* name, detail::GetterForm const* getterForm, impl::Callable const& getter,
+             detail::SetterForm const* setterForm, impl::Callable const& setter, PropertyText text);
 
 private:
     NativeClassRecord native_;

@@ -5,7 +5,7 @@
 #include "orbis/factory/descriptors/MemberText.hpp"
 #include "orbis/factory/descriptors/releasedBy.hpp"
 #include "orbis/factory/detail/members/areSuperclasses.hpp"
-#include "orbis/factory/detail/members/makePropertyRecord.hpp"
+#include "orbis/factory/detail/members/describedAccess.hpp"
 #include "orbis/factory/detail/members/makeRecord.hpp"
 #include "orbis/factory/detail/members/propertyChecks.hpp"
 #include "orbis/factory/overload.hpp"
@@ -50,156 +50,221 @@ public:
 
     /// Adds a constructor that takes values of the types `A`.
     template <class... A>
-    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText const& text = {},
-                                MethodAttributes attributes = {})
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText text = {})
     {
         constexpr bool exists = std::is_constructible_v<T, A...>;
         static_assert(exists, "The class has no public constructor that takes these parameter types: name the types "
                               "of an existing one in constructor<...>().");
         if constexpr (exists && detail::signatureCanCross<void>(detail::TypeList<A...>{}))
-            add(detail::constructorRecord<T, A...>(names.text(), text + attributes));
+            add(constructorForm<A...>, nullptr, {}, names.text(), text);
         return *this;
+    }
+
+    template <class... A>
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, MethodText text, MethodAttributes attributes)
+    {
+        return constructor<A...>(names, text + attributes);
     }
 
     template <class... A>
     ClassDescriber& constructor(MethodAttributes attributes)
     {
-        return constructor<A...>({}, attributes);
+        return constructor<A...>({}, MethodText(attributes));
     }
 
     template <class... A, class... D>
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults,
-                                MethodText const& text = {}, MethodAttributes attributes = {})
+                                MethodText text = {})
     {
-        constructor<A...>(names, text, attributes);
-        return addAll(defaults.template shortenConstructor<T, A...>(members().back()));
+        constructor<A...>(names, text);
+        add(defaults.template shortenConstructor<T, A...>(members().back()));
+        return *this;
+    }
+
+    template <class... A, class... D>
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults, MethodText text,
+                                MethodAttributes attributes)
+    {
+        return constructor<A...>(names, defaults, text + attributes);
     }
 
     /// Adds a method: a member function of `T` or of a public base, or a free function, lambda or functor that takes a
     /// `T*` first. The latter becomes a forced member, which throws when it is called without an object; its
     /// parameter names begin with the object's.
     template <class F>
-    ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodText const& text = {},
-                           MethodAttributes attributes = {})
+    ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodText text = {})
     {
         using detail::CallableKind;
         checkCallable<F>();
         if constexpr (Traits<F>::kind == CallableKind::Member)
-            addMember(name, function, names.text(), text + attributes);
+            addMember(name, function, names.text(), text);
         else if constexpr (Traits<F>::kind == CallableKind::Free) {
             constexpr bool takesObject = Traits<F>::template takesObject<T>;
             static_assert(takesObject, "A free function published as a method takes a pointer to the class first: "
                                        "add that parameter, or publish it with staticMethod.");
             if constexpr (takesObject)
-                addFree(name, function, names.text(), text + attributes + MethodAttributes::ForceMembership());
+                addFree(name, function, names.text(), text + MethodAttributes::ForceMembership());
         }
         return *this;
     }
 
     template <class F>
+    ClassDescriber& method(char const* name, F function, Names<F> names, MethodText text, MethodAttributes attributes)
+    {
+        return method(name, function, names, text + attributes);
+    }
+
+    template <class F>
     ClassDescriber& method(char const* name, F function, MethodAttributes attributes)
     {
-        return method(name, function, {}, attributes);
+        return method(name, function, {}, MethodText(attributes));
     }
 
     template <class F, class... D>
     ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
-                           MethodText const& text = {}, MethodAttributes attributes = {})
+                           MethodText text = {})
     {
         constexpr std::size_t objects = Traits<F>::kind == detail::CallableKind::Member ? 0 : 1;
-        method(name, function, names, text, attributes);
-        return addAll(defaults.template shorten<T, objects>(members().back(), function));
+        method(name, function, names, text);
+        add(defaults.template shorten<T, objects>(members().back(), function));
+        return *this;
+    }
+
+    template <class F, class... D>
+    ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
+                           MethodText text, MethodAttributes attributes)
+    {
+        return method(name, function, names, defaults, text + attributes);
     }
 
     /// Adds a static method: a free function, static member function, lambda or functor, called without an object.
     template <class F>
-    ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText const& text = {},
-                                 MethodAttributes attributes = {})
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText text = {})
     {
         using detail::CallableKind;
         checkCallable<F>();
         static_assert(Traits<F>::kind != CallableKind::Member, "A static method has no object: publish a member "
                                                                "function with method.");
         if constexpr (Traits<F>::kind == CallableKind::Free)
-            addFree(name, function, names.text(), text + attributes);
+            addFree(name, function, names.text(), text);
         return *this;
+    }
+
+    template <class F>
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names, MethodText text,
+                                 MethodAttributes attributes)
+    {
+        return staticMethod(name, function, names, text + attributes);
     }
 
     template <class F>
     ClassDescriber& staticMethod(char const* name, F function, MethodAttributes attributes)
     {
-        return staticMethod(name, function, {}, attributes);
+        return staticMethod(name, function, {}, MethodText(attributes));
     }
 
     template <class F, class... D>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
-                                 MethodText const& text = {}, MethodAttributes attributes = {})
+                                 MethodText text = {})
     {
-        staticMethod(name, function, names, text, attributes);
-        return addAll(defaults.template shorten<T, 0>(members().back(), function));
+        staticMethod(name, function, names, text);
+        add(defaults.template shorten<T, 0>(members().back(), function));
+        return *this;
+    }
+
+    template <class F, class... D>
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
+                                 MethodText text, MethodAttributes attributes)
+    {
+        return staticMethod(name, function, names, defaults, text + attributes);
     }
 
     /// Adds a property that is read through `getter`: a data member, a member function without parameters, or a free
     /// function or captureless lambda that takes the object or nothing. Non-const data can be written as well, unless
     /// `PropertyAttributes::NoAccessSetter()` is given.
     template <class G>
-    ClassDescriber& property(char const* name, G getter, PropertyText const& text = {},
-                             PropertyAttributes attributes = {})
+    ClassDescriber& property(char const* name, G getter, PropertyText text = {})
     {
         if constexpr (detail::isWritableData<T, G>)
-            return property(name, getter, getter, text, attributes);
-        else if constexpr (detail::canRead<T, G>()) {
-            add(detail::propertyRecord<T>(name, getter, detail::NoAccess(), text + attributes));
-        }
+            return property(name, getter, getter, text);
+        else if constexpr (detail::canRead<T, G>())
+            addProperty(name, getter, detail::NoAccess(), text);
         return *this;
+    }
+
+    template <class G>
+    ClassDescriber& property(char const* name, G getter, PropertyText text, PropertyAttributes attributes)
+    {
+        return property(name, getter, text + attributes);
     }
 
     /// Adds a property that is read and written. The setter is a data member, a member function that takes the value,
     /// or a free function or captureless lambda that takes the value, preceded by the object if it needs it.
     template <class G, class S>
         requires(!std::convertible_to<S, PropertyText>)
-    ClassDescriber& property(char const* name, G getter, S setter, PropertyText const& text = {},
-                             PropertyAttributes attributes = {})
+    ClassDescriber& property(char const* name, G getter, S setter, PropertyText text = {})
     {
         if constexpr (detail::canRead<T, G>() && detail::canWrite<T, S>()) {
-            if constexpr (detail::areOneType<T, G, S>()) {
-                add(detail::propertyRecord<T>(name, getter, setter, text + attributes));
-            }
+            if constexpr (detail::areOneType<T, G, S>())
+                addProperty(name, getter, setter, text);
         }
         return *this;
+    }
+
+    template <class G, class S>
+        requires(!std::convertible_to<S, PropertyText>)
+    ClassDescriber& property(char const* name, G getter, S setter, PropertyText text, PropertyAttributes attributes)
+    {
+        return property(name, getter, setter, text + attributes);
     }
 
     /// Adds a write-only property. The setter is as above.
     template <class S>
-    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText const& text = {},
-                                      PropertyAttributes attributes = {})
+    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText text = {})
     {
-        if constexpr (detail::canWrite<T, S>()) {
-            add(detail::propertyRecord<T>(name, detail::NoAccess(), setter, text + attributes));
-        }
+        if constexpr (detail::canWrite<T, S>())
+            addProperty(name, detail::NoAccess(), setter, text);
         return *this;
+    }
+
+    template <class S>
+    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText text, PropertyAttributes attributes)
+    {
+        return writeOnlyProperty(name, setter, text + attributes);
     }
 
     /// Adds a read-only property of the class itself: static data, a constant, or a function without parameters.
     template <class G>
-    ClassDescriber& staticProperty(char const* name, G getter, PropertyText const& text = {},
-                                   PropertyAttributes attributes = {})
+    ClassDescriber& staticProperty(char const* name, G getter, PropertyText text = {})
     {
         if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>())
-            property(name, getter, text, attributes + PropertyAttributes::Static());
+            property(name, getter, text + PropertyAttributes::Static());
         return *this;
+    }
+
+    template <class G>
+    ClassDescriber& staticProperty(char const* name, G getter, PropertyText text, PropertyAttributes attributes)
+    {
+        return staticProperty(name, getter, text + attributes);
     }
 
     /// The same, read and written.
     template <class G, class S>
         requires(!std::convertible_to<S, PropertyText>)
-    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText const& text = {},
-                                   PropertyAttributes attributes = {})
+    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText text = {})
     {
         if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>() &&
                       detail::needsNoObject<detail::SetterTraits<T, S>>())
-            property(name, getter, setter, text, attributes + PropertyAttributes::Static());
+            property(name, getter, setter, text + PropertyAttributes::Static());
         return *this;
+    }
+
+    template <class G, class S>
+        requires(!std::convertible_to<S, PropertyText>)
+    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText text,
+                                   PropertyAttributes attributes)
+    {
+        return staticProperty(name, getter, setter, text + attributes);
     }
 
 private:
@@ -214,12 +279,15 @@ private:
                             detail::downcast<B, T>);
     }
 
-    ClassDescriber& addAll(std::vector<MemberRecord> records)
-    {
-        for (MemberRecord& record : records)
-            add(std::move(record));
-        return *this;
-    }
+    template <class... A>
+    static constexpr detail::CallableForm const& constructorForm =
+        detail::callableForm<MemberRecord::Kind::Constructor, T*, detail::TypeList<A...>,
+                             detail::ConstructorRoutine<T, detail::TypeList<A...>>>;
+
+    template <class Result, class Parameters, class Pointer>
+    static constexpr detail::CallableForm const& memberForm =
+        detail::callableForm<MemberRecord::Kind::MemberFunction, Result, Parameters,
+                             detail::MemberFunctionRoutine<T, Pointer, Result, Parameters>>;
 
     template <class F>
     static consteval void checkCallable()
@@ -230,7 +298,7 @@ private:
     }
 
     template <class F>
-    void addMember(char const* name, F function, char const* names, MethodText const& text)
+    void addMember(char const* name, F function, char const* names, MethodText text)
     {
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
@@ -240,17 +308,25 @@ private:
                       "This is no member function of the class or a public base: publish it with the class that has "
                       "it.");
         if constexpr (isMember && detail::signatureCanCross<Result>(Parameters{}))
-            add(detail::memberFunctionRecord<T, Pointer, Result, Parameters>(name, function, names, text));
+            add(memberForm<Result, Parameters, Pointer>, name, static_cast<Pointer>(function), names, text);
     }
 
     template <class F>
-    void addFree(char const* name, F function, char const* names, MethodText const& text)
+    void addFree(char const* name, F function, char const* names, MethodText text)
     {
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
         using Pointer = typename Traits<F>::Pointer;
         if constexpr (detail::signatureCanCross<Result>(Parameters{}))
             add(detail::freeFunctionRecord<Pointer, Result, Parameters>(name, function, names, text));
+    }
+
+    template <class G, class S>
+    void addProperty(char const* name, G const& getter, S const& setter, PropertyText text)
+    {
+        using Getter = detail::DescribedGetter<T, G>;
+        using Setter = detail::DescribedSetter<T, S>;
+        add(name, Getter::form, Getter::target(getter), Setter::form, Setter::target(setter), text);
     }
 };
 

@@ -45,8 +45,7 @@ public:
                                 Defaults<D...> const& defaults, char const* text = "")
     {
         function(name, callable, names, text);
-        for (MemberRecord const& shorter : defaults.template shorten<void, 0>(functions().back(), callable))
-            add(shorter);
+        add(defaults.template shorten<void, 0>(functions().back(), callable));
         return *this;
     }
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/detail/bindings/NewObject.hpp"
 #include "orbis/factory/detail/bindings/bindings.hpp"
 #include "orbis/factory/detail/objects/namedObjects.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
@@ -9,7 +10,6 @@
 #include "orbis/COSValue.hpp"
 #include "orbis/objectArrays.hpp"
 
-#include <memory>
 #include <type_traits>
 #include <utility>
 
@@ -95,7 +95,7 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
     NamedClass const& named = namedClassOf<Class>();
     [[maybe_unused]] auto const address = [&]() -> Class const* {
         if constexpr (std::is_reference_v<Native> && !std::is_pointer_v<std::remove_cvref_t<Native>>)
-            return std::addressof(std::forward<F>(function)());
+            return __builtin_addressof(std::forward<F>(function)());
         else if constexpr (!std::is_class_v<Native>)
             return std::forward<F>(function)();
         else
@@ -104,13 +104,14 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
     if constexpr (std::is_class_v<Native> || owner == ResultOwner::Host) {
         static_assert(std::is_destructible_v<Class>, "The host cannot own this result: its class has no public "
                                                      "destructor. Say borrowed(...) or inside(...) of the function.");
-        std::unique_ptr<Class const> object;
-        if constexpr (std::is_class_v<Native>)
-            object.reset(new Class(std::forward<F>(function)()));
-        else
-            object.reset(address());
+        NewObject<Class const> object([&]() -> Class const* {
+            if constexpr (std::is_class_v<Native>)
+                return new Class(std::forward<F>(function)());
+            else
+                return address();
+        }());
         hvArray_tag* const array = announceNamed(named, object.get(), ResultOwner::Host, nullptr);
-        static_cast<void>(object.release());
+        object.release();
         return array;
     } else if constexpr (owner == ResultOwner::Whole) {
         return announceNamed(named, address(), owner, whole.host());

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "orbis/factory/descriptors/MemberText.hpp"
-#include "orbis/factory/detail/members/MemberRecord.hpp"
+#include "orbis/factory/detail/members/CallableForm.hpp"
 #include "orbis/factory/detail/members/Routines.hpp"
 
-#include <array>
 #include <type_traits>
 
 namespace orbis::factory::detail {
@@ -23,18 +21,22 @@ consteval bool signatureCanCross(TypeList<A...>)
                sizeof...(A) <= maximumInputs;
 }
 
-template <class... A>
-std::span<TypeText const> inputTypes(TypeList<A...>)
-{
-    static constexpr std::array<TypeText, sizeof...(A)> texts{&dataTypeText<A>...};
-    return texts;
-}
+template <class Parameters>
+struct InputTypes;
 
 template <class... A>
-consteval bool refusesNullAmong(TypeList<A...>)
-{
-    return (refusesNull<A>() || ...);
-}
+struct InputTypes<TypeList<A...>> {
+    static constexpr TypeText texts[] = {&dataTypeText<A>..., nullptr};
+    static constexpr bool refuseNull = (refusesNull<A>() || ... || false);
+};
+
+template <MemberRecord::Kind Kind, class Result, class Parameters, class Routine>
+inline constexpr CallableForm callableForm{Kind,
+                                           InputTypes<Parameters>::refuseNull,
+                                           &dataTypeText<NativeResult<Result>>,
+                                           static_cast<TypeText const*>(InputTypes<Parameters>::texts),
+                                           Parameters::size,
+                                           &Routine::invoke};
 
 /// How a record stores a callable: as a pointer, or as one to a functor that it keeps.
 template <class Pointer>
@@ -42,62 +44,28 @@ struct StoredCallable {
     using Call = Pointer;
 
     static impl::Callable target(Pointer function) { return function; }
-    static std::shared_ptr<void const> kept(Pointer) { return {}; }
 };
 
 template <class F>
 struct StoredCallable<HeldFunctor<F>> {
     using Call = typename HeldFunctor<F>::Call;
 
-    static impl::Callable target(HeldFunctor<F> const& held) { return held.functor.get(); }
-    static std::shared_ptr<void const> kept(HeldFunctor<F> const& held) { return held.functor; }
+    static impl::Callable target(HeldFunctor<F> const& held) { return held.functor(); }
 };
 
 template <class Pointer, class Result, class Parameters>
-MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, MethodText const& text)
-{
-    using Stored = StoredCallable<Pointer>;
-    return {.kind = MemberRecord::Kind::FreeFunction,
-            .name = name,
-            .parameterNames = names,
-            .attributes = text.attributes,
-            .outputType = &dataTypeText<NativeResult<Result>>,
-            .inputTypes = inputTypes(Parameters{}),
-            .invokeFn = &FreeFunctionRoutine<typename Stored::Call, Result, Parameters>::invoke,
-            .target = Stored::target(function),
-            .text = text.text,
-            .refusesNull = refusesNullAmong(Parameters{}),
-            .kept = Stored::kept(function)};
-}
+inline constexpr CallableForm const& freeFunctionForm =
+    callableForm<MemberRecord::Kind::FreeFunction, Result, Parameters,
+                 FreeFunctionRoutine<typename StoredCallable<Pointer>::Call, Result, Parameters>>;
 
-template <class T, class Pointer, class Result, class Parameters>
-MemberRecord memberFunctionRecord(char const* name, Pointer function, char const* names, MethodText const& text)
+template <class Pointer, class Result, class Parameters>
+MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, MethodText text)
 {
-    return {.kind = MemberRecord::Kind::MemberFunction,
-            .name = name,
-            .parameterNames = names,
-            .attributes = text.attributes,
-            .outputType = &dataTypeText<NativeResult<Result>>,
-            .inputTypes = inputTypes(Parameters{}),
-            .invokeFn = &MemberFunctionRoutine<T, Pointer, Result, Parameters>::invoke,
-            .target = function,
-            .text = text.text,
-            .refusesNull = refusesNullAmong(Parameters{})};
-}
-
-template <class T, class... A>
-MemberRecord constructorRecord(char const* names, MethodText const& text)
-{
-    return {.kind = MemberRecord::Kind::Constructor,
-            .name = nullptr,
-            .parameterNames = names,
-            .attributes = text.attributes,
-            .outputType = &dataTypeText<T*>,
-            .inputTypes = inputTypes(TypeList<A...>{}),
-            .invokeFn = &ConstructorRoutine<T, TypeList<A...>>::invoke,
-            .target = {},
-            .text = text.text,
-            .refusesNull = refusesNullAmong(TypeList<A...>{})};
+    MemberRecord record = makeRecord(freeFunctionForm<Pointer, Result, Parameters>, name,
+                                     StoredCallable<Pointer>::target(function), names, text);
+    if constexpr (requires { function.kept; })
+        record.kept = function.kept;
+    return record;
 }
 
 } // namespace orbis::factory::detail

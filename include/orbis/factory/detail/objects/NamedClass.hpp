@@ -5,7 +5,6 @@
 #include "orbis/factory/classes/NativeClassRecord.hpp"
 #include "orbis/factory/ownership/Wrappable.hpp"
 
-#include <atomic>
 #include <concepts>
 #include <type_traits>
 #include <typeinfo>
@@ -33,7 +32,7 @@ struct NamedClass {
     NamedClass const* base = nullptr;          ///< to which `toBase` converts; null when that is bound as it is
     bool isBase = false;                       ///< whether a subclass is published
     bool isOwnedByHost = true;                 ///< the objects that scripts construct
-    std::atomic<char const*> name = nullptr;   ///< full dotted name; null until the class is published
+    char const* name = nullptr;                ///< full dotted name; null until the class is published; see `className`
 };
 
 /// Returns the host name. Throws `std::invalid_argument` when the class is not published.

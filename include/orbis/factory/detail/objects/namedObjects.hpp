@@ -6,7 +6,6 @@
 #include "orbis/COSInterface.hpp"
 
 #include <cstddef>
-#include <memory>
 
 /// Objects of named classes, which cross without their types.
 namespace orbis::factory {
@@ -36,9 +35,6 @@ ORBIS_FACTORY_API void* requireNativeOf(NamedClass const& named, hvArray_tag con
 ORBIS_FACTORY_API hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOwner owner,
                                              COSInterface* whole);
 
-/// The same for an object in which the host object gets a share.
-ORBIS_FACTORY_API hvArray_tag* announceShared(NamedClass const& named, void const* object, std::shared_ptr<void> share);
-
 /// Returns a new 1-by-1 array, owned by the caller, with the host object of class `className` for `bound`, which lies
 /// inside the native object of `whole`: so it does not own it.
 ORBIS_FACTORY_API hvArray_tag* announcePart(void* bound, char const* className, COSInterface* whole);
@@ -48,10 +44,6 @@ inline bool isInside(void const* address, void const* object, std::size_t size)
 {
     return static_cast<std::size_t>(static_cast<char const*>(address) - static_cast<char const*>(object)) < size;
 }
-
-/// Returns a share in the native object of the array's first element, which from then on is destroyed with its last
-/// share; empty when there is no such object. Throws an `Exception` when its host object does not own it.
-ORBIS_FACTORY_API std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in);
 
 /// Returns the native object of the array's first element and transfers it to the caller: its host object becomes
 /// invalid. Null when there is no such object. Throws an `Exception` when its host object does not own it alone.

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "orbis/factory/detail/members/PropertyRecord.hpp"
+#include "orbis/factory/detail/members/releaseRoutine.hpp"
+#include "orbis/factory/detail/members/setterTraits.hpp"
+
+namespace orbis::factory::detail {
+
+/// Placeholder for a missing getter or setter.
+struct NoAccess {};
+
+template <class G>
+G const& unwrapped(G const& getter)
+{
+    return getter;
+}
+
+template <auto Routine, class G>
+G const& unwrapped(ReleasedGetter<Routine, G> const& released)
+{
+    return released.getter;
+}
+
+/// A getter of `T`, as its record stores it.
+template <class T, class G>
+struct DescribedGetter {
+    using Reader = typename GetterTraits<T, G>::Reader;
+    using Pointer = typename Reader::Pointer;
+
+    static impl::Callable target(G const& getter) { return static_cast<Pointer>(unwrapped(getter)); }
+
+    static COSValue getValue(impl::Callable const& getter, COSInterface* object)
+    {
+        return readValue<Reader>(getter.as<Pointer>(), object);
+    }
+
+    static constexpr auto interfaces()
+    {
+        void (*find)(impl::Callable const&, COSInterface*, Enumeration<COSInterface*>&) = nullptr;
+        if constexpr (refersToObjects<Reader>)
+            find = [](impl::Callable const& getter, COSInterface* object, Enumeration<COSInterface*>& found) {
+                findInterfaces<Reader>(getter.as<Pointer>(), object, found);
+            };
+        return find;
+    }
+
+    static constexpr GetterForm value{&getValue, interfaces(), &dataTypeText<typename Reader::Value>,
+                                      releaseRoutine<T, G>, GetterTraits<T, G>::needsObject};
+    static constexpr GetterForm const* form = &value;
+};
+
+/// The same for a setter.
+template <class T, class S>
+struct DescribedSetter {
+    using Writer = typename SetterTraits<T, S>::Writer;
+    using Pointer = typename Writer::Pointer;
+
+    static impl::Callable target(S const& setter) { return static_cast<Pointer>(setter); }
+
+    static void setValue(impl::Callable const& setter, COSInterface* object, COSValue value)
+    {
+        Writer::write(setter.as<Pointer>(), object, value);
+    }
+
+    static constexpr SetterForm value{&setValue, &dataTypeText<typename Writer::Value>, Writer::needsObject};
+    static constexpr SetterForm const* form = &value;
+};
+
+template <class T>
+struct DescribedGetter<T, NoAccess> {
+    static impl::Callable target(NoAccess) { return {}; }
+    static constexpr GetterForm const* form = nullptr;
+};
+
+template <class T>
+struct DescribedSetter<T, NoAccess> {
+    static impl::Callable target(NoAccess) { return {}; }
+    static constexpr SetterForm const* form = nullptr;
+};
+
+} // namespace orbis::factory::detail
