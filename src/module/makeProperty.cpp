@@ -1,16 +1,32 @@
 #include "orbis/factory/makeProperty.hpp"
 
+#include "orbis/factory/base/errorIdentities.hpp"
+
+#include "marshal/throwError.hpp"
+
 #include <stdexcept>
 
 namespace orbis::factory {
 
 namespace {
 
+/// Stand in for a missing getter or setter, whose use throws.
+constexpr detail::GetterForm missingGetter{
+    [](impl::Callable const&, COSInterface*) -> COSValue { throwError(orbis_factory::orbis_factory::null_fcn_ptr()); },
+    nullptr, nullptr, [](COSInterface*, COSValue) { throwError(orbis_factory::orbis_factory::null_fcn_ptr()); }, false};
+
+constexpr detail::SetterForm missingSetter{
+    [](impl::Callable const&, COSInterface*, COSValue) { throwError(orbis_factory::orbis_factory::null_fcn_ptr()); },
+    nullptr, false};
+
 class DescribedGetter final : public impl::Getter {
 public:
-    explicit DescribedGetter(PropertyRecord const& record) : form_(record.getterForm), getter_(record.getter) {}
+    explicit DescribedGetter(PropertyRecord const& record)
+        : form_(record.getterForm ? record.getterForm : &missingGetter),
+          getter_(record.getter)
+    {
+    }
 
-    bool exists() const { return form_; }
     bool releases() const { return form_->release; }
 
     COSValue getValue(COSInterface* object) const override { return form_->getValue(getter_, object); }
@@ -39,9 +55,11 @@ private:
 
 class DescribedSetter final : public impl::Setter {
 public:
-    explicit DescribedSetter(PropertyRecord const& record) : form_(record.setterForm), setter_(record.setter) {}
-
-    bool exists() const { return form_; }
+    explicit DescribedSetter(PropertyRecord const& record)
+        : form_(record.setterForm ? record.setterForm : &missingSetter),
+          setter_(record.setter)
+    {
+    }
 
     void setValue(COSInterface* object, COSValue value) const override { form_->setValue(setter_, object, value); }
     char const* dataTypeName() const override { return form_->type(); }
@@ -61,24 +79,20 @@ class DescribedProperty final : private Accesses, public impl::PropertyImpl {
 public:
     explicit DescribedProperty(PropertyRecord const& record)
         : Accesses{DescribedGetter(record), DescribedSetter(record)},
-          PropertyImpl(record.name, getter.exists() ? &getter : nullptr, setter.exists() ? &setter : nullptr,
+          PropertyImpl(record.name, record.getterForm ? &getter : nullptr, record.setterForm ? &setter : nullptr,
                        record.attributes)
     {
     }
     DescribedProperty(DescribedProperty const&) = delete;
     DescribedProperty& operator=(DescribedProperty const&) = delete;
 
-    COSValue getValue(COSInterface* object) const override
-    {
-        return getter.exists() ? getter.getValue(object) : PropertyImpl::getValue(object);
-    }
+    COSValue getValue(COSInterface* object) const override { return getter.getValue(object); }
+    void setValue(COSInterface* object, COSValue value) const override { setter.setValue(object, value); }
 
-    void setValue(COSInterface* object, COSValue value) const override
+    void releaseValue(COSInterface* object, COSValue value) const override
     {
-        if (setter.exists())
-            setter.setValue(object, value);
-        else
-            PropertyImpl::setValue(object, value);
+        if (getter.releases()) [[unlikely]]
+            PropertyImpl::releaseValue(object, value);
     }
 };
 

@@ -7,7 +7,8 @@
 #include <type_traits>
 
 /// How getters read: each of these classes says through what (`Pointer`), what that gives (`Result`), as what type it
-/// is marshaled (`Value`), and of which object it may be a part (`wholeOf`).
+/// is marshaled (`Value`), and of which object it may be a part (`wholeOf`). `read` takes the pointer, or what converts
+/// to it: it is fetched last, when it needs no register across calls.
 namespace orbis::factory::detail {
 
 /// Through a member `F` of `T`, a function or data.
@@ -18,12 +19,15 @@ struct MemberReader {
     using Value = V;
     static constexpr bool needsObject = true;
 
-    static R read(F member, COSInterface* object)
+    template <class Stored>
+    static R read(Stored const& getter, COSInterface* object)
     {
+        T& self = nativeSelf<T>(object);
+        F const member = getter;
         if constexpr (std::is_member_object_pointer_v<F>)
-            return nativeSelf<T>(object).*member;
+            return self.*member;
         else
-            return (nativeSelf<T>(object).*member)();
+            return (self.*member)();
     }
 
     static auto wholeOf(COSInterface* object) { return WholeOfProperty<T>{object}; }
@@ -37,7 +41,13 @@ struct FunctionOnReader {
     using Value = V;
     static constexpr bool needsObject = true;
 
-    static R read(F function, COSInterface* object) { return function(&nativeSelf<T>(object)); }
+    template <class Stored>
+    static R read(Stored const& getter, COSInterface* object)
+    {
+        T& self = nativeSelf<T>(object);
+        F const function = getter;
+        return function(&self);
+    }
     static auto wholeOf(COSInterface* object) { return WholeOfProperty<T>{object}; }
 };
 
@@ -66,8 +76,8 @@ struct DataReader {
 };
 
 /// Returns the value of a property, owned by the caller.
-template <class Reader>
-[[gnu::always_inline]] inline COSValue readValue(typename Reader::Pointer getter, COSInterface* object)
+template <class Reader, class Stored>
+[[gnu::always_inline]] inline COSValue readValue(Stored const& getter, COSInterface* object)
 {
     using R = typename Reader::Result;
     using V = typename Reader::Value;

@@ -4,7 +4,8 @@
 
 #include <type_traits>
 
-/// How setters write: each of these classes says through what (`Pointer`), and what type that takes (`Value`).
+/// How setters write: each of these classes says through what (`Pointer`), and what type that takes (`Value`). `write`
+/// takes the pointer, or what converts to it.
 namespace orbis::factory::detail {
 
 /// Through a member `F` of `T`: a function that takes an `A`, or data of type `A`.
@@ -14,10 +15,12 @@ struct MemberWriter {
     using Value = A;
     static constexpr bool needsObject = true;
 
-    static void write(F member, COSInterface* object, COSValue value)
+    template <class Stored>
+    static void write(Stored const& setter, COSInterface* object, COSValue value)
     {
         T& self = nativeSelf<T>(object);
         Argument<A> argument(value);
+        F const member = setter;
         if constexpr (std::is_member_object_pointer_v<F>)
             self.*member = argument.get();
         else
@@ -32,10 +35,12 @@ struct FunctionOnWriter {
     using Value = A;
     static constexpr bool needsObject = true;
 
-    static void write(F function, COSInterface* object, COSValue value)
+    template <class Stored>
+    static void write(Stored const& setter, COSInterface* object, COSValue value)
     {
         T& self = nativeSelf<T>(object);
         Argument<A> argument(value);
+        F const function = setter;
         function(&self, argument.get());
     }
 };

@@ -21,6 +21,14 @@ G const& unwrapped(ReleasedGetter<Routine, G> const& released)
     return released.getter;
 }
 
+/// The pointer in a record, fetched when it is needed.
+template <class Pointer>
+struct StoredPointer {
+    impl::Callable const& callable;
+
+    operator Pointer() const { return callable.as<Pointer>(); }
+};
+
 /// A getter of `T`, as its record stores it.
 template <class T, class G>
 struct DescribedGetter {
@@ -31,7 +39,7 @@ struct DescribedGetter {
 
     static COSValue getValue(impl::Callable const& getter, COSInterface* object)
     {
-        return readValue<Reader>(getter.as<Pointer>(), object);
+        return readValue<Reader>(StoredPointer<Pointer>{getter}, object);
     }
 
     static constexpr auto interfaces()
@@ -59,7 +67,7 @@ struct DescribedSetter {
 
     static void setValue(impl::Callable const& setter, COSInterface* object, COSValue value)
     {
-        Writer::write(setter.as<Pointer>(), object, value);
+        Writer::write(StoredPointer<Pointer>{setter}, object, value);
     }
 
     static constexpr SetterForm value{&setValue, &dataTypeText<typename Writer::Value>, Writer::needsObject};
