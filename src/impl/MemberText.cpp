@@ -3,7 +3,7 @@
 namespace orbis::factory {
 
 template <class Attributes>
-MemberText<Attributes>::MemberText(Attributes const& given) : attributes_(given.bits_)
+MemberText<Attributes>::MemberText(Attributes const& given) : attributes_(static_cast<unsigned int>(given.bits_))
 {
 }
 
@@ -11,14 +11,14 @@ template <class Attributes>
 MemberText<Attributes> MemberText<Attributes>::operator+(Attributes const& more) const
 {
     MemberText sum = *this;
-    sum.attributes_ |= more.bits_;
+    sum.attributes_ |= static_cast<unsigned int>(more.bits_);
     return sum;
 }
 
 template <class Attributes>
 Attributes MemberText<Attributes>::attributes() const
 {
-    return Attributes(attributes_);
+    return Attributes(static_cast<unsigned int>(attributes_));
 }
 
 template class MemberText<MethodAttributes>;

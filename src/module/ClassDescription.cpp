@@ -45,7 +45,7 @@ void ClassDescription::add(MemberRecord record)
     members_.push_back(std::move(record));
 }
 
-void ClassDescription::add(detail::CallableForm const& form, char const* name, impl::Callable const& target,
+void ClassDescription::add(detail::CallableForm const& form, char const* name, impl::Callable target,
                            char const* parameterNames, MethodText text)
 {
     add(detail::makeRecord(form, name, target, parameterNames, text));
@@ -58,8 +58,8 @@ void ClassDescription::add(std::vector<MemberRecord> records)
         members_.push_back(std::move(record));
 }
 
-void ClassDescription::add(char const* name, detail::GetterForm const* getterForm, impl::Callable const& getter,
-                           detail::SetterForm const* setterForm, impl::Callable const& setter, PropertyText text)
+void ClassDescription::add(char const* name, detail::GetterForm const* getterForm, impl::Callable getter,
+                           detail::SetterForm const* setterForm, impl::Callable setter, PropertyText text)
 {
     properties_.push_back({name, text.attributes(), getterForm, setterForm, getter, setter, text.text()});
 }

@@ -29,11 +29,11 @@ public:
 protected:
     void add(NativeClassRecord const& superclass);
     void add(MemberRecord record);
-    void add(detail::CallableForm const& form, char const* name, impl::Callable const& target,
-             char const* parameterNames, MethodText text);
+    void add(detail::CallableForm const& form, char const* name, impl::Callable target, char const* parameterNames,
+             MethodText text);
     void add(std::vector<MemberRecord> records);
-    void add(char const* name, detail::GetterForm const* getterForm, impl::Callable const& getter,
-             detail::SetterForm const* setterForm, impl::Callable const& setter, PropertyText text);
+    void add(char const* name, detail::GetterForm const* getterForm, impl::Callable getter,
+             detail::SetterForm const* setterForm, impl::Callable setter, PropertyText text);
 
 private:
     NativeClassRecord native_;

@@ -20,7 +20,7 @@ public:
 
 private:
     char const* text_ = "";
-    unsigned int attributes_ = 0;
+    unsigned long long attributes_ = 0; ///< a whole word, so that no padding must be cleared to pass it
 };
 
 using MethodText = MemberText<MethodAttributes>;
