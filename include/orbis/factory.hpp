@@ -3,6 +3,8 @@
 /// Umbrella header: everything a module needs to publish classes, enumerations and functions. Each header can also be
 /// included alone.
 
+#include "orbis/factory/detail/refusals.hpp" // first: see there
+
 #include "orbis/factory/Module.hpp"
 #include "orbis/factory/ObjectHandle.hpp"
 #include "orbis/factory/base/Exception.hpp"

@@ -8,6 +8,8 @@
 // expect DEFAULTS: There are more default values than parameters that can have one
 // expect POLICY: There is no marshaling policy for this native type: include the header of its policy, or specialise
 // expect SHARED: Objects of this class cross in std::shared_ptr: derive the class from full::StdShareable.
+#include "orbis/factory/describe.hpp"
+
 #include "Published.hpp"
 
 #include "orbis/factory/types/SharedPointerPolicy.hpp"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orbis/factory/detail/refusals.hpp" // first: see there
+
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
@@ -80,7 +82,11 @@ public:
     Module& function(char const* name, F callable, ParameterNames<detail::CallableTraits<F>::arity> names = {},
                      char const* text = "")
     {
-        functions_.function(name, callable, names, text);
+        constexpr detail::Refusal refusal = detail::packageFunctionRefusal<std::decay_t<F>>();
+        if constexpr (refusal != detail::Refusal::None)
+            detail::refuse<refusal, F>();
+        else
+            functions_.function(name, callable, names, text);
         return *this;
     }
 
@@ -88,7 +94,12 @@ public:
     Module& function(char const* name, F callable, ParameterNames<detail::CallableTraits<F>::arity> names,
                      Defaults<D...> const& defaults, char const* text = "")
     {
-        functions_.function(name, callable, names, defaults, text);
+        constexpr detail::Refusal refusal = detail::firstRefusal(detail::packageFunctionRefusal<std::decay_t<F>>(),
+                                                                 detail::defaultsRefusalOf<std::decay_t<F>, 0, D...>());
+        if constexpr (refusal != detail::Refusal::None)
+            detail::refuse<refusal, F, D...>();
+        else
+            functions_.function(name, callable, names, defaults, text);
         return *this;
     }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orbis/factory/detail/refusals.hpp" // first: see there
+
 #include "orbis/factory/ClassDescription.hpp"
 #include "orbis/factory/ParameterNames.hpp"
 #include "orbis/factory/descriptors/MemberText.hpp"
@@ -7,6 +9,7 @@
 #include "orbis/factory/detail/members/areSuperclasses.hpp"
 #include "orbis/factory/detail/members/makePropertyRecord.hpp"
 #include "orbis/factory/detail/members/makeRecord.hpp"
+#include "orbis/factory/detail/members/memberChecks.hpp"
 #include "orbis/factory/detail/members/propertyChecks.hpp"
 #include "orbis/factory/overload.hpp"
 #include "orbis/factory/types/standardPolicies.hpp"
@@ -36,6 +39,8 @@ class ClassDescriber : public ClassDescription {
     template <class F>
     using Names = ParameterNames<Traits<F>::arity>;
 
+    using Refusal = detail::Refusal;
+
 public:
     ClassDescriber() : ClassDescription(nativeClassRecord<T>()) {}
 
@@ -43,7 +48,10 @@ public:
     template <class... B>
     ClassDescriber& inherits()
     {
-        if constexpr (detail::areSuperclasses<T, B...>())
+        constexpr Refusal refusal = detail::firstRefusal(detail::superclassRefusal<T, B>()...);
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, B...>();
+        else
             (addSuperclass<B>(), ...);
         return *this;
     }
@@ -53,10 +61,10 @@ public:
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText const& text = {},
                                 MethodAttributes attributes = {})
     {
-        constexpr bool exists = std::is_constructible_v<T, A...>;
-        static_assert(exists, "The class has no public constructor that takes these parameter types: name the types "
-                              "of an existing one in constructor<...>().");
-        if constexpr (exists && detail::signatureCanCross<void>(detail::TypeList<A...>{}))
+        constexpr Refusal refusal = detail::constructorRefusal<T, A...>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, A...>();
+        else
             add(detail::constructorRecord<T, A...>(names.text(), text + attributes));
         return *this;
     }
@@ -71,8 +79,16 @@ public:
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults,
                                 MethodText const& text = {}, MethodAttributes attributes = {})
     {
-        constructor<A...>(names, text, attributes);
-        return addAll(defaults.template shortenConstructor<T, A...>(members().back()));
+        constexpr Refusal refusal =
+            detail::firstRefusal(detail::constructorRefusal<T, A...>(),
+                                 detail::defaultsRefusal<sizeof...(A), D...>(detail::TypeList<A...>{}));
+        if constexpr (refusal != Refusal::None) {
+            detail::refuse<refusal, A..., D...>();
+            return *this;
+        } else {
+            constructor<A...>(names, text, attributes);
+            return addAll(defaults.template shortenConstructor<T, A...>(members().back()));
+        }
     }
 
     /// Adds a method: a member function of `T` or of a public base, or a free function, lambda or functor that takes a
@@ -82,17 +98,13 @@ public:
     ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodText const& text = {},
                            MethodAttributes attributes = {})
     {
-        using detail::CallableKind;
-        checkCallable<F>();
-        if constexpr (Traits<F>::kind == CallableKind::Member)
+        constexpr Refusal refusal = detail::methodRefusal<T, std::decay_t<F>>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, F>();
+        else if constexpr (Traits<F>::kind == detail::CallableKind::Member)
             addMember(name, function, names.text(), text + attributes);
-        else if constexpr (Traits<F>::kind == CallableKind::Free) {
-            constexpr bool takesObject = Traits<F>::template takesObject<T>;
-            static_assert(takesObject, "A free function published as a method takes a pointer to the class first: "
-                                       "add that parameter, or publish it with staticMethod.");
-            if constexpr (takesObject)
-                addFree(name, function, names.text(), text + attributes + MethodAttributes::ForceMembership());
-        }
+        else
+            addFree(name, function, names.text(), text + attributes + MethodAttributes::ForceMembership());
         return *this;
     }
 
@@ -107,8 +119,15 @@ public:
                            MethodText const& text = {}, MethodAttributes attributes = {})
     {
         constexpr std::size_t objects = Traits<F>::kind == detail::CallableKind::Member ? 0 : 1;
-        method(name, function, names, text, attributes);
-        return addAll(defaults.template shorten<T, objects>(members().back(), function));
+        constexpr Refusal refusal = detail::firstRefusal(detail::methodRefusal<T, std::decay_t<F>>(),
+                                                         detail::defaultsRefusalOf<std::decay_t<F>, objects, D...>());
+        if constexpr (refusal != Refusal::None) {
+            detail::refuse<refusal, F, D...>();
+            return *this;
+        } else {
+            method(name, function, names, text, attributes);
+            return addAll(defaults.template shorten<T, objects>(members().back(), function));
+        }
     }
 
     /// Adds a static method: a free function, static member function, lambda or functor, called without an object.
@@ -116,11 +135,10 @@ public:
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText const& text = {},
                                  MethodAttributes attributes = {})
     {
-        using detail::CallableKind;
-        checkCallable<F>();
-        static_assert(Traits<F>::kind != CallableKind::Member, "A static method has no object: publish a member "
-                                                               "function with method.");
-        if constexpr (Traits<F>::kind == CallableKind::Free)
+        constexpr Refusal refusal = detail::staticMethodRefusal<std::decay_t<F>>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, F>();
+        else
             addFree(name, function, names.text(), text + attributes);
         return *this;
     }
@@ -135,8 +153,15 @@ public:
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
                                  MethodText const& text = {}, MethodAttributes attributes = {})
     {
-        staticMethod(name, function, names, text, attributes);
-        return addAll(defaults.template shorten<T, 0>(members().back(), function));
+        constexpr Refusal refusal = detail::firstRefusal(detail::staticMethodRefusal<std::decay_t<F>>(),
+                                                         detail::defaultsRefusalOf<std::decay_t<F>, 0, D...>());
+        if constexpr (refusal != Refusal::None) {
+            detail::refuse<refusal, F, D...>();
+            return *this;
+        } else {
+            staticMethod(name, function, names, text, attributes);
+            return addAll(defaults.template shorten<T, 0>(members().back(), function));
+        }
     }
 
     /// Adds a property that is read through `getter`: a data member, a member function without parameters, or a free
@@ -146,11 +171,13 @@ public:
     ClassDescriber& property(char const* name, G getter, PropertyText const& text = {},
                              PropertyAttributes attributes = {})
     {
-        if constexpr (detail::isWritableData<T, G>)
-            return property(name, getter, getter, text, attributes);
-        else if constexpr (detail::canRead<T, G>()) {
+        constexpr Refusal refusal = detail::propertyRefusal<T, G>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G>();
+        else if constexpr (detail::isWritableData<T, G>)
+            add(detail::propertyRecord<T>(name, getter, getter, text + attributes));
+        else
             add(detail::propertyRecord<T>(name, getter, detail::NoAccess(), text + attributes));
-        }
         return *this;
     }
 
@@ -161,11 +188,11 @@ public:
     ClassDescriber& property(char const* name, G getter, S setter, PropertyText const& text = {},
                              PropertyAttributes attributes = {})
     {
-        if constexpr (detail::canRead<T, G>() && detail::canWrite<T, S>()) {
-            if constexpr (detail::areOneType<T, G, S>()) {
-                add(detail::propertyRecord<T>(name, getter, setter, text + attributes));
-            }
-        }
+        constexpr Refusal refusal = detail::propertyRefusal<T, G, S>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G, S>();
+        else
+            add(detail::propertyRecord<T>(name, getter, setter, text + attributes));
         return *this;
     }
 
@@ -174,9 +201,11 @@ public:
     ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText const& text = {},
                                       PropertyAttributes attributes = {})
     {
-        if constexpr (detail::canWrite<T, S>()) {
+        constexpr Refusal refusal = detail::setterRefusal<T, S>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, S>();
+        else
             add(detail::propertyRecord<T>(name, detail::NoAccess(), setter, text + attributes));
-        }
         return *this;
     }
 
@@ -185,7 +214,11 @@ public:
     ClassDescriber& staticProperty(char const* name, G getter, PropertyText const& text = {},
                                    PropertyAttributes attributes = {})
     {
-        if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>())
+        constexpr Refusal refusal =
+            detail::firstRefusal(detail::staticRefusal<detail::GetterTraits<T, G>>(), detail::propertyRefusal<T, G>());
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G>();
+        else
             property(name, getter, text, attributes + PropertyAttributes::Static());
         return *this;
     }
@@ -196,8 +229,12 @@ public:
     ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText const& text = {},
                                    PropertyAttributes attributes = {})
     {
-        if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>() &&
-                      detail::needsNoObject<detail::SetterTraits<T, S>>())
+        constexpr Refusal refusal =
+            detail::firstRefusal(detail::staticRefusal<detail::GetterTraits<T, G>, detail::SetterTraits<T, S>>(),
+                                 detail::propertyRefusal<T, G, S>());
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G, S>();
+        else
             property(name, getter, setter, text, attributes + PropertyAttributes::Static());
         return *this;
     }
@@ -222,25 +259,12 @@ private:
     }
 
     template <class F>
-    static consteval void checkCallable()
-    {
-        static_assert(Traits<F>::kind != detail::CallableKind::None,
-                      "This cannot be published: give a function, a member function or a lambda that captures nothing, "
-                      "and pick one of several overloads with overload<...>().");
-    }
-
-    template <class F>
     void addMember(char const* name, F function, char const* names, MethodText const& text)
     {
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
         using Pointer = typename Traits<F>::template PointerIn<T>;
-        constexpr bool isMember = std::derived_from<T, typename Traits<F>::Class>;
-        static_assert(isMember,
-                      "This is no member function of the class or a public base: publish it with the class that has "
-                      "it.");
-        if constexpr (isMember && detail::signatureCanCross<Result>(Parameters{}))
-            add(detail::memberFunctionRecord<T, Pointer, Result, Parameters>(name, function, names, text));
+        add(detail::memberFunctionRecord<T, Pointer, Result, Parameters>(name, function, names, text));
     }
 
     template <class F>
@@ -249,8 +273,7 @@ private:
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
         using Pointer = typename Traits<F>::Pointer;
-        if constexpr (detail::signatureCanCross<Result>(Parameters{}))
-            add(detail::freeFunctionRecord<Pointer, Result, Parameters>(name, function, names, text));
+        add(detail::freeFunctionRecord<Pointer, Result, Parameters>(name, function, names, text));
     }
 };
 
