@@ -3,7 +3,11 @@
 /// Umbrella header: everything a module needs to publish classes, enumerations and functions. Each header can also be
 /// included alone.
 
-#include "orbis/factory/detail/refusals.hpp" // first: see there
+// First, and directly: compilers list how they got to the header of an error.
+#include "orbis/factory/base/refusals.hpp"
+#include "orbis/factory/overload.hpp"
+
+#include "orbis/factory/describe.hpp"
 
 #include "orbis/factory/Module.hpp"
 #include "orbis/factory/ObjectHandle.hpp"
@@ -14,7 +18,6 @@
 #include "orbis/factory/classes/NonHandleClassInfo.hpp"
 #include "orbis/factory/classes/ShareableHandleClassInfo.hpp"
 #include "orbis/factory/classes/StdShareableHandleClassInfo.hpp"
-#include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/marshaling/StaticCastPolicy.hpp"
 #include "orbis/factory/marshaling/ValuePolicy.hpp"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/detail/refusals.hpp" // first: see there
+#include "orbis/factory/base/refusals.hpp" // first: see there
 
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/describe.hpp"
@@ -100,6 +100,15 @@ public:
             detail::refuse<refusal, F, D...>();
         else
             functions_.function(name, callable, names, defaults, text);
+        return *this;
+    }
+
+    /// Chosen for what is no function.
+    template <class None = void>
+    auto& function(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no function: of several overloads pick one with "
+                                                 "overload<...>().");
         return *this;
     }
 

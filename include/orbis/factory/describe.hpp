@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/detail/refusals.hpp" // first: see there
+#include "orbis/factory/base/refusals.hpp" // first: see there
 
 #include "orbis/factory/ClassDescription.hpp"
 #include "orbis/factory/ParameterNames.hpp"
@@ -130,6 +130,15 @@ public:
         }
     }
 
+    /// Chosen for what is no method.
+    template <class None = void>
+    auto& method(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no method: of several overloads pick one with "
+                                                 "overload<...>() or constOverload<...>().");
+        return *this;
+    }
+
     /// Adds a static method: a free function, static member function, lambda or functor, called without an object.
     template <class F>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText const& text = {},
@@ -164,6 +173,15 @@ public:
         }
     }
 
+    /// Chosen for what is no static method.
+    template <class None = void>
+    auto& staticMethod(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no static method: of several overloads pick one with "
+                                                 "overload<...>() or constOverload<...>().");
+        return *this;
+    }
+
     /// Adds a property that is read through `getter`: a data member, a member function without parameters, or a free
     /// function or captureless lambda that takes the object or nothing. Non-const data can be written as well, unless
     /// `PropertyAttributes::NoAccessSetter()` is given.
@@ -193,6 +211,15 @@ public:
             detail::refuse<refusal, T, G, S>();
         else
             add(detail::propertyRecord<T>(name, getter, setter, text + attributes));
+        return *this;
+    }
+
+    /// Chosen for what is no property.
+    template <class None = void>
+    auto& property(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no property: of several overloads pick one with "
+                                                 "overload<...>() or constOverload<...>().");
         return *this;
     }
 

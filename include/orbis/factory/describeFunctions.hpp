@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/detail/refusals.hpp" // first: see there
+#include "orbis/factory/base/refusals.hpp" // first: see there
 
 #include "orbis/factory/FunctionDescription.hpp"
 #include "orbis/factory/ParameterNames.hpp"
@@ -54,6 +54,15 @@ public:
             for (MemberRecord const& shorter : defaults.template shorten<void, 0>(functions().back(), callable))
                 add(shorter);
         }
+        return *this;
+    }
+
+    /// Chosen for what is no function.
+    template <class None = void>
+    auto& function(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no function: of several overloads pick one with "
+                                                 "overload<...>().");
         return *this;
     }
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/detail/refusals.hpp" // first: see there
+#include "orbis/factory/base/refusals.hpp" // first: see there
 
 #include "orbis/factory/classes/HostClass.hpp"
 #include "orbis/factory/classes/OrbisFactoryClassInfo.hpp"

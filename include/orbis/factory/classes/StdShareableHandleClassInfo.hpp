@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/detail/refusals.hpp" // first: see there
+#include "orbis/factory/base/refusals.hpp" // first: see there
 
 #include "orbis/factory/classes/HandleClassInfo.hpp"
 #include "orbis/factory/detail/bindings/releaseHostKept.hpp"

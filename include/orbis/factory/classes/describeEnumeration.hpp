@@ -1,8 +1,8 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp"
 #include "orbis/factory/classes/EnumerationRecord.hpp"
 #include "orbis/factory/classes/HostEnumeration.hpp"
-#include "orbis/factory/detail/refusals.hpp"
 
 #include <array>
 #include <cstddef>

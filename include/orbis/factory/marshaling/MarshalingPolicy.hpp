@@ -1,7 +1,7 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp"
 #include "orbis/factory/classes/HostClass.hpp"
-#include "orbis/factory/detail/refusals.hpp"
 #include "orbis/factory/marshaling/HandleObjectPolicy.hpp"
 #include "orbis/factory/marshaling/NamedObjectPolicy.hpp"
 #include "orbis/factory/marshaling/PrimitivePolicy.hpp"
@@ -13,6 +13,7 @@
 
 #include <concepts>
 #include <type_traits>
+#include <utility>
 
 namespace orbis::factory {
 
@@ -139,6 +140,16 @@ concept HasCompleteMarshaler = requires { sizeof(MarshalerOf<T>); };
 template <class T>
 concept HasDataType = requires { MarshalerOf<T>::template dataTypeText<MarshaledTypeOf<T>>(); };
 
+template <class T>
+concept ConvertsFromHost =
+    requires(COSValue const& in) { MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(in); } ||
+    requires(hvArray* in) { MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(in); };
+
+template <class R>
+concept ConvertsToHost =
+    requires(COSValue* out) { MarshalerOf<R>::template toHost<MarshaledTypeOf<R>>(std::declval<R>(), out); } ||
+    requires(hvArray** out) { MarshalerOf<R>::template toHost<MarshaledTypeOf<R>>(std::declval<R>(), out); };
+
 /// Why values of a type without a policy cannot be marshaled.
 template <class Native>
 consteval Refusal refusalWithoutPolicy()
@@ -152,6 +163,15 @@ consteval Refusal refusalWithoutPolicy()
     else
         return Refusal::NoPolicy;
 }
+
+/// Pointers to classes of a hierarchy whose topmost class has no virtual function.
+template <class T>
+inline constexpr bool isUnpolymorphicHandle = false;
+
+template <PublishedClass T>
+    requires requires { typename HostClass<T>::Root; }
+inline constexpr bool isUnpolymorphicHandle<T*> =
+    !std::is_polymorphic_v<RootClass<T>> && std::same_as<PolicyOf<T*>, VelmaraManagedWithInheritancePolicy>;
 
 /// Returns why values of the type cannot be marshaled, or `None`. A policy of a compound type says so with
 /// `MarshalingPolicy<T>::refusal`.
@@ -169,6 +189,8 @@ consteval Refusal marshalingRefusal()
         return Refusal::IncompleteClass;
     else if constexpr (std::same_as<PolicyOf<T>, NamedObjectPolicy> && isNamed<Native>("Eigen::"))
         return missingHeader<Native>(); // they are no objects
+    else if constexpr (isUnpolymorphicHandle<Native>)
+        return Refusal::NotPolymorphic;
     else if constexpr (!HasCompleteMarshaler<T>)
         return Refusal::NoMarshaler;
     else
@@ -185,7 +207,7 @@ consteval Refusal argumentRefusal()
     else if constexpr (requires { MarshalingPolicy<Native>::argumentRefusal; })
         return MarshalingPolicy<Native>::argumentRefusal;
     else
-        return Refusal::None;
+        return ConvertsFromHost<T> ? Refusal::None : Refusal::NoConversionFromHost;
 }
 
 /// The same for what a compound type holds.
@@ -202,12 +224,17 @@ consteval Refusal elementRefusal()
 template <class R>
 consteval Refusal resultRefusal()
 {
+    using Native = std::remove_cv_t<std::remove_pointer_t<std::remove_cvref_t<R>>>;
     if constexpr (std::is_void_v<R>)
         return Refusal::None;
     else if constexpr (IsHandleObject<R>)
         return std::is_reference_v<R> ? Refusal::None : Refusal::HandleByValue;
-    else
+    else if constexpr (ValueClass<Native> && !std::is_copy_assignable_v<Native>)
+        return Refusal::NotAssignable;
+    else if constexpr (marshalingRefusal<std::remove_cvref_t<R>>() != Refusal::None)
         return marshalingRefusal<std::remove_cvref_t<R>>();
+    else
+        return PassedAsObject<R> || ConvertsToHost<R> ? Refusal::None : Refusal::NoConversionToHost;
 }
 
 /// Returns whether values of the type refer to memory that they do not own, according to its policy.

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp"
 #include "orbis/factory/base/typeName.hpp"
-#include "orbis/factory/detail/refusals.hpp"
 
 #include <string_view>
 

@@ -66,6 +66,7 @@ template <class Function>
 struct MemberSignature {
     static constexpr CallableKind kind = CallableKind::OnRvalue;
     static constexpr std::size_t arity = 20;
+    using Type = Function;
 };
 
 template <class Function, class R, class... A>

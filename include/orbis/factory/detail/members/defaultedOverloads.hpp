@@ -1,10 +1,10 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp"
 #include "orbis/factory/detail/members/CallableTraits.hpp"
 #include "orbis/factory/detail/members/DefaultedCall.hpp"
 #include "orbis/factory/detail/members/MemberRecord.hpp"
 #include "orbis/factory/detail/members/Routines.hpp"
-#include "orbis/factory/detail/refusals.hpp"
 
 #include <cstddef>
 #include <memory>

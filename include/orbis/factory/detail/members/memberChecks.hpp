@@ -16,7 +16,7 @@ template <class Result, class... A>
 consteval Refusal signatureRefusal(TypeList<A...>)
 {
     return firstRefusal(sizeof...(A) <= maximumInputs ? Refusal::None : Refusal::TooManyParameters,
-                        argumentRefusal<A>()..., resultRefusal<NativeResult<Result>>());
+                        argumentRefusal<A>()..., storedResultRefusal<Result>());
 }
 
 /// For a method of class `T`.

@@ -31,6 +31,10 @@ enum class Refusal {
     UnpublishedClass,
     UnpublishedEnumeration,
     IncompleteClass,
+    NotDestructible,
+    NotAssignable,
+    NotPolymorphic,
+    OwnerOfNoObject,
     HandleByValue,
     Output,
     ElementView,
@@ -97,6 +101,13 @@ consteval bool isNot(Refusal other)
     return R != other;
 }
 
+/// False: for what is wrong whenever it is instantiated.
+template <class T>
+consteval bool isNothing()
+{
+    return false;
+}
+
 /// Stops compilation with the sentence of the refusal. `Refused` is what it is about, which compilers show.
 template <Refusal R, class... Refused>
 consteval void refuse()
@@ -133,13 +144,21 @@ consteval void refuse()
                                         "static char const* dataTypeText<T>().");
     static_assert(isNot<R>(NoConversionFromHost), "The marshaler of this native type lacks the conversion of "
                                                   "arguments: add static T fromHost<T>(hvArray_tag const*).");
-    static_assert(isNot<R>(NoConversionToHost), "The marshaler of this native type lacks the conversion of results: "
-                                                "add static void toHost<T>(T const&, hvArray**).");
+    static_assert(isNot<R>(NoConversionToHost), "The marshaler of this native type does not convert such results: add "
+                                                "static void toHost<T>(T const&, hvArray**), or return a value.");
     static_assert(isNot<R>(UnpublishedClass), "The class that this pointer points to is not published: specialise "
                                               "orbis::factory::HostClass for it, beside the class.");
     static_assert(isNot<R>(UnpublishedEnumeration), "This enumeration is not published: specialise "
                                                     "orbis::factory::HostEnumeration for it, beside the enumeration.");
     static_assert(isNot<R>(IncompleteClass), "This class is only declared here: include the header that defines it.");
+    static_assert(isNot<R>(NotDestructible), "The host cannot own this result: its class has no public destructor. Say "
+                                             "borrowed(...) or inside(...) of the function.");
+    static_assert(isNot<R>(NotAssignable), "Values of this class are handed to the host as copies: make the class "
+                                           "assignable.");
+    static_assert(isNot<R>(NotPolymorphic), "Objects of a class hierarchy are told apart by their dynamic type: give "
+                                            "the class that Root names a virtual destructor.");
+    static_assert(isNot<R>(OwnerOfNoObject), "owned(...), borrowed(...) and inside(...) are for functions that return "
+                                             "an object: publish this one without.");
     static_assert(isNot<R>(HandleByValue), "Objects of a class with a HostClass do not cross by value: return a "
                                            "pointer or a reference, or name ValuePolicy in the HostClass.");
     static_assert(isNot<R>(Output), "A parameter that is a reference to a non-const value cannot cross: take it by "
