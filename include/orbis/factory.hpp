@@ -4,6 +4,12 @@
 /// infos. Each header can also be included alone; `orbis/factory/Module.hpp` suffices for most modules, and compiles in
 /// half the time.
 
+// First, and directly: compilers list how they got to the header of an error.
+#include "orbis/factory/base/refusals.hpp"
+#include "orbis/factory/overload.hpp"
+
+#include "orbis/factory/describe.hpp"
+
 #include "orbis/factory/Module.hpp"
 #include "orbis/factory/ObjectHandle.hpp"
 #include "orbis/factory/base/Exception.hpp"
@@ -13,7 +19,6 @@
 #include "orbis/factory/classes/NonHandleClassInfo.hpp"
 #include "orbis/factory/classes/ShareableHandleClassInfo.hpp"
 #include "orbis/factory/classes/StdShareableHandleClassInfo.hpp"
-#include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/descriptors/AdaptedClassGetter.hpp"
 #include "orbis/factory/descriptors/AdaptedClassSetter.hpp"

@@ -197,12 +197,18 @@ hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOw
     return array;
 }
 
-hvArray_tag* announcePart(void* bound, char const* className, COSInterface* whole)
+hvArray_tag* announcePart(void* bound, std::type_info const& dynamicType, NativeClassRecord const& staticClass,
+                          COSInterface* whole)
 {
-    if (COSInterface* const host = findHost(bound, className, whole))
+    if (COSInterface* const host = findHost(bound, staticClass.hostName, whole))
         return omCreateORBISScalar(host);
-    HostShares::Share const part = PartOf{COSInterfacePtr(whole)};
-    return createHost(bound, className, false, &part);
+    bool const isExact = dynamicType == *staticClass.type;
+    char const* const name =
+        isExact ? staticClass.hostName : PublishedClasses::ofCurrentHvm().mostDerived(bound, dynamicType, staticClass);
+    HostShares::Share part;
+    if (whole)
+        part = PartOf{COSInterfacePtr(whole)};
+    return createHost(bound, name, false, &part);
 }
 
 hvArray_tag* announceShared(NamedClass const& named, void const* object, std::shared_ptr<void> share)

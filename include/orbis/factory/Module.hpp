@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp" // first: see there
+
 #include "orbis/factory/ObjectHandle.hpp"
 #include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/base/export.hpp"
@@ -83,7 +85,11 @@ public:
     Module& function(char const* name, F callable, ParameterNames<detail::CallableTraits<F>::arity> names = {},
                      char const* text = "")
     {
-        functions_.function(name, callable, names, text);
+        constexpr detail::Refusal refusal = detail::packageFunctionRefusal<std::decay_t<F>>();
+        if constexpr (refusal != detail::Refusal::None)
+            detail::refuse<refusal, F>();
+        else
+            functions_.function(name, callable, names, text);
         return *this;
     }
 
@@ -91,7 +97,21 @@ public:
     Module& function(char const* name, F callable, ParameterNames<detail::CallableTraits<F>::arity> names,
                      Defaults<D...> const& defaults, char const* text = "")
     {
-        functions_.function(name, callable, names, defaults, text);
+        constexpr detail::Refusal refusal = detail::firstRefusal(detail::packageFunctionRefusal<std::decay_t<F>>(),
+                                                                 detail::defaultsRefusalOf<std::decay_t<F>, 0, D...>());
+        if constexpr (refusal != detail::Refusal::None)
+            detail::refuse<refusal, F, D...>();
+        else
+            functions_.function(name, callable, names, defaults, text);
+        return *this;
+    }
+
+    /// Chosen for what is no function.
+    template <class None = void>
+    auto& function(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no function: of several overloads pick one with "
+                                                 "overload<...>().");
         return *this;
     }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp" // first: see there
+
 #include "orbis/factory/ClassDescription.hpp"
 #include "orbis/factory/ParameterNames.hpp"
 #include "orbis/factory/descriptors/MemberText.hpp"
@@ -7,6 +9,7 @@
 #include "orbis/factory/detail/members/areSuperclasses.hpp"
 #include "orbis/factory/detail/members/describedAccess.hpp"
 #include "orbis/factory/detail/members/makeRecord.hpp"
+#include "orbis/factory/detail/members/memberChecks.hpp"
 #include "orbis/factory/detail/members/propertyChecks.hpp"
 #include "orbis/factory/overload.hpp"
 #include "orbis/factory/types/standardPolicies.hpp"
@@ -36,6 +39,8 @@ class ClassDescriber : public ClassDescription {
     template <class F>
     using Names = ParameterNames<Traits<F>::arity>;
 
+    using Refusal = detail::Refusal;
+
 public:
     ClassDescriber() : ClassDescription(nativeClassRecord<T>()) {}
 
@@ -43,7 +48,10 @@ public:
     template <class... B>
     ClassDescriber& inherits()
     {
-        if constexpr (detail::areSuperclasses<T, B...>())
+        constexpr Refusal refusal = detail::firstRefusal(detail::superclassRefusal<T, B>()...);
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, B...>();
+        else
             (addSuperclass<B>(), ...);
         return *this;
     }
@@ -52,10 +60,10 @@ public:
     template <class... A>
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText text = {})
     {
-        constexpr bool exists = std::is_constructible_v<T, A...>;
-        static_assert(exists, "The class has no public constructor that takes these parameter types: name the types "
-                              "of an existing one in constructor<...>().");
-        if constexpr (exists && detail::signatureCanCross<void>(detail::TypeList<A...>{}))
+        constexpr Refusal refusal = detail::constructorRefusal<T, A...>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, A...>();
+        else
             add(constructorForm<A...>, nullptr, {}, names.text(), text);
         return *this;
     }
@@ -76,8 +84,15 @@ public:
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults,
                                 MethodText text = {})
     {
-        constructor<A...>(names, text);
-        add(defaults.template shortenConstructor<T, A...>(members().back()));
+        constexpr Refusal refusal =
+            detail::firstRefusal(detail::constructorRefusal<T, A...>(),
+                                 detail::defaultsRefusal<sizeof...(A), D...>(detail::TypeList<A...>{}));
+        if constexpr (refusal != Refusal::None) {
+            detail::refuse<refusal, A..., D...>();
+        } else {
+            constructor<A...>(names, text);
+            add(defaults.template shortenConstructor<T, A...>(members().back()));
+        }
         return *this;
     }
 
@@ -94,17 +109,13 @@ public:
     template <class F>
     ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodText text = {})
     {
-        using detail::CallableKind;
-        checkCallable<F>();
-        if constexpr (Traits<F>::kind == CallableKind::Member)
+        constexpr Refusal refusal = detail::methodRefusal<T, std::decay_t<F>>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, F>();
+        else if constexpr (Traits<F>::kind == detail::CallableKind::Member)
             addMember(name, function, names.text(), text);
-        else if constexpr (Traits<F>::kind == CallableKind::Free) {
-            constexpr bool takesObject = Traits<F>::template takesObject<T>;
-            static_assert(takesObject, "A free function published as a method takes a pointer to the class first: "
-                                       "add that parameter, or publish it with staticMethod.");
-            if constexpr (takesObject)
-                addFree(name, function, names.text(), text + MethodAttributes::ForceMembership());
-        }
+        else
+            addFree(name, function, names.text(), text + MethodAttributes::ForceMembership());
         return *this;
     }
 
@@ -125,8 +136,14 @@ public:
                            MethodText text = {})
     {
         constexpr std::size_t objects = Traits<F>::kind == detail::CallableKind::Member ? 0 : 1;
-        method(name, function, names, text);
-        add(defaults.template shorten<T, objects>(members().back(), function));
+        constexpr Refusal refusal = detail::firstRefusal(detail::methodRefusal<T, std::decay_t<F>>(),
+                                                         detail::defaultsRefusalOf<std::decay_t<F>, objects, D...>());
+        if constexpr (refusal != Refusal::None) {
+            detail::refuse<refusal, F, D...>();
+        } else {
+            method(name, function, names, text);
+            add(defaults.template shorten<T, objects>(members().back(), function));
+        }
         return *this;
     }
 
@@ -137,15 +154,23 @@ public:
         return method(name, function, names, defaults, text + attributes);
     }
 
+    /// Chosen for what is no method.
+    template <class None = void>
+    auto& method(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no method: of several overloads pick one with "
+                                                 "overload<...>() or constOverload<...>().");
+        return *this;
+    }
+
     /// Adds a static method: a free function, static member function, lambda or functor, called without an object.
     template <class F>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText text = {})
     {
-        using detail::CallableKind;
-        checkCallable<F>();
-        static_assert(Traits<F>::kind != CallableKind::Member, "A static method has no object: publish a member "
-                                                               "function with method.");
-        if constexpr (Traits<F>::kind == CallableKind::Free)
+        constexpr Refusal refusal = detail::staticMethodRefusal<std::decay_t<F>>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, F>();
+        else
             addFree(name, function, names.text(), text);
         return *this;
     }
@@ -167,8 +192,14 @@ public:
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
                                  MethodText text = {})
     {
-        staticMethod(name, function, names, text);
-        add(defaults.template shorten<T, 0>(members().back(), function));
+        constexpr Refusal refusal = detail::firstRefusal(detail::staticMethodRefusal<std::decay_t<F>>(),
+                                                         detail::defaultsRefusalOf<std::decay_t<F>, 0, D...>());
+        if constexpr (refusal != Refusal::None) {
+            detail::refuse<refusal, F, D...>();
+        } else {
+            staticMethod(name, function, names, text);
+            add(defaults.template shorten<T, 0>(members().back(), function));
+        }
         return *this;
     }
 
@@ -179,15 +210,27 @@ public:
         return staticMethod(name, function, names, defaults, text + attributes);
     }
 
+    /// Chosen for what is no static method.
+    template <class None = void>
+    auto& staticMethod(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no static method: of several overloads pick one with "
+                                                 "overload<...>() or constOverload<...>().");
+        return *this;
+    }
+
     /// Adds a property that is read through `getter`: a data member, a member function without parameters, or a free
     /// function or captureless lambda that takes the object or nothing. Non-const data can be written as well, unless
     /// `PropertyAttributes::NoAccessSetter()` is given.
     template <class G>
     ClassDescriber& property(char const* name, G getter, PropertyText text = {})
     {
-        if constexpr (detail::isWritableData<T, G>)
-            return property(name, getter, getter, text);
-        else if constexpr (detail::canRead<T, G>())
+        constexpr Refusal refusal = detail::propertyRefusal<T, G>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G>();
+        else if constexpr (detail::isWritableData<T, G>)
+            addProperty(name, getter, getter, text);
+        else
             addProperty(name, getter, detail::NoAccess(), text);
         return *this;
     }
@@ -204,10 +247,11 @@ public:
         requires(!std::convertible_to<S, PropertyText>)
     ClassDescriber& property(char const* name, G getter, S setter, PropertyText text = {})
     {
-        if constexpr (detail::canRead<T, G>() && detail::canWrite<T, S>()) {
-            if constexpr (detail::areOneType<T, G, S>())
-                addProperty(name, getter, setter, text);
-        }
+        constexpr Refusal refusal = detail::propertyRefusal<T, G, S>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G, S>();
+        else
+            addProperty(name, getter, setter, text);
         return *this;
     }
 
@@ -218,11 +262,23 @@ public:
         return property(name, getter, setter, text + attributes);
     }
 
+    /// Chosen for what is no property.
+    template <class None = void>
+    auto& property(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no property: of several overloads pick one with "
+                                                 "overload<...>() or constOverload<...>().");
+        return *this;
+    }
+
     /// Adds a write-only property. The setter is as above.
     template <class S>
     ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText text = {})
     {
-        if constexpr (detail::canWrite<T, S>())
+        constexpr Refusal refusal = detail::setterRefusal<T, S>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, S>();
+        else
             addProperty(name, detail::NoAccess(), setter, text);
         return *this;
     }
@@ -237,7 +293,11 @@ public:
     template <class G>
     ClassDescriber& staticProperty(char const* name, G getter, PropertyText text = {})
     {
-        if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>())
+        constexpr Refusal refusal =
+            detail::firstRefusal(detail::staticRefusal<detail::GetterTraits<T, G>>(), detail::propertyRefusal<T, G>());
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G>();
+        else
             property(name, getter, text + PropertyAttributes::Static());
         return *this;
     }
@@ -253,8 +313,12 @@ public:
         requires(!std::convertible_to<S, PropertyText>)
     ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText text = {})
     {
-        if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>() &&
-                      detail::needsNoObject<detail::SetterTraits<T, S>>())
+        constexpr Refusal refusal =
+            detail::firstRefusal(detail::staticRefusal<detail::GetterTraits<T, G>, detail::SetterTraits<T, S>>(),
+                                 detail::propertyRefusal<T, G, S>());
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G, S>();
+        else
             property(name, getter, setter, text + PropertyAttributes::Static());
         return *this;
     }
@@ -290,25 +354,12 @@ private:
                              detail::MemberFunctionRoutine<T, Pointer, Result, Parameters>>;
 
     template <class F>
-    static consteval void checkCallable()
-    {
-        static_assert(Traits<F>::kind != detail::CallableKind::None,
-                      "This cannot be published: give a function, a member function or a lambda that captures nothing, "
-                      "and pick one of several overloads with overload<...>().");
-    }
-
-    template <class F>
     void addMember(char const* name, F function, char const* names, MethodText text)
     {
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
         using Pointer = typename Traits<F>::template PointerIn<T>;
-        constexpr bool isMember = std::derived_from<T, typename Traits<F>::Class>;
-        static_assert(isMember,
-                      "This is no member function of the class or a public base: publish it with the class that has "
-                      "it.");
-        if constexpr (isMember && detail::signatureCanCross<Result>(Parameters{}))
-            add(memberForm<Result, Parameters, Pointer>, name, static_cast<Pointer>(function), names, text);
+        add(memberForm<Result, Parameters, Pointer>, name, static_cast<Pointer>(function), names, text);
     }
 
     template <class F>
@@ -317,8 +368,7 @@ private:
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
         using Pointer = typename Traits<F>::Pointer;
-        if constexpr (detail::signatureCanCross<Result>(Parameters{}))
-            add(detail::freeFunctionRecord<Pointer, Result, Parameters>(name, function, names, text));
+        add(detail::freeFunctionRecord<Pointer, Result, Parameters>(name, function, names, text));
     }
 
     template <class G, class S>

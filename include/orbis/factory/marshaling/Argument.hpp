@@ -36,7 +36,7 @@ public:
     /// a holder, what its `value()` returns.
     decltype(auto) get()
     {
-        if constexpr (std::same_as<PolicyOf<T>, NamedObjectPolicy>)
+        if constexpr (PassedAsObject<T>)
             return passObject();
         else if constexpr (!isHolder)
             return pass(held_);

@@ -11,6 +11,7 @@
 #include "orbis/objectArrays.hpp"
 
 #include <type_traits>
+#include <typeinfo>
 #include <utility>
 
 /// The results of members that are objects.
@@ -44,8 +45,35 @@ concept StoresNamedObject = IsNamedObject<NativeResult<Result>>;
 template <class T>
 concept HandlePointer = std::is_pointer_v<T> && !IsNamedObject<T> && requires { requires MarshalerOf<T>::isHandle; };
 
+/// Classes whose objects know their shares, of which their host objects get one.
+template <class T>
+concept SharesItself = requires(T const& object) { object.weak_from_this(); };
+
+/// Likewise, and references to such objects.
 template <class Result>
-concept ObjectResult = StoresNamedObject<Result> || HandlePointer<Result>;
+concept StoresHandle = HandlePointer<NativeResult<Result>> ||
+                       (IsHandleObject<NativeResult<Result>> && std::is_reference_v<NativeResult<Result>>);
+
+template <class Result>
+concept ObjectResult = StoresNamedObject<Result> || StoresHandle<Result>;
+
+/// Returns why a result, of which the author may have said who owns it, cannot be published, or `None`.
+template <class Result>
+consteval Refusal storedResultRefusal()
+{
+    using Native = NativeResult<Result>;
+    constexpr bool isOwnedByHost = ResultTraits<Result>::owner == ResultOwner::Host || !std::is_reference_v<Native>;
+    if constexpr (resultRefusal<Native>() != Refusal::None)
+        return resultRefusal<Native>();
+    else if constexpr (!std::is_same_v<Result, Native> && !ObjectResult<Result>)
+        return Refusal::OwnerOfNoObject;
+    else if constexpr (StoresNamedObject<Result> && isOwnedByHost &&
+                       !(std::is_pointer_v<Native> && ResultTraits<Result>::owner != ResultOwner::Host))
+        return std::is_destructible_v<std::remove_pointer_t<std::remove_cvref_t<Native>>> ? Refusal::None
+                                                                                          : Refusal::NotDestructible;
+    else
+        return Refusal::None;
+}
 
 /// The object that a member is called on, of which a result may be a part: none.
 struct NoWhole {
@@ -102,8 +130,6 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
             return nullptr;
     };
     if constexpr (std::is_class_v<Native> || owner == ResultOwner::Host) {
-        static_assert(std::is_destructible_v<Class>, "The host cannot own this result: its class has no public "
-                                                     "destructor. Say borrowed(...) or inside(...) of the function.");
         NewObject<Class const> object([&]() -> Class const* {
             if constexpr (std::is_class_v<Native>)
                 return new Class(std::forward<F>(function)());
@@ -120,22 +146,41 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
     }
 }
 
-/// The same for classes with a `HostClass`. The host becomes responsible for an object that is returned, so one that
-/// cannot be bound is deleted as its class info would, instead of leaked; but what lies inside the object of the member
-/// is never the host's.
-template <HandlePointer Result, class Whole, class F>
+/// The same for classes with a `HostClass`. The host becomes responsible for an object that is returned as a pointer,
+/// unless the author says otherwise, so one that cannot be bound is deleted as its class info would, instead of leaked;
+/// but what lies inside the object of the member is never the host's, and neither is what is returned as a reference.
+template <StoresHandle Result, class Whole, class F>
 hvArray_tag* objectResult(Whole const& whole, F&& function)
 {
-    using Class = std::remove_const_t<std::remove_pointer_t<Result>>;
-    auto* const object = const_cast<Class*>(std::forward<F>(function)());
-    if (whole.contains(object)) [[unlikely]]
+    using Native = NativeResult<Result>;
+    using Class = std::remove_cv_t<std::remove_pointer_t<std::remove_reference_t<Native>>>;
+    constexpr bool isReference = std::is_reference_v<Native>;
+    constexpr bool isSaid = !std::is_same_v<Result, Native>;
+    constexpr ResultOwner owner = isSaid || isReference ? ResultTraits<Result>::owner : ResultOwner::Host;
+    Class const* found = nullptr;
+    if constexpr (isReference)
+        found = std::addressof(std::forward<F>(function)());
+    else
+        found = std::forward<F>(function)();
+    auto* const object = const_cast<Class*>(found);
+    auto const keep = [&](COSInterface* host) {
+        std::type_info const* type = &typeid(Class);
+        if constexpr (std::is_polymorphic_v<Class>)
+            type = &typeid(*object);
+        return announcePart(MarshalerOf<Class*>::boundAddress(object), *type, nativeClassRecord<Class>(), host);
+    };
+    if constexpr (owner != ResultOwner::Host && !SharesItself<Class>) {
+        if (object)
+            return keep(owner == ResultOwner::Whole ? whole.host() : nullptr);
+    } else if (whole.contains(object)) [[unlikely]] {
         if (COSInterface* const host = whole.host())
-            return announcePart(MarshalerOf<Result>::boundAddress(object), HostClass<Class>::name, host);
+            return keep(host);
+    }
     NewArray array;
     try {
-        MarshalerOf<Result>::template toHost<Class>(object, array.place());
+        MarshalerOf<Class*>::template toHost<Class>(object, array.place());
     } catch (...) {
-        discardUnbound(MarshalerOf<Result>::boundAddress(object), HostClass<Class>::name);
+        discardUnbound(MarshalerOf<Class*>::boundAddress(object), HostClass<Class>::name);
         throw;
     }
     return array.release();

@@ -82,7 +82,8 @@ public:
 
 template <class T>
 struct MarshalingPolicy<std::optional<T>> {
-    static_assert(detail::isMarshalable<T>());
+    static constexpr detail::Refusal refusal = detail::elementRefusal<T>();
+    static constexpr detail::Refusal argumentRefusal = detail::argumentRefusal<T>();
     using Type = OptionalPolicy;
 };
 

@@ -49,8 +49,7 @@ struct MarshalingPolicy<std::array<T, N>> {
 };
 
 template <class T, std::size_t N>
-struct MarshalingPolicy<std::array<T, N>> {
-    static_assert(detail::isMarshalable<T>());
+struct MarshalingPolicy<std::array<T, N>> : detail::ElementRefusals<T> {
     using Type = TuplePolicy;
 };
 

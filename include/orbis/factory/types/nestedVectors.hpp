@@ -76,8 +76,7 @@ concept HasVectorPolicy =
 
 template <class E>
     requires(!detail::HasVectorPolicy<E>)
-struct MarshalingPolicy<std::vector<E>> {
-    static_assert(detail::isMarshalable<E>());
+struct MarshalingPolicy<std::vector<E>> : detail::ElementRefusals<E> {
     using Type = ListPolicy;
 };
 

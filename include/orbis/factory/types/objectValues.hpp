@@ -136,14 +136,14 @@ struct MarshalingPolicy<std::vector<T>> {
 template <class T>
     requires NamedType<std::remove_const_t<T>>
 struct MarshalingPolicy<std::vector<std::unique_ptr<T>>> {
-    static_assert(detail::isMarshalable<std::unique_ptr<T>>());
+    static constexpr detail::Refusal refusal = detail::marshalingRefusal<std::unique_ptr<T>>();
     using Type = ObjectValuesPolicy;
 };
 
 template <class T>
     requires NamedType<std::remove_const_t<T>>
 struct MarshalingPolicy<std::vector<std::shared_ptr<T>>> {
-    static_assert(detail::isMarshalable<std::shared_ptr<T>>());
+    static constexpr detail::Refusal refusal = detail::marshalingRefusal<std::shared_ptr<T>>();
     using Type = ObjectValuesPolicy;
 };
 

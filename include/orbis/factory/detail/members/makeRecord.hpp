@@ -7,20 +7,6 @@
 
 namespace orbis::factory::detail {
 
-/// Returns whether the result and the parameters can be marshaled; stops compilation with a sentence otherwise.
-template <class Result, class... A>
-consteval bool signatureCanCross(TypeList<A...>)
-{
-    static_assert(sizeof...(A) <= maximumInputs, "A published function takes at most 20 parameters: pass several "
-                                                 "values as one array or object.");
-    bool const parameters = (isMarshalable<A>() && ... && true);
-    if constexpr (std::is_void_v<Result>)
-        return parameters && sizeof...(A) <= maximumInputs;
-    else
-        return isMarshalable<std::remove_cvref_t<NativeResult<Result>>>() && parameters &&
-               sizeof...(A) <= maximumInputs;
-}
-
 template <class Parameters>
 struct InputTypes;
 

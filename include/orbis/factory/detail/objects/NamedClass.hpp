@@ -60,17 +60,10 @@ void* upcast(void* object)
 template <class From, class To>
 void* downcast(void* object)
 {
-    if constexpr (std::is_polymorphic_v<From>) {
+    if constexpr (std::is_polymorphic_v<From>)
         return dynamic_cast<To*>(static_cast<From*>(object));
-    } else {
-        constexpr bool isPossible = requires(From* from) { static_cast<To*>(from); };
-        static_assert(isPossible, "Objects of this class cannot be found as ones of its base class, which is a virtual "
-                                  "one: give that a virtual destructor, or leave it out of inherits<...>().");
-        if constexpr (isPossible)
-            return static_cast<To*>(static_cast<From*>(object));
-        else
-            return nullptr;
-    }
+    else
+        return static_cast<To*>(static_cast<From*>(object));
 }
 
 template <class T>

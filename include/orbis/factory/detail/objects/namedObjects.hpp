@@ -6,6 +6,7 @@
 #include "orbis/COSInterface.hpp"
 
 #include <cstddef>
+#include <typeinfo>
 
 /// Objects of named classes, which cross without their types.
 namespace orbis::factory {
@@ -35,9 +36,10 @@ ORBIS_FACTORY_API void* requireNativeOf(NamedClass const& named, hvArray_tag con
 ORBIS_FACTORY_API hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOwner owner,
                                              COSInterface* whole);
 
-/// Returns a new 1-by-1 array, owned by the caller, with the host object of class `className` for `bound`, which lies
-/// inside the native object of `whole`: so it does not own it.
-ORBIS_FACTORY_API hvArray_tag* announcePart(void* bound, char const* className, COSInterface* whole);
+/// Like `announceNamed` for classes with a `HostClass`: for `bound`, not null, which lies inside the native object of `whole` or,
+/// without one, is borrowed from native code: so its host object does not own it.
+ORBIS_FACTORY_API hvArray_tag* announcePart(void* bound, std::type_info const& dynamicType,
+                                            NativeClassRecord const& staticClass, COSInterface* whole);
 
 /// Returns whether an address lies inside an object.
 inline bool isInside(void const* address, void const* object, std::size_t size)
