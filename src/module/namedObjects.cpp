@@ -1,6 +1,7 @@
 #include "orbis/factory/detail/objects/namedObjects.hpp"
 
 #include "orbis/factory/base/Exception.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
 #include "orbis/factory/detail/arrays/NewArray.hpp"
 #include "orbis/factory/detail/arrays/throwNullInput.hpp"
 #include "orbis/factory/detail/bindings/bindings.hpp"
@@ -8,6 +9,7 @@
 #include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include "basic/HostDependents.hpp"
+#include "marshal/throwError.hpp"
 #include "module/PublishedClasses.hpp"
 #include "module/cppName.hpp"
 
@@ -83,23 +85,27 @@ COSInterfacePtr firstOf(hvArray_tag const* in)
     return in && in->get_number_of_elements() != 0 ? omGetArrayElement(in, 0) : COSInterfacePtr();
 }
 
-[[noreturn]] void refuse(NamedClass const& named, char const* refused, char const* reason)
+/// What native code wants of an object.
+enum class Wanted { Share, Taken };
+
+[[noreturn]] void refuse(NamedClass const& named, Wanted wanted, char const* reason)
 {
-    throw Exception(std::string("The object of class \"") + className(named) + "\" cannot be " + refused + ": " +
-                    reason + '.');
+    if (wanted == Wanted::Share)
+        throwError(orbis_factory::orbis_factory::cannot_share(className(named), reason));
+    throwError(orbis_factory::orbis_factory::cannot_take(className(named), reason));
 }
 
 /// Returns the share of the host object, after checking that it owns its native object, alone or with others, and that
 /// the object can be destroyed as one of this class.
-HostShares::Share const* requireOwner(NamedClass const& named, COSInterface const* host, char const* refused)
+HostShares::Share const* requireOwner(NamedClass const& named, COSInterface const* host, Wanted wanted)
 {
     auto const& dependents = basic::registry().dependents;
     HostShares::Share const* const share = dependents ? dependents->shares.find(host) : nullptr;
     bool const isShared = share && std::holds_alternative<std::shared_ptr<void>>(*share);
     if (!isShared && (share || !named.isOwnedByHost))
-        refuse(named, refused, "its host object does not own it");
+        refuse(named, wanted, "its host object does not own it");
     if (!isShared && named.isBase && !named.hasVirtualDestructor)
-        refuse(named, refused, "it may be of a subclass, and the class has no virtual destructor");
+        refuse(named, wanted, "it may be of a subclass, and the class has no virtual destructor");
     return share;
 }
 
@@ -168,6 +174,14 @@ void* requireNativeOf(NamedClass const& named, hvArray_tag const* in)
     return object;
 }
 
+void requireExactType(NamedClass const& named, void const* object)
+{
+    std::type_info const& type = named.dynamicType ? named.dynamicType(object) : *named.type;
+    if (type != *named.type)
+        throwError(
+            orbis_factory::orbis_factory::cannot_copy(className(named), "it is of the derived class " + cppName(type)));
+}
+
 hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOwner owner, COSInterface* whole)
 {
     if (!object)
@@ -224,7 +238,7 @@ std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in)
     void* const object = nativeOf(named, static_cast<COSInterface const*>(host));
     if (!object)
         return nullptr;
-    if (HostShares::Share const* const share = requireOwner(named, host, "shared"))
+    if (HostShares::Share const* const share = requireOwner(named, host, Wanted::Share))
         return std::get<std::shared_ptr<void>>(*share);
     std::shared_ptr<void> shared(object, Destroyer());
     shares().give(host, shared);
@@ -238,8 +252,8 @@ void requireOwned(NamedClass const& named, hvArray_tag const* in, bool alone)
     if (!host)
         return;
     requireNativeOf(named, in);
-    if (requireOwner(named, host, alone ? "taken" : "shared") && alone)
-        refuse(named, "taken", "it is shared");
+    if (requireOwner(named, host, alone ? Wanted::Taken : Wanted::Share) && alone)
+        refuse(named, Wanted::Taken, "it is shared");
 }
 
 void* takeNamed(NamedClass const& named, hvArray_tag const* in)

@@ -37,7 +37,24 @@ class ClassDescriber : public ClassDescription {
     using Names = ParameterNames<Traits<F>::arity>;
 
 public:
-    ClassDescriber() : ClassDescription(nativeClassRecord<T>()) {}
+    ClassDescriber() : ClassDescription(nativeClassRecord<T>())
+    {
+        if constexpr (NamedType<T>)
+            if constexpr (isValue<T>)
+                setCopying(detail::copyingOf<T>);
+    }
+
+    /// Has scripts copy objects of a class that a `Module` publishes, as they copy those of an `isValue` class unasked:
+    /// with a constructor that takes one, if there are others, and with what their language has for it.
+    ClassDescriber& copyable()
+    {
+        constexpr bool canCopy = NamedType<T> && detail::CopyConstructible<T>;
+        static_assert(canCopy, "Objects of this class cannot be copied: it has no public copy constructor, or no "
+                               "public destructor, or a HostClass.");
+        if constexpr (canCopy)
+            setCopying(detail::copyingOf<T>);
+        return *this;
+    }
 
     /// Names the direct superclasses: published base classes, whose members objects of this class inherit.
     template <class... B>
