@@ -17,6 +17,7 @@
 #include "orbis/factory/marshaling/StaticCastPolicy.hpp"
 #include "orbis/factory/marshaling/ValuePolicy.hpp"
 #include "orbis/factory/ownership/HvmScoped.hpp"
+#include "orbis/factory/parameterOwners.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 #include "orbis/factory/resultOwners.hpp"
 #include "orbis/factory/types/NamedPointerPolicies.hpp"

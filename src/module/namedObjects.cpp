@@ -12,6 +12,7 @@
 #include "marshal/throwError.hpp"
 #include "module/PublishedClasses.hpp"
 #include "module/cppName.hpp"
+#include "module/objectShares.hpp"
 
 #include "orbis/COSClass.hpp"
 
@@ -25,11 +26,6 @@ namespace {
 
 using basic::HostShares;
 using basic::PartOf;
-
-HostShares& shares()
-{
-    return basic::registry().requireDependents().shares;
-}
 
 char const* mostDerivedName(NamedClass const& named, void const* object, void* bound)
 {
@@ -69,7 +65,7 @@ hvArray_tag* createHost(void* bound, char const* className, bool isNewObject, Ho
     COSInterfacePtr host = newHost(name);
     NewArray array(omCreateORBISScalar(host));
     if (share)
-        shares().give(host, *share); // first: from now on nothing deletes the native object with it
+        objectShares().give(host, *share); // first: from now on nothing deletes the native object with it
     if (isNewObject) {
         bindConstructed(host, name, bound);
     } else {
@@ -107,24 +103,6 @@ HostShares::Share const* requireOwner(NamedClass const& named, COSInterface cons
     if (!isShared && named.isBase && !named.hasVirtualDestructor)
         refuse(named, wanted, "it may be of a subclass, and the class has no virtual destructor");
     return share;
-}
-
-/// The deleter of an object that gets shared. It does nothing until the object belongs to it: making the shared pointer
-/// may fail.
-struct Destroyer {
-    void (*destroy)(void*) = nullptr;
-
-    void operator()(void* object) const
-    {
-        if (destroy)
-            destroy(object);
-    }
-};
-
-/// Transfers the object to its shared pointer, which was made with a `Destroyer`.
-void transfer(NamedClass const& named, std::shared_ptr<void> const& shared)
-{
-    std::get_deleter<Destroyer>(shared)->destroy = named.destroy;
 }
 
 } // namespace
@@ -205,7 +183,7 @@ hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOw
     std::shared_ptr<void> const owned(const_cast<void*>(object), Destroyer());
     HostShares::Share const share = owned;
     hvArray_tag* const array = createHost(bound, name, true, &share);
-    transfer(named, owned);
+    destroyerOf(owned)->destroy = named.destroy;
     return array;
 }
 
@@ -224,9 +202,9 @@ hvArray_tag* announceShared(NamedClass const& named, void const* object, std::sh
     void* const bound = toBound(named, const_cast<void*>(object));
     HostShares::Share const held = std::move(share);
     if (COSInterface* const host = findHost(bound, className(named), nullptr)) {
-        HostShares::Share const* const known = shares().find(host);
+        HostShares::Share const* const known = objectShares().find(host);
         if (known && !std::holds_alternative<std::shared_ptr<void>>(*known))
-            shares().give(host, held); // was borrowed, or a part
+            objectShares().give(host, held); // was borrowed, or a part
         return omCreateORBISScalar(host);
     }
     return createHost(bound, mostDerivedName(named, object, bound), false, &held);
@@ -240,10 +218,7 @@ std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in)
         return nullptr;
     if (HostShares::Share const* const share = requireOwner(named, host, Wanted::Share))
         return std::get<std::shared_ptr<void>>(*share);
-    std::shared_ptr<void> shared(object, Destroyer());
-    shares().give(host, shared);
-    transfer(named, shared);
-    return shared;
+    return shareOwned(named, host, object);
 }
 
 void requireOwned(NamedClass const& named, hvArray_tag const* in, bool alone)
@@ -252,8 +227,11 @@ void requireOwned(NamedClass const& named, hvArray_tag const* in, bool alone)
     if (!host)
         return;
     requireNativeOf(named, in);
-    if (requireOwner(named, host, alone ? Wanted::Taken : Wanted::Share) && alone)
-        refuse(named, Wanted::Taken, "it is shared");
+    HostShares::Share const* const share = requireOwner(named, host, alone ? Wanted::Taken : Wanted::Share);
+    if (!share || !alone)
+        return;
+    Destroyer const* const destroyer = destroyerOf(std::get<std::shared_ptr<void>>(*share));
+    refuse(named, Wanted::Taken, destroyer && !destroyer->kept.empty() ? "it keeps other objects" : "it is shared");
 }
 
 void* takeNamed(NamedClass const& named, hvArray_tag const* in)

@@ -70,7 +70,7 @@ public:
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText const& text = {},
                                 MethodAttributes attributes = {})
     {
-        constexpr bool exists = std::is_constructible_v<T, A...>;
+        constexpr bool exists = std::is_constructible_v<T, detail::NativeParameter<A>...>;
         static_assert(exists, "The class has no public constructor that takes these parameter types: name the types "
                               "of an existing one in constructor<...>().");
         if constexpr (exists && detail::signatureCanCross<void>(detail::TypeList<A...>{}))
@@ -138,7 +138,8 @@ public:
         static_assert(Traits<F>::kind != CallableKind::Member, "A static method has no object: publish a member "
                                                                "function with method.");
         if constexpr (Traits<F>::kind == CallableKind::Free)
-            addFree(name, function, names.text(), text + attributes);
+            if constexpr (detail::keepsNothing(typename Traits<F>::Parameters{}))
+                addFree(name, function, names.text(), text + attributes);
         return *this;
     }
 

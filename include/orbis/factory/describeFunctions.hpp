@@ -33,7 +33,7 @@ public:
         if constexpr (isFree) {
             using Result = typename Traits<F>::Result;
             using Parameters = typename Traits<F>::Parameters;
-            if constexpr (detail::signatureCanCross<Result>(Parameters{}))
+            if constexpr (detail::signatureCanCross<Result>(Parameters{}) && detail::keepsNothing(Parameters{}))
                 add(detail::freeFunctionRecord<typename Traits<F>::Pointer, Result, Parameters>(
                     name, callable, names.text(), MethodText(text) + MethodAttributes::Static()));
         }

@@ -16,7 +16,7 @@ public:
     {
     }
 
-    R read(COSInterface* object) const { return function_(&detail::nativeSelf<T>(object)); }
+    detail::NativeResult<R> read(COSInterface* object) const { return function_(&detail::nativeSelf<T>(object)); }
     static auto wholeOf(COSInterface* object) { return detail::WholeOfProperty<T>{object}; }
 
 private:

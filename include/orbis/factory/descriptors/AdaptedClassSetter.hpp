@@ -1,7 +1,9 @@
 #pragma once
 
 #include "orbis/factory/descriptors/Setter.hpp"
+#include "orbis/factory/marshaling/ObjectTransfer.hpp"
 #include "orbis/factory/marshaling/PropertyValue.hpp"
+#include "orbis/factory/marshaling/objectResult.hpp"
 
 namespace orbis::factory::impl {
 
@@ -17,6 +19,8 @@ public:
     {
         T& self = detail::nativeSelf<T>(object);
         detail::Argument<A> argument(value);
+        detail::Transfer<A> transfer(detail::WholeOfProperty<T>{object}, &value);
+        [[maybe_unused]] auto const completion = transfer.completion();
         function_(&self, argument.get());
     }
 

@@ -10,7 +10,7 @@
 
 namespace orbis::factory::impl {
 
-/// Common base of the getters. `Derived` provides `read(object)`, which returns the native value as an `R`, and
+/// Common base of the getters. `Derived` provides `read(object)`, which returns the native value of a result `R`, and
 /// `wholeOf(object)`, of which it may be a part; `V` is the type as which it is marshaled.
 template <class Derived, class R, class V>
 class CallableGetter : public Getter {
@@ -20,7 +20,7 @@ public:
     COSValue getValue(COSInterface* object) const override
     {
         using Value = std::conditional_t<std::is_reference_v<R>, V const&, V>;
-        auto const read = [&]() -> R { return derived().read(object); };
+        auto const read = [&]() -> detail::NativeResult<R> { return derived().read(object); };
         if constexpr (detail::ObjectResult<R>)
             return COSValue(detail::objectResult<R>(derived().wholeOf(object), read));
         else

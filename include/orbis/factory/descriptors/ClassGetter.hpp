@@ -18,7 +18,10 @@ public:
     {
     }
 
-    R read(COSInterface* object) const { return std::invoke(member_, detail::nativeSelf<T>(object)); }
+    detail::NativeResult<R> read(COSInterface* object) const
+    {
+        return std::invoke(member_, detail::nativeSelf<T>(object));
+    }
     static auto wholeOf(COSInterface* object) { return detail::WholeOfProperty<T>{object}; }
 
 private:

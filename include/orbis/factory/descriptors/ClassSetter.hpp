@@ -1,7 +1,9 @@
 #pragma once
 
 #include "orbis/factory/descriptors/Setter.hpp"
+#include "orbis/factory/marshaling/ObjectTransfer.hpp"
 #include "orbis/factory/marshaling/PropertyValue.hpp"
+#include "orbis/factory/marshaling/objectResult.hpp"
 
 #include <type_traits>
 
@@ -19,6 +21,8 @@ public:
     {
         T& self = detail::nativeSelf<T>(object);
         detail::Argument<A> argument(value);
+        detail::Transfer<A> transfer(detail::WholeOfProperty<T>{object}, &value);
+        [[maybe_unused]] auto const completion = transfer.completion();
         if constexpr (std::is_member_object_pointer_v<F>)
             self.*member_ = argument.get();
         else

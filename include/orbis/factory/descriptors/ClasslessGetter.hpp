@@ -10,17 +10,17 @@ class ClasslessGetter final : public CallableGetter<ClasslessGetter<R, V>, R, V>
 public:
     static constexpr bool needsObject = false;
 
-    explicit ClasslessGetter(R (*function)(), ReleaseRoutine release = nullptr)
+    explicit ClasslessGetter(detail::NativeResult<R> (*function)(), ReleaseRoutine release = nullptr)
         : CallableGetter<ClasslessGetter, R, V>(release),
           function_(function)
     {
     }
 
-    R read(COSInterface*) const { return function_(); }
+    detail::NativeResult<R> read(COSInterface*) const { return function_(); }
     static auto wholeOf(COSInterface*) { return detail::NoWhole(); }
 
 private:
-    R (*function_)();
+    detail::NativeResult<R> (*function_)();
 };
 
 } // namespace orbis::factory::impl

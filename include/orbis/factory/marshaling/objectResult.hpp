@@ -83,6 +83,22 @@ struct WholeOfProperty {
     }
 };
 
+/// Returns a copy of an object, which is exactly of this class; null for null.
+template <class Class>
+std::unique_ptr<Class const> copyOf(NamedClass const& named, Class const* original)
+{
+    constexpr bool canCopy = CopyConstructible<Class>;
+    static_assert(canCopy, "This result cannot be copied: its class has no public copy constructor, or no public "
+                           "destructor, or is abstract.");
+    if constexpr (canCopy) {
+        if (original) {
+            requireExactType(named, original);
+            return std::make_unique<Class const>(*original);
+        }
+    }
+    return nullptr;
+}
+
 /// Calls `function` and returns an array, owned by the caller, with the host object of its result. A result by value
 /// becomes an object of its own; one that belongs to the host is deleted if it gets no host object.
 template <class Result, class Whole, class F>
@@ -101,12 +117,14 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
         else
             return nullptr;
     };
-    if constexpr (std::is_class_v<Native> || owner == ResultOwner::Host) {
+    if constexpr (std::is_class_v<Native> || owner == ResultOwner::Host || owner == ResultOwner::Copy) {
         static_assert(std::is_destructible_v<Class>, "The host cannot own this result: its class has no public "
                                                      "destructor. Say borrowed(...) or inside(...) of the function.");
         std::unique_ptr<Class const> object;
         if constexpr (std::is_class_v<Native>)
             object.reset(new Class(std::forward<F>(function)()));
+        else if constexpr (owner == ResultOwner::Copy)
+            object = copyOf<Class>(named, address());
         else
             object.reset(address());
         hvArray_tag* const array = announceNamed(named, object.get(), ResultOwner::Host, nullptr);

@@ -6,6 +6,7 @@
 #include "orbis/factory/descriptors/DataGetter.hpp"
 #include "orbis/factory/descriptors/releasedBy.hpp"
 #include "orbis/factory/detail/members/CallableTraits.hpp"
+#include "orbis/factory/marshaling/objectResult.hpp"
 
 #include <concepts>
 #include <type_traits>
@@ -36,7 +37,7 @@ template <class R, class P, class Reader>
 struct GetterOf {
     static constexpr bool isGetter = true;
     static constexpr bool needsObject = Reader::needsObject;
-    using Result = R;
+    using Result = NativeResult<R>;
     using Pointer = P;
     using Getter = Reader;
 };
@@ -44,7 +45,7 @@ struct GetterOf {
 template <class T, class G, class Traits = CallableTraits<G>>
 using GetterOfMethod = GetterOf<typename Traits::Result, typename Traits::template PointerIn<T>,
                                 impl::ClassGetter<typename Traits::Result, T, typename Traits::template PointerIn<T>,
-                                                  std::remove_cvref_t<typename Traits::Result>>>;
+                                                  std::remove_cvref_t<NativeResult<typename Traits::Result>>>>;
 
 template <class T, MethodOf<T> G>
     requires(CallableTraits<G>::arity == 0)
@@ -57,16 +58,18 @@ struct GetterTraits<T, M C::*>
                impl::ClassGetter<M const&, T, MemberPointerIn<M C::*, M T::*>, std::remove_cv_t<M>>> {};
 
 template <class T, class G, class Traits = CallableTraits<G>>
-using GetterOfFunctionOn = GetterOf<typename Traits::Result, typename Traits::Pointer,
-                                    impl::AdaptedClassGetter<typename Traits::Result, T, typename Traits::Pointer,
-                                                             std::remove_cvref_t<typename Traits::Result>>>;
+using GetterOfFunctionOn =
+    GetterOf<typename Traits::Result, typename Traits::Pointer,
+             impl::AdaptedClassGetter<typename Traits::Result, T, typename Traits::Pointer,
+                                      std::remove_cvref_t<NativeResult<typename Traits::Result>>>>;
 
 template <class T, FunctionOn<T> G>
     requires(CallableTraits<G>::arity == 1)
 struct GetterTraits<T, G> : GetterOfFunctionOn<T, G> {};
 
 template <class R>
-using GetterOfFunction = GetterOf<R, R (*)(), impl::ClasslessGetter<R, std::remove_cvref_t<R>>>;
+using GetterOfFunction =
+    GetterOf<R, NativeResult<R> (*)(), impl::ClasslessGetter<R, std::remove_cvref_t<NativeResult<R>>>>;
 
 template <class T, FreeFunction G>
     requires(CallableTraits<G>::arity == 0)

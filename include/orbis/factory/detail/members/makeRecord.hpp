@@ -15,12 +15,24 @@ consteval bool signatureCanCross(TypeList<A...>)
 {
     static_assert(sizeof...(A) <= maximumInputs, "A published function takes at most 20 parameters: pass several "
                                                  "values as one array or object.");
-    bool const parameters = (isMarshalable<A>() && ... && true);
+    constexpr bool isOfNamed = std::is_same_v<Result, NativeResult<Result>> || StoresNamedObject<Result>;
+    static_assert(isOfNamed, "owned, copied, borrowed and inside are said of functions that return a pointer or a "
+                             "reference to an object of a class that a Module publishes.");
+    bool const parameters = (isMarshalable<A>() && ... && isOfNamed);
     if constexpr (std::is_void_v<Result>)
         return parameters && sizeof...(A) <= maximumInputs;
     else
         return isMarshalable<std::remove_cvref_t<NativeResult<Result>>>() && parameters &&
                sizeof...(A) <= maximumInputs;
+}
+
+/// Returns whether a function that is called without an object keeps no argument; stops compilation otherwise.
+template <class... A>
+consteval bool keepsNothing(TypeList<A...>)
+{
+    static_assert((!ParameterType<A>::isKept && ...),
+                  "Without an object that the member is called on, nothing is kept: take a std::shared_ptr.");
+    return (!ParameterType<A>::isKept && ...);
 }
 
 template <class... A>

@@ -15,6 +15,7 @@ namespace orbis::factory {
 enum class ResultOwner {
     Host,   ///< the host object owns it, and destroys it
     Native, ///< native code, which keeps it as long as scripts can use it
+    Copy,   ///< the host object, of a copy
     Whole   ///< the object that the member was called on, inside which it lies: that is kept alive as long as the host
             ///< object of the result, which becomes invalid with it
 };
