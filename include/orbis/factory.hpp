@@ -33,6 +33,7 @@
 #include "orbis/factory/marshaling/ValuePolicy.hpp"
 #include "orbis/factory/ownership/HvmScoped.hpp"
 #include "orbis/factory/ownership/RawClassPointerMarshaler.hpp"
+#include "orbis/factory/parameterOwners.hpp"
 #include "orbis/factory/registerModule.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 #include "orbis/factory/resultOwners.hpp"

@@ -35,6 +35,16 @@ std::vector<PropertyRecord> const& ClassDescription::properties() const
     return properties_;
 }
 
+detail::Copying const* ClassDescription::copying() const
+{
+    return copying_;
+}
+
+void ClassDescription::setCopying(detail::Copying const& copying)
+{
+    copying_ = &copying;
+}
+
 void ClassDescription::add(NativeClassRecord const& superclass)
 {
     superclasses_.push_back(superclass);

@@ -2,6 +2,7 @@
 #include "orbis/factory/detail/objects/sharedNamedObjects.hpp"
 
 #include "orbis/factory/base/Exception.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
 #include "orbis/factory/detail/arrays/NewArray.hpp"
 #include "orbis/factory/detail/arrays/throwNullInput.hpp"
 #include "orbis/factory/detail/bindings/bindings.hpp"
@@ -9,8 +10,10 @@
 #include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include "basic/HostDependents.hpp"
+#include "marshal/throwError.hpp"
 #include "module/PublishedClasses.hpp"
 #include "module/cppName.hpp"
+#include "module/objectShares.hpp"
 
 #include "orbis/COSClass.hpp"
 
@@ -25,11 +28,6 @@ namespace {
 
 using basic::HostShares;
 using basic::PartOf;
-
-HostShares& shares()
-{
-    return basic::registry().requireDependents().shares;
-}
 
 char const* mostDerivedName(NamedClass const& named, void const* object, void* bound)
 {
@@ -69,7 +67,7 @@ hvArray_tag* createHost(void* bound, char const* className, bool isNewObject, Ho
     COSInterfacePtr host = newHost(name);
     NewArray array(omCreateORBISScalar(host));
     if (share)
-        shares().give(host, *share); // first: from now on nothing deletes the native object with it
+        objectShares().give(host, *share); // first: from now on nothing deletes the native object with it
     if (isNewObject) {
         bindConstructed(host, name, bound);
     } else {
@@ -85,42 +83,28 @@ COSInterfacePtr firstOf(hvArray_tag const* in)
     return in && in->get_number_of_elements() != 0 ? omGetArrayElement(in, 0) : COSInterfacePtr();
 }
 
-[[noreturn]] void refuse(NamedClass const& named, char const* refused, char const* reason)
+/// What native code wants of an object.
+enum class Wanted { Share, Taken };
+
+[[noreturn]] void refuse(NamedClass const& named, Wanted wanted, char const* reason)
 {
-    throw Exception(std::string("The object of class \"") + className(named) + "\" cannot be " + refused + ": " +
-                    reason + '.');
+    if (wanted == Wanted::Share)
+        throwError(orbis_factory::orbis_factory::cannot_share(className(named), reason));
+    throwError(orbis_factory::orbis_factory::cannot_take(className(named), reason));
 }
 
 /// Returns the share of the host object, after checking that it owns its native object, alone or with others, and that
 /// the object can be destroyed as one of this class.
-HostShares::Share const* requireOwner(NamedClass const& named, COSInterface const* host, char const* refused)
+HostShares::Share const* requireOwner(NamedClass const& named, COSInterface const* host, Wanted wanted)
 {
     auto const& dependents = basic::registry().dependents;
     HostShares::Share const* const share = dependents ? dependents->shares.find(host) : nullptr;
     bool const isShared = share && std::holds_alternative<std::shared_ptr<void>>(*share);
     if (!isShared && (share || !named.isOwnedByHost))
-        refuse(named, refused, "its host object does not own it");
+        refuse(named, wanted, "its host object does not own it");
     if (!isShared && named.isBase && !named.hasVirtualDestructor)
-        refuse(named, refused, "it may be of a subclass, and the class has no virtual destructor");
+        refuse(named, wanted, "it may be of a subclass, and the class has no virtual destructor");
     return share;
-}
-
-/// The deleter of an object that gets shared. It does nothing until the object belongs to it: making the shared pointer
-/// may fail.
-struct Destroyer {
-    void (*destroy)(void*) = nullptr;
-
-    void operator()(void* object) const
-    {
-        if (destroy)
-            destroy(object);
-    }
-};
-
-/// Transfers the object to its shared pointer, which was made with a `Destroyer`.
-void transfer(NamedClass const& named, std::shared_ptr<void> const& shared)
-{
-    std::get_deleter<Destroyer>(shared)->destroy = named.destroy;
 }
 
 } // namespace
@@ -170,6 +154,14 @@ void* requireNativeOf(NamedClass const& named, hvArray_tag const* in)
     return object;
 }
 
+void requireExactType(NamedClass const& named, void const* object)
+{
+    std::type_info const& type = named.dynamicType ? named.dynamicType(object) : *named.type;
+    if (type != *named.type)
+        throwError(
+            orbis_factory::orbis_factory::cannot_copy(className(named), "it is of the derived class " + cppName(type)));
+}
+
 hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOwner owner, COSInterface* whole)
 {
     if (!object)
@@ -193,7 +185,7 @@ hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOw
     std::shared_ptr<void> const owned(const_cast<void*>(object), Destroyer());
     HostShares::Share const share = owned;
     hvArray_tag* const array = createHost(bound, name, true, &share);
-    transfer(named, owned);
+    destroyerOf(owned)->destroy = named.destroy;
     return array;
 }
 
@@ -218,9 +210,9 @@ hvArray_tag* announceShared(NamedClass const& named, void const* object, std::sh
     void* const bound = toBound(named, const_cast<void*>(object));
     HostShares::Share const held = std::move(share);
     if (COSInterface* const host = findHost(bound, className(named), nullptr)) {
-        HostShares::Share const* const known = shares().find(host);
+        HostShares::Share const* const known = objectShares().find(host);
         if (known && !std::holds_alternative<std::shared_ptr<void>>(*known))
-            shares().give(host, held); // was borrowed, or a part
+            objectShares().give(host, held); // was borrowed, or a part
         return omCreateORBISScalar(host);
     }
     return createHost(bound, mostDerivedName(named, object, bound), false, &held);
@@ -232,12 +224,9 @@ std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in)
     void* const object = nativeOf(named, static_cast<COSInterface const*>(host));
     if (!object)
         return nullptr;
-    if (HostShares::Share const* const share = requireOwner(named, host, "shared"))
+    if (HostShares::Share const* const share = requireOwner(named, host, Wanted::Share))
         return std::get<std::shared_ptr<void>>(*share);
-    std::shared_ptr<void> shared(object, Destroyer());
-    shares().give(host, shared);
-    transfer(named, shared);
-    return shared;
+    return shareOwned(named, host, object);
 }
 
 void requireOwned(NamedClass const& named, hvArray_tag const* in, bool alone)
@@ -246,8 +235,11 @@ void requireOwned(NamedClass const& named, hvArray_tag const* in, bool alone)
     if (!host)
         return;
     requireNativeOf(named, in);
-    if (requireOwner(named, host, alone ? "taken" : "shared") && alone)
-        refuse(named, "taken", "it is shared");
+    HostShares::Share const* const share = requireOwner(named, host, alone ? Wanted::Taken : Wanted::Share);
+    if (!share || !alone)
+        return;
+    Destroyer const* const destroyer = destroyerOf(std::get<std::shared_ptr<void>>(*share));
+    refuse(named, Wanted::Taken, destroyer && !destroyer->kept.empty() ? "it keeps other objects" : "it is shared");
 }
 
 void* takeNamed(NamedClass const& named, hvArray_tag const* in)

@@ -8,12 +8,15 @@
 
 #include "module/DocumentedMember.hpp"
 #include "module/PublishedClasses.hpp"
+#include "module/copyConstruct.hpp"
 #include "module/makeDescriptor.hpp"
 #include "module/notPublished.hpp"
 
 #include "host_extensions/host_extensions.hpp"
 
+#include <algorithm>
 #include <array>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <utility>
@@ -100,6 +103,28 @@ private:
     std::string text_;
 };
 
+/// Adds a constructor that copies, unless one is described.
+void addCopying(COSClass* cls, ClassDescription const& description, detail::Copying const& copying)
+{
+    bool const isDescribed = std::ranges::any_of(description.members(), [&](MemberRecord const& member) {
+        return member.kind == Kind::Constructor && member.inputTypes.size() == 1 &&
+               std::strcmp(member.inputTypes[0](), copying.typeText()) == 0;
+    });
+    if (isDescribed)
+        return;
+    add<impl::OrbisConstructor>(cls, cls->getName(),
+                                {.kind = Kind::Constructor,
+                                 .name = nullptr,
+                                 .parameterNames = "other",
+                                 .attributes = {},
+                                 .outputType = copying.typeText,
+                                 .inputTypes = {&copying.typeText, 1},
+                                 .invokeFn = &copyConstruct,
+                                 .target = &copying,
+                                 .refusesNull = true},
+                                description.hostName());
+}
+
 void setSuperclasses(COSClass* cls, std::vector<NativeClassRecord> const& superclasses)
 {
     std::vector<COSNameID> names;
@@ -120,6 +145,8 @@ void publish(COSClass* cls, ClassDescription const& description)
         if (record.kind == Kind::Constructor)
             add<impl::OrbisConstructor>(cls, cls->getName(), record, description.hostName());
     }
+    if (detail::Copying const* const copying = description.copying())
+        addCopying(cls, description, *copying);
     for (MemberRecord const& record : description.members()) {
         if (record.kind != Kind::Constructor)
             add<impl::MethodImpl>(cls, record.name, record, description.hostName());

@@ -8,6 +8,7 @@
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/detail/objects/ClassNames.hpp"
+#include "orbis/factory/parameterOwners.hpp"
 #include "orbis/factory/resultOwners.hpp"
 #include "orbis/factory/types/NumericVectorPolicy.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"

@@ -42,7 +42,23 @@ class ClassDescriber : public ClassDescription {
     using Refusal = detail::Refusal;
 
 public:
-    ClassDescriber() : ClassDescription(nativeClassRecord<T>()) {}
+    ClassDescriber() : ClassDescription(nativeClassRecord<T>())
+    {
+        if constexpr (NamedType<T>)
+            if constexpr (isValue<T>)
+                setCopying(detail::copyingOf<T>);
+    }
+
+    /// Has scripts copy objects of a class that a `Module` publishes, as they copy those of an `isValue` class unasked:
+    /// with a constructor that takes one, if there are others, and with what their language has for it.
+    ClassDescriber& copyable()
+    {
+        if constexpr (NamedType<T> && detail::CopyConstructible<T>)
+            setCopying(detail::copyingOf<T>);
+        else
+            detail::refuse<Refusal::NotCopyable, T>();
+        return *this;
+    }
 
     /// Names the direct superclasses: published base classes, whose members objects of this class inherit.
     template <class... B>

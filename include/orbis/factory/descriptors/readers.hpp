@@ -20,7 +20,7 @@ struct MemberReader {
     static constexpr bool needsObject = true;
 
     template <class Stored>
-    static R read(Stored const& getter, COSInterface* object)
+    static NativeResult<R> read(Stored const& getter, COSInterface* object)
     {
         T& self = nativeSelf<T>(object);
         F const member = getter;
@@ -42,7 +42,7 @@ struct FunctionOnReader {
     static constexpr bool needsObject = true;
 
     template <class Stored>
-    static R read(Stored const& getter, COSInterface* object)
+    static NativeResult<R> read(Stored const& getter, COSInterface* object)
     {
         T& self = nativeSelf<T>(object);
         F const function = getter;
@@ -54,12 +54,12 @@ struct FunctionOnReader {
 /// Through a function without parameters.
 template <class R, class V>
 struct FunctionReader {
-    using Pointer = R (*)();
+    using Pointer = NativeResult<R> (*)();
     using Result = R;
     using Value = V;
     static constexpr bool needsObject = false;
 
-    static R read(Pointer function, COSInterface*) { return function(); }
+    static NativeResult<R> read(Pointer function, COSInterface*) { return function(); }
     static auto wholeOf(COSInterface*) { return NoWhole(); }
 };
 
@@ -81,7 +81,7 @@ template <class Reader, class Stored>
 {
     using R = typename Reader::Result;
     using V = typename Reader::Value;
-    auto const read = [&]() -> R { return Reader::read(getter, object); };
+    auto const read = [&]() -> NativeResult<R> { return Reader::read(getter, object); };
     if constexpr (ObjectResult<R>)
         return COSValue(objectResult<R>(Reader::wholeOf(object), read));
     else

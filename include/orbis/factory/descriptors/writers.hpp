@@ -1,6 +1,8 @@
 #pragma once
 
+#include "orbis/factory/marshaling/ObjectTransfer.hpp"
 #include "orbis/factory/marshaling/PropertyValue.hpp"
+#include "orbis/factory/marshaling/objectResult.hpp"
 
 #include <type_traits>
 
@@ -20,6 +22,8 @@ struct MemberWriter {
     {
         T& self = nativeSelf<T>(object);
         Argument<A> argument(value);
+        Transfer<A> transfer(WholeOfProperty<T>{object}, &value);
+        [[maybe_unused]] auto const completion = transfer.completion();
         F const member = setter;
         if constexpr (std::is_member_object_pointer_v<F>)
             self.*member = argument.get();
@@ -40,6 +44,8 @@ struct FunctionOnWriter {
     {
         T& self = nativeSelf<T>(object);
         Argument<A> argument(value);
+        Transfer<A> transfer(WholeOfProperty<T>{object}, &value);
+        [[maybe_unused]] auto const completion = transfer.completion();
         F const function = setter;
         function(&self, argument.get());
     }

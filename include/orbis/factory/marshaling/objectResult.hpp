@@ -67,6 +67,8 @@ consteval Refusal storedResultRefusal()
         return resultRefusal<Native>();
     else if constexpr (!std::is_same_v<Result, Native> && !ObjectResult<Result>)
         return Refusal::OwnerOfNoObject;
+    else if constexpr (ResultTraits<Result>::owner == ResultOwner::Copy)
+        return CopyConstructible<std::remove_const_t<std::remove_pointer_t<std::remove_cvref_t<Native>>>> ? Refusal::None : Refusal::NotCopyable;
     else if constexpr (StoresNamedObject<Result> && isOwnedByHost &&
                        !(std::is_pointer_v<Native> && ResultTraits<Result>::owner != ResultOwner::Host))
         return std::is_destructible_v<std::remove_pointer_t<std::remove_cvref_t<Native>>> ? Refusal::None
@@ -111,6 +113,16 @@ struct WholeOfProperty {
     }
 };
 
+/// Returns a new copy of an object, which is exactly of this class; null for null.
+template <class Class>
+Class const* copyOf(NamedClass const& named, Class const* original)
+{
+    if (!original)
+        return nullptr;
+    requireExactType(named, original);
+    return new Class(*original);
+}
+
 /// Calls `function` and returns an array, owned by the caller, with the host object of its result. A result by value
 /// becomes an object of its own; one that belongs to the host is deleted if it gets no host object.
 template <class Result, class Whole, class F>
@@ -129,10 +141,12 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
         else
             return nullptr;
     };
-    if constexpr (std::is_class_v<Native> || owner == ResultOwner::Host) {
+    if constexpr (std::is_class_v<Native> || owner == ResultOwner::Host || owner == ResultOwner::Copy) {
         NewObject<Class const> object([&]() -> Class const* {
             if constexpr (std::is_class_v<Native>)
                 return new Class(std::forward<F>(function)());
+            else if constexpr (owner == ResultOwner::Copy)
+                return copyOf<Class>(named, address());
             else
                 return address();
         }());

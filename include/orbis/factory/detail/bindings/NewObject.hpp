@@ -16,6 +16,8 @@ public:
     ~NewObject() { delete object_; }
 
     T* get() const { return object_; }
+    T* operator->() const { return object_; }
+    T& operator*() const { return *object_; }
     T* release() { return std::exchange(object_, nullptr); }
 
 private:

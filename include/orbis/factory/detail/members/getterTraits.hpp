@@ -34,13 +34,13 @@ struct GetterOf {
     static constexpr bool isGetter = true;
     static constexpr bool needsObject = ReaderType::needsObject;
     using Reader = ReaderType;
-    using Result = typename Reader::Result;
+    using Result = NativeResult<typename Reader::Result>;
     using Pointer = typename Reader::Pointer;
 };
 
 template <class T, class G, class Traits = CallableTraits<G>>
 using GetterOfMethod = GetterOf<MemberReader<typename Traits::Result, T, typename Traits::template PointerIn<T>,
-                                             std::remove_cvref_t<typename Traits::Result>>>;
+                                             std::remove_cvref_t<NativeResult<typename Traits::Result>>>>;
 
 template <class T, MethodOf<T> G>
     requires(CallableTraits<G>::arity == 0)
@@ -53,7 +53,7 @@ struct GetterTraits<T, M C::*>
 
 template <class T, class G, class Traits = CallableTraits<G>>
 using GetterOfFunctionOn = GetterOf<FunctionOnReader<typename Traits::Result, T, typename Traits::Pointer,
-                                                     std::remove_cvref_t<typename Traits::Result>>>;
+                                                     std::remove_cvref_t<NativeResult<typename Traits::Result>>>>;
 
 template <class T, FunctionOn<T> G>
     requires(CallableTraits<G>::arity == 1)
@@ -63,7 +63,7 @@ template <class T, FreeFunction G>
     requires(CallableTraits<G>::arity == 0)
 struct GetterTraits<T, G>
     : GetterOf<
-          FunctionReader<typename CallableTraits<G>::Result, std::remove_cvref_t<typename CallableTraits<G>::Result>>> {
+          FunctionReader<typename CallableTraits<G>::Result, std::remove_cvref_t<NativeResult<typename CallableTraits<G>::Result>>>> {
 };
 
 template <class T, class M>

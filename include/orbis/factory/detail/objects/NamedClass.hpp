@@ -3,6 +3,7 @@
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/base/typeName.hpp"
 #include "orbis/factory/classes/NativeClassRecord.hpp"
+#include "orbis/factory/detail/objects/values.hpp"
 #include "orbis/factory/ownership/Wrappable.hpp"
 
 #include <concepts>
@@ -26,6 +27,7 @@ struct NamedClass {
     std::type_info const& (*dynamicType)(void const* object) = nullptr; ///< null unless the class is polymorphic
     bool (*isInstance)(void const* bound) = nullptr;                    ///< likewise
     void (*destroy)(void* object) = nullptr;                            ///< null when there is no public destructor
+    bool (*areEqual)(void const* a, void const* b) = nullptr;           ///< null when the class has no `==`
     bool hasVirtualDestructor = false;
     void* (*toBase)(void* object) = nullptr;   ///< null for a class that is bound as itself
     void* (*fromBase)(void* object) = nullptr; ///< gives null for an object of another class
@@ -84,6 +86,10 @@ struct NamedClassRecord : NamedClass {
         hasVirtualDestructor = std::has_virtual_destructor_v<T>;
         if constexpr (std::is_destructible_v<T>)
             destroy = [](void* object) { delete static_cast<T*>(object); };
+        if constexpr (hasEquality<T>)
+            areEqual = [](void const* a, void const* b) -> bool {
+                return *static_cast<T const*>(a) == *static_cast<T const*>(b);
+            };
         if constexpr (std::derived_from<T, full::Wrappable>) {
             toBase = &upcast<T, full::Wrappable>;
             fromBase = &downcast<full::Wrappable, T>;

@@ -15,6 +15,7 @@ namespace orbis::factory {
 enum class ResultOwner {
     Host,   ///< the host object owns it, and destroys it
     Native, ///< native code, which keeps it as long as scripts can use it
+    Copy,   ///< the host object, of a copy
     Whole   ///< the object that the member was called on, inside which it lies: that is kept alive as long as the host
             ///< object of the result, which becomes invalid with it
 };
@@ -28,6 +29,9 @@ ORBIS_FACTORY_API void* nativeOf(NamedClass const& named, COSInterface const* ob
 
 /// The same, but throws the `null_input` error instead of returning null.
 ORBIS_FACTORY_API void* requireNativeOf(NamedClass const& named, hvArray_tag const* in);
+
+/// Throws the `cannot_copy` error for an object of a derived class, of which only a part would be copied.
+ORBIS_FACTORY_API void requireExactType(NamedClass const& named, void const* object);
 
 /// Returns a new 1-by-1 array, owned by the caller, with the host object of `object`; 0-by-0 for null. If there is
 /// none, one of the most derived published class is created, and owns the native object as `owner` says; with `Host`,
