@@ -57,4 +57,9 @@ void NamedClassInfo::discardNative(void* native) noexcept
         named_.destroy(object);
 }
 
+basic::NativeExtents::Extent NamedClassInfo::extentOf(void* bound) const
+{
+    return {static_cast<char const*>(detail::fromBound(named_, bound)), named_.size};
+}
+
 } // namespace orbis::factory

@@ -4,12 +4,14 @@
 #include "orbis/factory/classes/OrbisFactoryClassInfo.hpp"
 #include "orbis/factory/detail/objects/NamedClass.hpp"
 
+#include "basic/NativeStorage.hpp"
+
 #include <memory>
 
 namespace orbis::factory {
 
 /// Class info of the classes that a `Module` publishes: host objects represent native objects, bound by their address.
-class NamedClassInfo final : public OrbisFactoryClassInfo {
+class NamedClassInfo final : public OrbisFactoryClassInfo, public basic::NativeExtents {
 public:
     NamedClassInfo(detail::NamedClass const& named, std::unique_ptr<ClassDescription> description, char const* text);
 
@@ -27,6 +29,7 @@ public:
     ClassAccess getAccess() const override;
     char const* nativeOwner() const override;
     void discardNative(void* native) noexcept override;
+    Extent extentOf(void* bound) const override;
 
 private:
     detail::NamedClass const& named_;

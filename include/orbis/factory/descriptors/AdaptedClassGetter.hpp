@@ -2,6 +2,8 @@
 
 #include "orbis/factory/descriptors/CallableGetter.hpp"
 
+#include <utility>
+
 namespace orbis::factory::impl {
 
 /// Reads through a free function `F` that takes a `T*` and returns an `R`, marshaled as a `V`.
@@ -12,7 +14,7 @@ public:
 
     explicit AdaptedClassGetter(F function, ReleaseRoutine release = nullptr)
         : CallableGetter<AdaptedClassGetter, R, V>(release),
-          function_(function)
+          function_(std::move(function))
     {
     }
 

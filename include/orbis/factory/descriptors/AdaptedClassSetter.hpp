@@ -3,6 +3,8 @@
 #include "orbis/factory/descriptors/Setter.hpp"
 #include "orbis/factory/marshaling/PropertyValue.hpp"
 
+#include <utility>
+
 namespace orbis::factory::impl {
 
 /// Writes through a free function `F` that takes a `T*` and a value of type `A`.
@@ -11,7 +13,7 @@ class AdaptedClassSetter final : public Setter {
 public:
     static constexpr bool needsObject = true;
 
-    explicit AdaptedClassSetter(F function) : function_(function) {}
+    explicit AdaptedClassSetter(F function) : function_(std::move(function)) {}
 
     void setValue(COSInterface* object, COSValue value) const override
     {

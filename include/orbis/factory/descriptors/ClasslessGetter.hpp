@@ -2,17 +2,20 @@
 
 #include "orbis/factory/descriptors/CallableGetter.hpp"
 
+#include <utility>
+
 namespace orbis::factory::impl {
 
-/// Reads a static or constant property through a function without parameters that returns an `R`, marshaled as a `V`.
-template <class R, class V>
-class ClasslessGetter final : public CallableGetter<ClasslessGetter<R, V>, R, V> {
+/// Reads a static or constant property through a function `F` without parameters that returns an `R`, marshaled as a
+/// `V`.
+template <class R, class V, class F = R (*)()>
+class ClasslessGetter final : public CallableGetter<ClasslessGetter<R, V, F>, R, V> {
 public:
     static constexpr bool needsObject = false;
 
-    explicit ClasslessGetter(R (*function)(), ReleaseRoutine release = nullptr)
+    explicit ClasslessGetter(F function, ReleaseRoutine release = nullptr)
         : CallableGetter<ClasslessGetter, R, V>(release),
-          function_(function)
+          function_(std::move(function))
     {
     }
 
@@ -20,7 +23,7 @@ public:
     static auto wholeOf(COSInterface*) { return detail::NoWhole(); }
 
 private:
-    R (*function_)();
+    F function_;
 };
 
 } // namespace orbis::factory::impl

@@ -3,6 +3,8 @@
 #include "orbis/factory/descriptors/Setter.hpp"
 #include "orbis/factory/marshaling/PropertyValue.hpp"
 
+#include <utility>
+
 namespace orbis::factory::impl {
 
 /// Writes a static property through a function `F` that takes a value of type `A`.
@@ -11,7 +13,7 @@ class ClasslessSetter final : public Setter {
 public:
     static constexpr bool needsObject = false;
 
-    explicit ClasslessSetter(F function) : function_(function) {}
+    explicit ClasslessSetter(F function) : function_(std::move(function)) {}
 
     void setValue(COSInterface*, COSValue value) const override
     {

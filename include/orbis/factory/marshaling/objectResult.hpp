@@ -130,14 +130,12 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
             return nullptr;
     };
     if constexpr (std::is_class_v<Native> || owner == ResultOwner::Host) {
-        std::unique_ptr<Class const> object;
         if constexpr (std::is_class_v<Native>)
-            object.reset(new Class(std::forward<F>(function)()));
-        else
-            object.reset(address());
-        hvArray_tag* const array = announceNamed(named, object.get(), ResultOwner::Host, nullptr);
-        static_cast<void>(object.release());
-        return array;
+            return announceNamed(named, new Class(std::forward<F>(function)()), ResultOwner::Host, nullptr);
+        else {
+            Class const* const given = address();
+            return announceNamed(named, given, ResultOwner::Host, whole.contains(given) ? whole.host() : nullptr);
+        }
     } else if constexpr (owner == ResultOwner::Whole) {
         return announceNamed(named, address(), owner, whole.host());
     } else {

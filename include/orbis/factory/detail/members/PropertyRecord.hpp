@@ -18,7 +18,9 @@ struct PropertyRecord {
     impl::Callable getter = {}; ///< null for a write-only property
     impl::Callable setter = {}; ///< null for a read-only property
     char const* text = "";
-    bool needsObject = false; ///< to read, write or release; must be false for a static property
+    bool needsObject = false;                    ///< to read, write or release; must be false for a static property
+    std::shared_ptr<void const> keptGetter = {}; ///< owns what `getter` points to, unless that is a function or data
+    std::shared_ptr<void const> keptSetter = {}; ///< likewise
 };
 
 } // namespace orbis::factory

@@ -19,9 +19,9 @@ concept MethodOf =
     CallableTraits<F>::kind == CallableKind::Member && std::derived_from<T, typename CallableTraits<F>::Class>;
 
 template <class F>
-concept FreeFunction = CallableTraits<F>::kind == CallableKind::Free && !Functor<F>;
+concept FreeFunction = CallableTraits<F>::kind == CallableKind::Free;
 
-/// Free functions that take the object first.
+/// Free functions, lambdas and functors that take the object first.
 template <class F, class T>
 concept FunctionOn = FreeFunction<F> && CallableTraits<F>::template takesObject<T>;
 
@@ -65,12 +65,13 @@ template <class T, FunctionOn<T> G>
     requires(CallableTraits<G>::arity == 1)
 struct GetterTraits<T, G> : GetterOfFunctionOn<T, G> {};
 
-template <class R>
-using GetterOfFunction = GetterOf<R, R (*)(), impl::ClasslessGetter<R, std::remove_cvref_t<R>>>;
+template <class R, class Pointer>
+using GetterOfFunction = GetterOf<R, Pointer, impl::ClasslessGetter<R, std::remove_cvref_t<R>, Pointer>>;
 
 template <class T, FreeFunction G>
     requires(CallableTraits<G>::arity == 0)
-struct GetterTraits<T, G> : GetterOfFunction<typename CallableTraits<G>::Result> {};
+struct GetterTraits<T, G> : GetterOfFunction<typename CallableTraits<G>::Result, typename CallableTraits<G>::Pointer> {
+};
 
 template <class T, class M>
     requires std::is_object_v<M>

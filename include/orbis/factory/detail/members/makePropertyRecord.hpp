@@ -3,6 +3,7 @@
 #include "orbis/factory/descriptors/MemberText.hpp"
 #include "orbis/factory/detail/members/DescribedProperty.hpp"
 #include "orbis/factory/detail/members/PropertyRecord.hpp"
+#include "orbis/factory/detail/members/StoredCallable.hpp"
 #include "orbis/factory/detail/members/releaseRoutine.hpp"
 #include "orbis/factory/detail/members/setterTraits.hpp"
 
@@ -27,8 +28,16 @@ struct DescribedGetter {
     using Access = typename GetterTraits<T, G>::Getter;
     static constexpr bool needsObject = GetterTraits<T, G>::needsObject;
 
-    static impl::Callable keep(G const& getter) { return static_cast<Pointer>(unwrapped(getter)); }
-    static Access make(impl::Callable const& kept) { return Access(kept.as<Pointer>(), releaseRoutine<T, G>); }
+    static void keep(G const& getter, PropertyRecord& record)
+    {
+        auto const stored = static_cast<Pointer>(unwrapped(getter));
+        record.getter = StoredCallable<Pointer>::target(stored);
+        record.keptGetter = StoredCallable<Pointer>::kept(stored);
+    }
+    static Access make(PropertyRecord const& from)
+    {
+        return Access(StoredCallable<Pointer>::load(from.getter, from.keptGetter), releaseRoutine<T, G>);
+    }
 };
 
 /// The same for a setter.
@@ -38,8 +47,16 @@ struct DescribedSetter {
     using Access = typename SetterTraits<T, S>::Setter;
     static constexpr bool needsObject = SetterTraits<T, S>::needsObject;
 
-    static impl::Callable keep(S const& setter) { return static_cast<Pointer>(setter); }
-    static Access make(impl::Callable const& kept) { return Access(kept.as<Pointer>()); }
+    static void keep(S const& setter, PropertyRecord& record)
+    {
+        auto const stored = static_cast<Pointer>(setter);
+        record.setter = StoredCallable<Pointer>::target(stored);
+        record.keptSetter = StoredCallable<Pointer>::kept(stored);
+    }
+    static Access make(PropertyRecord const& from)
+    {
+        return Access(StoredCallable<Pointer>::load(from.setter, from.keptSetter));
+    }
 };
 
 template <class T>
@@ -47,8 +64,8 @@ struct DescribedGetter<T, NoAccess> {
     using Access = NoAccess;
     static constexpr bool needsObject = false;
 
-    static impl::Callable keep(NoAccess) { return {}; }
-    static Access make(impl::Callable const&) { return {}; }
+    static void keep(NoAccess, PropertyRecord&) {}
+    static Access make(PropertyRecord const&) { return {}; }
 };
 
 template <class T>
@@ -64,11 +81,10 @@ PropertyRecord propertyRecord(char const* name, G const& getter, S const& setter
     PropertyRecord record{name, text.attributes};
     record.make = [](PropertyRecord const& from) -> std::unique_ptr<impl::PropertyImpl> {
         return std::make_unique<DescribedProperty<Reader, Writer, isReleased<G>>>(
-            from.name, [&] { return Reading::make(from.getter); }, [&] { return Writing::make(from.setter); },
-            from.attributes);
+            from.name, [&] { return Reading::make(from); }, [&] { return Writing::make(from); }, from.attributes);
     };
-    record.getter = Reading::keep(getter);
-    record.setter = Writing::keep(setter);
+    Reading::keep(getter, record);
+    Writing::keep(setter, record);
     record.text = text.text;
     record.needsObject = Reading::needsObject || Writing::needsObject;
     return record;

@@ -3,6 +3,7 @@
 #include "orbis/factory/descriptors/MemberText.hpp"
 #include "orbis/factory/detail/members/MemberRecord.hpp"
 #include "orbis/factory/detail/members/Routines.hpp"
+#include "orbis/factory/detail/members/StoredCallable.hpp"
 
 #include <array>
 #include <type_traits>
@@ -21,23 +22,6 @@ consteval bool refusesNullAmong(TypeList<A...>)
 {
     return (refusesNull<A>() || ...);
 }
-
-/// How a record stores a callable: as a pointer, or as one to a functor that it keeps.
-template <class Pointer>
-struct StoredCallable {
-    using Call = Pointer;
-
-    static impl::Callable target(Pointer function) { return function; }
-    static std::shared_ptr<void const> kept(Pointer) { return {}; }
-};
-
-template <class F>
-struct StoredCallable<HeldFunctor<F>> {
-    using Call = typename HeldFunctor<F>::Call;
-
-    static impl::Callable target(HeldFunctor<F> const& held) { return held.functor.get(); }
-    static std::shared_ptr<void const> kept(HeldFunctor<F> const& held) { return held.functor; }
-};
 
 template <class Pointer, class Result, class Parameters>
 MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, MethodText const& text)
