@@ -61,6 +61,12 @@ void ClassDescription::add(detail::CallableForm const& form, char const* name, i
     add(detail::makeRecord(form, name, target, parameterNames, text));
 }
 
+void ClassDescription::keep(detail::KeptObject const& getter, detail::KeptObject const& setter)
+{
+    properties_.back().keptGetter = getter;
+    properties_.back().keptSetter = setter;
+}
+
 void ClassDescription::add(std::vector<MemberRecord> records)
 {
     members_.reserve(members_.size() + records.size());

@@ -23,7 +23,8 @@ class DescribedGetter final : public impl::Getter {
 public:
     explicit DescribedGetter(PropertyRecord const& record)
         : form_(record.getterForm ? record.getterForm : &missingGetter),
-          getter_(record.getter)
+          getter_(record.getter),
+          kept_(record.keptGetter)
     {
     }
 
@@ -51,13 +52,15 @@ public:
 private:
     detail::GetterForm const* form_;
     impl::Callable getter_;
+    detail::KeptObject kept_;
 };
 
 class DescribedSetter final : public impl::Setter {
 public:
     explicit DescribedSetter(PropertyRecord const& record)
         : form_(record.setterForm ? record.setterForm : &missingSetter),
-          setter_(record.setter)
+          setter_(record.setter),
+          kept_(record.keptSetter)
     {
     }
 
@@ -67,6 +70,7 @@ public:
 private:
     detail::SetterForm const* form_;
     impl::Callable setter_;
+    detail::KeptObject kept_;
 };
 
 struct Accesses {

@@ -10,6 +10,7 @@
 #include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include "basic/HostDependents.hpp"
+#include "basic/NativeStorage.hpp"
 #include "marshal/throwError.hpp"
 #include "module/PublishedClasses.hpp"
 #include "module/cppName.hpp"
@@ -162,31 +163,59 @@ void requireExactType(NamedClass const& named, void const* object)
             orbis_factory::orbis_factory::cannot_copy(className(named), "it is of the derived class " + cppName(type)));
 }
 
+namespace {
+
+/// In debug builds, throws for an object that nobody can delete.
+void requireDeletable([[maybe_unused]] NamedClass const& named, [[maybe_unused]] void const* object)
+{
+#ifndef NDEBUG
+    if (char const* const place = basic::NativeStorage().placeOf(object))
+        throwError(orbis_factory::orbis_factory::cannot_own(className(named), "it lies " + std::string(place)));
+#endif
+}
+
+/// For an object that the caller transfers: it is deleted when this throws, unless nobody can.
+hvArray_tag* announceOwned(NamedClass const& named, void* object, COSInterface const* whole)
+{
+    if (whole)
+        throwError(
+            orbis_factory::orbis_factory::cannot_own(className(named), "it lies inside the object that gave it"));
+    requireDeletable(named, object);
+    std::unique_ptr<void, void (*)(void*)> transferred(object, named.destroy);
+    void* const bound = toBound(named, object);
+    char const* const name = mostDerivedName(named, object, bound);
+    NewArray array;
+    if (named.isOwnedByHost) {
+        *array.place() = createHost(bound, name, true, nullptr);
+    } else {
+        // The class info leaves native objects alone, so a share destroys this one.
+        std::shared_ptr<void> const owned(object, Destroyer());
+        HostShares::Share const share = owned;
+        *array.place() = createHost(bound, name, true, &share);
+        destroyerOf(owned)->destroy = named.destroy;
+    }
+    static_cast<void>(transferred.release());
+    return array.release();
+}
+
+} // namespace
+
 hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOwner owner, COSInterface* whole)
 {
     if (!object)
         return omCreateORBISMatrix(0, 0, COSNameID(className(named)));
+    if (owner == ResultOwner::Host)
+        return announceOwned(named, const_cast<void*>(object), whole);
     void* const bound = toBound(named, const_cast<void*>(object));
-    if (owner != ResultOwner::Host)
-        if (COSInterface* const host = findHost(bound, className(named), whole))
-            return omCreateORBISScalar(host);
+    if (COSInterface* const host = findHost(bound, className(named), whole))
+        return omCreateORBISScalar(host);
     char const* const name = mostDerivedName(named, object, bound);
     if (owner == ResultOwner::Whole && whole) {
         HostShares::Share const part = PartOf{COSInterfacePtr(whole)};
         return createHost(bound, name, false, &part);
     }
-    if (owner != ResultOwner::Host) {
-        HostShares::Share const others;
-        return createHost(bound, name, false, named.isOwnedByHost ? &others : nullptr);
-    }
-    if (named.isOwnedByHost)
-        return createHost(bound, name, true, nullptr);
-    // The class info leaves native objects alone, so a share destroys this one.
-    std::shared_ptr<void> const owned(const_cast<void*>(object), Destroyer());
-    HostShares::Share const share = owned;
-    hvArray_tag* const array = createHost(bound, name, true, &share);
-    destroyerOf(owned)->destroy = named.destroy;
-    return array;
+    HostShares::Share const others;
+    return createHost(bound, name, false, named.isOwnedByHost ? &others : nullptr);
 }
 
 hvArray_tag* announcePart(void* bound, std::type_info const& dynamicType, NativeClassRecord const& staticClass,

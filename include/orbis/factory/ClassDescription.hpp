@@ -38,6 +38,9 @@ protected:
     void add(std::vector<MemberRecord> records);
     void add(char const* name, detail::GetterForm const* getterForm, impl::Callable getter,
              detail::SetterForm const* setterForm, impl::Callable setter, PropertyText text);
+
+    /// The functors of the last property.
+    void keep(detail::KeptObject const& getter, detail::KeptObject const& setter);
     void setCopying(detail::Copying const& copying);
 
 private:

@@ -236,8 +236,8 @@ public:
     }
 
     /// Adds a property that is read through `getter`: a data member, a member function without parameters, or a free
-    /// function or captureless lambda that takes the object or nothing. Non-const data can be written as well, unless
-    /// `PropertyAttributes::NoAccessSetter()` is given.
+    /// function, lambda or functor that takes the object or nothing. What a lambda captures is copied. Non-const data
+    /// can be written as well, unless `PropertyAttributes::NoAccessSetter()` is given.
     template <class G>
     ClassDescriber& property(char const* name, G getter, PropertyText text = {})
     {
@@ -258,7 +258,7 @@ public:
     }
 
     /// Adds a property that is read and written. The setter is a data member, a member function that takes the value,
-    /// or a free function or captureless lambda that takes the value, preceded by the object if it needs it.
+    /// or a free function, lambda or functor that takes the value, preceded by the object if it needs it.
     template <class G, class S>
         requires(!std::convertible_to<S, PropertyText>)
     ClassDescriber& property(char const* name, G getter, S setter, PropertyText text = {})
@@ -392,7 +392,11 @@ private:
     {
         using Getter = detail::DescribedGetter<T, G>;
         using Setter = detail::DescribedSetter<T, S>;
-        add(name, Getter::form, Getter::target(getter), Setter::form, Setter::target(setter), text);
+        auto const get = Getter::stored(getter);
+        auto const set = Setter::stored(setter);
+        add(name, Getter::form, Getter::Stored::target(get), Setter::form, Setter::Stored::target(set), text);
+        if constexpr (Getter::Stored::isKept || Setter::Stored::isKept)
+            keep(Getter::Stored::kept(get), Setter::Stored::kept(set));
     }
 };
 

@@ -51,15 +51,15 @@ struct FunctionOnReader {
     static auto wholeOf(COSInterface* object) { return WholeOfProperty<T>{object}; }
 };
 
-/// Through a function without parameters.
-template <class R, class V>
+/// Through a function `F` without parameters.
+template <class R, class V, class F = NativeResult<R> (*)()>
 struct FunctionReader {
-    using Pointer = NativeResult<R> (*)();
+    using Pointer = F;
     using Result = R;
     using Value = V;
     static constexpr bool needsObject = false;
 
-    static NativeResult<R> read(Pointer function, COSInterface*) { return function(); }
+    static NativeResult<R> read(F const& function, COSInterface*) { return function(); }
     static auto wholeOf(COSInterface*) { return NoWhole(); }
 };
 

@@ -74,9 +74,8 @@ public:
         requires std::constructible_from<T, V&&>
     static void toHost(V&& value, hvArray** out)
     {
-        detail::NewObject<T> object(new T(std::forward<V>(value)));
-        *out = detail::announceNamed(detail::namedClassOf<T>(), object.get(), ResultOwner::Host, nullptr);
-        object.release();
+        *out =
+            detail::announceNamed(detail::namedClassOf<T>(), new T(std::forward<V>(value)), ResultOwner::Host, nullptr);
     }
 
     template <NamedType T>

@@ -68,7 +68,9 @@ consteval Refusal storedResultRefusal()
     else if constexpr (!std::is_same_v<Result, Native> && !ObjectResult<Result>)
         return Refusal::OwnerOfNoObject;
     else if constexpr (ResultTraits<Result>::owner == ResultOwner::Copy)
-        return CopyConstructible<std::remove_const_t<std::remove_pointer_t<std::remove_cvref_t<Native>>>> ? Refusal::None : Refusal::NotCopyable;
+        return CopyConstructible<std::remove_const_t<std::remove_pointer_t<std::remove_cvref_t<Native>>>>
+                   ? Refusal::None
+                   : Refusal::NotCopyable;
     else if constexpr (StoresNamedObject<Result> && isOwnedByHost &&
                        !(std::is_pointer_v<Native> && ResultTraits<Result>::owner != ResultOwner::Host))
         return std::is_destructible_v<std::remove_pointer_t<std::remove_cvref_t<Native>>> ? Refusal::None
@@ -142,17 +144,14 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
             return nullptr;
     };
     if constexpr (std::is_class_v<Native> || owner == ResultOwner::Host || owner == ResultOwner::Copy) {
-        NewObject<Class const> object([&]() -> Class const* {
-            if constexpr (std::is_class_v<Native>)
-                return new Class(std::forward<F>(function)());
-            else if constexpr (owner == ResultOwner::Copy)
-                return copyOf<Class>(named, address());
-            else
-                return address();
-        }());
-        hvArray_tag* const array = announceNamed(named, object.get(), ResultOwner::Host, nullptr);
-        object.release();
-        return array;
+        if constexpr (std::is_class_v<Native>) {
+            return announceNamed(named, new Class(std::forward<F>(function)()), ResultOwner::Host, nullptr);
+        } else if constexpr (owner == ResultOwner::Copy) {
+            return announceNamed(named, copyOf<Class>(named, address()), ResultOwner::Host, nullptr);
+        } else {
+            Class const* const given = address();
+            return announceNamed(named, given, ResultOwner::Host, whole.contains(given) ? whole.host() : nullptr);
+        }
     } else if constexpr (owner == ResultOwner::Whole) {
         return announceNamed(named, address(), owner, whole.host());
     } else {

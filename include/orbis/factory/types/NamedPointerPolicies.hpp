@@ -37,8 +37,8 @@ public:
     template <class Pointer>
     static void toHost(Pointer value, hvArray** out)
     {
-        *out = detail::announceNamed(detail::namedClassOf<Class<Pointer>>(), value.get(), ResultOwner::Host, nullptr);
-        static_cast<void>(value.release());
+        *out =
+            detail::announceNamed(detail::namedClassOf<Class<Pointer>>(), value.release(), ResultOwner::Host, nullptr);
     }
 
     template <class Pointer>

@@ -3,6 +3,7 @@
 #include "orbis/factory/descriptors/Callable.hpp"
 #include "orbis/factory/descriptors/MemberText.hpp"
 #include "orbis/factory/descriptors/ReleaseRoutine.hpp"
+#include "orbis/factory/detail/members/KeptObject.hpp"
 #include "orbis/factory/detail/members/TypeText.hpp"
 
 namespace orbis {
@@ -44,6 +45,8 @@ struct PropertyRecord {
     impl::Callable getter = {};
     impl::Callable setter = {};
     char const* text = "";
+    detail::KeptObject keptGetter = {}; ///< owns what `getter` points to, unless that is a function or data
+    detail::KeptObject keptSetter = {}; ///< likewise
 
     bool needsObject() const
     {

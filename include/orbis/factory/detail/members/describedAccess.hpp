@@ -35,7 +35,9 @@ struct DescribedGetter {
     using Reader = typename GetterTraits<T, G>::Reader;
     using Pointer = typename Reader::Pointer;
 
-    static impl::Callable target(G const& getter) { return static_cast<Pointer>(unwrapped(getter)); }
+    using Stored = StoredCallable<typename GetterTraits<T, G>::Pointer>;
+
+    static auto stored(G const& getter) { return static_cast<typename GetterTraits<T, G>::Pointer>(unwrapped(getter)); }
 
     static COSValue getValue(impl::Callable const& getter, COSInterface* object)
     {
@@ -63,7 +65,9 @@ struct DescribedSetter {
     using Writer = typename SetterTraits<T, S>::Writer;
     using Pointer = typename Writer::Pointer;
 
-    static impl::Callable target(S const& setter) { return static_cast<Pointer>(setter); }
+    using Stored = StoredCallable<typename SetterTraits<T, S>::Pointer>;
+
+    static auto stored(S const& setter) { return static_cast<typename SetterTraits<T, S>::Pointer>(setter); }
 
     static void setValue(impl::Callable const& setter, COSInterface* object, COSValue value)
     {
@@ -76,13 +80,17 @@ struct DescribedSetter {
 
 template <class T>
 struct DescribedGetter<T, NoAccess> {
-    static impl::Callable target(NoAccess) { return {}; }
+    using Stored = StoredCallable<void*>;
+
+    static void* stored(NoAccess) { return nullptr; }
     static constexpr GetterForm const* form = nullptr;
 };
 
 template <class T>
 struct DescribedSetter<T, NoAccess> {
-    static impl::Callable target(NoAccess) { return {}; }
+    using Stored = StoredCallable<void*>;
+
+    static void* stored(NoAccess) { return nullptr; }
     static constexpr SetterForm const* form = nullptr;
 };
 

@@ -3,6 +3,7 @@
 #include "orbis/factory/descriptors/readers.hpp"
 #include "orbis/factory/descriptors/releasedBy.hpp"
 #include "orbis/factory/detail/members/CallableTraits.hpp"
+#include "orbis/factory/detail/members/StoredCallable.hpp"
 
 #include <concepts>
 #include <type_traits>
@@ -16,9 +17,9 @@ concept MethodOf =
     CallableTraits<F>::kind == CallableKind::Member && std::derived_from<T, typename CallableTraits<F>::Class>;
 
 template <class F>
-concept FreeFunction = CallableTraits<F>::kind == CallableKind::Free && !Functor<F>;
+concept FreeFunction = CallableTraits<F>::kind == CallableKind::Free;
 
-/// Free functions that take the object first.
+/// Free functions, lambdas and functors that take the object first.
 template <class F, class T>
 concept FunctionOn = FreeFunction<F> && CallableTraits<F>::template takesObject<T>;
 
@@ -29,13 +30,13 @@ struct GetterTraits {
     static constexpr bool isGetter = false;
 };
 
-template <class ReaderType>
+template <class ReaderType, class P = typename ReaderType::Pointer>
 struct GetterOf {
     static constexpr bool isGetter = true;
     static constexpr bool needsObject = ReaderType::needsObject;
     using Reader = ReaderType;
     using Result = NativeResult<typename Reader::Result>;
-    using Pointer = typename Reader::Pointer;
+    using Pointer = P;
 };
 
 template <class T, class G, class Traits = CallableTraits<G>>
@@ -52,19 +53,24 @@ struct GetterTraits<T, M C::*>
     : GetterOf<MemberReader<M const&, T, MemberPointerIn<M C::*, M T::*>, std::remove_cv_t<M>>> {};
 
 template <class T, class G, class Traits = CallableTraits<G>>
-using GetterOfFunctionOn = GetterOf<FunctionOnReader<typename Traits::Result, T, typename Traits::Pointer,
-                                                     std::remove_cvref_t<NativeResult<typename Traits::Result>>>>;
+using GetterOfFunctionOn =
+    GetterOf<FunctionOnReader<typename Traits::Result, T, typename StoredCallable<typename Traits::Pointer>::Call,
+                              std::remove_cvref_t<NativeResult<typename Traits::Result>>>,
+             typename Traits::Pointer>;
 
 template <class T, FunctionOn<T> G>
     requires(CallableTraits<G>::arity == 1)
 struct GetterTraits<T, G> : GetterOfFunctionOn<T, G> {};
 
+template <class T, class G, class Traits = CallableTraits<G>>
+using GetterOfFunction =
+    GetterOf<FunctionReader<typename Traits::Result, std::remove_cvref_t<NativeResult<typename Traits::Result>>,
+                            typename StoredCallable<typename Traits::Pointer>::Call>,
+             typename Traits::Pointer>;
+
 template <class T, FreeFunction G>
     requires(CallableTraits<G>::arity == 0)
-struct GetterTraits<T, G>
-    : GetterOf<
-          FunctionReader<typename CallableTraits<G>::Result, std::remove_cvref_t<NativeResult<typename CallableTraits<G>::Result>>>> {
-};
+struct GetterTraits<T, G> : GetterOfFunction<T, G> {};
 
 template <class T, class M>
     requires std::is_object_v<M>

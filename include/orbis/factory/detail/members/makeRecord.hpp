@@ -2,6 +2,7 @@
 
 #include "orbis/factory/detail/members/CallableForm.hpp"
 #include "orbis/factory/detail/members/Routines.hpp"
+#include "orbis/factory/detail/members/StoredCallable.hpp"
 
 #include <type_traits>
 
@@ -24,21 +25,6 @@ inline constexpr CallableForm callableForm{Kind,
                                            Parameters::size,
                                            &Routine::invoke};
 
-/// How a record stores a callable: as a pointer, or as one to a functor that it keeps.
-template <class Pointer>
-struct StoredCallable {
-    using Call = Pointer;
-
-    static impl::Callable target(Pointer function) { return function; }
-};
-
-template <class F>
-struct StoredCallable<HeldFunctor<F>> {
-    using Call = typename HeldFunctor<F>::Call;
-
-    static impl::Callable target(HeldFunctor<F> const& held) { return held.functor(); }
-};
-
 template <class Pointer, class Result, class Parameters>
 inline constexpr CallableForm const& freeFunctionForm =
     callableForm<MemberRecord::Kind::FreeFunction, Result, Parameters,
@@ -49,8 +35,7 @@ MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* 
 {
     MemberRecord record = makeRecord(freeFunctionForm<Pointer, Result, Parameters>, name,
                                      StoredCallable<Pointer>::target(function), names, text);
-    if constexpr (requires { function.kept; })
-        record.kept = function.kept;
+    record.kept = StoredCallable<Pointer>::kept(function);
     return record;
 }
 

@@ -13,13 +13,13 @@ struct SetterTraits {
     static constexpr bool isSetter = false;
 };
 
-template <class WriterType>
+template <class WriterType, class P = typename WriterType::Pointer>
 struct SetterOf {
     static constexpr bool isSetter = true;
     static constexpr bool needsObject = WriterType::needsObject;
     using Writer = WriterType;
     using Value = typename Writer::Value;
-    using Pointer = typename Writer::Pointer;
+    using Pointer = P;
 };
 
 /// The value type of a setter function with the parameters `L`: the only one, or the one after the object.
@@ -52,11 +52,15 @@ struct SetterTraits<T, M C::*> : SetterOf<MemberWriter<M, T, MemberPointerIn<M C
 
 template <class T, FunctionOn<T> S>
     requires(CallableTraits<S>::arity == 2)
-struct SetterTraits<T, S> : SetterOf<FunctionOnWriter<SetterValue<S>, T, typename CallableTraits<S>::Pointer>> {};
+struct SetterTraits<T, S>
+    : SetterOf<FunctionOnWriter<SetterValue<S>, T, typename StoredCallable<typename CallableTraits<S>::Pointer>::Call>,
+               typename CallableTraits<S>::Pointer> {};
 
 template <class T, FreeFunction S>
     requires(CallableTraits<S>::arity == 1)
-struct SetterTraits<T, S> : SetterOf<FunctionWriter<SetterValue<S>, typename CallableTraits<S>::Pointer>> {};
+struct SetterTraits<T, S>
+    : SetterOf<FunctionWriter<SetterValue<S>, typename StoredCallable<typename CallableTraits<S>::Pointer>::Call>,
+               typename CallableTraits<S>::Pointer> {};
 
 template <class T, class M>
     requires std::is_object_v<M> && (!std::is_const_v<M>)

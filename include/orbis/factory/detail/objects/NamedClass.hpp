@@ -7,6 +7,7 @@
 #include "orbis/factory/ownership/Wrappable.hpp"
 
 #include <concepts>
+#include <cstddef>
 #include <type_traits>
 #include <typeinfo>
 
@@ -24,6 +25,7 @@ namespace detail {
 /// in every virtual machine.
 struct NamedClass {
     std::type_info const* type;
+    std::size_t size;                                                   ///< of an object
     std::type_info const& (*dynamicType)(void const* object) = nullptr; ///< null unless the class is polymorphic
     bool (*isInstance)(void const* bound) = nullptr;                    ///< likewise
     void (*destroy)(void* object) = nullptr;                            ///< null when there is no public destructor
@@ -73,7 +75,7 @@ struct NamedClassRecord : NamedClass {
     static_assert(
         requires { sizeof(T); }, "This class is only declared here: include the header that defines it.");
 
-    constexpr NamedClassRecord() : NamedClass{&typeid(T)}
+    constexpr NamedClassRecord() : NamedClass{&typeid(T), sizeof(T)}
     {
         if constexpr (std::is_polymorphic_v<T>) {
             dynamicType = [](void const* object) -> std::type_info const& {

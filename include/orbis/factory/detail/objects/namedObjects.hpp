@@ -34,14 +34,16 @@ ORBIS_FACTORY_API void* requireNativeOf(NamedClass const& named, hvArray_tag con
 ORBIS_FACTORY_API void requireExactType(NamedClass const& named, void const* object);
 
 /// Returns a new 1-by-1 array, owned by the caller, with the host object of `object`; 0-by-0 for null. If there is
-/// none, one of the most derived published class is created, and owns the native object as `owner` says; with `Host`,
-/// one is created in any case, and the caller has transferred the native object when this returns. `whole` is used
-/// with `Whole` only. Throws when the class is not published; then nothing has changed.
+/// none, one of the most derived published class is created, and owns the native object as `owner` says. With `Host`,
+/// one is created in any case, and the caller transfers the native object: it is deleted when this throws. In debug
+/// builds, one on the stack or in static storage is refused instead. `whole` is used
+/// with `Whole`; with `Host`, it is the object that the result lies inside, which is refused. Throws when the class is
+/// not published; then nothing has changed.
 ORBIS_FACTORY_API hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOwner owner,
                                              COSInterface* whole);
 
-/// Like `announceNamed` for classes with a `HostClass`: for `bound`, not null, which lies inside the native object of `whole` or,
-/// without one, is borrowed from native code: so its host object does not own it.
+/// Like `announceNamed` for classes with a `HostClass`: for `bound`, not null, which lies inside the native object of
+/// `whole` or, without one, is borrowed from native code: so its host object does not own it.
 ORBIS_FACTORY_API hvArray_tag* announcePart(void* bound, std::type_info const& dynamicType,
                                             NativeClassRecord const& staticClass, COSInterface* whole);
 
