@@ -138,7 +138,7 @@ public:
 private:
     void setName(detail::NamedClass& named, detail::ClassNames& names, char const* name, Owner owner);
     void addErrorKind(host_extensions::ErrorKind kind);
-    void addClass(detail::NamedClass const& named, std::unique_ptr<ClassDescription> description, char const* text);
+    void addClass(detail::NamedClass& named, std::unique_ptr<ClassDescription> description, char const* text);
 
     COSPackage& package_;
     std::string fullName_;

@@ -17,10 +17,11 @@ std::span<TypeText const> inputTypes(TypeList<A...>)
     return texts;
 }
 
+/// Whether errors of converting one of the inputs are thrown without its name.
 template <class... A>
-consteval bool refusesNullAmong(TypeList<A...>)
+consteval bool needsInputNames(TypeList<A...>)
 {
-    return (refusesNull<A>() || ...);
+    return ((refusesNull<A>() || NamesInput<A>) || ...);
 }
 
 template <class Pointer, class Result, class Parameters>
@@ -36,7 +37,7 @@ MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* 
             .invokeFn = &FreeFunctionRoutine<typename Stored::Call, Result, Parameters>::invoke,
             .target = Stored::target(function),
             .text = text.text,
-            .refusesNull = refusesNullAmong(Parameters{}),
+            .namesInputs = needsInputNames(Parameters{}),
             .kept = Stored::kept(function)};
 }
 
@@ -52,7 +53,7 @@ MemberRecord memberFunctionRecord(char const* name, Pointer function, char const
             .invokeFn = &MemberFunctionRoutine<T, Pointer, Result, Parameters>::invoke,
             .target = function,
             .text = text.text,
-            .refusesNull = refusesNullAmong(Parameters{})};
+            .namesInputs = needsInputNames(Parameters{})};
 }
 
 template <class T, class... A>
@@ -67,7 +68,7 @@ MemberRecord constructorRecord(char const* names, MethodText const& text)
             .invokeFn = &ConstructorRoutine<T, TypeList<A...>>::invoke,
             .target = {},
             .text = text.text,
-            .refusesNull = refusesNullAmong(TypeList<A...>{})};
+            .namesInputs = needsInputNames(TypeList<A...>{})};
 }
 
 } // namespace orbis::factory::detail
