@@ -15,7 +15,7 @@ MemberRecord makeRecord(CallableForm const& form, char const* name, impl::Callab
             .invokeFn = form.invokeFn,
             .target = target,
             .text = text.text(),
-            .refusesNull = form.refusesNull};
+            .namesInputs = form.namesInputs};
 }
 
 MemberRecord defaultedOverload(MemberRecord const& full, std::size_t omitted, impl::Invoker::InvokeFn routine,

@@ -4,7 +4,9 @@
 #include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "module/NamedClassInfo.hpp"
+#include "module/PublishedClasses.hpp"
 #include "module/cppName.hpp"
+#include "module/publishedName.hpp"
 
 #include <atomic>
 #include <memory>
@@ -66,11 +68,12 @@ void Module::setName(detail::NamedClass& named, detail::ClassNames& names, char 
     givenName.store(kept, std::memory_order_release);
 }
 
-ClassDescription& Module::addClass(detail::NamedClass const& named, detail::NewObject<ClassDescription> description,
+ClassDescription& Module::addClass(detail::NamedClass& named, detail::NewObject<ClassDescription> description,
                                    char const* text)
 {
     std::unique_ptr<ClassDescription> owner(description.release());
     ClassDescription& result = *owner;
+    PublishedClasses::ofCurrentHvm().addNamed(named);
     package_.addClass(new NamedClassInfo(named, std::move(owner), text));
     return result;
 }
@@ -85,8 +88,9 @@ void Module::complete()
     factory::publish(&package_, functions_);
 }
 
-void detail::setBase(NamedClass& named, NamedClass& base, void* (*toBase)(void*), void* (*fromBase)(void*))
+void detail::setBase(NamedClass& named, NamedClass& given, void* (*toBase)(void*), void* (*fromBase)(void*))
 {
+    NamedClass& base = publishedName(given) ? given : *PublishedClasses::ofCurrentHvm().findNamed(*given.type);
     std::lock_guard const lock(namingMutex());
     if (named.isOwnedByHost != base.isOwnedByHost) // a result is known as its base only, and is what it is
         throw Exception("The class " + cppName(*named.type) + " cannot have the superclass " + cppName(*base.type) +
@@ -96,6 +100,8 @@ void detail::setBase(NamedClass& named, NamedClass& base, void* (*toBase)(void*)
         named.toBase = toBase;
         named.fromBase = fromBase;
         named.base = &base;
+    } else if (named.base && named.base != &base && *named.base->type == *base.type) {
+        named.base = &base; // of a module that was loaded anew
     }
     bool const isBoundAlike = base.toBase && !base.base ? named.toBase && !named.base : &rootOf(named) == &rootOf(base);
     if (!isBoundAlike || (named.base != &base && named.base && !rootOf(named).dynamicType))

@@ -15,10 +15,10 @@
 #include "module/PublishedClasses.hpp"
 #include "module/cppName.hpp"
 #include "module/objectShares.hpp"
+#include "module/publishedName.hpp"
 
 #include "orbis/COSClass.hpp"
 
-#include <atomic>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -29,6 +29,22 @@ namespace {
 
 using basic::HostShares;
 using basic::PartOf;
+
+/// Looks in the other modules of the virtual machine.
+[[gnu::noinline]] NamedClass const& publishedElsewhere(NamedClass const& named)
+{
+    NamedClass const* const found = PublishedClasses::ofCurrentHvm().findNamed(*named.type);
+    if (!found)
+        throw std::invalid_argument("the class " + cppName(*named.type) +
+                                    " is not published: publish it, or load the module that does");
+    return *found;
+}
+
+/// Returns the record of the module that publishes the class.
+NamedClass const& published(NamedClass const& named)
+{
+    return publishedName(named) ? named : publishedElsewhere(named);
+}
 
 char const* mostDerivedName(NamedClass const& named, void const* object, void* bound)
 {
@@ -110,18 +126,14 @@ HostShares::Share const* requireOwner(NamedClass const& named, COSInterface cons
 
 } // namespace
 
-char const* className(NamedClass const& named)
+char const* className(NamedClass const& given)
 {
-    char const* const name = std::atomic_ref(const_cast<char const*&>(named.name)).load(std::memory_order_acquire);
-    if (!name)
-        throw std::invalid_argument("the class " + cppName(*named.type) +
-                                    " is not published: publish it in the same module");
-    return name;
+    return publishedName(published(given));
 }
 
-void* toBound(NamedClass const& named, void* object)
+void* toBound(NamedClass const& given, void* object)
 {
-    NamedClass const* from = &named;
+    NamedClass const* from = &published(given);
     while (object && from && from->toBase) {
         object = from->toBase(object);
         from = from->base;
@@ -129,21 +141,24 @@ void* toBound(NamedClass const& named, void* object)
     return object;
 }
 
-void* fromBound(NamedClass const& named, void* bound)
+void* fromBound(NamedClass const& given, void* bound)
 {
+    NamedClass const& named = published(given);
     if (!bound || !named.fromBase)
         return bound;
     void* const base = named.base ? fromBound(*named.base, bound) : bound;
     return base ? named.fromBase(base) : nullptr;
 }
 
-void* nativeOf(NamedClass const& named, hvArray_tag const* in)
+void* nativeOf(NamedClass const& given, hvArray_tag const* in)
 {
+    NamedClass const& named = published(given);
     return fromBound(named, nativeObject(in, className(named)));
 }
 
-void* nativeOf(NamedClass const& named, COSInterface const* object)
+void* nativeOf(NamedClass const& given, COSInterface const* object)
 {
+    NamedClass const& named = published(given);
     return fromBound(named, nativeObject(object, className(named)));
 }
 
@@ -200,8 +215,9 @@ hvArray_tag* announceOwned(NamedClass const& named, void* object, COSInterface c
 
 } // namespace
 
-hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOwner owner, COSInterface* whole)
+hvArray_tag* announceNamed(NamedClass const& given, void const* object, ResultOwner owner, COSInterface* whole)
 {
+    NamedClass const& named = published(given);
     if (!object)
         return omCreateORBISMatrix(0, 0, COSNameID(className(named)));
     if (owner == ResultOwner::Host)
@@ -232,8 +248,9 @@ hvArray_tag* announcePart(void* bound, std::type_info const& dynamicType, Native
     return createHost(bound, name, false, &part);
 }
 
-hvArray_tag* announceShared(NamedClass const& named, void const* object, std::shared_ptr<void> share)
+hvArray_tag* announceShared(NamedClass const& given, void const* object, std::shared_ptr<void> share)
 {
+    NamedClass const& named = published(given);
     if (!object)
         return omCreateORBISMatrix(0, 0, COSNameID(className(named)));
     void* const bound = toBound(named, const_cast<void*>(object));
@@ -247,8 +264,9 @@ hvArray_tag* announceShared(NamedClass const& named, void const* object, std::sh
     return createHost(bound, mostDerivedName(named, object, bound), false, &held);
 }
 
-std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in)
+std::shared_ptr<void> shareNamed(NamedClass const& given, hvArray_tag const* in)
 {
+    NamedClass const& named = published(given);
     COSInterfacePtr const host = firstOf(in);
     void* const object = nativeOf(named, static_cast<COSInterface const*>(host));
     if (!object)
@@ -258,8 +276,9 @@ std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in)
     return shareOwned(named, host, object);
 }
 
-void requireOwned(NamedClass const& named, hvArray_tag const* in, bool alone)
+void requireOwned(NamedClass const& given, hvArray_tag const* in, bool alone)
 {
+    NamedClass const& named = published(given);
     COSInterfacePtr const host = firstOf(in);
     if (!host)
         return;
@@ -271,8 +290,9 @@ void requireOwned(NamedClass const& named, hvArray_tag const* in, bool alone)
     refuse(named, Wanted::Taken, destroyer && !destroyer->kept.empty() ? "it keeps other objects" : "it is shared");
 }
 
-void* takeNamed(NamedClass const& named, hvArray_tag const* in)
+void* takeNamed(NamedClass const& given, hvArray_tag const* in)
 {
+    NamedClass const& named = published(given);
     COSInterfacePtr host = firstOf(in);
     void* const object = nativeOf(named, static_cast<COSInterface const*>(host));
     if (!object)

@@ -121,7 +121,7 @@ void addCopying(COSClass* cls, ClassDescription const& description, detail::Copy
                                  .inputTypes = {&copying.typeText, 1},
                                  .invokeFn = &copyConstruct,
                                  .target = &copying,
-                                 .refusesNull = true},
+                                 .namesInputs = true},
                                 description.hostName());
 }
 

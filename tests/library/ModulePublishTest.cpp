@@ -39,6 +39,7 @@ public:
 
     Engine* part() { return &engine_; }
     Engine* last() { return &last_; }
+    std::vector<Engine*> all() { return {&engine_, nullptr, &last_}; }
     Engine const& reference() const { return engine_; }
     void exchange(Car& other) { std::swap(engine_.power, other.engine_.power); }
     std::string const& name() const { return name_; }
@@ -130,6 +131,8 @@ protected:
             cars.publish<Car>("Car", "Drives")
                 .constructor<std::string>("name (not, say, its colour)", "Has a name")
                 .method("part", &Car::part)
+                .method("all", &Car::all)
+                .method("borrowedAll", borrowed(&Car::all))
                 .method("torn", owned(&Car::part))
                 .method("reference", &Car::reference)
                 .method("exchange", &Car::exchange, "other")
@@ -233,6 +236,26 @@ TEST_F(ModulePublishTest, APartIsOneObjectThatKeepsItsWholeAndEndsWithIt)
     EXPECT_EQ(power(common), 1);
     hvm().deleteObjects(common.get());
     EXPECT_EQ(power(hvm().callFunction("cars.common")), 1);
+}
+
+TEST_F(ModulePublishTest, ElementsOfAVectorArePartsAsSingleObjectsAre)
+{
+    ArrayPtr owner = car("owner");
+    ArrayPtr const all = hvm().call(owner.get(), "all");
+    EXPECT_EQ(all->get_number_of_elements(), 3u);
+    EXPECT_EQ(objectIn(all, 1), nullptr);
+    ArrayPtr const last(omCreateORBISScalar(omGetArrayElement(all.get(), 2)));
+    EXPECT_EQ(objectIn(all), objectIn(hvm().call(owner.get(), "part")));
+    int const alive = Counted::alive;
+    owner.reset();
+    EXPECT_EQ(Counted::alive, alive) << "they keep the car";
+    EXPECT_EQ(power(last), 6);
+    ArrayPtr other = car("other");
+    ArrayPtr const lent = hvm().call(other.get(), "borrowedAll");
+    other.reset();
+    EXPECT_EQ(Counted::alive, alive) << "the other is gone";
+    basic::BindingRegistry::release(objectIn(lent, 0)->getNativeObject("cars.Engine"));
+    basic::BindingRegistry::release(objectIn(lent, 2)->getNativeObject("cars.Engine"));
 }
 
 TEST_F(ModulePublishTest, WhatNobodyCanDeleteIsNotTheHosts)

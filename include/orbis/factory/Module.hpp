@@ -145,7 +145,7 @@ public:
 private:
     void setName(detail::NamedClass& named, detail::ClassNames& names, char const* name, Owner owner);
     void addErrorKind(host_extensions::ErrorKind const& kind);
-    ClassDescription& addClass(detail::NamedClass const& named, detail::NewObject<ClassDescription> description,
+    ClassDescription& addClass(detail::NamedClass& named, detail::NewObject<ClassDescription> description,
                                char const* text);
 
     COSPackage& package_;

@@ -18,7 +18,8 @@
 namespace orbis::factory {
 
 /// Selects the policy (`Type`) that marshals a native type. Specialise it for types of your own; the headers of
-/// optional policies do so for theirs.
+/// optional policies do so for theirs. With `static constexpr bool namesInput = true`, the errors of `fromHost` get the
+/// name of the input.
 template <class T>
 struct MarshalingPolicy;
 
@@ -141,14 +142,14 @@ template <class T>
 concept HasDataType = requires { MarshalerOf<T>::template dataTypeText<MarshaledTypeOf<T>>(); };
 
 template <class T>
-concept ConvertsFromHost =
-    requires(COSValue const& in) { MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(in); } ||
-    requires(hvArray* in) { MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(in); };
+concept ConvertsFromHost = requires(COSValue const& in) {
+    MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(in);
+} || requires(hvArray* in) { MarshalerOf<T>::template fromHost<MarshaledTypeOf<T>>(in); };
 
 template <class R>
-concept ConvertsToHost =
-    requires(COSValue* out) { MarshalerOf<R>::template toHost<MarshaledTypeOf<R>>(std::declval<R>(), out); } ||
-    requires(hvArray** out) { MarshalerOf<R>::template toHost<MarshaledTypeOf<R>>(std::declval<R>(), out); };
+concept ConvertsToHost = requires(COSValue* out) {
+    MarshalerOf<R>::template toHost<MarshaledTypeOf<R>>(std::declval<R>(), out);
+} || requires(hvArray** out) { MarshalerOf<R>::template toHost<MarshaledTypeOf<R>>(std::declval<R>(), out); };
 
 /// Why values of a type without a policy cannot be marshaled.
 template <class Native>
@@ -256,6 +257,10 @@ consteval bool refusesNull()
     else
         return false;
 }
+
+/// Types whose conversion may fail, in a way that the host does not foresee: errors get the name of the input.
+template <class T>
+concept NamesInput = requires { requires MarshalingPolicy<typename NativeType<T>::Type>::namesInput; };
 
 /// Returns the name of the host data type that a signature records for a native type.
 template <class T>

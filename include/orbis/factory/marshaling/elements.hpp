@@ -61,6 +61,7 @@ consteval Refusal elementArgumentRefusal()
 /// Base of the `MarshalingPolicy` of compound types: what their elements refuse, they do.
 template <class... E>
 struct ElementRefusals {
+    static constexpr bool namesInput = true;
     static constexpr Refusal refusal = firstRefusal(elementRefusal<E>()...);
     static constexpr Refusal argumentRefusal = firstRefusal(elementArgumentRefusal<E>()...);
 };
@@ -102,6 +103,18 @@ void readElements(hvArray_tag const* list, Reserve reserve, Append append)
     reserve(elements.size());
     for (std::size_t i = 0; i < elements.size(); ++i)
         atElement(i, [&] { append(reader.read(elements.at(i))); });
+}
+
+/// Returns a vector of the elements of a list.
+template <class Vector>
+Vector readVector(hvArray_tag const* list)
+{
+    using Element = typename Vector::value_type;
+    Vector values;
+    readElements<Element>(
+        list, [&](std::size_t count) { values.reserve(count); },
+        [&](Element&& value) { values.push_back(std::move(value)); });
+    return values;
 }
 
 /// Returns an array, owned by the caller, of a value that is passed to the host as a `T`; null for an empty value.

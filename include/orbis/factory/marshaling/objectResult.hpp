@@ -54,8 +54,15 @@ template <class Result>
 concept StoresHandle = HandlePointer<NativeResult<Result>> ||
                        (IsHandleObject<NativeResult<Result>> && std::is_reference_v<NativeResult<Result>>);
 
+/// Vectors of raw pointers to objects.
+template <class T>
+inline constexpr bool isObjectVector = false;
+
 template <class Result>
-concept ObjectResult = StoresNamedObject<Result> || StoresHandle<Result>;
+concept StoresObjects = isObjectVector<std::remove_cvref_t<NativeResult<Result>>>;
+
+template <class Result>
+concept ObjectResult = StoresNamedObject<Result> || StoresHandle<Result> || StoresObjects<Result>;
 
 /// Returns why a result, of which the author may have said who owns it, cannot be published, or `None`.
 template <class Result>
@@ -65,7 +72,9 @@ consteval Refusal storedResultRefusal()
     constexpr bool isOwnedByHost = ResultTraits<Result>::owner == ResultOwner::Host || !std::is_reference_v<Native>;
     if constexpr (resultRefusal<Native>() != Refusal::None)
         return resultRefusal<Native>();
-    else if constexpr (!std::is_same_v<Result, Native> && !ObjectResult<Result>)
+    else if constexpr (!std::is_same_v<Result, Native> &&
+                       (!ObjectResult<Result> ||
+                        (StoresObjects<Result> && ResultTraits<Result>::owner == ResultOwner::Host)))
         return Refusal::OwnerOfNoObject;
     else if constexpr (ResultTraits<Result>::owner == ResultOwner::Copy)
         return CopyConstructible<std::remove_const_t<std::remove_pointer_t<std::remove_cvref_t<Native>>>>
@@ -197,6 +206,20 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
         throw;
     }
     return array.release();
+}
+
+/// The same for vectors: each element is a result of its own.
+template <StoresObjects Result, class Whole, class F>
+hvArray_tag* objectResult(Whole const& whole, F&& function)
+{
+    using Vector = std::remove_cvref_t<NativeResult<Result>>;
+    auto const& values = std::forward<F>(function)();
+    NewArray row;
+    if constexpr (ResultTraits<Result>::owner == ResultOwner::Native)
+        MarshalerOf<Vector>::template toHostInside<Vector>(NoWhole(), values, row.place());
+    else
+        MarshalerOf<Vector>::template toHostInside<Vector>(whole, values, row.place());
+    return row.release();
 }
 
 } // namespace orbis::factory::detail

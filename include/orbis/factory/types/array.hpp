@@ -46,6 +46,7 @@ public:
 template <COSScalar T, std::size_t N>
 struct MarshalingPolicy<std::array<T, N>> {
     using Type = NumericArrayPolicy;
+    static constexpr bool namesInput = true;
 };
 
 template <class T, std::size_t N>

@@ -179,22 +179,26 @@ consteval Refusal eigenArgumentRefusal()
 template <COSScalar T, int R, int C, int O, int MR, int MC>
 struct MarshalingPolicy<Eigen::Matrix<T, R, C, O, MR, MC>> {
     using Type = EigenPolicy;
+    static constexpr bool namesInput = true;
 };
 
 template <COSScalar T, int R, int C, int O, int MR, int MC>
 struct MarshalingPolicy<Eigen::Array<T, R, C, O, MR, MC>> {
     using Type = EigenPolicy;
+    static constexpr bool namesInput = true;
 };
 
 template <class P, int O, class S>
 struct MarshalingPolicy<Eigen::Map<P, O, S>> {
     using Type = EigenPolicy;
+    static constexpr bool namesInput = true;
     static constexpr detail::Refusal argumentRefusal = detail::eigenArgumentRefusal<Eigen::Map<P, O, S>>();
 };
 
 template <class P, int O, class S>
 struct MarshalingPolicy<Eigen::Ref<P, O, S>> {
     using Type = EigenPolicy;
+    static constexpr bool namesInput = true;
     static constexpr detail::Refusal argumentRefusal = detail::eigenArgumentRefusal<Eigen::Ref<P, O, S>>();
 };
 

@@ -199,8 +199,8 @@ private:
 /// The name of a data type as the result of a function, in parentheses where it would be read as a part of the whole.
 inline std::string functionResultText(std::string_view type)
 {
-    bool const isCompound = type.find(" -> ") != type.npos || type.ends_with(" or empty");
-    return isCompound ? '(' + std::string(type) + ')' : std::string(type);
+    bool const namesInput = type.find(" -> ") != type.npos || type.ends_with(" or empty");
+    return namesInput ? '(' + std::string(type) + ')' : std::string(type);
 }
 
 template <class Function>

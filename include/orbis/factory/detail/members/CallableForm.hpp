@@ -8,7 +8,7 @@ namespace orbis::factory::detail {
 /// What the records of all callables of one type have in common; static. See `MemberRecord` for its members.
 struct CallableForm {
     MemberRecord::Kind kind;
-    bool refusesNull;
+    bool namesInputs;
     TypeText outputType;
     TypeText const* inputTypes;
     std::size_t inputCount;

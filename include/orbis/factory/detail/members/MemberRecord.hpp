@@ -27,7 +27,7 @@ struct MemberRecord {
     impl::Invoker::InvokeFn invokeFn;
     impl::Callable target;
     char const* text = "";
-    bool refusesNull = false;     ///< whether an input must be an object
+    bool namesInputs = false;     ///< whether errors of converting an input lack its name
     detail::KeptObject kept = {}; ///< owns what `target` points to, unless that is a function
 };
 

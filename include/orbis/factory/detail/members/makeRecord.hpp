@@ -14,12 +14,14 @@ struct InputTypes;
 template <class... A>
 struct InputTypes<TypeList<A...>> {
     static constexpr TypeText texts[] = {&dataTypeText<A>..., nullptr};
-    static constexpr bool refuseNull = (refusesNull<A>() || ... || false);
+
+    /// Whether errors of converting one of the inputs are thrown without its name.
+    static constexpr bool needNames = ((refusesNull<A>() || NamesInput<A>) || ... || false);
 };
 
 template <MemberRecord::Kind Kind, class Result, class Parameters, class Routine>
 inline constexpr CallableForm callableForm{Kind,
-                                           InputTypes<Parameters>::refuseNull,
+                                           InputTypes<Parameters>::needNames,
                                            &dataTypeText<NativeResult<Result>>,
                                            static_cast<TypeText const*>(InputTypes<Parameters>::texts),
                                            Parameters::size,

@@ -20,7 +20,8 @@ concept NamedType = std::is_class_v<T> && !PublishedClass<T> && !detail::isOfSta
 
 namespace detail {
 
-/// What is known of a named class without its type, one record for each class and module. Its last five members are
+/// What is known of a named class without its type, one record for each class and module. Where the module does not
+/// publish the class, the record of the one that does is used. Its last five members are
 /// set once, by the first `Module` that publishes the class, and stay as long as the module's code: they are the same
 /// in every virtual machine.
 struct NamedClass {
@@ -39,7 +40,8 @@ struct NamedClass {
     char const* name = nullptr;                ///< full dotted name; null until the class is published; see `className`
 };
 
-/// Returns the host name. Throws `std::invalid_argument` when the class is not published.
+/// Returns the host name, also of a class that another module publishes. Throws `std::invalid_argument` when the class
+/// is not published.
 ORBIS_FACTORY_API char const* className(NamedClass const& named);
 
 /// Converts a pointer to the class into the address under which the object is bound; null to null.
