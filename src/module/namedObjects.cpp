@@ -141,25 +141,34 @@ void* toBound(NamedClass const& given, void* object)
     return object;
 }
 
-void* fromBound(NamedClass const& given, void* bound)
+namespace {
+
+/// `named` is the record of the module that publishes the class.
+void* fromBoundOf(NamedClass const& named, void* bound)
 {
-    NamedClass const& named = published(given);
     if (!bound || !named.fromBase)
         return bound;
-    void* const base = named.base ? fromBound(*named.base, bound) : bound;
+    void* const base = named.base ? fromBoundOf(*named.base, bound) : bound;
     return base ? named.fromBase(base) : nullptr;
+}
+
+} // namespace
+
+void* fromBound(NamedClass const& given, void* bound)
+{
+    return fromBoundOf(published(given), bound);
 }
 
 void* nativeOf(NamedClass const& given, hvArray_tag const* in)
 {
     NamedClass const& named = published(given);
-    return fromBound(named, nativeObject(in, className(named)));
+    return fromBoundOf(named, nativeObject(in, named.name.load(std::memory_order_relaxed)));
 }
 
 void* nativeOf(NamedClass const& given, COSInterface const* object)
 {
     NamedClass const& named = published(given);
-    return fromBound(named, nativeObject(object, className(named)));
+    return fromBoundOf(named, nativeObject(object, named.name.load(std::memory_order_relaxed)));
 }
 
 void* requireNativeOf(NamedClass const& named, hvArray_tag const* in)
@@ -190,13 +199,14 @@ void requireDeletable([[maybe_unused]] NamedClass const& named, [[maybe_unused]]
 }
 
 /// For an object that the caller transfers: it is deleted when this throws, unless nobody can.
-hvArray_tag* announceOwned(NamedClass const& named, void* object, COSInterface const* whole)
+hvArray_tag* announceOwned(NamedClass const& given, void* object, COSInterface const* whole)
 {
     if (whole)
         throwError(
-            orbis_factory::orbis_factory::cannot_own(className(named), "it lies inside the object that gave it"));
-    requireDeletable(named, object);
-    std::unique_ptr<void, void (*)(void*)> transferred(object, named.destroy);
+            orbis_factory::orbis_factory::cannot_own(className(given), "it lies inside the object that gave it"));
+    requireDeletable(given, object);
+    std::unique_ptr<void, void (*)(void*)> transferred(object, given.destroy);
+    NamedClass const& named = published(given);
     void* const bound = toBound(named, object);
     char const* const name = mostDerivedName(named, object, bound);
     NewArray array;
@@ -217,11 +227,11 @@ hvArray_tag* announceOwned(NamedClass const& named, void* object, COSInterface c
 
 hvArray_tag* announceNamed(NamedClass const& given, void const* object, ResultOwner owner, COSInterface* whole)
 {
-    NamedClass const& named = published(given);
     if (!object)
-        return omCreateORBISMatrix(0, 0, COSNameID(className(named)));
+        return omCreateORBISMatrix(0, 0, COSNameID(className(given)));
     if (owner == ResultOwner::Host)
-        return announceOwned(named, const_cast<void*>(object), whole);
+        return announceOwned(given, const_cast<void*>(object), whole);
+    NamedClass const& named = published(given);
     void* const bound = toBound(named, const_cast<void*>(object));
     if (COSInterface* const host = findHost(bound, className(named), whole))
         return omCreateORBISScalar(host);

@@ -68,3 +68,23 @@ reason = type(reason) == "table" and reason.identifier or reason
 if not isText and reason ~= "not enough memory" and reason ~= "VELMARA:memory:exhausted" then wrong = reason or "none" end
 print(wrong)
 return err.identifier
+
+local frame = probe.frame
+local box, own = frame.Box(), frame.Part(3)
+local part = box:part()
+print(part.size, box:parts()[1] == part, frame.Box.make().size)
+box:take(own)
+box.shared = frame.Part(4)
+print(isvalid(own), box.shared.size, box:parts()[2].size)
+return {part, box.shared}
+
+local frame = probe.frame
+print(frame.pair({1.5, "text that is not short"}), frame.map({one = 1, two = 2}), frame.set({"b", "a"}))
+print(frame.variant("text that is not short"), frame.variant(2), frame.time(1.5), frame.path("folder/file"), frame.wide("w"))
+print(pcall(frame.map, {one = 1, two = "text"}))
+return {frame.nested({{1}, {2, 3}}), frame.matrix(array("double", {{1, 2}, {3, 4}})), frame.complex(2)}
+
+local frame = probe.frame
+local first, second = frame.Part(1), frame.Part(2)
+print(#frame.copies({first, second}), pcall(frame.owned, {first, second, first}), isvalid(first))
+return frame.owned({first, second})

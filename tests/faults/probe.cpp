@@ -1,16 +1,20 @@
 // A module with a native callback of each kind, each of which throws where the program has it throw.
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/ObjectHandle.hpp"
-#include "orbis/factory/base/Exception.hpp"
-#include "orbis/factory/classes/NonHandleClassInfo.hpp"
-#include "orbis/factory/classes/StdShareableHandleClassInfo.hpp"
-#include "orbis/factory/describeFunctions.hpp"
-#include "orbis/factory/marshaling/ValuePolicy.hpp"
+#include "orbis/factory.hpp"
 #include "orbis/factory/types/DataTypePolicy.hpp"
-#include "orbis/factory/types/NumericVectorPolicy.hpp"
-#include "orbis/factory/types/SharedPointerPolicy.hpp"
+#include "orbis/factory/types/chrono.hpp"
+#include "orbis/factory/types/complex.hpp"
 #include "orbis/factory/types/function.hpp"
+#include "orbis/factory/types/map.hpp"
+#include "orbis/factory/types/matrix.hpp"
+#include "orbis/factory/types/nestedVectors.hpp"
+#include "orbis/factory/types/objectValues.hpp"
+#include "orbis/factory/types/pair.hpp"
+#include "orbis/factory/types/path.hpp"
+#include "orbis/factory/types/set.hpp"
+#include "orbis/factory/types/variant.hpp"
+#include "orbis/factory/types/wstring.hpp"
 
 #include "orbis/COSPackage.hpp"
 #include "orbis/COSPackageInfo.hpp"
@@ -136,6 +140,61 @@ double sum(std::vector<double> const& numbers)
     return result;
 }
 
+/// Published as they are.
+struct Part {
+    explicit Part(double given) : size(given) { callback(); }
+    double size;
+};
+
+class Box {
+public:
+    Part& part() { return callback(), part_; }
+    std::vector<Part*> parts() { return {&part_, taken_.get()}; }
+    static std::unique_ptr<Part> make(double size) { return std::make_unique<Part>(size); }
+    void take(std::unique_ptr<Part> part) { callback(), taken_ = std::move(part); }
+    void share(std::shared_ptr<Part> part) { callback(), shared_ = std::move(part); }
+    std::shared_ptr<Part> shared() const { return shared_; }
+
+private:
+    Part part_{1};
+    std::unique_ptr<Part> taken_;
+    std::shared_ptr<Part> shared_;
+};
+
+/// Passes a value on, in both directions.
+template <class T>
+T echo(T value)
+{
+    callback();
+    return value;
+}
+
+void publishFrame(Module& frame)
+{
+    frame.publish<Part>("Part", "Has a size").constructor<double>("size").property("size", &Part::size);
+    frame.publish<Box>("Box")
+        .constructor()
+        .method("part", &Box::part)
+        .method("parts", &Box::parts)
+        .method("take", &Box::take, "part")
+        .property("shared", &Box::shared, &Box::share)
+        .staticMethod("make", &Box::make, "size (in metres)", withDefaults(2.0));
+    frame.function("pair", &echo<std::pair<double, std::string>>)
+        .function("map", &echo<std::map<std::string, double>>)
+        .function("set", &echo<std::set<std::string>>)
+        .function("variant", &echo<std::variant<double, std::string>>)
+        .function("complex", &echo<std::complex<double>>)
+        .function("time", &echo<std::chrono::milliseconds>)
+        .function("path", &echo<std::filesystem::path>)
+        .function("wide", &echo<std::wstring>)
+        .function("nested", &echo<std::vector<std::vector<double>>>)
+        .function("copies", &echo<std::vector<Part>>)
+        .function("owned", &echo<std::vector<std::unique_ptr<Part>>>)
+        .function("matrix", &echo<Matrix<double>>);
+    frame.error<std::runtime_error>("probe:runtime");
+    callback("initializer");
+}
+
 } // namespace
 
 PUBLISHED_IN("probe", Value, using Policy = ValuePolicy;)
@@ -214,6 +273,7 @@ struct Root final : COSPackageInfo {
                                .function("makeDerived", &makeDerived));
             callback("initializer");
         });
+        registerModule("probe.frame", &publishFrame);
         callback("initializer");
     }
 };
