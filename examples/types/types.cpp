@@ -1,5 +1,6 @@
 #include "orbis/factory.hpp"
 #include "orbis/factory/notNull.hpp"
+#include "orbis/factory/publishEnumeration.hpp"
 #include "orbis/factory/types/array.hpp"
 #include "orbis/factory/types/chrono.hpp"
 #include "orbis/factory/types/complex.hpp"
@@ -27,12 +28,6 @@ struct Point {
 
 enum class Color { Red, Green };
 
-template <>
-struct orbis::factory::HostEnumeration<Color> {
-    static constexpr char const* name = "types.Color";
-    static constexpr Enumerator<Color> enumerators[] = {{"Red", Color::Red}, {"Green", Color::Green}};
-};
-
 /// Gives back what it takes.
 template <class T>
 T echo(T value)
@@ -43,7 +38,7 @@ T echo(T value)
 void publishModule(Module& types)
 {
     types.publish<Point>("Point").constructor<double, double>("x, y").property("x", &Point::x).property("y", &Point::y);
-    types.package().addClass(new EnumerationClassInfo<Color>("What a lamp shows"));
+    publishEnumeration<Color>(types, "Color", {{"Red", Color::Red}, {"Green", Color::Green}}, "What a lamp shows");
 
     types.function("bool", &echo<bool>, "value")
         .function("int", &echo<int>, "value")
