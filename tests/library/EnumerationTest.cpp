@@ -2,7 +2,10 @@
 #include "library/publishClass.hpp"
 
 #include "orbis/factory/classes/EnumerationClassInfo.hpp"
+#include "orbis/factory/publishEnumeration.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
+#include "orbis/factory/types/nestedVectors.hpp"
+#include "orbis/factory/types/variant.hpp"
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -14,6 +17,10 @@ enum class Color : unsigned char { Red = 1, Green, Blue = 200, Crimson = Red };
 
 /// Its class is defined in the host, where the names have other values.
 enum Mode { modeOff = -1, modeOn = 1, modeAuto = 7 };
+
+/// Named by a module.
+enum class Gear : signed char { Reverse = -1, Neutral, First };
+enum class Seat { Front };
 
 } // namespace
 
@@ -200,6 +207,46 @@ struct Reach {
     friend ScalarClassID scalarClassID() { return Operation; }
 };
 template struct Reach<&Marshaler<EnumClassArrayPolicy>::getScalarClassID>;
+
+TEST_F(EnumerationTest, AModuleNamesAnEnumeration)
+{
+    using Gears = std::vector<std::vector<Gear>>;
+    auto const fill = [](Module& cars) {
+        cars.function(
+                "next", +[](Gear gear) { return Gear(int(gear) + 1); }, "gear")
+            .function(
+                "reversed", +[](std::vector<Gear> const& gears) { return std::vector(gears.rbegin(), gears.rend()); })
+            .function(
+                "nested", +[](Gears const& gears) { return gears; })
+            .function(
+                "either", +[](std::variant<double, Gear> const& value) { return int(value.index()); });
+        publishEnumeration<Gear>(
+            cars, "Gear", {{"Neutral", Gear::Neutral}, {"First", Gear::First}, {"Back", Gear::Reverse}}, "Of a car");
+    };
+    registerModule("cars", fill);
+    EXPECT_EQ(hvm().describeClass("cars.Gear").description, "Of a car");
+    ArrayPtr const back = hvm().getEnumerator("cars.Gear", "Back");
+    EXPECT_TRUE(velmara::isSameObject(hvm().callFunction("cars.next", inputs(back)).get(),
+                                      hvm().getEnumerator("cars.Gear", "Neutral").get()));
+    EXPECT_EQ(hvm().describeFunction("cars.reversed").signature,
+              "result = reversed(p0: cars.Gear vector) -> cars.Gear vector");
+    expectMessage([&] { hvm().callFunction("cars.next", inputs(hvm().getEnumerator("cars.Gear", "First"))); },
+                  {"no_such_enumerator", "cars.Gear", "Neutral, First, Back"});
+    EXPECT_EQ(scalar<std::int32_t>(hvm().callFunction("cars.either", inputs(back))), 1);
+    registerModule("seats", [](Module& seats) {
+        seats.function(
+            "seat", +[](Seat seat) { return seat; });
+    });
+    expectMessage([&] { hvm().callFunction("seats.seat"); }, {"Seat is not published: publish it in the same module"});
+    for (auto const& [package, other] : {std::pair("cars.more", Gear::Neutral), std::pair("others", Gear::First)}) {
+        registerModule(package, [=](Module& again) { publishEnumeration<Gear>(again, "Gear", {{"Neutral", other}}); });
+        expectMessage([&] { hvm().describeClass(std::string(package) + ".Gear"); }, {"it is \"cars.Gear\""});
+    }
+    registerModule("twice", [](Module& twice) {
+        publishEnumeration<Seat>(twice, "Seat", {{"Front", Seat::Front}, {"Front", Seat(2)}});
+    });
+    expectMessage([&] { hvm().describeClass("twice.Seat"); }, {"Seat needs a name of its own"});
+}
 
 } // namespace
 

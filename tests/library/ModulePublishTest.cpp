@@ -1,6 +1,8 @@
 #include "HvmTest.hpp"
 
 #include "orbis/factory.hpp"
+#include "orbis/factory/notNull.hpp"
+#include "orbis/factory/retract.hpp"
 
 using namespace orbis;
 using namespace orbis::factory;
@@ -41,6 +43,12 @@ public:
     Engine* last() { return &last_; }
     std::vector<Engine*> all() { return {&engine_, nullptr, &last_}; }
     Engine const& reference() const { return engine_; }
+    /// Destroys the wheel without a word to the host, unless it is told.
+    void lose(Wheel* wheel)
+    {
+        retract(wheel);
+        wheel_.reset();
+    }
     void exchange(Car& other) { std::swap(engine_.power, other.engine_.power); }
     std::string const& name() const { return name_; }
     Car twin() const { return Car(name_ + "'"); }
@@ -80,6 +88,11 @@ std::unique_ptr<Engine> makeEngine(bool isTurbo)
 double total(Engine const& a, Engine b)
 {
     return a.power + b.power;
+}
+
+double largest(Engine const* a, Engine* b, std::string const&)
+{
+    return std::max(a->power, b->power);
 }
 
 struct Unpublished {};
@@ -127,7 +140,8 @@ protected:
                 .function("makeEngine", &makeEngine, "isTurbo")
                 .function("makeCar", owned(+[] { return new Car("made"); }))
                 .function("common", &Car::common)
-                .function("given", owned(+[] { return given; }));
+                .function("given", owned(+[] { return given; }))
+                .function("largest", notNull(&largest), "a, b, why", withDefaults("fun"));
             cars.publish<Car>("Car", "Drives")
                 .constructor<std::string>("name (not, say, its colour)", "Has a name")
                 .method("part", &Car::part)
@@ -139,6 +153,9 @@ protected:
                 .method("twin", &Car::twin, {}, "Another one")
                 .method("mount", &Car::mount, "wheel, position")
                 .method("keep", &Car::keep)
+                .method("lose", notNull(&Car::lose), "wheel")
+                .method("echo", inside(notNull([](Car* car, Engine const*) { return &car->reference(); })),
+                        "car, engine")
                 .method("wheel", &Car::wheel)
                 .property("spare", &Car::spare)
                 .property("name", &Car::name, "As given");
@@ -211,6 +228,10 @@ TEST_F(ModulePublishTest, ReferencesAreTheScriptsObjectsAndValuesAreCopies)
     EXPECT_EQ(scalar<double>(hvm().callFunction("cars.total", inputs(engine, engine))), 10);
     ArrayPtr const null(omCreateORBISMatrix(0, 0, "cars.Engine"));
     expectMessage([&] { hvm().callFunction("cars.total", inputs(engine, null)); }, {"null_input", "Input \"b\""});
+    EXPECT_EQ(scalar<double>(hvm().callFunction("cars.largest", inputs(engine, engine))), 5);
+    expectMessage([&] { hvm().callFunction("cars.largest", inputs(engine, null)); }, {"null_input", "Input \"b\""});
+    expectMessage([&] { hvm().call(a.get(), "echo", inputs(null)); }, {"null_input", "Input \"engine\""});
+    EXPECT_TRUE(velmara::isSameObject(hvm().call(a.get(), "echo", inputs(engine)).get(), engine.get()));
     ArrayPtr const twin = hvm().call(a.get(), "twin");
     EXPECT_FALSE(velmara::isSameObject(twin.get(), a.get()));
     EXPECT_EQ(velmara::className(hvm().callFunction("cars.makeEngine", inputs(matrix<bool>(1, 1, {true}))).get()),
@@ -301,6 +322,8 @@ TEST_F(ModulePublishTest, OwnershipMovesOnlyWithACallThatWorks)
             },
             {"cars.Wheel", "its host object does not own it"});
     EXPECT_TRUE(velmara::isValid(mounted.get()));
+    hvm().call(owner.get(), "lose", inputs(mounted));
+    EXPECT_FALSE(velmara::isValid(mounted.get()));
     hvm().call(owner.get(), "mount", inputs(none, matrix<std::int32_t>(1, 1, {0})));
 }
 

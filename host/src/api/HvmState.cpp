@@ -36,6 +36,7 @@ HvmState::~HvmState()
     types_.clear();
     clearStorage(); // what was stored meanwhile, while the modules' code is there
     destroyRetired();
+    errorKinds().clear();
     makeCurrent(previous == this ? nullptr : previous);
     Hvm::Scope::forget(*this);
 }

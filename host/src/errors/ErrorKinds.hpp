@@ -15,6 +15,9 @@ public:
     /// Replaces an earlier kind of the same type.
     void add(orbis::host_extensions::ErrorKind kind);
 
+    /// Destroys them, while the modules' code is there.
+    void clear() noexcept { kinds_.clear(); }
+
     /// Inside a handler: the current exception as an error of its kind; nothing when it has none.
     std::optional<Error> describeCurrent() const;
 

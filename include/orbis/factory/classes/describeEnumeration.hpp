@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <iterator>
 #include <limits>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -77,5 +78,22 @@ inline constexpr auto enumerationEntriesByValue = sortedByValue(enumerationEntri
 template <PublishedEnumeration E>
 inline constexpr EnumerationRecord enumerationRecord{HostEnumeration<E>::name, enumerationEntriesOf<E>,
                                                      enumerationEntriesByValue<E>};
+
+/// How to reach what is known of a native enumeration.
+template <class E>
+struct EnumerationOf;
+
+template <PublishedEnumeration E>
+struct EnumerationOf<E> {
+    static constexpr EnumerationRecord const& record() { return enumerationRecord<E>; }
+    static constexpr char const* name() { return HostEnumeration<E>::name; }
+
+    /// The data type of vectors.
+    static char const* vectorText()
+    {
+        static std::string const text = std::string(name()) + " vector";
+        return text.c_str();
+    }
+};
 
 } // namespace orbis::factory::detail

@@ -8,22 +8,9 @@
 
 #include "orbis/objectArrays.hpp"
 
-#include <string>
 #include <vector>
 
 namespace orbis::factory {
-
-namespace detail {
-
-/// Outside the exported class, so that each module has its own static text.
-template <class E>
-char const* enumerationVectorText()
-{
-    static std::string const text = std::string(enumerationRecord<E>.hostName) + " vector";
-    return text.c_str();
-}
-
-} // namespace detail
 
 /// `std::vector` of enumerators, whichever side implements their class. Passed to the host as a row of their objects.
 /// From the host it takes all elements of an array of any size, in column order.
@@ -32,7 +19,7 @@ class EnumClassArrayPolicy {};
 template <>
 class ORBIS_FACTORY_API Marshaler<EnumClassArrayPolicy> : public detail::DataTypeName<Marshaler<EnumClassArrayPolicy>> {
     template <class Vector>
-    static constexpr EnumerationRecord const& record = detail::enumerationRecord<typename Vector::value_type>;
+    using Enumeration = detail::EnumerationOf<typename Vector::value_type>;
 
 public:
     Marshaler& operator=(Marshaler const&);
@@ -41,12 +28,12 @@ public:
     template <class Vector>
     static void toHost(Vector const& values, hvArray** out)
     {
+        EnumerationRecord const& record = Enumeration<Vector>::record();
         COSNameID const className = getScalarClassID(dataTypeName<Vector>());
         detail::NewArray row(omCreateORBISMatrix(1, values.size(), className));
         for (std::size_t i = 0; i < values.size(); ++i)
-            omSetArrayElement(
-                row.get(), i,
-                detail::enumeratorObject(record<Vector>, className, static_cast<std::int64_t>(values[i])));
+            omSetArrayElement(row.get(), i,
+                              detail::enumeratorObject(record, className, static_cast<std::int64_t>(values[i])));
         *out = row.release();
     }
 
@@ -54,18 +41,19 @@ public:
     static Vector fromHost(hvArray_tag const* in)
     {
         std::size_t const count = in ? in->get_number_of_elements() : 0;
+        EnumerationRecord const& record = Enumeration<Vector>::record();
         Vector values;
         values.reserve(count);
         for (std::size_t i = 0; i < count; ++i)
-            values.push_back(static_cast<typename Vector::value_type>(
-                detail::enumeratorValue(record<Vector>, omGetArrayElement(in, i))));
+            values.push_back(
+                static_cast<typename Vector::value_type>(detail::enumeratorValue(record, omGetArrayElement(in, i))));
         return values;
     }
 
     template <class Vector>
     static char const* dataTypeText()
     {
-        return detail::enumerationVectorText<typename Vector::value_type>();
+        return Enumeration<Vector>::vectorText();
     }
 
 private:

@@ -27,22 +27,22 @@ ORBIS_FACTORY_API std::int64_t enumeratorFromHost(EnumerationRecord const& enume
 /// names and numbers to the enumerator's object.
 class EnumerationMarshaler : public DataTypeName<EnumerationMarshaler> {
 public:
-    template <PublishedEnumeration E>
+    template <class E>
     static void toHost(E const& value, hvArray** out)
     {
-        *out = enumeratorToHost(enumerationRecord<E>, static_cast<std::int64_t>(value));
+        *out = enumeratorToHost(EnumerationOf<E>::record(), static_cast<std::int64_t>(value));
     }
 
-    template <PublishedEnumeration E>
+    template <class E>
     static E fromHost(hvArray_tag const* in)
     {
-        return static_cast<E>(enumeratorFromHost(enumerationRecord<E>, in));
+        return static_cast<E>(enumeratorFromHost(EnumerationOf<E>::record(), in));
     }
 
-    template <PublishedEnumeration E>
+    template <class E>
     static constexpr char const* dataTypeText()
     {
-        return HostEnumeration<E>::name;
+        return EnumerationOf<E>::name();
     }
 };
 
