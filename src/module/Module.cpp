@@ -1,12 +1,14 @@
 #include "orbis/factory/Module.hpp"
 
 #include "orbis/factory/base/Exception.hpp"
+#include "orbis/factory/detail/arrays/NewCells.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "module/NamedClassInfo.hpp"
 #include "module/cppName.hpp"
 
 #include <mutex>
+#include <string_view>
 #include <utility>
 
 namespace orbis::factory {
@@ -44,6 +46,12 @@ char const* detail::ClassNames::add(std::string name)
     return first_->text.c_str();
 }
 
+/// The kind of errors that `error` has added last.
+struct Module::ErrorInProgress {
+    host_extensions::ErrorKind kind;
+    void (*throwPointer)();
+};
+
 Module::Module(COSPackage& package, std::string fullName) : package_(package), fullName_(std::move(fullName)) {}
 
 Module::~Module() = default;
@@ -68,9 +76,30 @@ void Module::addClass(detail::NamedClass const& named, std::unique_ptr<ClassDesc
     package_.addClass(new NamedClassInfo(named, std::move(description), text));
 }
 
-void Module::addErrorKind(host_extensions::ErrorKind kind)
+void Module::addErrorKind(host_extensions::ErrorKind kind, void (*throwPointer)())
 {
-    host_extensions::addErrorKind(std::move(kind));
+    lastError_ = std::make_unique<ErrorInProgress>(ErrorInProgress{std::move(kind), throwPointer});
+    host_extensions::addErrorKind(lastError_->kind);
+}
+
+void Module::addErrorField(char const* name, bool (*isOf)(void (*throwPointer)()), std::function<void(COSValue&)> read)
+{
+    auto const refuse = [&](char const* reason) {
+        throw Exception(std::string("The field \"") + name + "\" cannot be added to an error: " + reason + '.');
+    };
+    if (!lastError_)
+        refuse("call error<...>() first");
+    if (!isOf(lastError_->throwPointer))
+        refuse("its getter reads another class of exceptions");
+    for (char const* const own : {"identifier", "text", "where", "cause"})
+        if (std::string_view(name) == own)
+            refuse("every error has one of that name");
+    lastError_->kind.fields.push_back({name, [read = std::move(read)] {
+                                           COSValue value;
+                                           read(value);
+                                           return detail::toArray(value);
+                                       }});
+    host_extensions::addErrorKind(lastError_->kind);
 }
 
 void Module::complete()

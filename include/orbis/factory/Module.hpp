@@ -4,6 +4,7 @@
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/detail/objects/ClassNames.hpp"
+#include "orbis/factory/marshaling/PropertyValue.hpp"
 
 #include "host_extensions/ErrorKind.hpp"
 #include "orbis/COSPackage.hpp"
@@ -11,6 +12,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <typeinfo>
 #include <utility>
 
@@ -27,6 +29,20 @@ std::string errorText(E const& error)
                                     "its text.");
     return error.what();
 }
+
+/// The class of exceptions that a getter reads.
+template <class G>
+struct ErrorGetter {
+    template <class R, class C>
+    static std::type_identity<C> of(R (*)(C const&));
+
+    using Class = typename decltype(of(+std::declval<G>()))::type;
+};
+
+template <class M, class C>
+struct ErrorGetter<M C::*> {
+    using Class = C;
+};
 
 } // namespace detail
 
@@ -95,11 +111,12 @@ public:
     /// Gives native exceptions of type `E`, and of types derived from it that have none, an identifier by which scripts
     /// tell them apart: `module.error<ParseError>("spatial:parse")`. Their text is `what()`, or what `text` gives: a
     /// function or captureless lambda that takes an `E const&` and returns a `std::string`. Exceptions with a message
-    /// identifier keep that. Returns this.
+    /// identifier keep that. Returns this; `field` adds values to the error.
     template <class E>
     Module& error(char const* identifier, std::string (*text)(E const&) = detail::errorText<E>)
     {
-        addErrorKind({identifier, &typeid(E), [text](std::string& result) {
+        addErrorKind({identifier, &typeid(E),
+                      [text](std::string& result) {
                           try {
                               throw;
                           } catch (E const& error) {
@@ -108,7 +125,46 @@ public:
                           } catch (...) {
                               return false;
                           }
-                      }});
+                      }},
+                     [] { throw static_cast<E*>(nullptr); });
+        return *this;
+    }
+
+    /// Adds a value to the errors that `error` was called for before this, which scripts read by its name:
+    ///
+    ///     module.error<ParseError>("spatial:parse").field("line", &ParseError::line)
+    ///
+    /// `getter` is a data member or a member function without parameters, of the exception or a public base, or a
+    /// function or captureless lambda that takes one. The value is converted when the exception leaves native code; one
+    /// that cannot be is left out. Returns this.
+    ///
+    /// Throws an `Exception` when the getter is of another class, or the name is "identifier", "text", "where" or
+    /// "cause".
+    template <class G>
+    Module& field(char const* name, G getter)
+    {
+        using E = typename detail::ErrorGetter<G>::Class;
+        using V = std::remove_cvref_t<std::invoke_result_t<G, E const&>>;
+        if constexpr (detail::isMarshalable<V>())
+            addErrorField(
+                name,
+                [](void (*throwPointer)()) {
+                    try {
+                        throwPointer();
+                    } catch (E const*) {
+                        return true;
+                    } catch (...) {
+                        return false;
+                    }
+                    return false;
+                },
+                [getter](COSValue& value) {
+                    try {
+                        throw;
+                    } catch (E const& error) {
+                        value = detail::toValue<V>([&]() -> decltype(auto) { return std::invoke(getter, error); });
+                    }
+                });
         return *this;
     }
 
@@ -116,13 +172,17 @@ public:
     void complete();
 
 private:
+    struct ErrorInProgress;
+
     void setName(detail::NamedClass& named, detail::ClassNames& names, char const* name, Owner owner);
-    void addErrorKind(host_extensions::ErrorKind kind);
+    void addErrorKind(host_extensions::ErrorKind kind, void (*throwPointer)());
+    void addErrorField(char const* name, bool (*isOf)(void (*throwPointer)()), std::function<void(COSValue&)> read);
     void addClass(detail::NamedClass const& named, std::unique_ptr<ClassDescription> description, char const* text);
 
     COSPackage& package_;
     std::string fullName_;
     FunctionDescriber functions_;
+    std::unique_ptr<ErrorInProgress> lastError_;
 };
 
 /// Publishes a package that `fill` fills, as `registerOrbisPackage` does; for programs that publish classes themselves.
