@@ -17,6 +17,17 @@ namespace orbis::factory {
 template <class... D>
 class Defaults;
 
+/// Defined in Implemented.hpp.
+template <class T>
+class Implemented;
+
+namespace detail {
+
+template <class T, class S, class... A>
+MemberRecord implementationRecord(char const* names, MethodText const& text);
+
+} // namespace detail
+
 /// Describes the class `T`, one line per member:
 ///
 ///     publish(cls, describe<Adder>()
@@ -90,6 +101,24 @@ public:
     {
         constructor<A...>(names, text, attributes);
         return addAll(defaults.template shortenConstructor<T, A...>(members().back()));
+    }
+
+    /// Lets scripts implement the class, which has virtual functions, by a table of functions: adds a constructor that
+    /// takes one, and then values of the types `A`, with which it constructs an `S`. See `Implemented`.
+    template <class S, class... A>
+    ClassDescriber& implementedBy(ParameterNames<sizeof...(A)> names = {}, MethodText const& text = {})
+    {
+        constexpr bool isImplementation = std::is_base_of_v<Implemented<T>, S> && NamedType<T>;
+        static_assert(isImplementation, "A class that scripts implement is published by a Module; what implements it "
+                                        "derives from orbis::factory::Implemented of it.");
+        if constexpr (isImplementation) {
+            constexpr bool exists = std::is_constructible_v<S, detail::NativeParameter<A>...>;
+            static_assert(exists, "The implementation has no public constructor that takes these parameter types: say "
+                                  "`using Implemented::Implemented;` in it, and override all abstract functions.");
+            if constexpr (exists && detail::signatureCanCross<void>(detail::TypeList<A...>{}))
+                add(detail::implementationRecord<T, S, A...>(names.text(), text));
+        }
+        return *this;
     }
 
     /// Adds a method: a member function of `T` or of a public base, or a free function, lambda or functor that takes a
