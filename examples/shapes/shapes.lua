@@ -6,13 +6,23 @@ function square(side)
     }
 end
 
-local drawing = shapes.Drawing()
+drawing = shapes.Drawing()
 drawing:add(square(3))
 drawing:add(shapes.Shape{area = function() return 5 end, scale = function() end})
 drawing:scale(2)
 print(drawing:describe())
 
-local wrong = shapes.Shape{area = function() error("too large", 0) end}
+wrong = shapes.Shape{area = function() error("too large", 0) end}
 print(pcall(wrong.area, wrong))
 print(pcall(wrong.scale, wrong, 2))
 print(pcall(shapes.Shape, {area = 5}))
+
+do -- a function may refer to its own object
+    local shape
+    shape = shapes.Shape{area = function() return shape and 1 end, scale = function() end}
+    print(shape:area())
+end
+drawing, wrong = nil
+collectgarbage()
+collectgarbage()
+print(#objects())

@@ -8,6 +8,8 @@
 
 #include "marshal/throwError.hpp"
 
+#include "host_extensions/OwnedFunction.hpp"
+
 #include <algorithm>
 
 namespace orbis::factory::detail {
@@ -20,7 +22,7 @@ ScriptFunctions& ScriptFunctions::operator=(ScriptFunctions&&) noexcept = defaul
 
 ScriptFunctions::~ScriptFunctions() = default;
 
-ScriptFunctions::ScriptFunctions(hvArray_tag const* table)
+ScriptFunctions::ScriptFunctions(hvArray_tag const* table, COSInterface* host)
 {
     ElementReader<std::string> const names;
     MapEntries entries(table);
@@ -30,9 +32,12 @@ ScriptFunctions::ScriptFunctions(hvArray_tag const* table)
             entries.select(i);
             return names.read(entries.key());
         });
-        if (!host_extensions::getFunction(entries.value()))
+        COSMethodInfo* const function = host_extensions::getFunction(entries.value());
+        if (!function)
             throwNotConvertible("key \"" + name + "\": a script implements a class by functions, and this is none");
         functions_.emplace_back(std::move(name), host_extensions::FunctionHandle(entries.value()));
+        if (auto* const owned = dynamic_cast<host_extensions::OwnedFunction*>(function))
+            owned->setOwner(host);
     }
 }
 

@@ -81,11 +81,11 @@ struct ImplementationRoutine {
     static void invoke(impl::Invoker const*, COSClient const*, int& outputCount, COSValue* outputs, int,
                        COSValue const* inputs)
     {
-        ScriptFunctions functions(inputs[0].array());
-        ArgumentsOf<A...> arguments(inputs + 1);
-        Transfer<A...> transfer(NoWhole(), inputs + 1);
         NamedClass const& named = namedClassOf<T>();
         COSInterfacePtr const host = omGetArrayElement(outputs[0].array(), 0);
+        ScriptFunctions functions(inputs[0].array(), host);
+        ArgumentsOf<A...> arguments(inputs + 1);
+        Transfer<A...> transfer(NoWhole(), inputs + 1);
         std::unique_ptr<T> object = arguments.apply([&](auto&&... values) {
             auto made = std::make_unique<S>(static_cast<decltype(values)>(values)...);
             static_cast<Implemented<T>&>(*made).functions_ = std::move(functions);

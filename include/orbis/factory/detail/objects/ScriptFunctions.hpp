@@ -5,6 +5,7 @@
 
 #include "host_extensions/functionValues.hpp"
 #include "libhv/hvArray.hpp"
+#include "orbis/COSInterface.hpp"
 
 #include <string>
 #include <utility>
@@ -17,8 +18,9 @@ class ORBIS_FACTORY_API ScriptFunctions {
 public:
     ScriptFunctions();
 
-    /// From a table with texts as its keys. Throws the `not_convertible` error for other values than functions.
-    explicit ScriptFunctions(hvArray_tag const* table);
+    /// From a table with texts as its keys, for the native object of `host`. Throws the `not_convertible` error for
+    /// other values than functions.
+    ScriptFunctions(hvArray_tag const* table, COSInterface* host);
     ScriptFunctions(ScriptFunctions&&) noexcept;
     ScriptFunctions& operator=(ScriptFunctions&&) noexcept;
     ~ScriptFunctions();
