@@ -14,6 +14,7 @@ class ErrorKinds {
 public:
     /// Replaces an earlier kind of the same type.
     void add(orbis::host_extensions::ErrorKind kind);
+    void clear() noexcept { kinds_.clear(); }
 
     /// Inside a handler: the current exception as an error of its kind; nothing when it has none.
     std::optional<Error> describeCurrent() const;
