@@ -13,6 +13,7 @@
 #include "scripts/ErrorReport.hpp"
 #include "scripts/ScriptLibraries.hpp"
 #include "scripts/ScriptRunner.hpp"
+#include "values/ErrorFields.hpp"
 
 #include <cstdio>
 
@@ -39,6 +40,7 @@ void prepare(lua_State* L, Run const& run)
     }
     bindArrayFunctions(L);
     bindObjectMembers(L);
+    bindErrorFields(L);
     bindObjectFunctions(L);
     bindEnumerationFunction(L);
     bindHelpFunctions(L);

@@ -2,6 +2,7 @@
 
 #include "handles/ArrayStack.hpp"
 #include "handles/HeldArrays.hpp"
+#include "handles/OwnedFunctions.hpp"
 #include "lua/LuaApi.hpp"
 
 #include "velmara/Hvm.hpp"
@@ -28,6 +29,7 @@ public:
 
     ArrayStack& arrays() { return arrays_; }
     HeldArrays& heldArrays() { return heldArrays_; }
+    OwnedFunctions& ownedFunctions() { return ownedFunctions_; }
 
     /// The virtual machine in use: the innermost one.
     Hvm& hvm() { return *machines_.back(); }
@@ -97,6 +99,7 @@ private:
     std::vector<std::unique_ptr<Hvm>> machines_;
     ArrayStack arrays_;
     HeldArrays heldArrays_;
+    OwnedFunctions ownedFunctions_;
     bool hasFailed_ = false;
     bool isClosing_ = false;
     bool reportsLeaks_;

@@ -6,6 +6,7 @@
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
 
+#include "host_extensions/NativeOwner.hpp"
 #include "host_extensions/host_extensions.hpp"
 #include "orbis/objectArrays.hpp"
 
@@ -29,10 +30,47 @@ Holder* holderAt(lua_State* L, int index)
     return static_cast<Holder*>(lua_touserdata(L, index));
 }
 
+orbis::COSInterface* hostIn(hvArray_tag const* array, std::size_t index = 0)
+{
+    return array ? static_cast<orbis::COSInterface*>(orbis::omGetArrayElement(array, index)) : nullptr;
+}
+
 int releaseObject(lua_State* L)
 {
-    HostContext::of(L).heldArrays().release(*holderAt(L, 1)).reset();
+    HostContext& context = HostContext::of(L);
+    Holder& holder = *holderAt(L, 1);
+    OwnedFunctions& functions = context.ownedFunctions();
+    if (!functions.empty() && !context.isClosing())
+        if (orbis::COSInterface const* const host = hostIn(holder.array); functions.isValue(host, &holder))
+            functions.release(L, host, 1);
+    context.heldArrays().release(holder).reset();
     return 0;
+}
+
+/// Whether anything but a value of the script may use the object.
+bool isUsedElsewhere(HostContext& context, orbis::COSInterface const* host, hvArray_tag const* array)
+{
+    if (!isValid(array))
+        return false;
+    Hvm::Scope const scope(context.hvm());
+    auto const* const owner = orbis::host_extensions::nativeOwnerOf(host);
+    return host->getExternalReferenceCount() > 0 || host->getInternalReferenceCount() > 1 || !owner ||
+           !owner->ownsAlone(host);
+}
+
+/// Lua has found the value to be garbage.
+int collectObject(lua_State* L)
+{
+    HostContext& context = HostContext::of(L);
+    Holder const& holder = *holderAt(L, 1);
+    OwnedFunctions& functions = context.ownedFunctions();
+    orbis::COSInterface const* const host = functions.empty() ? nullptr : hostIn(holder.array);
+    if (!context.isClosing() && functions.isValue(host, &holder) &&
+        (functions.isWanted(host) || isUsedElsewhere(context, host, holder.array))) {
+        functions.keep(L, host, 1);
+        return 0;
+    }
+    return releaseObject(L);
 }
 
 /// The name of the enumerator at `index`; null for other objects.
@@ -66,7 +104,7 @@ void pushMetatable(lua_State* L, std::string_view className)
 {
     pushCached(L, "velmara.classes", className, [&] {
         lua_newtable(L);
-        setField(L, "__gc", guarded<releaseObject>);
+        setField(L, "__gc", guarded<collectObject>);
         setField(L, "__close", guarded<releaseObject>);
         setField(L, "__eq", guarded<compareObjects>);
         setField(L, "__tostring", guarded<objectText>);
@@ -87,15 +125,22 @@ void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
     HostContext::of(L).requireOpen();
     luaL_checkstack(L, 10, nullptr);
+    OwnedFunctions& functions = HostContext::of(L).ownedFunctions();
+    orbis::COSInterface const* const host = functions.empty() ? nullptr : hostIn(array, index);
+    bool const hasFunctions = functions.has(host);
+    if (hasFunctions && functions.pushValue(L, host))
+        return;
     ArrayStack::Frame frame(HostContext::of(L).arrays());
     hvArray_tag* scalar = frame.push(ArrayPtr(orbis::omCreateORBISScalar(orbis::omGetArrayElement(array, index))));
     if (scalar->get_number_of_elements() == 0)
         return lua_pushnil(L);
-    auto* holder = new (lua_newuserdatauv(L, sizeof(Holder), 0)) Holder;
+    auto* holder = new (lua_newuserdatauv(L, sizeof(Holder), hasFunctions ? 1 : 0)) Holder;
     pushMetatable(L, className(scalar));
     lua_setmetatable(L, -2);
     scalar->add_reference();
     HostContext::of(L).heldArrays().hold(*holder, ArrayPtr(scalar));
+    if (hasFunctions)
+        functions.anchor(L, host);
 }
 
 void completeMetatablesWith(lua_State* L, lua_CFunction complete)

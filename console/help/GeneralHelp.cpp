@@ -25,7 +25,8 @@ char const* const generalHelp = R"(velmara runs Lua 5.4 scripts that use the cla
                                      in a virtual machine of its own
   enumeration("package.Name", {"A", "B", {"C", 7}})   define an enumeration
 
-Errors are caught with pcall: a table with identifier, text and where.
+Errors are caught with pcall: a table with identifier, text and where, the cause
+if native code gives one, and what else the module gives.
 
 Values to a module                   and back
   number, integer to 2^53  double      double, single, one   float

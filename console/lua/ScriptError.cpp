@@ -5,8 +5,6 @@
 #include "lua/ScriptFrames.hpp"
 #include "lua/Table.hpp"
 
-#include "velmara/Error.hpp"
-
 #include "libkwfl/IMsgIDException.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 
@@ -16,6 +14,9 @@
 namespace velmara::console {
 
 namespace {
+
+// Its address is the key of the function in the registry that converts values of fields.
+char const conversionKey = 0;
 
 int errorToText(lua_State* L)
 {
@@ -42,6 +43,32 @@ void pushError(lua_State* L, std::string_view identifier, std::string_view text)
         setField(L, "where", frames.front().position);
     pushNamedMetatable(L, "velmara.error", [L] { setField(L, "__tostring", guarded<errorToText>); });
     lua_setmetatable(L, -2);
+}
+
+void pushError(lua_State* L, Error const& error)
+{
+    pushError(L, error.identifier(), error.text());
+    for (ErrorField const& field : error.fields()) {
+        lua_rawgetp(L, LUA_REGISTRYINDEX, &conversionKey);
+        lua_pushlightuserdata(L, const_cast<hvArray_tag*>(field.value.get()));
+        if (lua_pcall(L, 1, 1, 0) == LUA_OK) {
+            pushText(L, field.name);
+            lua_insert(L, -2);
+            lua_rawset(L, -3);
+        } else {
+            lua_pop(L, 1); // the error itself is what the script needs
+        }
+    }
+    if (error.cause()) {
+        pushError(L, *error.cause());
+        lua_setfield(L, -2, "cause");
+    }
+}
+
+void convertFieldsWith(lua_State* L, lua_CFunction convert)
+{
+    lua_pushcfunction(L, convert);
+    lua_rawsetp(L, LUA_REGISTRYINDEX, &conversionKey);
 }
 
 bool isError(lua_State* L, int index)
@@ -80,7 +107,7 @@ int callGuarded(lua_State* L, lua_CFunction body)
     } catch (ScriptFailure const& failure) {
         pushFailure(L, failure);
     } catch (Error const& error) {
-        pushError(L, error.identifier(), error.text());
+        pushError(L, error);
     } catch (foundation::core::except::IMsgIDException const& error) {
         pushError(L, error.getErrorID(), fl::i18n::to_string(error.GetUnicodeMessageTxt()));
     } catch (std::bad_alloc const&) {

@@ -2,14 +2,22 @@
 
 #include "lua/LuaApi.hpp"
 
+#include "velmara/Error.hpp"
+
 #include <string>
 #include <string_view>
 
 namespace velmara::console {
 
 /// What a script catches for a failure in the host or in the console: a table with `identifier`, `text` and `where`
-/// ("FILE:LINE" of the call), which prints as "identifier: text".
+/// ("FILE:LINE" of the call), which prints as "identifier: text". The fields of an error are fields of its table, and
+/// so is its `cause`, a table like it.
 void pushError(lua_State* L, std::string_view identifier, std::string_view text);
+void pushError(lua_State* L, Error const& error);
+
+/// Has `convert` called for the value of each field of an error: it is given the array as a light userdata, and returns
+/// the value.
+void convertFieldsWith(lua_State* L, lua_CFunction convert);
 
 /// True when the value at `index` is a table with the texts `identifier` and `text`.
 bool isError(lua_State* L, int index);

@@ -93,7 +93,7 @@ void pushFailure(lua_State* L, ScriptFailure const& failure)
         }
         lua_pop(L, 2);
     }
-    pushError(L, failure.identifier(), failure.text());
+    pushError(L, static_cast<Error const&>(failure));
 }
 
 std::vector<ScriptFrame> failureFrames(lua_State* L, int index, std::vector<ScriptFrame> running)

@@ -24,6 +24,28 @@ struct Report {
     std::string position; ///< "FILE:LINE", when the error itself has it
 };
 
+/// A line for each error that led to the one at `index`, unless that has their texts itself.
+std::string causes(lua_State* L, int index)
+{
+    std::string text;
+    bool isTold = fieldText(L, index, "identifier") == "VELMARA:native:exception";
+    int const top = lua_gettop(L);
+    lua_pushvalue(L, index);
+    for (int depth = 0; depth < 8; ++depth) {
+        lua_pushliteral(L, "cause");
+        lua_rawget(L, -2);
+        if (!isError(L, -1))
+            break;
+        lua_remove(L, -2);
+        int const cause = lua_gettop(L);
+        if (!isTold)
+            text += "\n  because of " + fieldText(L, cause, "identifier") + ": " + fieldText(L, cause, "text");
+        isTold = fieldText(L, cause, "identifier") == "VELMARA:native:exception";
+    }
+    lua_settop(L, top);
+    return text;
+}
+
 /// The length of "FILE:LINE" in front of a text, where Lua puts it; 0 where there is none.
 std::size_t positionLength(std::string const& text)
 {
@@ -52,7 +74,8 @@ std::string suggestion(lua_State* L, std::string const& text)
 Report reportOf(lua_State* L, int index, std::string const& identifier)
 {
     if (isError(L, index))
-        return {fieldText(L, index, "identifier"), fieldText(L, index, "text"), fieldText(L, index, "where")};
+        return {fieldText(L, index, "identifier"), fieldText(L, index, "text") + causes(L, index),
+                fieldText(L, index, "where")};
     Report report{identifier, errorText(L, index), {}};
     if (std::size_t const length = lua_isstring(L, index) ? positionLength(report.text) : 0) {
         report.position = report.text.substr(0, length);

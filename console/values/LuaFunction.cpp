@@ -80,6 +80,8 @@ LuaFunction::LuaFunction(lua_State* L, int index) : host_(HostContext::of(L))
 
 LuaFunction::~LuaFunction()
 {
+    if (owner_)
+        host_.ownedFunctions().remove(owner_, *this);
     lua_State* const L = host_.running();
     if (L && lua_checkstack(L, 4))
         luaL_unref(L, LUA_REGISTRYINDEX, reference_);
@@ -88,9 +90,38 @@ LuaFunction::~LuaFunction()
 bool LuaFunction::push(lua_State* L) const
 {
     bool const isOurs = &HostContext::of(L) == &host_;
-    if (isOurs)
-        lua_rawgeti(L, LUA_REGISTRYINDEX, reference_);
-    return isOurs;
+    if (!isOurs)
+        return false;
+    if (reference_ != LUA_NOREF)
+        pushHeld(L);
+    else if (!host_.ownedFunctions().pushFunction(L, owner_, *this))
+        fail("lost", "a function of the script is lost, because memory was exhausted");
+    return true;
+}
+
+void LuaFunction::setOwner(orbis::COSInterface* owner)
+{
+    if (owner_)
+        return;
+    host_.ownedFunctions().add(owner, *this);
+    owner_ = owner;
+}
+
+void LuaFunction::pushHeld(lua_State* L) const
+{
+    lua_rawgeti(L, LUA_REGISTRYINDEX, reference_);
+}
+
+void LuaFunction::drop(lua_State* L) noexcept
+{
+    luaL_unref(L, LUA_REGISTRYINDEX, reference_);
+    reference_ = LUA_NOREF;
+}
+
+void LuaFunction::hold(lua_State* L)
+{
+    reference_ = luaL_ref(L, LUA_REGISTRYINDEX);
+    owner_ = nullptr;
 }
 
 void LuaFunction::invoke(orbis::COSClient const*, int& outputCount, orbis::COSValue* outputs, int inputCount,

@@ -84,6 +84,13 @@ cannot_take::cannot_take(std::string const& className, std::string const& reason
 
 cannot_take::~cannot_take() = default;
 
+not_implemented::not_implemented(std::string const& className, std::string const& member, std::string const& type)
+    : BaseMsgID(catalog(), "not_implemented", {className, member, type})
+{
+}
+
+not_implemented::~not_implemented() = default;
+
 null_fcn_ptr::null_fcn_ptr() : BaseMsgID(catalog(), "null_fcn_ptr") {}
 
 null_fcn_ptr::~null_fcn_ptr() = default;

@@ -27,6 +27,7 @@ constexpr orbis::host_extensions::Message texts[] = {
     {"cannot_share", "The object of class \"{0}\" cannot be shared: {1}."},
     {"cannot_keep", "The object of class \"{0}\" cannot be kept: {1}."},
     {"cannot_take", "The object of class \"{0}\" cannot be taken: {1}."},
+    {"not_implemented", "The object of class \"{0}\" has no \"{1}\": the script that implements it must give a {2}."},
     {"null_fcn_ptr", "The property has no function for this access: it can be either read or written, not both."},
     {"no_such_class", "An object of the class {0} cannot be handed out, because no such class is published: load the "
                       "module that publishes it."},

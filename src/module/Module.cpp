@@ -1,6 +1,7 @@
 #include "orbis/factory/registerModule.hpp"
 
 #include "orbis/factory/base/Exception.hpp"
+#include "orbis/factory/detail/arrays/NewCells.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "module/NamedClassInfo.hpp"
@@ -8,9 +9,12 @@
 #include "module/cppName.hpp"
 #include "module/publishedName.hpp"
 
+#include "host_extensions/ErrorKind.hpp"
+
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <string_view>
 #include <utility>
 
 namespace orbis::factory {
@@ -48,6 +52,12 @@ char const* detail::ClassNames::add(std::string name)
     return first_->text.c_str();
 }
 
+/// The kind of errors that `error` has added last.
+struct Module::ErrorInProgress {
+    host_extensions::ErrorKind kind;
+    void (*throwPointer)();
+};
+
 Module::Module(COSPackage& package, std::string fullName) : package_(package), fullName_(std::move(fullName)) {}
 
 Module::~Module() = default;
@@ -78,9 +88,33 @@ ClassDescription& Module::addClass(detail::NamedClass& named, detail::NewObject<
     return result;
 }
 
-void Module::addErrorKind(host_extensions::ErrorKind const& kind)
+void Module::addErrorKind(char const* identifier, std::type_info const& type,
+                          bool (*describe)(void (*text)(), std::string& result), void (*text)(), void (*throwPointer)())
 {
-    host_extensions::addErrorKind(kind);
+    lastError_ = detail::NewObject<ErrorInProgress>(new ErrorInProgress{
+        {identifier, &type, [describe, text](std::string& result) { return describe(text, result); }}, throwPointer});
+    host_extensions::addErrorKind(lastError_->kind);
+}
+
+void Module::addErrorField(char const* name, bool (*isOf)(void (*throwPointer)()),
+                           void (*read)(impl::Callable const& getter, COSValue& value), impl::Callable getter)
+{
+    auto const refuse = [&](char const* reason) {
+        throw Exception(std::string("The field \"") + name + "\" cannot be added to an error: " + reason + '.');
+    };
+    if (!lastError_.get())
+        refuse("call error<...>() first");
+    if (!isOf(lastError_->throwPointer))
+        refuse("its getter reads another class of exceptions");
+    for (char const* const own : {"identifier", "text", "where", "cause"})
+        if (std::string_view(name) == own)
+            refuse("every error has one of that name");
+    lastError_->kind.fields.push_back({name, [read, getter] {
+                                           COSValue value;
+                                           read(getter, value);
+                                           return detail::toArray(value);
+                                       }});
+    host_extensions::addErrorKind(lastError_->kind);
 }
 
 void Module::complete()

@@ -2,6 +2,8 @@
 
 #include "orbis/factory/detail/bindings/bindings.hpp"
 
+#include "module/objectShares.hpp"
+
 #include <algorithm>
 #include <utility>
 
@@ -55,6 +57,15 @@ void NamedClassInfo::discardNative(void* native) noexcept
     void* const object = named_.isOwnedByHost && named_.destroy ? detail::fromBound(named_, native) : nullptr;
     if (object)
         named_.destroy(object);
+}
+
+bool NamedClassInfo::ownsAlone(COSInterface const* host) const
+{
+    basic::HostShares::Share const* const share = objectShares().find(host);
+    if (!share)
+        return named_.isOwnedByHost;
+    auto const* const shared = std::get_if<std::shared_ptr<void>>(share);
+    return shared && shared->use_count() == 1;
 }
 
 bool NamedClassInfo::comparesNatives() const

@@ -33,6 +33,7 @@ public:
     ClassAccess getAccess() const override;
     char const* nativeOwner() const override;
     void discardNative(void* native) noexcept override;
+    bool ownsAlone(COSInterface const* host) const override;
     bool comparesNatives() const override;
     bool areEqual(void* a, void* b) const override;
     Extent extentOf(void* bound) const override;

@@ -22,6 +22,46 @@ local derived = probe.inner.most.makeDerived()
 print(class(derived), derived.metres, derived.length)
 return {derived, probe.Shared(3)}
 
+local point = probe.named.Point(2)
+local twin = copy(point)
+print(twin == point, probe.named.Point(point) == point, twin.x)
+return {twin, point}
+
+local keeper, point = probe.named.Keeper(), probe.named.Point(1)
+keeper:keep(point)
+keeper:keep(point)
+keeper:take(probe.named.Point(3))
+print(keeper:copied() == point, pcall(keeper.take, keeper, point))
+delete(point)
+return {keeper, keeper:copied()}
+
+local keeper = probe.named.Keeper()
+local shape = probe.named.Shape{area = function(self) return isvalid(self) and 2 or 3 end}
+print(pcall(shape.width, shape))
+keeper:adopt(shape)
+print(keeper:area(), isvalid(shape))
+return keeper
+
+local keeper = probe.named.Keeper()
+do
+  local shape
+  shape = probe.named.Shape{area = function() return isvalid(shape) and 4 or 5 end}
+  keeper:share(shape)
+end
+collectgarbage()
+print(keeper:area())
+collectgarbage()
+print(keeper:area())
+return keeper
+
+local shape
+shape = probe.named.Shape{area = function() return shape and 1 end}
+print(pcall(shape.width, shape))
+
+local failure = select(2, pcall(probe.named.fail))
+print(failure, failure.cause, failure.cause.place)
+return failure.identifier
+
 local most = probe.inner.most
 local function twice(x) return most.sum({x, x}) end
 print(most.keep(twice), most.kept()(3), most.keep(most.kept()), pcall(most.keep, function(x) error("failed " .. x, 0) end))

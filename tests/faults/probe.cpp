@@ -2,6 +2,7 @@
 #include "library/publishClass.hpp"
 
 #include "orbis/factory.hpp"
+#include "orbis/factory/Implemented.hpp"
 #include "orbis/factory/types/DataTypePolicy.hpp"
 #include "orbis/factory/types/chrono.hpp"
 #include "orbis/factory/types/complex.hpp"
@@ -100,6 +101,68 @@ struct Derived : Shared {
 struct Native : Thing<full::Wrappable, 1> {
     using Thing::Thing;
 };
+
+/// Copied and compared without being told.
+struct Point {
+    explicit Point(double given) : x(given) { callback(); }
+    bool operator==(Point const& other) const { return callback(), x == other.x; }
+    double x;
+};
+
+struct Shape {
+    virtual ~Shape() = default;
+    virtual double area() const = 0;
+    virtual double width() const = 0;
+};
+
+struct ScriptShape : Implemented<Shape> {
+    double area() const override { return callback(), call<double>("area"); }
+    double width() const override { return call<double>("width"); }
+};
+
+struct Keeper {
+    void keep(Point& given) { callback(), point = &given; }
+    void take(Point* given) { callback(), points.emplace_back(given); }
+    void adopt(std::unique_ptr<Shape> given) { callback(), shape = std::move(given); }
+    void share(std::shared_ptr<Shape> given) { callback(), shape = std::move(given); }
+    Point const* get() const { return callback(), point; }
+    double area() const { return shape->area(); }
+    Point* point = nullptr;
+    std::vector<std::unique_ptr<Point>> points;
+    std::shared_ptr<Shape> shape;
+};
+
+struct Failure : std::runtime_error {
+    Failure() : std::runtime_error("failed, and that is not short") {}
+    std::string place() const { return callback(), "a place whose name is not short"; }
+};
+
+void fail()
+{
+    callback();
+    try {
+        throw Failure();
+    } catch (...) {
+        std::throw_with_nested(std::runtime_error("failed outside"));
+    }
+}
+
+void publishNamed(Module& named)
+{
+    callback("initializer");
+    named.publish<Point>("Point").constructor<double>("x").property("x", &Point::x);
+    named.publish<Shape>("Shape").implementedBy<ScriptShape>().method("width", &Shape::width);
+    named.publish<Keeper>("Keeper")
+        .constructor()
+        .method("keep", orbis::factory::kept(&Keeper::keep))
+        .method("take", taken(&Keeper::take))
+        .method("adopt", &Keeper::adopt)
+        .method("share", &Keeper::share)
+        .method("copied", copied(&Keeper::get))
+        .method("area", &Keeper::area);
+    named.error<Failure>("probe:failure").field("place", &Failure::place).function("fail", &fail);
+    callback("initializer");
+}
 
 /// What native code keeps whatever becomes of its host objects.
 struct {
@@ -264,6 +327,7 @@ struct Root final : COSPackageInfo {
         package->addClass(new Info<Derived, StdShareableHandleClassInfo<Derived>>);
         package->addClass(new Info<Native, HandleClassInfo<full::Wrappable, 0>>);
         callback("initializer");
+        registerModule("probe.named", publishNamed);
         registerOrbisPackage("probe.inner.most", [](COSPackage* inner) {
             publish(inner, describeFunctions()
                                .function("sum", &sum, "numbers")

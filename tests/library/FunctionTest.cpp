@@ -1,4 +1,5 @@
 #include "HvmTest.hpp"
+#include "library/Untyped.hpp"
 
 #include "orbis/factory.hpp"
 #include "orbis/factory/types/function.hpp"
@@ -16,37 +17,6 @@ struct Part {
     explicit Part(double given) : size(given) {}
     double size;
 };
-
-/// What the tests' functions are: the arrays that they are given, and the one that they give.
-using Body = std::function<ArrayPtr(std::vector<hvArray_tag*>)>;
-
-/// A function without a signature, as scripts have them.
-class Untyped final : public COSMethodInfo {
-public:
-    explicit Untyped(Body body) : body_(std::move(body)) {}
-
-    char const* getName() const override { return "untyped"; }
-    COSMethodSignature const* getMethodSignature() const override { return nullptr; }
-
-    void invoke(COSClient const*, int& outputCount, COSValue* outputs, int inputCount,
-                COSValue const* inputs) const override
-    {
-        std::vector<hvArray_tag*> arrays;
-        for (int i = 0; i < inputCount; ++i)
-            arrays.push_back(inputs[i].array());
-        ArrayPtr result = body_(arrays);
-        outputCount = result ? 1 : 0;
-        outputs[0] = COSValue(result.release());
-    }
-
-private:
-    Body body_;
-};
-
-ArrayPtr untyped(Body const& body)
-{
-    return ArrayPtr(createFunction(new Untyped(body)));
-}
 
 using Unary = std::function<double(double)>;
 using Visitor = std::function<void(Part&)>;

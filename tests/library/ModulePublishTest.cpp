@@ -101,6 +101,8 @@ struct Derived : Base {};
 
 struct ParseError : std::runtime_error {
     using std::runtime_error::runtime_error;
+    std::string file() const { return "data.txt"; }
+    int line = 12;
 };
 
 struct Code {
@@ -362,6 +364,56 @@ TEST_F(ModulePublishTest, ErrorsHaveTheIdentifiersOfTheirTypes)
                                     "tests:runtime: outer", "VELMARA:native:exception: Native code failed: as before"};
     for (std::int32_t how = 0; char const* const message : messages)
         EXPECT_EQ(messageOf(how++), message);
+}
+
+TEST_F(ModulePublishTest, ErrorsCarryFieldsAndWhatLedToThem)
+{
+    registerModule("fields", [](Module& fields) {
+        fields.error<std::logic_error>("tests:logic")
+            .error<ParseError>("tests:parse")
+            .field("line", &ParseError::line)
+            .field("file", &ParseError::file)
+            .field("broken", [](ParseError const&) -> int { throw Code{1}; })
+            .field("size", [](std::exception const& error) { return std::string_view(error.what()).size(); })
+            .function("fail", &fail)
+            .function(
+                "unread", +[] {
+                    try {
+                        fail(0);
+                    } catch (...) {
+                        std::throw_with_nested(Code{1});
+                    }
+                });
+        EXPECT_THROW(fields.field("number", &Code::number), Exception);
+        EXPECT_THROW(fields.field("text", &ParseError::line), Exception);
+    });
+    auto const errorOfCall = [&](char const* function, auto... arguments) {
+        try {
+            hvm().callFunction(function, inputs(matrix<std::int32_t>(1, 1, {arguments})...));
+        } catch (velmara::Error const& error) {
+            return error;
+        }
+        return velmara::Error("", "");
+    };
+    auto const expectParseError = [](velmara::Error const* error) {
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->identifier(), "tests:parse");
+        ASSERT_EQ(error->fields().size(), 3u);
+        EXPECT_EQ(error->fields()[0].name, "line");
+        EXPECT_EQ(*static_cast<int const*>(host_extensions::getData(error->fields()[0].value.get())), 12);
+        EXPECT_EQ(error->fields()[1].value->get_number_of_elements(), 8u);
+        EXPECT_EQ(error->fields()[2].name, "size");
+    };
+    velmara::Error const parse = errorOfCall("fields.fail", 0);
+    expectParseError(&parse);
+    EXPECT_FALSE(parse.cause());
+    velmara::Error const outer = errorOfCall("fields.fail", 3);
+    EXPECT_EQ(outer.identifier(), "VELMARA:native:exception");
+    ASSERT_TRUE(outer.cause());
+    EXPECT_STREQ(outer.cause()->what(), "tests:logic: inner");
+    velmara::Error const unread = errorOfCall("fields.unread");
+    EXPECT_EQ(unread.identifier(), "VELMARA:native:unknown");
+    expectParseError(unread.cause());
 }
 
 } // namespace

@@ -2,16 +2,29 @@
 
 #include "velmara/export.hpp"
 
+#include "libhv/hvArray.hpp"
+
 #include <exception>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace velmara {
+
+/// A value that goes with an error.
+struct ErrorField {
+    std::string name;
+    std::shared_ptr<hvArray_tag const> value; ///< of the virtual machine in which the error arose; null for none
+};
 
 /// A script error: what every failure inside the host or a module becomes. `what()` is "identifier: text" (UTF-8).
 class VELMARA_API Error : public std::exception {
 public:
     Error(std::string identifier, std::string text);
+    Error(std::string identifier, std::string text, std::vector<ErrorField> fields);
+
+    /// The same error, with the one that led to it.
+    Error(Error const& error, std::shared_ptr<Error const> cause);
     Error(Error const&) noexcept;
     ~Error() override;
 
@@ -22,6 +35,10 @@ public:
     std::string const& identifier() const;
     std::string const& text() const;
     char const* what() const noexcept override;
+    std::vector<ErrorField> const& fields() const;
+
+    /// The error that led to this one, where native code nested exceptions; else null.
+    Error const* cause() const;
 
 private:
     struct Texts;

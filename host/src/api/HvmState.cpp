@@ -36,7 +36,7 @@ HvmState::~HvmState()
     types_.clear();
     clearStorage(); // what was stored meanwhile, while the modules' code is there
     destroyRetired();
-    errorKinds().clear();
+    errorKinds().clear(); // whose functions are the modules'
     makeCurrent(previous == this ? nullptr : previous);
     Hvm::Scope::forget(*this);
 }

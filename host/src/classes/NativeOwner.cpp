@@ -8,6 +8,11 @@ NativeOwner::~NativeOwner() = default;
 
 void NativeOwner::discardNative(void*) noexcept {}
 
+bool NativeOwner::ownsAlone(COSInterface const*) const
+{
+    return false;
+}
+
 NativeOwner* nativeOwnerOf(COSNameID const& className)
 {
     COSClass* const cls = COSClass::getClass(className);

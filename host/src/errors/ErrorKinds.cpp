@@ -3,11 +3,35 @@
 #include "errors/MessageCatalog.hpp"
 #include "errors/hostError.hpp"
 
+#include "libhv/libhv.hpp"
+
 #include <algorithm>
 #include <cxxabi.h>
+#include <memory>
+#include <new>
 #include <utility>
 
 namespace velmara {
+
+namespace {
+
+std::vector<ErrorField> readFields(orbis::host_extensions::ErrorKind const& kind)
+{
+    std::vector<ErrorField> fields;
+    for (orbis::host_extensions::ErrorField const& field : kind.fields) {
+        try {
+            std::shared_ptr<hvArray_tag> const value(field.read(), hvDestroy_deleter());
+            if (value)
+                fields.push_back({field.name, value});
+        } catch (std::bad_alloc const&) {
+            throw;
+        } catch (...) { // scripts are to learn of the error itself
+        }
+    }
+    return fields;
+}
+
+} // namespace
 
 void ErrorKinds::add(orbis::host_extensions::ErrorKind kind)
 {
@@ -25,8 +49,8 @@ std::optional<Error> ErrorKinds::describeCurrent() const
     std::string text;
     for (bool const isExact : {true, false})
         for (auto kind = kinds_.rbegin(); kind != kinds_.rend(); ++kind)
-            if ((type && *kind->type == *type) == isExact && kind->describe(*kind, text))
-                return Error(kind->identifier, text);
+            if ((type && *kind->type == *type) == isExact && kind->describe(text))
+                return Error(kind->identifier, text, readFields(*kind));
     return std::nullopt;
 }
 

@@ -42,6 +42,24 @@ Error nativeError(char const* key, Text text)
     return {std::string("VELMARA:native:") + key, messageText("VELMARA:native", key, {text()})};
 }
 
+Error translatedError();
+
+/// The error with that of the exception which is nested in the one that it describes.
+template <class Exception>
+Error withCause(Error error, Exception const& exception)
+{
+    auto const* const outer = dynamic_cast<std::nested_exception const*>(&exception);
+    if (!outer || !outer->nested_ptr())
+        return error;
+    try {
+        outer->rethrow_nested();
+    } catch (std::bad_alloc const&) {
+        return {error, std::make_shared<Error const>(Error::outOfMemory())};
+    } catch (...) {
+        return {error, std::make_shared<Error const>(translatedError())};
+    }
+}
+
 Error translatedError()
 {
     try {
@@ -53,12 +71,15 @@ Error translatedError()
     } catch (foundation::core::except::IMsgIDException const& error) {
         std::string const& identifier = error.getErrorID();
         // Not `what()`, which ends at a zero in an argument.
-        return {identifier.empty() ? "VELMARA:native:exception" : identifier,
-                fl::i18n::to_string(error.GetUnicodeMessageTxt())};
+        return withCause({identifier.empty() ? "VELMARA:native:exception" : identifier,
+                          fl::i18n::to_string(error.GetUnicodeMessageTxt())},
+                         error);
     } catch (foundation::core::except::IException const& error) {
-        return nativeError("exception", [&] { return std::string(error.what()); });
+        return withCause(nativeError("exception", [&] { return std::string(error.what()); }), error);
     } catch (std::exception const& error) {
-        return nativeError("exception", [&] { return chainText(error); });
+        return withCause(nativeError("exception", [&] { return chainText(error); }), error);
+    } catch (std::nested_exception const& error) {
+        return withCause(nativeError("unknown", [] { return std::string(); }), error);
     } catch (...) {
         return nativeError("unknown", [] { return std::string(); });
     }

@@ -8,6 +8,7 @@
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/detail/objects/ClassNames.hpp"
+#include "orbis/factory/marshaling/PropertyValue.hpp"
 #include "orbis/factory/parameterOwners.hpp"
 #include "orbis/factory/resultOwners.hpp"
 #include "orbis/factory/types/NumericVectorPolicy.hpp"
@@ -16,10 +17,10 @@
 #include "orbis/factory/types/stringVectors.hpp"
 #include "orbis/factory/withDefaults.hpp"
 
-#include "host_extensions/ErrorKind.hpp"
 #include "orbis/COSPackage.hpp"
 
 #include <string>
+#include <type_traits>
 #include <typeinfo>
 
 namespace orbis::factory {
@@ -35,6 +36,35 @@ std::string errorText(E const& error)
                                     "its text.");
     return error.what();
 }
+
+/// How the fields of exceptions are read: by a function or captureless lambda,
+template <class G>
+struct ErrorGetter {
+    template <class R, class C>
+    static std::type_identity<C> of(R (*)(C const&));
+
+    using Pointer = decltype(+std::declval<G>());
+    using Class = typename decltype(of(Pointer()))::type;
+
+    static impl::Callable stored(G getter) { return +getter; }
+    static decltype(auto) read(impl::Callable const& getter, Class const& error) { return getter.as<Pointer>()(error); }
+};
+
+/// and by a member.
+template <class M, class C>
+struct ErrorGetter<M C::*> {
+    using Class = C;
+
+    static impl::Callable stored(M C::*getter) { return getter; }
+
+    static decltype(auto) read(impl::Callable const& getter, C const& error)
+    {
+        if constexpr (std::is_function_v<M>)
+            return (error.*getter.as<M C::*>())();
+        else
+            return error.*getter.as<M C::*>();
+    }
+};
 
 } // namespace detail
 
@@ -119,23 +149,67 @@ public:
     /// Gives native exceptions of type `E`, and of types derived from it that have none, an identifier by which scripts
     /// tell them apart: `module.error<ParseError>("spatial:parse")`. Their text is `what()`, or what `text` gives: a
     /// function or captureless lambda that takes an `E const&` and returns a `std::string`. Exceptions with a message
-    /// identifier keep that. Returns this.
+    /// identifier keep that. Returns this; `field` adds values to the error.
     template <class E>
     Module& error(char const* identifier, std::string (*text)(E const&) = detail::errorText<E>)
     {
         using Text = std::string (*)(E const&);
-        addErrorKind({identifier, &typeid(E),
-                      [](host_extensions::ErrorKind const& kind, std::string& result) {
-                          try {
-                              throw;
-                          } catch (E const& error) {
-                              result = reinterpret_cast<Text>(kind.text)(error);
-                              return true;
-                          } catch (...) {
-                              return false;
-                          }
-                      },
-                      reinterpret_cast<void (*)()>(text)});
+        addErrorKind(
+            identifier, typeid(E),
+            [](void (*given)(), std::string& result) {
+                try {
+                    throw;
+                } catch (E const& error) {
+                    result = reinterpret_cast<Text>(given)(error);
+                    return true;
+                } catch (...) {
+                    return false;
+                }
+            },
+            reinterpret_cast<void (*)()>(text), [] { throw static_cast<E*>(nullptr); });
+        return *this;
+    }
+
+    /// Adds a value to the errors that `error` was called for before this, which scripts read by its name:
+    ///
+    ///     module.error<ParseError>("spatial:parse").field("line", &ParseError::line)
+    ///
+    /// `getter` is a data member or a member function without parameters, of the exception or a public base, or a
+    /// function or captureless lambda that takes one. The value is converted when the exception leaves native code; one
+    /// that cannot be is left out. Returns this.
+    ///
+    /// Throws an `Exception` when the getter is of another class, or the name is "identifier", "text", "where" or
+    /// "cause".
+    template <class G>
+    Module& field(char const* name, G getter)
+    {
+        using Getter = detail::ErrorGetter<G>;
+        using E = typename Getter::Class;
+        using V = std::remove_cvref_t<decltype(Getter::read(impl::Callable(), std::declval<E const&>()))>;
+        constexpr detail::Refusal refusal = detail::resultRefusal<V>();
+        if constexpr (refusal != detail::Refusal::None)
+            detail::refuse<refusal, G>();
+        else
+            addErrorField(
+                name,
+                [](void (*throwPointer)()) {
+                    try {
+                        throwPointer();
+                    } catch (E const*) {
+                        return true;
+                    } catch (...) {
+                        return false;
+                    }
+                    return false;
+                },
+                [](impl::Callable const& stored, COSValue& value) {
+                    try {
+                        throw;
+                    } catch (E const& error) {
+                        value = detail::toValue<V>([&]() -> decltype(auto) { return Getter::read(stored, error); });
+                    }
+                },
+                Getter::stored(getter));
         return *this;
     }
 
@@ -143,14 +217,20 @@ public:
     void complete();
 
 private:
+    struct ErrorInProgress;
+
     void setName(detail::NamedClass& named, detail::ClassNames& names, char const* name, Owner owner);
-    void addErrorKind(host_extensions::ErrorKind const& kind);
+    void addErrorKind(char const* identifier, std::type_info const& type,
+                      bool (*describe)(void (*text)(), std::string& result), void (*text)(), void (*throwPointer)());
+    void addErrorField(char const* name, bool (*isOf)(void (*throwPointer)()),
+                       void (*read)(impl::Callable const& getter, COSValue& value), impl::Callable getter);
     ClassDescription& addClass(detail::NamedClass& named, detail::NewObject<ClassDescription> description,
                                char const* text);
 
     COSPackage& package_;
     std::string fullName_;
     FunctionDescriber functions_;
+    detail::NewObject<ErrorInProgress> lastError_;
 };
 
 } // namespace orbis::factory

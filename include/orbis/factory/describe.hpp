@@ -20,6 +20,21 @@ namespace orbis::factory {
 template <class... D>
 class Defaults;
 
+/// Defined in Implemented.hpp.
+template <class T>
+class Implemented;
+
+namespace detail {
+
+/// Defined in Implemented.hpp, like the record.
+template <class T, class S, class... A>
+consteval Refusal implementationRefusal();
+
+template <class T, class S, class... A>
+MemberRecord implementationRecord(char const* names, MethodText text);
+
+} // namespace detail
+
 /// Describes the class `T`, one line per member:
 ///
 ///     publish(cls, describe<Adder>()
@@ -117,6 +132,19 @@ public:
                                 MethodAttributes attributes)
     {
         return constructor<A...>(names, defaults, text + attributes);
+    }
+
+    /// Lets scripts implement the class, which has virtual functions, by a table of functions: adds a constructor that
+    /// takes one, and then values of the types `A`, with which it constructs an `S`. See `Implemented`.
+    template <class S, class... A>
+    ClassDescriber& implementedBy(ParameterNames<sizeof...(A)> names = {}, MethodText text = {})
+    {
+        constexpr Refusal refusal = detail::implementationRefusal<T, S, A...>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, S, A...>();
+        else
+            add(detail::implementationRecord<T, S, A...>(names.text(), text));
+        return *this;
     }
 
     /// Adds a method: a member function of `T` or of a public base, or a free function, lambda or functor that takes a

@@ -94,6 +94,14 @@ public:
     ~cannot_take() override;
 };
 
+/// Native code called a member that a script implements, and the script has not. Arguments: the class's name; the
+/// member's; what the function takes and returns.
+class ORBIS_FACTORY_API not_implemented : public resource_core::BaseMsgID {
+public:
+    not_implemented(std::string const& className, std::string const& member, std::string const& type);
+    ~not_implemented() override;
+};
+
 /// A property was read without a getter, or written without a setter.
 class ORBIS_FACTORY_API null_fcn_ptr : public resource_core::BaseMsgID {
 public:

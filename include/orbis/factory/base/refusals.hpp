@@ -59,6 +59,8 @@ enum class Refusal {
     OnRvalue,
     TooManyParameters,
     NoConstructor,
+    NotImplementation,
+    NoImplementationConstructor,
     TooManyDefaults,
     DefaultOfOtherType,
     DefaultFraction,
@@ -216,6 +218,11 @@ consteval void refuse()
                                                "as one array or object.");
     static_assert(isNot<R>(NoConstructor), "The class has no public constructor that takes these parameter types: "
                                            "name the types of an existing one in constructor<...>().");
+    static_assert(isNot<R>(NotImplementation), "A class that scripts implement is published by a Module; what "
+                                               "implements it derives from orbis::factory::Implemented of it.");
+    static_assert(isNot<R>(NoImplementationConstructor), "The implementation has no public constructor that takes "
+                                                         "these parameter types: say `using Implemented::Implemented;` "
+                                                         "in it, and override all abstract functions.");
     static_assert(isNot<R>(TooManyDefaults), "There are more default values than parameters that can have one; the "
                                              "object that a method is called on cannot.");
     static_assert(isNot<R>(DefaultOfOtherType), "A default value does not convert to the type of its parameter: the "

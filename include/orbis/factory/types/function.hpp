@@ -142,6 +142,7 @@ template <class R, class... A>
 class ScriptFunction {
 public:
     explicit ScriptFunction(hvArray_tag const* function) : function_(function) {}
+    explicit ScriptFunction(host_extensions::FunctionHandle const& function) : function_(function) {}
 
     hvArray* toHost() const { return host_extensions::createFunction(function_); }
 

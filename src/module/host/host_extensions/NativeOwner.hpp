@@ -18,6 +18,10 @@ public:
     /// Deletes `native`, which was passed to the host but got no host object, if it would be deleted with one. Does
     /// nothing unless overridden.
     virtual void discardNative(void* native) noexcept;
+
+    /// Returns whether the native object of `host` is destroyed with that, as no one else owns it. False unless
+    /// overridden.
+    virtual bool ownsAlone(COSInterface const* host) const;
 };
 
 /// Returns the class info of a published class as a `NativeOwner`; null when the class is not published or its class

@@ -11,7 +11,12 @@ class NewObject {
 public:
     explicit NewObject(T* object = nullptr) : object_(object) {}
     NewObject(NewObject&& other) noexcept : object_(other.release()) {}
-    NewObject& operator=(NewObject&&) = delete;
+
+    NewObject& operator=(NewObject&& other) noexcept
+    {
+        std::swap(object_, other.object_);
+        return *this;
+    }
 
     ~NewObject() { delete object_; }
 
