@@ -103,6 +103,16 @@ int deleteObjects(lua_State* L)
     return 0;
 }
 
+/// A new object with the value of the given one.
+int copyObject(lua_State* L)
+{
+    if (!isObject(L, 1))
+        fail("noObject", "copy needs an object, not " + kindAt(L, 1));
+    HostCall call(L);
+    hvArray_tag* const object = call.share(checkObject(L, 1));
+    return call.finish(call.hvm().copy(object));
+}
+
 int isValidValue(lua_State* L)
 {
     luaL_checkany(L, 1);
@@ -122,6 +132,7 @@ int isValidValue(lua_State* L)
 void bindObjectFunctions(lua_State* L)
 {
     lua_register(L, "class", guarded<classOf>);
+    lua_register(L, "copy", guarded<copyObject>);
     lua_register(L, "delete", guarded<deleteObjects>);
     lua_register(L, "isvalid", guarded<isValidValue>);
     lua_register(L, "objects", guarded<listObjects>);

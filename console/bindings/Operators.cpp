@@ -5,6 +5,7 @@
 #include "handles/HostObject.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
+#include "values/HostCall.hpp"
 
 #include <algorithm>
 
@@ -39,22 +40,38 @@ int applyOperator(lua_State* L)
     return 1;
 }
 
-int compareValues(lua_State* L)
+/// Pushes whether both are one object, as the upvalue says; false if instead their values are to be compared.
+bool compareIdentity(lua_State* L)
 {
-    lua_pushvalue(L, lua_upvalueindex(1)); // identity
+    lua_pushvalue(L, lua_upvalueindex(1));
     lua_pushvalue(L, 1);
     lua_pushvalue(L, 2);
     lua_call(L, 2, 1);
-    bool const areOne = lua_toboolean(L, -1) != 0;
+    if (lua_toboolean(L, -1) != 0 || !isObject(L, 1) || !isObject(L, 2) || objectClass(L, 1) != objectClass(L, 2) ||
+        !isValidObject(L, 1) || !isValidObject(L, 2))
+        return true;
     lua_pop(L, 1);
-    if (areOne || !isObject(L, 1) || !isObject(L, 2) || objectClass(L, 1) != objectClass(L, 2) ||
-        !isValidObject(L, 1) || !isValidObject(L, 2)) {
-        lua_pushboolean(L, areOne);
+    return false;
+}
+
+int compareByMember(lua_State* L)
+{
+    if (compareIdentity(L))
         return 1;
-    }
     pushMember(L, objectClass(L, 1), "equals");
     lua_insert(L, 1);
     lua_call(L, 2, 1);
+    return 1;
+}
+
+int compareNatives(lua_State* L)
+{
+    if (compareIdentity(L))
+        return 1;
+    HostCall call(L);
+    hvArray_tag* const first = call.share(checkObject(L, 1));
+    hvArray_tag* const second = call.share(checkObject(L, 2));
+    lua_pushboolean(L, call.hvm().areEqual(first, second));
     return 1;
 }
 
@@ -138,7 +155,9 @@ void addOperators(lua_State* L, std::string_view className)
         if (has(member))
             setField(L, member, true);
     if (has("equals"))
-        wrap(L, "__eq", guarded<compareValues>);
+        wrap(L, "__eq", guarded<compareByMember>);
+    else if (cls.hasEquality)
+        wrap(L, "__eq", guarded<compareNatives>);
     if (has("text"))
         wrap(L, "__tostring", guarded<describeObject>);
     if (has("item") && has("length"))

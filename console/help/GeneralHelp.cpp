@@ -11,7 +11,9 @@ char const* const generalHelp = R"(velmara runs Lua 5.4 scripts that use the cla
   package.Class.property      read and set a static property
   package.Enumeration.Name    an enumerator; its name in quotes, or its number,
                               can be passed in its place
-  a == b                      true when both are the same object
+  a == b                      true when both are the same object, or equal as
+                              their class compares them
+  copy(a)                     another object with the same value
   local a <close> = ...       give the object back at the end of the block
 
   help(x) methods(x) properties(x)   on a package, a class, an object, a name

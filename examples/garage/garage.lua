@@ -3,6 +3,13 @@ local engine = car:engine()
 engine.power = 90
 print("one object", engine == car:engine(), car:copy():engine().power)
 
+local radio = garage.Radio()
+car:install(radio)
+car:tune(7)
+print("kept", radio.station, car:engineNow() == engine)
+delete(radio)
+car:tune(8)
+
 local wheel = garage.Wheel(15)
 car:mount(wheel)
 print("taken", isvalid(wheel), car:wheel(1).diameter)

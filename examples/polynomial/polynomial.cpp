@@ -71,8 +71,6 @@ void publishModule(orbis::factory::Module& polynomial)
         .method("times", &Polynomial::operator*, "factor")
         .staticMethod(
             "times", [](double factor, Polynomial const& p) { return p * factor; }, "factor, polynomial")
-        .method(
-            "equals", [](Polynomial const* a, Polynomial const& b) { return *a == b; }, "this, other")
         .method("call", &Polynomial::operator(), "x")
         .method("length", &Polynomial::size)
         .method("item", &Polynomial::coefficient, "number (from 1)")

@@ -2,6 +2,7 @@
 
 #include "basic/HandleReferences.hpp"
 #include "basic/HostShares.hpp"
+#include "basic/KeptObjects.hpp"
 
 #include "orbis/COSNameID.hpp"
 
@@ -57,6 +58,7 @@ struct HostDependents {
 
     HandleReferences handles;
     HostShares shares;
+    KeptForNative keptForNative;
 
     /// Superseded bindings: addresses bound to a host object that has come to record another one.
     std::set<std::pair<COSInterface const*, void const*>> superseded;

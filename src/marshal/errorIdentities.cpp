@@ -49,6 +49,41 @@ not_convertible::not_convertible(std::string const& reason) : BaseMsgID(catalog(
 
 not_convertible::~not_convertible() = default;
 
+cannot_copy::cannot_copy(std::string const& className, std::string const& reason)
+    : BaseMsgID(catalog(), "cannot_copy", {className, reason})
+{
+}
+
+cannot_copy::~cannot_copy() = default;
+
+cannot_own::cannot_own(std::string const& className, std::string const& reason)
+    : BaseMsgID(catalog(), "cannot_own", {className, reason})
+{
+}
+
+cannot_own::~cannot_own() = default;
+
+cannot_share::cannot_share(std::string const& className, std::string const& reason)
+    : BaseMsgID(catalog(), "cannot_share", {className, reason})
+{
+}
+
+cannot_share::~cannot_share() = default;
+
+cannot_keep::cannot_keep(std::string const& className, std::string const& reason)
+    : BaseMsgID(catalog(), "cannot_keep", {className, reason})
+{
+}
+
+cannot_keep::~cannot_keep() = default;
+
+cannot_take::cannot_take(std::string const& className, std::string const& reason)
+    : BaseMsgID(catalog(), "cannot_take", {className, reason})
+{
+}
+
+cannot_take::~cannot_take() = default;
+
 null_fcn_ptr::null_fcn_ptr() : BaseMsgID(catalog(), "null_fcn_ptr") {}
 
 null_fcn_ptr::~null_fcn_ptr() = default;

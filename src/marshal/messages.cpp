@@ -22,6 +22,11 @@ constexpr orbis::host_extensions::Message texts[] = {
                   "that was constructed and not deleted."},
     {"null_input", "{0} must be an object of class \"{1}\" that was constructed and not deleted, and is none."},
     {"not_convertible", "A value cannot be converted: {0}."},
+    {"cannot_copy", "The object of class \"{0}\" cannot be copied: {1}."},
+    {"cannot_own", "The object of class \"{0}\" cannot be owned by its host object: {1}."},
+    {"cannot_share", "The object of class \"{0}\" cannot be shared: {1}."},
+    {"cannot_keep", "The object of class \"{0}\" cannot be kept: {1}."},
+    {"cannot_take", "The object of class \"{0}\" cannot be taken: {1}."},
     {"null_fcn_ptr", "The property has no function for this access: it can be either read or written, not both."},
     {"no_such_class", "An object of the class {0} cannot be handed out, because no such class is published: load the "
                       "module that publishes it."},

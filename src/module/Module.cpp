@@ -1,4 +1,4 @@
-#include "orbis/factory/Module.hpp"
+#include "orbis/factory/registerModule.hpp"
 
 #include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
@@ -6,7 +6,10 @@
 #include "module/NamedClassInfo.hpp"
 #include "module/PublishedClasses.hpp"
 #include "module/cppName.hpp"
+#include "module/publishedName.hpp"
 
+#include <atomic>
+#include <memory>
 #include <mutex>
 #include <utility>
 
@@ -53,7 +56,8 @@ void Module::setName(detail::NamedClass& named, detail::ClassNames& names, char 
 {
     std::string fullName = fullName_ + '.' + name;
     std::lock_guard const lock(namingMutex());
-    if (char const* const given = named.name.load()) {
+    std::atomic_ref<char const*> const givenName(named.name);
+    if (char const* const given = givenName.load()) {
         if (fullName != given || named.isOwnedByHost != (owner == Owner::Host))
             throw Exception("The native class " + cppName(*named.type) + " cannot be published as \"" + fullName +
                             "\": it is \"" + given + "\" in this program, with the owner that it was given there.");
@@ -61,18 +65,22 @@ void Module::setName(detail::NamedClass& named, detail::ClassNames& names, char 
     }
     char const* const kept = names.add(std::move(fullName));
     named.isOwnedByHost = owner == Owner::Host;
-    named.name.store(kept, std::memory_order_release);
+    givenName.store(kept, std::memory_order_release);
 }
 
-void Module::addClass(detail::NamedClass& named, std::unique_ptr<ClassDescription> description, char const* text)
+ClassDescription& Module::addClass(detail::NamedClass& named, detail::NewObject<ClassDescription> description,
+                                   char const* text)
 {
+    std::unique_ptr<ClassDescription> owner(description.release());
+    ClassDescription& result = *owner;
     PublishedClasses::ofCurrentHvm().addNamed(named);
-    package_.addClass(new NamedClassInfo(named, std::move(description), text));
+    package_.addClass(new NamedClassInfo(named, std::move(owner), text));
+    return result;
 }
 
-void Module::addErrorKind(host_extensions::ErrorKind kind)
+void Module::addErrorKind(host_extensions::ErrorKind const& kind)
 {
-    host_extensions::addErrorKind(std::move(kind));
+    host_extensions::addErrorKind(kind);
 }
 
 void Module::complete()
@@ -82,7 +90,7 @@ void Module::complete()
 
 void detail::setBase(NamedClass& named, NamedClass& given, void* (*toBase)(void*), void* (*fromBase)(void*))
 {
-    NamedClass& base = given.name.load() ? given : *PublishedClasses::ofCurrentHvm().findNamed(*given.type);
+    NamedClass& base = publishedName(given) ? given : *PublishedClasses::ofCurrentHvm().findNamed(*given.type);
     std::lock_guard const lock(namingMutex());
     if (named.isOwnedByHost != base.isOwnedByHost) // a result is known as its base only, and is what it is
         throw Exception("The class " + cppName(*named.type) + " cannot have the superclass " + cppName(*base.type) +

@@ -57,6 +57,18 @@ void NamedClassInfo::discardNative(void* native) noexcept
         named_.destroy(object);
 }
 
+bool NamedClassInfo::comparesNatives() const
+{
+    return named_.areEqual != nullptr;
+}
+
+bool NamedClassInfo::areEqual(void* a, void* b) const
+{
+    void const* const first = detail::fromBound(named_, a);
+    void const* const second = detail::fromBound(named_, b);
+    return first && second && named_.areEqual(first, second);
+}
+
 basic::NativeExtents::Extent NamedClassInfo::extentOf(void* bound) const
 {
     return {static_cast<char const*>(detail::fromBound(named_, bound)), named_.size};

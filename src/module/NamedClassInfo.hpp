@@ -6,12 +6,16 @@
 
 #include "basic/NativeStorage.hpp"
 
+#include "host_extensions/NativeEquality.hpp"
+
 #include <memory>
 
 namespace orbis::factory {
 
 /// Class info of the classes that a `Module` publishes: host objects represent native objects, bound by their address.
-class NamedClassInfo final : public OrbisFactoryClassInfo, public basic::NativeExtents {
+class NamedClassInfo final : public OrbisFactoryClassInfo,
+                             public host_extensions::NativeEquality,
+                             public basic::NativeExtents {
 public:
     NamedClassInfo(detail::NamedClass const& named, std::unique_ptr<ClassDescription> description, char const* text);
 
@@ -29,7 +33,11 @@ public:
     ClassAccess getAccess() const override;
     char const* nativeOwner() const override;
     void discardNative(void* native) noexcept override;
+    bool comparesNatives() const override;
+    bool areEqual(void* a, void* b) const override;
     Extent extentOf(void* bound) const override;
+
+    detail::NamedClass const& named() const { return named_; }
 
 private:
     detail::NamedClass const& named_;

@@ -4,6 +4,7 @@
 #include "orbis/factory/ownership/HvmScoped.hpp"
 
 #include "module/cppName.hpp"
+#include "module/publishedName.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSClass.hpp"
@@ -65,8 +66,8 @@ void PublishedClasses::addNamed(detail::NamedClass& named)
 {
     detail::NamedClass* const other = named_.try_emplace(*named.type, &named).first->second;
     if (other != &named)
-        throw Exception("The native class " + cppName(*named.type) + " cannot be published as \"" + named.name.load() +
-                        "\": another module publishes it, as \"" + other->name.load() + "\".");
+        throw Exception("The native class " + cppName(*named.type) + " cannot be published as \"" + publishedName(named) +
+                        "\": another module publishes it, as \"" + publishedName(*other) + "\".");
 }
 
 detail::NamedClass* PublishedClasses::findNamed(std::type_info const& type)

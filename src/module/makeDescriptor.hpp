@@ -24,7 +24,7 @@ public:
     }
 
 private:
-    std::shared_ptr<void const> kept_;
+    detail::KeptObject kept_;
 };
 
 /// The same for a member with inputs whose conversion may fail without their names: the errors of that get them.

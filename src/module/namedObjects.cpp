@@ -1,6 +1,8 @@
 #include "orbis/factory/detail/objects/namedObjects.hpp"
+#include "orbis/factory/detail/objects/sharedNamedObjects.hpp"
 
 #include "orbis/factory/base/Exception.hpp"
+#include "orbis/factory/base/errorIdentities.hpp"
 #include "orbis/factory/detail/arrays/NewArray.hpp"
 #include "orbis/factory/detail/arrays/throwNullInput.hpp"
 #include "orbis/factory/detail/bindings/bindings.hpp"
@@ -9,8 +11,11 @@
 
 #include "basic/HostDependents.hpp"
 #include "basic/NativeStorage.hpp"
+#include "marshal/throwError.hpp"
 #include "module/PublishedClasses.hpp"
 #include "module/cppName.hpp"
+#include "module/objectShares.hpp"
+#include "module/publishedName.hpp"
 
 #include "orbis/COSClass.hpp"
 
@@ -25,11 +30,6 @@ namespace {
 using basic::HostShares;
 using basic::PartOf;
 
-HostShares& shares()
-{
-    return basic::registry().requireDependents().shares;
-}
-
 /// Looks in the other modules of the virtual machine.
 [[gnu::noinline]] NamedClass const& publishedElsewhere(NamedClass const& named)
 {
@@ -43,7 +43,7 @@ HostShares& shares()
 /// Returns the record of the module that publishes the class.
 NamedClass const& published(NamedClass const& named)
 {
-    return named.name.load(std::memory_order_acquire) ? named : publishedElsewhere(named);
+    return publishedName(named) ? named : publishedElsewhere(named);
 }
 
 char const* mostDerivedName(NamedClass const& named, void const* object, void* bound)
@@ -84,7 +84,7 @@ hvArray_tag* createHost(void* bound, char const* className, bool isNewObject, Ho
     COSInterfacePtr host = newHost(name);
     NewArray array(omCreateORBISScalar(host));
     if (share)
-        shares().give(host, *share); // first: from now on nothing deletes the native object with it
+        objectShares().give(host, *share); // first: from now on nothing deletes the native object with it
     if (isNewObject) {
         bindConstructed(host, name, bound);
     } else {
@@ -100,49 +100,35 @@ COSInterfacePtr firstOf(hvArray_tag const* in)
     return in && in->get_number_of_elements() != 0 ? omGetArrayElement(in, 0) : COSInterfacePtr();
 }
 
-[[noreturn]] void refuse(NamedClass const& named, char const* refused, char const* reason)
+/// What native code wants of an object.
+enum class Wanted { Share, Taken };
+
+[[noreturn]] void refuse(NamedClass const& named, Wanted wanted, char const* reason)
 {
-    throw Exception(std::string("The object of class \"") + className(named) + "\" cannot be " + refused + ": " +
-                    reason + '.');
+    if (wanted == Wanted::Share)
+        throwError(orbis_factory::orbis_factory::cannot_share(className(named), reason));
+    throwError(orbis_factory::orbis_factory::cannot_take(className(named), reason));
 }
 
 /// Returns the share of the host object, after checking that it owns its native object, alone or with others, and that
 /// the object can be destroyed as one of this class.
-HostShares::Share const* requireOwner(NamedClass const& named, COSInterface const* host, char const* refused)
+HostShares::Share const* requireOwner(NamedClass const& named, COSInterface const* host, Wanted wanted)
 {
     auto const& dependents = basic::registry().dependents;
     HostShares::Share const* const share = dependents ? dependents->shares.find(host) : nullptr;
     bool const isShared = share && std::holds_alternative<std::shared_ptr<void>>(*share);
     if (!isShared && (share || !named.isOwnedByHost))
-        refuse(named, refused, "its host object does not own it");
+        refuse(named, wanted, "its host object does not own it");
     if (!isShared && named.isBase && !named.hasVirtualDestructor)
-        refuse(named, refused, "it may be of a subclass, and the class has no virtual destructor");
+        refuse(named, wanted, "it may be of a subclass, and the class has no virtual destructor");
     return share;
-}
-
-/// The deleter of an object that gets shared. It does nothing until the object belongs to it: making the shared pointer
-/// may fail.
-struct Destroyer {
-    void (*destroy)(void*) = nullptr;
-
-    void operator()(void* object) const
-    {
-        if (destroy)
-            destroy(object);
-    }
-};
-
-/// Transfers the object to its shared pointer, which was made with a `Destroyer`.
-void transfer(NamedClass const& named, std::shared_ptr<void> const& shared)
-{
-    std::get_deleter<Destroyer>(shared)->destroy = named.destroy;
 }
 
 } // namespace
 
 char const* className(NamedClass const& given)
 {
-    return published(given).name.load(std::memory_order_relaxed);
+    return publishedName(published(given));
 }
 
 void* toBound(NamedClass const& given, void* object)
@@ -193,6 +179,14 @@ void* requireNativeOf(NamedClass const& named, hvArray_tag const* in)
     return object;
 }
 
+void requireExactType(NamedClass const& named, void const* object)
+{
+    std::type_info const& type = named.dynamicType ? named.dynamicType(object) : *named.type;
+    if (type != *named.type)
+        throwError(
+            orbis_factory::orbis_factory::cannot_copy(className(named), "it is of the derived class " + cppName(type)));
+}
+
 namespace {
 
 /// In debug builds, throws for an object that nobody can delete.
@@ -200,7 +194,7 @@ void requireDeletable([[maybe_unused]] NamedClass const& named, [[maybe_unused]]
 {
 #ifndef NDEBUG
     if (char const* const place = basic::NativeStorage().placeOf(object))
-        refuse(named, "owned by its host object", ("it lies " + std::string(place)).c_str());
+        throwError(orbis_factory::orbis_factory::cannot_own(className(named), "it lies " + std::string(place)));
 #endif
 }
 
@@ -208,7 +202,8 @@ void requireDeletable([[maybe_unused]] NamedClass const& named, [[maybe_unused]]
 hvArray_tag* announceOwned(NamedClass const& given, void* object, COSInterface const* whole)
 {
     if (whole)
-        refuse(given, "owned by its host object", "it lies inside the object that gave it");
+        throwError(
+            orbis_factory::orbis_factory::cannot_own(className(given), "it lies inside the object that gave it"));
     requireDeletable(given, object);
     std::unique_ptr<void, void (*)(void*)> transferred(object, given.destroy);
     NamedClass const& named = published(given);
@@ -222,7 +217,7 @@ hvArray_tag* announceOwned(NamedClass const& given, void* object, COSInterface c
         std::shared_ptr<void> const owned(object, Destroyer());
         HostShares::Share const share = owned;
         *array.place() = createHost(bound, name, true, &share);
-        transfer(named, owned);
+        destroyerOf(owned)->destroy = named.destroy;
     }
     static_cast<void>(transferred.release());
     return array.release();
@@ -271,9 +266,9 @@ hvArray_tag* announceShared(NamedClass const& given, void const* object, std::sh
     void* const bound = toBound(named, const_cast<void*>(object));
     HostShares::Share const held = std::move(share);
     if (COSInterface* const host = findHost(bound, className(named), nullptr)) {
-        HostShares::Share const* const known = shares().find(host);
+        HostShares::Share const* const known = objectShares().find(host);
         if (known && !std::holds_alternative<std::shared_ptr<void>>(*known))
-            shares().give(host, held); // was borrowed, or a part
+            objectShares().give(host, held); // was borrowed, or a part
         return omCreateORBISScalar(host);
     }
     return createHost(bound, mostDerivedName(named, object, bound), false, &held);
@@ -286,12 +281,9 @@ std::shared_ptr<void> shareNamed(NamedClass const& given, hvArray_tag const* in)
     void* const object = nativeOf(named, static_cast<COSInterface const*>(host));
     if (!object)
         return nullptr;
-    if (HostShares::Share const* const share = requireOwner(named, host, "shared"))
+    if (HostShares::Share const* const share = requireOwner(named, host, Wanted::Share))
         return std::get<std::shared_ptr<void>>(*share);
-    std::shared_ptr<void> shared(object, Destroyer());
-    shares().give(host, shared);
-    transfer(named, shared);
-    return shared;
+    return shareOwned(named, host, object);
 }
 
 void requireOwned(NamedClass const& given, hvArray_tag const* in, bool alone)
@@ -301,8 +293,11 @@ void requireOwned(NamedClass const& given, hvArray_tag const* in, bool alone)
     if (!host)
         return;
     requireNativeOf(named, in);
-    if (requireOwner(named, host, alone ? "taken" : "shared") && alone)
-        refuse(named, "taken", "it is shared");
+    HostShares::Share const* const share = requireOwner(named, host, alone ? Wanted::Taken : Wanted::Share);
+    if (!share || !alone)
+        return;
+    Destroyer const* const destroyer = destroyerOf(std::get<std::shared_ptr<void>>(*share));
+    refuse(named, Wanted::Taken, destroyer && !destroyer->kept.empty() ? "it keeps other objects" : "it is shared");
 }
 
 void* takeNamed(NamedClass const& given, hvArray_tag const* in)

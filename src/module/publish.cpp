@@ -3,18 +3,21 @@
 #include "orbis/factory/descriptors/FunctionInfo.hpp"
 #include "orbis/factory/descriptors/MethodImpl.hpp"
 #include "orbis/factory/descriptors/OrbisConstructor.hpp"
+#include "orbis/factory/makeProperty.hpp"
 #include "orbis/factory/types/initStringDataTypes.hpp"
 
 #include "module/DocumentedMember.hpp"
 #include "module/PublishedClasses.hpp"
+#include "module/copyConstruct.hpp"
 #include "module/makeDescriptor.hpp"
 #include "module/notPublished.hpp"
 
 #include "host_extensions/host_extensions.hpp"
 
+#include <algorithm>
 #include <array>
+#include <cstring>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -85,15 +88,6 @@ void add(COSClass* cls, char const* name, MemberRecord const& record, char const
     });
 }
 
-std::unique_ptr<impl::PropertyImpl> makeProperty(PropertyRecord const& record)
-{
-    if (record.attributes.isStatic() && record.needsObject)
-        throw std::invalid_argument("a static property has no object: give static data, or functions that take none");
-    auto property = record.make(record);
-    property->setDescription(record.text);
-    return property;
-}
-
 /// A function with a text.
 class DescribedFunction : public FunctionInfo {
 public:
@@ -108,6 +102,28 @@ public:
 private:
     std::string text_;
 };
+
+/// Adds a constructor that copies, unless one is described.
+void addCopying(COSClass* cls, ClassDescription const& description, detail::Copying const& copying)
+{
+    bool const isDescribed = std::ranges::any_of(description.members(), [&](MemberRecord const& member) {
+        return member.kind == Kind::Constructor && member.inputTypes.size() == 1 &&
+               std::strcmp(member.inputTypes[0](), copying.typeText()) == 0;
+    });
+    if (isDescribed)
+        return;
+    add<impl::OrbisConstructor>(cls, cls->getName(),
+                                {.kind = Kind::Constructor,
+                                 .name = nullptr,
+                                 .parameterNames = "other",
+                                 .attributes = {},
+                                 .outputType = copying.typeText,
+                                 .inputTypes = {&copying.typeText, 1},
+                                 .invokeFn = &copyConstruct,
+                                 .target = &copying,
+                                 .namesInputs = true},
+                                description.hostName());
+}
 
 void setSuperclasses(COSClass* cls, std::vector<NativeClassRecord> const& superclasses)
 {
@@ -129,6 +145,8 @@ void publish(COSClass* cls, ClassDescription const& description)
         if (record.kind == Kind::Constructor)
             add<impl::OrbisConstructor>(cls, cls->getName(), record, description.hostName());
     }
+    if (detail::Copying const* const copying = description.copying())
+        addCopying(cls, description, *copying);
     for (MemberRecord const& record : description.members()) {
         if (record.kind != Kind::Constructor)
             add<impl::MethodImpl>(cls, record.name, record, description.hostName());

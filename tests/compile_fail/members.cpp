@@ -10,7 +10,7 @@
 // expect RVALUE: A member function with && is called on objects that are about to be destroyed
 // expect below PICK: overload
 // expect below AMISS: overload
-// expect OWNER: owned(...), borrowed(...) and inside(...) are for functions that return an object
+// expect OWNER: owned(...), copied(...), borrowed(...) and inside(...) are for functions that return an object
 // expect VALUE: Objects of a class with a HostClass do not cross by value
 // expect MARSHALER: The policy of this native type has no marshaler: specialise orbis::factory::Marshaler for it
 // expect NAME: The marshaler of this native type lacks the name of the host data type

@@ -52,7 +52,7 @@ using Unary = std::function<double(double)>;
 using Visitor = std::function<void(Part&)>;
 
 /// What native code keeps, beyond the virtual machine.
-Unary kept;
+Unary keptFunction;
 
 class FunctionTest : public HvmTest {
 protected:
@@ -68,9 +68,9 @@ protected:
             functions.function(
                 "maybe", +[](std::optional<Unary> const& function) { return function ? (*function)(1) : -1; });
             functions.function(
-                "keep", +[](Unary function) { kept = std::move(function); });
+                "keep", +[](Unary function) { keptFunction = std::move(function); });
             functions.function(
-                "kept", +[] { return kept; });
+                "kept", +[] { return keptFunction; });
             functions.function(
                 "adder", +[](double summand) -> Unary {
                     return summand == 0 ? Unary() : [summand](double number) { return number + summand; };
@@ -87,7 +87,7 @@ protected:
         });
     }
 
-    ~FunctionTest() override { kept = nullptr; }
+    ~FunctionTest() override { keptFunction = nullptr; }
 
     template <class... A>
     ArrayPtr call(char const* name, A const&... arrays)
@@ -185,9 +185,9 @@ TEST_F(FunctionTest, KeptFunctionsAreCalledWhereTheyBelong)
         alive = token;
         call("keep", untyped([token](auto const&) { return number(1); }));
     };
-    auto const error = [&] { return messageIdOf([] { kept(1); }); };
+    auto const error = [&] { return messageIdOf([] { keptFunction(1); }); };
     keep();
-    EXPECT_EQ(kept(1), 1);
+    EXPECT_EQ(keptFunction(1), 1);
     std::string elsewhere;
     std::thread([&] { elsewhere = error(); }).join();
     EXPECT_EQ(elsewhere, "VELMARA:function:notCurrent");
@@ -196,11 +196,11 @@ TEST_F(FunctionTest, KeptFunctionsAreCalledWhereTheyBelong)
         velmara::Hvm::Scope const scope(other);
         EXPECT_EQ(error(), "VELMARA:function:otherVirtualMachine");
     }
-    kept = nullptr;
+    keptFunction = nullptr;
     EXPECT_TRUE(alive.expired());
 
     keep();
-    std::thread([] { kept = nullptr; }).join();
+    std::thread([] { keptFunction = nullptr; }).join();
     EXPECT_FALSE(alive.expired()); // its thread destroys it, sooner or later
     giving(1);
     EXPECT_TRUE(alive.expired());
@@ -211,7 +211,7 @@ TEST_F(FunctionTest, KeptFunctionsAreCalledWhereTheyBelong)
     EXPECT_TRUE(alive.expired());
     EXPECT_EQ(error(), "VELMARA:function:ended");
     EXPECT_EQ(getFunction(left.get()), nullptr);
-    std::thread([] { kept = nullptr; }).join();
+    std::thread([] { keptFunction = nullptr; }).join();
 }
 
 /// What scripts throw may be of a class of its own.

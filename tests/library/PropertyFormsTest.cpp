@@ -1,7 +1,9 @@
 #include "HvmTest.hpp"
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/descriptors/PropertyImpl.hpp"
+#include "orbis/factory/descriptors/ClassGetter.hpp"
+#include "orbis/factory/descriptors/ClassSetter.hpp"
+#include "orbis/factory/makeProperty.hpp"
 #include "orbis/factory/types/NumericVectorPolicy.hpp"
 #include "orbis/factory/types/StringViewPolicy.hpp"
 #include "orbis/factory/types/stringVectors.hpp"
@@ -208,7 +210,7 @@ TEST_F(PropertyFormsTest, DescriptorsAreCreatedFromTheDescription)
     describeImage(description);
     auto const made = [&](std::string_view name) {
         PropertyRecord const& record = *std::ranges::find(description.properties(), name, &PropertyRecord::name);
-        return record.make(record);
+        return makeProperty(record);
     };
     EXPECT_FALSE(made("pi")->isVisible());
     EXPECT_EQ(made("shown")->getMemberSetAccess(), MemberAccess::NoAccess);

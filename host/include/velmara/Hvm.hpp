@@ -76,6 +76,13 @@ public:
     /// A new object of the class as a 1-by-1 array.
     ArrayPtr construct(std::string_view className, Inputs inputs = {});
 
+    /// A new object, constructed from `object` (an object array of one element) with the constructor of its class that
+    /// takes such an object; also of a class whose objects are not constructed from outside.
+    ArrayPtr copy(hvArray_tag* object);
+
+    /// True when the class info of the objects' class (arrays of one element each) compares them and finds them equal.
+    bool areEqual(hvArray_tag* a, hvArray_tag* b);
+
     /// Calls a method of `object` (an object array; its first element is meant). A null result when there is none.
     ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs = {});
     ArrayPtr callStatic(std::string_view className, std::string_view method, Inputs inputs = {});

@@ -57,6 +57,7 @@ struct ClassRecord {
     bool isAbstract = false;
     bool isHidden = false;
     bool isEnumeration = false;
+    bool hasEquality = false;                  ///< its class info compares objects: `Hvm::areEqual`
     std::vector<EnumeratorRecord> enumerators; ///< of an enumeration, in the order of description
     std::vector<std::string> superclasses;     ///< direct ones
     std::vector<MethodRecord> methods; ///< constructors first, then in the order of description, inherited ones last

@@ -6,6 +6,8 @@
 #include "dispatch/FunctionValue.hpp"
 #include "errors/hostError.hpp"
 
+#include "host_extensions/NativeEquality.hpp"
+
 #include <algorithm>
 
 namespace velmara {
@@ -72,7 +74,26 @@ void endObjects(Machine& machine, hvArray_tag* array)
             object->finalize();
 }
 
+bool compareObjects(Machine& machine, hvArray_tag* a, hvArray_tag* b)
+{
+    Object* const first = requireObject(machine, a);
+    Object* const second = requireObject(machine, b);
+    if (!first || !second || first->className() != second->className())
+        return false;
+    Class& cls = requireClassOf(machine, a, first);
+    auto const* const equality = dynamic_cast<orbis::host_extensions::NativeEquality const*>(&cls.info());
+    orbis::COSNameID const name(cls.name()->text);
+    void* const natives[] = {first->getNativeObject(name), second->getNativeObject(name)};
+    return equality && equality->comparesNatives() && natives[0] && natives[1] &&
+           equality->areEqual(natives[0], natives[1]);
+}
+
 } // namespace
+
+bool Hvm::areEqual(hvArray_tag* a, hvArray_tag* b)
+{
+    return callInto(*state_, [&] { return compareObjects(*state_, a, b); });
+}
 
 ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs)
 {

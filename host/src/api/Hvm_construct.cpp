@@ -8,6 +8,8 @@
 #include "classes/Class.hpp"
 #include "errors/hostError.hpp"
 
+#include <algorithm>
+
 namespace velmara {
 
 namespace {
@@ -65,7 +67,38 @@ namespace {
     return invokeConstructor(cls, constructor, converted);
 }
 
+Method const* findCopying(Class const& cls)
+{
+    auto const& constructors = cls.tables().constructors;
+    auto const copies = [&](Method const* method) {
+        std::span<Parameter const> const inputs = method->explicitInputs();
+        return inputs.size() == 1 && inputs[0].type.name == cls.name();
+    };
+    auto const found = std::find_if(constructors.methods.begin(), constructors.accessibleEnd(), copies);
+    return found == constructors.accessibleEnd() ? nullptr : *found;
+}
+
+ArrayPtr copyObject(Machine& machine, hvArray_tag* array)
+{
+    Object* const object = requireObject(machine, array);
+    Class& cls = requireClassOf(machine, array, object);
+    Method const* const constructor = object ? findCopying(cls) : nullptr;
+    if (!constructor)
+        throwHostError("VELMARA:object", "notCopyable", {cls.name()->string()});
+    hvArray_tag* const inputs[] = {array};
+    CallInputs const call{nullptr, inputs};
+    ConvertedInputs converted(call.capacity());
+    if (!convertFor(*constructor, call, converted, [](ConversionRank) {}))
+        throwNoMatch({&constructor, 1}, call);
+    return invokeConstructor(cls, *constructor, converted);
+}
+
 } // namespace
+
+ArrayPtr Hvm::copy(hvArray_tag* object)
+{
+    return callInto(*state_, [&] { return copyObject(*state_, object); });
+}
 
 ArrayPtr Hvm::construct(std::string_view className, Inputs inputs)
 {

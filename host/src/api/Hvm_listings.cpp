@@ -5,6 +5,7 @@
 #include "classes/PackageTree.hpp"
 #include "errors/hostError.hpp"
 
+#include "host_extensions/NativeEquality.hpp"
 #include "host_extensions/NativeOwner.hpp"
 
 #include <algorithm>
@@ -131,6 +132,8 @@ ClassRecord recordClass(Machine& machine, std::string_view fullName)
     listed.isAbstract = info.classIsAbstract();
     listed.isHidden = info.isHidden();
     listed.isEnumeration = cls.isEnumeration();
+    auto const* const equality = dynamic_cast<orbis::host_extensions::NativeEquality const*>(&info);
+    listed.hasEquality = equality && equality->comparesNatives();
     for (auto const& [name, value] : cls.contents().enumerators.entries())
         listed.enumerators.push_back({name->string(), value});
     for (Class const* const superclass : cls.contents().superclasses)

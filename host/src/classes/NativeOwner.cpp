@@ -14,4 +14,10 @@ NativeOwner* nativeOwnerOf(COSNameID const& className)
     return cls ? dynamic_cast<NativeOwner*>(&static_cast<velmara::Class*>(cls)->info()) : nullptr;
 }
 
+NativeOwner* nativeOwnerOf(COSInterface const* object)
+{
+    velmara::ObjectClass* const cls = static_cast<velmara::Object const*>(object)->classOf();
+    return cls ? dynamic_cast<NativeOwner*>(&cls->info()) : nullptr;
+}
+
 } // namespace orbis::host_extensions

@@ -25,7 +25,7 @@ std::optional<Error> ErrorKinds::describeCurrent() const
     std::string text;
     for (bool const isExact : {true, false})
         for (auto kind = kinds_.rbegin(); kind != kinds_.rend(); ++kind)
-            if ((type && *kind->type == *type) == isExact && kind->describe(text))
+            if ((type && *kind->type == *type) == isExact && kind->describe(*kind, text))
                 return Error(kind->identifier, text);
     return std::nullopt;
 }

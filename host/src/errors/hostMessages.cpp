@@ -80,6 +80,8 @@ constexpr HostMessage messages[] = {
     {"VELMARA:native", "unknown", "Native code failed with something that is no exception."},
     {"VELMARA:object", "initialized", "The object of class \"{0}\" is initialized already."},
     {"VELMARA:object", "invalid", "The object of class \"{0}\" is no longer valid: what it stood for is gone."},
+    {"VELMARA:object", "notCopyable",
+     "Objects of class \"{0}\" cannot be copied: it has no constructor that takes one."},
     {"VELMARA:object", "notObject", "An object is needed here, not an array of class \"{0}\"."},
     {"VELMARA:object", "otherClass", "An object of class \"{0}\" is needed here, not of class \"{1}\"."},
     {"VELMARA:object", "otherVirtualMachine", "The object of class \"{0}\" belongs to another virtual machine."},

@@ -2,7 +2,8 @@
 
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/classes/NativeClassRecord.hpp"
-#include "orbis/factory/detail/members/MemberRecord.hpp"
+#include "orbis/factory/detail/members/CallableForm.hpp"
+#include "orbis/factory/detail/members/Copying.hpp"
 #include "orbis/factory/detail/members/PropertyRecord.hpp"
 
 #include "orbis/COSClass.hpp"
@@ -26,20 +27,33 @@ public:
     std::vector<MemberRecord> const& members() const;
     std::vector<PropertyRecord> const& properties() const;
 
+    /// How objects are copied; null when they are not.
+    detail::Copying const* copying() const;
+
 protected:
     void add(NativeClassRecord const& superclass);
     void add(MemberRecord record);
-    void add(PropertyRecord record);
+    void add(detail::CallableForm const& form, char const* name, impl::Callable target, char const* parameterNames,
+             MethodText text);
+    void add(std::vector<MemberRecord> records);
+    void add(char const* name, detail::GetterForm const* getterForm, impl::Callable getter,
+             detail::SetterForm const* setterForm, impl::Callable setter, PropertyText text);
+
+    /// The functors of the last property.
+    void keep(detail::KeptObject const& getter, detail::KeptObject const& setter);
+    void setCopying(detail::Copying const& copying);
 
 private:
     NativeClassRecord native_;
     std::vector<NativeClassRecord> superclasses_;
     std::vector<MemberRecord> members_;
     std::vector<PropertyRecord> properties_;
+    detail::Copying const* copying_ = nullptr;
 };
 
 /// Adds to the host class its superclasses, which must be published, and a descriptor for every member: constructors,
-/// then methods, then properties, each kind in the order of description. Call it from the class info's
+/// with one that copies where objects can be copied and none is described, then methods, then properties, each kind in
+/// the order of description. Call it from the class info's
 /// `initializeClass`. Throws "orbis_factory:orbis_factory:member_not_published" when a member's descriptor cannot be
 /// created or the host rejects it; descriptors added before that stay with the host.
 ORBIS_FACTORY_API void publish(COSClass* cls, ClassDescription const& description);

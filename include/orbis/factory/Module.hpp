@@ -2,19 +2,25 @@
 
 #include "orbis/factory/base/refusals.hpp" // first: see there
 
+#include "orbis/factory/ObjectHandle.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/detail/objects/ClassNames.hpp"
+#include "orbis/factory/parameterOwners.hpp"
+#include "orbis/factory/resultOwners.hpp"
+#include "orbis/factory/types/NumericVectorPolicy.hpp"
+#include "orbis/factory/types/OptionalPolicy.hpp"
+#include "orbis/factory/types/StringViewPolicy.hpp"
+#include "orbis/factory/types/stringVectors.hpp"
+#include "orbis/factory/withDefaults.hpp"
 
 #include "host_extensions/ErrorKind.hpp"
 #include "orbis/COSPackage.hpp"
 
-#include <functional>
-#include <memory>
 #include <string>
 #include <typeinfo>
-#include <utility>
 
 namespace orbis::factory {
 
@@ -70,10 +76,8 @@ public:
         static_assert(!PublishedClass<T>, "The class has a HostClass, which names it: publish it with a class info, or "
                                           "remove its HostClass.");
         setName(detail::namedClassOf<T>(), detail::classNames(), name, owner);
-        auto description = std::make_unique<ClassDescriber<T>>();
-        ClassDescriber<T>& result = *description;
-        addClass(detail::namedClassOf<T>(), std::move(description), text);
-        return result;
+        return static_cast<ClassDescriber<T>&>(
+            addClass(detail::namedClassOf<T>(), detail::NewObject<ClassDescription>(new ClassDescriber<T>), text));
     }
 
     /// Publishes a free function, static member function, lambda or functor; the arguments are those of
@@ -119,16 +123,19 @@ public:
     template <class E>
     Module& error(char const* identifier, std::string (*text)(E const&) = detail::errorText<E>)
     {
-        addErrorKind({identifier, &typeid(E), [text](std::string& result) {
+        using Text = std::string (*)(E const&);
+        addErrorKind({identifier, &typeid(E),
+                      [](host_extensions::ErrorKind const& kind, std::string& result) {
                           try {
                               throw;
                           } catch (E const& error) {
-                              result = text(error);
+                              result = reinterpret_cast<Text>(kind.text)(error);
                               return true;
                           } catch (...) {
                               return false;
                           }
-                      }});
+                      },
+                      reinterpret_cast<void (*)()>(text)});
         return *this;
     }
 
@@ -137,16 +144,14 @@ public:
 
 private:
     void setName(detail::NamedClass& named, detail::ClassNames& names, char const* name, Owner owner);
-    void addErrorKind(host_extensions::ErrorKind kind);
-    void addClass(detail::NamedClass& named, std::unique_ptr<ClassDescription> description, char const* text);
+    void addErrorKind(host_extensions::ErrorKind const& kind);
+    ClassDescription& addClass(detail::NamedClass& named, detail::NewObject<ClassDescription> description,
+                               char const* text);
 
     COSPackage& package_;
     std::string fullName_;
     FunctionDescriber functions_;
 };
-
-/// Publishes a package that `fill` fills, as `registerOrbisPackage` does; for programs that publish classes themselves.
-ORBIS_FACTORY_API COSPackage* registerModule(std::string const& fullName, std::function<void(Module&)> fill);
 
 } // namespace orbis::factory
 

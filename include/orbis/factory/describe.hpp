@@ -7,7 +7,7 @@
 #include "orbis/factory/descriptors/MemberText.hpp"
 #include "orbis/factory/descriptors/releasedBy.hpp"
 #include "orbis/factory/detail/members/areSuperclasses.hpp"
-#include "orbis/factory/detail/members/makePropertyRecord.hpp"
+#include "orbis/factory/detail/members/describedAccess.hpp"
 #include "orbis/factory/detail/members/makeRecord.hpp"
 #include "orbis/factory/detail/members/memberChecks.hpp"
 #include "orbis/factory/detail/members/propertyChecks.hpp"
@@ -42,7 +42,23 @@ class ClassDescriber : public ClassDescription {
     using Refusal = detail::Refusal;
 
 public:
-    ClassDescriber() : ClassDescription(nativeClassRecord<T>()) {}
+    ClassDescriber() : ClassDescription(nativeClassRecord<T>())
+    {
+        if constexpr (NamedType<T>)
+            if constexpr (isValue<T>)
+                setCopying(detail::copyingOf<T>);
+    }
+
+    /// Has scripts copy objects of a class that a `Module` publishes, as they copy those of an `isValue` class unasked:
+    /// with a constructor that takes one, if there are others, and with what their language has for it.
+    ClassDescriber& copyable()
+    {
+        if constexpr (NamedType<T> && detail::CopyConstructible<T>)
+            setCopying(detail::copyingOf<T>);
+        else
+            detail::refuse<Refusal::NotCopyable, T>();
+        return *this;
+    }
 
     /// Names the direct superclasses: published base classes, whose members objects of this class inherit.
     template <class... B>
@@ -58,76 +74,100 @@ public:
 
     /// Adds a constructor that takes values of the types `A`.
     template <class... A>
-    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText const& text = {},
-                                MethodAttributes attributes = {})
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText text = {})
     {
         constexpr Refusal refusal = detail::constructorRefusal<T, A...>();
         if constexpr (refusal != Refusal::None)
             detail::refuse<refusal, A...>();
         else
-            add(detail::constructorRecord<T, A...>(names.text(), text + attributes));
+            add(constructorForm<A...>, nullptr, {}, names.text(), text);
         return *this;
+    }
+
+    template <class... A>
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, MethodText text, MethodAttributes attributes)
+    {
+        return constructor<A...>(names, text + attributes);
     }
 
     template <class... A>
     ClassDescriber& constructor(MethodAttributes attributes)
     {
-        return constructor<A...>({}, attributes);
+        return constructor<A...>({}, MethodText(attributes));
     }
 
     template <class... A, class... D>
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults,
-                                MethodText const& text = {}, MethodAttributes attributes = {})
+                                MethodText text = {})
     {
         constexpr Refusal refusal =
             detail::firstRefusal(detail::constructorRefusal<T, A...>(),
                                  detail::defaultsRefusal<sizeof...(A), D...>(detail::TypeList<A...>{}));
         if constexpr (refusal != Refusal::None) {
             detail::refuse<refusal, A..., D...>();
-            return *this;
         } else {
-            constructor<A...>(names, text, attributes);
-            return addAll(defaults.template shortenConstructor<T, A...>(members().back()));
+            constructor<A...>(names, text);
+            add(defaults.template shortenConstructor<T, A...>(members().back()));
         }
+        return *this;
+    }
+
+    template <class... A, class... D>
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults, MethodText text,
+                                MethodAttributes attributes)
+    {
+        return constructor<A...>(names, defaults, text + attributes);
     }
 
     /// Adds a method: a member function of `T` or of a public base, or a free function, lambda or functor that takes a
     /// `T*` first. The latter becomes a forced member, which throws when it is called without an object; its
     /// parameter names begin with the object's.
     template <class F>
-    ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodText const& text = {},
-                           MethodAttributes attributes = {})
+    ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodText text = {})
     {
         constexpr Refusal refusal = detail::methodRefusal<T, std::decay_t<F>>();
         if constexpr (refusal != Refusal::None)
             detail::refuse<refusal, T, F>();
         else if constexpr (Traits<F>::kind == detail::CallableKind::Member)
-            addMember(name, function, names.text(), text + attributes);
+            addMember(name, function, names.text(), text);
         else
-            addFree(name, function, names.text(), text + attributes + MethodAttributes::ForceMembership());
+            addFree(name, function, names.text(), text + MethodAttributes::ForceMembership());
         return *this;
+    }
+
+    template <class F>
+    ClassDescriber& method(char const* name, F function, Names<F> names, MethodText text, MethodAttributes attributes)
+    {
+        return method(name, function, names, text + attributes);
     }
 
     template <class F>
     ClassDescriber& method(char const* name, F function, MethodAttributes attributes)
     {
-        return method(name, function, {}, attributes);
+        return method(name, function, {}, MethodText(attributes));
     }
 
     template <class F, class... D>
     ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
-                           MethodText const& text = {}, MethodAttributes attributes = {})
+                           MethodText text = {})
     {
         constexpr std::size_t objects = Traits<F>::kind == detail::CallableKind::Member ? 0 : 1;
         constexpr Refusal refusal = detail::firstRefusal(detail::methodRefusal<T, std::decay_t<F>>(),
                                                          detail::defaultsRefusalOf<std::decay_t<F>, objects, D...>());
         if constexpr (refusal != Refusal::None) {
             detail::refuse<refusal, F, D...>();
-            return *this;
         } else {
-            method(name, function, names, text, attributes);
-            return addAll(defaults.template shorten<T, objects>(members().back(), function));
+            method(name, function, names, text);
+            add(defaults.template shorten<T, objects>(members().back(), function));
         }
+        return *this;
+    }
+
+    template <class F, class... D>
+    ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
+                           MethodText text, MethodAttributes attributes)
+    {
+        return method(name, function, names, defaults, text + attributes);
     }
 
     /// Chosen for what is no method.
@@ -141,36 +181,49 @@ public:
 
     /// Adds a static method: a free function, static member function, lambda or functor, called without an object.
     template <class F>
-    ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText const& text = {},
-                                 MethodAttributes attributes = {})
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText text = {})
     {
         constexpr Refusal refusal = detail::staticMethodRefusal<std::decay_t<F>>();
         if constexpr (refusal != Refusal::None)
             detail::refuse<refusal, T, F>();
         else
-            addFree(name, function, names.text(), text + attributes);
+            addFree(name, function, names.text(), text);
         return *this;
+    }
+
+    template <class F>
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names, MethodText text,
+                                 MethodAttributes attributes)
+    {
+        return staticMethod(name, function, names, text + attributes);
     }
 
     template <class F>
     ClassDescriber& staticMethod(char const* name, F function, MethodAttributes attributes)
     {
-        return staticMethod(name, function, {}, attributes);
+        return staticMethod(name, function, {}, MethodText(attributes));
     }
 
     template <class F, class... D>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
-                                 MethodText const& text = {}, MethodAttributes attributes = {})
+                                 MethodText text = {})
     {
         constexpr Refusal refusal = detail::firstRefusal(detail::staticMethodRefusal<std::decay_t<F>>(),
                                                          detail::defaultsRefusalOf<std::decay_t<F>, 0, D...>());
         if constexpr (refusal != Refusal::None) {
             detail::refuse<refusal, F, D...>();
-            return *this;
         } else {
-            staticMethod(name, function, names, text, attributes);
-            return addAll(defaults.template shorten<T, 0>(members().back(), function));
+            staticMethod(name, function, names, text);
+            add(defaults.template shorten<T, 0>(members().back(), function));
         }
+        return *this;
+    }
+
+    template <class F, class... D>
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
+                                 MethodText text, MethodAttributes attributes)
+    {
+        return staticMethod(name, function, names, defaults, text + attributes);
     }
 
     /// Chosen for what is no static method.
@@ -186,32 +239,43 @@ public:
     /// function, lambda or functor that takes the object or nothing. What a lambda captures is copied. Non-const data
     /// can be written as well, unless `PropertyAttributes::NoAccessSetter()` is given.
     template <class G>
-    ClassDescriber& property(char const* name, G getter, PropertyText const& text = {},
-                             PropertyAttributes attributes = {})
+    ClassDescriber& property(char const* name, G getter, PropertyText text = {})
     {
         constexpr Refusal refusal = detail::propertyRefusal<T, G>();
         if constexpr (refusal != Refusal::None)
             detail::refuse<refusal, T, G>();
         else if constexpr (detail::isWritableData<T, G>)
-            add(detail::propertyRecord<T>(name, getter, getter, text + attributes));
+            addProperty(name, getter, getter, text);
         else
-            add(detail::propertyRecord<T>(name, getter, detail::NoAccess(), text + attributes));
+            addProperty(name, getter, detail::NoAccess(), text);
         return *this;
+    }
+
+    template <class G>
+    ClassDescriber& property(char const* name, G getter, PropertyText text, PropertyAttributes attributes)
+    {
+        return property(name, getter, text + attributes);
     }
 
     /// Adds a property that is read and written. The setter is a data member, a member function that takes the value,
     /// or a free function, lambda or functor that takes the value, preceded by the object if it needs it.
     template <class G, class S>
         requires(!std::convertible_to<S, PropertyText>)
-    ClassDescriber& property(char const* name, G getter, S setter, PropertyText const& text = {},
-                             PropertyAttributes attributes = {})
+    ClassDescriber& property(char const* name, G getter, S setter, PropertyText text = {})
     {
         constexpr Refusal refusal = detail::propertyRefusal<T, G, S>();
         if constexpr (refusal != Refusal::None)
             detail::refuse<refusal, T, G, S>();
         else
-            add(detail::propertyRecord<T>(name, getter, setter, text + attributes));
+            addProperty(name, getter, setter, text);
         return *this;
+    }
+
+    template <class G, class S>
+        requires(!std::convertible_to<S, PropertyText>)
+    ClassDescriber& property(char const* name, G getter, S setter, PropertyText text, PropertyAttributes attributes)
+    {
+        return property(name, getter, setter, text + attributes);
     }
 
     /// Chosen for what is no property.
@@ -225,36 +289,45 @@ public:
 
     /// Adds a write-only property. The setter is as above.
     template <class S>
-    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText const& text = {},
-                                      PropertyAttributes attributes = {})
+    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText text = {})
     {
         constexpr Refusal refusal = detail::setterRefusal<T, S>();
         if constexpr (refusal != Refusal::None)
             detail::refuse<refusal, T, S>();
         else
-            add(detail::propertyRecord<T>(name, detail::NoAccess(), setter, text + attributes));
+            addProperty(name, detail::NoAccess(), setter, text);
         return *this;
+    }
+
+    template <class S>
+    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText text, PropertyAttributes attributes)
+    {
+        return writeOnlyProperty(name, setter, text + attributes);
     }
 
     /// Adds a read-only property of the class itself: static data, a constant, or a function without parameters.
     template <class G>
-    ClassDescriber& staticProperty(char const* name, G getter, PropertyText const& text = {},
-                                   PropertyAttributes attributes = {})
+    ClassDescriber& staticProperty(char const* name, G getter, PropertyText text = {})
     {
         constexpr Refusal refusal =
             detail::firstRefusal(detail::staticRefusal<detail::GetterTraits<T, G>>(), detail::propertyRefusal<T, G>());
         if constexpr (refusal != Refusal::None)
             detail::refuse<refusal, T, G>();
         else
-            property(name, getter, text, attributes + PropertyAttributes::Static());
+            property(name, getter, text + PropertyAttributes::Static());
         return *this;
+    }
+
+    template <class G>
+    ClassDescriber& staticProperty(char const* name, G getter, PropertyText text, PropertyAttributes attributes)
+    {
+        return staticProperty(name, getter, text + attributes);
     }
 
     /// The same, read and written.
     template <class G, class S>
         requires(!std::convertible_to<S, PropertyText>)
-    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText const& text = {},
-                                   PropertyAttributes attributes = {})
+    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText text = {})
     {
         constexpr Refusal refusal =
             detail::firstRefusal(detail::staticRefusal<detail::GetterTraits<T, G>, detail::SetterTraits<T, S>>(),
@@ -262,8 +335,16 @@ public:
         if constexpr (refusal != Refusal::None)
             detail::refuse<refusal, T, G, S>();
         else
-            property(name, getter, setter, text, attributes + PropertyAttributes::Static());
+            property(name, getter, setter, text + PropertyAttributes::Static());
         return *this;
+    }
+
+    template <class G, class S>
+        requires(!std::convertible_to<S, PropertyText>)
+    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText text,
+                                   PropertyAttributes attributes)
+    {
+        return staticProperty(name, getter, setter, text + attributes);
     }
 
 private:
@@ -278,29 +359,44 @@ private:
                             detail::downcast<B, T>);
     }
 
-    ClassDescriber& addAll(std::vector<MemberRecord> records)
-    {
-        for (MemberRecord& record : records)
-            add(std::move(record));
-        return *this;
-    }
+    template <class... A>
+    static constexpr detail::CallableForm const& constructorForm =
+        detail::callableForm<MemberRecord::Kind::Constructor, T*, detail::TypeList<A...>,
+                             detail::ConstructorRoutine<T, detail::TypeList<A...>>>;
+
+    template <class Result, class Parameters, class Pointer>
+    static constexpr detail::CallableForm const& memberForm =
+        detail::callableForm<MemberRecord::Kind::MemberFunction, Result, Parameters,
+                             detail::MemberFunctionRoutine<T, Pointer, Result, Parameters>>;
 
     template <class F>
-    void addMember(char const* name, F function, char const* names, MethodText const& text)
+    void addMember(char const* name, F function, char const* names, MethodText text)
     {
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
         using Pointer = typename Traits<F>::template PointerIn<T>;
-        add(detail::memberFunctionRecord<T, Pointer, Result, Parameters>(name, function, names, text));
+        add(memberForm<Result, Parameters, Pointer>, name, static_cast<Pointer>(function), names, text);
     }
 
     template <class F>
-    void addFree(char const* name, F function, char const* names, MethodText const& text)
+    void addFree(char const* name, F function, char const* names, MethodText text)
     {
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
         using Pointer = typename Traits<F>::Pointer;
         add(detail::freeFunctionRecord<Pointer, Result, Parameters>(name, function, names, text));
+    }
+
+    template <class G, class S>
+    void addProperty(char const* name, G const& getter, S const& setter, PropertyText text)
+    {
+        using Getter = detail::DescribedGetter<T, G>;
+        using Setter = detail::DescribedSetter<T, S>;
+        auto const get = Getter::stored(getter);
+        auto const set = Setter::stored(setter);
+        add(name, Getter::form, Getter::Stored::target(get), Setter::form, Setter::Stored::target(set), text);
+        if constexpr (Getter::Stored::isKept || Setter::Stored::isKept)
+            keep(Getter::Stored::kept(get), Setter::Stored::kept(set));
     }
 };
 

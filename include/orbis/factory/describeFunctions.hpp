@@ -51,8 +51,7 @@ public:
             detail::refuse<refusal, F, D...>();
         } else {
             function(name, callable, names, text);
-            for (MemberRecord const& shorter : defaults.template shorten<void, 0>(functions().back(), callable))
-                add(shorter);
+            add(defaults.template shorten<void, 0>(functions().back(), callable));
         }
         return *this;
     }

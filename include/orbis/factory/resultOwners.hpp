@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/detail/members/CallableTraits.hpp"
+#include "orbis/factory/detail/members/getterTraits.hpp"
 #include "orbis/factory/marshaling/objectResult.hpp"
 
 #include <type_traits>
@@ -23,9 +24,15 @@ struct ResultOwnerOf {
 };
 
 template <class F, ResultOwner Owner>
+    requires(CallableTraits<F>::kind != CallableKind::None)
 struct CallableTraits<ResultOwnerOf<F, Owner>> : CallableTraits<F> {
     using Result = OwnedResult<typename CallableTraits<F>::Result, Owner>;
 };
+
+template <class T, class M, class C, ResultOwner Owner>
+    requires std::is_object_v<M> && std::derived_from<T, C>
+struct GetterTraits<T, ResultOwnerOf<M C::*, Owner>>
+    : GetterOf<MemberReader<OwnedResult<M const&, Owner>, T, MemberPointerIn<M C::*, M T::*>, std::remove_cv_t<M>>> {};
 
 } // namespace detail
 
@@ -35,9 +42,9 @@ struct CallableTraits<ResultOwnerOf<F, Owner>> : CallableTraits<F> {
 ///
 ///     .method("clone", owned(&Shape::clone))
 ///
-/// `owned`: the host object, which deletes it. `borrowed`: native code, as long as scripts can use it. `inside`: the
-/// object that the member was called on, which is kept alive; when it is destroyed, the result's host object becomes
-/// invalid.
+/// `owned`: the host object, which deletes it. `copied`: the same, of a copy. `borrowed`: native code, as long as
+/// scripts can use it. `inside`: the object that the member was called on, which is kept alive; when it is destroyed,
+/// the result's host object becomes invalid.
 template <class F>
 constexpr auto owned(F function)
 {
@@ -54,6 +61,12 @@ template <class F>
 constexpr auto inside(F function)
 {
     return detail::ResultOwnerOf<std::decay_t<F>, ResultOwner::Whole>{function};
+}
+
+template <class F>
+constexpr auto copied(F function)
+{
+    return detail::ResultOwnerOf<std::decay_t<F>, ResultOwner::Copy>{function};
 }
 
 } // namespace orbis::factory

@@ -62,6 +62,38 @@ public:
     ~not_convertible() override;
 };
 
+/// An object was to be copied, owned by its host object, or shared, kept or taken by native code, and cannot be. Arguments: the class's name; the
+/// reason.
+class ORBIS_FACTORY_API cannot_copy : public resource_core::BaseMsgID {
+public:
+    cannot_copy(std::string const& className, std::string const& reason);
+    ~cannot_copy() override;
+};
+
+class ORBIS_FACTORY_API cannot_own : public resource_core::BaseMsgID {
+public:
+    cannot_own(std::string const& className, std::string const& reason);
+    ~cannot_own() override;
+};
+
+class ORBIS_FACTORY_API cannot_share : public resource_core::BaseMsgID {
+public:
+    cannot_share(std::string const& className, std::string const& reason);
+    ~cannot_share() override;
+};
+
+class ORBIS_FACTORY_API cannot_keep : public resource_core::BaseMsgID {
+public:
+    cannot_keep(std::string const& className, std::string const& reason);
+    ~cannot_keep() override;
+};
+
+class ORBIS_FACTORY_API cannot_take : public resource_core::BaseMsgID {
+public:
+    cannot_take(std::string const& className, std::string const& reason);
+    ~cannot_take() override;
+};
+
 /// A property was read without a getter, or written without a setter.
 class ORBIS_FACTORY_API null_fcn_ptr : public resource_core::BaseMsgID {
 public:

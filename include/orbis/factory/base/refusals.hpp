@@ -32,9 +32,13 @@ enum class Refusal {
     UnpublishedEnumeration,
     IncompleteClass,
     NotDestructible,
+    NotCopyable,
     NotAssignable,
     NotPolymorphic,
     OwnerOfNoObject,
+    OwnerOfNoArgument,
+    KeptWithoutObject,
+    NoSuchParameter,
     HandleByValue,
     Output,
     ElementView,
@@ -153,12 +157,21 @@ consteval void refuse()
     static_assert(isNot<R>(IncompleteClass), "This class is only declared here: include the header that defines it.");
     static_assert(isNot<R>(NotDestructible), "The host cannot own this result: its class has no public destructor. Say "
                                              "borrowed(...) or inside(...) of the function.");
+    static_assert(isNot<R>(NotCopyable),
+                  "This object cannot be copied: its class has no public copy constructor, or no "
+                  "public destructor, or is abstract, or has a HostClass.");
     static_assert(isNot<R>(NotAssignable), "Values of this class are handed to the host as copies: make the class "
                                            "assignable.");
     static_assert(isNot<R>(NotPolymorphic), "Objects of a class hierarchy are told apart by their dynamic type: give "
                                             "the class that Root names a virtual destructor.");
-    static_assert(isNot<R>(OwnerOfNoObject), "owned(...), borrowed(...) and inside(...) are for functions that return "
-                                             "an object: publish this one without.");
+    static_assert(isNot<R>(OwnerOfNoArgument), "A parameter that is kept or taken is a pointer or a reference to an "
+                                               "object of a class that a Module publishes.");
+    static_assert(isNot<R>(NoSuchParameter), "The function has no such parameter: they are counted from 0.");
+    static_assert(isNot<R>(KeptWithoutObject), "Without an object that the member is called on, nothing is kept: take "
+                                               "a std::shared_ptr.");
+    static_assert(isNot<R>(OwnerOfNoObject),
+                  "owned(...), copied(...), borrowed(...) and inside(...) are for functions that return "
+                  "an object: publish this one without.");
     static_assert(isNot<R>(HandleByValue), "Objects of a class with a HostClass do not cross by value: return a "
                                            "pointer or a reference, or name ValuePolicy in the HostClass.");
     static_assert(isNot<R>(Output), "A parameter that is a reference to a non-const value cannot cross: take it by "

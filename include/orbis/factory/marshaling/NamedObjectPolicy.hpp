@@ -2,11 +2,11 @@
 
 #include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/detail/bindings/NewObject.hpp"
 #include "orbis/factory/detail/objects/namedObjects.hpp"
 #include "orbis/factory/marshaling/Marshaler.hpp"
 
 #include <concepts>
-#include <memory>
 #include <utility>
 
 namespace orbis::factory {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/detail/bindings/NewObject.hpp"
 #include "orbis/factory/detail/bindings/bindings.hpp"
 #include "orbis/factory/detail/objects/namedObjects.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
@@ -9,7 +10,6 @@
 #include "orbis/COSValue.hpp"
 #include "orbis/objectArrays.hpp"
 
-#include <memory>
 #include <type_traits>
 #include <typeinfo>
 #include <utility>
@@ -76,6 +76,10 @@ consteval Refusal storedResultRefusal()
                        (!ObjectResult<Result> ||
                         (StoresObjects<Result> && ResultTraits<Result>::owner == ResultOwner::Host)))
         return Refusal::OwnerOfNoObject;
+    else if constexpr (ResultTraits<Result>::owner == ResultOwner::Copy)
+        return CopyConstructible<std::remove_const_t<std::remove_pointer_t<std::remove_cvref_t<Native>>>>
+                   ? Refusal::None
+                   : Refusal::NotCopyable;
     else if constexpr (StoresNamedObject<Result> && isOwnedByHost &&
                        !(std::is_pointer_v<Native> && ResultTraits<Result>::owner != ResultOwner::Host))
         return std::is_destructible_v<std::remove_pointer_t<std::remove_cvref_t<Native>>> ? Refusal::None
@@ -120,6 +124,16 @@ struct WholeOfProperty {
     }
 };
 
+/// Returns a new copy of an object, which is exactly of this class; null for null.
+template <class Class>
+Class const* copyOf(NamedClass const& named, Class const* original)
+{
+    if (!original)
+        return nullptr;
+    requireExactType(named, original);
+    return new Class(*original);
+}
+
 /// Calls `function` and returns an array, owned by the caller, with the host object of its result. A result by value
 /// becomes an object of its own; one that belongs to the host is deleted if it gets no host object.
 template <class Result, class Whole, class F>
@@ -132,16 +146,18 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
     NamedClass const& named = namedClassOf<Class>();
     [[maybe_unused]] auto const address = [&]() -> Class const* {
         if constexpr (std::is_reference_v<Native> && !std::is_pointer_v<std::remove_cvref_t<Native>>)
-            return std::addressof(std::forward<F>(function)());
+            return __builtin_addressof(std::forward<F>(function)());
         else if constexpr (!std::is_class_v<Native>)
             return std::forward<F>(function)();
         else
             return nullptr;
     };
-    if constexpr (std::is_class_v<Native> || owner == ResultOwner::Host) {
-        if constexpr (std::is_class_v<Native>)
+    if constexpr (std::is_class_v<Native> || owner == ResultOwner::Host || owner == ResultOwner::Copy) {
+        if constexpr (std::is_class_v<Native>) {
             return announceNamed(named, new Class(std::forward<F>(function)()), ResultOwner::Host, nullptr);
-        else {
+        } else if constexpr (owner == ResultOwner::Copy) {
+            return announceNamed(named, copyOf<Class>(named, address()), ResultOwner::Host, nullptr);
+        } else {
             Class const* const given = address();
             return announceNamed(named, given, ResultOwner::Host, whole.contains(given) ? whole.host() : nullptr);
         }

@@ -2,6 +2,7 @@
 
 #include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/objects/namedObjects.hpp"
+#include "orbis/factory/detail/objects/sharedNamedObjects.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 #include "orbis/factory/marshaling/ReferredObjects.hpp"
 

@@ -155,13 +155,13 @@ template <class Vector>
 struct ReferredByElements {
     static constexpr bool any = true;
 
-    static Enumeration<COSInterface*> of(Vector const& values)
+    static void find(Vector const& values, Enumeration<COSInterface*>& found)
     {
         std::vector<void const*> addresses;
         addresses.reserve(values.size());
         for (auto const& value : values)
             addresses.push_back(boundAddressOf(value));
-        return InterfaceListEnumeration::ofBound(addresses);
+        found = InterfaceListEnumeration::ofBound(addresses);
     }
 };
 

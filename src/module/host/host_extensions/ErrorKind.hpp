@@ -2,7 +2,6 @@
 
 #include "orbis_host_export.hpp"
 
-#include <functional>
 #include <string>
 #include <typeinfo>
 
@@ -15,7 +14,10 @@ struct ErrorKind {
 
     /// Inside a handler: stores the text of the current exception and returns true if that is of this type or derived
     /// from it. Throws `std::bad_alloc` only.
-    std::function<bool(std::string& text)> describe;
+    bool (*describe)(ErrorKind const& kind, std::string& text);
+
+    /// For `describe`: the function that gives the text, of a type that is known there.
+    void (*text)();
 };
 
 /// Adds a kind to those of the current virtual machine, and replaces the earlier one of its type. An exception is of

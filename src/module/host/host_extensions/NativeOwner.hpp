@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/COSInterface.hpp"
 #include "orbis/COSNameID.hpp"
 #include "orbis_host_export.hpp"
 
@@ -22,5 +23,8 @@ public:
 /// Returns the class info of a published class as a `NativeOwner`; null when the class is not published or its class
 /// info is none.
 ORBIS_HOST_API NativeOwner* nativeOwnerOf(COSNameID const& className);
+
+/// The same for the class of an object.
+ORBIS_HOST_API NativeOwner* nativeOwnerOf(COSInterface const* object);
 
 } // namespace orbis::host_extensions

@@ -6,13 +6,13 @@
 #include "orbis/factory/detail/bindings/bindings.hpp"
 #include "orbis/factory/detail/members/CallableTraits.hpp"
 #include "orbis/factory/marshaling/Argument.hpp"
+#include "orbis/factory/marshaling/ObjectTransfer.hpp"
 #include "orbis/factory/marshaling/objectResult.hpp"
 #include "orbis/factory/ownership/CopyableSupport.hpp"
 #include "orbis/factory/types/HvArrayPolicy.hpp"
 
 #include "orbis/objectArrays.hpp"
 
-#include <algorithm>
 #include <type_traits>
 #include <utility>
 
@@ -28,7 +28,9 @@ void shareGivenArray([[maybe_unused]] COSValue const* outputs, [[maybe_unused]] 
 {
     if constexpr (!std::is_reference_v<Result> && passesForeignArray<Result>()) {
         hvArray* const array = outputs->array();
-        bool isGiven = std::any_of(inputs, inputs + inputCount, [=](COSValue in) { return in.array() == array; });
+        bool isGiven = false;
+        for (int i = 0; i < inputCount && !isGiven; ++i)
+            isGiven = inputs[i].array() == array;
         if constexpr (requires { target.givesArray(array); })
             isGiven = isGiven || target.givesArray(array);
         if (array && isGiven)
@@ -80,9 +82,12 @@ public:
             if constexpr (std::is_pointer_v<std::remove_cvref_t<decltype(arguments.first())>>)
                 impl::validateSelfPointer(arguments.first(), *invoker);
         }
-        storeCallResult<Result>(
-            outputCount, outputs, wholeOf(arguments, *invoker, inputs),
-            [&]() -> NativeResult<Result> { return arguments.apply(invoker->target.template as<Pointer>()); });
+        Transfer<A...> transfer(WholeInput<char>{invoker->forcedMember ? inputs : nullptr, nullptr}, inputs);
+        storeCallResult<Result>(outputCount, outputs, wholeOf(arguments, *invoker, inputs),
+                                [&]() -> NativeResult<Result> {
+                                    [[maybe_unused]] auto const completion = transfer.completion();
+                                    return arguments.apply(invoker->target.template as<Pointer>());
+                                });
         shareGivenArray<Result>(outputs, inputs, inputCount, invoker->target.template as<Pointer>());
     }
 };
@@ -99,7 +104,10 @@ struct MemberFunctionRoutine<T, Pointer, Result, TypeList<A...>> {
         ArgumentsOf<A...> arguments(inputs + 1);
         if (!self) [[unlikely]]
             impl::validateSelfPointer(self);
-        storeCallResult<Result>(outputCount, outputs, WholeInput<T>{inputs, self}, [&]() -> NativeResult<Result> {
+        WholeInput<T> const whole{inputs, self};
+        Transfer<A...> transfer(whole, inputs + 1);
+        storeCallResult<Result>(outputCount, outputs, whole, [&]() -> NativeResult<Result> {
+            [[maybe_unused]] auto const completion = transfer.completion();
             return arguments.apply([&](auto&&... values) -> NativeResult<Result> {
                 auto const target = invoker->target.template as<Pointer>();
                 if constexpr (std::is_member_function_pointer_v<Pointer>)
@@ -147,10 +155,14 @@ struct ConstructorRoutine<T, TypeList<A...>, Completion> {
             assign(*existing, arguments, completion);
             bind(host, className, existing);
         } else {
+            Transfer<A...> transfer(NoWhole(), inputs);
             auto object = arguments.apply(completion.complete(
                 [](auto&&... values) { return NativeOwnership<T>::make(static_cast<decltype(values)>(values)...); }));
+            if constexpr (NamedType<T>)
+                transfer.prepare(namedClassOf<T>(), host, object.get());
             bind(host, className, object.get());
             NativeOwnership<T>::handOver(std::move(object), constructed);
+            transfer.complete();
         }
         if (outputCount == 0)
             outputCount = 1;

@@ -3,33 +3,25 @@
 #include "orbis/factory/descriptors/Callable.hpp"
 #include "orbis/factory/detail/members/HeldFunctor.hpp"
 
-#include <memory>
-
 namespace orbis::factory::detail {
 
 /// How a record stores a callable: as a pointer, or as one to a functor that it keeps.
 template <class Pointer>
 struct StoredCallable {
     using Call = Pointer;
+    static constexpr bool isKept = false;
 
     static impl::Callable target(Pointer function) { return function; }
-    static std::shared_ptr<void const> kept(Pointer) { return {}; }
-    static Pointer load(impl::Callable const& target, std::shared_ptr<void const> const&)
-    {
-        return target.as<Pointer>();
-    }
+    static KeptObject kept(Pointer) { return {}; }
 };
 
 template <class F>
 struct StoredCallable<HeldFunctor<F>> {
     using Call = typename HeldFunctor<F>::Call;
+    static constexpr bool isKept = true;
 
-    static impl::Callable target(HeldFunctor<F> const& held) { return held.functor.get(); }
-    static std::shared_ptr<void const> kept(HeldFunctor<F> const& held) { return held.functor; }
-    static HeldFunctor<F> load(impl::Callable const&, std::shared_ptr<void const> const& kept)
-    {
-        return HeldFunctor<F>(kept);
-    }
+    static impl::Callable target(HeldFunctor<F> const& held) { return held.functor(); }
+    static KeptObject kept(HeldFunctor<F> const& held) { return held.kept; }
 };
 
 } // namespace orbis::factory::detail

@@ -7,7 +7,6 @@
 #include "orbis/factory/detail/members/Routines.hpp"
 
 #include <cstddef>
-#include <memory>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -63,25 +62,16 @@ consteval Refusal defaultsRefusal(TypeList<A...>)
         }(std::index_sequence_for<D...>());
 }
 
-/// Returns a copy of `full` without its last inputs, which calls through `routine` and keeps `kept` alive.
-inline MemberRecord defaultedOverload(MemberRecord const& full, std::size_t omitted, impl::Invoker::InvokeFn routine,
-                                      impl::Callable target, std::shared_ptr<void const> kept)
-{
-    MemberRecord overload = full;
-    overload.inputTypes = full.inputTypes.first(full.inputTypes.size() - omitted);
-    overload.invokeFn = routine;
-    overload.target = target;
-    overload.kept = std::move(kept);
-    return overload;
-}
+/// Returns a copy of `full` without its last inputs, which calls what is `kept` through `routine`.
+ORBIS_FACTORY_API MemberRecord defaultedOverload(MemberRecord const& full, std::size_t omitted,
+                                                 impl::Invoker::InvokeFn routine, KeptObject const& kept);
 
 /// Returns one record for each number of omitted arguments, with the routine `routineFor<Omitted>()`.
-template <class Record, class RoutineFor, std::size_t... Index>
-std::vector<MemberRecord> defaultedOverloads(MemberRecord const& full, std::shared_ptr<Record const> const& kept,
-                                             RoutineFor routineFor, std::index_sequence<Index...>)
+template <class RoutineFor, std::size_t... Index>
+std::vector<MemberRecord> defaultedOverloads(MemberRecord const& full, KeptObject const& kept, RoutineFor routineFor,
+                                             std::index_sequence<Index...>)
 {
-    return {defaultedOverload(full, Index + 1, routineFor(std::integral_constant<std::size_t, Index + 1>()), kept.get(),
-                              kept)...};
+    return {defaultedOverload(full, Index + 1, routineFor(std::integral_constant<std::size_t, Index + 1>()), kept)...};
 }
 
 /// The first `Objects` parameters are the object that a method is called on.
@@ -109,7 +99,7 @@ std::vector<MemberRecord> defaultedFunctions(MemberRecord const& full, [[maybe_u
             else
                 return static_cast<Pointer>(function);
         };
-        auto const kept = std::make_shared<Record const>(Record{target(), values});
+        auto const kept = KeptObject::make(Record{target(), values});
         return defaultedOverloads(full, kept, routineFor, std::index_sequence_for<D...>());
     } else {
         return {};
@@ -125,7 +115,7 @@ std::vector<MemberRecord> defaultedConstructors(MemberRecord const& full, std::t
             using Given = First<sizeof...(A) - Omitted, TypeList<A...>>;
             return &ConstructorRoutine<T, Given, DefaultedCall<Record, Omitted>>::invoke;
         };
-        auto const kept = std::make_shared<Record const>(Record{{}, values});
+        auto const kept = KeptObject::make(Record{{}, values});
         return defaultedOverloads(full, kept, routineFor, std::index_sequence_for<D...>());
     } else {
         return {};

@@ -1,74 +1,44 @@
 #pragma once
 
-#include "orbis/factory/descriptors/MemberText.hpp"
-#include "orbis/factory/detail/members/MemberRecord.hpp"
+#include "orbis/factory/detail/members/CallableForm.hpp"
 #include "orbis/factory/detail/members/Routines.hpp"
 #include "orbis/factory/detail/members/StoredCallable.hpp"
 
-#include <array>
 #include <type_traits>
 
 namespace orbis::factory::detail {
 
-template <class... A>
-std::span<TypeText const> inputTypes(TypeList<A...>)
-{
-    static constexpr std::array<TypeText, sizeof...(A)> texts{&dataTypeText<A>...};
-    return texts;
-}
+template <class Parameters>
+struct InputTypes;
 
-/// Whether errors of converting one of the inputs are thrown without its name.
 template <class... A>
-consteval bool needsInputNames(TypeList<A...>)
-{
-    return ((refusesNull<A>() || NamesInput<A>) || ...);
-}
+struct InputTypes<TypeList<A...>> {
+    static constexpr TypeText texts[] = {&dataTypeText<A>..., nullptr};
+
+    /// Whether errors of converting one of the inputs are thrown without its name.
+    static constexpr bool needNames = ((refusesNull<A>() || NamesInput<A>) || ... || false);
+};
+
+template <MemberRecord::Kind Kind, class Result, class Parameters, class Routine>
+inline constexpr CallableForm callableForm{Kind,
+                                           InputTypes<Parameters>::needNames,
+                                           &dataTypeText<NativeResult<Result>>,
+                                           static_cast<TypeText const*>(InputTypes<Parameters>::texts),
+                                           Parameters::size,
+                                           &Routine::invoke};
 
 template <class Pointer, class Result, class Parameters>
-MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, MethodText const& text)
-{
-    using Stored = StoredCallable<Pointer>;
-    return {.kind = MemberRecord::Kind::FreeFunction,
-            .name = name,
-            .parameterNames = names,
-            .attributes = text.attributes,
-            .outputType = &dataTypeText<NativeResult<Result>>,
-            .inputTypes = inputTypes(Parameters{}),
-            .invokeFn = &FreeFunctionRoutine<typename Stored::Call, Result, Parameters>::invoke,
-            .target = Stored::target(function),
-            .text = text.text,
-            .namesInputs = needsInputNames(Parameters{}),
-            .kept = Stored::kept(function)};
-}
+inline constexpr CallableForm const& freeFunctionForm =
+    callableForm<MemberRecord::Kind::FreeFunction, Result, Parameters,
+                 FreeFunctionRoutine<typename StoredCallable<Pointer>::Call, Result, Parameters>>;
 
-template <class T, class Pointer, class Result, class Parameters>
-MemberRecord memberFunctionRecord(char const* name, Pointer function, char const* names, MethodText const& text)
+template <class Pointer, class Result, class Parameters>
+MemberRecord freeFunctionRecord(char const* name, Pointer function, char const* names, MethodText text)
 {
-    return {.kind = MemberRecord::Kind::MemberFunction,
-            .name = name,
-            .parameterNames = names,
-            .attributes = text.attributes,
-            .outputType = &dataTypeText<NativeResult<Result>>,
-            .inputTypes = inputTypes(Parameters{}),
-            .invokeFn = &MemberFunctionRoutine<T, Pointer, Result, Parameters>::invoke,
-            .target = function,
-            .text = text.text,
-            .namesInputs = needsInputNames(Parameters{})};
-}
-
-template <class T, class... A>
-MemberRecord constructorRecord(char const* names, MethodText const& text)
-{
-    return {.kind = MemberRecord::Kind::Constructor,
-            .name = nullptr,
-            .parameterNames = names,
-            .attributes = text.attributes,
-            .outputType = &dataTypeText<T*>,
-            .inputTypes = inputTypes(TypeList<A...>{}),
-            .invokeFn = &ConstructorRoutine<T, TypeList<A...>>::invoke,
-            .target = {},
-            .text = text.text,
-            .namesInputs = needsInputNames(TypeList<A...>{})};
+    MemberRecord record = makeRecord(freeFunctionForm<Pointer, Result, Parameters>, name,
+                                     StoredCallable<Pointer>::target(function), names, text);
+    record.kept = StoredCallable<Pointer>::kept(function);
+    return record;
 }
 
 } // namespace orbis::factory::detail

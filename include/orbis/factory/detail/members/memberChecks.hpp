@@ -3,6 +3,7 @@
 #include "orbis/factory/detail/members/CallableTraits.hpp"
 #include "orbis/factory/detail/members/MemberRecord.hpp"
 #include "orbis/factory/detail/members/defaultedOverloads.hpp"
+#include "orbis/factory/marshaling/ObjectTransfer.hpp"
 #include "orbis/factory/marshaling/objectResult.hpp"
 
 #include <concepts>
@@ -11,12 +12,29 @@
 /// Compile-time checks of described functions. Each returns why a description is refused, or `None`.
 namespace orbis::factory::detail {
 
+/// Returns why a parameter cannot be published, or `None`.
+template <class A>
+consteval Refusal parameterRefusal()
+{
+    constexpr bool hasOwner = ParameterType<A>::isKept || ParameterType<A>::isTaken;
+    if constexpr (hasOwner && (!IsNamedObject<NativeParameter<A>> || std::is_class_v<NativeParameter<A>>))
+        return Refusal::OwnerOfNoArgument;
+    else
+        return argumentRefusal<NativeParameter<A>>();
+}
+
 /// Returns why a function of this signature cannot be published, or `None`.
 template <class Result, class... A>
 consteval Refusal signatureRefusal(TypeList<A...>)
 {
     return firstRefusal(sizeof...(A) <= maximumInputs ? Refusal::None : Refusal::TooManyParameters,
-                        argumentRefusal<A>()..., storedResultRefusal<Result>());
+                        parameterRefusal<A>()..., storedResultRefusal<Result>());
+}
+
+template <class... A>
+consteval Refusal keepingRefusal(TypeList<A...>)
+{
+    return (ParameterType<A>::isKept || ...) ? Refusal::KeptWithoutObject : Refusal::None;
 }
 
 /// For a method of class `T`.
@@ -45,7 +63,8 @@ consteval Refusal functionRefusal()
 {
     using Traits = CallableTraits<F>;
     if constexpr (Traits::kind == CallableKind::Free)
-        return signatureRefusal<typename Traits::Result>(typename Traits::Parameters{});
+        return firstRefusal(signatureRefusal<typename Traits::Result>(typename Traits::Parameters{}),
+                            keepingRefusal(typename Traits::Parameters{}));
     else
         return Traits::kind == CallableKind::None ? Other : OfMember;
 }
@@ -65,7 +84,7 @@ consteval Refusal packageFunctionRefusal()
 template <class T, class... A>
 consteval Refusal constructorRefusal()
 {
-    if constexpr (!std::is_constructible_v<T, A...>)
+    if constexpr (!std::is_constructible_v<T, NativeParameter<A>...>)
         return Refusal::NoConstructor;
     else
         return signatureRefusal<void>(TypeList<A...>{});

@@ -21,7 +21,7 @@ consteval Refusal getterRefusal()
     else if constexpr (std::is_void_v<typename GetterTraits<T, G>::Result>)
         return Refusal::GivesNothing;
     else
-        return storedResultRefusal<typename GetterTraits<T, G>::Result>();
+        return storedResultRefusal<typename GetterTraits<T, G>::Reader::Result>();
 }
 
 /// Pointers to data, static or of an object.

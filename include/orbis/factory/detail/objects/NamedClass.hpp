@@ -3,9 +3,9 @@
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/base/typeName.hpp"
 #include "orbis/factory/classes/NativeClassRecord.hpp"
+#include "orbis/factory/detail/objects/values.hpp"
 #include "orbis/factory/ownership/Wrappable.hpp"
 
-#include <atomic>
 #include <concepts>
 #include <cstddef>
 #include <type_traits>
@@ -30,13 +30,14 @@ struct NamedClass {
     std::type_info const& (*dynamicType)(void const* object) = nullptr; ///< null unless the class is polymorphic
     bool (*isInstance)(void const* bound) = nullptr;                    ///< likewise
     void (*destroy)(void* object) = nullptr;                            ///< null when there is no public destructor
+    bool (*areEqual)(void const* a, void const* b) = nullptr;           ///< null when the class has no `==`
     bool hasVirtualDestructor = false;
     void* (*toBase)(void* object) = nullptr;   ///< null for a class that is bound as itself
     void* (*fromBase)(void* object) = nullptr; ///< gives null for an object of another class
     NamedClass const* base = nullptr;          ///< to which `toBase` converts; null when that is bound as it is
     bool isBase = false;                       ///< whether a subclass is published
     bool isOwnedByHost = true;                 ///< the objects that scripts construct
-    std::atomic<char const*> name = nullptr;   ///< full dotted name; null until the class is published
+    char const* name = nullptr;                ///< full dotted name; null until the class is published; see `className`
 };
 
 /// Returns the host name, also of a class that another module publishes. Throws `std::invalid_argument` when the class
@@ -89,6 +90,10 @@ struct NamedClassRecord : NamedClass {
         hasVirtualDestructor = std::has_virtual_destructor_v<T>;
         if constexpr (std::is_destructible_v<T>)
             destroy = [](void* object) { delete static_cast<T*>(object); };
+        if constexpr (hasEquality<T>)
+            areEqual = [](void const* a, void const* b) -> bool {
+                return *static_cast<T const*>(a) == *static_cast<T const*>(b);
+            };
         if constexpr (std::derived_from<T, full::Wrappable>) {
             toBase = &upcast<T, full::Wrappable>;
             fromBase = &downcast<full::Wrappable, T>;
