@@ -162,13 +162,13 @@ void* fromBound(NamedClass const& given, void* bound)
 void* nativeOf(NamedClass const& given, hvArray_tag const* in)
 {
     NamedClass const& named = published(given);
-    return fromBoundOf(named, nativeObject(in, named.name.load(std::memory_order_relaxed)));
+    return fromBoundOf(named, nativeObject(in, publishedName(named)));
 }
 
 void* nativeOf(NamedClass const& given, COSInterface const* object)
 {
     NamedClass const& named = published(given);
-    return fromBoundOf(named, nativeObject(object, named.name.load(std::memory_order_relaxed)));
+    return fromBoundOf(named, nativeObject(object, publishedName(named)));
 }
 
 void* requireNativeOf(NamedClass const& named, hvArray_tag const* in)
