@@ -74,7 +74,8 @@ detail::NamedClass* PublishedClasses::findNamed(std::type_info const& type)
 {
     auto found = named_.find(type);
     if (found == named_.end()) {
-        describeExpected();
+        // Not their classes: one that is being published just now has no members yet.
+        lookUp(expectedPackages_, ".*");
         found = named_.find(type);
     }
     return found == named_.end() ? nullptr : found->second;

@@ -32,6 +32,7 @@ TEST_F(LinkedModulesTest, ClassesOfAModuleCrossInAnother)
         SCOPED_TRACE(first);
         load(first);
         load(second);
+        ArrayPtr const common = hvm().callFunction("cars.common"); // nothing is described before
         ArrayPtr const engine = hvm().construct("engines.Engine", inputs(number(2)));
         call("cars.tune", engine);
         EXPECT_EQ(scalar<double>(hvm().get(engine.get(), "power")), 4);
@@ -45,7 +46,6 @@ TEST_F(LinkedModulesTest, ClassesOfAModuleCrossInAnother)
         for (bool const isTurbo : {false, true})
             EXPECT_EQ(velmara::className(call("cars.make", matrix<bool>(1, 1, {isTurbo})).get()),
                       isTurbo ? "cars.Turbo" : "engines.Engine");
-        ArrayPtr const common = hvm().callFunction("cars.common");
         EXPECT_TRUE(velmara::isSameObject(hvm().callFunction("cars.all").get(), common.get()));
         hvm().deleteObjects(common.get());
         hvm().unloadModule(first == std::string("cars") ? first : second);
