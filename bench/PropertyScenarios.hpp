@@ -3,6 +3,7 @@
 #include "bench/CallScenarios.hpp"
 
 #include "orbis/factory/descriptors/PropertyImplBase.hpp"
+#include "orbis/factory/makeProperty.hpp"
 
 #include <cstddef>
 #include <memory>
@@ -120,7 +121,7 @@ private:
     static std::unique_ptr<orbis::COSPropInfo> describedLevel()
     {
         orbis::factory::PropertyRecord const record = GaugeInfo::description().properties().at(0);
-        return record.make(record);
+        return orbis::factory::makeProperty(record);
     }
 
     velmara::ArrayPtr publishAndConstruct()

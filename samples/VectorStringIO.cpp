@@ -3,6 +3,7 @@
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/ownership/HvmScoped.hpp"
 #include "orbis/factory/types/stringVectors.hpp"
+#include "orbis/factory/types/unicodeStringContainers.hpp"
 
 namespace orbis::factory::samples {
 

@@ -1,4 +1,4 @@
-#include "orbis/factory.hpp"
+#include "orbis/factory/Module.hpp"
 
 struct Adder {
     explicit Adder(double start) : total(start) {}

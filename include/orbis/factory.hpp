@@ -1,7 +1,14 @@
 #pragma once
 
-/// Umbrella header: everything a module needs to publish classes, enumerations and functions. Each header can also be
-/// included alone.
+/// Umbrella header: everything a module needs to publish classes, enumerations and functions, by a `Module` or by class
+/// infos. Each header can also be included alone; `orbis/factory/Module.hpp` suffices for most modules, and compiles in
+/// half the time.
+
+// First, and directly: compilers list how they got to the header of an error.
+#include "orbis/factory/base/refusals.hpp"
+#include "orbis/factory/overload.hpp"
+
+#include "orbis/factory/describe.hpp"
 
 #include "orbis/factory/Module.hpp"
 #include "orbis/factory/ObjectHandle.hpp"
@@ -12,12 +19,22 @@
 #include "orbis/factory/classes/NonHandleClassInfo.hpp"
 #include "orbis/factory/classes/ShareableHandleClassInfo.hpp"
 #include "orbis/factory/classes/StdShareableHandleClassInfo.hpp"
-#include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/descriptors/AdaptedClassGetter.hpp"
+#include "orbis/factory/descriptors/AdaptedClassSetter.hpp"
+#include "orbis/factory/descriptors/ClassGetter.hpp"
+#include "orbis/factory/descriptors/ClassSetter.hpp"
+#include "orbis/factory/descriptors/ClasslessGetter.hpp"
+#include "orbis/factory/descriptors/ClasslessSetter.hpp"
+#include "orbis/factory/descriptors/DataGetter.hpp"
+#include "orbis/factory/descriptors/DataSetter.hpp"
+#include "orbis/factory/makeProperty.hpp"
 #include "orbis/factory/marshaling/StaticCastPolicy.hpp"
 #include "orbis/factory/marshaling/ValuePolicy.hpp"
 #include "orbis/factory/ownership/HvmScoped.hpp"
+#include "orbis/factory/ownership/RawClassPointerMarshaler.hpp"
 #include "orbis/factory/parameterOwners.hpp"
+#include "orbis/factory/registerModule.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 #include "orbis/factory/resultOwners.hpp"
 #include "orbis/factory/types/NamedPointerPolicies.hpp"
@@ -29,5 +46,6 @@
 #include "orbis/factory/types/StringViewPolicy.hpp"
 #include "orbis/factory/types/sharedObjectVectors.hpp"
 #include "orbis/factory/types/stringVectors.hpp"
+#include "orbis/factory/types/unicodeStringContainers.hpp"
 #include "orbis/factory/version.hpp"
 #include "orbis/factory/withDefaults.hpp"

@@ -1,5 +1,6 @@
 #include "orbis/factory/ownership/RawClassPointerMarshaler.hpp"
 
+#include "orbis/factory/marshaling/ReferredObjects.hpp"
 #include "orbis/factory/ownership/BindingRegistry.hpp"
 #include "orbis/factory/ownership/InterfaceEnumeration.hpp"
 
@@ -12,6 +13,12 @@ RawClassPointerMarshaler& RawClassPointerMarshaler::operator=(RawClassPointerMar
 Enumeration<COSInterface*> RawClassPointerMarshaler::toCosi(void const* const object)
 {
     return Enumeration<COSInterface*>(new InterfaceEnumeration(basic::BindingRegistry::find(object)));
+}
+
+void detail::findBound(void const* address, Enumeration<COSInterface*>& found)
+{
+    if (address)
+        found = RawClassPointerMarshaler::toCosi(address);
 }
 
 } // namespace orbis::factory

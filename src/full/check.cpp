@@ -3,13 +3,16 @@
 #include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include "basic/HostDependents.hpp"
+#include "basic/NativeStorage.hpp"
 #include "basic/addressText.hpp"
 #include "full/orphanedObjects.hpp"
 
+#include "host_extensions/NativeOwner.hpp"
 #include "host_extensions/host_extensions.hpp"
 #include "libkwfoundation_usm/Detail.hpp"
 
 #include <algorithm>
+#include <string_view>
 #include <vector>
 
 namespace orbis::factory {
@@ -95,6 +98,49 @@ std::string checkShares(HostView const& hosts)
     return found;
 }
 
+/// A native object that its host object deletes.
+struct Owned {
+    RecordedObject record;
+    basic::NativeExtents::Extent extent;
+    bool isOwned;
+};
+
+std::string textOf(Owned const& owned)
+{
+    return "the native object " + addressText(owned.record.native) + " of " + owned.record.className;
+}
+
+/// No host object owns what it could not delete.
+std::string checkOwned(HostView const& hosts)
+{
+    basic::NativeStorage const storage;
+    std::vector<Owned> objects;
+    for (RecordedObject const& record : hosts.records()) {
+        host_extensions::NativeOwner const* const owner = host_extensions::nativeOwnerOf(COSNameID(record.className));
+        if (!owner || !basic::registry().isBoundTo(record.native, record.host))
+            continue; // a value, or released
+        auto const* const extents = dynamic_cast<basic::NativeExtents const*>(owner);
+        bool const isOwned = std::string_view(owner->nativeOwner()) == "host" && !dependents().shares.has(record.host);
+        objects.push_back({record,
+                           extents ? extents->extentOf(const_cast<void*>(record.native))
+                                   : basic::NativeExtents::Extent{static_cast<char const*>(record.native), 0},
+                           isOwned});
+    }
+    std::ranges::sort(objects, std::less(), [](Owned const& object) { return object.extent.begin; });
+    Owned const* outer = nullptr; // the one that ends last
+    for (Owned const& object : objects) {
+        if (char const* const place = object.isOwned ? storage.placeOf(object.record.native) : nullptr)
+            return textOf(object) + " belongs to its host object, and lies " + place;
+        bool const isInside = outer && object.extent.begin != outer->extent.begin &&
+                              object.extent.begin < outer->extent.begin + outer->extent.size;
+        if (isInside && object.isOwned)
+            return textOf(object) + " belongs to its host object, and lies inside " + textOf(*outer);
+        if (!isInside)
+            outer = &object;
+    }
+    return {};
+}
+
 std::string checkHandles()
 {
     std::string found;
@@ -128,6 +174,8 @@ std::string check()
         found = checkRecords(hosts);
     if (found.empty())
         found = checkShares(hosts);
+    if (found.empty())
+        found = checkOwned(hosts);
     if (found.empty())
         found = checkHandles();
     return found.empty() ? checkKept() : found;

@@ -7,6 +7,7 @@
 
 #include "host_extensions/convertNumber.hpp"
 #include "host_extensions/host_extensions.hpp"
+#include "host_extensions/numberText.hpp"
 #include "host_extensions/numericClasses.hpp"
 #include "libhv/libhv.hpp"
 #include "libkwi18n/libkwi18n.hpp"
@@ -70,8 +71,9 @@ void convertNumbers(hvArray_tag const& from, hvClassID target, void* to)
             for (std::size_t i = 0; i < count; ++i) {
                 std::optional<T> const number = convertNumber<T>(static_cast<Source const*>(data)[i]);
                 if (!number)
-                    throwNotConvertible((count == 1 ? std::string() : placeOfElement(i) + ": ") + numberText(from, i) +
-                                        " does not fit " + numericClassOf<T>.name);
+                    throwNotConvertible((count == 1 ? std::string() : placeOfElement(i) + ": ") +
+                                        numberText(from._get_class_id_non_trivial(), data, i) + " does not fit " +
+                                        numericClassOf<T>.name);
                 static_cast<T*>(to)[i] = *number;
             }
         });

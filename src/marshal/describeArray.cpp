@@ -3,9 +3,6 @@
 #include "host_extensions/host_extensions.hpp"
 #include "host_extensions/numericClasses.hpp"
 
-#include <charconv>
-#include <cmath>
-
 namespace orbis::factory {
 
 using namespace host_extensions;
@@ -44,20 +41,6 @@ std::string describeArray(hvArray_tag const* array)
 std::string placeOfElement(std::size_t index)
 {
     return "element " + std::to_string(index) + " (counted from 0)";
-}
-
-std::string numberText(hvArray_tag const& numbers, std::size_t index)
-{
-    return visitNumericClass(numbers._get_class_id_non_trivial(), [&]<class T>(T) {
-        char text[32];
-        T const number = static_cast<T const*>(getData(&numbers))[index];
-        if constexpr (std::same_as<T, bool>)
-            return std::string(number ? "true" : "false");
-        else if (std::floating_point<T> && std::isnan(static_cast<double>(number)))
-            return std::string("NaN"); // its sign means nothing
-        else
-            return std::string(text, std::to_chars(text, text + sizeof text, number).ptr);
-    });
 }
 
 } // namespace orbis::factory

@@ -14,7 +14,4 @@ std::string describeArray(hvArray_tag const* array);
 /// "element 2 (counted from 0)"
 std::string placeOfElement(std::size_t index);
 
-/// An element of a numeric or logical array.
-std::string numberText(hvArray_tag const& numbers, std::size_t index);
-
 } // namespace orbis::factory

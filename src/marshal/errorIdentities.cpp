@@ -56,6 +56,13 @@ cannot_copy::cannot_copy(std::string const& className, std::string const& reason
 
 cannot_copy::~cannot_copy() = default;
 
+cannot_own::cannot_own(std::string const& className, std::string const& reason)
+    : BaseMsgID(catalog(), "cannot_own", {className, reason})
+{
+}
+
+cannot_own::~cannot_own() = default;
+
 cannot_share::cannot_share(std::string const& className, std::string const& reason)
     : BaseMsgID(catalog(), "cannot_share", {className, reason})
 {

@@ -23,6 +23,7 @@ constexpr orbis::host_extensions::Message texts[] = {
     {"null_input", "{0} must be an object of class \"{1}\" that was constructed and not deleted, and is none."},
     {"not_convertible", "A value cannot be converted: {0}."},
     {"cannot_copy", "The object of class \"{0}\" cannot be copied: {1}."},
+    {"cannot_own", "The object of class \"{0}\" cannot be owned by its host object: {1}."},
     {"cannot_share", "The object of class \"{0}\" cannot be shared: {1}."},
     {"cannot_keep", "The object of class \"{0}\" cannot be kept: {1}."},
     {"cannot_take", "The object of class \"{0}\" cannot be taken: {1}."},

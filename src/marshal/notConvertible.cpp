@@ -1,10 +1,8 @@
 #include "orbis/factory/detail/arrays/notConvertible.hpp"
 
-#include "orbis/factory/base/errorIdentities.hpp"
-
+#include "marshal/NotConvertible.hpp"
 #include "marshal/describeArray.hpp"
 
-#include "libkwfl/Exception.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 
 #include <exception>
@@ -13,22 +11,6 @@
 namespace orbis::factory::detail {
 
 namespace {
-
-/// Keeps the reason apart from the message.
-class NotConvertible final
-    : public foundation::core::except::Exception<orbis_factory::orbis_factory::not_convertible, std::exception, void> {
-public:
-    explicit NotConvertible(std::string const& reason)
-        : Exception(orbis_factory::orbis_factory::not_convertible(reason)),
-          reason_(reason)
-    {
-    }
-
-    std::string const& reason() const { return reason_; }
-
-private:
-    std::string reason_;
-};
 
 /// The message adds one.
 std::string withoutFullStop(std::string text)
@@ -70,6 +52,11 @@ void rethrowAt(std::string const& place)
 void rethrowAtElement(std::size_t index)
 {
     rethrowAt(placeOfElement(index));
+}
+
+void rethrowAtInput(std::size_t index)
+{
+    throw NotConvertible(reasonOfCurrentException(), static_cast<int>(index));
 }
 
 } // namespace orbis::factory::detail

@@ -55,9 +55,29 @@ void ClassDescription::add(MemberRecord record)
     members_.push_back(std::move(record));
 }
 
-void ClassDescription::add(PropertyRecord record)
+void ClassDescription::add(detail::CallableForm const& form, char const* name, impl::Callable target,
+                           char const* parameterNames, MethodText text)
 {
-    properties_.push_back(std::move(record));
+    add(detail::makeRecord(form, name, target, parameterNames, text));
+}
+
+void ClassDescription::keep(detail::KeptObject const& getter, detail::KeptObject const& setter)
+{
+    properties_.back().keptGetter = getter;
+    properties_.back().keptSetter = setter;
+}
+
+void ClassDescription::add(std::vector<MemberRecord> records)
+{
+    members_.reserve(members_.size() + records.size());
+    for (MemberRecord& record : records)
+        members_.push_back(std::move(record));
+}
+
+void ClassDescription::add(char const* name, detail::GetterForm const* getterForm, impl::Callable getter,
+                           detail::SetterForm const* setterForm, impl::Callable setter, PropertyText text)
+{
+    properties_.push_back({name, text.attributes(), getterForm, setterForm, getter, setter, text.text()});
 }
 
 } // namespace orbis::factory

@@ -1,14 +1,16 @@
-#include "orbis/factory/Module.hpp"
+#include "orbis/factory/registerModule.hpp"
 
 #include "orbis/factory/base/Exception.hpp"
-#include "orbis/factory/detail/arrays/NewCells.hpp"
 #include "orbis/factory/registerOrbisPackage.hpp"
 
 #include "module/NamedClassInfo.hpp"
+#include "module/PublishedClasses.hpp"
 #include "module/cppName.hpp"
+#include "module/publishedName.hpp"
 
+#include <atomic>
+#include <memory>
 #include <mutex>
-#include <string_view>
 #include <utility>
 
 namespace orbis::factory {
@@ -54,13 +56,17 @@ struct Module::ErrorInProgress {
 
 Module::Module(COSPackage& package, std::string fullName) : package_(package), fullName_(std::move(fullName)) {}
 
-Module::~Module() = default;
+Module::~Module()
+{
+    delete lastError_;
+}
 
 void Module::setName(detail::NamedClass& named, detail::ClassNames& names, char const* name, Owner owner)
 {
     std::string fullName = fullName_ + '.' + name;
     std::lock_guard const lock(namingMutex());
-    if (char const* const given = named.name.load()) {
+    std::atomic_ref<char const*> const givenName(named.name);
+    if (char const* const given = givenName.load()) {
         if (fullName != given || named.isOwnedByHost != (owner == Owner::Host))
             throw Exception("The native class " + cppName(*named.type) + " cannot be published as \"" + fullName +
                             "\": it is \"" + given + "\" in this program, with the owner that it was given there.");
@@ -68,37 +74,39 @@ void Module::setName(detail::NamedClass& named, detail::ClassNames& names, char 
     }
     char const* const kept = names.add(std::move(fullName));
     named.isOwnedByHost = owner == Owner::Host;
-    named.name.store(kept, std::memory_order_release);
+    givenName.store(kept, std::memory_order_release);
 }
 
-void Module::addClass(detail::NamedClass const& named, std::unique_ptr<ClassDescription> description, char const* text)
+ClassDescription& Module::addClass(detail::NamedClass& named, detail::NewObject<ClassDescription> description,
+                                   char const* text)
 {
-    package_.addClass(new NamedClassInfo(named, std::move(description), text));
+    std::unique_ptr<ClassDescription> owner(description.release());
+    ClassDescription& result = *owner;
+    PublishedClasses::ofCurrentHvm().addNamed(named);
+    package_.addClass(new NamedClassInfo(named, std::move(owner), text));
+    return result;
 }
 
-void Module::addErrorKind(host_extensions::ErrorKind kind, void (*throwPointer)())
+void Module::addErrorKind(host_extensions::ErrorKind const& kind, void (*throwPointer)())
 {
-    lastError_ = std::make_unique<ErrorInProgress>(ErrorInProgress{std::move(kind), throwPointer});
-    host_extensions::addErrorKind(lastError_->kind);
+    auto added = std::make_unique<ErrorInProgress>(ErrorInProgress{kind, throwPointer});
+    delete std::exchange(lastError_, added.release());
+    host_extensions::addErrorKind(kind);
 }
 
-void Module::addErrorField(char const* name, bool (*isOf)(void (*throwPointer)()), std::function<void(COSValue&)> read)
+void Module::addErrorField(host_extensions::ErrorField const& field, bool (*isOf)(void (*throwPointer)()))
 {
     auto const refuse = [&](char const* reason) {
-        throw Exception(std::string("The field \"") + name + "\" cannot be added to an error: " + reason + '.');
+        throw Exception("The field \"" + field.name + "\" cannot be added to an error: " + reason + '.');
     };
     if (!lastError_)
         refuse("call error<...>() first");
     if (!isOf(lastError_->throwPointer))
         refuse("its getter reads another class of exceptions");
     for (char const* const own : {"identifier", "text", "where", "cause"})
-        if (std::string_view(name) == own)
+        if (field.name == own)
             refuse("every error has one of that name");
-    lastError_->kind.fields.push_back({name, [read = std::move(read)] {
-                                           COSValue value;
-                                           read(value);
-                                           return detail::toArray(value);
-                                       }});
+    lastError_->kind.fields.push_back(field);
     host_extensions::addErrorKind(lastError_->kind);
 }
 
@@ -107,8 +115,9 @@ void Module::complete()
     factory::publish(&package_, functions_);
 }
 
-void detail::setBase(NamedClass& named, NamedClass& base, void* (*toBase)(void*), void* (*fromBase)(void*))
+void detail::setBase(NamedClass& named, NamedClass& given, void* (*toBase)(void*), void* (*fromBase)(void*))
 {
+    NamedClass& base = publishedName(given) ? given : *PublishedClasses::ofCurrentHvm().findNamed(*given.type);
     std::lock_guard const lock(namingMutex());
     if (named.isOwnedByHost != base.isOwnedByHost) // a result is known as its base only, and is what it is
         throw Exception("The class " + cppName(*named.type) + " cannot have the superclass " + cppName(*base.type) +
@@ -118,6 +127,8 @@ void detail::setBase(NamedClass& named, NamedClass& base, void* (*toBase)(void*)
         named.toBase = toBase;
         named.fromBase = fromBase;
         named.base = &base;
+    } else if (named.base && named.base != &base && *named.base->type == *base.type) {
+        named.base = &base; // of a module that was loaded anew
     }
     bool const isBoundAlike = base.toBase && !base.base ? named.toBase && !named.base : &rootOf(named) == &rootOf(base);
     if (!isBoundAlike || (named.base != &base && named.base && !rootOf(named).dynamicType))

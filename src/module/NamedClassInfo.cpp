@@ -80,4 +80,9 @@ bool NamedClassInfo::areEqual(void* a, void* b) const
     return first && second && named_.areEqual(first, second);
 }
 
+basic::NativeExtents::Extent NamedClassInfo::extentOf(void* bound) const
+{
+    return {static_cast<char const*>(detail::fromBound(named_, bound)), named_.size};
+}
+
 } // namespace orbis::factory

@@ -4,6 +4,8 @@
 #include "orbis/factory/classes/OrbisFactoryClassInfo.hpp"
 #include "orbis/factory/detail/objects/NamedClass.hpp"
 
+#include "basic/NativeStorage.hpp"
+
 #include "host_extensions/NativeEquality.hpp"
 
 #include <memory>
@@ -11,7 +13,9 @@
 namespace orbis::factory {
 
 /// Class info of the classes that a `Module` publishes: host objects represent native objects, bound by their address.
-class NamedClassInfo final : public OrbisFactoryClassInfo, public host_extensions::NativeEquality {
+class NamedClassInfo final : public OrbisFactoryClassInfo,
+                             public host_extensions::NativeEquality,
+                             public basic::NativeExtents {
 public:
     NamedClassInfo(detail::NamedClass const& named, std::unique_ptr<ClassDescription> description, char const* text);
 
@@ -32,6 +36,7 @@ public:
     bool ownsAlone(COSInterface const* host) const override;
     bool comparesNatives() const override;
     bool areEqual(void* a, void* b) const override;
+    Extent extentOf(void* bound) const override;
 
     detail::NamedClass const& named() const { return named_; }
 

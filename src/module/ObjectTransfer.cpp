@@ -123,7 +123,7 @@ struct ObjectTransfer::State {
     }
 };
 
-ObjectTransfer::ObjectTransfer(COSInterface* whole) : state_(std::make_unique<State>())
+ObjectTransfer::ObjectTransfer(COSInterface* whole) : state_(new State)
 {
     state_->self = whole;
     if (whole)
@@ -132,7 +132,7 @@ ObjectTransfer::ObjectTransfer(COSInterface* whole) : state_(std::make_unique<St
 
 ObjectTransfer::~ObjectTransfer()
 {
-    if (state_)
+    if (state_.get())
         state_->undo();
 }
 
@@ -204,7 +204,7 @@ ObjectTransfer::Completion::~Completion()
 
 void ObjectTransfer::complete() noexcept
 {
-    std::unique_ptr<State> const state = std::move(state_);
+    NewObject<State> const state(state_.release());
     if (state->constructed)
         destroyerOf(state->share)->destroy = state->constructed->destroy;
     for (COSInterfacePtr& host : state->taken)

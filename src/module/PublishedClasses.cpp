@@ -1,6 +1,10 @@
 #include "module/PublishedClasses.hpp"
 
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/ownership/HvmScoped.hpp"
+
+#include "module/cppName.hpp"
+#include "module/publishedName.hpp"
 
 #include "libkwfl/IMsgIDException.hpp"
 #include "orbis/COSClass.hpp"
@@ -56,6 +60,24 @@ void lookUp(std::set<std::string>& names, char const* suffix)
 PublishedClasses& PublishedClasses::ofCurrentHvm()
 {
     return basic::HvmScoped<PublishedClasses>::get();
+}
+
+void PublishedClasses::addNamed(detail::NamedClass& named)
+{
+    detail::NamedClass* const other = named_.try_emplace(*named.type, &named).first->second;
+    if (other != &named)
+        throw Exception("The native class " + cppName(*named.type) + " cannot be published as \"" + publishedName(named) +
+                        "\": another module publishes it, as \"" + publishedName(*other) + "\".");
+}
+
+detail::NamedClass* PublishedClasses::findNamed(std::type_info const& type)
+{
+    auto found = named_.find(type);
+    if (found == named_.end()) {
+        describeExpected();
+        found = named_.find(type);
+    }
+    return found == named_.end() ? nullptr : found->second;
 }
 
 void PublishedClasses::expect(std::string const& hostName)

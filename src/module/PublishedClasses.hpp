@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/classes/NativeClassRecord.hpp"
+#include "orbis/factory/detail/objects/NamedClass.hpp"
 
 #include <map>
 #include <set>
@@ -17,6 +18,13 @@ namespace orbis::factory {
 class PublishedClasses {
 public:
     static PublishedClasses& ofCurrentHvm();
+
+    /// Records the class as published by the module that the record is of. Throws an `Exception` when another module's
+    /// is.
+    void addNamed(detail::NamedClass& named);
+
+    /// Returns the record of the module that publishes the class, or null.
+    detail::NamedClass* findNamed(std::type_info const& type);
 
     /// Records that a class info of that name exists: the class may be published soon.
     void expect(std::string const& hostName);
@@ -46,6 +54,7 @@ private:
 
     std::unordered_map<std::type_index, Entry> entries_;
     std::map<std::pair<std::type_index, std::type_index>, char const*> unpublished_; ///< by own class and known class
+    std::unordered_map<std::type_index, detail::NamedClass*> named_;
     std::set<std::string> expected_;
     std::set<std::string> expectedPackages_;
 };

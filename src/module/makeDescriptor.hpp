@@ -3,6 +3,7 @@
 #include "orbis/factory/descriptors/ParameterNamer.hpp"
 #include "orbis/factory/detail/members/MemberRecord.hpp"
 
+#include "marshal/NotConvertible.hpp"
 #include "marshal/NullInput.hpp"
 
 #include <memory>
@@ -23,10 +24,10 @@ public:
     }
 
 private:
-    std::shared_ptr<void const> kept_;
+    detail::KeptObject kept_;
 };
 
-/// The same for a member with inputs that must be objects: its errors name the input.
+/// The same for a member with inputs whose conversion may fail without their names: the errors of that get them.
 template <class Descriptor>
 class NamingDescriptor final : public KeepingDescriptor<Descriptor> {
 public:
@@ -46,8 +47,12 @@ public:
         } catch (NullInput const& error) {
             for (int i = objects_; i < inputCount; ++i)
                 if (error.input() && inputs[i].array() == error.input())
-                    throw NullInput(nameOf(i), error.input(), error.className());
+                    throw NullInput("Input \"" + nameOf(i) + '"', error.input(), error.className());
             throw;
+        } catch (NotConvertible const& error) {
+            if (error.input() < 0)
+                throw;
+            throw NotConvertible("input \"" + nameOf(error.input() + objects_) + "\": " + error.reason());
         }
     }
 
@@ -55,7 +60,7 @@ private:
     std::string nameOf(int input) const
     {
         COSString const name = names_.getInputParameter(static_cast<unsigned int>(input - objects_ + 1));
-        return std::string("Input \"") + name.c_str() + '"';
+        return name.c_str();
     }
 
     ParameterNamer names_;
@@ -66,7 +71,7 @@ private:
 template <class Descriptor, class... A>
 std::unique_ptr<Descriptor> makeDescriptor(MemberRecord const& record, A&&... arguments)
 {
-    if (record.refusesNull)
+    if (record.namesInputs)
         return std::make_unique<NamingDescriptor<Descriptor>>(record, std::forward<A>(arguments)...);
     if (record.kept)
         return std::make_unique<KeepingDescriptor<Descriptor>>(record, std::forward<A>(arguments)...);

@@ -1,4 +1,5 @@
 #include "orbis/factory/detail/objects/namedObjects.hpp"
+#include "orbis/factory/detail/objects/sharedNamedObjects.hpp"
 
 #include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/base/errorIdentities.hpp"
@@ -9,10 +10,12 @@
 #include "orbis/factory/ownership/FooRegistry.hpp"
 
 #include "basic/HostDependents.hpp"
+#include "basic/NativeStorage.hpp"
 #include "marshal/throwError.hpp"
 #include "module/PublishedClasses.hpp"
 #include "module/cppName.hpp"
 #include "module/objectShares.hpp"
+#include "module/publishedName.hpp"
 
 #include "orbis/COSClass.hpp"
 
@@ -26,6 +29,22 @@ namespace {
 
 using basic::HostShares;
 using basic::PartOf;
+
+/// Looks in the other modules of the virtual machine.
+[[gnu::noinline]] NamedClass const& publishedElsewhere(NamedClass const& named)
+{
+    NamedClass const* const found = PublishedClasses::ofCurrentHvm().findNamed(*named.type);
+    if (!found)
+        throw std::invalid_argument("the class " + cppName(*named.type) +
+                                    " is not published: publish it, or load the module that does");
+    return *found;
+}
+
+/// Returns the record of the module that publishes the class.
+NamedClass const& published(NamedClass const& named)
+{
+    return publishedName(named) ? named : publishedElsewhere(named);
+}
 
 char const* mostDerivedName(NamedClass const& named, void const* object, void* bound)
 {
@@ -107,18 +126,14 @@ HostShares::Share const* requireOwner(NamedClass const& named, COSInterface cons
 
 } // namespace
 
-char const* className(NamedClass const& named)
+char const* className(NamedClass const& given)
 {
-    char const* const name = named.name.load(std::memory_order_acquire);
-    if (!name)
-        throw std::invalid_argument("the class " + cppName(*named.type) +
-                                    " is not published: publish it in the same module");
-    return name;
+    return publishedName(published(given));
 }
 
-void* toBound(NamedClass const& named, void* object)
+void* toBound(NamedClass const& given, void* object)
 {
-    NamedClass const* from = &named;
+    NamedClass const* from = &published(given);
     while (object && from && from->toBase) {
         object = from->toBase(object);
         from = from->base;
@@ -126,21 +141,24 @@ void* toBound(NamedClass const& named, void* object)
     return object;
 }
 
-void* fromBound(NamedClass const& named, void* bound)
+void* fromBound(NamedClass const& given, void* bound)
 {
+    NamedClass const& named = published(given);
     if (!bound || !named.fromBase)
         return bound;
     void* const base = named.base ? fromBound(*named.base, bound) : bound;
     return base ? named.fromBase(base) : nullptr;
 }
 
-void* nativeOf(NamedClass const& named, hvArray_tag const* in)
+void* nativeOf(NamedClass const& given, hvArray_tag const* in)
 {
+    NamedClass const& named = published(given);
     return fromBound(named, nativeObject(in, className(named)));
 }
 
-void* nativeOf(NamedClass const& named, COSInterface const* object)
+void* nativeOf(NamedClass const& given, COSInterface const* object)
 {
+    NamedClass const& named = published(given);
     return fromBound(named, nativeObject(object, className(named)));
 }
 
@@ -160,43 +178,79 @@ void requireExactType(NamedClass const& named, void const* object)
             orbis_factory::orbis_factory::cannot_copy(className(named), "it is of the derived class " + cppName(type)));
 }
 
-hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOwner owner, COSInterface* whole)
+namespace {
+
+/// In debug builds, throws for an object that nobody can delete.
+void requireDeletable([[maybe_unused]] NamedClass const& named, [[maybe_unused]] void const* object)
 {
+#ifndef NDEBUG
+    if (char const* const place = basic::NativeStorage().placeOf(object))
+        throwError(orbis_factory::orbis_factory::cannot_own(className(named), "it lies " + std::string(place)));
+#endif
+}
+
+/// For an object that the caller transfers: it is deleted when this throws, unless nobody can.
+hvArray_tag* announceOwned(NamedClass const& named, void* object, COSInterface const* whole)
+{
+    if (whole)
+        throwError(
+            orbis_factory::orbis_factory::cannot_own(className(named), "it lies inside the object that gave it"));
+    requireDeletable(named, object);
+    std::unique_ptr<void, void (*)(void*)> transferred(object, named.destroy);
+    void* const bound = toBound(named, object);
+    char const* const name = mostDerivedName(named, object, bound);
+    NewArray array;
+    if (named.isOwnedByHost) {
+        *array.place() = createHost(bound, name, true, nullptr);
+    } else {
+        // The class info leaves native objects alone, so a share destroys this one.
+        std::shared_ptr<void> const owned(object, Destroyer());
+        HostShares::Share const share = owned;
+        *array.place() = createHost(bound, name, true, &share);
+        destroyerOf(owned)->destroy = named.destroy;
+    }
+    static_cast<void>(transferred.release());
+    return array.release();
+}
+
+} // namespace
+
+hvArray_tag* announceNamed(NamedClass const& given, void const* object, ResultOwner owner, COSInterface* whole)
+{
+    NamedClass const& named = published(given);
     if (!object)
         return omCreateORBISMatrix(0, 0, COSNameID(className(named)));
+    if (owner == ResultOwner::Host)
+        return announceOwned(named, const_cast<void*>(object), whole);
     void* const bound = toBound(named, const_cast<void*>(object));
-    if (owner != ResultOwner::Host)
-        if (COSInterface* const host = findHost(bound, className(named), whole))
-            return omCreateORBISScalar(host);
+    if (COSInterface* const host = findHost(bound, className(named), whole))
+        return omCreateORBISScalar(host);
     char const* const name = mostDerivedName(named, object, bound);
     if (owner == ResultOwner::Whole && whole) {
         HostShares::Share const part = PartOf{COSInterfacePtr(whole)};
         return createHost(bound, name, false, &part);
     }
-    if (owner != ResultOwner::Host) {
-        HostShares::Share const others;
-        return createHost(bound, name, false, named.isOwnedByHost ? &others : nullptr);
-    }
-    if (named.isOwnedByHost)
-        return createHost(bound, name, true, nullptr);
-    // The class info leaves native objects alone, so a share destroys this one.
-    std::shared_ptr<void> const owned(const_cast<void*>(object), Destroyer());
-    HostShares::Share const share = owned;
-    hvArray_tag* const array = createHost(bound, name, true, &share);
-    destroyerOf(owned)->destroy = named.destroy;
-    return array;
+    HostShares::Share const others;
+    return createHost(bound, name, false, named.isOwnedByHost ? &others : nullptr);
 }
 
-hvArray_tag* announcePart(void* bound, char const* className, COSInterface* whole)
+hvArray_tag* announcePart(void* bound, std::type_info const& dynamicType, NativeClassRecord const& staticClass,
+                          COSInterface* whole)
 {
-    if (COSInterface* const host = findHost(bound, className, whole))
+    if (COSInterface* const host = findHost(bound, staticClass.hostName, whole))
         return omCreateORBISScalar(host);
-    HostShares::Share const part = PartOf{COSInterfacePtr(whole)};
-    return createHost(bound, className, false, &part);
+    bool const isExact = dynamicType == *staticClass.type;
+    char const* const name =
+        isExact ? staticClass.hostName : PublishedClasses::ofCurrentHvm().mostDerived(bound, dynamicType, staticClass);
+    HostShares::Share part;
+    if (whole)
+        part = PartOf{COSInterfacePtr(whole)};
+    return createHost(bound, name, false, &part);
 }
 
-hvArray_tag* announceShared(NamedClass const& named, void const* object, std::shared_ptr<void> share)
+hvArray_tag* announceShared(NamedClass const& given, void const* object, std::shared_ptr<void> share)
 {
+    NamedClass const& named = published(given);
     if (!object)
         return omCreateORBISMatrix(0, 0, COSNameID(className(named)));
     void* const bound = toBound(named, const_cast<void*>(object));
@@ -210,8 +264,9 @@ hvArray_tag* announceShared(NamedClass const& named, void const* object, std::sh
     return createHost(bound, mostDerivedName(named, object, bound), false, &held);
 }
 
-std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in)
+std::shared_ptr<void> shareNamed(NamedClass const& given, hvArray_tag const* in)
 {
+    NamedClass const& named = published(given);
     COSInterfacePtr const host = firstOf(in);
     void* const object = nativeOf(named, static_cast<COSInterface const*>(host));
     if (!object)
@@ -221,8 +276,9 @@ std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in)
     return shareOwned(named, host, object);
 }
 
-void requireOwned(NamedClass const& named, hvArray_tag const* in, bool alone)
+void requireOwned(NamedClass const& given, hvArray_tag const* in, bool alone)
 {
+    NamedClass const& named = published(given);
     COSInterfacePtr const host = firstOf(in);
     if (!host)
         return;
@@ -234,8 +290,9 @@ void requireOwned(NamedClass const& named, hvArray_tag const* in, bool alone)
     refuse(named, Wanted::Taken, destroyer && !destroyer->kept.empty() ? "it keeps other objects" : "it is shared");
 }
 
-void* takeNamed(NamedClass const& named, hvArray_tag const* in)
+void* takeNamed(NamedClass const& given, hvArray_tag const* in)
 {
+    NamedClass const& named = published(given);
     COSInterfacePtr host = firstOf(in);
     void* const object = nativeOf(named, static_cast<COSInterface const*>(host));
     if (!object)

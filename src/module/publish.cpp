@@ -3,6 +3,7 @@
 #include "orbis/factory/descriptors/FunctionInfo.hpp"
 #include "orbis/factory/descriptors/MethodImpl.hpp"
 #include "orbis/factory/descriptors/OrbisConstructor.hpp"
+#include "orbis/factory/makeProperty.hpp"
 #include "orbis/factory/types/initStringDataTypes.hpp"
 
 #include "module/DocumentedMember.hpp"
@@ -17,7 +18,6 @@
 #include <array>
 #include <cstring>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -88,15 +88,6 @@ void add(COSClass* cls, char const* name, MemberRecord const& record, char const
     });
 }
 
-std::unique_ptr<impl::PropertyImpl> makeProperty(PropertyRecord const& record)
-{
-    if (record.attributes.isStatic() && record.needsObject)
-        throw std::invalid_argument("a static property has no object: give static data, or functions that take none");
-    auto property = record.make(record);
-    property->setDescription(record.text);
-    return property;
-}
-
 /// A function with a text.
 class DescribedFunction : public FunctionInfo {
 public:
@@ -130,7 +121,7 @@ void addCopying(COSClass* cls, ClassDescription const& description, detail::Copy
                                  .inputTypes = {&copying.typeText, 1},
                                  .invokeFn = &copyConstruct,
                                  .target = &copying,
-                                 .refusesNull = true},
+                                 .namesInputs = true},
                                 description.hostName());
 }
 

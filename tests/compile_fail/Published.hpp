@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orbis/factory/describe.hpp"
+#include "orbis/factory/classes/HostClass.hpp"
 
 /// Each case defines it.
 struct Published;

@@ -36,12 +36,13 @@ struct orbis::factory::HostEnumeration<Color> {
     static constexpr Enumerator<Color> enumerators[] = {{"Red", Color::Red}, {NAMES("Green", "Red"), Color::Green}};
 };
 
-template <class Info>
-struct Concrete final : Info {
-    Concrete() : Info("tests.Any", "") {}
+struct BaseInfo final : orbis::factory::HandleClassInfo<Base, 1> {
+    BaseInfo() : HandleClassInfo("tests.Base", "") {}
     void initializeClass(orbis::COSClass*) override {}
 };
-Concrete<orbis::factory::HandleClassInfo<Base, 1>> const base;
-Concrete<orbis::factory::NonHandleClassInfo<Value>> const value;
+struct ValueInfo final : orbis::factory::NonHandleClassInfo<Value> {
+    ValueInfo() : NonHandleClassInfo("tests.Value", "") {}
+    void initializeClass(orbis::COSClass*) override {}
+};
 orbis::factory::EnumerationClassInfo<Color> const color("");
 auto const derived = orbis::factory::describe<Derived>().inherits<Base>();

@@ -1,5 +1,7 @@
 // expect EITHER: This data would keep what is gone after the call that writes it
 // each: char const*; char16_t*; std::string_view; Span; hvArrayProxy; hvConstArrayProxy; Place*; Text; Places
+#include "orbis/factory/describe.hpp"
+
 #include "Published.hpp"
 
 #include "orbis/factory/marshaling/ValuePolicy.hpp"

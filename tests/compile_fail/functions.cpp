@@ -3,14 +3,15 @@
 // expect OUTPUT: A parameter that is a reference to a non-const value cannot cross
 // expect CLASS: This class is only declared here: include the header that defines it.
 // expect ENUM: enumeration is not published: specialise orbis::factory::HostEnumeration for it, beside the enumeration.
-// expect NAMES: More parameter names are listed than the function has parameters: remove the extra names.
-// expect TEXT: The parentheses of a parameter's text do not match
+// expect below NAMES: More parameter names are listed than the function has parameters: remove the extra names.
+// expect below TEXT: The parentheses of a parameter's text do not match
 // expect KEPT: A function that scripts implement cannot return a pointer, a reference or a view
 // expect DEFAULT: A default value does not convert to the type of its parameter
 // expect FRACTION: A default value for an integer parameter is a floating-point number: write an integer.
+#include "orbis/factory/describeFunctions.hpp"
+
 #include "Published.hpp"
 
-#include "orbis/factory/describeFunctions.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
 #include "orbis/factory/types/function.hpp"
 #include "orbis/factory/types/map.hpp"

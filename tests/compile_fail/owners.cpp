@@ -1,9 +1,9 @@
-// expect COPIED: This result cannot be copied: its class has no public copy constructor
+// expect COPIED: This object cannot be copied: its class has no public copy constructor
 // expect KEPT: A parameter that is kept or taken is a pointer or a reference to an object of a class
 // expect FUNCTION: Without an object that the member is called on, nothing is kept
 // expect INDEX: The function has no such parameter: they are counted from 0.
-// expect OWNED: owned, copied, borrowed and inside are said of functions that return a pointer or a reference
-// expect COPYABLE: Objects of this class cannot be copied: it has no public copy constructor
+// expect OWNED: owned(...), copied(...), borrowed(...) and inside(...) are for functions that return an object
+// expect COPYABLE: This object cannot be copied: its class has no public copy constructor
 #include "orbis/factory.hpp"
 
 struct Part {
@@ -17,6 +17,7 @@ struct Only {
 struct Whole {
     Part const& part() const;
     void hold(KEPT(Part&, int));
+    void take(Part&);
     int made() const;
     Part& second();
 };
@@ -28,7 +29,7 @@ void describe(orbis::factory::Module& module)
     module.publish<Whole>("Whole")
         .method("part", copied(&Whole::part))
         .method("hold", kept(&Whole::hold))
-        .method("same", taken<INDEX(0, 1)>(&Whole::hold))
+        .method("same", taken<INDEX(0, 1)>(&Whole::take))
         .method("second", owned(&Whole::OWNED(second, made)));
     module.publish<Only>("Only").copyable();
     module.function("use", FUNCTION(taken, kept)(&use));

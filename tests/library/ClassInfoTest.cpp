@@ -71,6 +71,7 @@ struct Pair final {
     Counted first, second;
     Counted* one() { return &first; }
     Counted* other() { return &second; }
+    std::vector<Counted*> both() { return {&first, &second}; }
 };
 
 } // namespace
@@ -86,6 +87,7 @@ struct PairInfo final : OrbisFactoryClassInfo {
         publish(cls, describe<Pair>()
                          .constructor()
                          .method("one", &Pair::one)
+                         .method("both", &Pair::both)
                          .method("otherOf", [](Pair* pair) { return pair->other(); })
                          .property("other", &Pair::other));
     }
@@ -104,8 +106,9 @@ TEST_F(ClassInfoTest, WhatLiesInsideAnObjectIsNeverTheHosts)
         package->addClass(new PairInfo);
         package->addClass(new LimitedInfo);
     });
-    LimitedInfo::remaining = 2;
+    LimitedInfo::remaining = 4;
     ArrayPtr pair = hvm().construct("tests.Pair");
+    EXPECT_EQ(hvm().call(pair.get(), "both")->get_number_of_elements(), 2u);
     ArrayPtr one = hvm().call(pair.get(), "one");
     ArrayPtr const other = hvm().call(pair.get(), "otherOf");
     EXPECT_TRUE(velmara::isSameObject(hvm().call(pair.get(), "one").get(), one.get()));

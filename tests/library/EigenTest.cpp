@@ -124,7 +124,7 @@ TEST_F(EigenTest, OtherSizesAndOtherThingsAreRefused)
         [&] {
             call("fixed", matrix<double>(3, 2, {1, 2, 3, 4, 5, 6}));
         },
-        {"not_convertible", "needs a matrix of 2-by-3, not of 3-by-2"});
+        {"not_convertible", "input \"p0\": needs a matrix of 2-by-3, not of 3-by-2"});
     expectMessage([&] { call("vector", matrix<double>(2, 2, {1, 2, 3, 4})); }, {"of 3-by-1, not of 2-by-2"});
     expectMessage([&] { call("vector", matrix<double>(1, 4, {1, 2, 3, 4})); }, {"of 3-by-1, not of 4-by-1"});
     expectMessage([&] { call("row", matrix<double>(2, 2, {1, 2, 3, 4})); }, {"of 1-by-n, not of 2-by-2"});

@@ -24,6 +24,8 @@ struct Node {
     void setWeight(int weight) { weight_ = weight; }
     virtual int kind() const { return 0; }
     Node* self() { return this; }
+    Node& heavier(Node& other) & noexcept { return weight_ < other.weight_ ? other : *this; }
+    Node const& heavier(Node const& other) const& noexcept;
 
     static Node* next();
     static bool isNull(Node const* node) { return !node; }
@@ -53,6 +55,10 @@ struct Bud : Leaf {};
 
 struct Branch : Node {
     int kind() const override { return 2; }
+    Node const& fruit() const { return fruit_; }
+
+private:
+    Leaf fruit_;
 };
 
 // Below a class that is published nowhere.
@@ -92,13 +98,14 @@ void describeNode(ClassDescriber<Node>& node)
         .method("kind", &Node::kind)
         .method("self", &Node::self)
         .staticMethod("next", &Node::next)
+        .method("heavier", overload<Node&>(&Node::heavier), "other")
         .staticMethod("isNull", &Node::isNull)
         .property("weight", &Node::weight, &Node::setWeight);
 }
 
 void describeBranch(ClassDescriber<Branch>& branch)
 {
-    branch.constructor().inherits<Node>();
+    branch.constructor().inherits<Node>().method("fruit", &Branch::fruit);
 }
 
 using NodeInfo = HandleClassInfo<Node, 1>;
@@ -164,6 +171,20 @@ TEST_F(HierarchyTest, BaseMembersWorkOnDerivedObjects)
     ArrayPtr const leaf = hvm().construct("tests.Leaf");
     EXPECT_EQ(scalar<std::int32_t>(hvm().call(leaf.get(), "leafTag")), 5);
     EXPECT_EQ(hvm().describeClass("tests.Leaf").superclasses, std::vector<std::string>{"tests.Node"});
+}
+
+TEST_F(HierarchyTest, ReferencesAreObjectsOfScriptsAndParts)
+{
+    ArrayPtr branch = hvm().construct("tests.Branch");
+    ArrayPtr const leaf = hvm().construct("tests.Leaf");
+    hvm().set(leaf.get(), "weight", number(8).get());
+    EXPECT_TRUE(velmara::isSameObject(hvm().call(branch.get(), "heavier", inputs(leaf)).get(), leaf.get()));
+    ArrayPtr const none(omCreateORBISMatrix(0, 0, "tests.Node"));
+    expectMessage([&] { hvm().call(branch.get(), "heavier", inputs(none)); }, {"null_input", "Input \"other\""});
+    ArrayPtr const fruit = hvm().call(branch.get(), "fruit");
+    EXPECT_EQ(velmara::className(fruit.get()), "tests.Leaf");
+    branch.reset();
+    EXPECT_EQ(scalar<std::int32_t>(hvm().get(fruit.get(), "weight")), 1) << "keeps the branch alive";
 }
 
 TEST_F(HierarchyTest, ABasePointerYieldsTheMostDerivedPublishedClass)

@@ -38,6 +38,8 @@ public:
     explicit Car(std::string name) : name_(std::move(name)) {}
 
     Engine* part() { return &engine_; }
+    Engine* last() { return &last_; }
+    std::vector<Engine*> all() { return {&engine_, nullptr, &last_}; }
     Engine const& reference() const { return engine_; }
     void exchange(Car& other) { std::swap(engine_.power, other.engine_.power); }
     std::string const& name() const { return name_; }
@@ -63,7 +65,10 @@ private:
     std::string name_;
     std::unique_ptr<Wheel> wheel_;
     std::shared_ptr<Wheel> spare_;
+    Engine last_{6};
 };
+
+Engine* given = nullptr;
 
 std::unique_ptr<Engine> makeEngine(bool isTurbo)
 {
@@ -123,10 +128,14 @@ protected:
             cars.function("total", &total, "a, b", "Of both")
                 .function("makeEngine", &makeEngine, "isTurbo")
                 .function("makeCar", owned(+[] { return new Car("made"); }))
-                .function("common", &Car::common);
+                .function("common", &Car::common)
+                .function("given", owned(+[] { return given; }));
             cars.publish<Car>("Car", "Drives")
                 .constructor<std::string>("name (not, say, its colour)", "Has a name")
                 .method("part", &Car::part)
+                .method("all", &Car::all)
+                .method("borrowedAll", borrowed(&Car::all))
+                .method("torn", owned(&Car::part))
                 .method("reference", &Car::reference)
                 .method("exchange", &Car::exchange, "other")
                 .method("twin", &Car::twin, {}, "Another one")
@@ -153,6 +162,14 @@ protected:
     ArrayPtr car(char const* name) { return hvm().construct("cars.Car", inputs(text(name))); }
     static ArrayPtr text(char const* value) { return ArrayPtr(hvCreateString(value)); }
     double power(ArrayPtr const& engine) { return scalar<double>(hvm().get(engine.get(), "power")); }
+
+    /// That `given`, of which the host object believes that it owns it, is found where it lies.
+    void expectFound(char const* place)
+    {
+        ArrayPtr const array = hvm().callFunction("cars.given");
+        EXPECT_NE(check().find(place), std::string::npos) << check();
+        basic::BindingRegistry::release(given);
+    }
 
 private:
     int before_ = 0;
@@ -221,6 +238,49 @@ TEST_F(ModulePublishTest, APartIsOneObjectThatKeepsItsWholeAndEndsWithIt)
     EXPECT_EQ(power(common), 1);
     hvm().deleteObjects(common.get());
     EXPECT_EQ(power(hvm().callFunction("cars.common")), 1);
+}
+
+TEST_F(ModulePublishTest, ElementsOfAVectorArePartsAsSingleObjectsAre)
+{
+    ArrayPtr owner = car("owner");
+    ArrayPtr const all = hvm().call(owner.get(), "all");
+    EXPECT_EQ(all->get_number_of_elements(), 3u);
+    EXPECT_EQ(objectIn(all, 1), nullptr);
+    ArrayPtr const last(omCreateORBISScalar(omGetArrayElement(all.get(), 2)));
+    EXPECT_EQ(objectIn(all), objectIn(hvm().call(owner.get(), "part")));
+    int const alive = Counted::alive;
+    owner.reset();
+    EXPECT_EQ(Counted::alive, alive) << "they keep the car";
+    EXPECT_EQ(power(last), 6);
+    ArrayPtr other = car("other");
+    ArrayPtr const lent = hvm().call(other.get(), "borrowedAll");
+    other.reset();
+    EXPECT_EQ(Counted::alive, alive) << "the other is gone";
+    basic::BindingRegistry::release(objectIn(lent, 0)->getNativeObject("cars.Engine"));
+    basic::BindingRegistry::release(objectIn(lent, 2)->getNativeObject("cars.Engine"));
+}
+
+TEST_F(ModulePublishTest, WhatNobodyCanDeleteIsNotTheHosts)
+{
+    ArrayPtr const owner = car("owner");
+    expectMessage([&] { hvm().call(owner.get(), "torn"); }, {"cars.Engine", "inside the object that gave it"});
+    struct Large { // which is on the stack under every sanitizer
+        Engine engine{1};
+        char more[100000];
+    } large;
+    using Case = std::pair<Engine*, char const*>;
+    for (auto const& [engine, place] :
+         {Case{&large.engine, "on the stack"}, Case{&Car::common(), "in static storage"}}) {
+        given = engine;
+#ifndef NDEBUG
+        expectMessage([&] { hvm().callFunction("cars.given"); }, {"cars.Engine", place});
+#else
+        expectFound(place);
+#endif
+    }
+    // Through another function, nothing is known until it is looked for.
+    given = static_cast<Car*>(objectIn(owner)->getNativeObject("cars.Car"))->last();
+    expectFound("inside the native object");
 }
 
 TEST_F(ModulePublishTest, OwnershipMovesOnlyWithACallThatWorks)

@@ -1,7 +1,9 @@
 #include "HvmTest.hpp"
 #include "library/publishClass.hpp"
 
-#include "orbis/factory/descriptors/PropertyImpl.hpp"
+#include "orbis/factory/descriptors/ClassGetter.hpp"
+#include "orbis/factory/descriptors/ClassSetter.hpp"
+#include "orbis/factory/makeProperty.hpp"
 #include "orbis/factory/types/NumericVectorPolicy.hpp"
 #include "orbis/factory/types/StringViewPolicy.hpp"
 #include "orbis/factory/types/stringVectors.hpp"
@@ -73,6 +75,7 @@ namespace {
 
 void describeImage(ClassDescriber<Image>& c)
 {
+    auto const gain = std::make_shared<double>(2);
     c.constructor()
         .property("width", &Image::width)
         .property("scale", &Image::scale)
@@ -86,6 +89,11 @@ void describeImage(ClassDescriber<Image>& c)
         .property("seen", releasedBy<&countRelease>([](Image*) { return 2.5; }), P::Transient())
         .property("handed", releasedBy<[](Image* image) { image->locks -= 10; }>(&Image::width), &Image::width)
         .property("epoch", releasedBy<[] { released += 1000; }>([] { return 1970; }))
+        .property(
+            "gain", [gain](Image const* image) { return *gain * image->width; },
+            [gain](Image*, double value) { *gain = value; }, "In both")
+        .staticProperty(
+            "gained", [gain] { return *gain; }, [gain](double value) { *gain = value; })
         .property("mixed", &Image::width, [](Image* image, int const& width) { image->width = 2 * width; })
         .property(
             "doubled", [](Image const* image) { return 2 * image->width; },
@@ -136,7 +144,7 @@ TEST_F(PropertyFormsTest, ScalarsThroughDataAndFunctions)
     for (auto const& [name, first, second] :
          {Case{"width", 3, 7}, Case{"scale", 0.5, 0.5}, Case{"shown", 7, 7}, Case{"mixed", 7, 14},
           Case{"doubled", 28, 6}, Case{"global", 3.25, 3.25}, Case{"limit", 10, 7}, Case{"limitByFunctions", 7, 7},
-          Case{"limitMixed", 7, -7}, Case{"pi", 3.25, 3.25}}) {
+          Case{"limitMixed", 7, -7}, Case{"pi", 3.25, 3.25}, Case{"gain", 6, 21}}) {
         SCOPED_TRACE(name);
         auto const get = [&, member = name] {
             ArrayPtr const value = hvm().get(object_.get(), member);
@@ -155,6 +163,8 @@ TEST_F(PropertyFormsTest, ScalarsThroughDataAndFunctions)
     hvm().setStatic("tests.Image", "limit", number(4).get());
     EXPECT_EQ(scalar<std::int32_t>(hvm().getStatic("tests.Image", "limitByFunctions")), 4);
     Image::limit = 10;
+    hvm().setStatic("tests.Image", "gained", number(4).get());
+    EXPECT_EQ(read<double>("gain"), 84) << "each keeps what it captured";
 }
 
 TEST_F(PropertyFormsTest, TextsRowsAndObjectsAreConvertedAndReleased)
@@ -200,7 +210,7 @@ TEST_F(PropertyFormsTest, DescriptorsAreCreatedFromTheDescription)
     describeImage(description);
     auto const made = [&](std::string_view name) {
         PropertyRecord const& record = *std::ranges::find(description.properties(), name, &PropertyRecord::name);
-        return record.make(record);
+        return makeProperty(record);
     };
     EXPECT_FALSE(made("pi")->isVisible());
     EXPECT_EQ(made("shown")->getMemberSetAccess(), MemberAccess::NoAccess);

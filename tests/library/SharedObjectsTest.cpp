@@ -2,6 +2,7 @@
 #include "library/Shared.hpp"
 #include "library/publishClass.hpp"
 
+#include "orbis/factory/descriptors/ClasslessGetter.hpp"
 #include "orbis/factory/ownership/BindingRegistry.hpp"
 #include "orbis/factory/types/SharedPointerPolicy.hpp"
 #include "orbis/factory/types/sharedObjectVectors.hpp"

@@ -121,7 +121,7 @@ protected:
             SCOPED_TRACE(row.function + (" must give " + row.expected));
             auto const action = [&] { EXPECT_EQ(show(call(row.function, row.given).get()), row.expected); };
             if (row.isRefused)
-                expectMessage(action, {row.expected});
+                expectMessage(action, {row.expected, "p0"});
             else
                 EXPECT_EQ(caught(action, &velmara::Error::what), "");
         }

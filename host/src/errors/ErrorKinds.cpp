@@ -20,7 +20,7 @@ std::vector<ErrorField> readFields(orbis::host_extensions::ErrorKind const& kind
     std::vector<ErrorField> fields;
     for (orbis::host_extensions::ErrorField const& field : kind.fields) {
         try {
-            std::shared_ptr<hvArray_tag> const value(field.read(), hvDestroy_deleter());
+            std::shared_ptr<hvArray_tag> const value(field.read(field), hvDestroy_deleter());
             if (value)
                 fields.push_back({field.name, value});
         } catch (std::bad_alloc const&) {
@@ -49,7 +49,7 @@ std::optional<Error> ErrorKinds::describeCurrent() const
     std::string text;
     for (bool const isExact : {true, false})
         for (auto kind = kinds_.rbegin(); kind != kinds_.rend(); ++kind)
-            if ((type && *kind->type == *type) == isExact && kind->describe(text))
+            if ((type && *kind->type == *type) == isExact && kind->describe(*kind, text))
                 return Error(kind->identifier, text, readFields(*kind));
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 #include "types/ScalarConversion.hpp"
 
 #include "host_extensions/convertNumber.hpp"
+#include "host_extensions/numberText.hpp"
 #include "host_extensions/numericClasses.hpp"
 
 #include <array>
@@ -74,16 +75,7 @@ ScalarConverter const* scalarConverters(hvClassID target)
 
 std::string numberText(Array const& input, std::size_t index)
 {
-    return visitNumericClass(input.classID(), [&]<class T>(T) {
-        char text[32];
-        T const number = static_cast<T const*>(input.elements())[index];
-        if constexpr (std::same_as<T, bool>)
-            return std::string(number ? "true" : "false");
-        else if (std::floating_point<T> && std::isnan(static_cast<double>(number)))
-            return std::string("NaN"); // its sign means nothing
-        else
-            return std::string(text, std::to_chars(text, text + sizeof text, number).ptr);
-    });
+    return orbis::host_extensions::numberText(input.classID(), input.elements(), index);
 }
 
 std::string scalarMismatchReason(hvClassID target, Array const& input)

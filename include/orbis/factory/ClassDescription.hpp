@@ -2,8 +2,8 @@
 
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/classes/NativeClassRecord.hpp"
+#include "orbis/factory/detail/members/CallableForm.hpp"
 #include "orbis/factory/detail/members/Copying.hpp"
-#include "orbis/factory/detail/members/MemberRecord.hpp"
 #include "orbis/factory/detail/members/PropertyRecord.hpp"
 
 #include "orbis/COSClass.hpp"
@@ -33,7 +33,14 @@ public:
 protected:
     void add(NativeClassRecord const& superclass);
     void add(MemberRecord record);
-    void add(PropertyRecord record);
+    void add(detail::CallableForm const& form, char const* name, impl::Callable target, char const* parameterNames,
+             MethodText text);
+    void add(std::vector<MemberRecord> records);
+    void add(char const* name, detail::GetterForm const* getterForm, impl::Callable getter,
+             detail::SetterForm const* setterForm, impl::Callable setter, PropertyText text);
+
+    /// The functors of the last property.
+    void keep(detail::KeptObject const& getter, detail::KeptObject const& setter);
     void setCopying(detail::Copying const& copying);
 
 private:

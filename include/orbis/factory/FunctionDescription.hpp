@@ -20,6 +20,7 @@ public:
 
 protected:
     void add(MemberRecord record);
+    void add(std::vector<MemberRecord> records);
 
 private:
     std::vector<MemberRecord> functions_;

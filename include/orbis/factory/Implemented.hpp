@@ -1,12 +1,13 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp" // first: see there
+
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/detail/objects/ScriptFunctions.hpp"
 #include "orbis/factory/types/function.hpp"
 
 #include "orbis/objectArrays.hpp"
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -52,7 +53,9 @@ protected:
     R call(char const* name, A&&... arguments) const
     {
         using Function = detail::ScriptFunction<R, T const&, Passed<A>...>;
-        static_assert(detail::isFunctionResult<R>());
+        constexpr detail::Refusal refusal = detail::functionResultRefusal<R>();
+        if constexpr (refusal != detail::Refusal::None)
+            detail::refuse<refusal, R>();
         host_extensions::FunctionHandle const* const function = functions_.find(name);
         if (!function)
             detail::throwNotImplemented(detail::namedClassOf<T>(), name,
@@ -75,9 +78,6 @@ namespace detail {
 
 template <class T, class S, class... A>
 struct ImplementationRoutine {
-    static_assert(std::has_virtual_destructor_v<T>, "A class that scripts implement needs a virtual destructor: its "
-                                                    "objects are deleted as ones of this class.");
-
     static void invoke(impl::Invoker const*, COSClient const*, int& outputCount, COSValue* outputs, int,
                        COSValue const* inputs)
     {
@@ -106,21 +106,24 @@ inline char const* anyTypeText()
 }
 
 template <class T, class S, class... A>
-MemberRecord implementationRecord(char const* names, MethodText const& text)
+struct ImplementationForm {
+    static constexpr TypeText types[] = {&anyTypeText, &dataTypeText<A>..., nullptr};
+    static constexpr CallableForm form{MemberRecord::Kind::Constructor,
+                                       InputTypes<TypeList<A...>>::needNames,
+                                       &dataTypeText<T*>,
+                                       static_cast<TypeText const*>(types),
+                                       1 + sizeof...(A),
+                                       &ImplementationRoutine<T, S, A...>::invoke};
+};
+
+template <class T, class S, class... A>
+MemberRecord implementationRecord(char const* names, MethodText text)
 {
-    static constexpr std::array<TypeText, 1 + sizeof...(A)> types{&anyTypeText, &dataTypeText<A>...};
-    auto const allNames = std::make_shared<std::string const>("functions" + (names ? ", " + std::string(names) : ""));
-    return {.kind = MemberRecord::Kind::Constructor,
-            .name = nullptr,
-            .parameterNames = allNames->c_str(),
-            .attributes = text.attributes,
-            .outputType = &dataTypeText<T*>,
-            .inputTypes = types,
-            .invokeFn = &ImplementationRoutine<T, S, A...>::invoke,
-            .target = {},
-            .text = text.text,
-            .refusesNull = refusesNullAmong(TypeList<A...>{}),
-            .kept = allNames};
+    auto const allNames = KeptObject::make("functions" + (names ? ", " + std::string(names) : ""));
+    MemberRecord record = makeRecord(ImplementationForm<T, S, A...>::form, nullptr, {},
+                                     static_cast<std::string const*>(allNames.get())->c_str(), text);
+    record.kept = allNames;
+    return record;
 }
 
 } // namespace detail

@@ -1,16 +1,27 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp" // first: see there
+
+#include "orbis/factory/ObjectHandle.hpp"
+#include "orbis/factory/base/Exception.hpp"
 #include "orbis/factory/base/export.hpp"
 #include "orbis/factory/describe.hpp"
 #include "orbis/factory/describeFunctions.hpp"
+#include "orbis/factory/detail/arrays/NewCells.hpp"
 #include "orbis/factory/detail/objects/ClassNames.hpp"
 #include "orbis/factory/marshaling/PropertyValue.hpp"
+#include "orbis/factory/parameterOwners.hpp"
+#include "orbis/factory/resultOwners.hpp"
+#include "orbis/factory/types/NumericVectorPolicy.hpp"
+#include "orbis/factory/types/OptionalPolicy.hpp"
+#include "orbis/factory/types/StringViewPolicy.hpp"
+#include "orbis/factory/types/stringVectors.hpp"
+#include "orbis/factory/withDefaults.hpp"
 
 #include "host_extensions/ErrorKind.hpp"
 #include "orbis/COSPackage.hpp"
 
-#include <functional>
-#include <memory>
+#include <cstring>
 #include <string>
 #include <type_traits>
 #include <typeinfo>
@@ -30,19 +41,60 @@ std::string errorText(E const& error)
     return error.what();
 }
 
-/// The class of exceptions that a getter reads.
+/// The class of exceptions that a getter reads, the pointer as which it is stored, and how it is called.
 template <class G>
 struct ErrorGetter {
     template <class R, class C>
-    static std::type_identity<C> of(R (*)(C const&));
+    static C classOf(R (*)(C const&));
 
-    using Class = typename decltype(of(+std::declval<G>()))::type;
+    using Pointer = decltype(+std::declval<G>());
+    using Class = decltype(classOf(Pointer()));
+
+    static decltype(auto) get(Class const& error, Pointer getter) { return getter(error); }
 };
 
 template <class M, class C>
 struct ErrorGetter<M C::*> {
+    using Pointer = M C::*;
     using Class = C;
+
+    static decltype(auto) get(C const& error, Pointer getter)
+    {
+        if constexpr (std::is_function_v<M>)
+            return (error.*getter)();
+        else
+            return error.*getter;
+    }
 };
+
+/// Inside a handler: reads a field of the current exception.
+template <class Getter>
+hvArray_tag* readErrorField(host_extensions::ErrorField const& field)
+{
+    using E = typename Getter::Class;
+    typename Getter::Pointer getter;
+    std::memcpy(&getter, field.getter, sizeof getter);
+    try {
+        throw;
+    } catch (E const& error) {
+        using V = std::remove_cvref_t<decltype(Getter::get(error, getter))>;
+        return toArray(toValue<V>([&]() -> decltype(auto) { return Getter::get(error, getter); }));
+    }
+}
+
+/// Returns whether what is thrown is a pointer to an exception of type `E`, or of one derived from it.
+template <class E>
+bool throwsPointerTo(void (*throwPointer)())
+{
+    try {
+        throwPointer();
+    } catch (E const*) {
+        return true;
+    } catch (...) {
+        return false;
+    }
+    return false;
+}
 
 } // namespace detail
 
@@ -84,10 +136,8 @@ public:
         static_assert(!PublishedClass<T>, "The class has a HostClass, which names it: publish it with a class info, or "
                                           "remove its HostClass.");
         setName(detail::namedClassOf<T>(), detail::classNames(), name, owner);
-        auto description = std::make_unique<ClassDescriber<T>>();
-        ClassDescriber<T>& result = *description;
-        addClass(detail::namedClassOf<T>(), std::move(description), text);
-        return result;
+        return static_cast<ClassDescriber<T>&>(
+            addClass(detail::namedClassOf<T>(), detail::NewObject<ClassDescription>(new ClassDescriber<T>), text));
     }
 
     /// Publishes a free function, static member function, lambda or functor; the arguments are those of
@@ -96,7 +146,11 @@ public:
     Module& function(char const* name, F callable, ParameterNames<detail::CallableTraits<F>::arity> names = {},
                      char const* text = "")
     {
-        functions_.function(name, callable, names, text);
+        constexpr detail::Refusal refusal = detail::packageFunctionRefusal<std::decay_t<F>>();
+        if constexpr (refusal != detail::Refusal::None)
+            detail::refuse<refusal, F>();
+        else
+            functions_.function(name, callable, names, text);
         return *this;
     }
 
@@ -104,28 +158,44 @@ public:
     Module& function(char const* name, F callable, ParameterNames<detail::CallableTraits<F>::arity> names,
                      Defaults<D...> const& defaults, char const* text = "")
     {
-        functions_.function(name, callable, names, defaults, text);
+        constexpr detail::Refusal refusal = detail::firstRefusal(detail::packageFunctionRefusal<std::decay_t<F>>(),
+                                                                 detail::defaultsRefusalOf<std::decay_t<F>, 0, D...>());
+        if constexpr (refusal != detail::Refusal::None)
+            detail::refuse<refusal, F, D...>();
+        else
+            functions_.function(name, callable, names, defaults, text);
+        return *this;
+    }
+
+    /// Chosen for what is no function.
+    template <class None = void>
+    auto& function(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no function: of several overloads pick one with "
+                                                 "overload<...>().");
         return *this;
     }
 
     /// Gives native exceptions of type `E`, and of types derived from it that have none, an identifier by which scripts
     /// tell them apart: `module.error<ParseError>("spatial:parse")`. Their text is `what()`, or what `text` gives: a
     /// function or captureless lambda that takes an `E const&` and returns a `std::string`. Exceptions with a message
-    /// identifier keep that. Returns this; `field` adds values to the error.
+    /// identifier keep that. Returns this; `field` adds values.
     template <class E>
     Module& error(char const* identifier, std::string (*text)(E const&) = detail::errorText<E>)
     {
+        using Text = std::string (*)(E const&);
         addErrorKind({identifier, &typeid(E),
-                      [text](std::string& result) {
+                      [](host_extensions::ErrorKind const& kind, std::string& result) {
                           try {
                               throw;
                           } catch (E const& error) {
-                              result = text(error);
+                              result = reinterpret_cast<Text>(kind.text)(error);
                               return true;
                           } catch (...) {
                               return false;
                           }
-                      }},
+                      },
+                      reinterpret_cast<void (*)()>(text)},
                      [] { throw static_cast<E*>(nullptr); });
         return *this;
     }
@@ -143,28 +213,12 @@ public:
     template <class G>
     Module& field(char const* name, G getter)
     {
-        using E = typename detail::ErrorGetter<G>::Class;
-        using V = std::remove_cvref_t<std::invoke_result_t<G, E const&>>;
-        if constexpr (detail::isMarshalable<V>())
-            addErrorField(
-                name,
-                [](void (*throwPointer)()) {
-                    try {
-                        throwPointer();
-                    } catch (E const*) {
-                        return true;
-                    } catch (...) {
-                        return false;
-                    }
-                    return false;
-                },
-                [getter](COSValue& value) {
-                    try {
-                        throw;
-                    } catch (E const& error) {
-                        value = detail::toValue<V>([&]() -> decltype(auto) { return std::invoke(getter, error); });
-                    }
-                });
+        using Getter = detail::ErrorGetter<G>;
+        typename Getter::Pointer const pointer = getter;
+        host_extensions::ErrorField field{name, &detail::readErrorField<Getter>, {}};
+        static_assert(sizeof pointer <= sizeof field.getter);
+        std::memcpy(field.getter, &pointer, sizeof pointer);
+        addErrorField(field, &detail::throwsPointerTo<typename Getter::Class>);
         return *this;
     }
 
@@ -175,18 +229,16 @@ private:
     struct ErrorInProgress;
 
     void setName(detail::NamedClass& named, detail::ClassNames& names, char const* name, Owner owner);
-    void addErrorKind(host_extensions::ErrorKind kind, void (*throwPointer)());
-    void addErrorField(char const* name, bool (*isOf)(void (*throwPointer)()), std::function<void(COSValue&)> read);
-    void addClass(detail::NamedClass const& named, std::unique_ptr<ClassDescription> description, char const* text);
+    void addErrorKind(host_extensions::ErrorKind const& kind, void (*throwPointer)());
+    void addErrorField(host_extensions::ErrorField const& field, bool (*isOf)(void (*throwPointer)()));
+    ClassDescription& addClass(detail::NamedClass& named, detail::NewObject<ClassDescription> description,
+                               char const* text);
 
     COSPackage& package_;
     std::string fullName_;
     FunctionDescriber functions_;
-    std::unique_ptr<ErrorInProgress> lastError_;
+    ErrorInProgress* lastError_ = nullptr;
 };
-
-/// Publishes a package that `fill` fills, as `registerOrbisPackage` does; for programs that publish classes themselves.
-ORBIS_FACTORY_API COSPackage* registerModule(std::string const& fullName, std::function<void(Module&)> fill);
 
 } // namespace orbis::factory
 

@@ -22,8 +22,11 @@ namespace orbis::factory {
 /// returned, or when the next one begins, because native code may delete an object that owns handles and is reachable
 /// through them. Other references are released at once.
 ///
+/// `T` has a `HostClass`, or a `Module` publishes it; it may be incomplete where the handle is declared, and its
+/// `HostClass` follow. A target that a `Module` publishes belongs to native code, unless it has a host object already.
+///
 /// Threading: on the thread of the virtual machine. A handle that outlives its virtual machine does nothing.
-template <PublishedClass T>
+template <class T>
 class ObjectHandle : public H_ck {
 public:
     ObjectHandle() = default;
@@ -50,12 +53,11 @@ public:
         object_ = nullptr;
         if (!object)
             return;
-        detail::NewArray array;
-        detail::MarshalerOf<T*>::template toHost<T>(object, array.place());
-        COSInterfacePtr const host = omGetArrayElement(array.get(), 0);
-        detail::enterHandle(host, detail::MarshalerOf<T*>::boundAddress(object), object, this);
-        incrementRefCount(host);
-        object_ = object;
+        constexpr detail::Refusal refusal = detail::marshalingRefusal<T*>();
+        if constexpr (refusal != detail::Refusal::None)
+            detail::refuse<refusal, T>();
+        else
+            refer(object);
     }
 
     /// Returns the target; null when the handle reads as empty or when its virtual machine is not current.
@@ -70,11 +72,23 @@ public:
     bool operator==(T const* object) const { return object_ == object; }
 
 private:
+    void refer(T* object)
+    {
+        detail::NewArray array;
+        detail::MarshalerOf<T*>::template toHost<T>(object, array.place());
+        COSInterfacePtr const host = omGetArrayElement(array.get(), 0);
+        detail::enterHandle(host, detail::MarshalerOf<T*>::boundAddress(object), object, this);
+        incrementRefCount(host);
+        object_ = object;
+    }
+
     /// Releases whatever is recorded for this address, which need not be a reference to `object_`: the handle, or an
     /// earlier one at the same address, may have been changed while another virtual machine was current.
     void release()
     {
-        if constexpr (std::is_same_v<RootClass<T>, full::Wrappable>)
+        if constexpr (!requires { sizeof(T); })
+            detail::refuse<detail::Refusal::IncompleteClass, T>();
+        else if constexpr (std::is_same_v<RootClass<T>, full::Wrappable>)
             detail::releaseForHandleLater(this);
         else
             detail::releaseForHandle(this);

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp" // first: see there
+
 #include "orbis/factory/ClassDescription.hpp"
 #include "orbis/factory/ParameterNames.hpp"
 #include "orbis/factory/descriptors/MemberText.hpp"
 #include "orbis/factory/descriptors/releasedBy.hpp"
 #include "orbis/factory/detail/members/areSuperclasses.hpp"
-#include "orbis/factory/detail/members/makePropertyRecord.hpp"
+#include "orbis/factory/detail/members/describedAccess.hpp"
 #include "orbis/factory/detail/members/makeRecord.hpp"
+#include "orbis/factory/detail/members/memberChecks.hpp"
 #include "orbis/factory/detail/members/propertyChecks.hpp"
 #include "orbis/factory/overload.hpp"
 #include "orbis/factory/types/standardPolicies.hpp"
@@ -24,7 +27,20 @@ class Implemented;
 namespace detail {
 
 template <class T, class S, class... A>
-MemberRecord implementationRecord(char const* names, MethodText const& text);
+MemberRecord implementationRecord(char const* names, MethodText text);
+
+template <class T, class S, class... A>
+consteval Refusal implementationRefusal()
+{
+    if constexpr (!NamedType<T> || !std::is_base_of_v<Implemented<T>, S>)
+        return Refusal::NotImplementation;
+    else if constexpr (!std::has_virtual_destructor_v<T>)
+        return Refusal::NotImplementable;
+    else if constexpr (!std::is_constructible_v<S, NativeParameter<A>...>)
+        return Refusal::NoImplementation;
+    else
+        return signatureRefusal<void>(TypeList<A...>{});
+}
 
 } // namespace detail
 
@@ -47,6 +63,8 @@ class ClassDescriber : public ClassDescription {
     template <class F>
     using Names = ParameterNames<Traits<F>::arity>;
 
+    using Refusal = detail::Refusal;
+
 public:
     ClassDescriber() : ClassDescription(nativeClassRecord<T>())
     {
@@ -59,11 +77,10 @@ public:
     /// with a constructor that takes one, if there are others, and with what their language has for it.
     ClassDescriber& copyable()
     {
-        constexpr bool canCopy = NamedType<T> && detail::CopyConstructible<T>;
-        static_assert(canCopy, "Objects of this class cannot be copied: it has no public copy constructor, or no "
-                               "public destructor, or a HostClass.");
-        if constexpr (canCopy)
+        if constexpr (NamedType<T> && detail::CopyConstructible<T>)
             setCopying(detail::copyingOf<T>);
+        else
+            detail::refuse<Refusal::NotCopyable, T>();
         return *this;
     }
 
@@ -71,53 +88,71 @@ public:
     template <class... B>
     ClassDescriber& inherits()
     {
-        if constexpr (detail::areSuperclasses<T, B...>())
+        constexpr Refusal refusal = detail::firstRefusal(detail::superclassRefusal<T, B>()...);
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, B...>();
+        else
             (addSuperclass<B>(), ...);
         return *this;
     }
 
     /// Adds a constructor that takes values of the types `A`.
     template <class... A>
-    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText const& text = {},
-                                MethodAttributes attributes = {})
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names = {}, MethodText text = {})
     {
-        constexpr bool exists = std::is_constructible_v<T, detail::NativeParameter<A>...>;
-        static_assert(exists, "The class has no public constructor that takes these parameter types: name the types "
-                              "of an existing one in constructor<...>().");
-        if constexpr (exists && detail::signatureCanCross<void>(detail::TypeList<A...>{}))
-            add(detail::constructorRecord<T, A...>(names.text(), text + attributes));
+        constexpr Refusal refusal = detail::constructorRefusal<T, A...>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, A...>();
+        else
+            add(constructorForm<A...>, nullptr, {}, names.text(), text);
         return *this;
+    }
+
+    template <class... A>
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, MethodText text, MethodAttributes attributes)
+    {
+        return constructor<A...>(names, text + attributes);
     }
 
     template <class... A>
     ClassDescriber& constructor(MethodAttributes attributes)
     {
-        return constructor<A...>({}, attributes);
+        return constructor<A...>({}, MethodText(attributes));
     }
 
     template <class... A, class... D>
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults,
-                                MethodText const& text = {}, MethodAttributes attributes = {})
+                                MethodText text = {})
     {
-        constructor<A...>(names, text, attributes);
-        return addAll(defaults.template shortenConstructor<T, A...>(members().back()));
+        constexpr Refusal refusal =
+            detail::firstRefusal(detail::constructorRefusal<T, A...>(),
+                                 detail::defaultsRefusal<sizeof...(A), D...>(detail::TypeList<A...>{}));
+        if constexpr (refusal != Refusal::None) {
+            detail::refuse<refusal, A..., D...>();
+        } else {
+            constructor<A...>(names, text);
+            add(defaults.template shortenConstructor<T, A...>(members().back()));
+        }
+        return *this;
+    }
+
+    template <class... A, class... D>
+    ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults, MethodText text,
+                                MethodAttributes attributes)
+    {
+        return constructor<A...>(names, defaults, text + attributes);
     }
 
     /// Lets scripts implement the class, which has virtual functions, by a table of functions: adds a constructor that
     /// takes one, and then values of the types `A`, with which it constructs an `S`. See `Implemented`.
     template <class S, class... A>
-    ClassDescriber& implementedBy(ParameterNames<sizeof...(A)> names = {}, MethodText const& text = {})
+    ClassDescriber& implementedBy(ParameterNames<sizeof...(A)> names = {}, MethodText text = {})
     {
-        constexpr bool isImplementation = std::is_base_of_v<Implemented<T>, S> && NamedType<T>;
-        static_assert(isImplementation, "A class that scripts implement is published by a Module; what implements it "
-                                        "derives from orbis::factory::Implemented of it.");
-        if constexpr (isImplementation) {
-            constexpr bool exists = std::is_constructible_v<S, detail::NativeParameter<A>...>;
-            static_assert(exists, "The implementation has no public constructor that takes these parameter types: say "
-                                  "`using Implemented::Implemented;` in it, and override all abstract functions.");
-            if constexpr (exists && detail::signatureCanCross<void>(detail::TypeList<A...>{}))
-                add(detail::implementationRecord<T, S, A...>(names.text(), text));
-        }
+        constexpr Refusal refusal = detail::implementationRefusal<T, S, A...>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, S, A...>();
+        else
+            add(detail::implementationRecord<T, S, A...>(names.text(), text));
         return *this;
     }
 
@@ -125,128 +160,228 @@ public:
     /// `T*` first. The latter becomes a forced member, which throws when it is called without an object; its
     /// parameter names begin with the object's.
     template <class F>
-    ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodText const& text = {},
-                           MethodAttributes attributes = {})
+    ClassDescriber& method(char const* name, F function, Names<F> names = {}, MethodText text = {})
     {
-        using detail::CallableKind;
-        checkCallable<F>();
-        if constexpr (Traits<F>::kind == CallableKind::Member)
-            addMember(name, function, names.text(), text + attributes);
-        else if constexpr (Traits<F>::kind == CallableKind::Free) {
-            constexpr bool takesObject = Traits<F>::template takesObject<T>;
-            static_assert(takesObject, "A free function published as a method takes a pointer to the class first: "
-                                       "add that parameter, or publish it with staticMethod.");
-            if constexpr (takesObject)
-                addFree(name, function, names.text(), text + attributes + MethodAttributes::ForceMembership());
-        }
+        constexpr Refusal refusal = detail::methodRefusal<T, std::decay_t<F>>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, F>();
+        else if constexpr (Traits<F>::kind == detail::CallableKind::Member)
+            addMember(name, function, names.text(), text);
+        else
+            addFree(name, function, names.text(), text + MethodAttributes::ForceMembership());
         return *this;
+    }
+
+    template <class F>
+    ClassDescriber& method(char const* name, F function, Names<F> names, MethodText text, MethodAttributes attributes)
+    {
+        return method(name, function, names, text + attributes);
     }
 
     template <class F>
     ClassDescriber& method(char const* name, F function, MethodAttributes attributes)
     {
-        return method(name, function, {}, attributes);
+        return method(name, function, {}, MethodText(attributes));
     }
 
     template <class F, class... D>
     ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
-                           MethodText const& text = {}, MethodAttributes attributes = {})
+                           MethodText text = {})
     {
         constexpr std::size_t objects = Traits<F>::kind == detail::CallableKind::Member ? 0 : 1;
-        method(name, function, names, text, attributes);
-        return addAll(defaults.template shorten<T, objects>(members().back(), function));
+        constexpr Refusal refusal = detail::firstRefusal(detail::methodRefusal<T, std::decay_t<F>>(),
+                                                         detail::defaultsRefusalOf<std::decay_t<F>, objects, D...>());
+        if constexpr (refusal != Refusal::None) {
+            detail::refuse<refusal, F, D...>();
+        } else {
+            method(name, function, names, text);
+            add(defaults.template shorten<T, objects>(members().back(), function));
+        }
+        return *this;
+    }
+
+    template <class F, class... D>
+    ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
+                           MethodText text, MethodAttributes attributes)
+    {
+        return method(name, function, names, defaults, text + attributes);
+    }
+
+    /// Chosen for what is no method.
+    template <class None = void>
+    auto& method(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no method: of several overloads pick one with "
+                                                 "overload<...>() or constOverload<...>().");
+        return *this;
     }
 
     /// Adds a static method: a free function, static member function, lambda or functor, called without an object.
     template <class F>
-    ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText const& text = {},
-                                 MethodAttributes attributes = {})
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names = {}, MethodText text = {})
     {
-        using detail::CallableKind;
-        checkCallable<F>();
-        static_assert(Traits<F>::kind != CallableKind::Member, "A static method has no object: publish a member "
-                                                               "function with method.");
-        if constexpr (Traits<F>::kind == CallableKind::Free)
-            if constexpr (detail::keepsNothing(typename Traits<F>::Parameters{}))
-                addFree(name, function, names.text(), text + attributes);
+        constexpr Refusal refusal = detail::staticMethodRefusal<std::decay_t<F>>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, F>();
+        else
+            addFree(name, function, names.text(), text);
         return *this;
+    }
+
+    template <class F>
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names, MethodText text,
+                                 MethodAttributes attributes)
+    {
+        return staticMethod(name, function, names, text + attributes);
     }
 
     template <class F>
     ClassDescriber& staticMethod(char const* name, F function, MethodAttributes attributes)
     {
-        return staticMethod(name, function, {}, attributes);
+        return staticMethod(name, function, {}, MethodText(attributes));
     }
 
     template <class F, class... D>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
-                                 MethodText const& text = {}, MethodAttributes attributes = {})
+                                 MethodText text = {})
     {
-        staticMethod(name, function, names, text, attributes);
-        return addAll(defaults.template shorten<T, 0>(members().back(), function));
-    }
-
-    /// Adds a property that is read through `getter`: a data member, a member function without parameters, or a free
-    /// function or captureless lambda that takes the object or nothing. Non-const data can be written as well, unless
-    /// `PropertyAttributes::NoAccessSetter()` is given.
-    template <class G>
-    ClassDescriber& property(char const* name, G getter, PropertyText const& text = {},
-                             PropertyAttributes attributes = {})
-    {
-        if constexpr (detail::isWritableData<T, G>)
-            return property(name, getter, getter, text, attributes);
-        else if constexpr (detail::canRead<T, G>()) {
-            add(detail::propertyRecord<T>(name, getter, detail::NoAccess(), text + attributes));
+        constexpr Refusal refusal = detail::firstRefusal(detail::staticMethodRefusal<std::decay_t<F>>(),
+                                                         detail::defaultsRefusalOf<std::decay_t<F>, 0, D...>());
+        if constexpr (refusal != Refusal::None) {
+            detail::refuse<refusal, F, D...>();
+        } else {
+            staticMethod(name, function, names, text);
+            add(defaults.template shorten<T, 0>(members().back(), function));
         }
         return *this;
     }
 
+    template <class F, class... D>
+    ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
+                                 MethodText text, MethodAttributes attributes)
+    {
+        return staticMethod(name, function, names, defaults, text + attributes);
+    }
+
+    /// Chosen for what is no static method.
+    template <class None = void>
+    auto& staticMethod(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no static method: of several overloads pick one with "
+                                                 "overload<...>() or constOverload<...>().");
+        return *this;
+    }
+
+    /// Adds a property that is read through `getter`: a data member, a member function without parameters, or a free
+    /// function, lambda or functor that takes the object or nothing. What a lambda captures is copied. Non-const data
+    /// can be written as well, unless `PropertyAttributes::NoAccessSetter()` is given.
+    template <class G>
+    ClassDescriber& property(char const* name, G getter, PropertyText text = {})
+    {
+        constexpr Refusal refusal = detail::propertyRefusal<T, G>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G>();
+        else if constexpr (detail::isWritableData<T, G>)
+            addProperty(name, getter, getter, text);
+        else
+            addProperty(name, getter, detail::NoAccess(), text);
+        return *this;
+    }
+
+    template <class G>
+    ClassDescriber& property(char const* name, G getter, PropertyText text, PropertyAttributes attributes)
+    {
+        return property(name, getter, text + attributes);
+    }
+
     /// Adds a property that is read and written. The setter is a data member, a member function that takes the value,
-    /// or a free function or captureless lambda that takes the value, preceded by the object if it needs it.
+    /// or a free function, lambda or functor that takes the value, preceded by the object if it needs it.
     template <class G, class S>
         requires(!std::convertible_to<S, PropertyText>)
-    ClassDescriber& property(char const* name, G getter, S setter, PropertyText const& text = {},
-                             PropertyAttributes attributes = {})
+    ClassDescriber& property(char const* name, G getter, S setter, PropertyText text = {})
     {
-        if constexpr (detail::canRead<T, G>() && detail::canWrite<T, S>()) {
-            if constexpr (detail::areOneType<T, G, S>()) {
-                add(detail::propertyRecord<T>(name, getter, setter, text + attributes));
-            }
-        }
+        constexpr Refusal refusal = detail::propertyRefusal<T, G, S>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G, S>();
+        else
+            addProperty(name, getter, setter, text);
+        return *this;
+    }
+
+    template <class G, class S>
+        requires(!std::convertible_to<S, PropertyText>)
+    ClassDescriber& property(char const* name, G getter, S setter, PropertyText text, PropertyAttributes attributes)
+    {
+        return property(name, getter, setter, text + attributes);
+    }
+
+    /// Chosen for what is no property.
+    template <class None = void>
+    auto& property(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no property: of several overloads pick one with "
+                                                 "overload<...>() or constOverload<...>().");
         return *this;
     }
 
     /// Adds a write-only property. The setter is as above.
     template <class S>
-    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText const& text = {},
-                                      PropertyAttributes attributes = {})
+    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText text = {})
     {
-        if constexpr (detail::canWrite<T, S>()) {
-            add(detail::propertyRecord<T>(name, detail::NoAccess(), setter, text + attributes));
-        }
+        constexpr Refusal refusal = detail::setterRefusal<T, S>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, S>();
+        else
+            addProperty(name, detail::NoAccess(), setter, text);
         return *this;
+    }
+
+    template <class S>
+    ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText text, PropertyAttributes attributes)
+    {
+        return writeOnlyProperty(name, setter, text + attributes);
     }
 
     /// Adds a read-only property of the class itself: static data, a constant, or a function without parameters.
     template <class G>
-    ClassDescriber& staticProperty(char const* name, G getter, PropertyText const& text = {},
-                                   PropertyAttributes attributes = {})
+    ClassDescriber& staticProperty(char const* name, G getter, PropertyText text = {})
     {
-        if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>())
-            property(name, getter, text, attributes + PropertyAttributes::Static());
+        constexpr Refusal refusal =
+            detail::firstRefusal(detail::staticRefusal<detail::GetterTraits<T, G>>(), detail::propertyRefusal<T, G>());
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G>();
+        else
+            property(name, getter, text + PropertyAttributes::Static());
         return *this;
+    }
+
+    template <class G>
+    ClassDescriber& staticProperty(char const* name, G getter, PropertyText text, PropertyAttributes attributes)
+    {
+        return staticProperty(name, getter, text + attributes);
     }
 
     /// The same, read and written.
     template <class G, class S>
         requires(!std::convertible_to<S, PropertyText>)
-    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText const& text = {},
-                                   PropertyAttributes attributes = {})
+    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText text = {})
     {
-        if constexpr (detail::needsNoObject<detail::GetterTraits<T, G>>() &&
-                      detail::needsNoObject<detail::SetterTraits<T, S>>())
-            property(name, getter, setter, text, attributes + PropertyAttributes::Static());
+        constexpr Refusal refusal =
+            detail::firstRefusal(detail::staticRefusal<detail::GetterTraits<T, G>, detail::SetterTraits<T, S>>(),
+                                 detail::propertyRefusal<T, G, S>());
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, T, G, S>();
+        else
+            property(name, getter, setter, text + PropertyAttributes::Static());
         return *this;
+    }
+
+    template <class G, class S>
+        requires(!std::convertible_to<S, PropertyText>)
+    ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText text,
+                                   PropertyAttributes attributes)
+    {
+        return staticProperty(name, getter, setter, text + attributes);
     }
 
 private:
@@ -261,43 +396,44 @@ private:
                             detail::downcast<B, T>);
     }
 
-    ClassDescriber& addAll(std::vector<MemberRecord> records)
-    {
-        for (MemberRecord& record : records)
-            add(std::move(record));
-        return *this;
-    }
+    template <class... A>
+    static constexpr detail::CallableForm const& constructorForm =
+        detail::callableForm<MemberRecord::Kind::Constructor, T*, detail::TypeList<A...>,
+                             detail::ConstructorRoutine<T, detail::TypeList<A...>>>;
+
+    template <class Result, class Parameters, class Pointer>
+    static constexpr detail::CallableForm const& memberForm =
+        detail::callableForm<MemberRecord::Kind::MemberFunction, Result, Parameters,
+                             detail::MemberFunctionRoutine<T, Pointer, Result, Parameters>>;
 
     template <class F>
-    static consteval void checkCallable()
-    {
-        static_assert(Traits<F>::kind != detail::CallableKind::None,
-                      "This cannot be published: give a function, a member function or a lambda that captures nothing, "
-                      "and pick one of several overloads with overload<...>().");
-    }
-
-    template <class F>
-    void addMember(char const* name, F function, char const* names, MethodText const& text)
+    void addMember(char const* name, F function, char const* names, MethodText text)
     {
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
         using Pointer = typename Traits<F>::template PointerIn<T>;
-        constexpr bool isMember = std::derived_from<T, typename Traits<F>::Class>;
-        static_assert(isMember,
-                      "This is no member function of the class or a public base: publish it with the class that has "
-                      "it.");
-        if constexpr (isMember && detail::signatureCanCross<Result>(Parameters{}))
-            add(detail::memberFunctionRecord<T, Pointer, Result, Parameters>(name, function, names, text));
+        add(memberForm<Result, Parameters, Pointer>, name, static_cast<Pointer>(function), names, text);
     }
 
     template <class F>
-    void addFree(char const* name, F function, char const* names, MethodText const& text)
+    void addFree(char const* name, F function, char const* names, MethodText text)
     {
         using Result = typename Traits<F>::Result;
         using Parameters = typename Traits<F>::Parameters;
         using Pointer = typename Traits<F>::Pointer;
-        if constexpr (detail::signatureCanCross<Result>(Parameters{}))
-            add(detail::freeFunctionRecord<Pointer, Result, Parameters>(name, function, names, text));
+        add(detail::freeFunctionRecord<Pointer, Result, Parameters>(name, function, names, text));
+    }
+
+    template <class G, class S>
+    void addProperty(char const* name, G const& getter, S const& setter, PropertyText text)
+    {
+        using Getter = detail::DescribedGetter<T, G>;
+        using Setter = detail::DescribedSetter<T, S>;
+        auto const get = Getter::stored(getter);
+        auto const set = Setter::stored(setter);
+        add(name, Getter::form, Getter::Stored::target(get), Setter::form, Setter::Stored::target(set), text);
+        if constexpr (Getter::Stored::isKept || Setter::Stored::isKept)
+            keep(Getter::Stored::kept(get), Setter::Stored::kept(set));
     }
 };
 

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp" // first: see there
+
 #include "orbis/factory/FunctionDescription.hpp"
 #include "orbis/factory/ParameterNames.hpp"
 #include "orbis/factory/detail/members/makeRecord.hpp"
+#include "orbis/factory/detail/members/memberChecks.hpp"
 #include "orbis/factory/overload.hpp"
 #include "orbis/factory/types/standardPolicies.hpp"
 
@@ -19,6 +22,8 @@ class FunctionDescriber : public FunctionDescription {
     template <class F>
     using Traits = detail::CallableTraits<std::decay_t<F>>;
 
+    using Refusal = detail::Refusal;
+
 public:
     /// Adds a free function, static member function, lambda or functor, with a text for users. What a lambda
     /// captures is copied, and is one for all virtual machines.
@@ -26,17 +31,13 @@ public:
     FunctionDescriber& function(char const* name, F callable, ParameterNames<Traits<F>::arity> names = {},
                                 char const* text = "")
     {
-        constexpr bool isFree = Traits<F>::kind == detail::CallableKind::Free;
-        static_assert(isFree, "A package function is a free function, a static member function, a lambda or "
-                              "another class with one call operator; pick one of several overloads with "
-                              "overload<...>().");
-        if constexpr (isFree) {
-            using Result = typename Traits<F>::Result;
-            using Parameters = typename Traits<F>::Parameters;
-            if constexpr (detail::signatureCanCross<Result>(Parameters{}) && detail::keepsNothing(Parameters{}))
-                add(detail::freeFunctionRecord<typename Traits<F>::Pointer, Result, Parameters>(
-                    name, callable, names.text(), MethodText(text) + MethodAttributes::Static()));
-        }
+        constexpr Refusal refusal = detail::packageFunctionRefusal<std::decay_t<F>>();
+        if constexpr (refusal != Refusal::None)
+            detail::refuse<refusal, F>();
+        else
+            add(detail::freeFunctionRecord<typename Traits<F>::Pointer, typename Traits<F>::Result,
+                                           typename Traits<F>::Parameters>(
+                name, callable, names.text(), MethodText(text) + MethodAttributes::Static()));
         return *this;
     }
 
@@ -44,9 +45,23 @@ public:
     FunctionDescriber& function(char const* name, F callable, ParameterNames<Traits<F>::arity> names,
                                 Defaults<D...> const& defaults, char const* text = "")
     {
-        function(name, callable, names, text);
-        for (MemberRecord const& shorter : defaults.template shorten<void, 0>(functions().back(), callable))
-            add(shorter);
+        constexpr Refusal refusal = detail::firstRefusal(detail::packageFunctionRefusal<std::decay_t<F>>(),
+                                                         detail::defaultsRefusalOf<std::decay_t<F>, 0, D...>());
+        if constexpr (refusal != Refusal::None) {
+            detail::refuse<refusal, F, D...>();
+        } else {
+            function(name, callable, names, text);
+            add(defaults.template shorten<void, 0>(functions().back(), callable));
+        }
+        return *this;
+    }
+
+    /// Chosen for what is no function.
+    template <class None = void>
+    auto& function(char const*, ...)
+    {
+        static_assert(detail::isNothing<None>(), "This describes no function: of several overloads pick one with "
+                                                 "overload<...>().");
         return *this;
     }
 };

@@ -22,8 +22,6 @@ struct OwnedParameters<Owner, TypeList<A...>, std::index_sequence<Index...>, I..
     template <std::size_t At>
     static constexpr bool isOwned = sizeof...(I) == 0 ? At + 1 == sizeof...(A) : ((I == At) || ...);
 
-    static_assert(((I < sizeof...(A)) && ...) && sizeof...(A) > 0,
-                  "The function has no such parameter: they are counted from 0.");
     using Type = TypeList<std::conditional_t<isOwned<Index>, Owner<A>, A>...>;
 };
 
@@ -50,8 +48,10 @@ struct CallableTraits<ParameterOwnerOf<F, Owner, I...>> : CallableTraits<F> {
 template <class T, class M, class C, template <class> class Owner>
     requires std::is_object_v<M> && (!std::is_const_v<M>) && std::derived_from<T, C>
 struct SetterTraits<T, ParameterOwnerOf<M C::*, Owner>>
-    : SetterOf<Owner<M>, MemberPointerIn<M C::*, M T::*>,
-               impl::ClassSetter<Owner<M>, T, MemberPointerIn<M C::*, M T::*>>> {};
+    : SetterOf<MemberWriter<Owner<M>, T, MemberPointerIn<M C::*, M T::*>>> {};
+
+template <class F, std::size_t... I>
+inline constexpr bool hasParameters = CallableTraits<F>::arity > 0 && ((I < CallableTraits<F>::arity) && ...);
 
 } // namespace detail
 
@@ -67,7 +67,9 @@ struct SetterTraits<T, ParameterOwnerOf<M C::*, Owner>>
 template <std::size_t... I, class F>
 constexpr auto kept(F function)
 {
-    return detail::ParameterOwnerOf<std::decay_t<F>, Kept, I...>{function};
+    if constexpr (!detail::hasParameters<F, I...>)
+        detail::refuse<detail::Refusal::NoSuchParameter, F>();
+    return detail::ParameterOwnerOf<F, Kept, I...>{function};
 }
 
 /// Says that native code owns, and will delete, the object that it is given as a pointer or a reference: the script's
@@ -76,7 +78,9 @@ constexpr auto kept(F function)
 template <std::size_t... I, class F>
 constexpr auto taken(F function)
 {
-    return detail::ParameterOwnerOf<std::decay_t<F>, Taken, I...>{function};
+    if constexpr (!detail::hasParameters<F, I...>)
+        detail::refuse<detail::Refusal::NoSuchParameter, F>();
+    return detail::ParameterOwnerOf<F, Taken, I...>{function};
 }
 
 } // namespace orbis::factory

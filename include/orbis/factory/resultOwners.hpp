@@ -32,9 +32,7 @@ struct CallableTraits<ResultOwnerOf<F, Owner>> : CallableTraits<F> {
 template <class T, class M, class C, ResultOwner Owner>
     requires std::is_object_v<M> && std::derived_from<T, C>
 struct GetterTraits<T, ResultOwnerOf<M C::*, Owner>>
-    : GetterOf<
-          M const&, MemberPointerIn<M C::*, M T::*>,
-          impl::ClassGetter<OwnedResult<M const&, Owner>, T, MemberPointerIn<M C::*, M T::*>, std::remove_cv_t<M>>> {};
+    : GetterOf<MemberReader<OwnedResult<M const&, Owner>, T, MemberPointerIn<M C::*, M T::*>, std::remove_cv_t<M>>> {};
 
 } // namespace detail
 

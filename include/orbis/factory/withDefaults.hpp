@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp" // first: see there
+
 #include "orbis/factory/detail/members/defaultedOverloads.hpp"
 
 #include <tuple>
@@ -10,27 +12,23 @@ namespace orbis::factory {
 
 namespace detail {
 
-/// Returns whether a default value, of the type as which the author passes it, can be stored; stops compilation with a
-/// sentence otherwise.
+/// Returns why a default value, of the type as which the author passes it, cannot be stored, or `None`.
 template <class D>
-consteval bool canBeDefault()
+consteval Refusal keptDefaultRefusal()
 {
     using Kept = std::decay_t<D>;
     using Given = std::remove_reference_t<D>;
     using Target = std::remove_cv_t<std::remove_pointer_t<Kept>>;
     constexpr bool isLiteral = std::is_array_v<Given> && std::is_const_v<std::remove_extent_t<Given>>;
     constexpr bool isBarePointer = std::is_pointer_v<Kept> && std::is_object_v<Target> && !PublishedClass<Target>;
-    constexpr bool ownsMemory = [] {
-        if constexpr (HasPolicy<Kept>)
-            return !isBarePointer && !isView<Kept>();
-        else
-            return !isBarePointer;
-    }();
-    static_assert(isLiteral || ownsMemory,
-                  "A default value is kept for later calls and would refer to memory that is not its own: give a "
-                  "literal, or a value that owns its memory (std::string, std::vector, "
-                  "hvArrayReferenceCountedProxy).");
-    return isLiteral || ownsMemory;
+    if constexpr (isLiteral)
+        return Refusal::None;
+    else if constexpr (isBarePointer)
+        return Refusal::DefaultView;
+    else if constexpr (HasPolicy<Kept>)
+        return isView<Kept>() ? Refusal::DefaultView : Refusal::None;
+    else
+        return Refusal::None;
 }
 
 } // namespace detail
@@ -71,7 +69,9 @@ private:
 template <class... D>
 Defaults<std::decay_t<D>...> withDefaults(D&&... values)
 {
-    static_assert((detail::canBeDefault<D>() && ...));
+    constexpr detail::Refusal refusal = detail::firstRefusal(detail::keptDefaultRefusal<D>()...);
+    if constexpr (refusal != detail::Refusal::None)
+        detail::refuse<refusal>();
     return Defaults<std::decay_t<D>...>(std::tuple<std::decay_t<D>...>(std::forward<D>(values)...));
 }
 

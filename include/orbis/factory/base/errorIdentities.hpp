@@ -62,12 +62,18 @@ public:
     ~not_convertible() override;
 };
 
-/// An object was to be copied, shared, kept or taken by native code, and cannot be. Arguments: the class's name; the
-/// reason.
+/// An object was to be copied, owned by its host object, or shared, kept or taken by native code, and cannot be.
+/// Arguments: the class's name; the reason.
 class ORBIS_FACTORY_API cannot_copy : public resource_core::BaseMsgID {
 public:
     cannot_copy(std::string const& className, std::string const& reason);
     ~cannot_copy() override;
+};
+
+class ORBIS_FACTORY_API cannot_own : public resource_core::BaseMsgID {
+public:
+    cannot_own(std::string const& className, std::string const& reason);
+    ~cannot_own() override;
 };
 
 class ORBIS_FACTORY_API cannot_share : public resource_core::BaseMsgID {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp" // first: see there
+
 #include "orbis/factory/classes/OrbisFactoryClassInfo.hpp"
 #include "orbis/factory/classes/describeEnumeration.hpp"
 
@@ -19,6 +21,9 @@ public:
     explicit EnumerationClassInfo(std::string const& description)
         : OrbisFactoryClassInfo(HostEnumeration<E>::name, description)
     {
+        constexpr detail::Refusal refusal = detail::enumerationRefusal<E>();
+        if constexpr (refusal != detail::Refusal::None)
+            detail::refuse<refusal, E>();
     }
 
     /// Adds the enumerators. A derived class info may add members.

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp" // first: see there
+
 #include "orbis/factory/classes/HostClass.hpp"
 #include "orbis/factory/classes/OrbisFactoryClassInfo.hpp"
 #include "orbis/factory/detail/bindings/bindings.hpp"
 
+#include <string>
 #include <type_traits>
 
 namespace orbis::factory {
@@ -12,16 +15,21 @@ namespace orbis::factory {
 /// destroying the host object deletes the native one; with 0, whoever created the native object owns it.
 template <class T, int N>
 class HandleClassInfo : public OrbisFactoryClassInfo {
-    static_assert(N == 0 || N == 1, "HandleClassInfo<T, N>: N is 1 to delete native objects with their host objects, "
-                                    "or 0 to leave them alone.");
-    static_assert(N == 0 || std::has_virtual_destructor_v<RootClass<T>>,
-                  "HandleClassInfo<T, 1> deletes native objects through T: give T a virtual destructor, or use "
-                  "HandleClassInfo<T, 0> and delete them yourself.");
-    static_assert(!ValueClass<T>, "Objects of a value class live inside their host objects: publish it with "
-                                  "NonHandleClassInfo, or leave ValuePolicy out of its HostClass.");
+    static consteval detail::Refusal refusal()
+    {
+        if (N != 0 && N != 1)
+            return detail::Refusal::HandleOrNot;
+        if (N == 1 && !std::has_virtual_destructor_v<RootClass<T>>)
+            return detail::Refusal::NotVirtuallyDestructible;
+        return ValueClass<T> ? detail::Refusal::ValueAsHandle : detail::Refusal::None;
+    }
 
 public:
-    using OrbisFactoryClassInfo::OrbisFactoryClassInfo;
+    HandleClassInfo(std::string const& name, std::string const& description) : OrbisFactoryClassInfo(name, description)
+    {
+        if constexpr (refusal() != detail::Refusal::None)
+            detail::refuse<refusal(), T>();
+    }
 
     /// Returns null: the native object is bound later.
     void* createInstanceData() override { return nullptr; }

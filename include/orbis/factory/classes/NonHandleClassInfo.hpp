@@ -1,10 +1,13 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp" // first: see there
+
 #include "orbis/factory/classes/HostClass.hpp"
 #include "orbis/factory/classes/OrbisFactoryClassInfo.hpp"
 #include "orbis/factory/ownership/CopyableSupport.hpp"
 
 #include <memory>
+#include <string>
 #include <type_traits>
 
 namespace orbis::factory {
@@ -12,21 +15,33 @@ namespace orbis::factory {
 /// Class info of a value class: each host object owns a native object of type `T`. `U` is `T` itself.
 template <class T, class U = T>
 class NonHandleClassInfo : public OrbisFactoryClassInfo {
-    static_assert(std::is_same_v<T, U>, "NonHandleClassInfo<T, U>: U is T itself.");
-    static_assert(std::is_default_constructible_v<T>, "Host objects of a value class begin with a default-made native "
-                                                      "object: give the class a public default constructor.");
-    static_assert(!PublishedClass<T> || ValueClass<T>, "A class published with NonHandleClassInfo crosses as a value: "
-                                                       "say `using Policy = ValuePolicy` in its HostClass.");
+    static consteval detail::Refusal refusal()
+    {
+        if (!std::is_same_v<T, U>)
+            return detail::Refusal::OtherValue;
+        if (!std::is_default_constructible_v<T>)
+            return detail::Refusal::NotDefaultConstructible;
+        return !PublishedClass<T> || ValueClass<T> ? detail::Refusal::None : detail::Refusal::HandleAsValue;
+    }
 
 public:
-    using OrbisFactoryClassInfo::OrbisFactoryClassInfo;
+    NonHandleClassInfo(std::string const& name, std::string const& description)
+        : OrbisFactoryClassInfo(name, description)
+    {
+        if constexpr (refusal() != detail::Refusal::None)
+            detail::refuse<refusal(), T>();
+    }
 
     /// Returns a new native object, which is in the unconstructed set until it receives its value.
     void* createInstanceData() override
     {
-        auto created = std::make_unique<T>();
-        CopyableSupport::addToUnconstructedSet(created.get());
-        return created.release();
+        if constexpr (std::is_default_constructible_v<T>) {
+            auto created = std::make_unique<T>();
+            CopyableSupport::addToUnconstructedSet(created.get());
+            return created.release();
+        } else {
+            return nullptr; // refused
+        }
     }
 
     /// Deletes the native object. Returns whether there was one.

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp" // first: see there
+
 #include "orbis/factory/classes/HandleClassInfo.hpp"
 #include "orbis/factory/detail/bindings/releaseHostKept.hpp"
 #include "orbis/factory/ownership/Shareable.hpp"
 
 #include <concepts>
+#include <string>
 
 namespace orbis::factory {
 
@@ -12,12 +15,13 @@ namespace orbis::factory {
 /// object until it is destroyed.
 template <class T>
 class ShareableHandleClassInfo : public HandleClassInfo<T, 0> {
-    static_assert(std::derived_from<T, full::Shareable>,
-                  "ShareableHandleClassInfo publishes shared classes: derive the class "
-                  "from full::Shareable.");
-
 public:
-    using HandleClassInfo<T, 0>::HandleClassInfo;
+    ShareableHandleClassInfo(std::string const& name, std::string const& description)
+        : HandleClassInfo<T, 0>(name, description)
+    {
+        if constexpr (!std::derived_from<T, full::Shareable>)
+            detail::refuse<detail::Refusal::NoShareableBase, T>();
+    }
 
     /// Removes the binding and releases what the host object holds. Returns whether there was a binding.
     bool destroyInstanceData(COSInterface* object, void* data) override

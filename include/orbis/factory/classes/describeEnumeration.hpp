@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp"
 #include "orbis/factory/classes/EnumerationRecord.hpp"
 #include "orbis/factory/classes/HostEnumeration.hpp"
 
@@ -39,11 +40,16 @@ consteval bool valuesFit()
 }
 
 template <class E>
+consteval Refusal enumerationRefusal()
+{
+    if (!namesAreProper<E>())
+        return Refusal::EnumeratorNames;
+    return valuesFit<E>() ? Refusal::None : Refusal::EnumeratorValues;
+}
+
+template <class E>
 consteval auto enumerationEntries()
 {
-    static_assert(namesAreProper<E>(), "Each enumerator has a name of its own: give every entry of "
-                                       "HostEnumeration<E>::enumerators another one, and none an empty one.");
-    static_assert(valuesFit<E>(), "The values of a published enumeration fit a signed integer of 64 bits.");
     std::array<EnumerationRecord::Entry, std::size(HostEnumeration<E>::enumerators)> entries{};
     for (std::size_t i = 0; i < entries.size(); ++i)
         entries[i] = {HostEnumeration<E>::enumerators[i].name,

@@ -6,21 +6,9 @@ namespace orbis::factory::impl {
 
 /// Reads through a free function `F` that takes a `T*` and returns an `R`, marshaled as a `V`.
 template <class R, class T, class F, class V>
-class AdaptedClassGetter final : public CallableGetter<AdaptedClassGetter<R, T, F, V>, R, V> {
+class AdaptedClassGetter final : public CallableGetter<detail::FunctionOnReader<R, T, F, V>> {
 public:
-    static constexpr bool needsObject = true;
-
-    explicit AdaptedClassGetter(F function, ReleaseRoutine release = nullptr)
-        : CallableGetter<AdaptedClassGetter, R, V>(release),
-          function_(function)
-    {
-    }
-
-    detail::NativeResult<R> read(COSInterface* object) const { return function_(&detail::nativeSelf<T>(object)); }
-    static auto wholeOf(COSInterface* object) { return detail::WholeOfProperty<T>{object}; }
-
-private:
-    F function_;
+    using CallableGetter<detail::FunctionOnReader<R, T, F, V>>::CallableGetter;
 };
 
 } // namespace orbis::factory::impl

@@ -1,33 +1,14 @@
 #pragma once
 
-#include "orbis/factory/descriptors/Setter.hpp"
-#include "orbis/factory/marshaling/ObjectTransfer.hpp"
-#include "orbis/factory/marshaling/PropertyValue.hpp"
-#include "orbis/factory/marshaling/objectResult.hpp"
+#include "orbis/factory/descriptors/CallableSetter.hpp"
 
 namespace orbis::factory::impl {
 
 /// Writes through a free function `F` that takes a `T*` and a value of type `A`.
 template <class A, class T, class F>
-class AdaptedClassSetter final : public Setter {
+class AdaptedClassSetter final : public CallableSetter<detail::FunctionOnWriter<A, T, F>> {
 public:
-    static constexpr bool needsObject = true;
-
-    explicit AdaptedClassSetter(F function) : function_(function) {}
-
-    void setValue(COSInterface* object, COSValue value) const override
-    {
-        T& self = detail::nativeSelf<T>(object);
-        detail::Argument<A> argument(value);
-        detail::Transfer<A> transfer(detail::WholeOfProperty<T>{object}, &value);
-        [[maybe_unused]] auto const completion = transfer.completion();
-        function_(&self, argument.get());
-    }
-
-    char const* dataTypeName() const override { return detail::dataTypeText<A>(); }
-
-private:
-    F function_;
+    using CallableSetter<detail::FunctionOnWriter<A, T, F>>::CallableSetter;
 };
 
 } // namespace orbis::factory::impl

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <cstring>
 #include <type_traits>
 
@@ -15,8 +14,8 @@ public:
         requires std::is_pointer_v<F> || std::is_member_pointer_v<F>
     Callable(F function)
     {
-        static_assert(sizeof(F) <= sizeof(bytes_), "A pointer takes two words at most.");
-        std::memcpy(bytes_, &function, sizeof(F));
+        static_assert(sizeof(F) <= sizeof(words_), "A pointer takes two words at most.");
+        std::memcpy(words_, &function, sizeof(F));
     }
 
     /// Returns the pointer. `F` must be the type it was constructed from, or a class whose only member is such a
@@ -25,12 +24,12 @@ public:
     F as() const
     {
         F function;
-        std::memcpy(&function, bytes_, sizeof(F));
+        std::memcpy(&function, words_, sizeof(F));
         return function;
     }
 
 private:
-    alignas(void*) std::byte bytes_[2 * sizeof(void*)] = {};
+    void* words_[2] = {};
 };
 
 } // namespace orbis::factory::impl

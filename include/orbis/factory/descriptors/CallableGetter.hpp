@@ -2,32 +2,25 @@
 
 #include "orbis/factory/descriptors/Getter.hpp"
 #include "orbis/factory/descriptors/ReleaseRoutine.hpp"
-#include "orbis/factory/marshaling/PropertyValue.hpp"
-#include "orbis/factory/marshaling/ReferredObjects.hpp"
-#include "orbis/factory/marshaling/objectResult.hpp"
-
-#include <type_traits>
+#include "orbis/factory/descriptors/readers.hpp"
 
 namespace orbis::factory::impl {
 
-/// Common base of the getters. `Derived` provides `read(object)`, which returns the native value of a result `R`, and
-/// `wholeOf(object)`, of which it may be a part; `V` is the type as which it is marshaled.
-template <class Derived, class R, class V>
+/// Common base of the getters: reads as `Reader` does.
+template <class Reader>
 class CallableGetter : public Getter {
 public:
-    explicit CallableGetter(ReleaseRoutine release) : release_(release) {}
+    static constexpr bool needsObject = Reader::needsObject;
 
-    COSValue getValue(COSInterface* object) const override
+    explicit CallableGetter(typename Reader::Pointer getter, ReleaseRoutine release = nullptr)
+        : getter_(getter),
+          release_(release)
     {
-        using Value = std::conditional_t<std::is_reference_v<R>, V const&, V>;
-        auto const read = [&]() -> detail::NativeResult<R> { return derived().read(object); };
-        if constexpr (detail::ObjectResult<R>)
-            return COSValue(detail::objectResult<R>(derived().wholeOf(object), read));
-        else
-            return detail::toValue<Value>(read);
     }
 
-    char const* dataTypeName() const override { return detail::dataTypeText<V>(); }
+    COSValue getValue(COSInterface* object) const override { return detail::readValue<Reader>(getter_, object); }
+
+    char const* dataTypeName() const override { return detail::dataTypeText<typename Reader::Value>(); }
 
     void releaseValue(COSInterface* object, COSValue value) const override
     {
@@ -37,17 +30,16 @@ public:
 
     Enumeration<COSInterface*> getInterfaces(COSInterface* object) const override
     {
-        if constexpr (detail::ReferredObjects<V>::any)
-            return detail::ReferredObjects<V>::of(derived().read(object));
-        else
-            return {};
+        Enumeration<COSInterface*> found;
+        if constexpr (detail::refersToObjects<Reader>)
+            detail::findInterfaces<Reader>(getter_, object, found);
+        return found;
     }
 
-    bool canContainInterfaces() const override { return detail::ReferredObjects<V>::any; }
+    bool canContainInterfaces() const override { return detail::refersToObjects<Reader>; }
 
 private:
-    Derived const& derived() const { return static_cast<Derived const&>(*this); }
-
+    typename Reader::Pointer getter_;
     ReleaseRoutine release_;
 };
 

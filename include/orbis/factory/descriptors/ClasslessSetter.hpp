@@ -1,28 +1,14 @@
 #pragma once
 
-#include "orbis/factory/descriptors/Setter.hpp"
-#include "orbis/factory/marshaling/PropertyValue.hpp"
+#include "orbis/factory/descriptors/CallableSetter.hpp"
 
 namespace orbis::factory::impl {
 
 /// Writes a static property through a function `F` that takes a value of type `A`.
 template <class A, class F>
-class ClasslessSetter final : public Setter {
+class ClasslessSetter final : public CallableSetter<detail::FunctionWriter<A, F>> {
 public:
-    static constexpr bool needsObject = false;
-
-    explicit ClasslessSetter(F function) : function_(function) {}
-
-    void setValue(COSInterface*, COSValue value) const override
-    {
-        detail::Argument<A> argument(value);
-        function_(argument.get());
-    }
-
-    char const* dataTypeName() const override { return detail::dataTypeText<A>(); }
-
-private:
-    F function_;
+    using CallableSetter<detail::FunctionWriter<A, F>>::CallableSetter;
 };
 
 } // namespace orbis::factory::impl

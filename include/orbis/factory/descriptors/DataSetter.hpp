@@ -1,28 +1,14 @@
 #pragma once
 
-#include "orbis/factory/descriptors/Setter.hpp"
-#include "orbis/factory/marshaling/PropertyValue.hpp"
+#include "orbis/factory/descriptors/CallableSetter.hpp"
 
 namespace orbis::factory::impl {
 
 /// Writes static data of type `A`; ignores the object.
 template <class A>
-class DataSetter final : public Setter {
+class DataSetter final : public CallableSetter<detail::DataWriter<A>> {
 public:
-    static constexpr bool needsObject = false;
-
-    explicit DataSetter(A* data) : data_(data) {}
-
-    void setValue(COSInterface*, COSValue value) const override
-    {
-        detail::Argument<A> argument(value);
-        *data_ = argument.get();
-    }
-
-    char const* dataTypeName() const override { return detail::dataTypeText<A>(); }
-
-private:
-    A* data_;
+    using CallableSetter<detail::DataWriter<A>>::CallableSetter;
 };
 
 } // namespace orbis::factory::impl

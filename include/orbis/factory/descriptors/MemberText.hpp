@@ -5,22 +5,22 @@
 
 namespace orbis::factory {
 
-/// A text for the users of a member, a literal; attributes may stand in its place.
+/// A text for the users of a member, a literal, and the member's attributes, which may stand in its place. Passed to
+/// every member that is described, so it is as small as it can be.
 template <class Attributes>
-struct MemberText {
+class MemberText {
+public:
     MemberText() = default;
-    MemberText(char const* given) : text(given) {}
-    MemberText(Attributes given) : attributes(given) {}
+    MemberText(char const* given) : text_(given) {}
+    ORBIS_FACTORY_API MemberText(Attributes const& given);
+    ORBIS_FACTORY_API MemberText operator+(Attributes const& more) const;
 
-    MemberText operator+(Attributes const& more) const
-    {
-        MemberText sum = *this;
-        sum.attributes += more;
-        return sum;
-    }
+    char const* text() const { return text_; }
+    ORBIS_FACTORY_API Attributes attributes() const;
 
-    char const* text = "";
-    Attributes attributes;
+private:
+    char const* text_ = "";
+    unsigned long long attributes_ = 0; ///< a whole word, so that no padding must be cleared to pass it
 };
 
 using MethodText = MemberText<MethodAttributes>;

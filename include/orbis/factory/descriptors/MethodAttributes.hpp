@@ -6,6 +6,9 @@
 
 namespace orbis::factory {
 
+template <class Attributes>
+class MemberText;
+
 /// The attributes of a method or constructor. Combine the named sets with `+` or `|`, and remove with `-`. By default a
 /// member is public, visible and locked, and all other attributes are off.
 class ORBIS_FACTORY_API MethodAttributes {
@@ -63,6 +66,8 @@ public:
     MemberAccess getMemberAccess() const;
 
 private:
+    friend class MemberText<MethodAttributes>;
+
     explicit MethodAttributes(unsigned int bits);
 
     unsigned int bits_;

@@ -6,6 +6,9 @@
 
 namespace orbis::factory {
 
+template <class Attributes>
+class MemberText;
+
 /// The attributes of a property. Combine the named sets with `+` or `|`, and remove with `-`. By default a property is
 /// visible and public for reading and writing, and all other attributes are off.
 class ORBIS_FACTORY_API PropertyAttributes {
@@ -99,6 +102,8 @@ public:
     MemberAccess getMemberSetAccess() const;
 
 private:
+    friend class MemberText<PropertyAttributes>;
+
     explicit PropertyAttributes(int bits);
 
     int bits_;

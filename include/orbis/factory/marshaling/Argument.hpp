@@ -2,6 +2,7 @@
 
 #include "orbis/factory/detail/arrays/NewArray.hpp"
 #include "orbis/factory/detail/arrays/PassedArray.hpp"
+#include "orbis/factory/detail/arrays/notConvertible.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
 #include "orbis/COSValue.hpp"
@@ -36,7 +37,7 @@ public:
     /// a holder, what its `value()` returns.
     decltype(auto) get()
     {
-        if constexpr (std::same_as<PolicyOf<T>, NamedObjectPolicy>)
+        if constexpr (PassedAsObject<T>)
             return passObject();
         else if constexpr (!isHolder)
             return pass(held_);
@@ -82,6 +83,25 @@ class Arguments;
 template <std::size_t Index, class T>
 struct ArgumentAt : Argument<T> {
     using Argument<T>::Argument;
+};
+
+template <std::size_t Index, NamesInput T>
+struct ArgumentAt<Index, T> : Argument<T> {
+    explicit ArgumentAt(COSValue const& slot)
+    try : Argument
+        <T>(slot) {}
+    catch (...) {
+        rethrowAtInput(Index);
+    }
+
+    decltype(auto) get()
+    {
+        try {
+            return Argument<T>::get();
+        } catch (...) { // of objects that are taken now
+            rethrowAtInput(Index);
+        }
+    }
 };
 
 template <std::size_t... Index, class... T>

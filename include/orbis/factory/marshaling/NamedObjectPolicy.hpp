@@ -2,11 +2,11 @@
 
 #include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/detail/bindings/NewObject.hpp"
 #include "orbis/factory/detail/objects/namedObjects.hpp"
 #include "orbis/factory/marshaling/Marshaler.hpp"
 
 #include <concepts>
-#include <memory>
 #include <utility>
 
 namespace orbis::factory {
@@ -74,9 +74,8 @@ public:
         requires std::constructible_from<T, V&&>
     static void toHost(V&& value, hvArray** out)
     {
-        auto object = std::make_unique<T>(std::forward<V>(value));
-        *out = detail::announceNamed(detail::namedClassOf<T>(), object.get(), ResultOwner::Host, nullptr);
-        static_cast<void>(object.release());
+        *out =
+            detail::announceNamed(detail::namedClassOf<T>(), new T(std::forward<V>(value)), ResultOwner::Host, nullptr);
     }
 
     template <NamedType T>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orbis/factory/detail/bindings/NewObject.hpp"
 #include "orbis/factory/detail/objects/namedObjects.hpp"
 #include "orbis/factory/marshaling/Argument.hpp"
 
@@ -7,7 +8,6 @@
 #include "orbis/COSValue.hpp"
 
 #include <cstddef>
-#include <memory>
 #include <utility>
 
 namespace orbis::factory {
@@ -49,11 +49,7 @@ using NativeParameter = typename ParameterType<A>::Native;
 
 template <class A>
     requires ParameterType<A>::isKept || ParameterType<A>::isTaken
-struct NativeType<A> : NativeType<NativeParameter<A>> {
-    static_assert(IsNamedObject<NativeParameter<A>> && !std::is_class_v<NativeParameter<A>>,
-                  "A parameter that is kept or taken is a pointer or a reference to an object of a class that a Module "
-                  "publishes.");
-};
+struct NativeType<A> : NativeType<NativeParameter<A>> {};
 
 template <class A>
     requires ParameterType<A>::isKept || ParameterType<A>::isTaken
@@ -98,7 +94,7 @@ public:
 private:
     struct State;
 
-    std::unique_ptr<State> state_;
+    NewObject<State> state_;
 };
 
 /// The transfer of a call with parameters of the types `A`; nothing unless one is kept or taken.

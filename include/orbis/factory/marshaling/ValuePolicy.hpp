@@ -33,8 +33,6 @@ struct InstanceData {
     template <class T>
     static hvArray* announce(T const* value)
     {
-        static_assert(std::is_copy_assignable_v<T>, "Values of this class are handed to the host as copies: make the "
-                                                    "class assignable.");
         COSNameID const name(HostClass<T>::name);
         if (!value)
             return omCreateORBISMatrix(0, 0, name);

@@ -45,27 +45,32 @@ consteval bool takesObjects()
         return false;
 }
 
-/// Returns whether a list that is an argument can have elements of the type; stops compilation with a sentence
-/// otherwise.
+/// Returns why a list that is an argument cannot have elements of the type, or `None`.
 template <class T>
-consteval bool canBeRead()
+consteval Refusal elementArgumentRefusal()
 {
-    constexpr bool ownsMemory = !std::is_reference_v<T> &&
-                                (!isView<T>() || PointsToObject<T>)&&!std::is_same_v<T, char*> &&
-                                !std::is_same_v<T, char16_t*>;
-    static_assert(ownsMemory, "The elements of an argument would refer to memory that is freed before the call: take "
-                              "elements that own theirs (std::string instead of std::string_view).");
-    constexpr bool isCopied = !takesObjects<T>();
-    static_assert(isCopied, "Objects are taken from scripts as a std::unique_ptr, or as a std::vector of those "
-                            "(orbis/factory/types/objectValues.hpp), and in no other list.");
-    return ownsMemory && isCopied;
+    if constexpr (elementRefusal<T>() != Refusal::None)
+        return elementRefusal<T>();
+    else if constexpr (std::is_reference_v<T> || std::is_same_v<T, char*> || std::is_same_v<T, char16_t*> ||
+                       (isView<T>() && !PointsToObject<T>))
+        return Refusal::ElementView;
+    else
+        return takesObjects<T>() ? Refusal::ElementTaken : argumentRefusal<T>();
 }
+
+/// Base of the `MarshalingPolicy` of compound types: what their elements refuse, they do.
+template <class... E>
+struct ElementRefusals {
+    static constexpr bool namesInput = true;
+    static constexpr Refusal refusal = firstRefusal(elementRefusal<E>()...);
+    static constexpr Refusal argumentRefusal = firstRefusal(elementArgumentRefusal<E>()...);
+};
 
 /// Reads elements of type `T`.
 template <class T>
 class ElementReader {
 public:
-    static_assert(canBeRead<T>());
+    static_assert(elementArgumentRefusal<T>() == Refusal::None);
 
     bool isList() const { return detail::isList<T>() || type_.isVector(); }
 
@@ -98,6 +103,18 @@ void readElements(hvArray_tag const* list, Reserve reserve, Append append)
     reserve(elements.size());
     for (std::size_t i = 0; i < elements.size(); ++i)
         atElement(i, [&] { append(reader.read(elements.at(i))); });
+}
+
+/// Returns a vector of the elements of a list.
+template <class Vector>
+Vector readVector(hvArray_tag const* list)
+{
+    using Element = typename Vector::value_type;
+    Vector values;
+    readElements<Element>(
+        list, [&](std::size_t count) { values.reserve(count); },
+        [&](Element&& value) { values.push_back(std::move(value)); });
+    return values;
 }
 
 /// Returns an array, owned by the caller, of a value that is passed to the host as a `T`; null for an empty value.

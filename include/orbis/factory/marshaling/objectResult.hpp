@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/detail/bindings/NewObject.hpp"
 #include "orbis/factory/detail/bindings/bindings.hpp"
 #include "orbis/factory/detail/objects/namedObjects.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
@@ -9,8 +10,8 @@
 #include "orbis/COSValue.hpp"
 #include "orbis/objectArrays.hpp"
 
-#include <memory>
 #include <type_traits>
+#include <typeinfo>
 #include <utility>
 
 /// The results of members that are objects.
@@ -44,8 +45,48 @@ concept StoresNamedObject = IsNamedObject<NativeResult<Result>>;
 template <class T>
 concept HandlePointer = std::is_pointer_v<T> && !IsNamedObject<T> && requires { requires MarshalerOf<T>::isHandle; };
 
+/// Classes whose objects know their shares, of which their host objects get one.
+template <class T>
+concept SharesItself = requires(T const& object) { object.weak_from_this(); };
+
+/// Likewise, and references to such objects.
 template <class Result>
-concept ObjectResult = StoresNamedObject<Result> || HandlePointer<Result>;
+concept StoresHandle = HandlePointer<NativeResult<Result>> ||
+                       (IsHandleObject<NativeResult<Result>> && std::is_reference_v<NativeResult<Result>>);
+
+/// Vectors of raw pointers to objects.
+template <class T>
+inline constexpr bool isObjectVector = false;
+
+template <class Result>
+concept StoresObjects = isObjectVector<std::remove_cvref_t<NativeResult<Result>>>;
+
+template <class Result>
+concept ObjectResult = StoresNamedObject<Result> || StoresHandle<Result> || StoresObjects<Result>;
+
+/// Returns why a result, of which the author may have said who owns it, cannot be published, or `None`.
+template <class Result>
+consteval Refusal storedResultRefusal()
+{
+    using Native = NativeResult<Result>;
+    constexpr bool isOwnedByHost = ResultTraits<Result>::owner == ResultOwner::Host || !std::is_reference_v<Native>;
+    if constexpr (resultRefusal<Native>() != Refusal::None)
+        return resultRefusal<Native>();
+    else if constexpr (!std::is_same_v<Result, Native> &&
+                       (!ObjectResult<Result> ||
+                        (StoresObjects<Result> && ResultTraits<Result>::owner == ResultOwner::Host)))
+        return Refusal::OwnerOfNoObject;
+    else if constexpr (ResultTraits<Result>::owner == ResultOwner::Copy)
+        return CopyConstructible<std::remove_const_t<std::remove_pointer_t<std::remove_cvref_t<Native>>>>
+                   ? Refusal::None
+                   : Refusal::NotCopyable;
+    else if constexpr (StoresNamedObject<Result> && isOwnedByHost &&
+                       !(std::is_pointer_v<Native> && ResultTraits<Result>::owner != ResultOwner::Host))
+        return std::is_destructible_v<std::remove_pointer_t<std::remove_cvref_t<Native>>> ? Refusal::None
+                                                                                          : Refusal::NotDestructible;
+    else
+        return Refusal::None;
+}
 
 /// The object that a member is called on, of which a result may be a part: none.
 struct NoWhole {
@@ -83,20 +124,14 @@ struct WholeOfProperty {
     }
 };
 
-/// Returns a copy of an object, which is exactly of this class; null for null.
+/// Returns a new copy of an object, which is exactly of this class; null for null.
 template <class Class>
-std::unique_ptr<Class const> copyOf(NamedClass const& named, Class const* original)
+Class const* copyOf(NamedClass const& named, Class const* original)
 {
-    constexpr bool canCopy = CopyConstructible<Class>;
-    static_assert(canCopy, "This result cannot be copied: its class has no public copy constructor, or no public "
-                           "destructor, or is abstract.");
-    if constexpr (canCopy) {
-        if (original) {
-            requireExactType(named, original);
-            return std::make_unique<Class const>(*original);
-        }
-    }
-    return nullptr;
+    if (!original)
+        return nullptr;
+    requireExactType(named, original);
+    return new Class(*original);
 }
 
 /// Calls `function` and returns an array, owned by the caller, with the host object of its result. A result by value
@@ -111,25 +146,21 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
     NamedClass const& named = namedClassOf<Class>();
     [[maybe_unused]] auto const address = [&]() -> Class const* {
         if constexpr (std::is_reference_v<Native> && !std::is_pointer_v<std::remove_cvref_t<Native>>)
-            return std::addressof(std::forward<F>(function)());
+            return __builtin_addressof(std::forward<F>(function)());
         else if constexpr (!std::is_class_v<Native>)
             return std::forward<F>(function)();
         else
             return nullptr;
     };
     if constexpr (std::is_class_v<Native> || owner == ResultOwner::Host || owner == ResultOwner::Copy) {
-        static_assert(std::is_destructible_v<Class>, "The host cannot own this result: its class has no public "
-                                                     "destructor. Say borrowed(...) or inside(...) of the function.");
-        std::unique_ptr<Class const> object;
-        if constexpr (std::is_class_v<Native>)
-            object.reset(new Class(std::forward<F>(function)()));
-        else if constexpr (owner == ResultOwner::Copy)
-            object = copyOf<Class>(named, address());
-        else
-            object.reset(address());
-        hvArray_tag* const array = announceNamed(named, object.get(), ResultOwner::Host, nullptr);
-        static_cast<void>(object.release());
-        return array;
+        if constexpr (std::is_class_v<Native>) {
+            return announceNamed(named, new Class(std::forward<F>(function)()), ResultOwner::Host, nullptr);
+        } else if constexpr (owner == ResultOwner::Copy) {
+            return announceNamed(named, copyOf<Class>(named, address()), ResultOwner::Host, nullptr);
+        } else {
+            Class const* const given = address();
+            return announceNamed(named, given, ResultOwner::Host, whole.contains(given) ? whole.host() : nullptr);
+        }
     } else if constexpr (owner == ResultOwner::Whole) {
         return announceNamed(named, address(), owner, whole.host());
     } else {
@@ -137,25 +168,58 @@ hvArray_tag* objectResult(Whole const& whole, F&& function)
     }
 }
 
-/// The same for classes with a `HostClass`. The host becomes responsible for an object that is returned, so one that
-/// cannot be bound is deleted as its class info would, instead of leaked; but what lies inside the object of the member
-/// is never the host's.
-template <HandlePointer Result, class Whole, class F>
+/// The same for classes with a `HostClass`. The host becomes responsible for an object that is returned as a pointer,
+/// unless the author says otherwise, so one that cannot be bound is deleted as its class info would, instead of leaked;
+/// but what lies inside the object of the member is never the host's, and neither is what is returned as a reference.
+template <StoresHandle Result, class Whole, class F>
 hvArray_tag* objectResult(Whole const& whole, F&& function)
 {
-    using Class = std::remove_const_t<std::remove_pointer_t<Result>>;
-    auto* const object = const_cast<Class*>(std::forward<F>(function)());
-    if (whole.contains(object)) [[unlikely]]
+    using Native = NativeResult<Result>;
+    using Class = std::remove_cv_t<std::remove_pointer_t<std::remove_reference_t<Native>>>;
+    constexpr bool isReference = std::is_reference_v<Native>;
+    constexpr bool isSaid = !std::is_same_v<Result, Native>;
+    constexpr ResultOwner owner = isSaid || isReference ? ResultTraits<Result>::owner : ResultOwner::Host;
+    Class const* found = nullptr;
+    if constexpr (isReference)
+        found = std::addressof(std::forward<F>(function)());
+    else
+        found = std::forward<F>(function)();
+    auto* const object = const_cast<Class*>(found);
+    auto const keep = [&](COSInterface* host) {
+        std::type_info const* type = &typeid(Class);
+        if constexpr (std::is_polymorphic_v<Class>)
+            type = &typeid(*object);
+        return announcePart(MarshalerOf<Class*>::boundAddress(object), *type, nativeClassRecord<Class>(), host);
+    };
+    if constexpr (owner != ResultOwner::Host && !SharesItself<Class>) {
+        if (object)
+            return keep(owner == ResultOwner::Whole ? whole.host() : nullptr);
+    } else if (whole.contains(object)) [[unlikely]] {
         if (COSInterface* const host = whole.host())
-            return announcePart(MarshalerOf<Result>::boundAddress(object), HostClass<Class>::name, host);
+            return keep(host);
+    }
     NewArray array;
     try {
-        MarshalerOf<Result>::template toHost<Class>(object, array.place());
+        MarshalerOf<Class*>::template toHost<Class>(object, array.place());
     } catch (...) {
-        discardUnbound(MarshalerOf<Result>::boundAddress(object), HostClass<Class>::name);
+        discardUnbound(MarshalerOf<Class*>::boundAddress(object), HostClass<Class>::name);
         throw;
     }
     return array.release();
+}
+
+/// The same for vectors: each element is a result of its own.
+template <StoresObjects Result, class Whole, class F>
+hvArray_tag* objectResult(Whole const& whole, F&& function)
+{
+    using Vector = std::remove_cvref_t<NativeResult<Result>>;
+    auto const& values = std::forward<F>(function)();
+    NewArray row;
+    if constexpr (ResultTraits<Result>::owner == ResultOwner::Native)
+        MarshalerOf<Vector>::template toHostInside<Vector>(NoWhole(), values, row.place());
+    else
+        MarshalerOf<Vector>::template toHostInside<Vector>(whole, values, row.place());
+    return row.release();
 }
 
 } // namespace orbis::factory::detail

@@ -2,6 +2,7 @@
 
 #include "orbis/factory/detail/arrays/DataTypeName.hpp"
 #include "orbis/factory/detail/objects/namedObjects.hpp"
+#include "orbis/factory/detail/objects/sharedNamedObjects.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 #include "orbis/factory/marshaling/ReferredObjects.hpp"
 
@@ -36,8 +37,8 @@ public:
     template <class Pointer>
     static void toHost(Pointer value, hvArray** out)
     {
-        *out = detail::announceNamed(detail::namedClassOf<Class<Pointer>>(), value.get(), ResultOwner::Host, nullptr);
-        static_cast<void>(value.release());
+        *out =
+            detail::announceNamed(detail::namedClassOf<Class<Pointer>>(), value.release(), ResultOwner::Host, nullptr);
     }
 
     template <class Pointer>
@@ -89,12 +90,14 @@ namespace detail {
 
 /// Whoever gets an object in an owning pointer deletes it as one of this class.
 template <class T>
-consteval bool canBeDeletedAs()
+consteval Refusal owningPointerRefusal()
 {
-    static_assert(!std::is_polymorphic_v<T> || std::is_final_v<T> || std::has_virtual_destructor_v<T>,
-                  "Objects of this class may be of a derived one, and are deleted as this one: give it a virtual "
-                  "destructor, or make it final.");
-    return true;
+    if constexpr (!requires { sizeof(T); })
+        return Refusal::IncompleteClass;
+    else if constexpr (std::is_polymorphic_v<T> && !std::is_final_v<T> && !std::has_virtual_destructor_v<T>)
+        return Refusal::NotDeletable;
+    else
+        return Refusal::None;
 }
 
 } // namespace detail
@@ -102,14 +105,14 @@ consteval bool canBeDeletedAs()
 template <class T>
     requires NamedType<std::remove_const_t<T>>
 struct MarshalingPolicy<std::unique_ptr<T>> {
-    static_assert(detail::canBeDeletedAs<T>());
+    static constexpr detail::Refusal refusal = detail::owningPointerRefusal<T>();
     using Type = UniquePointerPolicy;
 };
 
 template <class T>
     requires NamedType<std::remove_const_t<T>>
 struct MarshalingPolicy<std::shared_ptr<T>> {
-    static_assert(detail::canBeDeletedAs<T>());
+    static constexpr detail::Refusal refusal = detail::owningPointerRefusal<T>();
     using Type = NamedSharedPointerPolicy;
 };
 

@@ -6,6 +6,7 @@
 #include "orbis/factory/detail/bindings/bindings.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 #include "orbis/factory/marshaling/ReferredObjects.hpp"
+#include "orbis/factory/marshaling/objectResult.hpp"
 #include "orbis/factory/ownership/InterfaceListEnumeration.hpp"
 
 #include "orbis/objectArrays.hpp"
@@ -37,10 +38,17 @@ public:
     template <class Vector>
     static void toHost(Vector const& values, hvArray** out)
     {
+        toHostInside<Vector>(detail::NoWhole(), values, out);
+    }
+
+    /// The same for a result of `whole`, inside which the objects may lie.
+    template <class Vector, class Whole>
+    static void toHostInside(Whole const& whole, Vector const& values, hvArray** out)
+    {
         detail::NewArray row(omCreateORBISMatrix(1, values.size(), COSNameID(detail::hostName<Class<Vector>>())));
         try {
             for (std::size_t i = 0; i < values.size(); ++i)
-                setElement(row.get(), i, values[i]);
+                setElement(whole, row.get(), i, values[i]);
         } catch (...) {
             if constexpr (std::is_pointer_v<Element<Vector>>)
                 for (auto const& value : values)
@@ -87,13 +95,36 @@ public:
     }
 
 private:
+    /// Elements are marshaled as single objects are, except that a failure leaves objects whose owner is the host's
+    /// choice where they are.
     template <class Pointer>
-    static void setElement(hvArray_tag* row, std::size_t i, Pointer const& value)
+    static bool isResult([[maybe_unused]] auto const& whole, [[maybe_unused]] Pointer const& value)
+    {
+        if constexpr (detail::StoresHandle<Pointer>)
+            return whole.contains(value) && whole.host();
+        else
+            return detail::StoresNamedObject<Pointer>;
+    }
+
+    template <class Pointer>
+    static hvArray_tag* asResult([[maybe_unused]] auto const& whole, [[maybe_unused]] Pointer const& value)
+    {
+        if constexpr (detail::ObjectResult<Pointer>)
+            return detail::objectResult<Pointer>(whole, [&] { return value; });
+        else
+            return nullptr;
+    }
+
+    template <class Pointer>
+    static void setElement([[maybe_unused]] auto const& whole, hvArray_tag* row, std::size_t i, Pointer const& value)
     {
         if (!value)
             return;
         detail::NewArray scalar;
-        detail::MarshalerOf<Pointer>::template toHost<detail::MarshaledTypeOf<Pointer>>(value, scalar.place());
+        if (isResult<Pointer>(whole, value))
+            *scalar.place() = asResult(whole, value);
+        else
+            detail::MarshalerOf<Pointer>::template toHost<detail::MarshaledTypeOf<Pointer>>(value, scalar.place());
         omSetArrayElement(row, i, omGetArrayElement(scalar.get(), 0));
     }
 
@@ -116,18 +147,21 @@ struct MarshalingPolicy<std::vector<T*>> {
 
 namespace detail {
 
+template <class T>
+inline constexpr bool isObjectVector<std::vector<T*>> = true;
+
 /// Specialisation base for vectors, which refer to the object of each element.
 template <class Vector>
 struct ReferredByElements {
     static constexpr bool any = true;
 
-    static Enumeration<COSInterface*> of(Vector const& values)
+    static void find(Vector const& values, Enumeration<COSInterface*>& found)
     {
         std::vector<void const*> addresses;
         addresses.reserve(values.size());
         for (auto const& value : values)
             addresses.push_back(boundAddressOf(value));
-        return InterfaceListEnumeration::ofBound(addresses);
+        found = InterfaceListEnumeration::ofBound(addresses);
     }
 };
 

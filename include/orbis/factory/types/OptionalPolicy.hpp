@@ -82,7 +82,8 @@ public:
 
 template <class T>
 struct MarshalingPolicy<std::optional<T>> {
-    static_assert(detail::isMarshalable<T>());
+    static constexpr detail::Refusal refusal = detail::elementRefusal<T>();
+    static constexpr detail::Refusal argumentRefusal = detail::argumentRefusal<T>();
     using Type = OptionalPolicy;
 };
 
@@ -103,9 +104,10 @@ template <class T>
 struct ReferredObjects<std::optional<T>> {
     static constexpr bool any = true;
 
-    static Enumeration<COSInterface*> of(std::optional<T> const& value)
+    static void find(std::optional<T> const& value, Enumeration<COSInterface*>& found)
     {
-        return value ? ReferredObjects<T>::of(*value) : Enumeration<COSInterface*>();
+        if (value)
+            ReferredObjects<T>::find(*value, found);
     }
 };
 

@@ -82,16 +82,16 @@ private:
 template <class T>
     requires PublishedClass<std::remove_const_t<T>>
 struct MarshalingPolicy<boost::shared_ptr<T>> {
-    static_assert(std::derived_from<T, full::Shareable>, "Objects of this class cross in boost::shared_ptr: derive the "
-                                                         "class from full::Shareable.");
+    static constexpr detail::Refusal refusal =
+        std::derived_from<T, full::Shareable> ? detail::Refusal::None : detail::Refusal::NotShareable;
     using Type = SharedPointerPolicy;
 };
 
 template <class T>
     requires PublishedClass<std::remove_const_t<T>>
 struct MarshalingPolicy<std::shared_ptr<T>> {
-    static_assert(std::derived_from<T, full::StdShareable>, "Objects of this class cross in std::shared_ptr: derive "
-                                                            "the class from full::StdShareable.");
+    static constexpr detail::Refusal refusal =
+        std::derived_from<T, full::StdShareable> ? detail::Refusal::None : detail::Refusal::NotStdShareable;
     using Type = SharedPointerPolicy;
 };
 

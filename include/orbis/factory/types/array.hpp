@@ -46,11 +46,11 @@ public:
 template <COSScalar T, std::size_t N>
 struct MarshalingPolicy<std::array<T, N>> {
     using Type = NumericArrayPolicy;
+    static constexpr bool namesInput = true;
 };
 
 template <class T, std::size_t N>
-struct MarshalingPolicy<std::array<T, N>> {
-    static_assert(detail::isMarshalable<T>());
+struct MarshalingPolicy<std::array<T, N>> : detail::ElementRefusals<T> {
     using Type = TuplePolicy;
 };
 

@@ -82,11 +82,13 @@ private:
 template <class Rep, class Period>
 struct MarshalingPolicy<std::chrono::duration<Rep, Period>> {
     using Type = ChronoPolicy;
+    static constexpr bool namesInput = true;
 };
 
 template <class D>
 struct MarshalingPolicy<std::chrono::time_point<std::chrono::system_clock, D>> {
     using Type = ChronoPolicy;
+    static constexpr bool namesInput = true;
 };
 
 } // namespace orbis::factory

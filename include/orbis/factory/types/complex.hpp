@@ -91,17 +91,20 @@ public:
 template <>
 struct MarshalingPolicy<std::complex<float>> {
     using Type = ComplexPolicy;
+    static constexpr bool namesInput = true;
 };
 
 template <>
 struct MarshalingPolicy<std::complex<double>> {
     using Type = ComplexPolicy;
+    static constexpr bool namesInput = true;
 };
 
 template <class R>
     requires requires { typename MarshalingPolicy<std::complex<R>>::Type; }
 struct MarshalingPolicy<std::vector<std::complex<R>>> {
     using Type = ComplexPolicy;
+    static constexpr bool namesInput = true;
 };
 
 } // namespace orbis::factory

@@ -145,13 +145,6 @@ public:
         requires(isReference<E>)
     static Referring<E> fromHost(hvArray_tag const* in)
     {
-        constexpr bool isConstant = std::is_const_v<typename detail::EigenPlain<E>::Type>;
-        static_assert(isConstant, "An Eigen::Map or Eigen::Ref of a parameter would write to the script's array: make "
-                                  "its matrix const, and return what the function has to hand back.");
-        constexpr bool isLaidOutAlike = std::is_constructible_v<E, detail::EigenHostMap<Plain<E>> const&>;
-        static_assert(isLaidOutAlike,
-                      "This Eigen::Map has another layout than the host's arrays, which are contiguous, "
-                      "column by column and not aligned: take an Eigen::Ref.");
         return Referring<E>(in);
     }
 
@@ -168,24 +161,45 @@ public:
     }
 };
 
+namespace detail {
+
+/// Why a parameter cannot refer to the host's elements.
+template <class E>
+consteval Refusal eigenArgumentRefusal()
+{
+    using Plain = typename EigenPlain<E>::Type;
+    if (!std::is_const_v<Plain>)
+        return Refusal::WritableMap;
+    bool const isLaidOutAlike = std::is_constructible_v<E, EigenHostMap<std::remove_const_t<Plain>> const&>;
+    return isLaidOutAlike ? Refusal::None : Refusal::OtherLayout;
+}
+
+} // namespace detail
+
 template <COSScalar T, int R, int C, int O, int MR, int MC>
 struct MarshalingPolicy<Eigen::Matrix<T, R, C, O, MR, MC>> {
     using Type = EigenPolicy;
+    static constexpr bool namesInput = true;
 };
 
 template <COSScalar T, int R, int C, int O, int MR, int MC>
 struct MarshalingPolicy<Eigen::Array<T, R, C, O, MR, MC>> {
     using Type = EigenPolicy;
+    static constexpr bool namesInput = true;
 };
 
 template <class P, int O, class S>
 struct MarshalingPolicy<Eigen::Map<P, O, S>> {
     using Type = EigenPolicy;
+    static constexpr bool namesInput = true;
+    static constexpr detail::Refusal argumentRefusal = detail::eigenArgumentRefusal<Eigen::Map<P, O, S>>();
 };
 
 template <class P, int O, class S>
 struct MarshalingPolicy<Eigen::Ref<P, O, S>> {
     using Type = EigenPolicy;
+    static constexpr bool namesInput = true;
+    static constexpr detail::Refusal argumentRefusal = detail::eigenArgumentRefusal<Eigen::Ref<P, O, S>>();
 };
 
 } // namespace orbis::factory

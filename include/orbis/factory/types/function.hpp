@@ -62,17 +62,14 @@ consteval bool ownsWhatItHolds()
         return argumentsOwn<T>;
 }
 
-/// Returns whether a function can return the type; stops compilation with a sentence otherwise.
+/// Returns why a function cannot return the type, or `None`.
 template <class R>
-consteval bool isFunctionResult()
+consteval Refusal functionResultRefusal()
 {
-    static_assert(ownsWhatItHolds<R>(), "A function that scripts implement cannot return a pointer, a reference or a "
-                                        "view, as nothing keeps alive what it refers to: return a value or a shared "
-                                        "pointer.");
-    if constexpr (std::is_void_v<R> || !ownsWhatItHolds<R>())
-        return true;
+    if constexpr (!ownsWhatItHolds<R>())
+        return Refusal::UnownedFunctionResult;
     else
-        return isMarshalable<R>();
+        return resultRefusal<R>();
 }
 
 /// References to objects of native code are lent to the script.
@@ -203,8 +200,8 @@ private:
 /// The name of a data type as the result of a function, in parentheses where it would be read as a part of the whole.
 inline std::string functionResultText(std::string_view type)
 {
-    bool const isCompound = type.find(" -> ") != type.npos || type.ends_with(" or empty");
-    return isCompound ? '(' + std::string(type) + ')' : std::string(type);
+    bool const namesInput = type.find(" -> ") != type.npos || type.ends_with(" or empty");
+    return namesInput ? '(' + std::string(type) + ')' : std::string(type);
 }
 
 template <class Function>
@@ -258,8 +255,8 @@ public:
 
 template <class R, class... A>
 struct MarshalingPolicy<std::function<R(A...)>> {
-    static_assert((true && ... && detail::isMarshalable<A>()));
-    static_assert(detail::isFunctionResult<R>());
+    static constexpr detail::Refusal refusal =
+        detail::firstRefusal(detail::marshalingRefusal<A>()..., detail::functionResultRefusal<R>());
     using Type = FunctionPolicy;
 };
 

@@ -131,25 +131,19 @@ public:
 namespace detail {
 
 template <class K, class V>
-consteval bool areMappable()
-{
-    static_assert(MapKey<K>,
-                  "The keys of a map that crosses are texts or numbers: std::string, fl::ustring, integers or "
-                  "floating-point numbers.");
-    return MapKey<K> && isMarshalable<V>();
-}
+struct MapRefusals : ElementRefusals<V> {
+    static constexpr Refusal refusal = MapKey<K> ? ElementRefusals<V>::refusal : Refusal::MapKey;
+};
 
 } // namespace detail
 
 template <class K, class V, class... Rest>
-struct MarshalingPolicy<std::map<K, V, Rest...>> {
-    static_assert(detail::areMappable<K, V>());
+struct MarshalingPolicy<std::map<K, V, Rest...>> : detail::MapRefusals<K, V> {
     using Type = MapPolicy;
 };
 
 template <class K, class V, class... Rest>
-struct MarshalingPolicy<std::unordered_map<K, V, Rest...>> {
-    static_assert(detail::areMappable<K, V>());
+struct MarshalingPolicy<std::unordered_map<K, V, Rest...>> : detail::MapRefusals<K, V> {
     using Type = MapPolicy;
 };
 

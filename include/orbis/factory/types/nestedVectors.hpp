@@ -39,11 +39,7 @@ public:
     template <class Vector>
     static Vector fromHost(hvArray_tag const* in)
     {
-        Vector values;
-        detail::readElements<Element<Vector>>(
-            in, [&](std::size_t count) { values.reserve(count); },
-            [&](Element<Vector>&& value) { values.push_back(std::move(value)); });
-        return values;
+        return detail::readVector<Vector>(in);
     }
 
     template <class Vector>
@@ -76,8 +72,7 @@ concept HasVectorPolicy =
 
 template <class E>
     requires(!detail::HasVectorPolicy<E>)
-struct MarshalingPolicy<std::vector<E>> {
-    static_assert(detail::isMarshalable<E>());
+struct MarshalingPolicy<std::vector<E>> : detail::ElementRefusals<E> {
     using Type = ListPolicy;
 };
 

@@ -105,11 +105,7 @@ public:
         requires(isOfValues<Vector>)
     static Vector fromHost(hvArray_tag const* in)
     {
-        Vector values;
-        detail::readElements<Element<Vector>>(
-            in, [&](std::size_t count) { values.reserve(count); },
-            [&](Element<Vector>&& value) { values.push_back(std::move(value)); });
-        return values;
+        return detail::readVector<Vector>(in);
     }
 
     template <class Vector>
@@ -131,19 +127,22 @@ template <class T>
     requires detail::IsObjectValue<T>
 struct MarshalingPolicy<std::vector<T>> {
     using Type = ObjectValuesPolicy;
+    static constexpr bool namesInput = true;
 };
 
 template <class T>
     requires NamedType<std::remove_const_t<T>>
 struct MarshalingPolicy<std::vector<std::unique_ptr<T>>> {
-    static_assert(detail::isMarshalable<std::unique_ptr<T>>());
+    static constexpr detail::Refusal refusal = detail::marshalingRefusal<std::unique_ptr<T>>();
+    static constexpr bool namesInput = true;
     using Type = ObjectValuesPolicy;
 };
 
 template <class T>
     requires NamedType<std::remove_const_t<T>>
 struct MarshalingPolicy<std::vector<std::shared_ptr<T>>> {
-    static_assert(detail::isMarshalable<std::shared_ptr<T>>());
+    static constexpr detail::Refusal refusal = detail::marshalingRefusal<std::shared_ptr<T>>();
+    static constexpr bool namesInput = true;
     using Type = ObjectValuesPolicy;
 };
 

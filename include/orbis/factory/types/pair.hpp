@@ -86,14 +86,12 @@ private:
 };
 
 template <class A, class B>
-struct MarshalingPolicy<std::pair<A, B>> {
-    static_assert(detail::isMarshalable<A>() && detail::isMarshalable<B>());
+struct MarshalingPolicy<std::pair<A, B>> : detail::ElementRefusals<A, B> {
     using Type = TuplePolicy;
 };
 
 template <class... T>
-struct MarshalingPolicy<std::tuple<T...>> {
-    static_assert((detail::isMarshalable<T>() && ... && true));
+struct MarshalingPolicy<std::tuple<T...>> : detail::ElementRefusals<T...> {
     using Type = TuplePolicy;
 };
 

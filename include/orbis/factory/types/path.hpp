@@ -53,6 +53,7 @@ public:
 template <>
 struct MarshalingPolicy<std::filesystem::path> {
     using Type = PathPolicy;
+    static constexpr bool namesInput = true;
 };
 
 } // namespace orbis::factory

@@ -97,14 +97,12 @@ public:
 
 template <class E, class... Rest>
     requires(!HasHostDataType<std::set<E, Rest...>>)
-struct MarshalingPolicy<std::set<E, Rest...>> {
-    static_assert(detail::isMarshalable<E>());
+struct MarshalingPolicy<std::set<E, Rest...>> : detail::ElementRefusals<E> {
     using Type = SetPolicy;
 };
 
 template <class E, class... Rest>
-struct MarshalingPolicy<std::unordered_set<E, Rest...>> {
-    static_assert(detail::isMarshalable<E>());
+struct MarshalingPolicy<std::unordered_set<E, Rest...>> : detail::ElementRefusals<E> {
     using Type = SetPolicy;
 };
 

@@ -13,4 +13,4 @@
 #include "orbis/factory/types/StringPolicy.hpp"
 #include "orbis/factory/types/UnicodeCharPtrPolicy.hpp"
 #include "orbis/factory/types/UnicodeStringPolicy.hpp"
-#include "orbis/factory/types/unicodeStringContainers.hpp"
+#include "orbis/factory/types/unicodeStringVector.hpp"

@@ -1,28 +1,13 @@
 #pragma once
 
-#include "orbis/factory/base/export.hpp"
-#include "orbis/factory/types/DataTypePolicy.hpp"
-
-#include "libkwi18n/libkwi18n.hpp"
+#include "orbis/factory/types/unicodeStringVector.hpp"
 
 #include <set>
-#include <vector>
 
 namespace orbis::factory {
 
-/// Vectors and ordered sets of UTF-16 strings. Passed to the host as a column of cells, in the container's order; each
-/// text ends at its first zero. From the host they take a string array, whose missing elements are omitted, or a cell
-/// array of character arrays; embedded zeros are kept. Null converts to an empty container.
-///
-/// `fromHost` throws "orbis_factory:orbis_factory:must_be_cell_array" for other arrays, ":must_be_string" for a cell
-/// that is empty or of another class, and ":no_duplicates" when a set is passed duplicate texts.
-template <>
-struct ORBIS_FACTORY_API HostDataType<std::vector<fl::ustring>> {
-    static constexpr char const* name = "OrbisFactoryString vector";
-    static hvArray* toHost(std::vector<fl::ustring> const& strings);
-    static std::vector<fl::ustring> fromHost(hvArray* value);
-};
-
+/// Ordered sets of UTF-16 strings: as their vectors, in the set's order. `fromHost` also throws
+/// "orbis_factory:orbis_factory:no_duplicates" when the same text is passed twice.
 template <>
 struct ORBIS_FACTORY_API HostDataType<std::set<fl::ustring>> {
     static constexpr char const* name = "OrbisFactoryString vector";

@@ -107,8 +107,7 @@ private:
 };
 
 template <class... T>
-struct MarshalingPolicy<std::variant<T...>> {
-    static_assert((detail::isMarshalable<T>() && ...));
+struct MarshalingPolicy<std::variant<T...>> : detail::ElementRefusals<T...> {
     using Type = VariantPolicy;
 };
 

@@ -68,6 +68,7 @@ public:
 template <>
 struct MarshalingPolicy<std::wstring> {
     using Type = WideStringPolicy;
+    static constexpr bool namesInput = true;
 };
 
 } // namespace orbis::factory

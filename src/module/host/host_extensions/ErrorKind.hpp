@@ -3,7 +3,7 @@
 #include "libhv/hvArray.hpp"
 #include "orbis_host_export.hpp"
 
-#include <functional>
+#include <cstdint>
 #include <string>
 #include <typeinfo>
 #include <vector>
@@ -15,7 +15,10 @@ struct ErrorField {
     std::string name;
 
     /// Inside a handler of the exception: returns a new array, owned by the caller; null for no value.
-    std::function<hvArray_tag*()> read;
+    hvArray_tag* (*read)(ErrorField const& field);
+
+    /// For `read`: the getter, of a type that is known there.
+    std::uintptr_t getter[2];
 };
 
 /// What scripts learn of native exceptions of one type.
@@ -25,9 +28,12 @@ struct ErrorKind {
 
     /// Inside a handler: stores the text of the current exception and returns true if that is of this type or derived
     /// from it. Throws `std::bad_alloc` only.
-    std::function<bool(std::string& text)> describe;
+    bool (*describe)(ErrorKind const& kind, std::string& text);
 
-    std::vector<ErrorField> fields = {}; ///< a field that cannot be read is left out
+    /// For `describe`: the function that gives the text, of a type that is known there.
+    void (*text)();
+
+    std::vector<ErrorField> fields = {}; ///< one that cannot be read is left out
 };
 
 /// Adds a kind to those of the current virtual machine, and replaces the earlier one of its type. An exception is of

@@ -18,4 +18,8 @@ ORBIS_FACTORY_API std::string reasonOfCurrentException();
 [[noreturn]] ORBIS_FACTORY_API void rethrowAt(std::string const& place);
 [[noreturn]] ORBIS_FACTORY_API void rethrowAtElement(std::size_t index);
 
+/// Inside a handler: throws the `not_convertible` error with the text of the exception being handled, for an input, so
+/// that the error of a member can name it. A type whose `MarshalingPolicy` has `namesInput` calls this.
+[[noreturn]] ORBIS_FACTORY_API void rethrowAtInput(std::size_t index);
+
 } // namespace orbis::factory::detail

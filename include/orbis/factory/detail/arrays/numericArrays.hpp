@@ -1,17 +1,18 @@
 #pragma once
 
-#include "orbis/factory/detail/arrays/NewArray.hpp"
+#include "orbis/factory/base/export.hpp"
 
 #include "host_extensions/host_extensions.hpp"
 #include "libhv/hvArray.hpp"
 #include "orbis/COSValue.hpp"
 
-#include <algorithm>
 #include <span>
-#include <stdexcept>
 #include <vector>
 
 namespace orbis::factory::detail {
+
+/// Throws the error of an array of another class, which the host should have refused.
+[[noreturn]] ORBIS_FACTORY_API void throwOtherClass();
 
 /// Returns the elements of an array of the class of `T`, in column order; none for null. They are valid as long as the
 /// array.
@@ -20,8 +21,8 @@ std::span<T const> elementsOf(hvArray_tag const* array)
 {
     if (!array)
         return {};
-    if (array->_get_class_id_non_trivial() != COSValue::classOf<T>()) // the host ignored the signature
-        throw std::invalid_argument("an array of another numeric class was passed");
+    if (array->_get_class_id_non_trivial() != COSValue::classOf<T>())
+        throwOtherClass();
     return {static_cast<T const*>(host_extensions::getData(array)), array->get_number_of_elements()};
 }
 
@@ -33,11 +34,6 @@ hvArray* createRow(std::span<T const> values)
 }
 
 /// `std::vector<bool>` is packed, so its values are written one by one.
-inline hvArray* createRow(std::vector<bool> const& values)
-{
-    NewArray row(host_extensions::createMatrix(1, values.size(), hvLOGICAL_CLASS));
-    std::copy(values.begin(), values.end(), static_cast<bool*>(host_extensions::getWritableData(row.get())));
-    return row.release();
-}
+ORBIS_FACTORY_API hvArray* createRow(std::vector<bool> const& values);
 
 } // namespace orbis::factory::detail

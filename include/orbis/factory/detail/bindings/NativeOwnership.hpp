@@ -1,8 +1,9 @@
 #pragma once
 
+#include "orbis/factory/detail/bindings/NewObject.hpp"
+
 #include "libhv/hvArray.hpp"
 
-#include <memory>
 #include <utility>
 
 namespace orbis::factory::detail {
@@ -13,14 +14,14 @@ template <class T>
 struct NativeOwnership {
     /// Creates an object. The returned pointer owns it.
     template <class... A>
-    static std::unique_ptr<T> make(A&&... arguments)
+    static NewObject<T> make(A&&... arguments)
     {
-        return std::make_unique<T>(std::forward<A>(arguments)...);
+        return NewObject<T>(new T(std::forward<A>(arguments)...));
     }
 
     /// Transfers ownership of `object` to the host object in `constructed`, to which it is bound: its class info
     /// deletes it.
-    static void handOver(std::unique_ptr<T> object, hvArray_tag const*) { static_cast<void>(object.release()); }
+    static void handOver(NewObject<T> object, hvArray_tag const*) { object.release(); }
 
     /// Gives the host object in the array, which represents `object`, its share. Here it does nothing: there are no
     /// shares.

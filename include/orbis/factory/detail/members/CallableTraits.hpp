@@ -14,7 +14,12 @@ struct TypeList {
     static constexpr std::size_t size = sizeof...(T);
 };
 
-enum class CallableKind { None, Free, Member };
+enum class CallableKind {
+    None,
+    Free,
+    Member,
+    OnRvalue ///< a member function that cannot be called on an object with a name
+};
 
 /// Properties of a callable: its kind, result and parameters, and the pointer type as which it is stored.
 template <class F>
@@ -55,30 +60,52 @@ struct CallableTraits<R (*)(A...) noexcept> : CallableTraits<R (*)(A...)> {};
 template <class InBase, class InDerived>
 using MemberPointerIn = std::conditional_t<std::is_convertible_v<InBase, InDerived>, InDerived, InBase>;
 
-template <class C, class R, bool IsConst, class... A>
-struct MemberTraits {
-    template <class T>
-    using PointerTo = std::conditional_t<IsConst, R (T::*)(A...) const, R (T::*)(A...)>;
+/// The signature of a member function: its result and parameters, and its type without `noexcept`, so that functions
+/// that differ in that share one routine. None for those that can only be called on rvalues.
+template <class Function>
+struct MemberSignature {
+    static constexpr CallableKind kind = CallableKind::OnRvalue;
+    static constexpr std::size_t arity = 20;
+    using Type = Function;
+};
 
+template <class Function, class R, class... A>
+struct CallableOnObject {
     static constexpr CallableKind kind = CallableKind::Member;
     static constexpr std::size_t arity = sizeof...(A);
     using Result = R;
     using Parameters = TypeList<A...>;
+    using Type = Function;
+    using Pointer = R (*)(A...);
+};
+
+template <class R, class... A>
+struct MemberSignature<R(A...)> : CallableOnObject<R(A...), R, A...> {};
+template <class R, class... A>
+struct MemberSignature<R(A...) const> : CallableOnObject<R(A...) const, R, A...> {};
+template <class R, class... A>
+struct MemberSignature<R(A...)&> : CallableOnObject<R(A...)&, R, A...> {};
+template <class R, class... A>
+struct MemberSignature<R(A...) const&> : CallableOnObject<R(A...) const&, R, A...> {};
+template <class R, class... A>
+struct MemberSignature<R(A...) noexcept> : MemberSignature<R(A...)> {};
+template <class R, class... A>
+struct MemberSignature<R(A...) const noexcept> : MemberSignature<R(A...) const> {};
+template <class R, class... A>
+struct MemberSignature<R(A...) & noexcept> : MemberSignature<R(A...)&> {};
+template <class R, class... A>
+struct MemberSignature<R(A...) const & noexcept> : MemberSignature<R(A...) const&> {};
+
+template <class Function, class C>
+    requires std::is_function_v<Function>
+struct CallableTraits<Function C::*> : MemberSignature<Function> {
     using Class = C;
 
     /// The pointer to this function as a member of a derived class.
     template <class T>
-    using PointerIn = MemberPointerIn<PointerTo<C>, PointerTo<T>>;
+    using PointerIn =
+        MemberPointerIn<typename MemberSignature<Function>::Type C::*, typename MemberSignature<Function>::Type T::*>;
 };
-
-template <class C, class R, class... A>
-struct CallableTraits<R (C::*)(A...)> : MemberTraits<C, R, false, A...> {};
-template <class C, class R, class... A>
-struct CallableTraits<R (C::*)(A...) const> : MemberTraits<C, R, true, A...> {};
-template <class C, class R, class... A>
-struct CallableTraits<R (C::*)(A...) noexcept> : MemberTraits<C, R, false, A...> {};
-template <class C, class R, class... A>
-struct CallableTraits<R (C::*)(A...) const noexcept> : MemberTraits<C, R, true, A...> {};
 
 /// Captureless lambdas are handled as the free function they convert to.
 template <class F>
@@ -89,17 +116,11 @@ struct CallableTraits<F> : CallableTraits<decltype(+std::declval<F>())> {};
 template <class Operator>
 struct CallOperator;
 
-template <class C, class R, class... A>
-struct CallOperator<R (C::*)(A...)> {
-    using Pointer = R (*)(A...);
+template <class C, class Function>
+    requires(MemberSignature<Function>::kind == CallableKind::Member)
+struct CallOperator<Function C::*> {
+    using Pointer = typename MemberSignature<Function>::Pointer;
 };
-
-template <class C, class R, class... A>
-struct CallOperator<R (C::*)(A...) const> : CallOperator<R (C::*)(A...)> {};
-template <class C, class R, class... A>
-struct CallOperator<R (C::*)(A...) noexcept> : CallOperator<R (C::*)(A...)> {};
-template <class C, class R, class... A>
-struct CallOperator<R (C::*)(A...) const noexcept> : CallOperator<R (C::*)(A...)> {};
 
 /// Lambdas that capture, and other classes with one call operator: handled as free functions, which keep the object.
 template <class F>

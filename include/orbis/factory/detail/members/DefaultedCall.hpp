@@ -3,7 +3,6 @@
 #include "orbis/factory/detail/arrays/PassedArray.hpp"
 
 #include <cstddef>
-#include <functional>
 #include <tuple>
 #include <utility>
 
@@ -58,8 +57,24 @@ private:
     {
         constexpr std::size_t first = std::tuple_size_v<decltype(Record::values)> - Omitted;
         return [&]<std::size_t... Index>(std::index_sequence<Index...>) -> decltype(auto) {
-            return std::invoke(function, std::forward<Given>(given)..., std::get<first + Index>(record->values)...);
+            return invoke(function, std::forward<Given>(given)..., std::get<first + Index>(record->values)...);
         }(std::make_index_sequence<Omitted>());
+    }
+
+    /// `std::invoke` without `<functional>`, for functions only.
+    template <class F, class... A>
+    static decltype(auto) invoke(F const& function, A&&... arguments)
+    {
+        if constexpr (std::is_member_function_pointer_v<F>)
+            return invokeMember(function, std::forward<A>(arguments)...);
+        else
+            return function(std::forward<A>(arguments)...);
+    }
+
+    template <class F, class T, class... A>
+    static decltype(auto) invokeMember(F function, T* object, A&&... arguments)
+    {
+        return (object->*function)(std::forward<A>(arguments)...);
     }
 };
 

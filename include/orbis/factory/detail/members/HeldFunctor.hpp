@@ -1,6 +1,7 @@
 #pragma once
 
-#include <memory>
+#include "orbis/factory/detail/members/KeptObject.hpp"
+
 #include <utility>
 
 namespace orbis::factory::detail {
@@ -23,21 +24,21 @@ template <class F>
 struct HeldFunctor {
     using Call = FunctorCall<F>;
 
-    HeldFunctor(F function) : functor(std::make_shared<F>(std::move(function))) {}
+    HeldFunctor(F function) : kept(KeptObject::make(std::move(function))) {}
 
     /// The one that a record keeps.
-    explicit HeldFunctor(std::shared_ptr<void const> const& kept)
-        : functor(std::const_pointer_cast<F>(std::static_pointer_cast<F const>(kept)))
-    {
-    }
+    explicit HeldFunctor(KeptObject const& functor) : kept(functor) {}
+
+    /// What was kept is no constant.
+    F* functor() const { return static_cast<F*>(const_cast<void*>(kept.get())); }
 
     template <class... A>
     decltype(auto) operator()(A&&... arguments) const
     {
-        return (*functor)(std::forward<A>(arguments)...);
+        return (*functor())(std::forward<A>(arguments)...);
     }
 
-    std::shared_ptr<F> functor;
+    KeptObject kept;
 };
 
 } // namespace orbis::factory::detail

@@ -3,19 +3,16 @@
 #include "orbis/factory/descriptors/Callable.hpp"
 #include "orbis/factory/descriptors/Invoker.hpp"
 #include "orbis/factory/descriptors/MethodAttributes.hpp"
+#include "orbis/factory/detail/members/KeptObject.hpp"
+#include "orbis/factory/detail/members/TypeText.hpp"
 
 #include <cstddef>
-#include <memory>
 #include <span>
 
 namespace orbis::factory {
 
 /// The maximum number of inputs of a signature, without the object.
 inline constexpr std::size_t maximumInputs = 20;
-
-/// Gives the name of a host data type. Called when the member is published: it throws `std::invalid_argument` for a
-/// class that is not published by then.
-using TypeText = char const* (*)();
 
 /// The description of one callable member, from which its descriptor is created; needs no host. All texts are literals.
 struct MemberRecord {
@@ -30,8 +27,8 @@ struct MemberRecord {
     impl::Invoker::InvokeFn invokeFn;
     impl::Callable target;
     char const* text = "";
-    bool refusesNull = false;              ///< whether an input must be an object
-    std::shared_ptr<void const> kept = {}; ///< owns what `target` points to, unless that is a function
+    bool namesInputs = false;     ///< whether errors of converting an input lack its name
+    detail::KeptObject kept = {}; ///< owns what `target` points to, unless that is a function
 };
 
 } // namespace orbis::factory

@@ -13,7 +13,6 @@
 
 #include "orbis/objectArrays.hpp"
 
-#include <algorithm>
 #include <type_traits>
 #include <utility>
 
@@ -29,7 +28,9 @@ void shareGivenArray([[maybe_unused]] COSValue const* outputs, [[maybe_unused]] 
 {
     if constexpr (!std::is_reference_v<Result> && passesForeignArray<Result>()) {
         hvArray* const array = outputs->array();
-        bool isGiven = std::any_of(inputs, inputs + inputCount, [=](COSValue in) { return in.array() == array; });
+        bool isGiven = false;
+        for (int i = 0; i < inputCount && !isGiven; ++i)
+            isGiven = inputs[i].array() == array;
         if constexpr (requires { target.givesArray(array); })
             isGiven = isGiven || target.givesArray(array);
         if (array && isGiven)

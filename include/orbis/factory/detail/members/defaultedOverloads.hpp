@@ -1,12 +1,12 @@
 #pragma once
 
+#include "orbis/factory/base/refusals.hpp"
 #include "orbis/factory/detail/members/CallableTraits.hpp"
 #include "orbis/factory/detail/members/DefaultedCall.hpp"
 #include "orbis/factory/detail/members/MemberRecord.hpp"
 #include "orbis/factory/detail/members/Routines.hpp"
 
 #include <cstddef>
-#include <memory>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -39,54 +39,39 @@ struct PointerOf<T, Traits> {
     using Type = typename Traits::template PointerIn<T>;
 };
 
-/// Returns whether a value of type `D` can be the default of a parameter of type `P`; stops compilation with a sentence
-/// otherwise.
+/// Returns why a value of type `D` cannot be the default of a parameter of type `P`, or `None`.
 template <class D, class P>
-consteval bool isValidDefault()
+consteval Refusal defaultRefusal()
 {
-    constexpr bool converts = std::is_convertible_v<D const&, P>;
-    constexpr bool isCut = std::is_floating_point_v<D> && std::is_integral_v<std::remove_cvref_t<P>>;
-    static_assert(converts, "A default value does not convert to the type of its parameter: the last value is the last "
-                            "parameter's, and a parameter with a default is taken by value or by const reference.");
-    static_assert(!isCut, "A default value for an integer parameter is a floating-point number: write an integer.");
-    return converts && !isCut;
+    if (!std::is_convertible_v<D const&, P>)
+        return Refusal::DefaultOfOtherType;
+    bool const isCut = std::is_floating_point_v<D> && std::is_integral_v<std::remove_cvref_t<P>>;
+    return isCut ? Refusal::DefaultFraction : Refusal::None;
 }
 
 /// The same for the values of the last parameters. `Optional` is the number of parameters that can have a default.
-template <std::size_t Optional, class... A, class... D>
-consteval bool canComplete(TypeList<A...>, std::tuple<D...> const*)
+template <std::size_t Optional, class... D, class... A>
+consteval Refusal defaultsRefusal(TypeList<A...>)
 {
-    constexpr bool areFew = sizeof...(D) <= Optional;
-    static_assert(areFew, "There are more default values than parameters that can have one; the object that a method "
-                          "is called on cannot.");
-    if constexpr (areFew)
+    if constexpr (sizeof...(D) > Optional)
+        return Refusal::TooManyDefaults;
+    else
         return []<std::size_t... Index>(std::index_sequence<Index...>) {
             constexpr std::size_t required = sizeof...(A) - sizeof...(D);
-            return (isValidDefault<D, std::tuple_element_t<required + Index, std::tuple<A...>>>() && ... && true);
+            return firstRefusal(defaultRefusal<D, std::tuple_element_t<required + Index, std::tuple<A...>>>()...);
         }(std::index_sequence_for<D...>());
-    else
-        return false;
 }
 
-/// Returns a copy of `full` without its last inputs, which calls through `routine` and keeps `kept` alive.
-inline MemberRecord defaultedOverload(MemberRecord const& full, std::size_t omitted, impl::Invoker::InvokeFn routine,
-                                      impl::Callable target, std::shared_ptr<void const> kept)
-{
-    MemberRecord overload = full;
-    overload.inputTypes = full.inputTypes.first(full.inputTypes.size() - omitted);
-    overload.invokeFn = routine;
-    overload.target = target;
-    overload.kept = std::move(kept);
-    return overload;
-}
+/// Returns a copy of `full` without its last inputs, which calls what is `kept` through `routine`.
+ORBIS_FACTORY_API MemberRecord defaultedOverload(MemberRecord const& full, std::size_t omitted,
+                                                 impl::Invoker::InvokeFn routine, KeptObject const& kept);
 
 /// Returns one record for each number of omitted arguments, with the routine `routineFor<Omitted>()`.
-template <class Record, class RoutineFor, std::size_t... Index>
-std::vector<MemberRecord> defaultedOverloads(MemberRecord const& full, std::shared_ptr<Record const> const& kept,
-                                             RoutineFor routineFor, std::index_sequence<Index...>)
+template <class RoutineFor, std::size_t... Index>
+std::vector<MemberRecord> defaultedOverloads(MemberRecord const& full, KeptObject const& kept, RoutineFor routineFor,
+                                             std::index_sequence<Index...>)
 {
-    return {defaultedOverload(full, Index + 1, routineFor(std::integral_constant<std::size_t, Index + 1>()), kept.get(),
-                              kept)...};
+    return {defaultedOverload(full, Index + 1, routineFor(std::integral_constant<std::size_t, Index + 1>()), kept)...};
 }
 
 /// The first `Objects` parameters are the object that a method is called on.
@@ -97,7 +82,7 @@ std::vector<MemberRecord> defaultedFunctions(MemberRecord const& full, [[maybe_u
     using Traits = CallableTraits<F>;
     using Parameters = typename Traits::Parameters;
     using Result = typename Traits::Result;
-    if constexpr (canComplete<Traits::arity - Objects>(Parameters{}, static_cast<std::tuple<D...>*>(nullptr))) {
+    if constexpr (defaultsRefusal<Traits::arity - Objects, D...>(Parameters{}) == Refusal::None) {
         using Pointer = typename PointerOf<T, Traits>::Type;
         using Record = Defaulted<Pointer, D...>;
         auto const routineFor = []<std::size_t Omitted>(std::integral_constant<std::size_t, Omitted>) {
@@ -114,7 +99,7 @@ std::vector<MemberRecord> defaultedFunctions(MemberRecord const& full, [[maybe_u
             else
                 return static_cast<Pointer>(function);
         };
-        auto const kept = std::make_shared<Record const>(Record{target(), values});
+        auto const kept = KeptObject::make(Record{target(), values});
         return defaultedOverloads(full, kept, routineFor, std::index_sequence_for<D...>());
     } else {
         return {};
@@ -124,13 +109,13 @@ std::vector<MemberRecord> defaultedFunctions(MemberRecord const& full, [[maybe_u
 template <class T, class... A, class... D>
 std::vector<MemberRecord> defaultedConstructors(MemberRecord const& full, std::tuple<D...> const& values)
 {
-    if constexpr (canComplete<sizeof...(A)>(TypeList<A...>{}, static_cast<std::tuple<D...>*>(nullptr))) {
+    if constexpr (defaultsRefusal<sizeof...(A), D...>(TypeList<A...>{}) == Refusal::None) {
         using Record = Defaulted<NoFunction, D...>;
         auto const routineFor = []<std::size_t Omitted>(std::integral_constant<std::size_t, Omitted>) {
             using Given = First<sizeof...(A) - Omitted, TypeList<A...>>;
             return &ConstructorRoutine<T, Given, DefaultedCall<Record, Omitted>>::invoke;
         };
-        auto const kept = std::make_shared<Record const>(Record{{}, values});
+        auto const kept = KeptObject::make(Record{{}, values});
         return defaultedOverloads(full, kept, routineFor, std::index_sequence_for<D...>());
     } else {
         return {};

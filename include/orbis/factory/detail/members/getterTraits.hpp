@@ -1,17 +1,14 @@
 #pragma once
 
-#include "orbis/factory/descriptors/AdaptedClassGetter.hpp"
-#include "orbis/factory/descriptors/ClassGetter.hpp"
-#include "orbis/factory/descriptors/ClasslessGetter.hpp"
-#include "orbis/factory/descriptors/DataGetter.hpp"
+#include "orbis/factory/descriptors/readers.hpp"
 #include "orbis/factory/descriptors/releasedBy.hpp"
 #include "orbis/factory/detail/members/CallableTraits.hpp"
-#include "orbis/factory/marshaling/objectResult.hpp"
+#include "orbis/factory/detail/members/StoredCallable.hpp"
 
 #include <concepts>
 #include <type_traits>
 
-/// What can be published as a getter of class `T`, and the getter that reads through it.
+/// What can be published as a getter of class `T`, and how it is read through.
 namespace orbis::factory::detail {
 
 /// Member functions of `T` or of a public base.
@@ -20,32 +17,31 @@ concept MethodOf =
     CallableTraits<F>::kind == CallableKind::Member && std::derived_from<T, typename CallableTraits<F>::Class>;
 
 template <class F>
-concept FreeFunction = CallableTraits<F>::kind == CallableKind::Free && !Functor<F>;
+concept FreeFunction = CallableTraits<F>::kind == CallableKind::Free;
 
-/// Free functions that take the object first.
+/// Free functions, lambdas and functors that take the object first.
 template <class F, class T>
 concept FunctionOn = FreeFunction<F> && CallableTraits<F>::template takesObject<T>;
 
 /// `isGetter`; if that is true, also `Result`: the type that is read; `Pointer`: the type as which the callable is
-/// stored; `Getter`: the class that reads through it.
+/// stored; `Reader`: how it is read through.
 template <class T, class G>
 struct GetterTraits {
     static constexpr bool isGetter = false;
 };
 
-template <class R, class P, class Reader>
+template <class ReaderType, class P = typename ReaderType::Pointer>
 struct GetterOf {
     static constexpr bool isGetter = true;
-    static constexpr bool needsObject = Reader::needsObject;
-    using Result = NativeResult<R>;
+    static constexpr bool needsObject = ReaderType::needsObject;
+    using Reader = ReaderType;
+    using Result = NativeResult<typename Reader::Result>;
     using Pointer = P;
-    using Getter = Reader;
 };
 
 template <class T, class G, class Traits = CallableTraits<G>>
-using GetterOfMethod = GetterOf<typename Traits::Result, typename Traits::template PointerIn<T>,
-                                impl::ClassGetter<typename Traits::Result, T, typename Traits::template PointerIn<T>,
-                                                  std::remove_cvref_t<NativeResult<typename Traits::Result>>>>;
+using GetterOfMethod = GetterOf<MemberReader<typename Traits::Result, T, typename Traits::template PointerIn<T>,
+                                             std::remove_cvref_t<NativeResult<typename Traits::Result>>>>;
 
 template <class T, MethodOf<T> G>
     requires(CallableTraits<G>::arity == 0)
@@ -54,30 +50,31 @@ struct GetterTraits<T, G> : GetterOfMethod<T, G> {};
 template <class T, class M, class C>
     requires std::is_object_v<M> && std::derived_from<T, C>
 struct GetterTraits<T, M C::*>
-    : GetterOf<M const&, MemberPointerIn<M C::*, M T::*>,
-               impl::ClassGetter<M const&, T, MemberPointerIn<M C::*, M T::*>, std::remove_cv_t<M>>> {};
+    : GetterOf<MemberReader<M const&, T, MemberPointerIn<M C::*, M T::*>, std::remove_cv_t<M>>> {};
 
 template <class T, class G, class Traits = CallableTraits<G>>
 using GetterOfFunctionOn =
-    GetterOf<typename Traits::Result, typename Traits::Pointer,
-             impl::AdaptedClassGetter<typename Traits::Result, T, typename Traits::Pointer,
-                                      std::remove_cvref_t<NativeResult<typename Traits::Result>>>>;
+    GetterOf<FunctionOnReader<typename Traits::Result, T, typename StoredCallable<typename Traits::Pointer>::Call,
+                              std::remove_cvref_t<NativeResult<typename Traits::Result>>>,
+             typename Traits::Pointer>;
 
 template <class T, FunctionOn<T> G>
     requires(CallableTraits<G>::arity == 1)
 struct GetterTraits<T, G> : GetterOfFunctionOn<T, G> {};
 
-template <class R>
+template <class T, class G, class Traits = CallableTraits<G>>
 using GetterOfFunction =
-    GetterOf<R, NativeResult<R> (*)(), impl::ClasslessGetter<R, std::remove_cvref_t<NativeResult<R>>>>;
+    GetterOf<FunctionReader<typename Traits::Result, std::remove_cvref_t<NativeResult<typename Traits::Result>>,
+                            typename StoredCallable<typename Traits::Pointer>::Call>,
+             typename Traits::Pointer>;
 
 template <class T, FreeFunction G>
     requires(CallableTraits<G>::arity == 0)
-struct GetterTraits<T, G> : GetterOfFunction<typename CallableTraits<G>::Result> {};
+struct GetterTraits<T, G> : GetterOfFunction<T, G> {};
 
 template <class T, class M>
     requires std::is_object_v<M>
-struct GetterTraits<T, M*> : GetterOf<M const&, M const*, impl::DataGetter<std::remove_cv_t<M>>> {};
+struct GetterTraits<T, M*> : GetterOf<DataReader<std::remove_cv_t<M>>> {};
 
 template <class T, auto Routine, class G>
 struct GetterTraits<T, ReleasedGetter<Routine, G>> : GetterTraits<T, G> {};

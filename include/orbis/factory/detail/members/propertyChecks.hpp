@@ -6,34 +6,22 @@
 #include <string_view>
 #include <type_traits>
 
-/// Compile-time checks of property descriptions. Each returns whether one aspect of a description of class `T` is
-/// valid, and stops compilation with a sentence otherwise.
+/// Compile-time checks of property descriptions of class `T`. Each returns why a description is refused, or `None`.
 namespace orbis::factory::detail {
 
-template <class V>
-consteval bool valueCanCross()
-{
-    static_assert(!std::is_void_v<V>, "A getter gives a value: this one gives nothing.");
-    if constexpr (std::is_void_v<V>)
-        return false;
-    else
-        return isMarshalable<std::remove_cvref_t<V>>();
-}
-
 template <class T, class G>
-consteval bool canRead()
+consteval Refusal getterRefusal()
 {
-    constexpr bool isGetter = GetterTraits<T, G>::isGetter;
-    static_assert(isGetter,
-                  "A getter is a data member or a member function without parameters, of the class or a public "
-                  "base, static data, or a free function or captureless lambda that takes a pointer to "
-                  "the class, or nothing.");
-    static_assert(isReleasable<T, G>, "A release routine is a member function without parameters, or a free function "
-                                      "or captureless lambda that takes a pointer to the class, or nothing.");
-    if constexpr (isGetter && isReleasable<T, G>)
-        return valueCanCross<typename GetterTraits<T, G>::Result>();
+    if constexpr (CallableTraits<G>::kind == CallableKind::OnRvalue)
+        return Refusal::OnRvalue;
+    else if constexpr (!GetterTraits<T, G>::isGetter)
+        return Refusal::NotGetter;
+    else if constexpr (!isReleasable<T, G>)
+        return Refusal::NotReleaseRoutine;
+    else if constexpr (std::is_void_v<typename GetterTraits<T, G>::Result>)
+        return Refusal::GivesNothing;
     else
-        return false;
+        return storedResultRefusal<typename GetterTraits<T, G>::Reader::Result>();
 }
 
 /// Pointers to data, static or of an object.
@@ -43,34 +31,19 @@ concept DataPointer =
 
 /// A converted argument is destroyed after the call, so data members are assigned only types that own their memory.
 template <class T, class S>
-consteval bool canKeep()
+consteval Refusal setterRefusal()
 {
-    if constexpr (DataPointer<S>) {
-        constexpr bool ownsMemory = !isView<typename SetterTraits<T, S>::Value>();
-        static_assert(ownsMemory, "This data would keep what is gone after the call that writes it: make it own its "
-                                  "memory (std::string, std::vector, hvArrayReferenceCountedProxy, an object by "
-                                  "value), or give a setter function that copies, or a getter function alone.");
-        return ownsMemory;
+    if constexpr (CallableTraits<S>::kind == CallableKind::OnRvalue) {
+        return Refusal::OnRvalue;
+    } else if constexpr (!SetterTraits<T, S>::isSetter) {
+        return Refusal::NotSetter;
     } else {
-        return true;
-    }
-}
-
-template <class T, class S>
-consteval bool canWrite()
-{
-    constexpr bool isSetter = SetterTraits<T, S>::isSetter;
-    static_assert(isSetter,
-                  "A setter is a data member that is not const or a member function that takes one value, of the "
-                  "class or a public base, static data that is not const, or a free function or captureless "
-                  "lambda that takes the value, after a pointer to the class where it needs the object.");
-    if constexpr (isSetter) {
-        if constexpr (isMarshalable<typename SetterTraits<T, S>::Value>())
-            return canKeep<T, S>();
+        using Value = typename SetterTraits<T, S>::Value;
+        if constexpr (argumentRefusal<Value>() == Refusal::None && DataPointer<S>)
+            return isView<Value>() ? Refusal::KeepsView : Refusal::None;
         else
-            return false;
-    } else
-        return false;
+            return argumentRefusal<Value>();
+    }
 }
 
 /// Returns whether two types have the same host data type. Its name is a constant expression for most types other than
@@ -92,32 +65,46 @@ consteval bool haveSameHostType()
         return false;
 }
 
-template <class T, class G, class S>
-consteval bool areOneType()
-{
-    using Read = typename NativeType<std::remove_cvref_t<typename GetterTraits<T, G>::Result>>::Type;
-    using Written = typename NativeType<typename SetterTraits<T, S>::Value>::Type;
-    static_assert(haveSameHostType<Read, Written>(),
-                  "The setter takes another type than the getter gives: make the two "
-                  "types one.");
-    return haveSameHostType<Read, Written>();
-}
-
 /// True for data that can be read and written through one pointer.
 template <class T, class D>
 inline constexpr bool isWritableData = DataPointer<D> && GetterTraits<T, D>::isGetter && SetterTraits<T, D>::isSetter;
 
-/// The getter and setter of a static property take no object.
-template <class Traits>
-consteval bool needsNoObject()
+/// For a property that is read through `G`, and written if that is data.
+template <class T, class G>
+consteval Refusal propertyRefusal()
 {
-    if constexpr (requires { Traits::needsObject; }) {
-        static_assert(!Traits::needsObject, "A static property has no object: give static data, or a free function, "
-                                            "static member function or captureless lambda that takes no object.");
-        return !Traits::needsObject;
+    if constexpr (isWritableData<T, G>)
+        return firstRefusal(getterRefusal<T, G>(), setterRefusal<T, G>());
+    else
+        return getterRefusal<T, G>();
+}
+
+/// For a property that is read and written.
+template <class T, class G, class S>
+consteval Refusal propertyRefusal()
+{
+    if constexpr (firstRefusal(getterRefusal<T, G>(), setterRefusal<T, S>()) != Refusal::None) {
+        return firstRefusal(getterRefusal<T, G>(), setterRefusal<T, S>());
     } else {
-        return true; // no getter or setter at all: reported elsewhere
+        using Read = typename NativeType<std::remove_cvref_t<typename GetterTraits<T, G>::Result>>::Type;
+        using Written = typename NativeType<typename SetterTraits<T, S>::Value>::Type;
+        using Class = std::remove_pointer_t<Read>;
+        constexpr bool areOneClass = std::is_class_v<Class> && std::is_same_v<Class, std::remove_pointer_t<Written>>;
+        return areOneClass || haveSameHostType<Read, Written>() ? Refusal::None : Refusal::OtherSetterType;
     }
+}
+
+/// The getter and setter of a static property take no object. What is no getter or setter at all is refused elsewhere.
+template <class... Traits>
+consteval Refusal staticRefusal()
+{
+    auto const needsObject = []<class Access>(std::type_identity<Access>) {
+        if constexpr (requires { Access::needsObject; })
+            return Access::needsObject;
+        else
+            return false;
+    };
+    return (needsObject(std::type_identity<Traits>()) || ...) ? Refusal::NeedsObject : Refusal::None;
 }
 
 } // namespace orbis::factory::detail

@@ -30,14 +30,6 @@ inline constexpr impl::ReleaseRoutine releaseRoutine = nullptr;
 template <class T, auto Routine, class G>
 inline constexpr impl::ReleaseRoutine releaseRoutine<T, ReleasedGetter<Routine, G>> = &release<T, Routine>;
 
-/// True for a getter with a release routine. A separate constant, because comparing function addresses is no constant
-/// expression under the sanitizers.
-template <class G>
-inline constexpr bool isReleased = false;
-
-template <auto Routine, class G>
-inline constexpr bool isReleased<ReleasedGetter<Routine, G>> = true;
-
 /// False for a getter whose routine is no valid release routine of `T`.
 template <class T, class G>
 inline constexpr bool isReleasable = true;

@@ -6,8 +6,8 @@
 #include "orbis/factory/detail/objects/values.hpp"
 #include "orbis/factory/ownership/Wrappable.hpp"
 
-#include <atomic>
 #include <concepts>
+#include <cstddef>
 #include <type_traits>
 #include <typeinfo>
 
@@ -20,11 +20,13 @@ concept NamedType = std::is_class_v<T> && !PublishedClass<T> && !detail::isOfSta
 
 namespace detail {
 
-/// What is known of a named class without its type, one record for each class and module. Its last five members are
+/// What is known of a named class without its type, one record for each class and module. Where the module does not
+/// publish the class, the record of the one that does is used. Its last five members are
 /// set once, by the first `Module` that publishes the class, and stay as long as the module's code: they are the same
 /// in every virtual machine.
 struct NamedClass {
     std::type_info const* type;
+    std::size_t size;                                                   ///< of an object
     std::type_info const& (*dynamicType)(void const* object) = nullptr; ///< null unless the class is polymorphic
     bool (*isInstance)(void const* bound) = nullptr;                    ///< likewise
     void (*destroy)(void* object) = nullptr;                            ///< null when there is no public destructor
@@ -35,10 +37,11 @@ struct NamedClass {
     NamedClass const* base = nullptr;          ///< to which `toBase` converts; null when that is bound as it is
     bool isBase = false;                       ///< whether a subclass is published
     bool isOwnedByHost = true;                 ///< the objects that scripts construct
-    std::atomic<char const*> name = nullptr;   ///< full dotted name; null until the class is published
+    char const* name = nullptr;                ///< full dotted name; null until the class is published; see `className`
 };
 
-/// Returns the host name. Throws `std::invalid_argument` when the class is not published.
+/// Returns the host name, also of a class that another module publishes. Throws `std::invalid_argument` when the class
+/// is not published.
 ORBIS_FACTORY_API char const* className(NamedClass const& named);
 
 /// Converts a pointer to the class into the address under which the object is bound; null to null.
@@ -63,17 +66,10 @@ void* upcast(void* object)
 template <class From, class To>
 void* downcast(void* object)
 {
-    if constexpr (std::is_polymorphic_v<From>) {
+    if constexpr (std::is_polymorphic_v<From>)
         return dynamic_cast<To*>(static_cast<From*>(object));
-    } else {
-        constexpr bool isPossible = requires(From* from) { static_cast<To*>(from); };
-        static_assert(isPossible, "Objects of this class cannot be found as ones of its base class, which is a virtual "
-                                  "one: give that a virtual destructor, or leave it out of inherits<...>().");
-        if constexpr (isPossible)
-            return static_cast<To*>(static_cast<From*>(object));
-        else
-            return nullptr;
-    }
+    else
+        return static_cast<To*>(static_cast<From*>(object));
 }
 
 template <class T>
@@ -81,7 +77,7 @@ struct NamedClassRecord : NamedClass {
     static_assert(
         requires { sizeof(T); }, "This class is only declared here: include the header that defines it.");
 
-    constexpr NamedClassRecord() : NamedClass{&typeid(T)}
+    constexpr NamedClassRecord() : NamedClass{&typeid(T), sizeof(T)}
     {
         if constexpr (std::is_polymorphic_v<T>) {
             dynamicType = [](void const* object) -> std::type_info const& {

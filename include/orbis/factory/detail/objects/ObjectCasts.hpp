@@ -50,8 +50,6 @@ struct DynamicCast {
     template <class T>
     static T* fromBound(void* object)
     {
-        static_assert(std::is_polymorphic_v<Base<T>>, "Objects of a class hierarchy are told apart by their dynamic "
-                                                      "type: give the class that Root names a virtual destructor.");
         return dynamic_cast<T*>(static_cast<Base<T>*>(object));
     }
 

@@ -6,7 +6,7 @@
 #include "orbis/COSInterface.hpp"
 
 #include <cstddef>
-#include <memory>
+#include <typeinfo>
 
 /// Objects of named classes, which cross without their types.
 namespace orbis::factory {
@@ -34,28 +34,24 @@ ORBIS_FACTORY_API void* requireNativeOf(NamedClass const& named, hvArray_tag con
 ORBIS_FACTORY_API void requireExactType(NamedClass const& named, void const* object);
 
 /// Returns a new 1-by-1 array, owned by the caller, with the host object of `object`; 0-by-0 for null. If there is
-/// none, one of the most derived published class is created, and owns the native object as `owner` says; with `Host`,
-/// one is created in any case, and the caller has transferred the native object when this returns. `whole` is used
-/// with `Whole` only. Throws when the class is not published; then nothing has changed.
+/// none, one of the most derived published class is created, and owns the native object as `owner` says. With `Host`,
+/// one is created in any case, and the caller transfers the native object: it is deleted when this throws. In debug
+/// builds, one on the stack or in static storage is refused instead. `whole` is used
+/// with `Whole`; with `Host`, it is the object that the result lies inside, which is refused. Throws when the class is
+/// not published; then nothing has changed.
 ORBIS_FACTORY_API hvArray_tag* announceNamed(NamedClass const& named, void const* object, ResultOwner owner,
                                              COSInterface* whole);
 
-/// The same for an object in which the host object gets a share.
-ORBIS_FACTORY_API hvArray_tag* announceShared(NamedClass const& named, void const* object, std::shared_ptr<void> share);
-
-/// Returns a new 1-by-1 array, owned by the caller, with the host object of class `className` for `bound`, which lies
-/// inside the native object of `whole`: so it does not own it.
-ORBIS_FACTORY_API hvArray_tag* announcePart(void* bound, char const* className, COSInterface* whole);
+/// Like `announceNamed` for classes with a `HostClass`: for `bound`, not null, which lies inside the native object of
+/// `whole` or, without one, is borrowed from native code: so its host object does not own it.
+ORBIS_FACTORY_API hvArray_tag* announcePart(void* bound, std::type_info const& dynamicType,
+                                            NativeClassRecord const& staticClass, COSInterface* whole);
 
 /// Returns whether an address lies inside an object.
 inline bool isInside(void const* address, void const* object, std::size_t size)
 {
     return static_cast<std::size_t>(static_cast<char const*>(address) - static_cast<char const*>(object)) < size;
 }
-
-/// Returns a share in the native object of the array's first element, which from then on is destroyed with its last
-/// share; empty when there is no such object. Throws an `Exception` when its host object does not own it.
-ORBIS_FACTORY_API std::shared_ptr<void> shareNamed(NamedClass const& named, hvArray_tag const* in);
 
 /// Returns the native object of the array's first element and transfers it to the caller: its host object becomes
 /// invalid. Null when there is no such object. Throws an `Exception` when its host object does not own it alone.
