@@ -62,8 +62,8 @@ public:
     ~not_convertible() override;
 };
 
-/// An object was to be copied, owned by its host object, or shared, kept or taken by native code, and cannot be. Arguments: the class's name; the
-/// reason.
+/// An object was to be copied, owned by its host object, or shared, kept or taken by native code, and cannot be.
+/// Arguments: the class's name; the reason.
 class ORBIS_FACTORY_API cannot_copy : public resource_core::BaseMsgID {
 public:
     cannot_copy(std::string const& className, std::string const& reason);
