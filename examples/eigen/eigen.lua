@@ -21,5 +21,5 @@ print(eigen.SingleQuaternion.about(math.pi / 2, {0, 0, 1}).coefficients)
 
 print(pcall(lu.solve, lu, {1, 2}))
 print(pcall(eigen.LU, {{1, 2}, {3}}))
-print(pcall(quarter, {1, 2}))
+print(select(2, pcall(quarter, {1, 2})).identifier)
 print(pcall(eigen.smallest, {}))

@@ -1,4 +1,5 @@
 #include "orbis/factory.hpp"
+#include "orbis/factory/notNull.hpp"
 #include "orbis/factory/types/NumericVectorPolicy.hpp"
 #include "orbis/factory/types/function.hpp"
 #include "orbis/factory/types/nestedVectors.hpp"
@@ -25,7 +26,6 @@ struct ConstraintError : Error {
 template <class T, int (*close)(T*)>
 struct Handle {
     T* raw = nullptr;
-
     Handle() = default;
     Handle(Handle const&) = delete;
     ~Handle() { close(raw); }
@@ -43,9 +43,8 @@ Value fromSql(sqlite3_value* value)
         return copy(std::string(), sqlite3_value_text(value));
     case SQLITE_BLOB:
         return copy(Bytes(), static_cast<std::uint8_t const*>(sqlite3_value_blob(value)));
-    default:
-        return {};
     }
+    return {};
 }
 
 /// Passes a value to one of the functions `sqlite3_bind_*` or `sqlite3_result_*`.
@@ -107,6 +106,7 @@ struct Statement {
     Statement(std::shared_ptr<Connection> of, std::string const& sql) : connection(std::move(of))
     {
         connection->check(sqlite3_prepare_v2(connection->handle.raw, sql.c_str(), -1, &handle.raw, nullptr));
+        connection->check(handle.raw ? SQLITE_OK : SQLITE_MISUSE);
     }
 
     /// Binds the values, and calls `take` with each row.
@@ -138,13 +138,13 @@ struct Statement {
 
 void publishModule(orbis::factory::Module& sqlite)
 {
-    using orbis::factory::withDefaults;
+    using orbis::factory::NotNull, orbis::factory::withDefaults;
     sqlite.error<Error>("sqlite:error").error<ConstraintError>("sqlite:constraint");
     sqlite.publish<Connection>("Connection", "An open database")
         .constructor<std::string>("path (\":memory:\" for none)")
         .method("define", &Connection::define, "name, parameters, function (of a list)", "Adds a function to SQL");
     sqlite.publish<Statement>("Statement", "SQL with parameters")
-        .constructor<std::shared_ptr<Connection>, std::string>("connection, sql")
+        .constructor<NotNull<std::shared_ptr<Connection>>, std::string>("connection, sql")
         .method("run", &Statement::run, "values", withDefaults(Row()))
         .method("each", &Statement::each, "function (of a list), values", withDefaults(Row()), "Calls it for each row");
 }

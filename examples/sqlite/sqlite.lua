@@ -15,9 +15,11 @@ each("select name, round(density(people, area)) from city order by 2", show)
 
 print(pcall(insert.run, insert, {"Oslo"}))
 print(pcall(sqlite.Statement, db, "selct"))
+print(pcall(sqlite.Statement, db, "-- nothing"))
+print(select(2, pcall(sqlite.Statement, nil, "select 1")).identifier)
 db:define("fail", 1, function(values) error({reason = values[1]}) end)
 print(select(2, pcall(run, "select fail(?)", "mine")).reason)
-each("select name from city limit 1", function() print(pcall(insert.run, insert, {"Oslo", true})) end)
+each("select name from city limit 1", function() print(select(2, pcall(insert.run, insert, {true})).identifier) end)
 print(pcall(each, "select 1", function() error("stop", 0) end))
 
 local again

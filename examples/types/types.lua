@@ -18,7 +18,7 @@ end
 
 -- The reason of an error, without the signature before it.
 local function reason(text)
-  for _, before in ipairs {"^No .*\n.*value: ", "^A value cannot be converted: ", '^input "value": ', "^Native code failed: "} do
+  for _, before in ipairs {"^No .*\n.*value: ", "^A value cannot be converted: ", '^input "value": '} do
     text = text:gsub(before, "")
   end
   return text

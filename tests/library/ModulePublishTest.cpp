@@ -95,6 +95,17 @@ double largest(Engine const* a, Engine* b, std::string const&)
     return std::max(a->power, b->power);
 }
 
+int sizes(std::unique_ptr<Wheel> a, std::shared_ptr<Wheel> const& b)
+{
+    return a->size + b->size;
+}
+
+/// Built around a wheel that it shares.
+struct Cart {
+    explicit Cart(std::shared_ptr<Wheel> const& shared) : wheel(shared) {}
+    std::shared_ptr<Wheel> wheel;
+};
+
 struct Unpublished {};
 struct Base {};
 struct Derived : Base {};
@@ -143,6 +154,7 @@ protected:
                 .function("makeCar", owned(+[] { return new Car("made"); }))
                 .function("common", &Car::common)
                 .function("given", owned(+[] { return given; }))
+                .function("sizes", notNull(&sizes), "a, b")
                 .function("largest", notNull(&largest), "a, b, why", withDefaults("fun"));
             cars.publish<Car>("Car", "Drives")
                 .constructor<std::string>("name (not, say, its colour)", "Has a name")
@@ -162,6 +174,7 @@ protected:
                 .property("spare", &Car::spare)
                 .property("name", &Car::name, "As given");
             cars.publish<Engine>("Engine").property("power", &Engine::power);
+            cars.publish<Cart>("Cart").constructor<NotNull<std::shared_ptr<Wheel>>>("wheel");
             cars.publish<Turbo>("Turbo").inherits<Engine>();
             cars.publish<Wheel>("Wheel").constructor<int>("size").property("size", &Wheel::size);
         });
@@ -341,6 +354,14 @@ TEST_F(ModulePublishTest, AnyObjectIsSharedFromItsFirstSharedPointerOn)
     wheel = hvm().get(owner.get(), "spare");
     hvm().deleteObjects(owner.get());
     EXPECT_EQ(scalar<std::int32_t>(hvm().get(wheel.get(), "size")), 17);
+    ArrayPtr const none(omCreateORBISMatrix(0, 0, "cars.Wheel"));
+    ArrayPtr const own = hvm().construct("cars.Wheel", inputs(matrix<std::int32_t>(1, 1, {4})));
+    expectMessage([&] { hvm().callFunction("cars.sizes", inputs(own, none)); }, {"null_input", "Input \"b\""});
+    expectMessage([&] { hvm().callFunction("cars.sizes", inputs(none, wheel)); }, {"null_input", "Input \"a\""});
+    expectMessage([&] { hvm().construct("cars.Cart", inputs(none)); }, {"null_input", "Input \"wheel\""});
+    EXPECT_EQ(scalar<std::int32_t>(hvm().callFunction("cars.sizes", inputs(own, wheel))), 21);
+    EXPECT_FALSE(velmara::isValid(own.get()));
+    hvm().construct("cars.Cart", inputs(wheel));
 }
 
 TEST_F(ModulePublishTest, ErrorsHaveTheIdentifiersOfTheirTypes)

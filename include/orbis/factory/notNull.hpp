@@ -5,19 +5,22 @@
 #include "orbis/factory/detail/members/CallableTraits.hpp"
 #include "orbis/factory/marshaling/MarshalingPolicy.hpp"
 
+#include <memory>
 #include <type_traits>
+#include <utility>
 
 namespace orbis::factory {
 
-namespace detail {
-
-/// A parameter `T*` that must be an object.
-template <class T>
+/// A parameter that takes an object as a `P`, a plain or an owning pointer, and refuses null: for constructors, as
+/// `constructor<NotNull<std::shared_ptr<Connection>>>("connection")`. See `notNull`.
+template <class P>
 struct NotNull {
-    T* object;
+    P pointer;
 
-    T* value() const { return object; }
+    operator P() { return std::move(pointer); }
 };
+
+namespace detail {
 
 template <class A>
 struct NotNullParameter {
@@ -27,7 +30,22 @@ struct NotNullParameter {
 template <class T>
     requires std::is_class_v<T>
 struct NotNullParameter<T*> {
-    using Type = NotNull<T>;
+    using Type = NotNull<T*>;
+};
+
+template <class T>
+struct NotNullParameter<std::unique_ptr<T>> {
+    using Type = NotNull<std::unique_ptr<T>>;
+};
+
+template <class T>
+struct NotNullParameter<std::shared_ptr<T>> {
+    using Type = NotNull<std::shared_ptr<T>>;
+};
+
+template <class T>
+struct NotNullParameter<std::shared_ptr<T> const&> {
+    using Type = NotNull<std::shared_ptr<T>>;
 };
 
 template <class Parameters>
@@ -58,30 +76,47 @@ struct CallableTraits<RefusingNull<F>> : CallableTraits<F> {
 
 } // namespace detail
 
-/// Pointers to objects that must be there.
+/// `NotNull`.
 class NotNullPolicy {};
 
 template <>
 class Marshaler<NotNullPolicy> : public detail::DataTypeName<Marshaler<NotNullPolicy>> {
     template <class T>
-    struct Passed : T {};
+    using Pointer = decltype(T::pointer);
+
+    template <class T>
+    using Class = std::remove_cv_t<typename std::pointer_traits<Pointer<T>>::element_type>;
+
+    /// Converts when the native function is called, as some owning pointers do.
+    template <class P, class Held>
+    struct Passed {
+        Held held;
+
+        P value()
+        {
+            if constexpr (requires { held.value(); })
+                return held.value();
+            else
+                return std::move(held);
+        }
+    };
 
 public:
     template <class T>
-    static Passed<T> fromHost(hvArray_tag const* in)
+    static auto fromHost(hvArray_tag const* in)
     {
-        using Pointer = decltype(T::object);
-        using Class = detail::MarshaledTypeOf<Pointer>;
-        Pointer const object = detail::MarshalerOf<Pointer>::template fromHost<Class>(in);
-        if (!object)
-            detail::throwNullInput(in, detail::hostName<Class>());
-        return {{object}};
+        using P = Pointer<T>;
+        using Object = detail::MarshalerOf<Class<T>*>;
+        if (!Object::template fromHost<Class<T>>(in))
+            detail::throwNullInput(in, detail::hostName<Class<T>>());
+        using Held = decltype(detail::MarshalerOf<P>::template fromHost<detail::MarshaledTypeOf<P>>(in));
+        return Passed<P, Held>{detail::MarshalerOf<P>::template fromHost<detail::MarshaledTypeOf<P>>(in)};
     }
 
     template <class T>
     static char const* dataTypeText()
     {
-        return detail::dataTypeText<decltype(T::object)>();
+        return detail::dataTypeText<Pointer<T>>();
     }
 
     template <class T>
@@ -91,13 +126,14 @@ public:
     }
 };
 
-template <class T>
-    requires(detail::argumentRefusal<T*>() == detail::Refusal::None)
-struct MarshalingPolicy<detail::NotNull<T>> {
+template <class P>
+    requires(detail::argumentRefusal<P>() == detail::Refusal::None)
+struct MarshalingPolicy<NotNull<P>> {
     using Type = NotNullPolicy;
 };
 
-/// Says that a function must not be passed null where it takes pointers to objects, which scripts may pass otherwise:
+/// Says that a function must not be passed null where it takes pointers to objects, plain or owning, which scripts may
+/// pass otherwise:
 ///
 ///     .method("insertEndChild", notNull(&XMLNode::InsertEndChild), "node")
 ///
