@@ -13,7 +13,7 @@ struct InputTypes;
 
 template <class... A>
 struct InputTypes<TypeList<A...>> {
-    static constexpr TypeText texts[] = {&dataTypeText<A>..., nullptr};
+    static constexpr TypeText texts[sizeof...(A) > 0 ? sizeof...(A) : 1] = {&dataTypeText<A>...};
 
     /// Whether errors of converting one of the inputs are thrown without its name.
     static constexpr bool needNames = ((refusesNull<A>() || NamesInput<A>) || ... || false);
