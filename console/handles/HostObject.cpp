@@ -65,7 +65,7 @@ int collectObject(lua_State* L)
     Holder const& holder = *holderAt(L, 1);
     OwnedFunctions& functions = context.ownedFunctions();
     orbis::COSInterface const* const host = functions.empty() ? nullptr : hostIn(holder.array);
-    if (!context.isClosing() && functions.isValue(host, &holder) &&
+    if (host && !context.isClosing() && functions.isValue(host, &holder) &&
         (functions.isWanted(host) || isUsedElsewhere(context, host, holder.array))) {
         functions.keep(L, host, 1);
         return 0;

@@ -17,6 +17,8 @@ class Drawing {
 public:
     void add(std::unique_ptr<Shape> shape) { shapes_.push_back(std::move(shape)); }
 
+    void setFrame(std::shared_ptr<Shape> frame) { frame_ = std::move(frame); }
+
     void scale(double factor)
     {
         for (auto const& shape : shapes_)
@@ -25,7 +27,7 @@ public:
 
     std::string describe() const
     {
-        std::string text;
+        std::string text = frame_ ? "in " + frame_->name() + ": " : "";
         for (auto const& shape : shapes_)
             text += shape->name() + " of " + std::to_string(static_cast<int>(shape->area())) + "; ";
         return text;
@@ -33,6 +35,7 @@ public:
 
 private:
     std::vector<std::unique_ptr<Shape>> shapes_;
+    std::shared_ptr<Shape> frame_;
 };
 
 struct ScriptShape : orbis::factory::Implemented<Shape> {
@@ -50,6 +53,7 @@ void publishModule(orbis::factory::Module& shapes)
     shapes.publish<Drawing>("Drawing")
         .constructor()
         .method("add", &Drawing::add, "shape")
+        .method("setFrame", &Drawing::setFrame, "frame")
         .method("scale", &Drawing::scale, "factor")
         .method("describe", &Drawing::describe);
 }

@@ -18,10 +18,13 @@ print(pcall(wrong.scale, wrong, 2))
 print(pcall(shapes.Shape, {area = 5}))
 
 do -- a function may refer to its own object
-    local shape
-    shape = shapes.Shape{area = function() return shape and 1 end, scale = function() end}
-    print(shape:area())
+    local frame
+    frame = shapes.Shape{name = function() return isvalid(frame) and "a living frame" or "a lost frame" end}
+    drawing:setFrame(frame)
 end
+collectgarbage()
+collectgarbage()
+print(drawing:describe())
 drawing, wrong = nil
 collectgarbage()
 collectgarbage()
