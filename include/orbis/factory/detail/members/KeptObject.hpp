@@ -8,7 +8,7 @@ namespace orbis::factory::detail {
 
 /// A counted reference to a constant object of any type, which is destroyed with the last one; may be empty. Threading:
 /// as for `std::shared_ptr`.
-class ORBIS_FACTORY_API KeptObject {
+class KeptObject {
 public:
     KeptObject() = default;
 
@@ -18,20 +18,20 @@ public:
         return KeptObject(new T(std::move(object)), [](void const* kept) { delete static_cast<T const*>(kept); });
     }
 
-    KeptObject(KeptObject const& other) noexcept;
+    ORBIS_FACTORY_API KeptObject(KeptObject const& other) noexcept;
     KeptObject(KeptObject&& other) noexcept : block_(std::exchange(other.block_, nullptr)) {}
-    KeptObject& operator=(KeptObject other) noexcept;
-    ~KeptObject();
+    ORBIS_FACTORY_API KeptObject& operator=(KeptObject other) noexcept;
+    ORBIS_FACTORY_API ~KeptObject();
 
     /// The object, whose type is not known here; null when there is none.
-    void const* get() const;
+    ORBIS_FACTORY_API void const* get() const;
     explicit operator bool() const { return block_ != nullptr; }
 
 private:
     struct Block;
 
     /// Takes `object`; destroys it if there is no memory.
-    KeptObject(void const* object, void (*destroy)(void const*));
+    ORBIS_FACTORY_API KeptObject(void const* object, void (*destroy)(void const*));
 
     Block* block_ = nullptr;
 };
