@@ -3,6 +3,7 @@
 #include "orbis/factory/base/refusals.hpp"
 #include "orbis/factory/classes/EnumerationRecord.hpp"
 #include "orbis/factory/classes/HostEnumeration.hpp"
+#include "orbis/factory/detail/arrays/DataTypeName.hpp"
 
 #include <array>
 #include <cstddef>
@@ -91,7 +92,7 @@ struct EnumerationOf<E> {
     /// The data type of vectors.
     static char const* vectorText()
     {
-        static std::string const text = std::string(name()) + " vector";
+        static std::string const text = detail::dataTypeTextWith(name(), " vector");
         return text.c_str();
     }
 };

@@ -78,7 +78,7 @@ public:
     template <class Vector>
     static char const* dataTypeText()
     {
-        static std::string const text = std::string(detail::hostName<Class<Vector>>()) + " vector";
+        static std::string const text = detail::dataTypeTextWith(detail::hostName<Class<Vector>>(), " vector");
         return text.c_str();
     }
 

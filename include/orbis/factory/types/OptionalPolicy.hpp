@@ -63,7 +63,7 @@ public:
     static char const* dataTypeText()
     {
         static std::string const text =
-            std::string(detail::dataTypeText<typename Optional::value_type>()) + " or empty";
+            detail::dataTypeTextWith(detail::dataTypeText<typename Optional::value_type>(), " or empty");
         return text.c_str();
     }
 
