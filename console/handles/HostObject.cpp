@@ -1,6 +1,7 @@
 #include "handles/HostObject.hpp"
 
 #include "handles/HostContext.hpp"
+#include "handles/ObjectValues.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
@@ -119,27 +120,43 @@ void pushMetatable(lua_State* L, std::string_view className)
     });
 }
 
+/// Pushes the value that holds the object already; false, and nothing pushed, when there is none.
+bool pushKnown(lua_State* L, orbis::COSInterface const* host)
+{
+    pushRecordedValue(L, host);
+    if (auto const* const holder = static_cast<Holder*>(lua_touserdata(L, -1)); holder && hostIn(holder->array) == host)
+        return true;
+    lua_pop(L, 1);
+    return false;
+}
+
+void pushNew(lua_State* L, HostContext& context, orbis::COSInterface* host)
+{
+    ArrayStack::Frame frame(context.arrays());
+    hvArray_tag* const scalar = frame.push(ArrayPtr(orbis::omCreateORBISScalar(host)));
+    auto* const holder = new (lua_newuserdatauv(L, sizeof(Holder), 1)) Holder; // its user value: see OwnedFunctions
+    pushMetatable(L, className(scalar));
+    lua_setmetatable(L, -2);
+    scalar->add_reference();
+    context.heldArrays().hold(*holder, ArrayPtr(scalar));
+    recordValue(L, host, -1);
+}
+
 } // namespace
 
 void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
-    HostContext::of(L).requireOpen();
+    HostContext& context = HostContext::of(L);
+    context.requireOpen();
     luaL_checkstack(L, 10, nullptr);
-    OwnedFunctions& functions = HostContext::of(L).ownedFunctions();
-    orbis::COSInterface const* const host = functions.empty() ? nullptr : hostIn(array, index);
-    bool const hasFunctions = functions.has(host);
-    if (hasFunctions && functions.pushValue(L, host))
-        return;
-    ArrayStack::Frame frame(HostContext::of(L).arrays());
-    hvArray_tag* scalar = frame.push(ArrayPtr(orbis::omCreateORBISScalar(orbis::omGetArrayElement(array, index))));
-    if (scalar->get_number_of_elements() == 0)
+    orbis::COSInterface* const host = hostIn(array, index);
+    if (!host)
         return lua_pushnil(L);
-    auto* holder = new (lua_newuserdatauv(L, sizeof(Holder), hasFunctions ? 1 : 0)) Holder;
-    pushMetatable(L, className(scalar));
-    lua_setmetatable(L, -2);
-    scalar->add_reference();
-    HostContext::of(L).heldArrays().hold(*holder, ArrayPtr(scalar));
-    if (hasFunctions)
+    OwnedFunctions& functions = context.ownedFunctions();
+    bool const hasFunctions = functions.has(host);
+    if (!(hasFunctions && functions.pushValue(L, host)) && !pushKnown(L, host))
+        pushNew(L, context, host);
+    if (hasFunctions && !functions.isValue(host, lua_touserdata(L, -1)))
         functions.anchor(L, host);
 }
 
