@@ -8,6 +8,7 @@
 
 #include "orbis/COSInterfacePtr.hpp"
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -110,6 +111,10 @@ public:
     /// Ends the objects of an object array now: they become invalid and give up their native objects. Enumerators are
     /// refused.
     void deleteObjects(hvArray_tag* objects);
+
+    /// Another number after each change of what is published: names and members, by modules and by need. What was asked
+    /// for while it was the same holds.
+    std::uint64_t publicationNumber() const noexcept;
 
     NameKind lookUp(std::string_view fullName);
     PackageRecord describePackage(std::string_view fullName); ///< "" for the top level
