@@ -59,7 +59,7 @@ int callMember(lua_State* L)
     HostCall call(L);
     if (flag(L, instanceUpvalue) && startsWithObject(L, call.hvm())) {
         hvArray_tag* object = call.share(checkObject(L, 1));
-        return call.finish(call.hvm().call(object, name, call.inputs(2)));
+        return call.finish(call.hvm().call(object, name, call.inputs(2), call.failure()));
     }
     if (!flag(L, staticUpvalue))
         fail("noObject", std::string(name) + " needs an object of " +
@@ -71,7 +71,8 @@ int callMember(lua_State* L)
 int callPackageFunction(lua_State* L)
 {
     HostCall call(L);
-    return call.finish(call.hvm().callFunction(textAt(L, lua_upvalueindex(nameUpvalue)), call.inputs(1)));
+    return call.finish(
+        call.hvm().callFunction(textAt(L, lua_upvalueindex(nameUpvalue)), call.inputs(1), call.failure()));
 }
 
 void pushCallable(lua_State* L, std::string_view cls, std::string_view name, bool instance, bool withoutObject)

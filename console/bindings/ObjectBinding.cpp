@@ -32,7 +32,7 @@ int readProperty(lua_State* L)
 {
     HostCall call(L);
     hvArray_tag* const object = call.share(checkObject(L, 1));
-    return call.finish(call.hvm().get(object, textAt(L, 2)));
+    return call.finish(call.hvm().get(object, textAt(L, 2), call.failure()));
 }
 
 int readMember(lua_State* L)
@@ -76,8 +76,8 @@ int writeMember(lua_State* L)
     }
     HostCall call(L);
     hvArray_tag* const object = call.share(checkObject(L, 1));
-    call.hvm().set(object, textAt(L, 2), call.inputs(3).front());
-    return 0;
+    call.hvm().set(object, textAt(L, 2), call.inputs(3).front(), call.failure());
+    return call.finish(nullptr);
 }
 
 /// Completes the metatable, argument 1, of a class by its name, argument 2.

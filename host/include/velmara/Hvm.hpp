@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -27,6 +28,10 @@ class HvmState;
 class VELMARA_API Hvm {
 public:
     using Inputs = std::span<hvArray_tag* const>;
+
+    /// Where the operations that take it put their failure instead of throwing it, which costs most of what a failure
+    /// does; they return a null array. Errors of classes derived from `Error` are thrown all the same.
+    using Failure = std::optional<Error>;
 
     Hvm();
     Hvm(Hvm const&) = delete;
@@ -75,7 +80,7 @@ public:
     std::vector<ModuleRecord> modules() const;
 
     /// A new object of the class as a 1-by-1 array.
-    ArrayPtr construct(std::string_view className, Inputs inputs = {});
+    ArrayPtr construct(std::string_view className, Inputs inputs = {}, Failure* failure = nullptr);
 
     /// A new object, constructed from `object` (an object array of one element) with the constructor of its class that
     /// takes such an object; also of a class whose objects are not constructed from outside.
@@ -85,16 +90,16 @@ public:
     bool areEqual(hvArray_tag* a, hvArray_tag* b);
 
     /// Calls a method of `object` (an object array; its first element is meant). A null result when there is none.
-    ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs = {});
+    ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs = {}, Failure* failure = nullptr);
     ArrayPtr callStatic(std::string_view className, std::string_view method, Inputs inputs = {});
-    ArrayPtr callFunction(std::string_view fullName, Inputs inputs = {});
+    ArrayPtr callFunction(std::string_view fullName, Inputs inputs = {}, Failure* failure = nullptr);
 
     /// Calls a function value (host_extensions/functionValues.hpp), likewise.
     ArrayPtr callFunction(hvArray_tag* function, Inputs inputs = {});
 
     /// Reads and writes a property of `object`, likewise. `value` stays the caller's.
-    ArrayPtr get(hvArray_tag* object, std::string_view property);
-    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value);
+    ArrayPtr get(hvArray_tag* object, std::string_view property, Failure* failure = nullptr);
+    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value, Failure* failure = nullptr);
     ArrayPtr getStatic(std::string_view className, std::string_view property);
     void setStatic(std::string_view className, std::string_view property, hvArray_tag* value);
 

@@ -95,10 +95,10 @@ bool Hvm::areEqual(hvArray_tag* a, hvArray_tag* b)
     return callInto(*state_, [&] { return compareObjects(*state_, a, b); });
 }
 
-ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs)
+ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs, Failure* failure)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) { return callMethod(*state_, object, method, inputs); });
+        *state_, [&]() __attribute__((always_inline)) { return callMethod(*state_, object, method, inputs); }, failure);
 }
 
 ArrayPtr Hvm::callStatic(std::string_view className, std::string_view method, Inputs inputs)
@@ -107,10 +107,11 @@ ArrayPtr Hvm::callStatic(std::string_view className, std::string_view method, In
         *state_, [&]() __attribute__((always_inline)) { return callStaticMethod(*state_, className, method, inputs); });
 }
 
-ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs)
+ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs, Failure* failure)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) { return callPackageFunction(*state_, fullName, inputs); });
+        *state_, [&]() __attribute__((always_inline)) { return callPackageFunction(*state_, fullName, inputs); },
+        failure);
 }
 
 ArrayPtr Hvm::callFunction(hvArray_tag* function, Inputs inputs)

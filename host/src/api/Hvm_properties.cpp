@@ -116,22 +116,26 @@ ArrayPtr read(Property const& property, Object* object)
 
 } // namespace
 
-ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property)
+ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property, Failure* failure)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) {
+        *state_,
+        [&]() __attribute__((always_inline)) {
             Object* const first = requireObject(*state_, object);
             return read(requireProperty(requireClassOf(*state_, object, first), property), first);
-        });
+        },
+        failure);
 }
 
-void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value)
+void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value, Failure* failure)
 {
     callInto(
-        *state_, [&]() __attribute__((always_inline)) {
+        *state_,
+        [&]() __attribute__((always_inline)) {
             Object* const first = requireObject(*state_, object);
             write(*state_, requireProperty(requireClassOf(*state_, object, first), property), first, value);
-        });
+        },
+        failure);
 }
 
 ArrayPtr Hvm::getStatic(std::string_view className, std::string_view property)
