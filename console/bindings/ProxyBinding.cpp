@@ -160,7 +160,7 @@ int callProxy(lua_State* L)
     if (checkKind(L) != NameKind::Class)
         fail("notCallable", "package " + std::string(name) + " cannot be called: a class of it can");
     HostCall call(L);
-    return call.finish(call.hvm().construct(name, call.inputs(2), call.failure()));
+    return call.finish(call.hvm().construct(name, call.inputs(2)));
 }
 
 int showProxy(lua_State* L)

@@ -32,7 +32,7 @@ public:
     Hvm::Inputs inputs(int first);
 
     /// Where the call's last operation puts its failure.
-    Hvm::Failure* failure() { return &failure_; }
+    Hvm::Failure& failure() { return failure_; }
 
     /// Pushes the result, where there is one; returns the number of values pushed. After a failure pushes that, and
     /// returns `raised`.

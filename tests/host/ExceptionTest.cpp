@@ -88,14 +88,14 @@ TEST_F(ExceptionTest, FailuresAreValuesWhereAskedForUnlessTheyAreOfAClassOfTheir
     velmara::ArrayPtr const object = hvm().construct("F");
     for (std::string const& identifier : identifiers) {
         velmara::Hvm::Failure failure;
-        EXPECT_FALSE(hvm().call(object.get(), "f", {}, &failure));
+        EXPECT_FALSE(hvm().call(object.get(), "f", {}, failure));
         ASSERT_TRUE(failure) << identifier;
         EXPECT_EQ(failure->identifier(), identifier);
         EXPECT_EQ(errorOf([&] { hvm().call(object.get(), "f"); }), identifier);
         ++index;
     }
     velmara::Hvm::Failure failure;
-    EXPECT_THROW(hvm().call(object.get(), "f", {}, &failure), Own);
+    EXPECT_THROW(hvm().call(object.get(), "f", {}, failure), Own);
     EXPECT_FALSE(failure);
 }
 

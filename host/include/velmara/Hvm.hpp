@@ -80,7 +80,7 @@ public:
     std::vector<ModuleRecord> modules() const;
 
     /// A new object of the class as a 1-by-1 array.
-    ArrayPtr construct(std::string_view className, Inputs inputs = {}, Failure* failure = nullptr);
+    ArrayPtr construct(std::string_view className, Inputs inputs = {});
 
     /// A new object, constructed from `object` (an object array of one element) with the constructor of its class that
     /// takes such an object; also of a class whose objects are not constructed from outside.
@@ -90,16 +90,20 @@ public:
     bool areEqual(hvArray_tag* a, hvArray_tag* b);
 
     /// Calls a method of `object` (an object array; its first element is meant). A null result when there is none.
-    ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs = {}, Failure* failure = nullptr);
+    ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs = {});
+    ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs, Failure& failure);
     ArrayPtr callStatic(std::string_view className, std::string_view method, Inputs inputs = {});
-    ArrayPtr callFunction(std::string_view fullName, Inputs inputs = {}, Failure* failure = nullptr);
+    ArrayPtr callFunction(std::string_view fullName, Inputs inputs = {});
+    ArrayPtr callFunction(std::string_view fullName, Inputs inputs, Failure& failure);
 
     /// Calls a function value (host_extensions/functionValues.hpp), likewise.
     ArrayPtr callFunction(hvArray_tag* function, Inputs inputs = {});
 
     /// Reads and writes a property of `object`, likewise. `value` stays the caller's.
-    ArrayPtr get(hvArray_tag* object, std::string_view property, Failure* failure = nullptr);
-    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value, Failure* failure = nullptr);
+    ArrayPtr get(hvArray_tag* object, std::string_view property);
+    ArrayPtr get(hvArray_tag* object, std::string_view property, Failure& failure);
+    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value);
+    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value, Failure& failure);
     ArrayPtr getStatic(std::string_view className, std::string_view property);
     void setStatic(std::string_view className, std::string_view property, hvArray_tag* value);
 

@@ -95,10 +95,17 @@ bool Hvm::areEqual(hvArray_tag* a, hvArray_tag* b)
     return callInto(*state_, [&] { return compareObjects(*state_, a, b); });
 }
 
-ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs, Failure* failure)
+ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) { return callMethod(*state_, object, method, inputs); }, failure);
+        *state_, [&]() __attribute__((always_inline)) { return callMethod(*state_, object, method, inputs); });
+}
+
+ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs, Failure& failure)
+{
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) { return callMethod(*state_, object, method, inputs); },
+        &failure);
 }
 
 ArrayPtr Hvm::callStatic(std::string_view className, std::string_view method, Inputs inputs)
@@ -107,11 +114,17 @@ ArrayPtr Hvm::callStatic(std::string_view className, std::string_view method, In
         *state_, [&]() __attribute__((always_inline)) { return callStaticMethod(*state_, className, method, inputs); });
 }
 
-ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs, Failure* failure)
+ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs)
+{
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) { return callPackageFunction(*state_, fullName, inputs); });
+}
+
+ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs, Failure& failure)
 {
     return callInto(
         *state_, [&]() __attribute__((always_inline)) { return callPackageFunction(*state_, fullName, inputs); },
-        failure);
+        &failure);
 }
 
 ArrayPtr Hvm::callFunction(hvArray_tag* function, Inputs inputs)

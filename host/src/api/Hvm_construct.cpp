@@ -100,10 +100,10 @@ ArrayPtr Hvm::copy(hvArray_tag* object)
     return callInto(*state_, [&] { return copyObject(*state_, object); });
 }
 
-ArrayPtr Hvm::construct(std::string_view className, Inputs inputs, Failure* failure)
+ArrayPtr Hvm::construct(std::string_view className, Inputs inputs)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) { return constructObject(*state_, className, inputs); }, failure);
+        *state_, [&]() __attribute__((always_inline)) { return constructObject(*state_, className, inputs); });
 }
 
 } // namespace velmara
