@@ -83,7 +83,7 @@ int collectObject(lua_State* L)
     HeldArrays::Holder const& holder = holderAt(L, 1);
     OwnedFunctions& functions = context.ownedFunctions();
     orbis::COSInterface const* const host = functions.empty() ? nullptr : hostIn(holder.array);
-    if (!context.isClosing() && functions.isValue(host, lua_touserdata(L, 1)) &&
+    if (host && !context.isClosing() && functions.isValue(host, lua_touserdata(L, 1)) &&
         (functions.isWanted(host) || isUsedElsewhere(context, host, holder.array))) {
         functions.keep(L, host, 1);
         return 0;
