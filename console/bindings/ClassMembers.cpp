@@ -1,6 +1,7 @@
 #include "bindings/ClassMembers.hpp"
 
 #include "handles/HostObject.hpp"
+#include "handles/PublishedAnswers.hpp"
 #include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
 #include "text/CloseMatches.hpp"
@@ -14,6 +15,8 @@
 namespace velmara::console {
 
 namespace {
+
+constexpr char const* callablesName = "velmara.callables"; // in the registry: the latest functions by full name
 
 /// The upvalues of a callable member's function.
 enum Upvalue { classUpvalue = 1, memberUpvalue, instanceUpvalue, staticUpvalue, nameUpvalue };
@@ -56,7 +59,7 @@ int callMember(lua_State* L)
     HostCall call(L);
     if (flag(L, instanceUpvalue) && startsWithObject(L, call.hvm())) {
         hvArray_tag* object = call.share(checkObject(L, 1));
-        return call.finish(call.hvm().call(object, name, call.inputs(2)));
+        return call.finish(call.hvm().call(object, name, call.inputs(2), call.failure()));
     }
     if (!flag(L, staticUpvalue))
         fail("noObject", std::string(name) + " needs an object of " +
@@ -68,7 +71,8 @@ int callMember(lua_State* L)
 int callPackageFunction(lua_State* L)
 {
     HostCall call(L);
-    return call.finish(call.hvm().callFunction(textAt(L, lua_upvalueindex(nameUpvalue)), call.inputs(1)));
+    return call.finish(
+        call.hvm().callFunction(textAt(L, lua_upvalueindex(nameUpvalue)), call.inputs(1), call.failure()));
 }
 
 void pushCallable(lua_State* L, std::string_view cls, std::string_view name, bool instance, bool withoutObject)
@@ -77,8 +81,13 @@ void pushCallable(lua_State* L, std::string_view cls, std::string_view name, boo
     pushText(L, name);
     lua_pushboolean(L, instance);
     lua_pushboolean(L, withoutObject);
-    pushText(L, std::string(cls) + '.' + std::string(name));
+    std::string const fullName = std::string(cls) + '.' + std::string(name);
+    pushText(L, fullName);
     lua_pushcclosure(L, guarded<callMember>, nameUpvalue);
+    luaL_getsubtable(L, LUA_REGISTRYINDEX, callablesName);
+    lua_pushvalue(L, -2);
+    lua_setfield(L, -2, fullName.c_str());
+    lua_pop(L, 1);
 }
 
 [[noreturn]] void failUnknown(ClassRecord const& cls, std::string_view name)
@@ -120,12 +129,15 @@ void pushCacheEntry(lua_State* L, std::string_view cls, std::string_view name)
 
 void pushMemberCache(lua_State* L, std::string_view className)
 {
-    pushCached(L, "velmara.members", className, [L] { lua_newtable(L); });
+    pushAnswers(L, Answers::Members);
+    pushCached(L, lua_gettop(L), className, [L] { lua_newtable(L); });
+    lua_remove(L, -2);
 }
 
 MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name)
 {
     luaL_checkstack(L, 10, nullptr);
+    forgetOutdated(L);
     pushMemberCache(L, className);
     pushCached(L, lua_gettop(L), name, [&] { pushCacheEntry(L, className, name); });
     lua_remove(L, -2);
@@ -134,6 +146,17 @@ MemberKind pushMember(lua_State* L, std::string_view className, std::string_view
     auto const kind = static_cast<MemberKind>(lua_tointeger(L, -1));
     lua_pop(L, 1);
     return kind;
+}
+
+bool pushFormerCallable(lua_State* L, std::string_view className, std::string_view name)
+{
+    luaL_checkstack(L, 4, nullptr);
+    luaL_getsubtable(L, LUA_REGISTRYINDEX, callablesName);
+    pushText(L, std::string(className).append(1, '.').append(name));
+    bool const wasFound = lua_rawget(L, -2) == LUA_TFUNCTION;
+    lua_remove(L, -2);
+    lua_pop(L, wasFound ? 0 : 1);
+    return wasFound;
 }
 
 MemberKind checkProperty(lua_State* L, std::string_view className, std::string_view name)

@@ -9,16 +9,20 @@ namespace velmara::console {
 enum class MemberKind { Callable, Property, StaticProperty, Enumerator };
 
 /// Finds the member `name` of a class. Pushes the function of a callable one, which takes the object first, or none for
-/// a static method; pushes nothing for a property or an enumerator. Results are cached in the Lua state: whether the
-/// member still exists, the host checks at each use.
+/// a static method; pushes nothing for a property or an enumerator. Results are kept: see PublishedAnswers.hpp.
 ///
 /// Throws an `Error` that names what is missing, and what comes close to it.
 MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name);
 
+/// Pushes the function that was pushed last for the member, also when it is not published any more: what reads it of an
+/// object that is not valid any more gets its error from the call. False, and nothing pushed, when there is none.
+bool pushFormerCallable(lua_State* L, std::string_view className, std::string_view name);
+
 /// The kind of the member `name`, `Property` or `StaticProperty`. Throws an `Error` when it is no property.
 MemberKind checkProperty(lua_State* L, std::string_view className, std::string_view name);
 
-/// Pushes the cache of the class: a table with a function under the name of each callable member that was found.
+/// Pushes what is kept of the class: a table with a function under the name of each callable member that was found, and
+/// the `MemberKind` under those of others. Call `forgetOutdated` before it is read.
 void pushMemberCache(lua_State* L, std::string_view className);
 
 /// Pushes the function that calls the package function of that full name.

@@ -3,6 +3,7 @@
 #include "bindings/ClassMembers.hpp"
 #include "bindings/Operators.hpp"
 #include "handles/HostObject.hpp"
+#include "handles/PublishedAnswers.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
@@ -19,48 +20,76 @@ std::string_view memberName(lua_State* L, int index)
     return textAt(L, index);
 }
 
-/// Upvalue 1 is the class's table of cached members: a known method is a single look-up.
+/// Pushes what upvalue 1, the class's table of known members, has for the key at 2; returns its type.
+int pushKnownMember(lua_State* L)
+{
+    forgetOutdated(L);
+    lua_pushvalue(L, 2);
+    return lua_rawget(L, lua_upvalueindex(1));
+}
+
+int readProperty(lua_State* L)
+{
+    HostCall call(L);
+    hvArray_tag* const object = call.share(checkObject(L, 1));
+    return call.finish(call.hvm().get(object, textAt(L, 2), call.failure()));
+}
+
 int readMember(lua_State* L)
 {
-    lua_pushvalue(L, 2);
-    if (lua_rawget(L, lua_upvalueindex(1)) == LUA_TFUNCTION)
+    int const known = pushKnownMember(L);
+    if (known == LUA_TFUNCTION)
         return 1;
+    if (known != LUA_TNIL)
+        return readProperty(L);
     lua_settop(L, 2);
     std::string_view const cls = objectClass(L, 1);
     if (lua_type(L, 2) != LUA_TSTRING && readItem(L, cls))
         return 1;
     std::string_view const name = memberName(L, 2);
-    HostCall call(L);
-    hvArray_tag* object = call.share(checkObject(L, 1));
-    if (!isValid(object))
-        return call.finish(call.hvm().get(object, name)); // the host throws its own error
-    if (pushMember(L, cls, name) == MemberKind::Callable)
-        return 1;
-    return call.finish(call.hvm().get(object, name));
+    bool const isCallable = isValid(checkObject(L, 1)) ? pushMember(L, cls, name) == MemberKind::Callable
+                                                       : pushFormerCallable(L, cls, name);
+    return isCallable ? 1 : readProperty(L); // of what cannot be used the host throws its own error
+}
+
+bool isKnownProperty(lua_State* L)
+{
+    bool const isKnown =
+        pushKnownMember(L) == LUA_TNUMBER && lua_tointeger(L, -1) != lua_Integer(MemberKind::Enumerator);
+    lua_pop(L, 1);
+    return isKnown;
+}
+
+void checkWritable(lua_State* L, std::string_view cls, std::string_view name)
+{
+    if (isValid(checkObject(L, 1)))
+        checkProperty(L, cls, name);
 }
 
 int writeMember(lua_State* L)
 {
-    std::string_view const cls = objectClass(L, 1);
-    if (lua_type(L, 2) != LUA_TSTRING && writeItem(L, cls))
-        return 0;
-    std::string_view const name = memberName(L, 2);
+    if (!isKnownProperty(L)) {
+        std::string_view const cls = objectClass(L, 1);
+        if (lua_type(L, 2) != LUA_TSTRING && writeItem(L, cls))
+            return 0;
+        checkWritable(L, cls, memberName(L, 2));
+    }
     HostCall call(L);
-    hvArray_tag* object = call.share(checkObject(L, 1));
-    if (isValid(object))
-        checkProperty(L, cls, name);
-    call.hvm().set(object, name, call.inputs(3).front());
-    return 0;
+    hvArray_tag* const object = call.share(checkObject(L, 1));
+    call.hvm().set(object, textAt(L, 2), call.inputs(3).front(), call.failure());
+    return call.finish(nullptr);
 }
 
 /// Completes the metatable, argument 1, of a class by its name, argument 2.
 int addMembers(lua_State* L)
 {
     pushMemberCache(L, textAt(L, 2));
+    lua_pushvalue(L, -1);
     lua_pushcclosure(L, guarded<readMember>, 1);
     lua_setfield(L, 1, "__index");
+    lua_pushcclosure(L, guarded<writeMember>, 1);
+    lua_setfield(L, 1, "__newindex");
     lua_settop(L, 1);
-    setField(L, "__newindex", guarded<writeMember>);
     addOperators(L, fieldText(L, 1, "__name"));
     return 0;
 }

@@ -3,6 +3,7 @@
 #include "bindings/ClassMembers.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
+#include "handles/PublishedAnswers.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
@@ -29,13 +30,70 @@ bool pushName(lua_State* L, std::string const& fullName)
     }
 }
 
+/// Where what is known of a name has its kind. The keys of its contents are texts.
+constexpr lua_Integer kindKey = 0;
+
+/// Pushes what is known of the table at 1, a proxy or the globals: its kind, and its contents by their names. Upvalue 1
+/// of all functions for Lua has it by these tables. False, and nil pushed, when nothing is known.
+bool pushKnown(lua_State* L)
+{
+    forgetOutdated(L);
+    lua_pushvalue(L, 1);
+    return lua_rawget(L, lua_upvalueindex(1)) == LUA_TTABLE;
+}
+
+/// Pushes the same, created when it is not there.
+void pushContents(lua_State* L)
+{
+    if (pushKnown(L))
+        return;
+    lua_pop(L, 1);
+    lua_newtable(L);
+    lua_pushvalue(L, 1);
+    lua_pushvalue(L, -2);
+    lua_rawset(L, lua_upvalueindex(1));
+}
+
+/// Pushes what is known under the key at 2. Pushes anything else, and returns false, when that is nothing.
+bool pushKnownContent(lua_State* L)
+{
+    if (!pushKnown(L))
+        return false;
+    lua_pushvalue(L, 2);
+    int const type = lua_rawget(L, -2);
+    return type == LUA_TFUNCTION || type == LUA_TTABLE;
+}
+
+/// Pushes the same from the host, by the full name of the key, and keeps it.
+bool pushContent(lua_State* L, std::string const& fullName)
+{
+    if (!pushName(L, fullName))
+        return false;
+    pushContents(L);
+    lua_pushvalue(L, 2);
+    lua_pushvalue(L, -3);
+    lua_rawset(L, -3);
+    lua_pop(L, 1);
+    return true;
+}
+
 /// The kind of the name of the proxy at 1. Throws an `Error` when it is not published any more.
 NameKind checkKind(lua_State* L)
 {
+    pushContents(L);
+    bool const isKnown = lua_rawgeti(L, -1, kindKey) == LUA_TNUMBER;
+    auto kind = static_cast<NameKind>(lua_tointeger(L, -1));
+    lua_pop(L, 2);
+    if (isKnown)
+        return kind;
     std::string const name(proxyName(L, 1));
-    NameKind const kind = HostContext::of(L).hvm().lookUp(name);
+    kind = HostContext::of(L).hvm().lookUp(name);
     if (kind == NameKind::None)
         fail("unknownName", name + " is not published any more");
+    pushContents(L);
+    lua_pushinteger(L, static_cast<lua_Integer>(kind));
+    lua_rawseti(L, -2, kindKey);
+    lua_pop(L, 1);
     return kind;
 }
 
@@ -75,12 +133,14 @@ int writeClassMember(lua_State* L, std::string const& className, std::string con
 
 int readProxy(lua_State* L)
 {
+    if (pushKnownContent(L))
+        return 1;
     std::string const name(proxyName(L, 1));
     std::string const key = checkKey(L);
-    if (key.find('.') == key.npos && pushName(L, name + '.' + key))
-        return 1;
     if (checkKind(L) == NameKind::Class)
         return readClassMember(L, name, key);
+    if (key.find('.') == key.npos && pushContent(L, name + '.' + key))
+        return 1;
     PackageRecord const package = HostContext::of(L).hvm().describePackage(name);
     fail("unknownName", "package " + name + " has no '" + key + "'" + didYouMean(key, packageContents(package)));
 }
@@ -96,9 +156,9 @@ int writeProxy(lua_State* L)
 
 int callProxy(lua_State* L)
 {
-    std::string const name(proxyName(L, 1));
+    std::string_view const name = proxyName(L, 1);
     if (checkKind(L) != NameKind::Class)
-        fail("notCallable", "package " + name + " cannot be called: a class of it can");
+        fail("notCallable", "package " + std::string(name) + " cannot be called: a class of it can");
     HostCall call(L);
     return call.finish(call.hvm().construct(name, call.inputs(2)));
 }
@@ -141,10 +201,19 @@ int iterateProxy(lua_State* L)
 
 int readGlobal(lua_State* L)
 {
+    if (pushKnownContent(L))
+        return 1;
     std::string_view const name = textAt(L, 2);
-    if (name.empty() || name.find('.') != name.npos || !pushName(L, std::string(name)))
+    if (name.empty() || name.find('.') != name.npos || !pushContent(L, std::string(name)))
         lua_pushnil(L);
     return 1;
+}
+
+void setMetamethod(lua_State* L, char const* name, lua_CFunction function)
+{
+    pushAnswers(L, Answers::Contents);
+    lua_pushcclosure(L, function, 1);
+    lua_setfield(L, -2, name);
 }
 
 } // namespace
@@ -170,14 +239,14 @@ std::vector<std::string> packageContents(PackageRecord const& package)
 void bindPublishedNames(lua_State* L)
 {
     pushProxyMetatable(L);
-    setField(L, "__index", guarded<readProxy>);
-    setField(L, "__newindex", guarded<writeProxy>);
-    setField(L, "__call", guarded<callProxy>);
-    setField(L, "__pairs", guarded<iterateProxy>);
+    setMetamethod(L, "__index", guarded<readProxy>);
+    setMetamethod(L, "__newindex", guarded<writeProxy>);
+    setMetamethod(L, "__call", guarded<callProxy>);
+    setMetamethod(L, "__pairs", guarded<iterateProxy>);
     setField(L, "__tostring", guarded<showProxy>);
     lua_pushglobaltable(L);
     lua_createtable(L, 0, 1);
-    setField(L, "__index", guarded<readGlobal>);
+    setMetamethod(L, "__index", guarded<readGlobal>);
     lua_setmetatable(L, -2);
     lua_pop(L, 2);
 }

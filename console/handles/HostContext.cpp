@@ -41,6 +41,7 @@ HostContext::FreshMachine::FreshMachine(HostContext& context) : context_(context
     for (ModuleRecord const& module : context.hvm().modules())
         machine->loadModule(std::u8string(module.file.begin(), module.file.end()));
     context.machines_.push_back(std::move(machine));
+    context.publicationNumber_ = 0;
 }
 
 void HostContext::requireOpen() const

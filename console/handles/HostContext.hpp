@@ -7,6 +7,7 @@
 
 #include "velmara/Hvm.hpp"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -33,6 +34,13 @@ public:
 
     /// The virtual machine in use: the innermost one.
     Hvm& hvm() { return *machines_.back(); }
+
+    /// Whether what the machine in use publishes has changed since this was asked last, or another one is in use.
+    bool hasPublicationChanged()
+    {
+        std::uint64_t const number = hvm().publicationNumber();
+        return std::exchange(publicationNumber_, number) != number;
+    }
 
     /// The script, or the coroutine of it, that has called the host most recently and is still running; null once the
     /// state was closed. Functions of the script that the host calls run there.
@@ -70,7 +78,11 @@ public:
         explicit FreshMachine(HostContext& context);
         FreshMachine(FreshMachine const&) = delete;
         FreshMachine& operator=(FreshMachine const&) = delete;
-        ~FreshMachine() { context_.machines_.pop_back(); }
+        ~FreshMachine()
+        {
+            context_.machines_.pop_back();
+            context_.publicationNumber_ = 0;
+        }
 
     private:
         HostContext& context_;
@@ -100,6 +112,7 @@ private:
     ArrayStack arrays_;
     HeldArrays heldArrays_;
     OwnedFunctions ownedFunctions_;
+    std::uint64_t publicationNumber_ = 0; ///< the latest one that was asked for; 0 for none
     bool hasFailed_ = false;
     bool isClosing_ = false;
     bool reportsLeaks_;

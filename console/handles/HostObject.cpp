@@ -1,6 +1,8 @@
 #include "handles/HostObject.hpp"
 
 #include "handles/HostContext.hpp"
+#include "handles/ObjectValues.hpp"
+#include "handles/PublishedAnswers.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
@@ -17,17 +19,33 @@ namespace velmara::console {
 
 namespace {
 
-// Their addresses are keys: of the mark in an object's metatable, and of what completes metatables in the registry.
-char const objectMark = 0;
-char const completionKey = 0;
+char const completionKey = 0; // its address is the key of what completes metatables in the registry
+char const objectMark = 0;    // its address tells objects from other values
 
-using Holder = HeldArrays::Holder;
+/// The value of an object. No other userdata has this size and begins with the mark.
+struct ObjectHolder {
+    void const* mark = &objectMark;
+    HeldArrays::Holder held;
+};
 
-Holder* holderAt(lua_State* L, int index)
+/// Null for any other value.
+ObjectHolder* testHolder(lua_State* L, int index)
 {
-    if (!isObject(L, index))
-        fail("noObject", kindAt(L, index) + " is no object");
-    return static_cast<Holder*>(lua_touserdata(L, index));
+    auto* const holder = static_cast<ObjectHolder*>(lua_touserdata(L, index));
+    return holder && lua_rawlen(L, index) == sizeof(ObjectHolder) && holder->mark == &objectMark ? holder : nullptr;
+}
+
+[[noreturn, gnu::noinline]] void throwNoObject(lua_State* L, int index)
+{
+    fail("noObject", kindAt(L, index) + " is no object");
+}
+
+HeldArrays::Holder& holderAt(lua_State* L, int index)
+{
+    ObjectHolder* const holder = testHolder(L, index);
+    if (!holder) [[unlikely]]
+        throwNoObject(L, index);
+    return holder->held;
 }
 
 orbis::COSInterface* hostIn(hvArray_tag const* array, std::size_t index = 0)
@@ -38,10 +56,10 @@ orbis::COSInterface* hostIn(hvArray_tag const* array, std::size_t index = 0)
 int releaseObject(lua_State* L)
 {
     HostContext& context = HostContext::of(L);
-    Holder& holder = *holderAt(L, 1);
+    HeldArrays::Holder& holder = holderAt(L, 1);
     OwnedFunctions& functions = context.ownedFunctions();
     if (!functions.empty() && !context.isClosing())
-        if (orbis::COSInterface const* const host = hostIn(holder.array); functions.isValue(host, &holder))
+        if (orbis::COSInterface const* const host = hostIn(holder.array); functions.isValue(host, lua_touserdata(L, 1)))
             functions.release(L, host, 1);
     context.heldArrays().release(holder).reset();
     return 0;
@@ -62,10 +80,10 @@ bool isUsedElsewhere(HostContext& context, orbis::COSInterface const* host, hvAr
 int collectObject(lua_State* L)
 {
     HostContext& context = HostContext::of(L);
-    Holder const& holder = *holderAt(L, 1);
+    HeldArrays::Holder const& holder = holderAt(L, 1);
     OwnedFunctions& functions = context.ownedFunctions();
     orbis::COSInterface const* const host = functions.empty() ? nullptr : hostIn(holder.array);
-    if (host && !context.isClosing() && functions.isValue(host, &holder) &&
+    if (host && !context.isClosing() && functions.isValue(host, lua_touserdata(L, 1)) &&
         (functions.isWanted(host) || isUsedElsewhere(context, host, holder.array))) {
         functions.keep(L, host, 1);
         return 0;
@@ -76,7 +94,7 @@ int collectObject(lua_State* L)
 /// The name of the enumerator at `index`; null for other objects.
 char const* enumeratorName(lua_State* L, int index)
 {
-    hvArray_tag const* const array = holderAt(L, index)->array;
+    hvArray_tag const* const array = holderAt(L, index).array;
     auto const* const enumerator =
         array ? orbis::host_extensions::describeEnumerator(orbis::omGetArrayElement(array, 0)) : nullptr;
     return enumerator ? enumerator->name : nullptr;
@@ -95,14 +113,17 @@ int objectText(lua_State* L)
 
 int compareObjects(lua_State* L)
 {
-    bool const areHeld = isObject(L, 1) && isObject(L, 2) && holderAt(L, 1)->array && holderAt(L, 2)->array;
-    lua_pushboolean(L, areHeld && isSameObject(holderAt(L, 1)->array, holderAt(L, 2)->array));
+    ObjectHolder const* const a = testHolder(L, 1);
+    ObjectHolder const* const b = testHolder(L, 2);
+    lua_pushboolean(L, a && b && a->held.array && b->held.array && isSameObject(a->held.array, b->held.array));
     return 1;
 }
 
 void pushMetatable(lua_State* L, std::string_view className)
 {
-    pushCached(L, "velmara.classes", className, [&] {
+    forgetOutdated(L);
+    pushAnswers(L, Answers::Metatables);
+    pushCached(L, lua_gettop(L), className, [&] {
         lua_newtable(L);
         setField(L, "__gc", guarded<collectObject>);
         setField(L, "__close", guarded<releaseObject>);
@@ -110,36 +131,53 @@ void pushMetatable(lua_State* L, std::string_view className)
         setField(L, "__tostring", guarded<objectText>);
         setField(L, "__name", className);
         setField(L, "__metatable", className);
-        lua_pushboolean(L, true);
-        lua_rawsetp(L, -2, &objectMark);
         lua_rawgetp(L, LUA_REGISTRYINDEX, &completionKey);
         lua_pushvalue(L, -2);
         pushText(L, className);
         lua_call(L, 2, 0);
     });
+    lua_remove(L, -2);
+}
+
+/// Pushes the value that holds the object already; false, and nothing pushed, when there is none.
+bool pushKnown(lua_State* L, orbis::COSInterface const* host)
+{
+    pushRecordedValue(L, host);
+    if (auto const* const holder = static_cast<ObjectHolder*>(lua_touserdata(L, -1));
+        holder && hostIn(holder->held.array) == host)
+        return true;
+    lua_pop(L, 1);
+    return false;
+}
+
+void pushNew(lua_State* L, HostContext& context, orbis::COSInterface* host)
+{
+    ArrayStack::Frame frame(context.arrays());
+    hvArray_tag* const scalar = frame.push(ArrayPtr(orbis::omCreateORBISScalar(host)));
+    auto* const holder =
+        new (lua_newuserdatauv(L, sizeof(ObjectHolder), 1)) ObjectHolder; // its user value: see OwnedFunctions
+    pushMetatable(L, className(scalar));
+    lua_setmetatable(L, -2);
+    scalar->add_reference();
+    context.heldArrays().hold(holder->held, ArrayPtr(scalar));
+    recordValue(L, host, -1);
 }
 
 } // namespace
 
 void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
-    HostContext::of(L).requireOpen();
+    HostContext& context = HostContext::of(L);
+    context.requireOpen();
     luaL_checkstack(L, 10, nullptr);
-    OwnedFunctions& functions = HostContext::of(L).ownedFunctions();
-    orbis::COSInterface const* const host = functions.empty() ? nullptr : hostIn(array, index);
-    bool const hasFunctions = functions.has(host);
-    if (hasFunctions && functions.pushValue(L, host))
-        return;
-    ArrayStack::Frame frame(HostContext::of(L).arrays());
-    hvArray_tag* scalar = frame.push(ArrayPtr(orbis::omCreateORBISScalar(orbis::omGetArrayElement(array, index))));
-    if (scalar->get_number_of_elements() == 0)
+    orbis::COSInterface* const host = hostIn(array, index);
+    if (!host)
         return lua_pushnil(L);
-    auto* holder = new (lua_newuserdatauv(L, sizeof(Holder), hasFunctions ? 1 : 0)) Holder;
-    pushMetatable(L, className(scalar));
-    lua_setmetatable(L, -2);
-    scalar->add_reference();
-    HostContext::of(L).heldArrays().hold(*holder, ArrayPtr(scalar));
-    if (hasFunctions)
+    OwnedFunctions& functions = context.ownedFunctions();
+    bool const hasFunctions = functions.has(host);
+    if (!(hasFunctions && functions.pushValue(L, host)) && !pushKnown(L, host))
+        pushNew(L, context, host);
+    if (hasFunctions && !functions.isValue(host, lua_touserdata(L, -1)))
         functions.anchor(L, host);
 }
 
@@ -151,19 +189,24 @@ void completeMetatablesWith(lua_State* L, lua_CFunction complete)
 
 bool isObject(lua_State* L, int index)
 {
-    if (lua_type(L, index) != LUA_TUSERDATA || !lua_getmetatable(L, index))
-        return false;
-    bool const isMarked = lua_rawgetp(L, -1, &objectMark) != LUA_TNIL;
-    lua_pop(L, 2);
-    return isMarked;
+    return testHolder(L, index) != nullptr;
 }
+
+namespace {
+
+[[noreturn, gnu::noinline]] void throwClosed(lua_State* L, int index)
+{
+    fail("closed", "this object of " + std::string(objectClass(L, index)) + " was given back");
+}
+
+} // namespace
 
 hvArray_tag* checkObject(lua_State* L, int index)
 {
-    Holder const* holder = holderAt(L, index);
-    if (!holder->array)
-        fail("closed", "this object of " + std::string(objectClass(L, index)) + " was given back");
-    return holder->array;
+    hvArray_tag* const array = holderAt(L, index).array;
+    if (!array) [[unlikely]]
+        throwClosed(L, index);
+    return array;
 }
 
 std::string_view objectClass(lua_State* L, int index)
@@ -177,8 +220,8 @@ std::string_view objectClass(lua_State* L, int index)
 
 bool isValidObject(lua_State* L, int index)
 {
-    Holder const* holder = holderAt(L, index);
-    return holder->array && isValid(holder->array);
+    hvArray_tag const* const array = holderAt(L, index).array;
+    return array && isValid(array);
 }
 
 } // namespace velmara::console

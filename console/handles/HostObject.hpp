@@ -10,7 +10,8 @@
 namespace velmara::console {
 
 /// Host objects in scripts: a value that holds the object in a 1-by-1 array of the object's own class. It releases the
-/// object when it is collected, or closed as a `<close>` variable.
+/// object when it is collected, or closed as a `<close>` variable; the object then gets another value when it crosses
+/// again. Until then it has one: table keys and `rawequal` agree with ==.
 
 /// Pushes the object at a zero-based index of an object array; nil for a null element.
 void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index);

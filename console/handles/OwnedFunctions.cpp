@@ -1,7 +1,6 @@
 #include "handles/OwnedFunctions.hpp"
 
-#include "lua/CachedValue.hpp"
-#include "lua/Table.hpp"
+#include "handles/ObjectValues.hpp"
 
 #include <algorithm>
 
@@ -9,23 +8,8 @@ namespace velmara::console {
 
 namespace {
 
-// Their addresses are keys in the registry: of the values by their objects, and of all values, whose garbage is found
-// in the latter until it is finalized.
-char const valuesKey = 0;
-char const anchorsKey = 0;
-
-void pushWeakTable(lua_State* L, void const* key, char const* mode)
-{
-    if (lua_rawgetp(L, LUA_REGISTRYINDEX, key) == LUA_TTABLE)
-        return;
-    lua_pop(L, 1);
-    lua_newtable(L);
-    lua_createtable(L, 0, 1);
-    setField(L, "__mode", mode);
-    lua_setmetatable(L, -2);
-    lua_pushvalue(L, -1);
-    lua_rawsetp(L, LUA_REGISTRYINDEX, key);
-}
+char const anchorsKey = 0; // its address is the key of all values in the registry: their garbage is found there until
+                           // it is finalized
 
 /// Pushes the userdata; false, and nothing pushed, when it is gone.
 bool pushAnchor(lua_State* L, void const* userdata)
@@ -41,16 +25,6 @@ bool pushAnchor(lua_State* L, void const* userdata)
     }
     lua_pop(L, 1);
     return false;
-}
-
-/// Records the value at `index` as that of the object.
-void record(lua_State* L, OwnedFunctions::Host host, int index)
-{
-    index = lua_absindex(L, index);
-    pushWeakTable(L, &valuesKey, "v");
-    lua_pushvalue(L, index);
-    lua_rawsetp(L, -2, host);
-    lua_pop(L, 1);
 }
 
 } // namespace
@@ -76,9 +50,7 @@ bool OwnedFunctions::pushValue(lua_State* L, Host host)
     Entry& entry = entries_.at(host);
     if (!entry.value)
         return false;
-    pushWeakTable(L, &valuesKey, "v");
-    lua_rawgetp(L, -1, host);
-    lua_remove(L, -2);
+    pushRecordedValue(L, host);
     if (lua_touserdata(L, -1) == entry.value)
         return true;
     lua_pop(L, 1);
@@ -112,7 +84,6 @@ void OwnedFunctions::anchor(lua_State* L, Host host)
     lua_pushboolean(L, true);
     lua_rawset(L, -3);
     lua_pop(L, 1);
-    record(L, host, -1);
     entry.value = lua_touserdata(L, -1);
     for (Function* const function : entry.functions)
         function->drop(L);
@@ -127,7 +98,7 @@ void OwnedFunctions::keep(lua_State* L, Host host, int index)
 {
     index = lua_absindex(L, index);
     entries_.at(host).isWanted = false;
-    record(L, host, index);
+    recordValue(L, host, index);
     lua_getmetatable(L, index);
     lua_setmetatable(L, index); // it is to be finalized again
 }

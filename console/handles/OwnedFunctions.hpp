@@ -47,7 +47,7 @@ public:
     /// Pushes the function, which the value of the object holds; returns false, and pushes nothing, when it is lost.
     bool pushFunction(lua_State* L, Host host, Function const& function);
 
-    /// Has the value on top of the stack, a userdata with a user value, hold the functions of its object.
+    /// Has the recorded value of the object, a userdata with a user value on top of the stack, hold its functions.
     void anchor(lua_State* L, Host host);
 
     /// Whether a userdata is the value of the object.

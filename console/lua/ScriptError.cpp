@@ -103,7 +103,8 @@ void fail(std::string_view key, std::string const& text)
 int callGuarded(lua_State* L, lua_CFunction body)
 {
     try {
-        return body(L);
+        if (int const results = body(L); results != raised) [[likely]]
+            return results;
     } catch (ScriptFailure const& failure) {
         pushFailure(L, failure);
     } catch (Error const& error) {

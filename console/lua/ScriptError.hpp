@@ -31,7 +31,11 @@ std::string errorText(lua_State* L, int index);
 /// Throws the console's own `velmara::Error` "VELMARA:console:KEY".
 [[noreturn]] void fail(std::string_view key, std::string const& text);
 
-/// Calls `body`; what it throws becomes a Lua error. Lua's own errors pass through untouched.
+/// What a function returns that has pushed an error value for `callGuarded` to raise.
+inline constexpr int raised = -1;
+
+/// Calls `body`; what it throws becomes a Lua error, and so does what it has `raised`. Lua's own errors pass through
+/// untouched.
 int callGuarded(lua_State* L, lua_CFunction body);
 
 /// `Body` as a function for Lua: no C++ exception leaves it.

@@ -168,8 +168,9 @@ void storeObject(lua_State* L, int value, hvArray_tag* array, std::size_t index)
 
 void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
-    luaL_checkstack(L, 8, nullptr);
     hvClassID const classID = array->_get_class_id_non_trivial();
+    if (!findNumericClass(classID))
+        luaL_checkstack(L, 8, nullptr);
     if (classID == functionClass)
         return pushFunction(L, *array);
     void const* const data = orbis::host_extensions::getData(array);

@@ -1,6 +1,7 @@
 #include "values/HostCall.hpp"
 
 #include "handles/HostArray.hpp"
+#include "lua/ScriptError.hpp"
 #include "values/ValueToHost.hpp"
 #include "values/ValueToLua.hpp"
 
@@ -36,6 +37,10 @@ Hvm::Inputs HostCall::inputs(int first)
 
 int HostCall::finish(ArrayPtr result)
 {
+    if (failure_) [[unlikely]] {
+        pushError(L_, *failure_);
+        return raised;
+    }
     if (!result)
         return 0;
     hvArray_tag const* const array = frame_.push(std::move(result));

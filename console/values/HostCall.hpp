@@ -31,7 +31,11 @@ public:
     /// The host arrays for the function's arguments from the `first` on. Call once.
     Hvm::Inputs inputs(int first);
 
-    /// Pushes the result, where there is one; returns the number of values pushed.
+    /// Where the call's last operation puts its failure.
+    Hvm::Failure& failure() { return failure_; }
+
+    /// Pushes the result, where there is one; returns the number of values pushed. After a failure pushes that, and
+    /// returns `raised`.
     int finish(ArrayPtr result);
 
 private:
@@ -40,6 +44,7 @@ private:
     ArrayStack::Frame frame_;
     lua_State* previous_;
     bool keepsArray_;
+    Hvm::Failure failure_;
 };
 
 } // namespace velmara::console

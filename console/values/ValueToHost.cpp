@@ -43,15 +43,15 @@ ArrayPtr number(lua_State* L, int index)
 
 ArrayPtr userdata(lua_State* L, int index)
 {
-    if (isNull(L, index))
-        return emptyArray();
-    if (isMissing(L, index))
-        return ArrayPtr(orbis::host_extensions::createStringMatrix(1, 1));
     if (isObject(L, index)) {
         hvArray_tag* const object = checkObject(L, index);
         object->add_reference();
         return ArrayPtr(object);
     }
+    if (isNull(L, index))
+        return emptyArray();
+    if (isMissing(L, index))
+        return ArrayPtr(orbis::host_extensions::createStringMatrix(1, 1));
     if (!isHostArray(L, index))
         fail("value", kindAt(L, index) + " cannot be passed to the host");
     // A copy, so that what the script writes to its array later does not show in this one.

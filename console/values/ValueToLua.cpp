@@ -77,12 +77,14 @@ void pushCells(lua_State* L, hvArray_tag const& cells, Conversion& conversion)
 
 void pushValue(lua_State* L, hvArray_tag const* array)
 {
-    luaL_checkstack(L, 8, nullptr);
     if (!array)
         return lua_pushnil(L);
     hvClassID const classID = array->_get_class_id_non_trivial();
-    bool const isNone = rowsOf(*array) == 0 && columnsOf(*array) == 0;
     std::size_t const count = array->get_number_of_elements();
+    if (count == 1 && findNumericClass(classID)) // needs a slot only, which is there
+        return pushElement(L, array, 0);
+    luaL_checkstack(L, 8, nullptr);
+    bool const isNone = rowsOf(*array) == 0 && columnsOf(*array) == 0;
     if (classID == hvOBJECT_CLASS && isNone)
         return lua_pushnil(L);
     if (classID == hvOBJECT_CLASS && count == 1)
@@ -91,8 +93,6 @@ void pushValue(lua_State* L, hvArray_tag const* array)
         return pushFunction(L, *array);
     if (classID == hvCHAR_CLASS && (isNone || (rowsOf(*array) == 1 && count != 0)))
         return pushRow(L, *array, 0);
-    if (findNumericClass(classID) && count == 1)
-        return pushElement(L, array, 0);
     if ((classID == hvDOUBLE_CLASS && isNone) || (isOfTables(classID) && count != 0))
         return pushElements(L, *array, [&](std::size_t i) { pushElement(L, array, i); });
     pushHostArray(L, *array);

@@ -113,6 +113,24 @@ private:
     Probe common_;
 };
 
+/// Has a method and an operator, or a property of the method's name.
+struct ChangingInfo final : described::Class {
+    explicit ChangingInfo(bool hasMethods) : Class("cases.Changing"), hasMethods_(hasMethods) {}
+
+    void initializeClass(COSClass* cls) override
+    {
+        auto const one = [](auto) { return ArrayPtr(host_extensions::createMatrix(1, 1, hvDOUBLE_CLASS)); };
+        if (!hasMethods_)
+            return cls->addProperty(new Property("member", true, &common_));
+        cls->addMethod(new Method("member", false, "any", {{"cases.Changing", "this"}}, one));
+        cls->addMethod(new Method("plus", false, "any", {{"cases.Changing", "this"}, {"any", "other"}}, one));
+    }
+
+private:
+    bool hasMethods_;
+    Probe common_;
+};
+
 template <class T>
 ArrayPtr matrix(std::size_t rows, std::size_t columns, std::initializer_list<T> elements)
 {
@@ -152,6 +170,9 @@ public:
             [](auto in) { return matrix<double>(1, 1, {in[8].template scalar<double>()}); });
         add("small", {}, [](auto) { return matrix<std::uint64_t>(1, 1, {7}); });
         add("alive", {}, [this](auto) { return matrix<std::int32_t>(1, 1, {alive_}); });
+        package->addClass(new ChangingInfo(isOdd_));
+        if (isOdd_)
+            add("changing", {}, [](auto) { return matrix<double>(1, 1, {1}); });
         add("large", {{"double scalar", "less"}}, [](auto in) {
             return matrix<std::uint64_t>(1, 1, {most - static_cast<std::uint64_t>(in[0].template scalar<double>())});
         });
@@ -178,7 +199,10 @@ public:
     }
 
 private:
+    static inline int count = 0;
+
     int alive_ = 0; // probes
+    bool isOdd_ = ++count % 2 != 0;
     bool leaves_ = false;
 };
 

@@ -6,7 +6,9 @@
 #include "orbis/Enumeration.hpp"
 
 #include <cstdint>
+#include <functional>
 #include <new>
+#include <stdexcept>
 
 namespace {
 
@@ -67,6 +69,34 @@ TEST_F(ExceptionTest, TextsAreFilledWithTheArguments)
         tested_key({std::to_string(SIZE_MAX), IUserException::convert_str(u"k\xE4\xD83D\xDE00\xD800")}));
     EXPECT_STREQ(made.what(), "18446744073709551615 and k\xC3\xA4\xF0\x9F\x98\x80\xEF\xBF\xBD");
     EXPECT_EQ(made.GetUnicodeMessageTxt(), u"18446744073709551615 and k\xE4\xD83D\xDE00\xFFFD");
+}
+
+TEST_F(ExceptionTest, FailuresAreValuesWhereAskedForUnlessTheyAreOfAClassOfTheirOwn)
+{
+    struct Own : velmara::Error {
+        using Error::Error;
+    };
+    std::vector<std::function<void()>> const throwers = {
+        [] { throw velmara::Error("a:b", "c"); }, [] { throw std::runtime_error("c"); }, [] { throw std::bad_alloc(); },
+        [] { throw 1; }, [] { throw Own("a:b", "c"); }};
+    std::string const identifiers[] = {"a:b", "VELMARA:native:exception", "VELMARA:memory:exhausted",
+                                       "VELMARA:native:unknown"};
+    std::size_t index = 0;
+    described::publish(new described::Class("F", [&](orbis::COSClass* cls) {
+        cls->addMethod(new described::Method("f", "", {"F"}, [&](auto&&) { throwers[index](); }));
+    }));
+    velmara::ArrayPtr const object = hvm().construct("F");
+    for (std::string const& identifier : identifiers) {
+        velmara::Hvm::Failure failure;
+        EXPECT_FALSE(hvm().call(object.get(), "f", {}, failure));
+        ASSERT_TRUE(failure) << identifier;
+        EXPECT_EQ(failure->identifier(), identifier);
+        EXPECT_EQ(errorOf([&] { hvm().call(object.get(), "f"); }), identifier);
+        ++index;
+    }
+    velmara::Hvm::Failure failure;
+    EXPECT_THROW(hvm().call(object.get(), "f", {}, failure), Own);
+    EXPECT_FALSE(failure);
 }
 
 TEST_F(ExceptionTest, TextsBelongToTheirVirtualMachine)

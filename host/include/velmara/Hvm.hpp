@@ -8,9 +8,11 @@
 
 #include "orbis/COSInterfacePtr.hpp"
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -26,6 +28,10 @@ class HvmState;
 class VELMARA_API Hvm {
 public:
     using Inputs = std::span<hvArray_tag* const>;
+
+    /// Where the operations that take it put their failure instead of throwing it, which costs most of what a failure
+    /// does; they return a null array. Errors of classes derived from `Error` are thrown all the same.
+    using Failure = std::optional<Error>;
 
     Hvm();
     Hvm(Hvm const&) = delete;
@@ -85,15 +91,19 @@ public:
 
     /// Calls a method of `object` (an object array; its first element is meant). A null result when there is none.
     ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs = {});
+    ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs, Failure& failure);
     ArrayPtr callStatic(std::string_view className, std::string_view method, Inputs inputs = {});
     ArrayPtr callFunction(std::string_view fullName, Inputs inputs = {});
+    ArrayPtr callFunction(std::string_view fullName, Inputs inputs, Failure& failure);
 
     /// Calls a function value (host_extensions/functionValues.hpp), likewise.
     ArrayPtr callFunction(hvArray_tag* function, Inputs inputs = {});
 
     /// Reads and writes a property of `object`, likewise. `value` stays the caller's.
     ArrayPtr get(hvArray_tag* object, std::string_view property);
+    ArrayPtr get(hvArray_tag* object, std::string_view property, Failure& failure);
     void set(hvArray_tag* object, std::string_view property, hvArray_tag* value);
+    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value, Failure& failure);
     ArrayPtr getStatic(std::string_view className, std::string_view property);
     void setStatic(std::string_view className, std::string_view property, hvArray_tag* value);
 
@@ -110,6 +120,10 @@ public:
     /// Ends the objects of an object array now: they become invalid and give up their native objects. Enumerators are
     /// refused.
     void deleteObjects(hvArray_tag* objects);
+
+    /// Another number after each change of what is published: names and members, by modules and by need. What was asked
+    /// for while it was the same holds.
+    std::uint64_t publicationNumber() const noexcept;
 
     NameKind lookUp(std::string_view fullName);
     PackageRecord describePackage(std::string_view fullName); ///< "" for the top level

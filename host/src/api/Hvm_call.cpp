@@ -101,6 +101,13 @@ ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs)
         *state_, [&]() __attribute__((always_inline)) { return callMethod(*state_, object, method, inputs); });
 }
 
+ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs, Failure& failure)
+{
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) { return callMethod(*state_, object, method, inputs); },
+        &failure);
+}
+
 ArrayPtr Hvm::callStatic(std::string_view className, std::string_view method, Inputs inputs)
 {
     return callInto(
@@ -111,6 +118,13 @@ ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs)
 {
     return callInto(
         *state_, [&]() __attribute__((always_inline)) { return callPackageFunction(*state_, fullName, inputs); });
+}
+
+ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs, Failure& failure)
+{
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) { return callPackageFunction(*state_, fullName, inputs); },
+        &failure);
 }
 
 ArrayPtr Hvm::callFunction(hvArray_tag* function, Inputs inputs)

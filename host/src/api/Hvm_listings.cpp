@@ -183,6 +183,11 @@ void addObjects(Package const& package, std::vector<ObjectRecord>& listed)
 
 } // namespace
 
+std::uint64_t Hvm::publicationNumber() const noexcept
+{
+    return state_->packages().publicationNumber();
+}
+
 NameKind Hvm::lookUp(std::string_view fullName)
 {
     return callInto(*state_, [&] { return lookUpName(*state_, fullName); });

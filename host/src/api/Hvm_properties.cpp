@@ -114,24 +114,43 @@ ArrayPtr read(Property const& property, Object* object)
     property.info->setValue(owner, *converted.values());
 }
 
+[[gnu::always_inline]] inline ArrayPtr readOf(Machine& machine, hvArray_tag* object, std::string_view property)
+{
+    Object* const first = requireObject(machine, object);
+    return read(requireProperty(requireClassOf(machine, object, first), property), first);
+}
+
+[[gnu::always_inline]] inline void writeOf(Machine& machine, hvArray_tag* object, std::string_view property,
+                                           hvArray_tag* value)
+{
+    Object* const first = requireObject(machine, object);
+    write(machine, requireProperty(requireClassOf(machine, object, first), property), first, value);
+}
+
 } // namespace
 
 ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) {
-            Object* const first = requireObject(*state_, object);
-            return read(requireProperty(requireClassOf(*state_, object, first), property), first);
-        });
+        *state_, [&]() __attribute__((always_inline)) { return readOf(*state_, object, property); });
+}
+
+ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property, Failure& failure)
+{
+    return callInto(
+        *state_, [&]() __attribute__((always_inline)) { return readOf(*state_, object, property); }, &failure);
 }
 
 void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value)
 {
     callInto(
-        *state_, [&]() __attribute__((always_inline)) {
-            Object* const first = requireObject(*state_, object);
-            write(*state_, requireProperty(requireClassOf(*state_, object, first), property), first, value);
-        });
+        *state_, [&]() __attribute__((always_inline)) { writeOf(*state_, object, property, value); });
+}
+
+void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value, Failure& failure)
+{
+    callInto(
+        *state_, [&]() __attribute__((always_inline)) { writeOf(*state_, object, property, value); }, &failure);
 }
 
 ArrayPtr Hvm::getStatic(std::string_view className, std::string_view property)

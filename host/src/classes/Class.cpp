@@ -94,6 +94,7 @@ bool Class::isBusy() const
 void Class::close()
 {
     state_ = State::Closed;
+    machine().packages().countPublication();
     while (!subclasses_.empty()) {
         Class& subclass = *subclasses_.back();
         subclass.close();

@@ -1,4 +1,5 @@
 #include "classes/Class.hpp"
+#include "classes/PackageTree.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
 
@@ -82,6 +83,7 @@ void Class::rebuildTables()
 {
     NewTables rebuilt;
     buildTables(rebuilt);
+    machine().packages().countPublication();
     // Running calls may still use the old tables.
     for (auto& [cls, tables] : rebuilt)
         machine().retire(std::exchange(cls->contents_->tables, std::move(tables)));

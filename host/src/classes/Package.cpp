@@ -50,6 +50,7 @@ bool Package::isBusy() const
 void Package::close()
 {
     state_ = State::Closed;
+    tree_.countPublication();
     for (std::size_t i = 0; i < packages_.size(); ++i)
         packages_[i]->close();
     for (std::size_t i = 0; i < classes_.size(); ++i)
@@ -132,6 +133,7 @@ void Package::remove(Method& function)
     std::unique_ptr<Method> taken = extract(functions_, function);
     if (!taken)
         return;
+    tree_.countPublication();
     (*functionGroups_.find(function.name))->remove(function);
     tree_.machine().retire(std::move(taken));
 }

@@ -211,6 +211,7 @@ void PackageTree::clear() noexcept
 
 void PackageTree::erase(Package const& package) noexcept
 {
+    countPublication();
     Package* const* const found = packages_.find(package.name());
     if (found && *found == &package)
         packages_.erase(package.name());
@@ -227,6 +228,7 @@ void PackageTree::erase(Package const& package) noexcept
 
 void PackageTree::erase(Class const& cls) noexcept
 {
+    countPublication();
     Class* const* const found = classes_.find(cls.name());
     if (found && *found == &cls) {
         classes_.erase(cls.name());

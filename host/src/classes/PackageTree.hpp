@@ -3,6 +3,7 @@
 #include "classes/Package.hpp"
 #include "names/NameMap.hpp"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -19,6 +20,10 @@ public:
 
     Machine& machine() const { return machine_; }
     Package& root() { return root_; }
+
+    /// See `Hvm::publicationNumber`.
+    std::uint64_t publicationNumber() const { return publicationNumber_; }
+    void countPublication() noexcept { ++publicationNumber_; }
 
     /// Null when there is none. Parents are populated when they were not yet, and may load the package.
     Package* findPackage(std::string_view fullName);
@@ -74,8 +79,13 @@ public:
         reserveUndo();
         entriesOf(published)[published.name()] = &published;
         recordUndo(std::move(undo));
+        countPublication();
     }
-    void insert(FunctionGroup const& functions) { functions_[functions.fullName] = &functions; }
+    void insert(FunctionGroup const& functions)
+    {
+        functions_[functions.fullName] = &functions;
+        countPublication();
+    }
     void erase(Package const& package) noexcept;
     void erase(Class const& cls) noexcept;
 
@@ -116,6 +126,7 @@ private:
     NameMap<Class*> classes_;
     NameMap<FunctionGroup const*> functions_;
     std::vector<Undo> undos_;
+    std::uint64_t publicationNumber_ = 1;
     int depth_ = 0; ///< of transactions
     bool isUndoing_ = false;
     Package root_;

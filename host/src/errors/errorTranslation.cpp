@@ -42,8 +42,6 @@ Error nativeError(char const* key, Text text)
     return {std::string("VELMARA:native:") + key, messageText("VELMARA:native", key, {text()})};
 }
 
-Error translatedError();
-
 /// The error with that of the exception which is nested in the one that it describes.
 template <class Exception>
 Error withCause(Error error, Exception const& exception)
@@ -51,49 +49,59 @@ Error withCause(Error error, Exception const& exception)
     auto const* const outer = dynamic_cast<std::nested_exception const*>(&exception);
     if (!outer || !outer->nested_ptr())
         return error;
-    try {
-        outer->rethrow_nested();
-    } catch (std::bad_alloc const&) {
-        return {error, std::make_shared<Error const>(Error::outOfMemory())};
-    } catch (...) {
-        return {error, std::make_shared<Error const>(translatedError())};
-    }
+    Error const cause =
+        translateErrors([&]() -> Error { outer->rethrow_nested(); }, [](Error const& nested) { return nested; });
+    return {error, std::make_shared<Error const>(cause)};
 }
 
-Error translatedError()
+/// What `describe` returns; a shortage of memory meanwhile is the error instead.
+template <class Describe>
+Error described(Describe const& describe)
 {
     try {
-        throw;
-    } catch (Error const& error) {
-        return error;
+        return describe();
     } catch (std::bad_alloc const&) {
-        throw;
-    } catch (foundation::core::except::IMsgIDException const& error) {
-        std::string const& identifier = error.getErrorID();
-        // Not `what()`, which ends at a zero in an argument.
-        return withCause({identifier.empty() ? "VELMARA:native:exception" : identifier,
-                          fl::i18n::to_string(error.GetUnicodeMessageTxt())},
-                         error);
-    } catch (foundation::core::except::IException const& error) {
-        return withCause(nativeError("exception", [&] { return std::string(error.what()); }), error);
-    } catch (std::exception const& error) {
-        return withCause(nativeError("exception", [&] { return chainText(error); }), error);
-    } catch (std::nested_exception const& error) {
-        return withCause(nativeError("unknown", [] { return std::string(); }), error);
-    } catch (...) {
-        return nativeError("unknown", [] { return std::string(); });
+        return Error::outOfMemory();
     }
 }
 
 } // namespace
 
+Error errorOf(foundation::core::except::IMsgIDException const& error)
+{
+    return described([&] {
+        std::string const& identifier = error.getErrorID();
+        // Not `what()`, which ends at a zero in an argument.
+        return withCause({identifier.empty() ? "VELMARA:native:exception" : identifier,
+                          fl::i18n::to_string(error.GetUnicodeMessageTxt())},
+                         error);
+    });
+}
+
+Error errorOf(foundation::core::except::IException const& error)
+{
+    return described(
+        [&] { return withCause(nativeError("exception", [&] { return std::string(error.what()); }), error); });
+}
+
+Error errorOf(std::exception const& error)
+{
+    return described([&] { return withCause(nativeError("exception", [&] { return chainText(error); }), error); });
+}
+
+Error errorOf(std::nested_exception const& error)
+{
+    return described([&] { return withCause(nativeError("unknown", [] { return std::string(); }), error); });
+}
+
+Error errorOfUnknown()
+{
+    return described([&] { return nativeError("unknown", [] { return std::string(); }); });
+}
+
 Error currentError()
 {
-    try {
-        return translatedError();
-    } catch (std::bad_alloc const&) {
-        return Error::outOfMemory();
-    }
+    return translateErrors([]() -> Error { throw; }, [](Error const& error) { return error; });
 }
 
 void rethrowIfOutOfMemory()
@@ -103,17 +111,6 @@ void rethrowIfOutOfMemory()
     } catch (std::bad_alloc const&) {
         throw;
     } catch (...) { // the caller handles all else
-    }
-}
-
-void rethrowAsError()
-{
-    try {
-        throw;
-    } catch (Error const&) {
-        throw; // it may be of a class of its own
-    } catch (...) {
-        throw currentError();
     }
 }
 
