@@ -66,8 +66,9 @@ void PublishedClasses::addNamed(detail::NamedClass& named)
 {
     detail::NamedClass* const other = named_.try_emplace(*named.type, &named).first->second;
     if (other != &named)
-        throw Exception("The native class " + cppName(*named.type) + " cannot be published as \"" + publishedName(named) +
-                        "\": another module publishes it, as \"" + publishedName(*other) + "\".");
+        throw Exception("The native class " + cppName(*named.type) + " cannot be published as \"" +
+                        publishedName(named) + "\": another module publishes it, as \"" + publishedName(*other) +
+                        "\".");
 }
 
 detail::NamedClass* PublishedClasses::findNamed(std::type_info const& type)
