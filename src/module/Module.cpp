@@ -91,9 +91,11 @@ ClassDescription& Module::addClass(detail::NamedClass& named, detail::NewObject<
 void Module::addErrorKind(char const* identifier, std::type_info const& type,
                           bool (*describe)(void (*text)(), std::string& result), void (*text)(), void (*throwPointer)())
 {
-    lastError_ = detail::NewObject<ErrorInProgress>(new ErrorInProgress{
-        {identifier, &type, [describe, text](std::string& result) { return describe(text, result); }}, throwPointer});
-    host_extensions::addErrorKind(lastError_->kind);
+    host_extensions::ErrorKind const kind{identifier, &type,
+                                          [describe, text](std::string& result) { return describe(text, result); }};
+    detail::NewObject<ErrorInProgress> error(new ErrorInProgress{kind, throwPointer});
+    host_extensions::addErrorKind(kind);
+    lastError_ = std::move(error);
 }
 
 void Module::addErrorField(char const* name, bool (*isOf)(void (*throwPointer)()),

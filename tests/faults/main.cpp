@@ -11,6 +11,8 @@
 
 #include "orbis/factory/check.hpp"
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -262,8 +264,8 @@ void expectNoGrowth(Script const& script)
     console::CommandLine line;
     line.reportsLeaks = true;
     Run run(line);
-    std::size_t before = 0, after = 0;
-    for (int round = 0; round < 4; ++round) {
+    std::size_t before = 0, after = 0, least = SIZE_MAX;
+    for (int round = 0; round < 6; ++round) {
         before = after;
         for (std::string const& step : script.steps)
             run.step(step);
@@ -271,8 +273,11 @@ void expectNoGrowth(Script const& script)
         run.step("collectgarbage() collectgarbage()");
         run.drop();
         after = allocatedBytes();
+        if (round >
+            1) // tables of Lua, whose keys are addresses, grow and shrink by chance; what is left grows each time
+            least = std::min(least, after > before ? after - before : 0);
     }
-    expect(after == before, script.name + " leaves " + std::to_string(after - before) + " bytes with each run");
+    expect(least == 0, script.name + " leaves " + std::to_string(least) + " bytes with each run");
 }
 
 constexpr char const* unload = "for _, module in ipairs(modules()) do unloadmodule(module.name) end";

@@ -27,7 +27,7 @@ template <class Operation>
         if constexpr (std::is_lvalue_reference_v<Caught>)
             throw; // it may be of a class of its own
         else
-            throw std::move(error);
+            throw std::forward<Caught>(error);
     });
 }
 

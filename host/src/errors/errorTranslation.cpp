@@ -44,7 +44,7 @@ Error nativeError(char const* key, Text text)
 
 /// The error with that of the exception which is nested in the one that it describes.
 template <class Exception>
-Error withCause(Error error, Exception const& exception)
+Error withCause(Error const& error, Exception const& exception)
 {
     auto const* const outer = dynamic_cast<std::nested_exception const*>(&exception);
     if (!outer || !outer->nested_ptr())

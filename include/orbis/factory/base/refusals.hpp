@@ -114,9 +114,10 @@ consteval bool isNothing()
     return false;
 }
 
-/// Stops compilation with the sentence of the refusal. `Refused` is what it is about, which compilers show.
+/// Stops compilation with the sentence of the refusal. `Refused` is what it is about, which compilers show. One
+/// function has all sentences, because compilers would list each one between.
 template <Refusal R, class... Refused>
-consteval void refuse()
+consteval void refuse() // NOLINT(readability-function-size): a list
 {
     using enum Refusal;
     static_assert(isNot<R>(PairHeader), "Pairs and tuples have a header of their own: include "
@@ -154,7 +155,8 @@ consteval void refuse()
                                                 "static void toHost<T>(T const&, hvArray**), or return a value.");
     static_assert(isNot<R>(UnpublishedClass), "The class that this pointer points to is not published: specialise "
                                               "orbis::factory::HostClass for it, beside the class.");
-    static_assert(isNot<R>(UnpublishedEnumeration), "This enumeration is not published: specialise "
+    static_assert(isNot<R>(UnpublishedEnumeration), "This enumeration is not published: publish it with "
+                                                    "orbis/factory/publishEnumeration.hpp, or specialise "
                                                     "orbis::factory::HostEnumeration for it, beside the enumeration.");
     static_assert(isNot<R>(IncompleteClass), "This class is only declared here: include the header that defines it.");
     static_assert(isNot<R>(NotDestructible), "The host cannot own this result: its class has no public destructor. Say "

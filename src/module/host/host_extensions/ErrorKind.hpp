@@ -21,7 +21,7 @@ struct ErrorField {
 /// What scripts learn of native exceptions of one type.
 struct ErrorKind {
     std::string identifier;
-    std::type_info const* type;
+    std::type_info const* type = nullptr;
 
     /// Inside a handler: stores the text of the current exception and returns true if that is of this type or derived
     /// from it. Throws `std::bad_alloc` only.

@@ -54,9 +54,9 @@ struct DescribedGetter {
         return find;
     }
 
-    static constexpr GetterForm value{&getValue, interfaces(), &dataTypeText<typename Reader::Value>,
-                                      releaseRoutine<T, G>, GetterTraits<T, G>::needsObject};
-    static constexpr GetterForm const* form = &value;
+    static constexpr GetterForm routines{&getValue, interfaces(), &dataTypeText<typename Reader::Value>,
+                                         releaseRoutine<T, G>, GetterTraits<T, G>::needsObject};
+    static constexpr GetterForm const* form = &routines;
 };
 
 /// The same for a setter.
@@ -74,8 +74,8 @@ struct DescribedSetter {
         Writer::write(StoredPointer<Pointer>{setter}, object, value);
     }
 
-    static constexpr SetterForm value{&setValue, &dataTypeText<typename Writer::Value>, Writer::needsObject};
-    static constexpr SetterForm const* form = &value;
+    static constexpr SetterForm routines{&setValue, &dataTypeText<typename Writer::Value>, Writer::needsObject};
+    static constexpr SetterForm const* form = &routines;
 };
 
 template <class T>
