@@ -3,6 +3,7 @@
 
 #include "orbis/factory/classes/EnumerationClassInfo.hpp"
 #include "orbis/factory/publishEnumeration.hpp"
+#include "orbis/factory/registerModule.hpp"
 #include "orbis/factory/types/OptionalPolicy.hpp"
 #include "orbis/factory/types/nestedVectors.hpp"
 #include "orbis/factory/types/variant.hpp"

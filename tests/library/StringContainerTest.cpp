@@ -6,6 +6,7 @@
 #include "orbis/factory/types/OptionalPolicy.hpp"
 #include "orbis/factory/types/StringViewPolicy.hpp"
 #include "orbis/factory/types/stringVectors.hpp"
+#include "orbis/factory/types/unicodeStringContainers.hpp"
 
 #include "libkwfl/Exception.hpp"
 
