@@ -2,7 +2,7 @@
 // expect OPTIONAL: There is no marshaling policy for this native type
 // expect OUTPUT: A parameter that is a reference to a non-const value cannot cross
 // expect CLASS: This class is only declared here: include the header that defines it.
-// expect ENUM: This enumeration is not published: publish it with orbis/factory/publishEnumeration.hpp, or specialise orbis::factory::HostEnumeration for it, beside the enumeration.
+// expect ENUM: This enumeration is not published: publish it with orbis/factory/publishEnumeration.hpp, or
 // expect below NAMES: More parameter names are listed than the function has parameters: remove the extra names.
 // expect below TEXT: The parentheses of a parameter's text do not match
 // expect KEPT: A function that scripts implement cannot return a pointer, a reference or a view
