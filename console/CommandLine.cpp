@@ -11,7 +11,8 @@ prompt (a script from standard input where that is no terminal). The arguments
 are in `arg` and `...`.
 
   -e CODE [arguments]  run CODE
-  -i                   a prompt, also where standard input is no terminal
+  -i                   a prompt after the script or code; without these a prompt
+                       also where standard input is no terminal
   --module PATH        load the module at PATH first; may be repeated
   --no-builtin         do not load the built-in module orbis_factory
   --restricted         for scripts of strangers: no files, processes, modules
@@ -21,7 +22,8 @@ are in `arg` and `...`.
 
 Exit codes: 0 success; 1 a script or module failed ("identifier: text" and
 where in the script go to standard error); 2 wrong options or a script that
-cannot be read; 3 --check-leaks found something; 4 output was lost.
+cannot be read; 3 --check-leaks found something; 4 output was lost; 130 Ctrl-C ended the
+script.
 )";
 
 namespace {
@@ -85,8 +87,8 @@ CommandLine parseCommandLine(std::vector<std::string> const& words)
         line.task = CommandLine::Task::Script;
         line.script = take(left);
     }
-    if (line.asksForPrompt && line.task == CommandLine::Task::Script)
-        throw UsageError("-i asks for a prompt: it goes with no script");
+    if (line.asksForPrompt && line.script == "-")
+        throw UsageError("-i reads a prompt from standard input: the script cannot come from there, too");
     line.arguments.assign(left.begin(), left.end());
     return line;
 }

@@ -17,9 +17,12 @@ int run(CommandLine line)
         std::fputs(line.task == Task::Help ? usageText : "velmara " VELMARA_VERSION "\n", stdout);
         return finishOutput(exitSuccess);
     }
-    if (line.task == Task::Prompt && !line.asksForPrompt && !isInputTerminal()) {
-        line.task = Task::Script;
-        line.script = "-";
+    if (line.task == Task::Prompt && !line.asksForPrompt) {
+        line.asksForPrompt = isInputTerminal();
+        if (!line.asksForPrompt) {
+            line.task = Task::Script;
+            line.script = "-";
+        }
     }
     Session session(line);
     return session.finish(

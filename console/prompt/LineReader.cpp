@@ -1,6 +1,7 @@
 #include "prompt/LineReader.hpp"
 
 #include "help/Completion.hpp"
+#include "scripts/Interruption.hpp"
 
 #if defined(_WIN32)
 #include <io.h>
@@ -9,9 +10,12 @@
 #include <unistd.h>
 #endif
 
+#include <cerrno>
 #include <clocale>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <cwchar>
 #include <iostream>
 #include <memory>
 
@@ -19,15 +23,25 @@ namespace velmara::console {
 
 namespace {
 
-std::optional<std::string> readPlainly(char const* prompt)
+/// What has ended the reading of a line.
+LineReader::Result endOfReading()
+{
+    if (!InterruptHandler::takeInterrupt())
+        return LineReader::Result::End;
+    std::cin.clear();
+    std::clearerr(stdin);
+    std::puts("^C");
+    return LineReader::Result::Interrupted;
+}
+
+LineReader::Result readPlainly(char const* prompt, std::string& line)
 {
     std::cout << prompt << std::flush;
-    std::string line;
     if (!std::getline(std::cin, line))
-        return std::nullopt;
+        return endOfReading();
     if (line.ends_with('\r'))
         line.pop_back();
-    return line;
+    return LineReader::Result::Line;
 }
 
 } // namespace
@@ -43,9 +57,9 @@ LineReader::LineReader(lua_State*) : isEditing_(false) {}
 
 LineReader::~LineReader() = default;
 
-std::optional<std::string> LineReader::read(char const* prompt)
+LineReader::Result LineReader::read(char const* prompt, std::string& line)
 {
-    return readPlainly(prompt);
+    return readPlainly(prompt, line);
 }
 
 #else
@@ -60,6 +74,26 @@ struct Free {
 
 // The line editor passes its callbacks no data: the state to complete from, while a reader is alive.
 lua_State* completed = nullptr;
+
+/// The next character for the editor, which is a wide one; EOF at the end of input, and after Ctrl-C.
+int readKey(std::FILE*)
+{
+    std::mbstate_t state = {};
+    for (;;) {
+        char byte = 0;
+        ssize_t const length = InterruptHandler::hasInterrupt() ? 0 : ::read(STDIN_FILENO, &byte, 1);
+        if (length == 0 || (length < 0 && errno != EINTR))
+            return EOF;
+        if (length < 0)
+            continue;
+        wchar_t character = 0;
+        std::size_t const used = std::mbrtowc(&character, &byte, 1, &state);
+        if (used == static_cast<std::size_t>(-1))
+            state = {}; // not a character of the terminal's
+        else if (used != static_cast<std::size_t>(-2))
+            return static_cast<int>(character);
+    }
+}
 
 char* copy(std::string const& text)
 {
@@ -103,6 +137,7 @@ LineReader::LineReader(lua_State* L) : isEditing_(isInputTerminal())
     rl_basic_word_break_characters = breaks;
     rl_completer_word_break_characters = breaks;
     rl_completion_append_character = '\0';
+    rl_getc_function = readKey;
     rl_attempted_completion_function = complete;
     using_history();
     stifle_history(maxHistory);
@@ -117,20 +152,20 @@ LineReader::~LineReader()
     completed = nullptr;
 }
 
-std::optional<std::string> LineReader::read(char const* prompt)
+LineReader::Result LineReader::read(char const* prompt, std::string& line)
 {
     if (!isEditing_)
-        return readPlainly(prompt);
-    std::unique_ptr<char, Free> const line(readline(prompt));
-    if (!line)
-        return std::nullopt;
-    std::string text(line.get());
-    if (text.find_first_not_of(" \t") != text.npos) {
-        add_history(text.c_str());
+        return readPlainly(prompt, line);
+    std::unique_ptr<char, Free> const text(readline(prompt));
+    if (!text)
+        return endOfReading();
+    line = text.get();
+    if (line.find_first_not_of(" \t") != line.npos) {
+        add_history(line.c_str());
         if (!history_.empty())
             write_history(history_.c_str()); // now: a script may end the process
     }
-    return text;
+    return Result::Line;
 }
 
 #endif

@@ -3,7 +3,6 @@
 #include "lua/LuaApi.hpp"
 
 #include <filesystem>
-#include <optional>
 #include <string>
 
 namespace velmara::console {
@@ -11,18 +10,20 @@ namespace velmara::console {
 /// True when standard input is a terminal.
 bool isInputTerminal();
 
-/// Reads the prompt's lines: at a terminal with editing, history (~/.velmara_history) and completion; plainly where
-/// there is none, and on Windows.
+/// Reads the prompt's lines: at a terminal with editing, history and completion; plainly where there is none, and on
+/// Windows, whose console edits lines itself.
 class LineReader {
 public:
+    enum class Result { Line, End, Interrupted };
+
     /// Completes with the names known in `L`.
     explicit LineReader(lua_State* L);
     LineReader(LineReader const&) = delete;
     LineReader& operator=(LineReader const&) = delete;
     ~LineReader();
 
-    /// The next line; nothing at end of input.
-    std::optional<std::string> read(char const* prompt);
+    /// Reads the next line into `line`, without its end. `Interrupted` when Ctrl-C was pressed instead.
+    Result read(char const* prompt, std::string& line);
 
 private:
     bool isEditing_;

@@ -31,21 +31,23 @@ bool isUnfinished(lua_State* L, int status)
     return status == LUA_ERRSYNTAX && textAt(L, -1).ends_with("<eof>");
 }
 
-/// Reads lines until they form a chunk, and pushes its function; reports an error instead. False at end of input.
+/// Reads lines until they form a chunk, and pushes its function; pushes nothing when there was an error, which is
+/// reported, or Ctrl-C. False at the end of input.
 bool readChunk(lua_State* L, LineReader& reader)
 {
-    std::optional<std::string> const first = reader.read("> ");
-    if (!first)
-        return false;
-    std::string input = *first;
+    using Result = LineReader::Result;
+    std::string input;
+    Result result = reader.read("> ", input);
+    if (result != Result::Line)
+        return result == Result::Interrupted;
     int status = load(L, input);
-    while (isUnfinished(L, status)) {
-        std::optional<std::string> const next = reader.read(">> ");
-        if (!next)
+    for (std::string next; isUnfinished(L, status); status = load(L, input.append(1, '\n').append(next))) {
+        result = reader.read(">> ", next);
+        if (result == Result::End)
             break;
         lua_pop(L, 1);
-        input += '\n' + *next;
-        status = load(L, input);
+        if (result == Result::Interrupted)
+            return true;
     }
     if (status == LUA_OK)
         return true;
@@ -67,7 +69,7 @@ int show(lua_State* L)
 
 void runChunk(lua_State* L, int base)
 {
-    Interruption const interruption(L);
+    InterruptibleRun const run(L);
     if (!callScript(L, 0))
         return;
     int const results = lua_gettop(L) - base;
@@ -82,7 +84,6 @@ void runChunk(lua_State* L, int base)
 
 void runPrompt(lua_State* L)
 {
-    bindCoroutineFunctions(L);
     LineReader reader(L);
     std::puts("velmara: help() tells what there is; end with Ctrl-D.");
     int const base = lua_gettop(L);
