@@ -13,6 +13,7 @@
 #include "scripts/ErrorReport.hpp"
 #include "scripts/ScriptLibraries.hpp"
 #include "scripts/ScriptRunner.hpp"
+#include "show/ObjectText.hpp"
 #include "values/ErrorFields.hpp"
 
 #include <cstdio>
@@ -42,6 +43,7 @@ void prepare(lua_State* L, Run const& run)
     bindObjectMembers(L);
     bindErrorFields(L);
     bindObjectFunctions(L);
+    bindObjectText(L);
     bindEnumerationFunction(L);
     bindHelpFunctions(L);
     bindPublishedNames(L);
