@@ -14,6 +14,7 @@
 #include "scripts/ScriptLibraries.hpp"
 #include "scripts/ScriptRunner.hpp"
 #include "show/ObjectText.hpp"
+#include "show/ShowFunction.hpp"
 #include "values/ErrorFields.hpp"
 
 #include <cstdio>
@@ -44,6 +45,7 @@ void prepare(lua_State* L, Run const& run)
     bindErrorFields(L);
     bindObjectFunctions(L);
     bindObjectText(L);
+    bindShowFunction(L);
     bindEnumerationFunction(L);
     bindHelpFunctions(L);
     bindPublishedNames(L);

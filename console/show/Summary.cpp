@@ -2,6 +2,7 @@
 
 #include "arrays/ArrayText.hpp"
 #include "bindings/ClassMembers.hpp"
+#include "bindings/ProxyBinding.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"
@@ -26,7 +27,7 @@ std::string numberSummary(lua_State* L, hvArray_tag const* array, std::size_t in
 {
     luaL_checkstack(L, 4, nullptr);
     pushElement(L, array, index);
-    std::string text = lua_isboolean(L, -1) ? (lua_toboolean(L, -1) ? "true" : "false")
+    std::string text = lua_isboolean(L, -1)  ? (lua_toboolean(L, -1) ? "true" : "false")
                        : lua_isnumber(L, -1) ? valueText(L, -1)
                                              : arrayText(L, *testHostArray(L, -1)); // a great uint64
     lua_pop(L, 1);
@@ -54,15 +55,15 @@ std::string stringSummary(hvArray_tag const* array)
 
 std::string objectSummary(lua_State* L, hvArray_tag* object)
 {
-    if (auto const* const enumerator =
-            orbis::host_extensions::describeEnumerator(orbis::omGetArrayElement(object, 0)))
+    if (auto const* const enumerator = orbis::host_extensions::describeEnumerator(orbis::omGetArrayElement(object, 0)))
         return enumerator->name;
+    std::string const name = unqualifiedName(className(object));
     if (!isValid(object))
-        return "invalid " + className(object) + " object";
+        return "invalid " + name + " object";
     if (auto const cls = publishedClass(L, object))
         if (std::string const text = authorsText(L, object, *cls); !text.empty())
             return cutText(text, maxTextWidth);
-    return className(object) + " object";
+    return name + " object";
 }
 
 std::string functionSummary(lua_State* L, int index)
@@ -117,7 +118,8 @@ std::string summary(lua_State* L, hvArray_tag* array)
     hvClassID const classID = array->_get_class_id_non_trivial();
     std::size_t const count = array->get_number_of_elements();
     if (classID == hvCHAR_CLASS && (array->get_dimensions()[0] == 1 || count == 0))
-        return quoteText(count == 0 ? std::string() : toUtf8(rowOf(*array, 0).substr(0, maxTextWidth + 1)), maxTextWidth);
+        return quoteText(count == 0 ? std::string() : toUtf8(rowOf(*array, 0).substr(0, maxTextWidth + 1)),
+                         maxTextWidth);
     if (classID == orbis::host_extensions::functionClass)
         return "function";
     bool const areNumbers = orbis::host_extensions::findNumericClass(classID) != nullptr;

@@ -29,7 +29,7 @@ std::string cutText(std::string_view text, std::size_t width)
     return std::string(text.substr(0, lengthOf(text, width - ellipsis.size()))).append(ellipsis);
 }
 
-std::string escapedText(std::string_view text)
+std::string escapedText(std::string_view text, std::string_view others)
 {
     std::string result;
     for (char const c : text) {
@@ -41,7 +41,7 @@ std::string escapedText(std::string_view text)
         else if (code < ' ' || code == 0x7F)
             result += '\\' + std::to_string(code);
         else
-            result += c;
+            result.append(others.find(c) != others.npos ? 1 : 0, '\\').append(1, c);
     }
     return result;
 }
@@ -49,7 +49,7 @@ std::string escapedText(std::string_view text)
 std::string quoteText(std::string_view text, std::size_t width)
 {
     constexpr std::size_t maxBytes = 4; // of one character: what is cut off anyway is not escaped first
-    return '"' + cutText(escapedText(text.substr(0, (width + 1) * maxBytes)), width) + '"';
+    return '"' + cutText(escapedText(text.substr(0, (width + 1) * maxBytes), "\"\\"), width) + '"';
 }
 
 } // namespace velmara::console
