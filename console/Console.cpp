@@ -14,6 +14,8 @@
 #include "scripts/Interruption.hpp"
 #include "scripts/ScriptLibraries.hpp"
 #include "scripts/ScriptRunner.hpp"
+#include "show/ObjectText.hpp"
+#include "show/ShowFunction.hpp"
 #include "values/ErrorFields.hpp"
 
 #include <cstdio>
@@ -43,6 +45,8 @@ void prepare(lua_State* L, Run const& run)
     bindObjectMembers(L);
     bindErrorFields(L);
     bindObjectFunctions(L);
+    bindObjectText(L);
+    bindShowFunction(L);
     bindEnumerationFunction(L);
     bindHelpFunctions(L);
     bindPublishedNames(L);

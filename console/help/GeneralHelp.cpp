@@ -17,6 +17,7 @@ char const* const generalHelp = R"(velmara runs Lua 5.4 scripts that use the cla
   local a <close> = ...       give the object back at the end of the block
 
   help(x) methods(x) properties(x)   on a package, a class, an object, a name
+  show(x)                            x with all that it holds, on one screen
   class(x) isvalid(x) delete(x)      the class of x; is it alive; end it now
   objects()                          all live objects: owners, references
   references(x)                      what the properties of x refer to

@@ -1,0 +1,156 @@
+#include "show/ValueInspector.hpp"
+
+#include "bindings/ProxyBinding.hpp"
+#include "handles/HostArray.hpp"
+#include "handles/HostObject.hpp"
+#include "handles/Proxy.hpp"
+#include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
+#include "show/Summary.hpp"
+#include "show/TableLine.hpp"
+#include "text/CutText.hpp"
+#include "text/DisplayWidth.hpp"
+#include "values/ValueToHost.hpp"
+
+#include <algorithm>
+
+namespace velmara::console {
+
+namespace {
+
+bool hasTextFunction(lua_State* L, int table)
+{
+    if (luaL_getmetafield(L, table, "__tostring") == LUA_TNIL)
+        return false;
+    lua_pop(L, 1);
+    return true;
+}
+
+bool isOfSequences(lua_State* L, int table)
+{
+    lua_rawgeti(L, table, 1);
+    bool const result = lua_istable(L, -1) && lua_rawlen(L, -1) > 0;
+    lua_pop(L, 1);
+    return result;
+}
+
+/// The array that the host gets for the table: of numbers, of booleans or of objects; null for other tables.
+ArrayPtr arrayOf(lua_State* L, int table)
+{
+    constexpr std::size_t maxElements = 10'000;
+    std::size_t const count = lua_rawlen(L, table);
+    if (count == 0 || count > maxElements)
+        return nullptr;
+    lua_rawgeti(L, table, 1);
+    bool const isElement = lua_isboolean(L, -1) || lua_type(L, -1) == LUA_TNUMBER || isObject(L, -1) ||
+                           (lua_istable(L, -1) && lua_rawlen(L, -1) <= maxElements);
+    lua_pop(L, 1);
+    if (!isElement)
+        return nullptr;
+    try {
+        ArrayPtr array = toHost(L, table);
+        return array->_get_class_id_non_trivial() == hvCELL_CLASS ? nullptr : std::move(array);
+    } catch (Error const&) {
+        return nullptr; // what cannot be passed to the host is shown as a table
+    }
+}
+
+} // namespace
+
+void ValueInspector::show(Place const& place, int index)
+{
+    luaL_checkstack(L_, 8, nullptr);
+    index = lua_absindex(L_, index);
+    std::size_t const columns = page_.columnsAfter(place.indent + displayWidth(place.label));
+    if (!proxyName(L_, index).empty())
+        showPublished(place, index);
+    else if (lua_istable(L_, index))
+        showTable(place, index);
+    else if (isObject(L_, index) && isValidObject(L_, index))
+        host_.showArray(place, checkObject(L_, index));
+    else if (hvArray_tag* const array = testHostArray(L_, index))
+        host_.showArray(place, array);
+    else if (lua_type(L_, index) == LUA_TSTRING)
+        page_.add(place.indent, place.label + quoteText(textAt(L_, index), columns - 2));
+    else
+        page_.add(place.indent, place.label + summary(L_, index));
+}
+
+void ValueInspector::showPublished(Place const& place, int proxy)
+{
+    std::string const name(proxyName(L_, proxy));
+    Hvm& hvm = HostContext::of(L_).hvm();
+    NameKind const kind = hvm.lookUp(name);
+    if (kind == NameKind::Class && place.depth == 0)
+        return host_.showClass(place, hvm.describeClass(name));
+    page_.add(place.indent, place.label + errorText(L_, proxy));
+    if (kind != NameKind::Package || place.depth > 0)
+        return;
+    for (std::string const& content : packageContents(hvm.describePackage(name)))
+        page_.add(place.indent + 2, content);
+}
+
+void ValueInspector::showTable(Place const& place, int table)
+{
+    if (hasTextFunction(L_, table))
+        return host_.showText(place, errorText(L_, table));
+    std::size_t const columns = page_.columnsAfter(place.indent + displayWidth(place.label));
+    if (std::string const line = tableLine(L_, table, columns); !line.empty() && !isOfSequences(L_, table))
+        return page_.add(place.indent, place.label + line);
+    void const* const identity = lua_topointer(L_, table);
+    if (std::ranges::find(around_, identity) != around_.end())
+        return page_.add(place.indent, place.label + "table (shown above)");
+    {
+        HostCall call(L_);
+        if (ArrayPtr const array = arrayOf(L_, table))
+            return host_.showArray(place, call.share(array.get()));
+    }
+    bool const isDeep = place.depth >= maxShownDepth;
+    page_.add(place.indent, place.label + (isDeep ? "table ..." : "table"));
+    if (isDeep)
+        return;
+    around_.push_back(identity);
+    showElements(place, table);
+    around_.pop_back();
+}
+
+void ValueInspector::showElements(Place const& place, int table)
+{
+    TableKeys const keys = keysOf(L_, table);
+    auto const showTop = [&](std::string const& label) {
+        show({label + " = ", place.indent + 2, place.depth + 1}, -1);
+        lua_pop(L_, 1);
+    };
+    std::size_t const length = lua_rawlen(L_, table);
+    std::size_t const count = std::min(length, maxShownElements(page_, place));
+    for (std::size_t i = 1; i <= count && !page_.isFull(); ++i) {
+        lua_rawgeti(L_, table, static_cast<lua_Integer>(i));
+        showTop('[' + std::to_string(i) + ']');
+    }
+    if (count < length)
+        page_.add(place.indent + 2, moreText(length - count));
+    for (auto key = keys.texts.begin(); key != keys.texts.end() && !page_.isFull(); ++key) {
+        pushText(L_, *key);
+        lua_rawget(L_, table);
+        showTop(keyText(*key));
+    }
+    if (keys.hasOthers)
+        showOthers(place, table);
+}
+
+/// The elements with keys that are neither texts nor of the sequence.
+void ValueInspector::showOthers(Place const& place, int table)
+{
+    auto const length = static_cast<lua_Integer>(lua_rawlen(L_, table));
+    for (lua_pushnil(L_); lua_next(L_, table) != 0; lua_pop(L_, 1)) {
+        bool const isOfSequence =
+            lua_isinteger(L_, -2) && lua_tointeger(L_, -2) >= 1 && lua_tointeger(L_, -2) <= length;
+        if (isOfSequence || lua_type(L_, -2) == LUA_TSTRING)
+            continue;
+        show({'[' + summary(L_, -2) + "] = ", place.indent + 2, place.depth + 1}, -1);
+        if (page_.isFull())
+            return lua_pop(L_, 2);
+    }
+}
+
+} // namespace velmara::console
