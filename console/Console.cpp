@@ -14,6 +14,7 @@
 #include "scripts/Interruption.hpp"
 #include "scripts/ScriptLibraries.hpp"
 #include "scripts/ScriptRunner.hpp"
+#include "scripts/TimedCalls.hpp"
 #include "show/ObjectText.hpp"
 #include "show/ShowFunction.hpp"
 #include "values/ErrorFields.hpp"
@@ -48,6 +49,7 @@ void prepare(lua_State* L, Run const& run)
     bindObjectText(L);
     bindShowFunction(L);
     bindEnumerationFunction(L);
+    bindTimedCalls(L);
     bindHelpFunctions(L);
     bindPublishedNames(L);
     if (!run.builtIn.empty())

@@ -2,7 +2,7 @@
 #include "ExitCode.hpp"
 #include "Output.hpp"
 #include "Platform.hpp"
-#include "prompt/LineReader.hpp"
+#include "terminal/Terminal.hpp"
 
 #include <cstdio>
 
@@ -18,7 +18,7 @@ int run(CommandLine line)
         return finishOutput(exitSuccess);
     }
     if (line.task == Task::Prompt && !line.asksForPrompt) {
-        line.asksForPrompt = isInputTerminal();
+        line.asksForPrompt = isTerminal(stdin);
         if (!line.asksForPrompt) {
             line.task = Task::Script;
             line.script = "-";

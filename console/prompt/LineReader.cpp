@@ -2,10 +2,9 @@
 
 #include "help/Completion.hpp"
 #include "scripts/Interruption.hpp"
+#include "terminal/Terminal.hpp"
 
-#if defined(_WIN32)
-#include <io.h>
-#else
+#if !defined(_WIN32)
 #include <editline/readline.h>
 #include <unistd.h>
 #endif
@@ -47,11 +46,6 @@ LineReader::Result readPlainly(char const* prompt, std::string& line)
 } // namespace
 
 #if defined(_WIN32)
-
-bool isInputTerminal()
-{
-    return _isatty(_fileno(stdin)) != 0;
-}
 
 LineReader::LineReader(lua_State*) : isEditing_(false) {}
 
@@ -121,12 +115,7 @@ char** complete(char const* word, int, int)
 
 } // namespace
 
-bool isInputTerminal()
-{
-    return isatty(STDIN_FILENO) == 1;
-}
-
-LineReader::LineReader(lua_State* L) : isEditing_(isInputTerminal())
+LineReader::LineReader(lua_State* L) : isEditing_(isTerminal(stdin))
 {
     if (!isEditing_)
         return;

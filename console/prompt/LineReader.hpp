@@ -7,9 +7,6 @@
 
 namespace velmara::console {
 
-/// True when standard input is a terminal.
-bool isInputTerminal();
-
 /// Reads the prompt's lines: at a terminal with editing, history and completion; plainly where there is none, and on
 /// Windows, whose console edits lines itself.
 class LineReader {
