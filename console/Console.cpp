@@ -77,7 +77,7 @@ int runTask(lua_State* L, Run const& run)
     InterruptHandler const handler;
     int const code = run.line.task == CommandLine::Task::Prompt ? exitSuccess : runGiven(L, run);
     if (run.line.asksForPrompt)
-        runPrompt(L);
+        runPrompt(L, {.pagesOutput = run.line.pagesOutput, .keepsHistory = !run.line.isRestricted});
     return code;
 }
 

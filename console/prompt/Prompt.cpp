@@ -6,6 +6,7 @@
 #include "scripts/ErrorReport.hpp"
 #include "scripts/Interruption.hpp"
 #include "scripts/ScriptRunner.hpp"
+#include "terminal/Pager.hpp"
 
 #include <cstdio>
 #include <string>
@@ -62,8 +63,7 @@ int show(lua_State* L)
     std::string line;
     for (int i = 1; i <= count; ++i)
         line += (i > 1 ? "\t" : "") + displayText(L, i);
-    line += '\n';
-    std::fwrite(line.data(), 1, line.size(), stdout);
+    printPaged(L, line += '\n');
     return 0;
 }
 
@@ -82,9 +82,12 @@ void runChunk(lua_State* L, int base)
 
 } // namespace
 
-void runPrompt(lua_State* L)
+void runPrompt(lua_State* L, PromptOptions const& options)
 {
-    LineReader reader(L);
+    if (options.pagesOutput)
+        enablePaging(L);
+
+    LineReader reader(L, options.keepsHistory ? historyFile() : std::filesystem::path());
     std::puts("velmara: help() tells what there is; end with Ctrl-D.");
     int const base = lua_gettop(L);
     while (readChunk(L, reader)) {

@@ -5,6 +5,7 @@
 #include "lua/ScriptFailure.hpp"
 #include "lua/ScriptFrames.hpp"
 #include "lua/Table.hpp"
+#include "terminal/Terminal.hpp"
 #include "text/CloseMatches.hpp"
 
 #include "velmara/Error.hpp"
@@ -121,8 +122,11 @@ std::string describeError(lua_State* L, int index, int status)
 
 void printReport(std::string_view text)
 {
+    std::string shown(text);
+    if (hasColours(stderr))
+        shown.insert(std::min(shown.find(": "), shown.size()), endOfStyle).insert(0, startOf(Style::Error));
     std::fflush(stdout);
-    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
+    std::fprintf(stderr, "%s\n", shown.c_str());
     std::fflush(stderr);
 }
 
