@@ -1,6 +1,7 @@
 #include "show/HostInspector.hpp"
 
 #include "arrays/ArrayText.hpp"
+#include "bindings/MemberRecords.hpp"
 #include "show/NativeReading.hpp"
 #include "show/Summary.hpp"
 #include "text/AlignedTable.hpp"

@@ -51,12 +51,6 @@ NativeReading::NativeReading(lua_State* L, hvArray_tag* object, Read const& read
     }
 }
 
-bool isReadable(PropertyRecord const& property)
-{
-    return property.getAccess == orbis::MemberAccess::Public &&
-           property.extendedGetAccess == orbis::ExtendedMemberAccess::None && !property.isAbstract;
-}
-
 NativeReading readForShow(lua_State* L, hvArray_tag* object, std::string const& property)
 {
     return {L, object, [&](Hvm& hvm, Hvm::Failure& failure) { return hvm.get(object, property, failure); }};

@@ -31,9 +31,6 @@ private:
     std::string failure_;
 };
 
-/// Whether a script can read the property.
-bool isReadable(PropertyRecord const& property);
-
 NativeReading readForShow(lua_State* L, hvArray_tag* object, std::string const& property);
 NativeReading readStaticForShow(lua_State* L, std::string const& className, std::string const& property);
 

@@ -1,5 +1,6 @@
 #include "show/ObjectText.hpp"
 
+#include "bindings/MemberRecords.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
 #include "lua/ScriptError.hpp"

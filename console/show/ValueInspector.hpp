@@ -19,6 +19,7 @@ public:
 private:
     void showTable(Place const& place, int table);
     void showPublished(Place const& place, int proxy);
+    void showRecords(Place const& place, int table);
     void showElements(Place const& place, int table);
     void showOthers(Place const& place, int table);
 
