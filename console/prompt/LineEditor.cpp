@@ -3,8 +3,10 @@
 #if !defined(_WIN32)
 
 #include "help/Completion.hpp"
+#include "help/Expression.hpp"
 #include "scripts/Interruption.hpp"
 #include "terminal/Terminal.hpp"
+#include "text/Paragraph.hpp"
 
 #include <editline/readline.h>
 #include <unistd.h>
@@ -16,6 +18,8 @@
 #include <cstring>
 #include <cwchar>
 #include <memory>
+#include <string_view>
+#include <vector>
 
 namespace velmara::console {
 
@@ -58,20 +62,48 @@ char* copy(std::string const& text)
     return result;
 }
 
-/// The completions in the editor's form: the common start, then each, then null.
-char** complete(char const* word, int, int)
+/// The first `count` characters of the UTF-8 text.
+std::string_view firstCharacters(std::string_view text, int count)
 {
-    rl_attempted_completion_over = 1; // no file names
-    std::vector<std::string> const names = completions(completed, word);
-    if (names.empty())
-        return nullptr;
-    auto** list = static_cast<char**>(std::calloc(names.size() + 2, sizeof(char*)));
+    std::size_t length = 0;
+    for (; length < text.size() && (count > 0 || (text[length] & 0xC0) == 0x80); ++length)
+        count -= (text[length] & 0xC0) != 0x80 ? 1 : 0;
+    return text.substr(0, length);
+}
+
+/// Shows the lines below the one that is edited, which follows once more.
+void showBelow(std::vector<std::string> const& lines)
+{
+    std::string text = "\n";
+    for (std::string const& line : lines)
+        text += paragraph(line, 0, 4);
+    std::fwrite(text.data(), 1, text.size(), rl_outstream);
+    rl_forced_update_display();
+}
+
+/// The completions in the editor's form: the common start, then each, then null.
+char** editorList(std::vector<std::string> const& names)
+{
+    auto** list = names.empty() ? nullptr : static_cast<char**>(std::calloc(names.size() + 2, sizeof(char*)));
     if (!list)
         return nullptr;
     list[0] = copy(commonStart(names));
     for (std::size_t i = 0; i < names.size(); ++i)
         list[i + 1] = copy(names[i]);
     return list;
+}
+
+char** complete(char const* word, int, int end)
+{
+    rl_attempted_completion_over = 1; // no file names
+    std::string_view const text = firstCharacters(rl_line_buffer, end);
+    if (std::vector<std::string> const signatures = signaturesAt(completed, text); !signatures.empty()) {
+        showBelow(signatures);
+        return nullptr;
+    }
+    // What the editor takes for the word may begin with letters of other languages.
+    bool const isName = identifierLength(text) == std::string_view(word).size();
+    return isName ? editorList(completions(completed, text)) : nullptr;
 }
 
 /// The prompt in its style, in the form of the editor: what takes no room on the screen is in brackets.
@@ -97,7 +129,7 @@ LineEditor::LineEditor(lua_State* L, std::filesystem::path history) : history_(s
     std::setlocale(LC_CTYPE, "");
     completed = L;
     rl_readline_name = "velmara";
-    static char breaks[] = " \t\n\"'`@$><=;|&{}()[]+-*/%^#~,";
+    static char breaks[] = " \t\n\"'`@$><=;|&{}()[]+-*/%^#~,.:!?\\";
     rl_basic_word_break_characters = breaks;
     rl_completer_word_break_characters = breaks;
     rl_completion_append_character = '\0';
