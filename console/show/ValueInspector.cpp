@@ -158,7 +158,7 @@ void ValueInspector::showPublished(Place const& place, int proxy)
 void ValueInspector::showTable(Place const& place, int table)
 {
     if (hasTextFunction(L_, table))
-        return host_.showText(place, errorText(L_, table));
+        return host_.showText(place, errorText(L_, table), place.label.empty() ? 0 : 2);
     std::size_t const columns = page_.columnsAfter(place.indent + displayWidth(place.label));
     if (std::string const line = tableLine(L_, table, columns); !line.empty() && !isOfSequences(L_, table))
         return page_.add(place.indent, place.label + line);
