@@ -70,7 +70,7 @@ Names membersOf(lua_State* L, std::vector<ExpressionStep> const& steps, char sep
     return names;
 }
 
-Names globalNames(lua_State* L)
+Names namesInScope(lua_State* L)
 {
     Names names(std::begin(keywords), std::end(keywords));
     lua_pushglobaltable(L);
@@ -94,7 +94,7 @@ int findCompletions(lua_State* L)
     bool const isMember = (before.ends_with('.') && !before.ends_with("..")) || before.ends_with(':');
     char const separator = isMember ? before.back() : ' ';
     before.remove_suffix(isMember ? 1 : 0);
-    for (std::string& name : isMember ? membersOf(L, expressionAtEnd(before), separator) : globalNames(L))
+    for (std::string& name : isMember ? membersOf(L, expressionAtEnd(before), separator) : namesInScope(L))
         if (name.starts_with(begun))
             request.found.push_back(std::move(name));
     return 0;

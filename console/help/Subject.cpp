@@ -5,7 +5,6 @@
 #include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"
-#include "help/Completion.hpp"
 #include "help/PublishedNames.hpp"
 #include "lua/ScriptError.hpp"
 #include "text/CloseMatches.hpp"
@@ -15,6 +14,18 @@
 namespace velmara::console {
 
 namespace {
+
+std::vector<std::string> globalNames(lua_State* L)
+{
+    std::vector<std::string> names;
+    luaL_checkstack(L, 4, nullptr);
+    lua_pushglobaltable(L);
+    for (lua_pushnil(L); lua_next(L, -2) != 0; lua_pop(L, 1))
+        if (lua_type(L, -2) == LUA_TSTRING)
+            names.emplace_back(textAt(L, -2));
+    lua_pop(L, 1);
+    return names;
+}
 
 /// The names of what is in the package or class.
 std::vector<std::string> contentsOf(Hvm& hvm, std::string const& owner)
@@ -56,7 +67,7 @@ std::string closeNames(lua_State* L, std::string const& name)
             content.insert(0, name, 0, dot + 1);
         return didYouMean(close);
     }
-    std::vector<std::string> known = completions(L, "");
+    std::vector<std::string> known = globalNames(L);
     visitPublished(hvm, [&](PublishedName const& published) { known.push_back(unqualifiedName(published.name)); });
     std::vector<std::string> close = closeMatches(name, known);
     visitPublished(hvm, [&](PublishedName const& published) {

@@ -30,7 +30,7 @@ void pushInterruption(lua_State* L)
     if (lua_rawgetp(L, LUA_REGISTRYINDEX, &errorKey) != LUA_TNIL)
         return;
     lua_pop(L, 1);
-    pushError(L, "VELMARA:console:interrupted", "Ctrl-C was pressed");
+    pushError(L, interruptionIdentifier, "Ctrl-C was pressed");
     recordFailure(L, -1, scriptFrames(L, 0, maxFailureFrames));
     lua_pushvalue(L, -1);
     lua_rawsetp(L, LUA_REGISTRYINDEX, &errorKey);

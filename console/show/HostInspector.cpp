@@ -57,7 +57,7 @@ AlignedTable::Row rowOfObject(lua_State* L, hvArray_tag const* objects, std::siz
     hvArray_tag* const object = objectAt(call, objects, index);
     AlignedTable::Row row{std::to_string(index + 1)};
     if (!object || !isValid(object)) {
-        row.push_back(object ? "(invalid)" : "null");
+        row.emplace_back(object ? "(invalid)" : "null");
         row.resize(properties.size() + 1);
         return row;
     }
@@ -82,15 +82,14 @@ std::string moreText(std::size_t count)
     return "... " + std::to_string(count) + " more";
 }
 
-void HostInspector::showText(Place const& place, std::string const& text)
+void HostInspector::showText(Place const& place, std::string const& text, std::size_t hanging)
 {
-    std::size_t const start = place.label.size();
-    std::size_t const end = text.find('\n');
+    std::size_t end = text.find('\n');
     page_.add(place.indent, place.label + text.substr(0, end));
-    for (std::size_t at = end; at != text.npos && !page_.isFull();) {
-        std::size_t const next = text.find('\n', at + 1);
-        page_.add(place.indent + (start > 0 ? 2 : 0), text.substr(at + 1, next - at - 1));
-        at = next;
+    while (end != text.npos && !page_.isFull()) {
+        std::size_t const next = text.find('\n', end + 1);
+        page_.add(place.indent + hanging, text.substr(end + 1, next - end - 1));
+        end = next;
     }
 }
 
@@ -115,7 +114,7 @@ void HostInspector::showArray(Place const& place, hvArray_tag* array)
     if (!array || text != sizeAndClass(array))
         return page_.add(place.indent, place.label + text);
     std::string const rows = arrayText(L_, *array);
-    showText(place, text + (rows.find('\n') == rows.npos ? "" : rows.substr(rows.find('\n'))));
+    showText(place, text + (rows.find('\n') == rows.npos ? "" : rows.substr(rows.find('\n'))), 0);
 }
 
 void HostInspector::showObject(Place const& place, hvArray_tag* object)

@@ -39,8 +39,8 @@ public:
     /// A class: its enumerators and static properties.
     void showClass(Place const& place, ClassRecord const& cls);
 
-    /// A text of several lines.
-    void showText(Place const& place, std::string const& text);
+    /// A text of several lines; those after the first are indented by `hanging` more.
+    void showText(Place const& place, std::string const& text, std::size_t hanging);
 
 private:
     void showObject(Place const& place, hvArray_tag* object);

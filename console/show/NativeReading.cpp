@@ -1,5 +1,8 @@
 #include "show/NativeReading.hpp"
 
+#include "lua/ScriptError.hpp"
+#include "text/CutText.hpp"
+
 #include <algorithm>
 #include <utility>
 
@@ -20,12 +23,6 @@ private:
     bool previous_;
 };
 
-std::string firstSentence(std::string const& text)
-{
-    std::string const line = text.substr(0, text.find('\n'));
-    return line.substr(0, line.find(". "));
-}
-
 MethodRecord const* findText(ClassRecord const& cls)
 {
     auto const found = std::ranges::find_if(cls.methods, [](MethodRecord const& method) {
@@ -45,8 +42,10 @@ NativeReading::NativeReading(lua_State* L, hvArray_tag* object, Read const& read
         if (ArrayPtr const array = read(call_.hvm(), call_.failure()))
             value_ = call_.share(array.get());
         if (auto const& failure = call_.failure())
-            failure_ = firstSentence(failure->text());
+            throw Error(*failure);
     } catch (Error const& error) {
+        if (error.identifier() == interruptionIdentifier)
+            throw; // it is meant for all that the script does
         failure_ = firstSentence(error.text());
     }
 }

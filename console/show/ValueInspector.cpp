@@ -27,6 +27,26 @@ bool hasTextFunction(lua_State* L, int table)
     return true;
 }
 
+int toText(lua_State* L)
+{
+    luaL_tolstring(L, 1, nullptr);
+    return 1;
+}
+
+/// What its `__tostring` says of the table; why it fails, if it does.
+std::string ownText(lua_State* L, int table)
+{
+    lua_pushvalue(L, table);
+    lua_pushcfunction(L, toText);
+    lua_insert(L, -2);
+    bool const isText = lua_pcall(L, 1, 1, 0) == LUA_OK;
+    if (isError(L, -1) && fieldText(L, -1, "identifier") == interruptionIdentifier)
+        lua_error(L); // it is meant for all that the script does
+    std::string const text = isText ? std::string(textAt(L, -1)) : firstSentence(errorText(L, -1));
+    lua_pop(L, 1);
+    return isText ? text : "table (__tostring fails: " + text + ')';
+}
+
 bool isOfSequences(lua_State* L, int table)
 {
     lua_rawgeti(L, table, 1);
@@ -102,7 +122,7 @@ AlignedTable::Row recordRow(lua_State* L, std::size_t index, std::vector<std::st
 /// The array that the host gets for the table: of numbers, of booleans or of objects; null for other tables.
 ArrayPtr arrayOf(lua_State* L, int table)
 {
-    constexpr std::size_t maxElements = 10'000;
+    constexpr std::size_t maxElements = 1'000'000;
     std::size_t const count = lua_rawlen(L, table);
     if (count == 0 || count > maxElements)
         return nullptr;
@@ -148,7 +168,7 @@ void ValueInspector::showPublished(Place const& place, int proxy)
     NameKind const kind = hvm.lookUp(name);
     if (kind == NameKind::Class && place.depth == 0)
         return host_.showClass(place, hvm.describeClass(name));
-    page_.add(place.indent, place.label + errorText(L_, proxy));
+    page_.add(place.indent, place.label + ownText(L_, proxy));
     if (kind != NameKind::Package || place.depth > 0)
         return;
     for (std::string const& content : packageContents(hvm.describePackage(name)))
@@ -158,7 +178,7 @@ void ValueInspector::showPublished(Place const& place, int proxy)
 void ValueInspector::showTable(Place const& place, int table)
 {
     if (hasTextFunction(L_, table))
-        return host_.showText(place, errorText(L_, table));
+        return host_.showText(place, ownText(L_, table), place.label.empty() ? 0 : 2);
     std::size_t const columns = page_.columnsAfter(place.indent + displayWidth(place.label));
     if (std::string const line = tableLine(L_, table, columns); !line.empty() && !isOfSequences(L_, table))
         return page_.add(place.indent, place.label + line);

@@ -29,6 +29,12 @@ std::string cutText(std::string_view text, std::size_t width)
     return std::string(text.substr(0, lengthOf(text, width - ellipsis.size()))).append(ellipsis);
 }
 
+std::string firstSentence(std::string_view text)
+{
+    std::string_view const line = text.substr(0, text.find('\n'));
+    return std::string(line.substr(0, line.find(". ")));
+}
+
 std::string escapedText(std::string_view text, std::string_view others)
 {
     std::string result;

@@ -27,7 +27,7 @@ show(members(p), members(callbacks)[1], members(palette.Color))
 p.value = "held"
 for name, value in pairs(p) do print(name, value) end
 for name, member in pairs(cases.Probe) do io.write(name, " ", member.kind, "; ") end
-for name, hue in pairs(palette.Color) do io.write(name, " ", tostring(hue), "; ") end
+print()
 for name, value in pairs(palette) do print(name, value) end
 apropos("GIVE")
 apropos("Enumerat")
