@@ -34,6 +34,7 @@ int run(CommandLine line)
 int main(int count, char** words)
 {
     occupyStandardStreams();
+    useUtf8Console();
     try {
         return run(parseCommandLine(commandLineWords(count, words)));
     } catch (UsageError const& error) {

@@ -124,10 +124,10 @@ std::string styled(std::string const& prompt)
 
 } // namespace
 
-LineEditor::LineEditor(lua_State* L, std::filesystem::path history) : history_(std::move(history))
+LineEditor::LineEditor(lua_State* L, std::filesystem::path history) : L_(L), history_(std::move(history))
 {
     std::setlocale(LC_CTYPE, "");
-    completed = L;
+    completed = L_;
     rl_readline_name = "velmara";
     static char breaks[] = " \t\n\"'`@$><=;|&{}()[]+-*/%^#~,.:!?\\";
     rl_basic_word_break_characters = breaks;
@@ -164,21 +164,6 @@ void LineEditor::remember(std::string const& line)
     add_history(line.c_str());
     if (!history_.empty())
         write_history(history_.c_str()); // now: a script may end the process
-}
-
-} // namespace velmara::console
-
-#else
-
-namespace velmara::console {
-
-LineEditor::LineEditor(lua_State*, std::filesystem::path) {}
-
-LineEditor::~LineEditor() = default;
-
-std::optional<std::string> LineEditor::read(std::string const&)
-{
-    return std::nullopt;
 }
 
 } // namespace velmara::console

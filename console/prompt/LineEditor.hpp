@@ -8,16 +8,10 @@
 
 namespace velmara::console {
 
-/// Edits the prompt's lines at a terminal: with history, a search in it (Ctrl-R) and completion (Tab). Not on Windows,
-/// whose console edits lines itself. One at a time.
+/// Edits the prompt's lines at a terminal: with completion (Tab), history and a search in it (Ctrl-R). On Windows the
+/// console edits them, and keeps its own history until it is closed (F7, F8). One at a time.
 class LineEditor {
 public:
-#if defined(_WIN32)
-    static constexpr bool isAvailable = false;
-#else
-    static constexpr bool isAvailable = true;
-#endif
-
     /// Completes with the names known in `L`; keeps the history in that file, or in none where it is empty.
     LineEditor(lua_State* L, std::filesystem::path history);
     LineEditor(LineEditor const&) = delete;
@@ -28,10 +22,13 @@ public:
     std::optional<std::string> read(std::string const& prompt);
 
 private:
+    lua_State* L_;
+#if !defined(_WIN32)
     void remember(std::string const& line);
 
     std::filesystem::path history_;
     std::string latest_; ///< what was remembered last
+#endif
 };
 
 } // namespace velmara::console

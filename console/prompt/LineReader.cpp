@@ -34,7 +34,7 @@ std::filesystem::path historyFile()
 
 LineReader::LineReader(lua_State* L, std::filesystem::path const& history)
 {
-    if (LineEditor::isAvailable && isTerminal(stdin))
+    if (isTerminal(stdin))
         editor_.emplace(L, history);
 }
 
