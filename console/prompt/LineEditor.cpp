@@ -109,7 +109,7 @@ char** complete(char const* word, int, int end)
 /// The prompt in its style, in the form of the editor: what takes no room on the screen is in brackets.
 std::string styled(std::string const& prompt)
 {
-    if (!hasColours(stdout))
+    if (!hasStyles(stdout))
         return prompt;
     std::size_t const length = prompt.find_last_not_of(' ') + 1;
     return std::string(1, RL_PROMPT_START_IGNORE)

@@ -5,10 +5,9 @@
 #include "help/Completion.hpp"
 #include "help/Expression.hpp"
 #include "scripts/Interruption.hpp"
+#include "terminal/Terminal.hpp"
 #include "text/Paragraph.hpp"
 
-#define WIN32_LEAN_AND_MEAN
-#define NOMINMAX
 #include <windows.h>
 
 #include <algorithm>
@@ -36,6 +35,12 @@ void write(std::string_view text)
     std::fflush(stdout);
 }
 
+void writePrompt(std::string const& prompt)
+{
+    writeStyled(stdout, Style::Prompt, prompt);
+    std::fflush(stdout);
+}
+
 /// Reads until Enter or Tab, which stay at the end, and lets the console edit what `line` has already. False at the end
 /// of input, and after Ctrl-C.
 bool readConsole(std::wstring& line)
@@ -51,8 +56,8 @@ bool readConsole(std::wstring& line)
     line.assign(buffer.data(), length);
     constexpr DWORD patience = 200; // milliseconds
     for (DWORD waited = 0; length == 0 && waited < patience && !InterruptHandler::hasInterrupt(); ++waited)
-        Sleep(1); // the handler of Ctrl-C runs in a thread of its own
-    return length > 0;
+        Sleep(1);                                           // the handler of Ctrl-C runs in a thread of its own
+    return length > 0 && !InterruptHandler::hasInterrupt(); // there are consoles that go on after Ctrl-C
 }
 
 /// Names or signatures below the line; they do not run any code of the script.
@@ -61,7 +66,9 @@ void showBelow(std::vector<std::string> const& lines, std::string const& prompt,
     std::string shown = "\n";
     for (std::string const& line : lines)
         shown += paragraph(line, 0, 4);
-    write(shown + prompt + text);
+    write(shown);
+    writePrompt(prompt);
+    write(text);
 }
 
 std::string listOf(std::vector<std::string> const& names)
@@ -95,7 +102,7 @@ LineEditor::~LineEditor() = default;
 std::optional<std::string> LineEditor::read(std::string const& prompt)
 {
     constexpr wchar_t controlZ = 26;
-    write(prompt);
+    writePrompt(prompt);
     std::wstring line;
     while (readConsole(line)) {
         if (line.ends_with(L'\n')) {

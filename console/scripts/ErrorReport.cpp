@@ -121,11 +121,10 @@ std::string describeError(lua_State* L, int index, int status)
 
 void printReport(std::string_view text)
 {
-    std::string shown(text);
-    if (hasColours(stderr))
-        shown.insert(std::min(shown.find(": "), shown.size()), endOfStyle).insert(0, startOf(Style::Error));
+    std::size_t const identifier = std::min(text.find(": "), text.size());
     std::fflush(stdout);
-    std::fprintf(stderr, "%s\n", shown.c_str());
+    writeStyled(stderr, Style::Error, text.substr(0, identifier));
+    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size() - identifier), text.data() + identifier);
     std::fflush(stderr);
 }
 

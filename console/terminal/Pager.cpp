@@ -64,12 +64,13 @@ std::optional<std::size_t> rowsFor(int key, std::size_t rows, std::size_t left)
 /// Asks how to go on. Returns how many rows more to show: the `rows` of the screen, one, all that is `left`, or none.
 std::size_t askForMore(std::size_t rows, std::size_t left)
 {
-    write("-- more: Space, Enter, a(ll), q(uit) --");
+    constexpr std::string_view question = "-- more: Space, Enter, a(ll), q(uit) --";
+    write(question);
     std::fflush(stdout);
     std::optional<std::size_t> more;
     for (KeyReader keys; !more;)
         more = rowsFor(keys.read(), rows, left);
-    write(eraseLine);
+    eraseLine(stdout, question.size());
     return *more;
 }
 
@@ -77,7 +78,7 @@ std::size_t askForMore(std::size_t rows, std::size_t left)
 
 void enablePaging(lua_State* L)
 {
-    lua_pushboolean(L, isTerminal(stdin) && hasControlSequences(stdout));
+    lua_pushboolean(L, isTerminal(stdin) && isScreen(stdout));
     lua_rawsetp(L, LUA_REGISTRYINDEX, &enabledKey);
 }
 

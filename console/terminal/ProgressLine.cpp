@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 constexpr auto delay = 1s;
 constexpr auto interval = 100ms;
 
-bool isDrawn = false; // what the terminal of the process shows
+std::size_t drawnLength = 0; // of the line at the terminal of the process; 0 for none
 
 /// "28 s", "3 min 20 s", "2 h 5 min".
 std::string durationText(double seconds)
@@ -44,17 +44,17 @@ ProgressLine::ProgressLine(std::size_t total)
     : total_(total),
       start_(Clock::now()),
       next_(start_ + delay),
-      isWanted_(hasControlSequences(stderr))
+      isWanted_(isScreen(stderr))
 {
 }
 
 void ProgressLine::erase()
 {
-    if (!isDrawn)
+    if (drawnLength == 0)
         return;
-    std::fputs(eraseLine, stderr);
+    eraseLine(stderr, drawnLength);
     std::fflush(stderr);
-    isDrawn = false;
+    drawnLength = 0;
 }
 
 void ProgressLine::draw(std::size_t done)
@@ -62,10 +62,12 @@ void ProgressLine::draw(std::size_t done)
     Clock::time_point const now = Clock::now();
     // The cursor stays at the beginning: what native code prints meanwhile takes the line's place.
     std::fflush(stdout);
-    std::fprintf(stderr, "%s%s\r", eraseLine, progressText(done, total_, now - start_).c_str());
+    std::string const text = progressText(done, total_, now - start_);
+    eraseLine(stderr, drawnLength);
+    std::fprintf(stderr, "%s\r", text.c_str());
     std::fflush(stderr);
     next_ = now + interval;
-    isDrawn = true;
+    drawnLength = text.size();
 }
 
 } // namespace velmara::console

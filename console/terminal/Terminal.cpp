@@ -3,8 +3,6 @@
 #include <cstdlib>
 
 #if defined(_WIN32)
-#define WIN32_LEAN_AND_MEAN
-#define NOMINMAX
 #include <windows.h>
 
 #include <io.h>
@@ -22,23 +20,47 @@ std::string_view environment(char const* name)
     return value ? value : "";
 }
 
+void write(std::FILE* stream, std::string_view text)
+{
+    std::fwrite(text.data(), 1, text.size(), stream);
+}
+
 } // namespace
 
 #if defined(_WIN32)
 
+namespace {
+
+HANDLE consoleOf(std::FILE* stream)
+{
+    return reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
+}
+
+} // namespace
+
 bool isTerminal(std::FILE* stream)
 {
     DWORD mode = 0;
-    return GetConsoleMode(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream))), &mode) != 0;
+    return GetConsoleMode(consoleOf(stream), &mode) != 0;
 }
 
-bool hasControlSequences(std::FILE* stream)
+bool isScreen(std::FILE* stream)
 {
-    auto* const console = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
-    constexpr DWORD understandsSequences = 0x0004; // ENABLE_VIRTUAL_TERMINAL_PROCESSING, since Windows 10
-    DWORD mode = 0;
-    return environment("TERM") != "dumb" && GetConsoleMode(console, &mode) != 0 &&
-           SetConsoleMode(console, mode | understandsSequences) != 0;
+    return environment("TERM") != "dumb" && isTerminal(stream);
+}
+
+void writeStyled(std::FILE* stream, Style style, std::string_view text)
+{
+    CONSOLE_SCREEN_BUFFER_INFO info;
+    if (!hasStyles(stream) || !GetConsoleScreenBufferInfo(consoleOf(stream), &info))
+        return write(stream, text);
+    constexpr WORD colours = FOREGROUND_RED | FOREGROUND_GREEN | FOREGROUND_BLUE;
+    WORD const colour = style == Style::Error ? FOREGROUND_RED : info.wAttributes & colours;
+    std::fflush(stream);
+    SetConsoleTextAttribute(consoleOf(stream), (info.wAttributes & ~colours) | colour | FOREGROUND_INTENSITY);
+    write(stream, text);
+    std::fflush(stream);
+    SetConsoleTextAttribute(consoleOf(stream), info.wAttributes);
 }
 
 #else
@@ -48,22 +70,35 @@ bool isTerminal(std::FILE* stream)
     return isatty(fileno(stream)) == 1;
 }
 
-bool hasControlSequences(std::FILE* stream)
+bool isScreen(std::FILE* stream)
 {
     std::string_view const kind = environment("TERM");
     return !kind.empty() && kind != "dumb" && isTerminal(stream);
 }
 
+void writeStyled(std::FILE* stream, Style style, std::string_view text)
+{
+    bool const isStyled = hasStyles(stream);
+    write(stream, isStyled ? startOf(style) : "");
+    write(stream, text);
+    write(stream, isStyled ? endOfStyle : "");
+}
+
 #endif
 
-bool hasColours(std::FILE* stream)
+bool hasStyles(std::FILE* stream)
 {
-    return environment("NO_COLOR").empty() && hasControlSequences(stream);
+    return environment("NO_COLOR").empty() && isScreen(stream);
 }
 
 std::string_view startOf(Style style)
 {
     return style == Style::Error ? "\x1b[1;31m" : "\x1b[1m";
+}
+
+void eraseLine(std::FILE* stream, std::size_t length)
+{
+    write(stream, '\r' + std::string(length, ' ') + '\r');
 }
 
 } // namespace velmara::console

@@ -9,19 +9,22 @@ namespace velmara::console {
 /// True when the stream is a terminal.
 bool isTerminal(std::FILE* stream);
 
-/// True when the stream is a terminal that understands control sequences: not one of TERM=dumb.
-bool hasControlSequences(std::FILE* stream);
+/// True when the stream is a terminal on which a line can be erased and styled: not one of TERM=dumb.
+bool isScreen(std::FILE* stream);
 
-/// True when what is written there may be coloured: NO_COLOR is empty or not set, besides.
-bool hasColours(std::FILE* stream);
+/// True when what is written there is styled: it is a screen, and NO_COLOR is empty or not set.
+bool hasStyles(std::FILE* stream);
 
 enum class Style { Error, Prompt };
 
-/// The control sequence that begins the style, and the one that ends all.
+/// Writes the text, in the style where the stream has styles.
+void writeStyled(std::FILE* stream, Style style, std::string_view text);
+
+/// The control sequence that begins the style, and the one that ends all; not for Windows.
 std::string_view startOf(Style style);
 inline constexpr std::string_view endOfStyle = "\x1b[0m";
 
-/// Puts the cursor at the beginning of its line, and erases that.
-inline constexpr char const* eraseLine = "\r\x1b[K";
+/// Erases so many characters from the beginning of the cursor's line, and puts the cursor there.
+void eraseLine(std::FILE* stream, std::size_t length);
 
 } // namespace velmara::console
