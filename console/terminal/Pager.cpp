@@ -71,7 +71,7 @@ std::size_t askForMore(std::size_t rows, std::size_t left)
     for (KeyReader keys; !more;)
         more = rowsFor(keys.read(), rows, left);
     eraseLine(stdout, question.size());
-    return *more;
+    return more.value_or(0);
 }
 
 } // namespace
