@@ -73,8 +73,8 @@ AlignedTable::Row rowOfObject(lua_State* L, hvArray_tag const* objects, std::siz
 std::size_t maxShownElements(Page const& page, Place const& place)
 {
     constexpr std::size_t maxNested = 10;
-    constexpr std::size_t lastRows = 2; // for what is not written
-    return place.depth == 0 ? std::max(page.rowsLeft(), lastRows) - lastRows : maxNested;
+    constexpr std::size_t aroundRows = 4; // headings, and what is not written
+    return place.depth == 0 ? std::max(page.rowsLeft(), aroundRows) - aroundRows : maxNested;
 }
 
 std::string moreText(std::size_t count)
