@@ -55,8 +55,9 @@ bool isOfSequences(lua_State* L, int table)
     return result;
 }
 
-/// The array that the host gets for the table: of numbers, of booleans or of objects; null for other tables.
-ArrayPtr arrayOf(lua_State* L, int table)
+/// The array that the host gets for the table, owned by the call: of numbers, of booleans or of objects; null for other
+/// tables.
+hvArray_tag* arrayOf(HostCall& call, lua_State* L, int table)
 {
     constexpr std::size_t maxElements = 1'000'000;
     std::size_t const count = lua_rawlen(L, table);
@@ -69,8 +70,8 @@ ArrayPtr arrayOf(lua_State* L, int table)
     if (!isElement)
         return nullptr;
     try {
-        ArrayPtr array = toHost(L, table);
-        return array->_get_class_id_non_trivial() == hvCELL_CLASS ? nullptr : std::move(array);
+        ArrayPtr const array = toHost(L, table);
+        return array->_get_class_id_non_trivial() == hvCELL_CLASS ? nullptr : call.share(array.get());
     } catch (Error const&) {
         return nullptr; // what cannot be passed to the host is shown as a table
     }
@@ -88,13 +89,20 @@ void ValueInspector::show(Place const& place, int index)
     else if (lua_istable(L_, index))
         showTable(place, index);
     else if (isObject(L_, index) && isValidObject(L_, index))
-        host_.showArray(place, checkObject(L_, index));
+        showShared(place, checkObject(L_, index));
     else if (hvArray_tag* const array = testHostArray(L_, index))
-        host_.showArray(place, array);
+        showShared(place, array);
     else if (lua_type(L_, index) == LUA_TSTRING)
         page_.add(place.indent, place.label + quoteText(textAt(L_, index), columns - 2));
     else
         page_.add(place.indent, place.label + summary(L_, index));
+}
+
+/// An array of the script, which may release it meanwhile.
+void ValueInspector::showShared(Place const& place, hvArray_tag* array)
+{
+    HostCall call(L_);
+    host_.showArray(place, call.share(array));
 }
 
 void ValueInspector::showPublished(Place const& place, int proxy)
@@ -131,11 +139,9 @@ void ValueInspector::showTable(Place const& place, int table)
     void const* const identity = lua_topointer(L_, table);
     if (std::ranges::find(around_, identity) != around_.end())
         return page_.add(place.indent, place.label + "table (shown above)");
-    {
-        HostCall call(L_);
-        if (ArrayPtr const array = arrayOf(L_, table))
-            return host_.showArray(place, call.share(array.get()));
-    }
+    HostCall call(L_);
+    if (hvArray_tag* const array = arrayOf(call, L_, table))
+        return host_.showArray(place, array);
     if (isOfRecords(L_, table))
         return showRecords(place, table);
     bool const isDeep = place.depth >= maxShownDepth;
