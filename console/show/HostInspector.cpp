@@ -104,10 +104,11 @@ void HostInspector::showArray(Place const& place, hvArray_tag* array)
     }
     if (classID == hvOBJECT_CLASS && count > 1)
         return showRows(place, array);
-    if (classID == hvCHAR_CLASS && count > 0 && array->get_dimensions()[0] == 1)
-        return page_.add(place.indent,
-                         place.label + quoteText(toUtf8(rowOf(*array, 0)),
-                                                 page_.columnsAfter(place.indent + displayWidth(place.label) + 2)));
+    if (classID == hvCHAR_CLASS && count > 0 && array->get_dimensions()[0] == 1) {
+        std::size_t const columns = page_.columnsAfter(place.indent + displayWidth(place.label) + 2);
+        std::string const text = toUtf8(rowOf(*array, 0).substr(0, columns + 1));
+        return page_.add(place.indent, place.label + quoteText(text, columns));
+    }
     if (classID == hvCELL_CLASS && count > 0)
         return showCells(place, array);
     std::string const text = summary(L_, array);
