@@ -1,8 +1,6 @@
 #include "text/Screen.hpp"
 
 #if defined(_WIN32)
-#define WIN32_LEAN_AND_MEAN
-#define NOMINMAX
 #include <windows.h>
 #else
 #include <sys/ioctl.h>
