@@ -119,20 +119,6 @@ void pushCacheEntry(lua_State* L, std::string_view cls, std::string_view name)
 
 } // namespace
 
-std::vector<std::string> memberNames(ClassRecord const& cls)
-{
-    std::vector<std::string> names;
-    for (MethodRecord const& method : cls.methods)
-        if (isListed(method) && method.kind != MethodRecord::Kind::Constructor)
-            names.push_back(method.name);
-    for (PropertyRecord const& property : cls.properties)
-        if (isListed(property))
-            names.push_back(property.name);
-    for (EnumeratorRecord const& enumerator : cls.enumerators)
-        names.push_back(enumerator.name);
-    return names;
-}
-
 void pushMemberCache(lua_State* L, std::string_view className)
 {
     pushAnswers(L, Answers::Members);

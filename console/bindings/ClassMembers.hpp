@@ -2,18 +2,11 @@
 
 #include "lua/LuaApi.hpp"
 
-#include "velmara/Listing.hpp"
-
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace velmara::console {
 
 enum class MemberKind { Callable, Property, StaticProperty, Enumerator };
-
-/// The names of the members of a class that are listed, without its constructors.
-std::vector<std::string> memberNames(ClassRecord const& cls);
 
 /// Finds the member `name` of a class. Pushes the function of a callable one, which takes the object first, or none for
 /// a static method; pushes nothing for a property or an enumerator. Results are kept: see PublishedAnswers.hpp.

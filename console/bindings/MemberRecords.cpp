@@ -132,6 +132,20 @@ std::span<ParameterRecord const> parametersOf(MethodRecord const& method)
     return std::span(method.inputs).subspan(hasObject ? 1 : 0);
 }
 
+std::vector<std::string> memberNames(ClassRecord const& cls)
+{
+    std::vector<std::string> names;
+    for (MethodRecord const& method : cls.methods)
+        if (isListed(method) && method.kind != MethodRecord::Kind::Constructor)
+            names.push_back(method.name);
+    for (PropertyRecord const& property : cls.properties)
+        if (isListed(property))
+            names.push_back(property.name);
+    for (EnumeratorRecord const& enumerator : cls.enumerators)
+        names.push_back(enumerator.name);
+    return names;
+}
+
 void pushMembers(lua_State* L, ClassRecord const& cls)
 {
     Members members(L);

@@ -5,6 +5,8 @@
 #include "velmara/Listing.hpp"
 
 #include <span>
+#include <string>
+#include <vector>
 
 namespace velmara::console {
 
@@ -14,6 +16,9 @@ bool isListed(PropertyRecord const& property);
 
 /// Whether a script can read the property.
 bool isReadable(PropertyRecord const& property);
+
+/// The names of the listed members, without constructors.
+std::vector<std::string> memberNames(ClassRecord const& cls);
 
 /// The inputs that a script passes: without the object that a method is called on.
 std::span<ParameterRecord const> parametersOf(MethodRecord const& method);

@@ -1,6 +1,7 @@
 #include "help/Subject.hpp"
 
 #include "bindings/ClassMembers.hpp"
+#include "bindings/MemberRecords.hpp"
 #include "bindings/ProxyBinding.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"

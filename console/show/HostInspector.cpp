@@ -73,8 +73,8 @@ AlignedTable::Row rowOfObject(lua_State* L, hvArray_tag const* objects, std::siz
 std::size_t maxShownElements(Page const& page, Place const& place)
 {
     constexpr std::size_t maxNested = 10;
-    constexpr std::size_t lastRows = 2; // for what is not written
-    return place.depth == 0 ? std::max(page.rowsLeft(), lastRows) - lastRows : maxNested;
+    constexpr std::size_t aroundRows = 4; // headings, and what is not written
+    return place.depth == 0 ? std::max(page.rowsLeft(), aroundRows) - aroundRows : maxNested;
 }
 
 std::string moreText(std::size_t count)
@@ -104,10 +104,11 @@ void HostInspector::showArray(Place const& place, hvArray_tag* array)
     }
     if (classID == hvOBJECT_CLASS && count > 1)
         return showRows(place, array);
-    if (classID == hvCHAR_CLASS && count > 0 && array->get_dimensions()[0] == 1)
-        return page_.add(place.indent,
-                         place.label + quoteText(toUtf8(rowOf(*array, 0)),
-                                                 page_.columnsAfter(place.indent + displayWidth(place.label) + 2)));
+    if (classID == hvCHAR_CLASS && count > 0 && array->get_dimensions()[0] == 1) {
+        std::size_t const columns = page_.columnsAfter(place.indent + displayWidth(place.label) + 2);
+        std::string const text = toUtf8(rowOf(*array, 0).substr(0, columns + 1));
+        return page_.add(place.indent, place.label + quoteText(text, columns));
+    }
     if (classID == hvCELL_CLASS && count > 0)
         return showCells(place, array);
     std::string const text = summary(L_, array);

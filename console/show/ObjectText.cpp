@@ -39,9 +39,9 @@ void pushShownNames(lua_State* L)
 }
 
 /// "total = 3.0"
-std::string shownProperty(lua_State* L, std::string const& name)
+std::string shownProperty(lua_State* L, hvArray_tag* object, std::string const& name)
 {
-    NativeReading const reading = readForShow(L, checkObject(L, 1), name);
+    NativeReading const reading = readForShow(L, object, name);
     return name + " = " + (reading.failure().empty() ? summary(L, reading.value()) : "?");
 }
 
@@ -49,10 +49,12 @@ std::string shownProperty(lua_State* L, std::string const& name)
 std::string shownProperties(lua_State* L, std::size_t used)
 {
     constexpr std::string_view rest = ", ...)";
+    HostCall call(L);
+    hvArray_tag* const object = call.share(checkObject(L, 1)); // a getter may have the script release it
     pushShownNames(L);
     std::string text;
     for (lua_Integer i = 1; lua_rawgeti(L, 2, i) == LUA_TSTRING; ++i) {
-        std::string const next = (i > 1 ? ", " : "(") + shownProperty(L, std::string(textAt(L, -1)));
+        std::string const next = (i > 1 ? ", " : "(") + shownProperty(L, object, std::string(textAt(L, -1)));
         lua_pop(L, 1);
         if (used + displayWidth(text) + displayWidth(next) + rest.size() > maxObjectText)
             return i > 1 ? text.append(rest) : "(...)";

@@ -6,9 +6,9 @@
 #include "handles/Proxy.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
+#include "show/RecordTable.hpp"
 #include "show/Summary.hpp"
 #include "show/TableLine.hpp"
-#include "text/AlignedTable.hpp"
 #include "text/CutText.hpp"
 #include "text/DisplayWidth.hpp"
 #include "values/ValueToHost.hpp"
@@ -55,72 +55,9 @@ bool isOfSequences(lua_State* L, int table)
     return result;
 }
 
-/// Whether the table is a sequence of several tables that have texts for all keys, as far as the first ones tell.
-bool isOfRecords(lua_State* L, int table)
-{
-    constexpr std::size_t maxChecked = 200;
-    std::size_t const count = std::min<std::size_t>(lua_rawlen(L, table), maxChecked);
-    TableKeys const keys = keysOf(L, table);
-    bool areRecords = count > 1 && keys.texts.empty() && !keys.hasOthers;
-    for (std::size_t i = 1; areRecords && i <= count; ++i) {
-        areRecords = lua_rawgeti(L, table, static_cast<lua_Integer>(i)) == LUA_TTABLE && lua_rawlen(L, -1) == 0 &&
-                     proxyName(L, -1).empty();
-        if (areRecords) {
-            TableKeys const names = keysOf(L, lua_gettop(L));
-            areRecords = !names.texts.empty() && !names.hasOthers;
-        }
-        lua_pop(L, 1);
-    }
-    return areRecords;
-}
-
-bool isEmpty(lua_State* L, int index)
-{
-    if (!lua_istable(L, index))
-        return lua_type(L, index) == LUA_TSTRING && textAt(L, index).empty();
-    lua_pushnil(L);
-    if (lua_next(L, index < 0 ? index - 1 : index) == 0)
-        return proxyName(L, index).empty();
-    lua_pop(L, 2);
-    return false;
-}
-
-/// The fields that are not empty in all of the first `count` records: `name` first, the others as they are found.
-std::vector<std::string> fieldsOf(lua_State* L, int table, std::size_t count)
-{
-    std::vector<std::string> names;
-    visitSequence(L, table, count, [&](std::size_t) {
-        for (std::string const& name : keysOf(L, lua_gettop(L)).texts) {
-            pushText(L, name);
-            lua_rawget(L, -2);
-            if (!isEmpty(L, -1) && std::ranges::find(names, name) == names.end())
-                names.insert(name == "name" ? names.begin() : names.end(), name);
-            lua_pop(L, 1);
-        }
-    });
-    return names;
-}
-
-/// The row of the record on top: its number, and those fields.
-AlignedTable::Row recordRow(lua_State* L, std::size_t index, std::vector<std::string> const& names)
-{
-    constexpr std::size_t maxCellWidth = 32;
-    AlignedTable::Row row{std::to_string(index + 1)};
-    for (std::string const& name : names) {
-        pushText(L, name);
-        lua_rawget(L, -2);
-        std::string text = lua_isnil(L, -1) ? "" : summary(L, -1);
-        if (lua_istable(L, -1) && text == "{...}")
-            if (std::string const line = tableLine(L, -1, maxCellWidth); !line.empty())
-                text = line;
-        row.push_back(text);
-        lua_pop(L, 1);
-    }
-    return row;
-}
-
-/// The array that the host gets for the table: of numbers, of booleans or of objects; null for other tables.
-ArrayPtr arrayOf(lua_State* L, int table)
+/// The array that the host gets for the table, owned by the call: of numbers, of booleans or of objects; null for other
+/// tables.
+hvArray_tag* arrayOf(HostCall& call, lua_State* L, int table)
 {
     constexpr std::size_t maxElements = 1'000'000;
     std::size_t const count = lua_rawlen(L, table);
@@ -133,8 +70,8 @@ ArrayPtr arrayOf(lua_State* L, int table)
     if (!isElement)
         return nullptr;
     try {
-        ArrayPtr array = toHost(L, table);
-        return array->_get_class_id_non_trivial() == hvCELL_CLASS ? nullptr : std::move(array);
+        ArrayPtr const array = toHost(L, table);
+        return array->_get_class_id_non_trivial() == hvCELL_CLASS ? nullptr : call.share(array.get());
     } catch (Error const&) {
         return nullptr; // what cannot be passed to the host is shown as a table
     }
@@ -152,13 +89,20 @@ void ValueInspector::show(Place const& place, int index)
     else if (lua_istable(L_, index))
         showTable(place, index);
     else if (isObject(L_, index) && isValidObject(L_, index))
-        host_.showArray(place, checkObject(L_, index));
+        showShared(place, checkObject(L_, index));
     else if (hvArray_tag* const array = testHostArray(L_, index))
-        host_.showArray(place, array);
+        showShared(place, array);
     else if (lua_type(L_, index) == LUA_TSTRING)
         page_.add(place.indent, place.label + quoteText(textAt(L_, index), columns - 2));
     else
         page_.add(place.indent, place.label + summary(L_, index));
+}
+
+/// An array of the script, which may release it meanwhile.
+void ValueInspector::showShared(Place const& place, hvArray_tag* array)
+{
+    HostCall call(L_);
+    host_.showArray(place, call.share(array));
 }
 
 void ValueInspector::showPublished(Place const& place, int proxy)
@@ -171,25 +115,33 @@ void ValueInspector::showPublished(Place const& place, int proxy)
     page_.add(place.indent, place.label + ownText(L_, proxy));
     if (kind != NameKind::Package || place.depth > 0)
         return;
-    for (std::string const& content : packageContents(hvm.describePackage(name)))
-        page_.add(place.indent + 2, content);
+    PackageRecord const package = hvm.describePackage(name);
+    auto const list = [&](std::string const& content, char const* what) {
+        page_.add(place.indent + 2, unqualifiedName(content) + " = " + what);
+    };
+    for (std::string const& content : package.packages)
+        list(content, "package");
+    for (std::string const& content : package.classes)
+        list(content, "class");
+    for (MethodRecord const& function : package.functions)
+        list(function.name, "function");
 }
 
 void ValueInspector::showTable(Place const& place, int table)
 {
-    if (hasTextFunction(L_, table))
-        return host_.showText(place, ownText(L_, table), place.label.empty() ? 0 : 2);
+    if (hasTextFunction(L_, table)) {
+        host_.showText(place, ownText(L_, table), place.label.empty() ? 0 : 2);
+        return isError(L_, table) && place.depth < maxShownDepth ? showElements(place, table) : void();
+    }
     std::size_t const columns = page_.columnsAfter(place.indent + displayWidth(place.label));
     if (std::string const line = tableLine(L_, table, columns); !line.empty() && !isOfSequences(L_, table))
         return page_.add(place.indent, place.label + line);
     void const* const identity = lua_topointer(L_, table);
     if (std::ranges::find(around_, identity) != around_.end())
         return page_.add(place.indent, place.label + "table (shown above)");
-    {
-        HostCall call(L_);
-        if (ArrayPtr const array = arrayOf(L_, table))
-            return host_.showArray(place, call.share(array.get()));
-    }
+    HostCall call(L_);
+    if (hvArray_tag* const array = arrayOf(call, L_, table))
+        return host_.showArray(place, array);
     if (isOfRecords(L_, table))
         return showRecords(place, table);
     bool const isDeep = place.depth >= maxShownDepth;
@@ -205,13 +157,8 @@ void ValueInspector::showRecords(Place const& place, int table)
 {
     std::size_t const all = lua_rawlen(L_, table);
     std::size_t const count = std::min(all, maxShownElements(page_, place));
-    std::vector<std::string> names = fieldsOf(L_, table, count);
-    AlignedTable::Row headings{"#"};
-    headings.insert(headings.end(), names.begin(), names.end());
-    AlignedTable records(headings);
-    visitSequence(L_, table, count, [&](std::size_t i) { records.add(recordRow(L_, i, names)); });
     page_.add(place.indent, place.label + "table of " + std::to_string(all));
-    for (std::string const& line : records.lines(page_.columnsAfter(place.indent + 2)))
+    for (std::string const& line : recordTable(L_, table, count).lines(page_.columnsAfter(place.indent + 2)))
         page_.add(place.indent + 2, line);
     if (count < all)
         page_.add(place.indent + 2, moreText(all - count));

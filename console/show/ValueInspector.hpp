@@ -17,6 +17,7 @@ public:
     void show(Place const& place, int index);
 
 private:
+    void showShared(Place const& place, hvArray_tag* array);
     void showTable(Place const& place, int table);
     void showPublished(Place const& place, int proxy);
     void showRecords(Place const& place, int table);

@@ -7,6 +7,17 @@ callbacks.keep(function(n)
 end)
 print(gauge)
 show(gauge)
+for _, what in ipairs {"delete", "release"} do
+  local victim = callbacks.Gauge()
+  callbacks.keep(function(n)
+    if n == 1 and what == "delete" then delete(victim) end
+    if n == 1 then local released <close> = victim end
+    return n
+  end)
+  print(victim)
+  if what == "delete" then show(victim) end
+  print(victim, isvalid(victim))
+end
 callbacks.drop()
 show({gauge, other})
 local probe = cases.Probe()
