@@ -4,6 +4,7 @@
 #include "lua/ScriptFailure.hpp"
 
 #include <csignal>
+#include <cstdio>
 
 namespace velmara::console {
 
@@ -144,6 +145,8 @@ InterruptibleRun::~InterruptibleRun()
     if (!script)
         return;
     lua_sethook(script, nullptr, 0, 0); // it may have ended before the hook ran
+    if (raisedCount > 0)
+        std::clearerr(stdout); // Ctrl-C also ends the writing of what nobody reads
     lua_pushnil(script);
     lua_rawsetp(script, LUA_REGISTRYINDEX, &errorKey);
     script = nullptr;
