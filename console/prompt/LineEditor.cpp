@@ -130,6 +130,8 @@ std::string styled(std::string const& prompt)
 LineEditor::LineEditor(lua_State* L, std::filesystem::path history) : L_(L), history_(std::move(history))
 {
     std::setlocale(LC_CTYPE, "");
+    if (MB_CUR_MAX == 1)
+        std::setlocale(LC_CTYPE, "C.UTF-8");
     completed = L_;
     rl_readline_name = "velmara";
     static char breaks[] = " \t\n\"'`@$><=;|&{}()[]+-*/%^#~,.:!?\\";
