@@ -18,14 +18,12 @@ constexpr auto interval = 100ms;
 
 std::size_t drawnLength = 0; // of the line at the terminal of the process; 0 for none
 
-using Text = std::array<char, 80>;
-
 /// "28 s left", "3 min 20 s left", "2 h 5 min left".
-Text timeLeft(double seconds)
+std::array<char, 64> timeLeft(double seconds)
 {
     auto const whole = static_cast<long long>(std::ceil(seconds));
     long long const minutes = whole / 60;
-    Text text;
+    std::array<char, 64> text;
     if (minutes == 0)
         std::snprintf(text.data(), text.size(), "%lld s left", whole);
     else if (minutes < 60)
@@ -35,11 +33,11 @@ Text timeLeft(double seconds)
     return text;
 }
 
-Text progressText(std::size_t done, std::size_t total, double seconds)
+std::array<char, 160> progressText(std::size_t done, std::size_t total, double seconds)
 {
     double const share = static_cast<double>(done) / static_cast<double>(total);
-    Text const left = done > 0 ? timeLeft(seconds * (1 / share - 1)) : Text();
-    Text text;
+    auto const left = done > 0 ? timeLeft(seconds * (1 / share - 1)) : std::array<char, 64>();
+    std::array<char, 160> text;
     std::snprintf(text.data(), text.size(), "%zu of %zu (%d %%)%s%s", done, total, static_cast<int>(share * 100),
                   done > 0 ? ", " : "", left.data());
     return text;
@@ -69,7 +67,7 @@ void ProgressLine::draw(std::size_t done)
     Clock::time_point const now = Clock::now();
     // The cursor stays at the beginning: what native code prints meanwhile takes the line's place.
     std::fflush(stdout);
-    Text const text = progressText(done, total_, std::chrono::duration<double>(now - start_).count());
+    auto const text = progressText(done, total_, std::chrono::duration<double>(now - start_).count());
     eraseLine(stderr, drawnLength);
     std::fprintf(stderr, "%s\r", text.data());
     std::fflush(stderr);

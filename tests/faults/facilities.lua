@@ -134,3 +134,7 @@ handle.other = probe.Handle(2)
 print(handle)
 show(handle, {handle, handle.other}, members(probe.named))
 return handle
+
+local raise = coroutine.wrap(function() error({through = "a coroutine"}) end)
+each({raise, print}, function(f) print(pcall(xpcall, f, type)) end)
+return (select(2, time(tostring, 7)))
