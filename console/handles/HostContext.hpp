@@ -2,6 +2,7 @@
 
 #include "handles/ArrayStack.hpp"
 #include "handles/HeldArrays.hpp"
+#include "handles/Member.hpp"
 #include "handles/OwnedFunctions.hpp"
 #include "lua/LuaApi.hpp"
 
@@ -31,6 +32,7 @@ public:
     ArrayStack& arrays() { return arrays_; }
     HeldArrays& heldArrays() { return heldArrays_; }
     OwnedFunctions& ownedFunctions() { return ownedFunctions_; }
+    Members& members() { return members_; }
 
     /// The virtual machine in use: the innermost one.
     Hvm& hvm() { return *machines_.back(); }
@@ -112,6 +114,7 @@ private:
     ArrayStack arrays_;
     HeldArrays heldArrays_;
     OwnedFunctions ownedFunctions_;
+    Members members_;
     std::uint64_t publicationNumber_ = 0; ///< the latest one that was asked for; 0 for none
     bool hasFailed_ = false;
     bool isClosing_ = false;

@@ -8,6 +8,7 @@
 #include "lua/ScriptError.hpp"
 #include "values/FunctionValue.hpp"
 #include "values/HostText.hpp"
+#include "values/ScalarValue.hpp"
 #include "values/ValueToHost.hpp"
 #include "values/ValueToLua.hpp"
 
@@ -31,23 +32,6 @@ using orbis::host_extensions::convertNumber;
 using orbis::host_extensions::findNumericClass;
 using orbis::host_extensions::functionClass;
 using orbis::host_extensions::visitNumericClass;
-
-template <class T>
-void pushNumber(lua_State* L, T number)
-{
-    if constexpr (std::same_as<T, bool>)
-        lua_pushboolean(L, number);
-    else if constexpr (std::is_floating_point_v<T>)
-        lua_pushnumber(L, number);
-    else if (std::in_range<lua_Integer>(number))
-        lua_pushinteger(L, static_cast<lua_Integer>(number));
-    else {
-        ArrayStack::Frame frame(HostContext::of(L).arrays());
-        hvArray_tag* const scalar =
-            frame.push(ArrayPtr(orbis::host_extensions::createMatrix(1, 1, hvUINT64_CLASS, &number)));
-        pushHostArray(L, *scalar);
-    }
-}
 
 void replaceNil(lua_State* L)
 {
@@ -188,7 +172,7 @@ void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
         pushObject(L, array, index);
         return replaceNil(L);
     default:
-        visitNumericClass(classID, [&]<class T>(T) { pushNumber(L, static_cast<T const*>(data)[index]); });
+        pushNumericElement(L, classID, data, index);
     }
 }
 

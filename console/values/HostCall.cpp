@@ -2,8 +2,11 @@
 
 #include "handles/HostArray.hpp"
 #include "lua/ScriptError.hpp"
+#include "values/ScalarValue.hpp"
 #include "values/ValueToHost.hpp"
 #include "values/ValueToLua.hpp"
+
+#include <algorithm>
 
 namespace velmara::console {
 
@@ -35,19 +38,44 @@ Hvm::Inputs HostCall::inputs(int first)
     return frame_.arrays().subspan(start);
 }
 
-int HostCall::finish(ArrayPtr result)
+Hvm::Values HostCall::values(int first)
 {
-    if (failure_) [[unlikely]] {
-        pushError(L_, *failure_);
-        return raised;
+    int const count = std::max(lua_gettop(L_) - first + 1, 0);
+    orbis::COSValue* values = inlineValues_;
+    if (count > inlineCapacity) {
+        moreValues_.resize(count);
+        values = moreValues_.data();
     }
-    if (!result)
-        return 0;
+    for (int i = 0; i < count; ++i)
+        if (!readScalar(L_, first + i, values[i]))
+            values[i] = orbis::COSValue(frame_.push(input(L_, first + i, i + 1)));
+    return {values, static_cast<std::size_t>(count)};
+}
+
+int HostCall::finishArray(ArrayPtr result)
+{
     hvArray_tag const* const array = frame_.push(std::move(result));
     if (keepsArray_)
         pushHostArray(L_, *array);
     else
         pushValue(L_, array);
+    return 1;
+}
+
+int HostCall::finish(Value result)
+{
+    if (failure_) [[unlikely]] {
+        pushError(L_, *failure_);
+        return raised;
+    }
+    orbis::COSValue const& slot = result.slot();
+    if (slot.isArray())
+        return finishArray(result.releaseArray());
+    if (slot.isEmpty())
+        return 0;
+    if (keepsArray_) [[unlikely]]
+        return finishArray(toArray(slot));
+    pushScalar(L_, slot);
     return 1;
 }
 

@@ -7,6 +7,7 @@
 #include "lua/ScriptError.hpp"
 #include "values/FunctionValue.hpp"
 #include "values/HostText.hpp"
+#include "values/ScalarValue.hpp"
 #include "values/TableToHost.hpp"
 
 #include "velmara/Hvm.hpp"
@@ -18,27 +19,9 @@ namespace velmara::console {
 
 namespace {
 
-template <class T>
-ArrayPtr scalar(T value, hvClassID classID)
-{
-    ArrayPtr array(orbis::host_extensions::createMatrix(1, 1, classID));
-    *static_cast<T*>(orbis::host_extensions::getWritableData(array.get())) = value;
-    return array;
-}
-
 ArrayPtr emptyArray()
 {
     return ArrayPtr(orbis::host_extensions::createMatrix(0, 0, hvDOUBLE_CLASS));
-}
-
-ArrayPtr number(lua_State* L, int index)
-{
-    if (!lua_isinteger(L, index))
-        return scalar(lua_tonumber(L, index), hvDOUBLE_CLASS);
-    lua_Integer const value = lua_tointeger(L, index);
-    if (isInExactRange(value))
-        return scalar(static_cast<double>(value), hvDOUBLE_CLASS);
-    return scalar<std::int64_t>(value, hvINT64_CLASS);
 }
 
 ArrayPtr userdata(lua_State* L, int index)
@@ -62,13 +45,11 @@ ArrayPtr userdata(lua_State* L, int index)
 
 ArrayPtr toHost(lua_State* L, int index, Conversion& conversion)
 {
+    if (orbis::COSValue scalar; readScalar(L, index, scalar))
+        return toArray(scalar);
     switch (lua_type(L, index)) {
     case LUA_TNIL:
         return emptyArray();
-    case LUA_TBOOLEAN:
-        return scalar(lua_toboolean(L, index) != 0, hvLOGICAL_CLASS);
-    case LUA_TNUMBER:
-        return number(L, index);
     case LUA_TSTRING:
         return ArrayPtr(orbis::host_extensions::createText(hostTextAt(L, index)));
     case LUA_TTABLE:

@@ -25,11 +25,4 @@ inline ArrayPtr toHost(lua_State* L, int index)
     return toHost(L, index, conversion);
 }
 
-/// True for the integers that are passed as doubles: every integer up to their magnitude is exactly one.
-constexpr bool isInExactRange(lua_Integer value)
-{
-    constexpr lua_Integer limit = lua_Integer{1} << 53;
-    return -limit <= value && value <= limit;
-}
-
 } // namespace velmara::console

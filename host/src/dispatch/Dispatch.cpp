@@ -35,10 +35,12 @@ void checkInputs(Machine const& machine, Inputs inputs)
     }
 }
 
-Method const& chooseAmong(MethodGroup const& group, CallInputs call)
+Method const* chooseAmong(MethodGroup const& group, CallInputs call, Failure failure)
 {
-    if (group.accessible == 0)
-        throwUncallable(group, call);
+    if (group.accessible == 0) {
+        refuseUncallable(group, call, failure);
+        return nullptr;
+    }
     std::byte buffer[1024];
     std::pmr::monotonic_buffer_resource memory(buffer, sizeof buffer);
     // A copy: conversions run native code, which may add to the group.
@@ -52,22 +54,32 @@ Method const& chooseAmong(MethodGroup const& group, CallInputs call)
         if (convertFor(*methods[i], call, trial, [next = row](ConversionRank rank) mutable { *next++ = rank; }))
             matching.push_back({methods[i], {row, call.inputs.size()}});
     }
-    if (matching.empty())
-        throwNoMatch(methods, call);
+    if (matching.empty()) {
+        refuseNoMatch(methods, call, failure);
+        return nullptr;
+    }
     std::pmr::vector<Method const*> unbeaten(&memory);
     for (Candidate const& candidate : matching)
         if (std::ranges::none_of(matching, [&](Candidate const& other) { return other.isBetterThan(candidate); }))
             unbeaten.push_back(candidate.method);
-    if (unbeaten.size() > 1)
-        throwAmbiguous(unbeaten, call);
-    return *unbeaten.front();
+    if (unbeaten.size() == 1)
+        return unbeaten.front();
+    refuseAmbiguous(unbeaten, call, failure);
+    return nullptr;
 }
 
-ArrayPtr dispatch(MethodGroup const& group, CallInputs const& call)
+Value dispatchArrays(MethodGroup const& group, CallInputs const& call, Failure failure)
 {
     ConvertedInputs converted(call.capacity());
-    Method const& method = choose(group, call, converted);
-    return invoke(method, converted.count(), converted.values());
+    Method const* const method = choose(group, call, converted, failure);
+    return method ? invoke(*method, converted.count(), converted.values()) : Value();
+}
+
+Value dispatchArrays(MethodGroup const& group, hvArray_tag* self, std::span<orbis::COSValue const> inputs,
+                     Failure failure)
+{
+    InputArrays const arrays(inputs);
+    return dispatchArrays(group, {self, arrays.get()}, failure);
 }
 
 } // namespace velmara

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "arrays/Array.hpp"
-#include "dispatch/CallInputs.hpp"
+#include "members/Method.hpp"
 
 #include "orbis/COSValue.hpp"
+
+#include <span>
 
 namespace velmara {
 
@@ -13,29 +15,50 @@ class ScalarInputs {
 public:
     ScalarInputs() {}
 
-    /// False when they do not fit, or `self` is of another class.
-    [[gnu::always_inline]] bool read(Method const& method, hvArray_tag* self, Inputs inputs)
+    /// False when they do not fit, or `self` is of another class. An `Input` is an array or an `orbis::COSValue`.
+    template <class Input>
+    [[gnu::always_inline]] bool read(Method const& method, hvArray_tag* self, std::span<Input const> inputs)
     {
-        Parameter const* const parameters = method.inputs.data();
-        if (method.inputCount != inputs.size() + 1 || parameters->type.name != Array::of(self)->objectClass())
+        Parameter const* parameters = method.inputs.data();
+        orbis::COSValue* values = values_;
+        if (method.inputCount != inputs.size() + method.takesObject)
             return false;
-        values_[0] = orbis::COSValue(self);
-        return readDoubles(parameters + 1, values_ + 1, inputs) || readOthers(parameters + 1, values_ + 1, inputs);
+        if (method.takesObject) {
+            if (!self || parameters->type.name != Array::of(self)->objectClass())
+                return false;
+            *values++ = orbis::COSValue(self);
+            ++parameters;
+        }
+        return readDoubles(parameters, values, inputs) || readOthers(parameters, values, inputs);
     }
 
     orbis::COSValue const* values() const { return values_; }
 
 private:
-    // Apart from other conversions, so that this loop calls nothing.
-    [[gnu::always_inline]] static bool readDoubles(Parameter const* parameter, orbis::COSValue* value, Inputs inputs)
+    [[gnu::always_inline]] static bool readDouble(ScalarReader const& reader, hvArray_tag* input,
+                                                  orbis::COSValue& value)
     {
-        for (hvArray_tag* const input : inputs)
-            if (!input || !(parameter++)->type.scalar.readDouble(*Array::of(input), *value++))
+        return input && reader.readDouble(*Array::of(input), value);
+    }
+    [[gnu::always_inline]] static bool readDouble(ScalarReader const& reader, orbis::COSValue const& input,
+                                                  orbis::COSValue& value)
+    {
+        return reader.readDouble(input, value);
+    }
+
+    // Apart from other conversions, so that this loop calls nothing.
+    template <class Input>
+    [[gnu::always_inline]] static bool readDoubles(Parameter const* parameter, orbis::COSValue* value,
+                                                   std::span<Input const> inputs)
+    {
+        for (Input const& input : inputs)
+            if (!readDouble((parameter++)->type.scalar, input, *value++))
                 return false;
         return true;
     }
 
-    static bool readOthers(Parameter const* parameter, orbis::COSValue* value, Inputs inputs);
+    static bool readOthers(Parameter const* parameter, orbis::COSValue* value, std::span<hvArray_tag* const> inputs);
+    static bool readOthers(Parameter const* parameter, orbis::COSValue* value, std::span<orbis::COSValue const> inputs);
 
     union {
         orbis::COSValue values_[Method::maxScalarInputs]; ///< not initialized: only what is read is ever used

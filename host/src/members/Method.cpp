@@ -46,7 +46,7 @@ Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, ObjectClass con
     takesObject = definer && !isStatic && !isConstructor;
     if (takesObject && inputs.empty())
         throwHostError("VELMARA:member", "noObjectInput", {definer->name()->string(), info->getName()});
-    takesOnlyScalars = takesObject && isAccessible() && !isAbstract && inputCount <= maxScalarInputs &&
+    takesOnlyScalars = isAccessible() && !isAbstract && inputCount <= maxScalarInputs &&
                        std::ranges::all_of(explicitInputs(), isScalar) && (!outputType || isScalar(outputs.front()));
 }
 

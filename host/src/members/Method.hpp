@@ -45,7 +45,7 @@ struct Method : Retirable {
     bool overridesAllSignatures;
     bool takesObject; ///< its first input is the object it is called on
 
-    /// True for a method that anyone may call on an object, and that takes and returns only scalars, not too many.
+    /// True for what anyone may call, and that takes (but for the object) and returns only scalars, not too many.
     bool takesOnlyScalars;
     static constexpr std::size_t maxScalarInputs = 8;
 };
