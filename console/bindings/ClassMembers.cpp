@@ -47,7 +47,7 @@ int callStatic(lua_State* L, HostCall& call, Member& member)
     Hvm::Failure& failure = call.failure();
     if (failure && isObject(L, 1) && objectClass(L, 1) == member.name.owner() &&
         failure->identifier() == "VELMARA:dispatch:noMatch")
-        failure.emplace(failure->identifier(), failure->text() + "\n  \"" + member.name.member() +
+        failure = Error(failure->identifier(), failure->text() + "\n  \"" + member.name.member() +
                                                    "\" is static: write " + fullNameOf(member) + "(...), with a dot");
     return call.finish(std::move(result));
 }
@@ -63,8 +63,7 @@ int callMember(lua_State* L)
     if (member.isCalledOnClass)
         return callStatic(L, call, member);
     std::string const& name = member.name.member();
-    fail("noObject",
-         name + " needs an object of " + member.name.owner() + " first: write object:" + name + "(...)");
+    fail("noObject", name + " needs an object of " + member.name.owner() + " first: write object:" + name + "(...)");
 }
 
 int callPackageFunction(lua_State* L)
@@ -134,7 +133,6 @@ void pushMemberCache(lua_State* L, std::string_view className)
 MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name)
 {
     luaL_checkstack(L, 10, nullptr);
-    forgetOutdated(L);
     pushMemberCache(L, className);
     pushCached(L, lua_gettop(L), name, [&] { pushCacheEntry(L, className, name); });
     lua_remove(L, -2);

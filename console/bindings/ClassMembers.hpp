@@ -22,7 +22,7 @@ bool pushFormerCallable(lua_State* L, std::string_view className, std::string_vi
 MemberKind checkProperty(lua_State* L, std::string_view className, std::string_view name);
 
 /// Pushes what is kept of the class: a table with a function under the name of each callable member that was found, and
-/// the `Member`, a light userdata, under those of others. Call `forgetOutdated` before it is read.
+/// the `Member`, a light userdata, under those of others.
 void pushMemberCache(lua_State* L, std::string_view className);
 
 /// Pushes the function that calls the package function of that full name.

@@ -23,7 +23,6 @@ std::string_view memberName(lua_State* L, int index)
 /// Pushes what upvalue 1, the class's table of known members, has for the key at 2; returns its type.
 int pushKnownMember(lua_State* L)
 {
-    forgetOutdated(L);
     lua_pushvalue(L, 2);
     return lua_rawget(L, lua_upvalueindex(1));
 }

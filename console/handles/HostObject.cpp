@@ -121,7 +121,6 @@ int compareObjects(lua_State* L)
 
 void pushMetatable(lua_State* L, std::string_view className)
 {
-    forgetOutdated(L);
     pushAnswers(L, Answers::Metatables);
     pushCached(L, lua_gettop(L), className, [&] {
         lua_newtable(L);

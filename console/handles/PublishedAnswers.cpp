@@ -1,5 +1,7 @@
 #include "handles/PublishedAnswers.hpp"
 
+#include <iterator>
+
 namespace velmara::console {
 
 namespace {
@@ -39,11 +41,11 @@ void forgetAnswers(lua_State* L)
     for (Answers const answers : allAnswers) {
         pushAnswers(L, answers);
         int const table = lua_gettop(L);
-        // Functions hold the tables of members: they are emptied, not only dropped.
-        for (lua_pushnil(L); answers == Answers::Members && lua_next(L, table) != 0; lua_pop(L, 1))
+        bool const areTables = answers != Answers::Metatables;
+        for (lua_pushnil(L); areTables && lua_next(L, table) != 0; lua_pop(L, 1))
             clearTable(L, lua_gettop(L));
         lua_settop(L, table);
-        if (answers != Answers::Members)
+        if (!areTables)
             clearTable(L, table);
         lua_pop(L, 1);
     }

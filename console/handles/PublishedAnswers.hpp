@@ -1,6 +1,6 @@
 #pragma once
 
-#include "handles/HostContext.hpp"
+#include "lua/LuaApi.hpp"
 
 namespace velmara::console {
 
@@ -11,16 +11,11 @@ namespace velmara::console {
 /// of objects by class.
 enum class Answers { Members, Contents, Metatables };
 
-/// Pushes one of them. Call `forgetOutdated` before anything is read from it.
+/// Pushes one of them.
 void pushAnswers(lua_State* L, Answers answers);
 
-/// Empties them, and the tables in the first two.
+/// Empties them, and the tables in the first two, which values of the script refer to. Called when what is published
+/// has changed.
 void forgetAnswers(lua_State* L);
-
-inline void forgetOutdated(lua_State* L)
-{
-    if (HostContext::of(L).hasPublicationChanged()) [[unlikely]]
-        forgetAnswers(L);
-}
 
 } // namespace velmara::console

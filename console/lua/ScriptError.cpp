@@ -1,6 +1,7 @@
 #include "lua/ScriptError.hpp"
 
 #include "lua/CachedValue.hpp"
+#include "lua/ChangeWatch.hpp"
 #include "lua/ScriptFailure.hpp"
 #include "lua/ScriptFrames.hpp"
 #include "lua/Table.hpp"
@@ -103,7 +104,9 @@ void fail(std::string_view key, std::string const& text)
 int callGuarded(lua_State* L, lua_CFunction body)
 {
     try {
-        if (int const results = body(L); results != raised) [[likely]]
+        int const results = body(L);
+        ChangeWatch::check(L);
+        if (results != raised) [[likely]]
             return results;
     } catch (ScriptFailure const& failure) {
         pushFailure(L, failure);
@@ -116,6 +119,7 @@ int callGuarded(lua_State* L, lua_CFunction body)
     } catch (std::exception const& error) {
         pushError(L, "VELMARA:console:internal", error.what());
     } // no `catch (...)`: Lua's own errors must reach Lua
+    ChangeWatch::check(L);
     return lua_error(L);
 }
 
