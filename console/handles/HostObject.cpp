@@ -4,7 +4,6 @@
 #include "handles/ObjectValues.hpp"
 #include "handles/PublishedAnswers.hpp"
 #include "handles/ValueText.hpp"
-#include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
 
@@ -119,10 +118,12 @@ int compareObjects(lua_State* L)
     return 1;
 }
 
+/// Pushes the metatable of a class by its shared name.
 void pushMetatable(lua_State* L, std::string_view className)
 {
     pushAnswers(L, Answers::Metatables);
-    pushCached(L, lua_gettop(L), className, [&] {
+    if (lua_rawgetp(L, -1, className.data()) != LUA_TTABLE) [[unlikely]] {
+        lua_pop(L, 1);
         lua_newtable(L);
         setField(L, "__gc", guarded<collectObject>);
         setField(L, "__close", guarded<releaseObject>);
@@ -134,8 +135,10 @@ void pushMetatable(lua_State* L, std::string_view className)
         lua_pushvalue(L, -2);
         pushText(L, className);
         lua_call(L, 2, 0);
-    });
-    lua_remove(L, -2);
+        lua_pushvalue(L, -1);
+        lua_rawsetp(L, -3, className.data()); // last: a shortage of memory leaves none that is half done
+    }
+    lua_replace(L, -2);
 }
 
 /// Pushes the value that holds the object already; false, and nothing pushed, when there is none.
@@ -155,11 +158,11 @@ void pushNew(lua_State* L, HostContext& context, orbis::COSInterface* host)
     hvArray_tag* const scalar = frame.push(ArrayPtr(orbis::omCreateORBISScalar(host)));
     auto* const holder =
         new (lua_newuserdatauv(L, sizeof(ObjectHolder), 1)) ObjectHolder; // its user value: see OwnedFunctions
-    pushMetatable(L, className(scalar));
+    pushMetatable(L, sharedClassName(scalar));
     lua_setmetatable(L, -2);
     scalar->add_reference();
     context.heldArrays().hold(holder->held, ArrayPtr(scalar));
-    recordValue(L, host, -1);
+    recordValue(L, host, -1, holder->held.slot);
 }
 
 } // namespace
@@ -168,7 +171,6 @@ void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
     HostContext& context = HostContext::of(L);
     context.requireOpen();
-    luaL_checkstack(L, 10, nullptr);
     orbis::COSInterface* const host = hostIn(array, index);
     if (!host)
         return lua_pushnil(L);

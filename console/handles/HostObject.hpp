@@ -13,7 +13,8 @@ namespace velmara::console {
 /// object when it is collected, or closed as a `<close>` variable; the object then gets another value when it crosses
 /// again. Until then it has one: table keys and `rawequal` agree with ==.
 
-/// Pushes the object at a zero-based index of an object array; nil for a null element.
+/// Pushes the object at a zero-based index of an object array; nil for a null element. Needs room for 10 values on the
+/// stack.
 void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index);
 
 /// Has `complete` called with the metatable and the name of each class whose first object is pushed from now on: it

@@ -2,6 +2,8 @@
 
 #include "lua/Table.hpp"
 
+#include "velmara/Hvm.hpp"
+
 namespace velmara::console {
 
 namespace {
@@ -23,19 +25,43 @@ void pushWeakTable(lua_State* L, void const* key, char const* mode)
     lua_rawsetp(L, LUA_REGISTRYINDEX, key);
 }
 
-void pushRecordedValue(lua_State* L, orbis::COSInterface const* host)
+namespace {
+
+/// Pushes the table of the values by the numbers of their objects.
+void pushValues(lua_State* L)
 {
     pushWeakTable(L, &valuesKey, "v");
-    lua_rawgetp(L, -1, host);
-    lua_remove(L, -2);
+}
+
+lua_Integer numberOf(orbis::COSInterface const* host)
+{
+    return embedderNumber(const_cast<orbis::COSInterface&>(*host));
+}
+
+} // namespace
+
+void pushRecordedValue(lua_State* L, orbis::COSInterface const* host)
+{
+    lua_Integer const number = numberOf(host);
+    if (number == 0)
+        return lua_pushnil(L);
+    pushValues(L);
+    lua_rawgeti(L, -1, number);
+    lua_replace(L, -2);
+}
+
+void recordValue(lua_State* L, orbis::COSInterface* host, int index, std::size_t number)
+{
+    embedderNumber(*host) = static_cast<std::uint32_t>(number + 1); // 0 is that of objects without a value
+    recordValue(L, host, index);
 }
 
 void recordValue(lua_State* L, orbis::COSInterface const* host, int index)
 {
     index = lua_absindex(L, index);
-    pushWeakTable(L, &valuesKey, "v");
+    pushValues(L);
     lua_pushvalue(L, index);
-    lua_rawsetp(L, -2, host);
+    lua_rawseti(L, -2, numberOf(host));
     lua_pop(L, 1);
 }
 

@@ -154,7 +154,7 @@ void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
     hvClassID const classID = array->_get_class_id_non_trivial();
     if (!findNumericClass(classID))
-        luaL_checkstack(L, 8, nullptr);
+        luaL_checkstack(L, 12, nullptr);
     if (classID == functionClass)
         return pushFunction(L, *array);
     void const* const data = orbis::host_extensions::getData(array);

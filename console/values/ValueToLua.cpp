@@ -83,7 +83,7 @@ void pushValue(lua_State* L, hvArray_tag const* array)
     std::size_t const count = array->get_number_of_elements();
     if (count == 1 && findNumericClass(classID)) // needs a slot only, which is there
         return pushElement(L, array, 0);
-    luaL_checkstack(L, 8, nullptr);
+    luaL_checkstack(L, 12, nullptr);
     bool const isNone = rowsOf(*array) == 0 && columnsOf(*array) == 0;
     if (classID == hvOBJECT_CLASS && isNone)
         return lua_pushnil(L);
@@ -100,7 +100,7 @@ void pushValue(lua_State* L, hvArray_tag const* array)
 
 void pushContent(lua_State* L, hvArray_tag const& array, Conversion& conversion)
 {
-    luaL_checkstack(L, 8, nullptr);
+    luaL_checkstack(L, 12, nullptr);
     hvClassID const classID = array._get_class_id_non_trivial();
     std::size_t const count = array.get_number_of_elements();
     conversion.add(count, sizeof(lua_Number) * 2);

@@ -163,4 +163,10 @@ VELMARA_API ArrayPtr objectRow(std::span<orbis::COSInterfacePtr const> objects);
 /// The name of an array's class: "double", "char", "cell", a published class, ...
 VELMARA_API std::string className(hvArray_tag const* array);
 
+/// The same as a text that is valid as long as the process, and that all arrays of the class share. Empty for null.
+VELMARA_API std::string_view sharedClassName(hvArray_tag const* array);
+
+/// A number that the embedder may keep with an object, 0 at first. The virtual machine does not read it.
+VELMARA_API std::uint32_t& embedderNumber(orbis::COSInterface& object);
+
 } // namespace velmara

@@ -23,6 +23,19 @@ struct Candidate {
     }
 };
 
+/// The only method that takes so many inputs; null when there are several, or none.
+Method const* onlyTaking(MethodGroup const& group, CallInputs const& call)
+{
+    Method const* found = nullptr;
+    for (std::size_t i = 0; i < group.accessible; ++i)
+        if (takesInputs(*group.methods[i], call)) {
+            if (found)
+                return nullptr;
+            found = group.methods[i];
+        }
+    return found;
+}
+
 } // namespace
 
 void checkInputs(Machine const& machine, Inputs inputs)
@@ -41,6 +54,8 @@ Method const* chooseAmong(MethodGroup const& group, CallInputs call, Failure fai
         refuseUncallable(group, call, failure);
         return nullptr;
     }
+    if (Method const* const method = onlyTaking(group, call))
+        return method;
     std::byte buffer[1024];
     std::pmr::monotonic_buffer_resource memory(buffer, sizeof buffer);
     // A copy: conversions run native code, which may add to the group.
