@@ -2,9 +2,9 @@
 
 #include "dispatch/CallInputs.hpp"
 #include "dispatch/ConvertedInputs.hpp"
+#include "dispatch/DirectInputs.hpp"
 #include "dispatch/InputArrays.hpp"
 #include "dispatch/ResultValue.hpp"
-#include "dispatch/ScalarInputs.hpp"
 
 #include "velmara/Error.hpp"
 #include "velmara/Value.hpp"
@@ -90,16 +90,16 @@ inline Value dispatchArrays(MethodGroup const& group, hvArray_tag* self, Inputs 
 Value dispatchArrays(MethodGroup const& group, hvArray_tag* self, std::span<orbis::COSValue const> inputs,
                      Failure failure);
 
-/// The same, shorter for the one method that takes and returns only scalars, as most do. An `Input` is an array or an
+/// The same, shorter for the only method of the group when nothing is to be converted, as most often. An `Input` is an array or an
 /// `orbis::COSValue`.
 template <class Input>
 [[gnu::always_inline]] inline Value dispatch(MethodGroup const& group, hvArray_tag* self, std::span<Input const> inputs,
                                              Failure failure)
 {
-    if (Method const* const method = group.only; method && method->takesOnlyScalars) [[likely]] {
-        ScalarInputs scalars;
-        if (scalars.read(*method, self, inputs)) [[likely]]
-            return invoke(*method, static_cast<int>(method->inputCount), scalars.values());
+    if (Method const* const method = group.only; method && method->takesFewInputs) [[likely]] {
+        DirectInputs direct;
+        if (direct.read(*method, self, inputs)) [[likely]]
+            return invoke(*method, static_cast<int>(method->inputCount), direct.values());
     }
     return dispatchArrays(group, self, inputs, failure);
 }

@@ -9,13 +9,14 @@
 
 namespace velmara {
 
-/// The inputs of a method that takes only scalars (`Method::takesOnlyScalars`): converting them runs no native code and
-/// creates nothing that would have to be released.
-class ScalarInputs {
+/// The inputs of a call of a method with few (`Method::takesFewInputs`) where each is a value of its type as it stands,
+/// or a scalar: converting them runs no native code and creates nothing that would have to be released.
+class DirectInputs {
 public:
-    ScalarInputs() {}
+    DirectInputs() {}
 
-    /// False when they do not fit, or `self` is of another class. An `Input` is an array or an `orbis::COSValue`.
+    /// False when they are not, or do not fit, or `self` is of another class. An `Input` is an array or an
+    /// `orbis::COSValue`.
     template <class Input>
     [[gnu::always_inline]] bool read(Method const& method, hvArray_tag* self, std::span<Input const> inputs)
     {
@@ -58,10 +59,11 @@ private:
     }
 
     static bool readOthers(Parameter const* parameter, orbis::COSValue* value, std::span<hvArray_tag* const> inputs);
-    static bool readOthers(Parameter const* parameter, orbis::COSValue* value, std::span<orbis::COSValue const> inputs);
+    static bool readOthers(Parameter const* parameter, orbis::COSValue* value,
+                           std::span<orbis::COSValue const> inputs);
 
     union {
-        orbis::COSValue values_[Method::maxScalarInputs]; ///< not initialized: only what is read is ever used
+        orbis::COSValue values_[Method::fewInputs]; ///< not initialized: only what is read is ever used
     };
 };
 
