@@ -1,7 +1,7 @@
 #include "bindings/ClassMembers.hpp"
 
+#include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
-#include "handles/PublishedAnswers.hpp"
 #include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
 #include "text/CloseMatches.hpp"
@@ -125,7 +125,7 @@ void pushCacheEntry(lua_State* L, std::string_view cls, std::string_view name)
 
 void pushMemberCache(lua_State* L, std::string_view className)
 {
-    pushAnswers(L, Answers::Members);
+    HostContext::of(L).answers().members.push(L);
     pushCached(L, lua_gettop(L), className, [L] { lua_newtable(L); });
     lua_remove(L, -2);
 }

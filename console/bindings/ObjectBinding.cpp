@@ -2,8 +2,8 @@
 
 #include "bindings/ClassMembers.hpp"
 #include "bindings/Operators.hpp"
+#include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
-#include "handles/PublishedAnswers.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"

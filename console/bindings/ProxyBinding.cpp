@@ -3,7 +3,6 @@
 #include "bindings/ClassMembers.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
-#include "handles/PublishedAnswers.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
@@ -182,7 +181,7 @@ void setContents(lua_State* L, int owner)
     lua_newtable(L);
     lua_insert(L, -2);
     lua_setmetatable(L, -2);
-    pushAnswers(L, Answers::Contents);
+    HostContext::of(L).answers().contents.push(L);
     lua_pushvalue(L, owner);
     lua_pushvalue(L, -3);
     lua_rawset(L, -3);

@@ -1,7 +1,5 @@
 #include "handles/HostContext.hpp"
 
-#include "handles/PublishedAnswers.hpp"
-
 #include "lua/ScriptError.hpp"
 
 #include <cstdio>
@@ -9,7 +7,7 @@
 namespace velmara::console {
 
 HostContext::HostContext(lua_State* L, bool reportsLeaks)
-    : ChangeWatch(forgetAnswers),
+    : ChangeWatch([](lua_State* changed) { of(changed).answers().forget(changed); }),
       running_(L),
       reportsLeaks_(reportsLeaks)
 {

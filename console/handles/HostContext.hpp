@@ -4,6 +4,7 @@
 #include "handles/HeldArrays.hpp"
 #include "handles/Member.hpp"
 #include "handles/OwnedFunctions.hpp"
+#include "handles/PublishedAnswers.hpp"
 #include "handles/PublishedName.hpp"
 #include "lua/ChangeWatch.hpp"
 #include "lua/LuaApi.hpp"
@@ -34,8 +35,12 @@ public:
     ArrayStack& arrays() { return arrays_; }
     HeldArrays& heldArrays() { return heldArrays_; }
     OwnedFunctions& ownedFunctions() { return ownedFunctions_; }
+    PublishedAnswers& answers() { return answers_; }
     Members& members() { return members_; }
     PublishedNames& publishedNames() { return publishedNames_; }
+
+    /// The values of objects: see ObjectValues.hpp.
+    RegistryTable& objectValues() { return objectValues_; }
 
     /// The virtual machine in use: the innermost one.
     Hvm& hvm() { return *machines_.back(); }
@@ -113,6 +118,8 @@ private:
     ArrayStack arrays_;
     HeldArrays heldArrays_;
     OwnedFunctions ownedFunctions_;
+    RegistryTable objectValues_{"v"};
+    PublishedAnswers answers_;
     Members members_;
     PublishedNames publishedNames_;
     bool hasFailed_ = false;

@@ -2,7 +2,6 @@
 
 #include "handles/HostContext.hpp"
 #include "handles/ObjectValues.hpp"
-#include "handles/PublishedAnswers.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
@@ -25,6 +24,7 @@ char const objectMark = 0;    // its address tells objects from other values
 struct ObjectHolder {
     void const* mark = &objectMark;
     HeldArrays::Holder held;
+    orbis::COSInterface* host = nullptr; ///< valid while the array is held
 };
 
 /// Null for any other value.
@@ -121,7 +121,7 @@ int compareObjects(lua_State* L)
 /// Pushes the metatable of a class by its shared name.
 void pushMetatable(lua_State* L, std::string_view className)
 {
-    pushAnswers(L, Answers::Metatables);
+    HostContext::of(L).answers().metatables.push(L);
     if (lua_rawgetp(L, -1, className.data()) != LUA_TTABLE) [[unlikely]] {
         lua_pop(L, 1);
         lua_newtable(L);
@@ -146,7 +146,7 @@ bool pushKnown(lua_State* L, orbis::COSInterface const* host)
 {
     pushRecordedValue(L, host);
     if (auto const* const holder = static_cast<ObjectHolder*>(lua_touserdata(L, -1));
-        holder && hostIn(holder->held.array) == host)
+        holder && holder->held.array && holder->host == host)
         return true;
     lua_pop(L, 1);
     return false;
@@ -162,6 +162,7 @@ void pushNew(lua_State* L, HostContext& context, orbis::COSInterface* host)
     lua_setmetatable(L, -2);
     scalar->add_reference();
     context.heldArrays().hold(holder->held, ArrayPtr(scalar));
+    holder->host = host;
     recordValue(L, host, -1, holder->held.slot);
 }
 
@@ -201,6 +202,14 @@ namespace {
 }
 
 } // namespace
+
+hvArray_tag* testObject(lua_State* L, int index)
+{
+    ObjectHolder const* const holder = testHolder(L, index);
+    if (holder && !holder->held.array) [[unlikely]]
+        throwClosed(L, index);
+    return holder ? holder->held.array : nullptr;
+}
 
 hvArray_tag* checkObject(lua_State* L, int index)
 {

@@ -27,6 +27,9 @@ bool isObject(lua_State* L, int index);
 /// was released.
 hvArray_tag* checkObject(lua_State* L, int index);
 
+/// The same; null when there is no object.
+hvArray_tag* testObject(lua_State* L, int index);
+
 /// The class of the object at `index`, also when it was released; valid while the object is on the stack.
 std::string_view objectClass(lua_State* L, int index);
 

@@ -11,9 +11,6 @@ namespace velmara::console {
 /// The values of the script by the host objects that they hold: an object that crosses again is the value that it is
 /// already. None is kept alive: Lua drops a value as soon as it finds it to be garbage.
 
-/// Pushes the table of key `key` in the registry, created empty and weak as `mode` says.
-void pushWeakTable(lua_State* L, void const* key, char const* mode);
-
 /// Pushes the value recorded of the object, nil when there is none. It may have released the object, and the address be
 /// another's by now: it is the object's value only if it still holds the object.
 void pushRecordedValue(lua_State* L, orbis::COSInterface const* host);

@@ -12,10 +12,11 @@ namespace velmara::console {
 
 namespace {
 
-ArrayPtr input(lua_State* L, int index, int number)
+ArrayPtr input(lua_State* L, int index, int type, int number)
 {
     try {
-        return toHost(L, index);
+        Conversion conversion;
+        return toHost(L, index, type, conversion);
     } catch (Error const& error) {
         throw Error(error.identifier(), "input " + std::to_string(number) + ": " + error.text());
     }
@@ -34,7 +35,7 @@ Hvm::Inputs HostCall::inputs(int first)
     std::size_t const start = frame_.arrays().size();
     int const last = lua_gettop(L_);
     for (int i = first; i <= last; ++i)
-        frame_.push(input(L_, i, i - first + 1));
+        frame_.push(input(L_, i, lua_type(L_, i), i - first + 1));
     return frame_.arrays().subspan(start);
 }
 
@@ -46,9 +47,11 @@ Hvm::Values HostCall::values(int first)
         moreValues_.resize(count);
         values = moreValues_.data();
     }
-    for (int i = 0; i < count; ++i)
-        if (!readScalar(L_, first + i, values[i]))
-            values[i] = orbis::COSValue(frame_.push(input(L_, first + i, i + 1)));
+    for (int i = 0; i < count; ++i) {
+        int const type = lua_type(L_, first + i);
+        if (!readScalar(L_, first + i, type, values[i]))
+            values[i] = orbis::COSValue(frame_.push(input(L_, first + i, type, i + 1)));
+    }
     return {values, static_cast<std::size_t>(count)};
 }
 

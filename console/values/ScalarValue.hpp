@@ -17,11 +17,10 @@ constexpr bool isInExactRange(lua_Integer value)
     return -limit <= value && value <= limit;
 }
 
-/// The scalar for the Lua value at `index`: for a number a double where it is exactly one, else an int64; for a boolean a
+/// The scalar for the Lua value at `index`, which is of that Lua type: for a number a double where it is exactly one, else an int64; for a boolean a
 /// logical. False for any other value.
-inline bool readScalar(lua_State* L, int index, orbis::COSValue& scalar)
+inline bool readScalar(lua_State* L, int index, int type, orbis::COSValue& scalar)
 {
-    int const type = lua_type(L, index);
     if (type == LUA_TBOOLEAN) {
         scalar = orbis::COSValue(lua_toboolean(L, index) != 0);
         return true;

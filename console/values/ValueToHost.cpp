@@ -26,8 +26,7 @@ ArrayPtr emptyArray()
 
 ArrayPtr userdata(lua_State* L, int index)
 {
-    if (isObject(L, index)) {
-        hvArray_tag* const object = checkObject(L, index);
+    if (hvArray_tag* const object = testObject(L, index)) {
         object->add_reference();
         return ArrayPtr(object);
     }
@@ -43,11 +42,11 @@ ArrayPtr userdata(lua_State* L, int index)
 
 } // namespace
 
-ArrayPtr toHost(lua_State* L, int index, Conversion& conversion)
+ArrayPtr toHost(lua_State* L, int index, int type, Conversion& conversion)
 {
-    if (orbis::COSValue scalar; readScalar(L, index, scalar))
+    if (orbis::COSValue scalar; readScalar(L, index, type, scalar))
         return toArray(scalar);
-    switch (lua_type(L, index)) {
+    switch (type) {
     case LUA_TNIL:
         return emptyArray();
     case LUA_TSTRING:
