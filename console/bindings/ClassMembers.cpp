@@ -30,15 +30,15 @@ std::string fullNameOf(Member const& member)
     return name.member().empty() ? name.owner() : name.owner() + '.' + name.member();
 }
 
-bool startsWithObject(lua_State* L, Member const& member, Hvm& hvm)
+/// The object that the member is called on; null when it is called without one.
+hvArray_tag* firstObject(lua_State* L, Member const& member, Hvm& hvm)
 {
-    if (!isObject(L, 1))
-        return false;
-    if (!member.isCalledOnClass)
-        return true;
+    hvArray_tag* const object = member.isCalledOnObjects ? testObject(L, 1) : nullptr;
+    if (!object || !member.isCalledOnClass) [[likely]]
+        return object;
     // The name is also that of a static method: the object is the method's only if it is of the class.
     Hvm::Scope const scope(hvm);
-    return hvIsA(checkObject(L, 1), member.name.owner().c_str());
+    return hvIsA(object, member.name.owner().c_str()) ? object : nullptr;
 }
 
 int callStatic(lua_State* L, HostCall& call, Member& member)
@@ -56,8 +56,8 @@ int callMember(lua_State* L)
 {
     Member& member = calledMember(L);
     HostCall call(L);
-    if (member.isCalledOnObjects && startsWithObject(L, member, call.hvm())) {
-        hvArray_tag* const object = call.share(checkObject(L, 1));
+    if (hvArray_tag* const object = firstObject(L, member, call.hvm())) [[likely]] {
+        call.share(object);
         return call.finish(call.hvm().call(object, member.name, call.values(2), call.failure()));
     }
     if (member.isCalledOnClass)

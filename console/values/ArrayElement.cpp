@@ -130,9 +130,11 @@ void storeText(lua_State* L, int value, hvArray_tag* array, std::size_t index)
 
 void storeCell(lua_State* L, int value, hvArray_tag* cells, std::size_t index, Conversion& conversion)
 {
-    ArrayPtr content = isNull(L, value) ? nullptr : toHost(L, value, conversion);
+    int const type = lua_type(L, value);
+    bool const isUserdata = type == LUA_TUSERDATA;
+    ArrayPtr content = isUserdata && isNull(L, value) ? nullptr : toHost(L, value, type, conversion);
     // The array of an object stays the script's; the cell gets a copy.
-    if (content && isObject(L, value))
+    if (content && isUserdata && isObject(L, value))
         content.reset(hvCreateSharedDataCopy(content.get()));
     hvSetCell(cells, index, content.get());
     static_cast<void>(content.release());
@@ -160,10 +162,10 @@ void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
     void const* const data = orbis::host_extensions::getData(array);
     switch (classID) {
     case hvCHAR_CLASS:
-        return pushText(L, toUtf8({static_cast<char16_t const*>(data) + index, 1}));
+        return pushHostText(L, {static_cast<char16_t const*>(data) + index, 1});
     case hvSTRING_CLASS:
         if (auto const text = stringAt(*array, index))
-            return pushText(L, toUtf8(*text));
+            return pushHostText(L, *text);
         return pushMissing(L);
     case hvCELL_CLASS:
         pushValue(L, orbis::host_extensions::getCell(array, index));

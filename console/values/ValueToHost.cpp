@@ -6,7 +6,6 @@
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "values/FunctionValue.hpp"
-#include "values/HostText.hpp"
 #include "values/ScalarValue.hpp"
 #include "values/TableToHost.hpp"
 
@@ -50,7 +49,7 @@ ArrayPtr toHost(lua_State* L, int index, int type, Conversion& conversion)
     case LUA_TNIL:
         return emptyArray();
     case LUA_TSTRING:
-        return ArrayPtr(orbis::host_extensions::createText(hostTextAt(L, index)));
+        return ArrayPtr(orbis::host_extensions::createText(stringValue(L, index)));
     case LUA_TTABLE:
         return tableToHost(L, lua_absindex(L, index), conversion);
     case LUA_TUSERDATA:

@@ -11,7 +11,6 @@
 #include "host_extensions/functionValues.hpp"
 #include "host_extensions/host_extensions.hpp"
 #include "host_extensions/numericClasses.hpp"
-#include "libkwi18n/libkwi18n.hpp"
 
 namespace velmara::console {
 
@@ -59,7 +58,10 @@ void pushElements(lua_State* L, hvArray_tag const& array, PushAt const& pushAt)
 /// The characters of one row, as a string.
 void pushRow(lua_State* L, hvArray_tag const& characters, std::size_t row)
 {
-    pushText(L, fl::i18n::to_string(rowOf(characters, row)));
+    if (rowsOf(characters) <= 1)
+        pushHostText(L, textOf(characters));
+    else
+        pushHostText(L, rowOf(characters, row));
 }
 
 void pushCells(lua_State* L, hvArray_tag const& cells, Conversion& conversion)
