@@ -63,6 +63,8 @@ ConversionRank ConvertedInputs::addSelf(TypeReference const& type, hvArray_tag* 
 
 ConversionRank ConvertedInputs::addArray(TypeReference const& type, hvArray_tag* input)
 {
+    if (Array::of(input)->classID() == hvOBJECT_CLASS)
+        Object::requireUsable(Machine::required(), Array::of(input)->objects());
     ConversionRank rank = directRank(type, *Array::of(input));
     if (type.kind == TypeKind::Optional)
         return addOptional(type, input);

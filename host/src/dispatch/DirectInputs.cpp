@@ -1,6 +1,7 @@
 #include "dispatch/DirectInputs.hpp"
 
 #include "dispatch/directRank.hpp"
+#include "machine/Machine.hpp"
 
 namespace velmara {
 
@@ -10,8 +11,13 @@ bool readDirect(TypeReference const& type, orbis::COSValue const& input, orbis::
 {
     if (type.kind == TypeKind::Scalar)
         return type.scalar.read(input, value) != notConvertible;
+    if (!input.isArray())
+        return false;
+    Array const& array = *Array::of(input.array());
+    if (array.classID() == hvOBJECT_CLASS)
+        Object::requireUsable(Machine::required(), array.objects());
     value = input;
-    return input.isArray() && directRank(type, *Array::of(input.array())) != notConvertible;
+    return directRank(type, array) != notConvertible;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "dispatch/Dispatch.hpp"
 
 #include "arrays/Array.hpp"
+#include "dispatch/directRank.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
 
@@ -36,6 +37,36 @@ Method const* onlyTaking(MethodGroup const& group, CallInputs const& call)
     return found;
 }
 
+bool fitsExactly(Method const& method, CallInputs const& call)
+{
+    if (!takesInputs(method, call))
+        return false;
+    Parameter const* parameter = method.inputs.data();
+    if (method.takesObject && (parameter++)->type.name != Array::of(call.self)->objectClass())
+        return false;
+    auto const isExact = [&](hvArray_tag* input) {
+        TypeReference const& type = (parameter++)->type;
+        orbis::COSValue value;
+        return exactRank == (type.kind == TypeKind::Scalar ? type.scalar.read(*Array::of(input), value)
+                                                           : directRank(type, *Array::of(input)));
+    };
+    return std::ranges::all_of(call.inputs, isExact);
+}
+
+/// The only method that each input fits exactly, so that none fits better; null when there are several, or none. The
+/// inputs were checked.
+Method const* onlyExact(MethodGroup const& group, CallInputs const& call)
+{
+    Method const* found = nullptr;
+    for (std::size_t i = 0; i < group.accessible; ++i)
+        if (fitsExactly(*group.methods[i], call)) {
+            if (found)
+                return nullptr;
+            found = group.methods[i];
+        }
+    return found;
+}
+
 } // namespace
 
 void checkInputs(Machine const& machine, Inputs inputs)
@@ -55,6 +86,9 @@ Method const* chooseAmong(MethodGroup const& group, CallInputs call, Failure fai
         return nullptr;
     }
     if (Method const* const method = onlyTaking(group, call))
+        return method;
+    checkInputs(Machine::required(), call.inputs);
+    if (Method const* const method = onlyExact(group, call))
         return method;
     std::byte buffer[1024];
     std::pmr::monotonic_buffer_resource memory(buffer, sizeof buffer);

@@ -1,6 +1,5 @@
 #include "dispatch/directRank.hpp"
 
-#include "machine/Machine.hpp"
 #include "objects/Object.hpp"
 
 namespace velmara {
@@ -24,8 +23,6 @@ ConversionRank directObjectRank(TypeReference const& type, Array const& input)
 
 ConversionRank directRank(TypeReference const& type, Array const& input)
 {
-    if (input.classID() == hvOBJECT_CLASS)
-        Object::requireUsable(Machine::required(), input.objects());
     switch (type.kind) {
     case TypeKind::Text:
         return input.isText() ? exactRank : notConvertible;
