@@ -40,8 +40,8 @@ void pushError(lua_State* L, std::string_view identifier, std::string_view text)
     lua_createtable(L, 0, 3);
     setField(L, "identifier", identifier);
     setField(L, "text", text);
-    if (auto const frames = scriptFrames(L, 0, 1); !frames.empty())
-        setField(L, "where", frames.front().position);
+    if (std::string const position = scriptPosition(L); !position.empty())
+        setField(L, "where", position);
     pushNamedMetatable(L, "velmara.error", [L] { setField(L, "__tostring", guarded<errorToText>); });
     lua_setmetatable(L, -2);
 }
@@ -106,8 +106,7 @@ int callGuarded(lua_State* L, lua_CFunction body)
     try {
         int const results = body(L);
         ChangeWatch::check(L);
-        if (results != raised) [[likely]]
-            return results;
+        return results;
     } catch (ScriptFailure const& failure) {
         pushFailure(L, failure);
     } catch (Error const& error) {
@@ -120,7 +119,7 @@ int callGuarded(lua_State* L, lua_CFunction body)
         pushError(L, "VELMARA:console:internal", error.what());
     } // no `catch (...)`: Lua's own errors must reach Lua
     ChangeWatch::check(L);
-    return lua_error(L);
+    return raised;
 }
 
 } // namespace velmara::console
