@@ -55,13 +55,13 @@ Hvm::Values HostCall::values(int first)
     return {values, static_cast<std::size_t>(count)};
 }
 
-int HostCall::finishArray(ArrayPtr result)
+int HostCall::finishArray(ArrayPtr result, ValueShape shape)
 {
     hvArray_tag const* const array = frame_.push(std::move(result));
     if (keepsArray_)
         pushHostArray(L_, *array);
     else
-        pushValue(L_, array);
+        pushValue(L_, array, shape);
     return 1;
 }
 
@@ -73,11 +73,11 @@ int HostCall::finish(Value result)
     }
     orbis::COSValue const& slot = result.slot();
     if (slot.isArray())
-        return finishArray(result.releaseArray());
+        return finishArray(result.releaseArray(), result.shape());
     if (slot.isEmpty())
         return 0;
     if (keepsArray_) [[unlikely]]
-        return finishArray(toArray(slot));
+        return finishArray(toArray(slot), ValueShape::Plain);
     pushScalar(L_, slot);
     return 1;
 }

@@ -46,7 +46,7 @@ public:
 private:
     static constexpr int inlineCapacity = 8;
 
-    int finishArray(ArrayPtr result);
+    int finishArray(ArrayPtr result, ValueShape shape);
 
     lua_State* L_;
     HostContext& host_;

@@ -39,6 +39,11 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
     return (type.element ? objectVectorRank(type.element, given) : firstObjectRank(type.name, given)) != notConvertible;
 }
 
+bool isList(TypeReference const& type)
+{
+    return type.element || type.kind == TypeKind::Elements;
+}
+
 [[noreturn]] void throwMismatch(TypeReference const* type, std::string_view member)
 {
     throwHostError("VELMARA:result", "type", {std::string(member), type ? type->name->string() : std::string("void")});
@@ -56,7 +61,7 @@ Value ResultValue::takeOther(std::string_view member)
 {
     if (type_ && type_->kind == TypeKind::Optional) {
         if (value_.isArray() && Array::of(value_.array())->isEmptyDouble())
-            return Value(std::exchange(value_, {}));
+            return Value(takeSlot(), ValueShape::Optional);
         type_ = type_->value.get();
         if (type_->kind == TypeKind::Scalar && value_.scalarClass() == type_->scalarClass)
             return Value(value_);
@@ -77,11 +82,11 @@ Value ResultValue::takeArray(std::string_view member)
             conversion->convertToHost(&converted, value_.array());
             return Value(ArrayPtr(converted));
         }
-        return Value(std::exchange(value_, {}));
+        return Value(takeSlot());
     }
     if (!type_ || (value_.array() && !isOf(*type_, value_.array())))
         throwMismatch(type_, member);
-    return Value(std::exchange(value_, {}));
+    return Value(takeSlot(), isList(*type_) ? ValueShape::List : ValueShape::Plain);
 }
 
 void ResultValue::release() noexcept

@@ -8,6 +8,7 @@
 #include "orbis/COSValue.hpp"
 
 #include <string_view>
+#include <utility>
 
 namespace velmara {
 
@@ -47,6 +48,7 @@ public:
     }
 
 private:
+    ArrayPtr takeSlot() { return ArrayPtr(std::exchange(value_, {}).array()); }
     Value takeOther(std::string_view member);
     Value takeArray(std::string_view member);
     void release() noexcept;
