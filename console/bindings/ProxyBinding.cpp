@@ -1,6 +1,7 @@
 #include "bindings/ProxyBinding.hpp"
 
 #include "bindings/ClassMembers.hpp"
+#include "bindings/MemberIteration.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
 #include "handles/ValueText.hpp"
@@ -14,9 +15,9 @@ namespace velmara::console {
 namespace {
 
 /// Upvalue 1 of the functions of a proxy's metatable.
-PublishedName& publishedName(lua_State* L)
+NameRecord& nameRecord(lua_State* L)
 {
-    return *static_cast<PublishedName*>(lua_touserdata(L, lua_upvalueindex(1)));
+    return *static_cast<NameRecord*>(lua_touserdata(L, lua_upvalueindex(1)));
 }
 
 /// Pushes the value of a published name; false when there is none of that name.
@@ -45,7 +46,7 @@ void keepContent(lua_State* L)
 }
 
 /// What is published under the name. Throws an `Error` when that is nothing any more.
-NameKind checkKind(lua_State* L, PublishedName& name)
+NameKind checkKind(lua_State* L, NameRecord& name)
 {
     NameKind const kind = name.kind(HostContext::of(L).hvm());
     if (kind == NameKind::None)
@@ -53,7 +54,7 @@ NameKind checkKind(lua_State* L, PublishedName& name)
     return kind;
 }
 
-std::string checkKey(lua_State* L, PublishedName const& name)
+std::string checkKey(lua_State* L, NameRecord const& name)
 {
     if (lua_type(L, 2) != LUA_TSTRING)
         fail("unknownName", name.text() + " is indexed with a name, not with " + valueText(L, 2));
@@ -92,7 +93,7 @@ int writeClassMember(lua_State* L, std::string const& className, std::string con
 /// What is not known yet of a name: its known contents are at 1.
 int readProxy(lua_State* L)
 {
-    PublishedName& name = publishedName(L);
+    NameRecord& name = nameRecord(L);
     std::string const key = checkKey(L, name);
     if (checkKind(L, name) == NameKind::Class)
         return readClassMember(L, name.text(), key);
@@ -106,7 +107,7 @@ int readProxy(lua_State* L)
 
 int writeProxy(lua_State* L)
 {
-    PublishedName& name = publishedName(L);
+    NameRecord& name = nameRecord(L);
     std::string const key = checkKey(L, name);
     if (checkKind(L, name) != NameKind::Class)
         fail("readOnly", "package " + name.text() + " cannot be changed by a script");
@@ -115,7 +116,7 @@ int writeProxy(lua_State* L)
 
 int callProxy(lua_State* L)
 {
-    PublishedName& name = publishedName(L);
+    NameRecord& name = nameRecord(L);
     if (checkKind(L, name) != NameKind::Class)
         fail("notCallable", "package " + name.text() + " cannot be called: a class of it can");
     HostCall call(L);
@@ -139,13 +140,15 @@ int showProxy(lua_State* L)
     return 1;
 }
 
-/// `pairs(package)`: its contents by name; for an enumeration its enumerators.
+/// `pairs(package)`: its contents by name; of an enumeration its enumerators, of another class its members.
 int iterateProxy(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
+    if (checkKind(L, nameRecord(L)) == NameKind::Class && !HostContext::of(L).hvm().describeClass(name).isEnumeration)
+        return iterateMembers(L);
     lua_getglobal(L, "next");
     lua_newtable(L);
-    if (checkKind(L, publishedName(L)) == NameKind::Class)
+    if (checkKind(L, nameRecord(L)) == NameKind::Class)
         for (EnumeratorRecord const& enumerator : HostContext::of(L).hvm().describeClass(name).enumerators) {
             HostCall call(L);
             call.finish(call.hvm().getEnumerator(name, enumerator.name));

@@ -5,7 +5,7 @@
 #include "handles/Member.hpp"
 #include "handles/OwnedFunctions.hpp"
 #include "handles/PublishedAnswers.hpp"
-#include "handles/PublishedName.hpp"
+#include "handles/NameRecord.hpp"
 #include "lua/ChangeWatch.hpp"
 #include "lua/LuaApi.hpp"
 
@@ -37,7 +37,7 @@ public:
     OwnedFunctions& ownedFunctions() { return ownedFunctions_; }
     PublishedAnswers& answers() { return answers_; }
     Members& members() { return members_; }
-    PublishedNames& publishedNames() { return publishedNames_; }
+    NameRecords& nameRecords() { return nameRecords_; }
 
     /// The values of objects: see ObjectValues.hpp.
     RegistryTable& objectValues() { return objectValues_; }
@@ -74,6 +74,10 @@ public:
 
     /// Set for the next call: its result stays an array of the host.
     bool& keepsNextArray() { return keepsNextArray_; }
+
+    /// True while native code runs that was asked for a value to be shown. What it calls shows objects without their
+    /// properties: a getter could show its own object over and over.
+    bool& isShowing() { return isShowing_; }
 
     /// Puts a fresh virtual machine with the same modules into use, for its own lifetime. What the script has of names
     /// is that of the other one until `ChangeWatch::check`.
@@ -121,11 +125,12 @@ private:
     RegistryTable objectValues_{"v"};
     PublishedAnswers answers_;
     Members members_;
-    PublishedNames publishedNames_;
+    NameRecords nameRecords_;
     bool hasFailed_ = false;
     bool isClosing_ = false;
     bool reportsLeaks_;
     bool keepsNextArray_ = false;
+    bool isShowing_ = false;
 };
 
 } // namespace velmara::console

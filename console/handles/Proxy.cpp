@@ -43,7 +43,7 @@ void pushProxy(lua_State* L, std::string_view fullName)
         lua_rawgetp(L, LUA_REGISTRYINDEX, &proxyCompletionKey);
         lua_pushvalue(L, -2);
         lua_pushvalue(L, -4);
-        lua_pushlightuserdata(L, &HostContext::of(L).publishedNames().of(fullName));
+        lua_pushlightuserdata(L, &HostContext::of(L).nameRecords().of(fullName));
         lua_call(L, 3, 0);
         lua_setmetatable(L, -2);
         // Names and proxies are in one table, each the key of the other.

@@ -9,7 +9,7 @@ namespace velmara::console {
 /// What a script sees of packages and classes: an empty table that represents a dotted name. The name is looked up at
 /// each use, so that a proxy kept beyond its package's end gives a clean error.
 
-/// Has `complete` called with the metatable of each new proxy, the proxy, and its `PublishedName`, a light userdata: it
+/// Has `complete` called with the metatable of each new proxy, the proxy, and its `NameRecord`, a light userdata: it
 /// adds what a script does with them. See ProxyBinding.hpp.
 void completeProxiesWith(lua_State* L, lua_CFunction complete);
 

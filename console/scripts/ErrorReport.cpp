@@ -1,11 +1,11 @@
 #include "scripts/ErrorReport.hpp"
 
-#include "help/Completion.hpp"
+#include "help/Subject.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/ScriptFailure.hpp"
 #include "lua/ScriptFrames.hpp"
 #include "lua/Table.hpp"
-#include "text/CloseMatches.hpp"
+#include "terminal/Terminal.hpp"
 
 #include "velmara/Error.hpp"
 
@@ -68,7 +68,7 @@ std::string suggestion(lua_State* L, std::string const& text)
     if (start == text.npos || !text.ends_with("')"))
         return {};
     std::size_t const name = start + before.size();
-    return didYouMean(text.substr(name, text.size() - 2 - name), completions(L, ""));
+    return closeNames(L, text.substr(name, text.size() - 2 - name));
 }
 
 Report reportOf(lua_State* L, int index, std::string const& identifier)
@@ -121,8 +121,10 @@ std::string describeError(lua_State* L, int index, int status)
 
 void printReport(std::string_view text)
 {
+    std::size_t const identifier = std::min(text.find(": "), text.size());
     std::fflush(stdout);
-    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
+    writeStyled(stderr, Style::Error, text.substr(0, identifier));
+    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size() - identifier), text.data() + identifier);
     std::fflush(stderr);
 }
 

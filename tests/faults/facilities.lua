@@ -128,3 +128,9 @@ local frame = probe.frame
 local first, second = frame.Part(1), frame.Part(2)
 print(#frame.copies({first, second}), pcall(frame.owned, {first, second, first}), isvalid(first))
 return frame.owned({first, second})
+
+local handle = probe.Handle(1)
+handle.other = probe.Handle(2)
+print(handle)
+show(handle, {handle, handle.other}, members(probe.named))
+return handle

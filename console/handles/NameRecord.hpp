@@ -9,9 +9,9 @@
 namespace velmara::console {
 
 /// A dotted name that the script has seen, and what was published under it when that was asked last.
-class PublishedName {
+class NameRecord {
 public:
-    explicit PublishedName(std::string fullName) : name_(std::move(fullName)) {}
+    explicit NameRecord(std::string fullName) : name_(std::move(fullName)) {}
 
     std::string const& text() const { return name_.owner(); }
 
@@ -35,15 +35,15 @@ private:
 };
 
 /// One record for each name, for as long as the session: proxies refer to them.
-class PublishedNames {
+class NameRecords {
 public:
-    PublishedName& of(std::string_view fullName)
+    NameRecord& of(std::string_view fullName)
     {
         return names_.try_emplace(std::string(fullName), std::string(fullName)).first->second;
     }
 
 private:
-    std::map<std::string, PublishedName> names_;
+    std::map<std::string, NameRecord> names_;
 };
 
 } // namespace velmara::console
