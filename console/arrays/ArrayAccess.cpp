@@ -1,5 +1,6 @@
 #include "arrays/ArrayAccess.hpp"
 
+#include "arrays/ArrayMethods.hpp"
 #include "arrays/ArrayText.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
@@ -78,6 +79,10 @@ int next(lua_State* L)
 int readArray(lua_State* L)
 {
     hvArray_tag const* const array = checkHostArray(L, 1);
+    if (lua_type(L, 2) == LUA_TSTRING) {
+        pushArrayMethod(L);
+        return 1;
+    }
     if (auto const position = readPosition(L, *array))
         pushHeldElement(L, array, *position);
     else

@@ -2,6 +2,7 @@
 
 #include "arrays/ArrayClass.hpp"
 #include "arrays/ElementSource.hpp"
+#include "arrays/NewArray.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Sentinel.hpp"
@@ -19,24 +20,6 @@
 namespace velmara::console {
 
 namespace {
-
-ArrayPtr createEmpty(lua_State* L, ArrayClass const& arrayClass, Shape shape, Conversion& conversion)
-{
-    if (shape.columns != 0 && shape.rows > Conversion::maxBytes / shape.columns)
-        fail("memory", "a value of more than 1 GB cannot be made");
-    conversion.add(shape.rows * shape.columns, memoryOfElement(arrayClass.classID));
-    Hvm::Scope const scope(HostContext::of(L).hvm());
-    switch (arrayClass.classID) {
-    case hvCELL_CLASS:
-        return ArrayPtr(hvCreateCellMatrix(shape.rows, shape.columns));
-    case hvSTRING_CLASS:
-        return ArrayPtr(orbis::host_extensions::createStringMatrix(shape.rows, shape.columns));
-    case hvOBJECT_CLASS:
-        return ArrayPtr(orbis::omCreateORBISMatrix(shape.rows, shape.columns, arrayClass.name.c_str()));
-    default:
-        return ArrayPtr(orbis::host_extensions::createMatrix(shape.rows, shape.columns, arrayClass.classID));
-    }
-}
 
 std::size_t checkSize(lua_State* L, int index, char const* what)
 {
@@ -140,7 +123,7 @@ int createArray(lua_State* L)
     ArrayStack::Frame frame(HostContext::of(L).arrays());
     ElementSource const source(L, 2, arrayClass.classID, frame);
     Shape const shape = checkShape(L, source);
-    hvArray_tag* const array = frame.push(createEmpty(L, arrayClass, shape, conversion));
+    hvArray_tag* const array = frame.push(newArray(L, arrayClass, shape, conversion));
     if (source.array() && className(source.array()) == arrayClass.name) {
         Hvm::Scope const scope(HostContext::of(L).hvm());
         copyElements(source.array(), array);

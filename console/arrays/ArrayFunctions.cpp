@@ -1,6 +1,8 @@
 #include "arrays/ArrayFunctions.hpp"
 
 #include "arrays/ArrayAccess.hpp"
+#include "arrays/ArrayArithmetic.hpp"
+#include "arrays/ArrayComparison.hpp"
 #include "arrays/ArrayConstruction.hpp"
 #include "bindings/ClassMembers.hpp"
 #include "handles/HostArray.hpp"
@@ -88,6 +90,8 @@ int asArray(lua_State* L)
 void bindArrayFunctions(lua_State* L)
 {
     bindArrayAccess(L);
+    bindArrayArithmetic(L);
+    bindArrayComparison(L);
     lua_register(L, "array", guarded<createArray>);
     lua_register(L, "asarray", guarded<asArray>);
     lua_register(L, "tolua", guarded<toLua>);

@@ -1,0 +1,141 @@
+#include "arrays/ArrayComparison.hpp"
+
+#include "arrays/ArrayMethods.hpp"
+#include "arrays/ArrayOperands.hpp"
+#include "arrays/ElementBlocks.hpp"
+#include "arrays/NewArray.hpp"
+#include "arrays/NumberOrder.hpp"
+#include "handles/HostArray.hpp"
+#include "handles/HostContext.hpp"
+#include "lua/ScriptError.hpp"
+#include "lua/Table.hpp"
+
+namespace velmara::console {
+
+namespace {
+
+using orbis::host_extensions::visitNumericClass;
+
+struct Equal {
+    static bool holds(auto a, auto b) { return isEqualTo(a, b); }
+};
+
+struct Different {
+    static bool holds(auto a, auto b) { return !isEqualTo(a, b); }
+};
+
+struct Less {
+    static bool holds(auto a, auto b) { return isLessThan(a, b); }
+};
+
+struct LessOrEqual {
+    static bool holds(auto a, auto b) { return isLessThan(a, b) || isEqualTo(a, b); }
+};
+
+struct And {
+    static bool holds(bool a, bool b) { return a && b; }
+};
+
+struct Or {
+    static bool holds(bool a, bool b) { return a || b; }
+};
+
+template <class Predicate, class A, class B>
+void compareElements(ArrayOperands const& operands, hvArray_tag* result)
+{
+    auto* const out = static_cast<bool*>(orbis::host_extensions::getWritableData(result));
+    visitBlocks<A, B>(*operands.first, *operands.second, operands.shape,
+                      [&](std::size_t start, std::size_t count, A const* a, B const* b) {
+                          for (std::size_t i = 0; i < count; ++i)
+                              out[start + i] = Predicate::holds(a[i], b[i]);
+                      });
+}
+
+/// Calls `visit` with a zero of the type in which the class's numbers are compared with those of other classes: one
+/// that holds all of them.
+template <class Visit>
+void visitComparedType(hvClassID classID, Visit const& visit)
+{
+    if (classID == hvINT64_CLASS)
+        visit(std::int64_t());
+    else if (classID == hvUINT64_CLASS)
+        visit(std::uint64_t());
+    else
+        visit(double());
+}
+
+template <class Predicate>
+void compareEach(ArrayOperands const& operands, hvArray_tag* result)
+{
+    hvClassID const first = operands.first->_get_class_id_non_trivial();
+    hvClassID const second = operands.second->_get_class_id_non_trivial();
+    if (first == second)
+        return visitNumericClass(first, [&]<class T>(T) { compareElements<Predicate, T, T>(operands, result); });
+    visitComparedType(first, [&]<class A>(A) {
+        visitComparedType(second, [&]<class B>(B) { compareElements<Predicate, A, B>(operands, result); });
+    });
+}
+
+int pushLogicals(lua_State* L, ArrayOperands const& operands,
+                 void (*store)(ArrayOperands const& operands, hvArray_tag* result))
+{
+    ArrayStack::Frame frame(HostContext::of(L).arrays());
+    hvArray_tag* const result = frame.push(newMatrix(hvLOGICAL_CLASS, operands.shape));
+    store(operands, result);
+    pushHostArray(L, *result);
+    return 1;
+}
+
+template <class Predicate, bool IsSwapped = false>
+int compare(lua_State* L)
+{
+    checkHostArray(L, 1);
+    lua_settop(L, 2);
+    ArrayStack::Frame frame(HostContext::of(L).arrays());
+    ArrayOperands operands = checkOperands(L, frame);
+    if (IsSwapped)
+        std::swap(operands.first, operands.second);
+    return pushLogicals(L, operands, compareEach<Predicate>);
+}
+
+template <class Predicate>
+int combineLogicals(lua_State* L)
+{
+    lua_settop(L, 2);
+    ArrayStack::Frame frame(HostContext::of(L).arrays());
+    ArrayOperands const operands = checkOperands(L, frame);
+    for (hvArray_tag const* operand : {operands.first, operands.second})
+        if (operand->_get_class_id_non_trivial() != hvLOGICAL_CLASS)
+            fail("operand", "& | and ~ take logicals, not " + className(operand) + ": compare first, as in a:ne(0)");
+    return pushLogicals(L, operands, compareElements<Predicate, bool, bool>);
+}
+
+/// Lua passes the operand twice.
+int negateLogicals(lua_State* L)
+{
+    lua_settop(L, 1);
+    lua_pushboolean(L, false);
+    return combineLogicals<Equal>(L);
+}
+
+} // namespace
+
+void bindArrayComparison(lua_State* L)
+{
+    pushArrayMethods(L);
+    setField(L, "eq", guarded<compare<Equal>>);
+    setField(L, "ne", guarded<compare<Different>>);
+    setField(L, "lt", guarded<compare<Less>>);
+    setField(L, "le", guarded<compare<LessOrEqual>>);
+    setField(L, "gt", guarded<compare<Less, true>>);
+    setField(L, "ge", guarded<compare<LessOrEqual, true>>);
+    lua_pop(L, 1);
+    pushArrayMetatable(L);
+    setField(L, "__band", guarded<combineLogicals<And>>);
+    setField(L, "__bor", guarded<combineLogicals<Or>>);
+    setField(L, "__bxor", guarded<combineLogicals<Different>>);
+    setField(L, "__bnot", guarded<negateLogicals>);
+    lua_pop(L, 1);
+}
+
+} // namespace velmara::console
