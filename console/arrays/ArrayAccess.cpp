@@ -1,7 +1,9 @@
 #include "arrays/ArrayAccess.hpp"
 
 #include "arrays/ArrayMethods.hpp"
+#include "arrays/ArraySlices.hpp"
 #include "arrays/ArrayText.hpp"
+#include "arrays/Shape.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
@@ -83,6 +85,8 @@ int readArray(lua_State* L)
         pushArrayMethod(L);
         return 1;
     }
+    if (isHostArray(L, 2))
+        return readSlice(L);
     if (auto const position = readPosition(L, *array))
         pushHeldElement(L, array, *position);
     else
@@ -92,10 +96,12 @@ int readArray(lua_State* L)
 
 int writeArray(lua_State* L)
 {
+    if (isHostArray(L, 2))
+        return writeSlice(L);
     hvArray_tag* const array = checkHostArray(L, 1);
     auto const position = readPosition(L, *array);
     if (!position)
-        fail("index", "the index lies outside the array: it keeps its size");
+        fail("index", "the index lies outside the array, which is " + shapeText(*array) + " and keeps its size");
     Conversion conversion;
     storeElement(L, 3, array, *position, conversion);
     return 0;

@@ -1,6 +1,8 @@
 #include "arrays/ArrayConstruction.hpp"
 
 #include "arrays/ArrayClass.hpp"
+#include "arrays/ElementConversion.hpp"
+#include "arrays/ElementCopy.hpp"
 #include "arrays/ElementSource.hpp"
 #include "arrays/NewArray.hpp"
 #include "handles/HostArray.hpp"
@@ -8,26 +10,19 @@
 #include "handles/Sentinel.hpp"
 #include "lua/ScriptError.hpp"
 #include "values/ArrayElement.hpp"
-#include "values/HostText.hpp"
 
 #include "host_extensions/host_extensions.hpp"
-#include "libhv/libhv.hpp"
-#include "orbis/objectArrays.hpp"
+#include "host_extensions/numericClasses.hpp"
 
 #include <algorithm>
-#include <cstring>
 
 namespace velmara::console {
 
 namespace {
 
-std::size_t checkSize(lua_State* L, int index, char const* what)
+bool isNumericClass(hvArray_tag const* array)
 {
-    int isInteger = 0;
-    lua_Integer const size = lua_tointegerx(L, index, &isInteger);
-    if (lua_type(L, index) != LUA_TNUMBER || !isInteger || size < 0)
-        fail("size", std::string("the number of ") + what + " is a whole number from 0 on");
-    return static_cast<std::size_t>(size);
+    return orbis::host_extensions::findNumericClass(array->_get_class_id_non_trivial()) != nullptr;
 }
 
 /// Arguments 3 and 4, or without them the shape of the values.
@@ -75,63 +70,50 @@ void fill(lua_State* L, ElementSource const& source, hvArray_tag* array, Convers
 
 void storeEach(lua_State* L, ElementSource const& source, hvArray_tag* array, Conversion& conversion)
 {
-    for (std::size_t i = 0; i < source.count(); ++i) {
+    bool const areNumbers = source.array() && isNumericClass(source.array()) && isNumericClass(array);
+    for (std::size_t i = areNumbers ? convertElements(*source.array(), array) : 0; i < source.count(); ++i) {
         source.push(i);
         storeElement(L, lua_gettop(L), array, i, conversion);
         lua_pop(L, 1);
     }
 }
 
-void copyCell(hvArray_tag const* source, hvArray_tag* target, std::size_t index)
+/// Copies all elements of an array, in column order, to a new one of its class; the shapes may differ.
+void copyAll(lua_State* L, hvArray_tag const* source, hvArray_tag* target)
 {
-    hvArray_tag const* const cell = orbis::host_extensions::getCell(source, index);
-    ArrayPtr copy(cell ? hvCreateSharedDataCopy(cell) : nullptr);
-    hvSetCell(target, index, copy.get());
-    static_cast<void>(copy.release());
-}
-
-/// Copies all elements of an array, in column order, to a new one of the same class and number of elements; the shapes
-/// may differ. Exact: keeps ill-formed text and the class of a cell's array.
-void copyElements(hvArray_tag const* source, hvArray_tag* target)
-{
-    hvClassID const classID = source->_get_class_id_non_trivial();
+    Hvm::Scope const scope(HostContext::of(L).hvm());
     std::size_t const count = source->get_number_of_elements();
-    if (void const* const data = orbis::host_extensions::getData(source)) {
-        if (count != 0)
-            std::memcpy(orbis::host_extensions::getWritableData(target), data, count * memoryOfElement(classID));
-        return;
-    }
-    for (std::size_t i = 0; i < count; ++i) {
-        if (classID == hvCELL_CLASS)
-            copyCell(source, target, i);
-        else if (classID == hvSTRING_CLASS)
-            storeString(target, i, stringAt(*source, i));
-        else
-            orbis::omSetArrayElement(target, i, orbis::omGetArrayElement(source, i));
-    }
+    copyElements(source, target, [count](auto const& copy) {
+        for (std::size_t i = 0; i < count; ++i)
+            copy(i, i);
+    });
 }
 
 } // namespace
+
+hvArray_tag* createFrom(lua_State* L, ArrayClass const& arrayClass, ElementSource const& source, Shape shape,
+                        ArrayStack::Frame& frame)
+{
+    Conversion conversion;
+    hvArray_tag* const array = frame.push(newArray(L, arrayClass, shape, conversion));
+    if (source.array() && className(source.array()) == arrayClass.name)
+        copyAll(L, source.array(), array);
+    else if (source.isSingle())
+        fill(L, source, array, conversion);
+    else
+        storeEach(L, source, array, conversion);
+    return array;
+}
 
 int createArray(lua_State* L)
 {
     luaL_checkstack(L, 8, nullptr);
     lua_settop(L, std::min(lua_gettop(L), 4));
     ArrayClass const arrayClass = checkArrayClass(L, 1);
-    Conversion conversion;
     // Pushing elements may run finalizers of the script, which may end the process.
     ArrayStack::Frame frame(HostContext::of(L).arrays());
     ElementSource const source(L, 2, arrayClass.classID, frame);
-    Shape const shape = checkShape(L, source);
-    hvArray_tag* const array = frame.push(newArray(L, arrayClass, shape, conversion));
-    if (source.array() && className(source.array()) == arrayClass.name) {
-        Hvm::Scope const scope(HostContext::of(L).hvm());
-        copyElements(source.array(), array);
-    } else if (source.isSingle())
-        fill(L, source, array, conversion);
-    else
-        storeEach(L, source, array, conversion);
-    pushHostArray(L, *array);
+    pushHostArray(L, *createFrom(L, arrayClass, source, checkShape(L, source), frame));
     return 1;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "arrays/ArrayClass.hpp"
+#include "arrays/ElementSource.hpp"
 #include "lua/LuaApi.hpp"
 
 namespace velmara::console {
@@ -14,5 +16,10 @@ namespace velmara::console {
 ///
 /// Every value must fit the class exactly. See ArrayElement.hpp.
 int createArray(lua_State* L);
+
+/// A new array of that class and shape with the values of a source: as many, or one for all elements. `frame` owns it.
+/// May run finalizers of the script.
+hvArray_tag* createFrom(lua_State* L, ArrayClass const& arrayClass, ElementSource const& source, Shape shape,
+                        ArrayStack::Frame& frame);
 
 } // namespace velmara::console

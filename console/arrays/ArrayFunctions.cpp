@@ -4,6 +4,11 @@
 #include "arrays/ArrayArithmetic.hpp"
 #include "arrays/ArrayComparison.hpp"
 #include "arrays/ArrayConstruction.hpp"
+#include "arrays/ArrayForms.hpp"
+#include "arrays/ArrayOrder.hpp"
+#include "arrays/ArrayReduction.hpp"
+#include "arrays/ArraySlices.hpp"
+#include "arrays/Ranges.hpp"
 #include "bindings/ClassMembers.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
@@ -92,6 +97,11 @@ void bindArrayFunctions(lua_State* L)
     bindArrayAccess(L);
     bindArrayArithmetic(L);
     bindArrayComparison(L);
+    bindArrayForms(L);
+    bindArrayOrder(L);
+    bindArrayReduction(L);
+    bindArraySlices(L);
+    bindRanges(L);
     lua_register(L, "array", guarded<createArray>);
     lua_register(L, "asarray", guarded<asArray>);
     lua_register(L, "tolua", guarded<toLua>);

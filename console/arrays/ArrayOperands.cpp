@@ -37,8 +37,7 @@ hvArray_tag const* readOperand(lua_State* L, int index, ArrayStack::Frame& frame
         return frame.push(toHost(L, index));
     default:
         if (!isHostArray(L, index))
-            fail("operand",
-                 "an array has numbers, logicals, or arrays and tables of them beside it, not " + kindAt(L, index));
+            fail("operand", "an operand is a number, a logical, or an array or table of them, not " + kindAt(L, index));
         return checkHostArray(L, index);
     }
 }

@@ -69,12 +69,12 @@ private:
         }
         std::size_t row = start % rows_;
         std::size_t column = start / rows_;
-        for (std::size_t i = 0; i < count; ++i) {
-            buffer_[i] = static_cast<T>(source[row * rowStep_ + column * columnStep_]);
-            if (++row == rows_) {
-                row = 0;
-                ++column;
-            }
+        for (std::size_t done = 0; done < count; row = 0, ++column) {
+            std::size_t const run = std::min(count - done, rows_ - row);
+            Source const* const from = source + row * rowStep_ + column * columnStep_;
+            for (std::size_t i = 0; i < run; ++i)
+                buffer_[done + i] = static_cast<T>(from[i * rowStep_]);
+            done += run;
         }
     }
 
@@ -98,6 +98,18 @@ void visitBlocks(hvArray_tag const& first, hvArray_tag const& second, Shape shap
     for (std::size_t start = 0; start < total; start += ElementBlocks<A>::maxSize) {
         std::size_t const count = std::min(ElementBlocks<A>::maxSize, total - start);
         visit(start, count, a.at(start, count), b.at(start, count));
+    }
+}
+
+/// The same for one array.
+template <class T, class Visit>
+void visitBlocks(hvArray_tag const& array, Shape shape, Visit const& visit)
+{
+    ElementBlocks<T> blocks(array, shape);
+    std::size_t const total = shape.count();
+    for (std::size_t start = 0; start < total; start += ElementBlocks<T>::maxSize) {
+        std::size_t const count = std::min(ElementBlocks<T>::maxSize, total - start);
+        visit(start, count, blocks.at(start, count));
     }
 }
 

@@ -21,6 +21,15 @@ void countMemory(hvClassID classID, Shape shape, Conversion& conversion)
 
 } // namespace
 
+std::size_t checkSize(lua_State* L, int index, char const* what)
+{
+    int isInteger = 0;
+    lua_Integer const size = lua_tointegerx(L, index, &isInteger);
+    if (lua_type(L, index) != LUA_TNUMBER || !isInteger || size < 0)
+        fail("size", std::string("the number of ") + what + " is a whole number from 0 on");
+    return static_cast<std::size_t>(size);
+}
+
 ArrayPtr newMatrix(hvClassID classID, Shape shape)
 {
     Conversion conversion;
