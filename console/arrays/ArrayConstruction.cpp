@@ -7,9 +7,11 @@
 #include "arrays/NewArray.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
+#include "handles/Proxy.hpp"
 #include "handles/Sentinel.hpp"
 #include "lua/ScriptError.hpp"
 #include "values/ArrayElement.hpp"
+#include "values/ValueToHost.hpp"
 
 #include "host_extensions/host_extensions.hpp"
 #include "host_extensions/numericClasses.hpp"
@@ -108,6 +110,10 @@ hvArray_tag* createFrom(lua_State* L, ArrayClass const& arrayClass, ElementSourc
 int createArray(lua_State* L)
 {
     luaL_checkstack(L, 8, nullptr);
+    if (lua_istable(L, 1) && proxyName(L, 1).empty()) {
+        pushText(L, className(toHost(L, 1).get()));
+        lua_insert(L, 1);
+    }
     lua_settop(L, std::min(lua_gettop(L), 4));
     ArrayClass const arrayClass = checkArrayClass(L, 1);
     // Pushing elements may run finalizers of the script, which may end the process.

@@ -14,7 +14,8 @@ namespace velmara::console {
 ///   always a row, of any values
 /// - with rows and columns: the values in column order, as many as there is room for; or one value for all elements
 ///
-/// Every value must fit the class exactly. See ArrayElement.hpp.
+/// Without a class, a table has the one that it has for the host. Every value must fit the class exactly. See
+/// ArrayElement.hpp.
 int createArray(lua_State* L);
 
 /// A new array of that class and shape with the values of a source: as many, or one for all elements. `frame` owns it.

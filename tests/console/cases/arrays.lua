@@ -18,6 +18,7 @@ for _, inputs in ipairs {{"double"}, {"double", {}, 0, 3}, {"double", {{1, 2.5},
   {"double", 1 / 3, 12, 30}} do show(table.unpack(inputs)) end
 local p, q = cases.Probe(), cases.Probe()
 show(cases.Probe, {p, null})
+print(class(array {1, 2}), class(array({true, false}, 2, 1)), class(array {{1, 2}, {3, 4}}), class(array {p, p}), class(array {1, "x"}), array {})
 show("cases.Probe", p, 2, 2)
 
 local a = array("int8", {{1, 2, 3}, {4, 5, 6}})
