@@ -9,7 +9,8 @@ namespace velmara::console {
 /// - `a(rows, columns)`, `a(elements)`: a new array of those, see ArrayIndex.hpp; the element itself when whole numbers
 ///   name just one. Elements by position have the shape of the index; beside a vector, a vector of the same direction.
 /// - `a:set(rows, columns, value)`, `a:set(elements, value)`: stores one value in all of them, or as many. Every value
-///   must fit the class, otherwise the array stays as it was.
+///   must fit the class, otherwise the array stays as it was. When memory runs out amid strings or cells, those that
+///   were stored before stay.
 /// - `a[index]` with an array as the index: the same as `a(index)`, and likewise for writing
 void bindArraySlices(lua_State* L);
 

@@ -56,7 +56,7 @@ Arrays of the host are values of their own, of every class and size:
   a(i, j)  a(k)  a:set(i, j, values) parts: numbers, lists of them or of truth
                                      values, nil for all; a[array] likewise
   a + b  - * / // % ^  -a            element by element; an array, a table or a
-                                     number beside it, one row or column repeated
+                                     number beside it; one row, column repeated
   a:eq(b)  ne lt le gt ge   & | ~    likewise, to true and false
   a:sum()  mean min max any all      of all; (1) of each column, (2) of each row
   a:sort()  order  find              likewise; where the first, the non-zero are
