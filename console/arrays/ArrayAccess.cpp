@@ -81,12 +81,15 @@ int next(lua_State* L)
 int readArray(lua_State* L)
 {
     hvArray_tag const* const array = checkHostArray(L, 1);
-    if (lua_type(L, 2) == LUA_TSTRING) {
+    switch (lua_type(L, 2)) {
+    case LUA_TSTRING:
         pushArrayMethod(L);
         return 1;
-    }
-    if (isHostArray(L, 2))
+    case LUA_TUSERDATA:
         return readSlice(L);
+    default:
+        break;
+    }
     if (auto const position = readPosition(L, *array))
         pushHeldElement(L, array, *position);
     else
@@ -96,7 +99,7 @@ int readArray(lua_State* L)
 
 int writeArray(lua_State* L)
 {
-    if (isHostArray(L, 2))
+    if (lua_type(L, 2) == LUA_TUSERDATA)
         return writeSlice(L);
     hvArray_tag* const array = checkHostArray(L, 1);
     auto const position = readPosition(L, *array);

@@ -110,7 +110,7 @@ hvArray_tag* createFrom(lua_State* L, ArrayClass const& arrayClass, ElementSourc
 int createArray(lua_State* L)
 {
     luaL_checkstack(L, 8, nullptr);
-    if (lua_istable(L, 1) && proxyName(L, 1).empty()) {
+    if (isHostArray(L, 1) || (lua_istable(L, 1) && proxyName(L, 1).empty())) {
         pushText(L, className(toHost(L, 1).get()));
         lua_insert(L, 1);
     }

@@ -14,7 +14,7 @@ namespace velmara::console {
 ///   always a row, of any values
 /// - with rows and columns: the values in column order, as many as there is room for; or one value for all elements
 ///
-/// Without a class, a table has the one that it has for the host. Every value must fit the class exactly. See
+/// Without a class, a table or array has the one that it has for the host. Every value must fit the class exactly. See
 /// ArrayElement.hpp.
 int createArray(lua_State* L);
 

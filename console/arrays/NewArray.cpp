@@ -4,6 +4,7 @@
 #include "handles/HostContext.hpp"
 #include "lua/ScriptError.hpp"
 
+#include "host_extensions/functionValues.hpp"
 #include "host_extensions/host_extensions.hpp"
 #include "libhv/libhv.hpp"
 #include "orbis/objectArrays.hpp"
@@ -39,6 +40,8 @@ ArrayPtr newMatrix(hvClassID classID, Shape shape)
 
 ArrayPtr newArray(lua_State* L, ArrayClass const& arrayClass, Shape shape, Conversion& conversion)
 {
+    if (arrayClass.classID == orbis::host_extensions::functionClass)
+        fail("arrayClass", "a function stays what it is: it has no parts and no other form");
     countMemory(arrayClass.classID, shape, conversion);
     Hvm::Scope const scope(HostContext::of(L).hvm());
     switch (arrayClass.classID) {

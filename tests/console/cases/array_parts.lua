@@ -26,7 +26,7 @@ end
 show(changed(a, 1, 9), changed(a, {1, 6}, 0), changed(a, nil, 2, {{7}, {8}}), changed(a, 2, nil, {7, 8, 9}), changed(a, a:gt(4), {50, 60}),
   changed(a, nil, nil, a(nil, {3, 2, 1})), changed(a, {1, 1}, {5, 6}), changed(a, {}, 5), changed(a, nil, nil, array("double", 7)))
 show(changed(cells, {1, 3}, "both"), changed(cells, {1, 2}, {"y", cells}), changed(texts, nil, 1, missing), changed(array("char", "hello"), {1, 2}, "yo"))
-local b = array("int8", a)
+local b, f = array(a), asarray(cases.echo, print)
 b[a:lt(3)] = 0
 show(b, a)
 for _, f in ipairs {function() return a(3, 1) end, function() return a(1, 4) end, function() return a(7) end, function() return a({1, -1}) end,
@@ -34,7 +34,8 @@ for _, f in ipairs {function() return a(3, 1) end, function() return a(1, 4) end
   function() return a({true}) end, function() return a(a:eq(1), 1) end, function() return a:transpose()(a:eq(1)) end, function() return a() end,
   function() return a(1, 2, 3) end, function() return a(2 ^ 70) end, function() a:set(1, 1, 300) end, function() a:set(nil, 1, {1, 2, 3}) end,
   function() a:set(nil, nil, {{1, 2, 300}, {1, 2, 3}}) end, function() a:set(nil, nil, a:transpose()) end, function() a:set(1) end,
-  function() a:set(1, nil) end, function() a[a] = "x" end, function() a[7] = 1 end} do refused(f) end
+  function() a:set(1, nil) end, function() a[a] = "x" end, function() a[7] = 1 end,
+  function() return f({1}) end, function() return f:reshape(1, 1) end, function() return a[null] end, function() return array(f) end} do refused(f) end
 show(a)
 -- a finalizer that releases the array, or writes to it, in the midst of its use
 for i = 1, 300 do
