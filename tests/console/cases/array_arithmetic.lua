@@ -50,7 +50,7 @@ end
 
 local max, min = array("int64", math.maxinteger), array("int64", math.mininteger)
 local huge = array("uint64", "18446744073709551615")
-print(max - 1, min + 1, max // 2, min % 10, huge - 1.0, huge // 2, huge / 2, array("int64", 3) ^ 39, array("int64", -2) ^ 63, max * 1.0)
+print(max - 1, min + 1, max // 2, min % 10, huge - 1.0, huge // 2, huge / 2, array("int64", 3) ^ 39, array("int64", -2) ^ 63, max * 1.0, max - array {1, 2})
 for _, f in ipairs {function() return max + 1 end, function() return -min end, function() return min // -1 end, function() return min / -1 end,
   function() return huge * 2 end, function() return array("int64", 3) ^ 40 end, function() return max * 1.5 end, function() return min % 0 end} do refused(f) end
 
