@@ -33,10 +33,7 @@ Shape checkShape(lua_State* L, ElementSource const& source)
     if (lua_isnone(L, 3))
         return source.shape();
     Shape const shape{checkSize(L, 3, "rows"), checkSize(L, 4, "columns")};
-    bool const fits = shape.columns == 0
-                          ? source.count() == 0
-                          : source.count() % shape.columns == 0 && source.count() / shape.columns == shape.rows;
-    if (!fits && !source.isSingle())
+    if (!shape.holds(source.count()) && !source.isSingle())
         fail("size", std::to_string(source.count()) + " values do not fill " + std::to_string(shape.rows) +
                          " rows of " + std::to_string(shape.columns));
     return shape;
@@ -80,17 +77,6 @@ void storeEach(lua_State* L, ElementSource const& source, hvArray_tag* array, Co
     }
 }
 
-/// Copies all elements of an array, in column order, to a new one of its class; the shapes may differ.
-void copyAll(lua_State* L, hvArray_tag const* source, hvArray_tag* target)
-{
-    Hvm::Scope const scope(HostContext::of(L).hvm());
-    std::size_t const count = source->get_number_of_elements();
-    copyElements(source, target, [count](auto const& copy) {
-        for (std::size_t i = 0; i < count; ++i)
-            copy(i, i);
-    });
-}
-
 } // namespace
 
 hvArray_tag* createFrom(lua_State* L, ArrayClass const& arrayClass, ElementSource const& source, Shape shape,
@@ -98,9 +84,10 @@ hvArray_tag* createFrom(lua_State* L, ArrayClass const& arrayClass, ElementSourc
 {
     Conversion conversion;
     hvArray_tag* const array = frame.push(newArray(L, arrayClass, shape, conversion));
-    if (source.array() && className(source.array()) == arrayClass.name)
-        copyAll(L, source.array(), array);
-    else if (source.isSingle())
+    if (source.array() && className(source.array()) == arrayClass.name) {
+        Hvm::Scope const scope(HostContext::of(L).hvm());
+        copyAllElements(source.array(), array);
+    } else if (source.isSingle())
         fill(L, source, array, conversion);
     else
         storeEach(L, source, array, conversion);
@@ -111,7 +98,8 @@ int createArray(lua_State* L)
 {
     luaL_checkstack(L, 8, nullptr);
     if (isHostArray(L, 1) || (lua_istable(L, 1) && proxyName(L, 1).empty())) {
-        pushText(L, className(toHost(L, 1).get()));
+        std::string const name = className(toHost(L, 1).get());
+        pushText(L, name);
         lua_insert(L, 1);
     }
     lua_settop(L, std::min(lua_gettop(L), 4));

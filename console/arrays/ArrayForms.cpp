@@ -16,7 +16,7 @@ namespace {
 ArrayPtr newLike(lua_State* L, hvArray_tag const& array, Shape shape)
 {
     Conversion conversion;
-    return newArray(L, {array._get_class_id_non_trivial(), className(&array)}, shape, conversion);
+    return newArray(L, arrayClassOf(array), shape, conversion);
 }
 
 /// Arguments 2 and 3, of which one may be nil.
@@ -35,19 +35,13 @@ int reshape(lua_State* L)
 {
     ArrayStack::Frame frame(HostContext::of(L).arrays());
     hvArray_tag const* const array = frame.push(ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, 1))));
-    std::size_t const count = array->get_number_of_elements();
-    Shape const shape = checkForm(L, count);
-    bool const fits =
-        shape.columns == 0 ? count == 0 : count % shape.columns == 0 && count / shape.columns == shape.rows;
-    if (!fits)
+    Shape const shape = checkForm(L, array->get_number_of_elements());
+    if (!shape.holds(array->get_number_of_elements()))
         fail("size", "the elements of " + shapeText(*array) + " do not fill " + shapeText(shape));
     hvArray_tag* const result = frame.push(newLike(L, *array, shape));
     {
         Hvm::Scope const scope(HostContext::of(L).hvm());
-        copyElements(array, result, [count](auto const& copy) {
-            for (std::size_t i = 0; i < count; ++i)
-                copy(i, i);
-        });
+        copyAllElements(array, result);
     }
     pushHostArray(L, *result);
     return 1;

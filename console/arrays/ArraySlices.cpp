@@ -86,8 +86,7 @@ int pushSlice(lua_State* L, int indices)
         return 1;
     }
     Conversion conversion;
-    ArrayClass const arrayClass{array->_get_class_id_non_trivial(), className(array)};
-    hvArray_tag* const result = frame.push(newArray(L, arrayClass, selection.shape(), conversion));
+    hvArray_tag* const result = frame.push(newArray(L, arrayClassOf(*array), selection.shape(), conversion));
     {
         Hvm::Scope const scope(HostContext::of(L).hvm());
         copyElements(array, result, [&](auto const& copy) {
@@ -112,7 +111,7 @@ void storeSlice(lua_State* L, int value, int indices)
     ArrayStack::Frame frame(HostContext::of(L).arrays());
     hvArray_tag* const array = checkHostArray(L, 1);
     Selection const selection(L, *array, indices, frame);
-    ArrayClass const arrayClass{array->_get_class_id_non_trivial(), className(array)};
+    ArrayClass const arrayClass = arrayClassOf(*array);
     ElementSource const source(L, value, arrayClass.classID, frame);
     hvArray_tag const* const values = createFrom(L, arrayClass, source, source.shape(), frame);
     bool const isRepeated = shapeOf(*values) == Shape{1, 1};

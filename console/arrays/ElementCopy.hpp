@@ -41,4 +41,13 @@ void copyElements(hvArray_tag const* source, hvArray_tag* target, Walk const& wa
     }
 }
 
+/// Copies all elements, in column order, to an array of as many; the shapes may differ.
+inline void copyAllElements(hvArray_tag const* source, hvArray_tag* target)
+{
+    copyElements(source, target, [count = source->get_number_of_elements()](auto const& copy) {
+        for (std::size_t i = 0; i < count; ++i)
+            copy(i, i);
+    });
+}
+
 } // namespace velmara::console

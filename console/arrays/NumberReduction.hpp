@@ -35,7 +35,7 @@ public:
     double total() const { return static_cast<double>(total_); }
 
 private:
-    // Fewer than 2^31 elements fit in an array.
+    // Of smaller integers it takes 2^32 elements to exceed 64 bits.
     using Total = std::conditional_t<std::floating_point<T>, double,
                                      std::conditional_t<sizeof(T) == sizeof(std::int64_t), __int128, std::int64_t>>;
 

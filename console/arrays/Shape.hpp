@@ -13,6 +13,13 @@ struct Shape {
 
     std::size_t count() const { return rows * columns; }
     bool isVector() const { return rows == 1 || columns == 1; }
+
+    /// Whether there is room for just so many elements. The sizes may be any.
+    bool holds(std::size_t elements) const
+    {
+        return columns == 0 ? elements == 0 : elements % columns == 0 && elements / columns == rows;
+    }
+
     bool operator==(Shape const&) const = default;
 };
 
