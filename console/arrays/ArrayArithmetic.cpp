@@ -1,7 +1,7 @@
 #include "arrays/ArrayArithmetic.hpp"
 
 #include "arrays/ArrayOperands.hpp"
-#include "arrays/ElementBlocks.hpp"
+#include "arrays/ElementKernel.hpp"
 #include "arrays/NewArray.hpp"
 #include "arrays/NumberArithmetic.hpp"
 #include "handles/HostArray.hpp"
@@ -36,45 +36,46 @@ hvClassID resultClass(hvClassID a, hvClassID b)
     return a == hvSINGLE_CLASS || b == hvSINGLE_CLASS ? hvSINGLE_CLASS : hvDOUBLE_CLASS;
 }
 
-template <class Op, class A, class B>
-[[noreturn]] void failElement(std::string const& position, A a, B b, char const* className)
+/// Throws the error for the result at `index`, which does not fit. A unary operator has no second operand.
+[[noreturn]] void failElement(ArrayOperands const& operands, hvArray_tag const& result, char const* symbol,
+                              std::size_t index)
 {
-    using orbis::host_extensions::numberText;
-    std::string const first = numberText(COSValue::classOf<A>(), &a, 0);
-    std::string const second = numberText(COSValue::classOf<B>(), &b, 0);
-    std::string const term = std::same_as<Op, Negated> ? "-(" + first + ')' : first + ' ' + Op::symbol + ' ' + second;
-    fail("element", "element " + position + ": " + term + " does not fit " + className);
+    auto const text = [&](hvArray_tag const* operand) {
+        return orbis::host_extensions::numberText(operand->_get_class_id_non_trivial(),
+                                                  orbis::host_extensions::getData(operand),
+                                                  unexpandedIndex(shapeOf(*operand), operands.shape, index));
+    };
+    std::string const first = text(operands.first);
+    std::string const term =
+        operands.second ? first + ' ' + symbol + ' ' + text(operands.second) : std::string(symbol) + '(' + first + ')';
+    fail("element", "element " + positionText(operands.shape, index) + ": " + term + " does not fit " +
+                        findNumericClass(result._get_class_id_non_trivial())->name);
 }
 
-/// Computes all elements of the result, of class `R`, with the operands as `A` and `B`.
+/// Computes elements up to the first that does not fit. Returns how many.
 template <class Op, class A, class B, class R>
-void computeElements(ArrayOperands const& operands, hvArray_tag* result)
+std::size_t computeBlock(A const* a, B const* b, R* out, std::size_t count)
 {
-    auto* const out = static_cast<R*>(orbis::host_extensions::getWritableData(result));
-    visitBlocks<A, B>(*operands.first, *operands.second, operands.shape,
-                      [&](std::size_t start, std::size_t count, A const* a, B const* b) {
-                          for (std::size_t i = 0; i < count; ++i)
-                              if (!compute<Op>(a[i], b[i], out[start + i])) [[unlikely]]
-                                  failElement<Op>(positionText(operands.shape, start + i), a[i], b[i],
-                                                  orbis::host_extensions::numericClassOf<R>.name);
-                      });
+    for (std::size_t i = 0; i < count; ++i)
+        if (!compute<Op>(a[i], b[i], out[i])) [[unlikely]]
+            return i;
+    return count;
 }
 
 template <class Op>
-void computeArray(ArrayOperands const& operands, hvArray_tag* result)
+std::size_t computeArray(ArrayOperands const& operands, hvArray_tag* result)
 {
-    visitNumericClass(result->_get_class_id_non_trivial(), [&]<class R>(R) {
+    return visitNumericClass(result->_get_class_id_non_trivial(), [&]<class R>(R) -> std::size_t {
         if constexpr (std::floating_point<R>) {
-            computeElements<Op, R, R, R>(operands, result);
-        } else if constexpr (!std::same_as<R, bool>) {
-            bool const isFirst = operands.first->_get_class_id_non_trivial() == COSValue::classOf<R>();
-            bool const isSecond = operands.second->_get_class_id_non_trivial() == COSValue::classOf<R>();
-            if (isFirst && isSecond)
-                computeElements<Op, R, R, R>(operands, result);
-            else if (isFirst)
-                computeElements<Op, R, double, R>(operands, result);
-            else
-                computeElements<Op, double, R, R>(operands, result);
+            return computeElements<R, R, R>(operands, result, computeBlock<Op, R, R, R>);
+        } else if constexpr (std::same_as<R, bool>) {
+            return 0; // no result has this class
+        } else {
+            if (operands.first->_get_class_id_non_trivial() != COSValue::classOf<R>())
+                return computeElements<double, R, R>(operands, result, computeBlock<Op, double, R, R>);
+            if (operands.second->_get_class_id_non_trivial() != COSValue::classOf<R>())
+                return computeElements<R, double, R>(operands, result, computeBlock<Op, R, double, R>);
+            return computeElements<R, R, R>(operands, result, computeBlock<Op, R, R, R>);
         }
     });
 }
@@ -94,7 +95,9 @@ int operate(lua_State* L)
     hvClassID const classID =
         resultClass(operands.first->_get_class_id_non_trivial(), operands.second->_get_class_id_non_trivial());
     hvArray_tag* const result = frame.push(newMatrix(classID, operands.shape));
-    computeArray<Op>(operands, result);
+    if (std::size_t const computed = computeArray<Op>(operands, result); computed != operands.shape.count())
+        failElement({operands.first, std::same_as<Op, Negated> ? nullptr : operands.second, operands.shape}, *result,
+                    Op::symbol, computed);
     pushHostArray(L, *result);
     return 1;
 }

@@ -2,7 +2,7 @@
 
 #include "arrays/ArrayMethods.hpp"
 #include "arrays/ArrayOperands.hpp"
-#include "arrays/ElementBlocks.hpp"
+#include "arrays/ElementKernel.hpp"
 #include "arrays/NewArray.hpp"
 #include "arrays/NumberOrder.hpp"
 #include "handles/HostArray.hpp"
@@ -41,27 +41,17 @@ struct Or {
 };
 
 template <class Predicate, class A, class B>
-void compareElements(ArrayOperands const& operands, hvArray_tag* result)
+std::size_t compareBlock(A const* a, B const* b, bool* out, std::size_t count)
 {
-    auto* const out = static_cast<bool*>(orbis::host_extensions::getWritableData(result));
-    visitBlocks<A, B>(*operands.first, *operands.second, operands.shape,
-                      [&](std::size_t start, std::size_t count, A const* a, B const* b) {
-                          for (std::size_t i = 0; i < count; ++i)
-                              out[start + i] = Predicate::holds(a[i], b[i]);
-                      });
+    for (std::size_t i = 0; i < count; ++i)
+        out[i] = Predicate::holds(a[i], b[i]);
+    return count;
 }
 
-/// Calls `visit` with a zero of the type in which the class's numbers are compared with those of other classes: one
-/// that holds all of them.
-template <class Visit>
-void visitComparedType(hvClassID classID, Visit const& visit)
+template <class Predicate, class A, class B>
+void compareElements(ArrayOperands const& operands, hvArray_tag* result)
 {
-    if (classID == hvINT64_CLASS)
-        visit(std::int64_t());
-    else if (classID == hvUINT64_CLASS)
-        visit(std::uint64_t());
-    else
-        visit(double());
+    computeElements<A, B, bool>(operands, result, compareBlock<Predicate, A, B>);
 }
 
 template <class Predicate>

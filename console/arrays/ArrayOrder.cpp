@@ -4,7 +4,9 @@
 #include "arrays/ArrayMethods.hpp"
 #include "arrays/ArrayOperands.hpp"
 #include "arrays/Dimension.hpp"
+#include "arrays/ElementBlocks.hpp"
 #include "arrays/NewArray.hpp"
+#include "arrays/NumberOrder.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/ValueText.hpp"
@@ -15,7 +17,6 @@
 #include "host_extensions/numericClasses.hpp"
 
 #include <algorithm>
-#include <functional>
 #include <numeric>
 #include <vector>
 
@@ -32,31 +33,25 @@ bool isNumber(T value)
 }
 
 /// Sorts one run of elements.
-template <class T, class Before>
-void sortRun(T* first, T* last, Before const& before)
+template <class T>
+void sortRun(T* first, T* last, bool isDescending)
 {
-    std::sort(first, std::partition(first, last, isNumber<T>), before);
+    T* const numbers = std::partition(first, last, isNumber<T>);
+    std::sort(first, numbers);
+    if (isDescending)
+        std::reverse(first, numbers);
 }
 
 /// Stores the positions, from 1 on, of one run of elements in their order.
-template <class T, class Before>
-void orderRun(T const* elements, std::size_t count, double* positions, Before const& before)
+template <class T>
+void orderRun(T const* elements, std::size_t count, double* positions, bool isDescending)
 {
     std::iota(positions, positions + count, 1.0);
     auto const at = [elements](double position) { return elements[static_cast<std::size_t>(position) - 1]; };
     double* const numbers =
         std::stable_partition(positions, positions + count, [&](double position) { return isNumber(at(position)); });
-    std::stable_sort(positions, numbers, [&](double a, double b) { return before(at(a), at(b)); });
-}
-
-/// Calls `visit` with the comparison of the elements.
-template <class Visit>
-void visitDirection(bool isDescending, Visit const& visit)
-{
-    if (isDescending)
-        visit(std::greater<>());
-    else
-        visit(std::less<>());
+    std::stable_sort(positions, numbers,
+                     [&](double a, double b) { return isDescending ? at(b) < at(a) : at(a) < at(b); });
 }
 
 struct OrderRequest {
@@ -88,10 +83,8 @@ ArrayPtr sorted(hvArray_tag const& array, OrderRequest const& request)
     std::size_t const length = request.runLength(shape);
     visitNumericClass(classID, [&]<class T>(T) {
         auto* const data = static_cast<T*>(orbis::host_extensions::getWritableData(result.get()));
-        visitDirection(request.isDescending, [&](auto before) {
-            for (std::size_t start = 0; start < shape.count(); start += length)
-                sortRun(data + start, data + start + length, before);
-        });
+        for (std::size_t start = 0; start < shape.count(); start += length)
+            sortRun(data + start, data + start + length, request.isDescending);
     });
     return result;
 }
@@ -103,12 +96,13 @@ ArrayPtr ordered(hvArray_tag const& array, OrderRequest const& request)
     ArrayPtr result = newMatrix(hvDOUBLE_CLASS, shape);
     auto* const positions = static_cast<double*>(orbis::host_extensions::getWritableData(result.get()));
     std::size_t const length = request.runLength(shape);
-    visitNumericClass(array._get_class_id_non_trivial(), [&]<class T>(T) {
-        auto const* const data = static_cast<T const*>(orbis::host_extensions::getData(&array));
-        visitDirection(request.isDescending, [&](auto before) {
-            for (std::size_t start = 0; start < shape.count(); start += length)
-                orderRun(data + start, length, positions + start, before);
+    visitComparedType(array._get_class_id_non_trivial(), [&]<class T>(T) {
+        std::vector<T> numbers(shape.count());
+        visitBlocks<T>(array, shape, [&](std::size_t start, std::size_t count, T const* block) {
+            std::copy_n(block, count, numbers.data() + start);
         });
+        for (std::size_t start = 0; start < shape.count(); start += length)
+            orderRun(numbers.data() + start, length, positions + start, request.isDescending);
     });
     return result;
 }

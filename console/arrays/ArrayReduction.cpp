@@ -43,60 +43,75 @@ struct ReducedArrays {
     hvArray_tag* positions = nullptr; ///< null when there are none
 };
 
+/// Their elements.
 template <class Reduction>
-void storeReduced(Reduction const& reduction, ReducedArrays const& results, std::size_t index)
-{
-    using Result = typename Reduction::Result;
-    auto* const values = static_cast<Result*>(orbis::host_extensions::getWritableData(results.values));
-    if (!reduction.store(values[index]))
-        fail("element", "sum " + std::to_string(index + 1) + " does not fit " + numericClassOf<Result>.name);
-    if constexpr (HasPosition<Reduction>)
-        static_cast<double*>(orbis::host_extensions::getWritableData(results.positions))[index] =
-            static_cast<double>(reduction.position() + 1);
-}
+struct ReducedData {
+    typename Reduction::Result* values;
+    double* positions;
 
-/// Reduces runs of `length` elements, one after the other.
+    /// Returns false when the result does not fit.
+    bool store(Reduction const& reduction, std::size_t index) const
+    {
+        if constexpr (HasPosition<Reduction>)
+            positions[index] = static_cast<double>(reduction.position() + 1);
+        return reduction.store(values[index]);
+    }
+};
+
+/// Reduces runs of `length` elements, one after the other, up to the first whose result does not fit. Returns how many.
 template <class Reduction, class T>
-void reduceRuns(T const* data, std::size_t count, std::size_t length, ReducedArrays const& results)
+std::size_t reduceRuns(T const* data, std::size_t count, std::size_t length, ReducedData<Reduction> results)
 {
     for (std::size_t run = 0; run < count; ++run) {
         Reduction reduction;
         for (std::size_t i = 0; i < length; ++i)
             if (!reduction.add(data[run * length + i], i))
                 break;
-        storeReduced(reduction, results, run);
+        if (!results.store(reduction, run))
+            return run;
     }
+    return count;
 }
 
-/// Reduces each row: column by column, in the order of the memory.
+/// Likewise each row: column by column, in the order of the memory.
 template <class Reduction, class T>
-void reduceRows(T const* data, Shape shape, ReducedArrays const& results)
+std::size_t reduceRows(T const* data, Shape shape, ReducedData<Reduction> results)
 {
     std::vector<Reduction> reductions(shape.rows);
     for (std::size_t column = 0; column < shape.columns; ++column)
         for (std::size_t row = 0; row < shape.rows; ++row)
             reductions[row].add(data[column * shape.rows + row], column);
     for (std::size_t row = 0; row < shape.rows; ++row)
-        storeReduced(reductions[row], results, row);
+        if (!results.store(reductions[row], row))
+            return row;
+    return shape.rows;
 }
 
+/// Reduces the array. Returns how many results fit their class.
 template <class Reduction, class T>
-ReducedArrays reduceArray(hvArray_tag const& array, Dimension dimension, ArrayStack::Frame& frame)
+std::size_t reduceArray(hvArray_tag const& array, Dimension dimension, ReducedArrays const& arrays)
 {
-    Shape const shape = shapeOf(array);
-    Shape const reduced = reducedShape(shape, dimension, HasPosition<Reduction>);
-    ReducedArrays results;
-    results.values = frame.push(newMatrix(numericClassOf<typename Reduction::Result>.classID, reduced));
-    if (HasPosition<Reduction>)
-        results.positions = frame.push(newMatrix(hvDOUBLE_CLASS, reduced));
-    auto const* const data = static_cast<T const*>(orbis::host_extensions::getData(&array));
-    if (reduced.count() == 0)
-        return results;
+    using namespace orbis::host_extensions;
+    auto const* const data = static_cast<T const*>(getData(&array));
+    ReducedData<Reduction> const results{static_cast<typename Reduction::Result*>(getWritableData(arrays.values)),
+                                         arrays.positions ? static_cast<double*>(getWritableData(arrays.positions))
+                                                          : nullptr};
+    std::size_t const count = arrays.values->get_number_of_elements();
+    if (count == 0)
+        return 0;
     if (dimension == Dimension::Rows)
-        reduceRows<Reduction>(data, shape, results);
-    else
-        reduceRuns<Reduction>(data, reduced.columns, dimension == Dimension::All ? shape.count() : shape.rows, results);
-    return results;
+        return reduceRows<Reduction>(data, shapeOf(array), results);
+    return reduceRuns<Reduction>(data, count, array.get_number_of_elements() / count, results);
+}
+
+/// New arrays for the results of that class.
+ReducedArrays createReduced(hvClassID classID, Shape shape, bool havePositions, ArrayStack::Frame& frame)
+{
+    ReducedArrays arrays;
+    arrays.values = frame.push(newMatrix(classID, shape));
+    if (havePositions)
+        arrays.positions = frame.push(newMatrix(hvDOUBLE_CLASS, shape));
+    return arrays;
 }
 
 /// Pushes the results: values where all elements were reduced, else arrays.
@@ -121,14 +136,21 @@ int reduce(lua_State* L)
     hvArray_tag const* const array = checkHostArray(L, 1);
     requireNumeric(*array);
     Dimension const dimension = checkDimension(L, 2);
-    if (HasPosition<Reduction<double>> && dimension == Dimension::All && array->get_number_of_elements() == 0) {
+    constexpr bool isExtreme = HasPosition<Reduction<double>>;
+    if (isExtreme && dimension == Dimension::All && array->get_number_of_elements() == 0) {
         lua_pushnil(L);
         return 1;
     }
     ArrayStack::Frame frame(HostContext::of(L).arrays());
-    return visitNumericClass(array->_get_class_id_non_trivial(), [&]<class T>(T) {
-        return pushReduced(L, reduceArray<Reduction<T>, T>(*array, dimension, frame), dimension);
+    Shape const shape = reducedShape(shapeOf(*array), dimension, isExtreme);
+    ReducedArrays arrays;
+    std::size_t const reduced = visitNumericClass(array->_get_class_id_non_trivial(), [&]<class T>(T) {
+        arrays = createReduced(numericClassOf<typename Reduction<T>::Result>.classID, shape, isExtreme, frame);
+        return reduceArray<Reduction<T>, T>(*array, dimension, arrays);
     });
+    if (reduced != shape.count())
+        fail("element", "sum " + std::to_string(reduced + 1) + " does not fit " + className(arrays.values));
+    return pushReduced(L, arrays, dimension);
 }
 
 } // namespace

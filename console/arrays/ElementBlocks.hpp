@@ -88,20 +88,7 @@ private:
     T buffer_[maxSize];
 };
 
-/// Calls `visit(start, count, a, b)` for one block after the other of two arrays expanded to a shape.
-template <class A, class B, class Visit>
-void visitBlocks(hvArray_tag const& first, hvArray_tag const& second, Shape shape, Visit const& visit)
-{
-    ElementBlocks<A> a(first, shape);
-    ElementBlocks<B> b(second, shape);
-    std::size_t const total = shape.count();
-    for (std::size_t start = 0; start < total; start += ElementBlocks<A>::maxSize) {
-        std::size_t const count = std::min(ElementBlocks<A>::maxSize, total - start);
-        visit(start, count, a.at(start, count), b.at(start, count));
-    }
-}
-
-/// The same for one array.
+/// Calls `visit(start, count, elements)` for one block after the other of an array expanded to a shape.
 template <class T, class Visit>
 void visitBlocks(hvArray_tag const& array, Shape shape, Visit const& visit)
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "libhv/hvArray.hpp"
+
 #include <cmath>
 #include <compare>
 #include <concepts>
@@ -51,6 +53,19 @@ bool isEqualTo(A a, B b)
         return orderExactly(a, b) == 0;
     else
         return orderExactly(b, a) == 0;
+}
+
+/// Calls `visit` with a zero of the type in which numbers of a class are compared with those of others: double, or one
+/// of 64 bits. It holds all of them.
+template <class Visit>
+void visitComparedType(hvClassID classID, Visit const& visit)
+{
+    if (classID == hvINT64_CLASS)
+        visit(std::int64_t());
+    else if (classID == hvUINT64_CLASS)
+        visit(std::uint64_t());
+    else
+        visit(double());
 }
 
 } // namespace velmara::console

@@ -39,6 +39,14 @@ inline std::string shapeText(hvArray_tag const& array)
     return shapeText(shapeOf(array));
 }
 
+/// The index of the element that is repeated at `index` of an expanded shape.
+inline std::size_t unexpandedIndex(Shape shape, Shape expanded, std::size_t index)
+{
+    std::size_t const row = shape.rows == 1 ? 0 : index % expanded.rows;
+    std::size_t const column = shape.columns == 1 ? 0 : index / expanded.rows;
+    return column * shape.rows + row;
+}
+
 /// The place of an element for error texts: "5", or "(2, 3)" in a matrix.
 inline std::string positionText(Shape shape, std::size_t index)
 {
