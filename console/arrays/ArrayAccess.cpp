@@ -147,6 +147,7 @@ void bindArrayAccess(lua_State* L)
     pushArrayMetatable(L);
     setField(L, "__index", guarded<readArray>);
     setField(L, "__newindex", guarded<writeArray>);
+    setField(L, "__call", guarded<callArray>);
     setField(L, "__len", guarded<countElements>);
     setField(L, "__pairs", guarded<iterateArray>);
     setField(L, "__eq", guarded<compareArrays>);

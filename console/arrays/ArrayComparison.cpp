@@ -1,6 +1,5 @@
 #include "arrays/ArrayComparison.hpp"
 
-#include "arrays/ArrayMethods.hpp"
 #include "arrays/ArrayOperands.hpp"
 #include "arrays/ElementKernel.hpp"
 #include "arrays/NewArray.hpp"
@@ -110,16 +109,38 @@ int negateLogicals(lua_State* L)
 
 } // namespace
 
-void bindArrayComparison(lua_State* L)
+int compareEqual(lua_State* L)
 {
-    pushArrayMethods(L);
-    setField(L, "eq", guarded<compare<Equal>>);
-    setField(L, "ne", guarded<compare<Different>>);
-    setField(L, "lt", guarded<compare<Less>>);
-    setField(L, "le", guarded<compare<LessOrEqual>>);
-    setField(L, "gt", guarded<compare<Less, true>>);
-    setField(L, "ge", guarded<compare<LessOrEqual, true>>);
-    lua_pop(L, 1);
+    return compare<Equal>(L);
+}
+
+int compareDifferent(lua_State* L)
+{
+    return compare<Different>(L);
+}
+
+int compareLess(lua_State* L)
+{
+    return compare<Less>(L);
+}
+
+int compareLessOrEqual(lua_State* L)
+{
+    return compare<LessOrEqual>(L);
+}
+
+int compareGreater(lua_State* L)
+{
+    return compare<Less, true>(L);
+}
+
+int compareGreaterOrEqual(lua_State* L)
+{
+    return compare<LessOrEqual, true>(L);
+}
+
+void bindLogicalOperators(lua_State* L)
+{
     pushArrayMetatable(L);
     setField(L, "__band", guarded<combineLogicals<And>>);
     setField(L, "__bor", guarded<combineLogicals<Or>>);

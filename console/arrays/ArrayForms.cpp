@@ -1,11 +1,9 @@
 #include "arrays/ArrayForms.hpp"
 
-#include "arrays/ArrayMethods.hpp"
 #include "arrays/ElementCopy.hpp"
 #include "arrays/NewArray.hpp"
 #include "handles/HostContext.hpp"
 #include "lua/ScriptError.hpp"
-#include "lua/Table.hpp"
 
 #include "libhv/libhv.hpp"
 
@@ -31,30 +29,6 @@ Shape checkForm(lua_State* L, std::size_t count)
     return {rows, lua_isnoneornil(L, 3) ? missing(rows) : checkSize(L, 3, "columns")};
 }
 
-int reshape(lua_State* L)
-{
-    ArrayStack::Frame frame(HostContext::of(L).arrays());
-    hvArray_tag const* const array = frame.push(ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, 1))));
-    Shape const shape = checkForm(L, array->get_number_of_elements());
-    if (!shape.holds(array->get_number_of_elements()))
-        fail("size", "the elements of " + shapeText(*array) + " do not fill " + shapeText(shape));
-    hvArray_tag* const result = frame.push(newLike(L, *array, shape));
-    {
-        Hvm::Scope const scope(HostContext::of(L).hvm());
-        copyAllElements(array, result);
-    }
-    pushHostArray(L, *result);
-    return 1;
-}
-
-int transpose(lua_State* L)
-{
-    ArrayStack::Frame frame(HostContext::of(L).arrays());
-    hvArray_tag const* const array = frame.push(ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, 1))));
-    pushHostArray(L, *frame.push(transposed(L, *array)));
-    return 1;
-}
-
 } // namespace
 
 ArrayPtr transposed(lua_State* L, hvArray_tag const& array)
@@ -70,12 +44,28 @@ ArrayPtr transposed(lua_State* L, hvArray_tag const& array)
     return result;
 }
 
-void bindArrayForms(lua_State* L)
+int reshapeArray(lua_State* L)
 {
-    pushArrayMethods(L);
-    setField(L, "reshape", guarded<reshape>);
-    setField(L, "transpose", guarded<transpose>);
-    lua_pop(L, 1);
+    ArrayStack::Frame frame(HostContext::of(L).arrays());
+    hvArray_tag const* const array = frame.push(ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, 1))));
+    Shape const shape = checkForm(L, array->get_number_of_elements());
+    if (!shape.holds(array->get_number_of_elements()))
+        fail("size", "the elements of " + shapeText(*array) + " do not fill " + shapeText(shape));
+    hvArray_tag* const result = frame.push(newLike(L, *array, shape));
+    {
+        Hvm::Scope const scope(HostContext::of(L).hvm());
+        copyAllElements(array, result);
+    }
+    pushHostArray(L, *result);
+    return 1;
+}
+
+int transposeArray(lua_State* L)
+{
+    ArrayStack::Frame frame(HostContext::of(L).arrays());
+    hvArray_tag const* const array = frame.push(ArrayPtr(hvCreateSharedDataCopy(checkHostArray(L, 1))));
+    pushHostArray(L, *frame.push(transposed(L, *array)));
+    return 1;
 }
 
 } // namespace velmara::console

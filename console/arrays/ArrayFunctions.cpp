@@ -4,10 +4,6 @@
 #include "arrays/ArrayArithmetic.hpp"
 #include "arrays/ArrayComparison.hpp"
 #include "arrays/ArrayConstruction.hpp"
-#include "arrays/ArrayForms.hpp"
-#include "arrays/ArrayOrder.hpp"
-#include "arrays/ArrayReduction.hpp"
-#include "arrays/ArraySlices.hpp"
 #include "arrays/Ranges.hpp"
 #include "bindings/ClassMembers.hpp"
 #include "handles/HostArray.hpp"
@@ -96,11 +92,7 @@ void bindArrayFunctions(lua_State* L)
 {
     bindArrayAccess(L);
     bindArrayArithmetic(L);
-    bindArrayComparison(L);
-    bindArrayForms(L);
-    bindArrayOrder(L);
-    bindArrayReduction(L);
-    bindArraySlices(L);
+    bindLogicalOperators(L);
     bindRanges(L);
     lua_register(L, "array", guarded<createArray>);
     lua_register(L, "asarray", guarded<asArray>);

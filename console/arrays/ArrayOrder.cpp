@@ -1,7 +1,6 @@
 #include "arrays/ArrayOrder.hpp"
 
 #include "arrays/ArrayForms.hpp"
-#include "arrays/ArrayMethods.hpp"
 #include "arrays/ArrayOperands.hpp"
 #include "arrays/Dimension.hpp"
 #include "arrays/ElementBlocks.hpp"
@@ -11,7 +10,6 @@
 #include "handles/HostContext.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
-#include "lua/Table.hpp"
 
 #include "host_extensions/host_extensions.hpp"
 #include "host_extensions/numericClasses.hpp"
@@ -121,7 +119,19 @@ int arrange(lua_State* L)
     return 1;
 }
 
-int find(lua_State* L)
+} // namespace
+
+int sortArray(lua_State* L)
+{
+    return arrange<sorted>(L);
+}
+
+int orderArray(lua_State* L)
+{
+    return arrange<ordered>(L);
+}
+
+int findNonzero(lua_State* L)
 {
     ArrayStack::Frame frame(HostContext::of(L).arrays());
     hvArray_tag const* const array = checkHostArray(L, 1);
@@ -142,17 +152,6 @@ int find(lua_State* L)
         });
     pushHostArray(L, *positions);
     return 1;
-}
-
-} // namespace
-
-void bindArrayOrder(lua_State* L)
-{
-    pushArrayMethods(L);
-    setField(L, "sort", guarded<arrange<sorted>>);
-    setField(L, "order", guarded<arrange<ordered>>);
-    setField(L, "find", guarded<find>);
-    lua_pop(L, 1);
 }
 
 } // namespace velmara::console

@@ -4,11 +4,13 @@
 
 namespace velmara::console {
 
-/// Gives host arrays of numbers and logicals:
+/// Methods of arrays of numbers and logicals, to be guarded:
 ///
 /// - `sort([dimension] [, "descending"])`: their elements in order; NaN is last
 /// - `order([dimension] [, "descending"])`: the positions of the elements in that order, which keeps that of equal ones
 /// - `find()`: the positions of the elements that are not zero: a row of a row, else a column
-void bindArrayOrder(lua_State* L);
+int sortArray(lua_State* L);
+int orderArray(lua_State* L);
+int findNonzero(lua_State* L);
 
 } // namespace velmara::console

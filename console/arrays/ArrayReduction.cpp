@@ -1,6 +1,5 @@
 #include "arrays/ArrayReduction.hpp"
 
-#include "arrays/ArrayMethods.hpp"
 #include "arrays/ArrayOperands.hpp"
 #include "arrays/Dimension.hpp"
 #include "arrays/NewArray.hpp"
@@ -8,7 +7,6 @@
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "lua/ScriptError.hpp"
-#include "lua/Table.hpp"
 #include "values/ArrayElement.hpp"
 
 #include "host_extensions/host_extensions.hpp"
@@ -155,16 +153,34 @@ int reduce(lua_State* L)
 
 } // namespace
 
-void bindArrayReduction(lua_State* L)
+int sumArray(lua_State* L)
 {
-    pushArrayMethods(L);
-    setField(L, "sum", guarded<reduce<Sum>>);
-    setField(L, "mean", guarded<reduce<Mean>>);
-    setField(L, "min", guarded<reduce<Least>>);
-    setField(L, "max", guarded<reduce<Greatest>>);
-    setField(L, "any", guarded<reduce<Any>>);
-    setField(L, "all", guarded<reduce<All>>);
-    lua_pop(L, 1);
+    return reduce<Sum>(L);
+}
+
+int meanOfArray(lua_State* L)
+{
+    return reduce<Mean>(L);
+}
+
+int minOfArray(lua_State* L)
+{
+    return reduce<Least>(L);
+}
+
+int maxOfArray(lua_State* L)
+{
+    return reduce<Greatest>(L);
+}
+
+int isAnyNonzero(lua_State* L)
+{
+    return reduce<Any>(L);
+}
+
+int areAllNonzero(lua_State* L)
+{
+    return reduce<All>(L);
 }
 
 } // namespace velmara::console

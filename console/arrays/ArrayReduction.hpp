@@ -4,8 +4,8 @@
 
 namespace velmara::console {
 
-/// Gives host arrays of numbers and logicals the methods `sum`, `mean`, `min`, `max`, `any` and `all`. Of all elements
-/// they return one value; with the dimension 1 a row, of each column, with 2 a column, of each row.
+/// Methods of arrays of numbers and logicals, to be guarded: `sum`, `mean`, `min`, `max`, `any` and `all`. Of all
+/// elements they return one value; with the dimension 1 a row, of each column, with 2 a column, of each row.
 ///
 /// - `min` and `max` return where it is, too: its position among those elements, from 1 on. They pass over NaN.
 ///   Of no elements they return nil; an empty dimension stays empty.
@@ -14,6 +14,11 @@ namespace velmara::console {
 /// - NaN is not zero for `any` and `all`.
 ///
 /// See NumberReduction.hpp.
-void bindArrayReduction(lua_State* L);
+int sumArray(lua_State* L);
+int meanOfArray(lua_State* L);
+int minOfArray(lua_State* L);
+int maxOfArray(lua_State* L);
+int isAnyNonzero(lua_State* L);
+int areAllNonzero(lua_State* L);
 
 } // namespace velmara::console

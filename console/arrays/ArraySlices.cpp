@@ -2,12 +2,10 @@
 
 #include "arrays/ArrayConstruction.hpp"
 #include "arrays/ArrayIndex.hpp"
-#include "arrays/ArrayMethods.hpp"
 #include "arrays/ElementCopy.hpp"
 #include "arrays/NewArray.hpp"
 #include "handles/HostContext.hpp"
 #include "lua/ScriptError.hpp"
-#include "lua/Table.hpp"
 #include "values/ArrayElement.hpp"
 
 #include "libhv/libhv.hpp"
@@ -124,19 +122,19 @@ void storeSlice(lua_State* L, int value, int indices)
     });
 }
 
+} // namespace
+
 int callArray(lua_State* L)
 {
     return pushSlice(L, checkIndices(lua_gettop(L) - 1));
 }
 
-int set(lua_State* L)
+int setSlice(lua_State* L)
 {
     int const indices = checkIndices(lua_gettop(L) - 2);
     storeSlice(L, lua_gettop(L), indices);
     return 0;
 }
-
-} // namespace
 
 int readSlice(lua_State* L)
 {
@@ -147,16 +145,6 @@ int writeSlice(lua_State* L)
 {
     storeSlice(L, 3, 1);
     return 0;
-}
-
-void bindArraySlices(lua_State* L)
-{
-    pushArrayMetatable(L);
-    setField(L, "__call", guarded<callArray>);
-    lua_pop(L, 1);
-    pushArrayMethods(L);
-    setField(L, "set", guarded<set>);
-    lua_pop(L, 1);
 }
 
 } // namespace velmara::console
