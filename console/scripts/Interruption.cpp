@@ -157,6 +157,12 @@ bool InterruptibleRun::isInterrupted()
     return raisedCount > 0;
 }
 
+void interruptScript(lua_State* L)
+{
+    isRequested = 1;
+    interruptSoon(L);
+}
+
 Resumption::Resumption(lua_State* coroutine) : previous_(running)
 {
     if (running)

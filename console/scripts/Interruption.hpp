@@ -36,6 +36,9 @@ public:
     static bool isInterrupted();
 };
 
+/// Interrupts the script that runs in `L`, as Ctrl-C does.
+void interruptScript(lua_State* L);
+
 /// For its lifetime `resumer` waits for a coroutine, and Ctrl-C interrupts that.
 class Resumption {
 public:
