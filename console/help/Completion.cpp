@@ -175,7 +175,7 @@ std::vector<std::string> completions(lua_State* L, std::string_view text)
 std::vector<std::string> signaturesAt(lua_State* L, std::string_view text)
 {
     std::size_t const last = text.find_last_not_of(' ');
-    bool const isArgumentNext = last != text.npos && (text[last] == '(' || text[last] == ',');
+    bool const isArgumentNext = last != text.npos && (text[last] == '(' || text[last] == '{' || text[last] == ',');
     return isArgumentNext ? ask(L, guarded<findSignatures>, text) : Names();
 }
 

@@ -39,7 +39,7 @@ public:
 /// Interrupts the script that runs in `L`, as Ctrl-C does.
 void interruptScript(lua_State* L);
 
-/// For its lifetime `resumer` waits for a coroutine, and Ctrl-C interrupts that.
+/// For its lifetime the script waits for a coroutine of its own, and Ctrl-C interrupts that.
 class Resumption {
 public:
     explicit Resumption(lua_State* coroutine);
