@@ -1,6 +1,9 @@
 #include "arrays/ArrayAccess.hpp"
 
+#include "arrays/ArrayMethods.hpp"
+#include "arrays/ArraySlices.hpp"
 #include "arrays/ArrayText.hpp"
+#include "arrays/Shape.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
@@ -78,6 +81,15 @@ int next(lua_State* L)
 int readArray(lua_State* L)
 {
     hvArray_tag const* const array = checkHostArray(L, 1);
+    switch (lua_type(L, 2)) {
+    case LUA_TSTRING:
+        pushArrayMethod(L);
+        return 1;
+    case LUA_TUSERDATA:
+        return readSlice(L);
+    default:
+        break;
+    }
     if (auto const position = readPosition(L, *array))
         pushHeldElement(L, array, *position);
     else
@@ -87,10 +99,12 @@ int readArray(lua_State* L)
 
 int writeArray(lua_State* L)
 {
+    if (lua_type(L, 2) == LUA_TUSERDATA)
+        return writeSlice(L);
     hvArray_tag* const array = checkHostArray(L, 1);
     auto const position = readPosition(L, *array);
     if (!position)
-        fail("index", "the index lies outside the array: it keeps its size");
+        fail("index", "the index lies outside the array, which is " + shapeText(*array) + " and keeps its size");
     Conversion conversion;
     storeElement(L, 3, array, *position, conversion);
     return 0;
@@ -133,6 +147,7 @@ void bindArrayAccess(lua_State* L)
     pushArrayMetatable(L);
     setField(L, "__index", guarded<readArray>);
     setField(L, "__newindex", guarded<writeArray>);
+    setField(L, "__call", guarded<callArray>);
     setField(L, "__len", guarded<countElements>);
     setField(L, "__pairs", guarded<iterateArray>);
     setField(L, "__eq", guarded<compareArrays>);

@@ -44,6 +44,11 @@ constexpr auto knownClasses = [] {
 
 } // namespace
 
+ArrayClass arrayClassOf(hvArray_tag const& array)
+{
+    return {array._get_class_id_non_trivial(), className(&array)};
+}
+
 ArrayClass checkArrayClass(lua_State* L, int index)
 {
     std::string name(proxyName(L, index));

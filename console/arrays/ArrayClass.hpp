@@ -14,6 +14,8 @@ struct ArrayClass {
     std::string name;
 };
 
+ArrayClass arrayClassOf(hvArray_tag const& array);
+
 /// The class at `index`, given by its name or as a published class itself. Throws an `Error` that lists the names for
 /// anything else.
 ArrayClass checkArrayClass(lua_State* L, int index);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "arrays/ArrayClass.hpp"
+#include "arrays/ElementSource.hpp"
 #include "lua/LuaApi.hpp"
 
 namespace velmara::console {
@@ -12,7 +14,13 @@ namespace velmara::console {
 ///   always a row, of any values
 /// - with rows and columns: the values in column order, as many as there is room for; or one value for all elements
 ///
-/// Every value must fit the class exactly. See ArrayElement.hpp.
+/// Without a class, a table or array has the one that it has for the host. Every value must fit the class exactly. See
+/// ArrayElement.hpp.
 int createArray(lua_State* L);
+
+/// A new array of that class and shape with the values of a source: as many, or one for all elements. `frame` owns it.
+/// May run finalizers of the script.
+hvArray_tag* createFrom(lua_State* L, ArrayClass const& arrayClass, ElementSource const& source, Shape shape,
+                        ArrayStack::Frame& frame);
 
 } // namespace velmara::console

@@ -1,7 +1,10 @@
 #include "arrays/ArrayFunctions.hpp"
 
 #include "arrays/ArrayAccess.hpp"
+#include "arrays/ArrayArithmetic.hpp"
+#include "arrays/ArrayComparison.hpp"
 #include "arrays/ArrayConstruction.hpp"
+#include "arrays/Ranges.hpp"
 #include "bindings/ClassMembers.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
@@ -88,6 +91,9 @@ int asArray(lua_State* L)
 void bindArrayFunctions(lua_State* L)
 {
     bindArrayAccess(L);
+    bindArrayArithmetic(L);
+    bindLogicalOperators(L);
+    bindRanges(L);
     lua_register(L, "array", guarded<createArray>);
     lua_register(L, "asarray", guarded<asArray>);
     lua_register(L, "tolua", guarded<toLua>);

@@ -1,5 +1,6 @@
 #include "arrays/ArrayText.hpp"
 
+#include "arrays/Shape.hpp"
 #include "handles/HostContext.hpp"
 #include "text/DisplayWidth.hpp"
 #include "values/HostText.hpp"
@@ -12,6 +13,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstring>
+#include <utility>
 #include <vector>
 
 namespace velmara::console {
@@ -22,15 +25,41 @@ using orbis::host_extensions::findNumericClass;
 using orbis::host_extensions::visitNumericClass;
 
 constexpr std::size_t maxRows = 10;
-constexpr std::size_t maxColumns = 20;
-constexpr std::size_t maxWidth = 74;
+constexpr std::size_t lastRows = 3; ///< of them, when there are more rows
+constexpr std::size_t maxWidth = 80;
 constexpr std::size_t maxCharacters = 24; ///< of one element's text
+constexpr char const* gap = "  ...";
 
 std::string sizeAndClass(hvArray_tag const& array)
 {
-    std::size_t const* const sizes = array.get_dimensions();
-    return std::to_string(sizes[0]) + "-by-" + std::to_string(sizes[1]) + ' ' + className(&array);
+    return shapeText(array) + ' ' + className(&array);
 }
+
+/// The rows that are shown: all, or the first and the last ones.
+class ShownRows {
+public:
+    explicit ShownRows(std::size_t rows) : rows_(rows), first_(rows <= maxRows ? rows : maxRows - lastRows) {}
+
+    std::size_t count() const { return std::min(rows_, maxRows); }
+    std::size_t operator[](std::size_t i) const { return i < first_ ? i : rows_ - count() + i; }
+
+    /// Calls `line(i)` for each of them, and returns the lines, with a gap where rows are left out.
+    template <class Line>
+    std::string lines(Line const& line) const
+    {
+        std::string text;
+        for (std::size_t i = 0; i < count(); ++i) {
+            if (i == first_)
+                text.append("\n").append(gap);
+            text += '\n' + line(i);
+        }
+        return text;
+    }
+
+private:
+    std::size_t rows_;
+    std::size_t first_;
+};
 
 /// Writes infinities and NaN itself: the C libraries differ in that.
 template <class T>
@@ -103,62 +132,86 @@ std::string elementText(hvArray_tag const& array, std::size_t index)
     }
 }
 
-/// One column of texts: numbers aligned right, all else left.
+/// One column of texts: numbers aligned at the point, all else left.
 class Column {
 public:
-    Column(hvArray_tag const& array, std::size_t column, std::size_t shownRows)
+    Column(hvArray_tag const& array, std::size_t column, ShownRows const& rows)
         : isNumeric_(findNumericClass(array._get_class_id_non_trivial()) != nullptr)
     {
-        for (std::size_t row = 0; row < shownRows; ++row) {
-            texts_.push_back(elementText(array, column * array.get_dimensions()[0] + row));
-            width_ = std::max(width_, displayWidth(texts_.back()));
+        for (std::size_t i = 0; i < rows.count(); ++i) {
+            texts_.push_back(elementText(array, column * array.get_dimensions()[0] + rows[i]));
+            std::size_t const tail = tailWidth(texts_.back());
+            tailWidth_ = std::max(tailWidth_, tail);
+            headWidth_ = std::max(headWidth_, displayWidth(texts_.back()) - tail);
         }
     }
 
-    /// With the gap before it.
-    std::size_t width() const { return width_ + 2; }
+    /// With the blanks before it.
+    std::size_t width() const { return 2 + headWidth_ + tailWidth_; }
 
-    std::string padded(std::size_t row) const
+    std::string padded(std::size_t i) const
     {
-        std::string const blanks(width_ - displayWidth(texts_[row]), ' ');
-        return isNumeric_ ? "  " + blanks + texts_[row] : "  " + texts_[row] + blanks;
+        std::size_t const tail = tailWidth(texts_[i]);
+        std::string const before(headWidth_ - (displayWidth(texts_[i]) - tail), ' ');
+        std::string const after(tailWidth_ - tail, ' ');
+        return "  " + (isNumeric_ ? before + texts_[i] : texts_[i] + before) + after;
     }
 
 private:
+    /// The width of a number's text from the point on.
+    std::size_t tailWidth(std::string const& text) const
+    {
+        return isNumeric_ ? text.size() - std::min(text.find('.'), text.size()) : 0;
+    }
+
     bool isNumeric_;
     std::vector<std::string> texts_;
-    std::size_t width_ = 0;
+    std::size_t headWidth_ = 0;
+    std::size_t tailWidth_ = 0;
+};
+
+/// The columns that fit the width: the first, and of the last ones half as many.
+struct ShownColumns {
+    std::vector<Column> first;
+    std::vector<Column> last; ///< the last one first
+    bool areAll = true;
+
+    ShownColumns(hvArray_tag const& array, ShownRows const& rows)
+    {
+        std::size_t const columns = array.get_dimensions()[1];
+        for (std::size_t shown = 0, width = 0; shown < columns; ++shown) {
+            bool const isLast = first.size() > 2 * last.size();
+            Column column(array, isLast ? columns - 1 - last.size() : first.size(), rows);
+            width += column.width();
+            areAll = width + (shown + 1 == columns ? 0 : std::strlen(gap)) <= maxWidth;
+            if (!areAll)
+                return;
+            (isLast ? last : first).push_back(std::move(column));
+        }
+    }
 };
 
 std::string tableText(hvArray_tag const& array)
 {
-    std::size_t const* const sizes = array.get_dimensions();
-    std::size_t const rows = std::min(sizes[0], maxRows);
-    std::vector<Column> columns;
-    for (std::size_t width = 0; columns.size() < std::min(sizes[1], maxColumns);) {
-        Column const next(array, columns.size(), rows);
-        width += next.width();
-        if (width > maxWidth)
-            break;
-        columns.push_back(next);
-    }
-    std::string text;
-    for (std::size_t row = 0; row < rows; ++row) {
-        std::string line = "\n";
-        for (Column const& column : columns)
-            line += column.padded(row);
+    ShownRows const rows(array.get_dimensions()[0]);
+    ShownColumns const columns(array, rows);
+    return rows.lines([&](std::size_t i) {
+        std::string line;
+        for (Column const& column : columns.first)
+            line += column.padded(i);
+        if (!columns.areAll)
+            line += gap;
+        for (auto column = columns.last.rbegin(); column != columns.last.rend(); ++column)
+            line += column->padded(i);
         line.resize(line.find_last_not_of(' ') + 1);
-        text += line + (columns.size() < sizes[1] ? "  ..." : "");
-    }
-    return text + (sizes[0] > maxRows ? "\n  ..." : "");
+        return line;
+    });
 }
 
 std::string charactersText(hvArray_tag const& array)
 {
-    std::string text;
-    for (std::size_t row = 0; row < std::min(array.get_dimensions()[0], maxRows); ++row)
-        text += "\n  " + quotedText(rowOf(array, row));
-    return text + (array.get_dimensions()[0] > maxRows ? "\n  ..." : "");
+    ShownRows const rows(array.get_dimensions()[0]);
+    return rows.lines([&](std::size_t i) { return "  " + quotedText(rowOf(array, rows[i])); });
 }
 
 /// The text of a single element or one row of characters; empty for other arrays.

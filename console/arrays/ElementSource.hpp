@@ -1,19 +1,14 @@
 #pragma once
 
+#include "arrays/Shape.hpp"
 #include "handles/ArrayStack.hpp"
 #include "lua/LuaApi.hpp"
 
 #include "libhv/hvArray.hpp"
 
 #include <cstddef>
-#include <string>
 
 namespace velmara::console {
-
-struct Shape {
-    std::size_t rows = 0;
-    std::size_t columns = 0;
-};
 
 /// The values for the elements of a new array, all in one value of the script. See ArrayConstruction.hpp.
 class ElementSource {
@@ -23,7 +18,7 @@ public:
     ElementSource(lua_State* L, int index, hvClassID classID, ArrayStack::Frame& frame);
 
     Shape shape() const { return shape_; }
-    std::size_t count() const { return shape_.rows * shape_.columns; }
+    std::size_t count() const { return shape_.count(); }
 
     /// True for one value outside a table: it can fill an array of any size.
     bool isSingle() const { return kind_ == Kind::Single; }

@@ -55,11 +55,21 @@ Tables must be sequences (keys 1 to n) or have texts for all keys, nested at
 most 200 deep, a million in all. Each ill-formed part of a text becomes U+FFFD.
 
 Arrays of the host are values of their own, of every class and size:
+  array(values)                      of the class that the host makes of a table
   array(class, values)               of exactly that class, or an error
   array(class, values, m, n)         m-by-n: the values in column order, or one
                                      value for all elements
   a[k]  a[{i, j}]  #a                element k in column order, or of row i and
                                      column j; can be set; how many there are
+  a(i, j)  a(k)  a:set(i, j, values) parts: numbers, lists of them or of truth
+                                     values, nil for all; a[array] likewise
+  a + b  - * / // % ^  -a            element by element; an array, a table or a
+                                     number beside it; one row, column repeated
+  a:eq(b)  ne lt le gt ge   & | ~    likewise, to true and false
+  a:sum()  mean min max any all      of all; (1) of each column, (2) of each row
+  a:sort()  order  find              likewise; where the first, the non-zero are
+  a:reshape(m, n)  a:transpose()     the same elements in another form
+  range(1, 10, 2)  linspace(0, 1, 5) a row: by steps of 2; 5 numbers
   ipairs(a)  a == b  tostring(a)     equal: class, size and every element
   size(x)  class(x)                  of any value, as the host sees it
   tolua(a)                           all of it as tables, strings, numbers

@@ -1,9 +1,11 @@
 #include "help/HelpFunctions.hpp"
 
 #include "bindings/MemberRecords.hpp"
+#include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/ValueText.hpp"
 #include "help/Apropos.hpp"
+#include "help/ArrayHelp.hpp"
 #include "help/ConsoleFunctions.hpp"
 #include "help/Enumerations.hpp"
 #include "help/GeneralHelp.hpp"
@@ -161,6 +163,10 @@ int printList(lua_State* L, std::string (*ofClass)(ClassRecord const&), std::str
 
 int methods(lua_State* L)
 {
+    if (isHostArray(L, 1)) {
+        printPaged(L, arrayMethodsText());
+        return 0;
+    }
     return printList(L, methodsText, functionsText);
 }
 
