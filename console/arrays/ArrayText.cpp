@@ -30,11 +30,6 @@ constexpr std::size_t maxWidth = 80;
 constexpr std::size_t maxCharacters = 24; ///< of one element's text
 constexpr char const* gap = "  ...";
 
-std::string sizeAndClass(hvArray_tag const& array)
-{
-    return shapeText(array) + ' ' + className(&array);
-}
-
 /// The rows that are shown: all, or the first and the last ones.
 class ShownRows {
 public:
@@ -88,12 +83,6 @@ std::string numberText(hvArray_tag const& array, std::size_t index, int digits)
     });
 }
 
-std::string quotedText(std::u16string_view text)
-{
-    bool const isLong = text.size() > maxCharacters;
-    return '"' + toUtf8(text.substr(0, maxCharacters)) + (isLong ? "...\"" : "\"");
-}
-
 std::string elementText(hvArray_tag const& array, std::size_t index);
 
 std::string cellText(hvArray_tag const* cell)
@@ -102,7 +91,7 @@ std::string cellText(hvArray_tag const* cell)
         return "null";
     hvClassID const classID = cell->_get_class_id_non_trivial();
     if (classID == hvCHAR_CLASS && cell->get_dimensions()[0] == 1)
-        return quotedText(rowOf(*cell, 0));
+        return quoteText(rowOf(*cell, 0), maxCharacters);
     bool const isNumber = findNumericClass(classID) && cell->get_number_of_elements() == 1;
     return isNumber ? elementText(*cell, 0) : sizeAndClass(*cell);
 }
@@ -121,7 +110,7 @@ std::string elementText(hvArray_tag const& array, std::size_t index)
     switch (array._get_class_id_non_trivial()) {
     case hvSTRING_CLASS:
         if (auto const text = stringAt(array, index))
-            return quotedText(*text);
+            return quoteText(*text, maxCharacters);
         return "missing";
     case hvCELL_CLASS:
         return cellText(orbis::host_extensions::getCell(&array, index));
@@ -211,7 +200,7 @@ std::string tableText(hvArray_tag const& array)
 std::string charactersText(hvArray_tag const& array)
 {
     ShownRows const rows(array.get_dimensions()[0]);
-    return rows.lines([&](std::size_t i) { return "  " + quotedText(rowOf(array, rows[i])); });
+    return rows.lines([&](std::size_t i) { return "  " + quoteText(rowOf(array, rows[i]), maxCharacters); });
 }
 
 /// The text of a single element or one row of characters; empty for other arrays.
@@ -229,6 +218,11 @@ std::string plainText(hvArray_tag const& array)
 }
 
 } // namespace
+
+std::string sizeAndClass(hvArray_tag const& array)
+{
+    return shapeText(array) + ' ' + className(&array);
+}
 
 std::string arrayText(lua_State* L, hvArray_tag const& array)
 {

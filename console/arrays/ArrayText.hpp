@@ -8,6 +8,9 @@
 
 namespace velmara::console {
 
+/// "3x4 double".
+std::string sizeAndClass(hvArray_tag const& array);
+
 /// The result of `tostring` for a host array: a single number, text or logical itself; else size and class, as in
 /// "3x4 double", followed by the first and last rows and columns, aligned, as many as fit the screen. Runs no code of
 /// the script.

@@ -106,13 +106,12 @@ void HostInspector::showArray(Place const& place, hvArray_tag* array)
         return showRows(place, array);
     if (classID == hvCHAR_CLASS && count > 0 && array->get_dimensions()[0] == 1) {
         std::size_t const columns = page_.columnsAfter(place.indent + displayWidth(place.label) + 2);
-        std::string const text = toUtf8(rowOf(*array, 0).substr(0, columns + 1));
-        return page_.add(place.indent, place.label + quoteText(text, columns));
+        return page_.add(place.indent, place.label + quoteText(rowOf(*array, 0), columns));
     }
     if (classID == hvCELL_CLASS && count > 0)
         return showCells(place, array);
     std::string const text = summary(L_, array);
-    if (!array || text != sizeAndClass(array))
+    if (!array || text != sizeAndClass(*array))
         return page_.add(place.indent, place.label + text);
     std::string const rows = arrayText(L_, *array);
     showText(place, text + (rows.find('\n') == rows.npos ? "" : rows.substr(rows.find('\n'))), 0);
@@ -174,7 +173,7 @@ void HostInspector::showCells(Place const& place, hvArray_tag const* cells)
 {
     std::size_t const all = cells->get_number_of_elements();
     bool const isDeep = place.depth >= maxShownDepth;
-    page_.add(place.indent, place.label + sizeAndClass(cells) + (isDeep ? " ..." : ""));
+    page_.add(place.indent, place.label + sizeAndClass(*cells) + (isDeep ? " ..." : ""));
     if (isDeep)
         return;
     std::size_t const rows = cells->get_dimensions()[0];
@@ -197,7 +196,7 @@ void HostInspector::showCells(Place const& place, hvArray_tag const* cells)
 /// Names of objects without properties, such as enumerators, in one line.
 void HostInspector::showNames(Place const& place, hvArray_tag const* objects)
 {
-    std::string line = place.label + sizeAndClass(objects);
+    std::string line = place.label + sizeAndClass(*objects);
     std::size_t const columns = page_.columnsAfter(place.indent);
     std::size_t const count = objects->get_number_of_elements();
     for (std::size_t i = 0; i < count && displayWidth(line) <= columns; ++i) {
@@ -215,7 +214,7 @@ void HostInspector::showRows(Place const& place, hvArray_tag const* objects)
     auto const properties = hasProperties ? visibleProperties(*cls, isOfObject) : Properties();
     if (properties.empty())
         return showNames(place, objects);
-    page_.add(place.indent, place.label + sizeAndClass(objects));
+    page_.add(place.indent, place.label + sizeAndClass(*objects));
     AlignedTable::Row headings{"#"};
     for (PropertyRecord const* property : properties)
         headings.push_back(property->name);

@@ -28,7 +28,4 @@ std::optional<ClassRecord> publishedClass(lua_State* L, hvArray_tag const* objec
 /// The text that the author of the class gives the object, in one line; empty for none.
 std::string authorsText(lua_State* L, hvArray_tag* object, ClassRecord const& cls);
 
-/// "3x4 double".
-std::string sizeAndClass(hvArray_tag const* array);
-
 } // namespace velmara::console

@@ -1,5 +1,7 @@
 #include "values/HostText.hpp"
 
+#include "text/CutText.hpp"
+
 #include "host_extensions/host_extensions.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 #include "string_matrix/string_matrix.hpp"
@@ -9,6 +11,12 @@ namespace velmara::console {
 std::string toUtf8(std::u16string_view text)
 {
     return fl::i18n::to_string(std::u16string(text));
+}
+
+std::string quoteText(std::u16string_view text, std::size_t width)
+{
+    constexpr std::size_t maxUnits = 2; // of one character
+    return quoteText(toUtf8(text.substr(0, (width + 1) * maxUnits)), width);
 }
 
 std::u16string hostTextAt(lua_State* L, int index)
