@@ -24,6 +24,7 @@ print(pcall(members, 5))
 enumeration("palette.Color", {"Red", "Green"})
 help(cases.hue)
 show(members(p), members(callbacks)[1], members(palette.Color))
+show(members(orbis_factory.Week)[2].parameters, members(p)[2].parameters)
 p.value = "held"
 for name, value in pairs(p) do print(name, value) end
 for name, member in pairs(cases.Probe) do io.write(name, " ", member.kind, "; ") end
