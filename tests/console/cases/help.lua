@@ -13,9 +13,10 @@ properties(cases)
 for _, value in ipairs {5, {1, 2}, {[{}] = 1}, array{1}.sum, print, function(a, b, ...) end, null} do help(value) end
 help(show)
 help("members")
-help("string.format")
+probes = {first = p}
+for _, name in ipairs {"string.format", "probes.first.pair"} do help(name) end
 help(select(2, pcall(help, "cases.Prob")))
-for _, name in ipairs {"cases.Prob", "cases.Probe.vaule", "Probee", "hepl", "echo", "x.y"} do print(pcall(help, name)) end
+for _, name in ipairs {"cases.Prob", "cases.Probe.vaule", "Probee", "hepl", "echo", "x.y", "probes.first.pear"} do print(pcall(help, name)) end
 print(pcall(help, nil))
 print(pcall(methods, "cases.nosuch"))
 print(pcall(members, 5))
