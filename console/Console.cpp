@@ -13,6 +13,8 @@
 #include "scripts/ErrorReport.hpp"
 #include "scripts/ScriptLibraries.hpp"
 #include "scripts/ScriptRunner.hpp"
+#include "show/ObjectText.hpp"
+#include "show/ShowFunction.hpp"
 #include "values/ErrorFields.hpp"
 
 #include <cstdio>
@@ -42,6 +44,8 @@ void prepare(lua_State* L, Run const& run)
     bindObjectMembers(L);
     bindErrorFields(L);
     bindObjectFunctions(L);
+    bindObjectText(L);
+    bindShowFunction(L);
     bindEnumerationFunction(L);
     bindHelpFunctions(L);
     bindPublishedNames(L);

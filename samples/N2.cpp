@@ -19,8 +19,10 @@ void N2Wrapper::initializeClass(COSClass* cls)
 {
     publish(cls, describe<N2>()
                      .staticMethod("gearbox", &N2::gearbox)
-                     .property("gear", &N2::gear, &N2::setGear)
-                     .property("gears", &N2::gears));
+                     .property("gear", &N2::gear, &N2::setGear,
+                               "A vehicle.Gear. Scripts define it first: enumeration(\"vehicle.Gear\", {\"Reverse\", "
+                               "\"Neutral\", \"First\", \"Second\"})")
+                     .property("gears", &N2::gears, "All gears of the box"));
 }
 
 } // namespace orbis::factory::samples

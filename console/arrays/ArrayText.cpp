@@ -30,11 +30,6 @@ constexpr std::size_t maxWidth = 80;
 constexpr std::size_t maxCharacters = 24; ///< of one element's text
 constexpr char const* gap = "  ...";
 
-std::string sizeAndClass(hvArray_tag const& array)
-{
-    return shapeText(array) + ' ' + className(&array);
-}
-
 /// The rows that are shown: all, or the first and the last ones.
 class ShownRows {
 public:
@@ -104,7 +99,7 @@ std::string cellText(hvArray_tag const* cell)
     if (classID == hvCHAR_CLASS && cell->get_dimensions()[0] == 1)
         return quotedText(rowOf(*cell, 0));
     bool const isNumber = findNumericClass(classID) && cell->get_number_of_elements() == 1;
-    return isNumber ? elementText(*cell, 0) : sizeAndClass(*cell);
+    return isNumber ? elementText(*cell, 0) : sizeAndClass(cell);
 }
 
 std::string objectText(hvArray_tag const& array, std::size_t index)
@@ -230,6 +225,11 @@ std::string plainText(hvArray_tag const& array)
 
 } // namespace
 
+std::string sizeAndClass(hvArray_tag const* array)
+{
+    return shapeText(*array) + ' ' + className(array);
+}
+
 std::string arrayText(lua_State* L, hvArray_tag const& array)
 {
     Hvm::Scope const scope(HostContext::of(L).hvm());
@@ -238,8 +238,8 @@ std::string arrayText(lua_State* L, hvArray_tag const& array)
     if (std::string text = plainText(array); !text.empty() || (isText && array.get_number_of_elements() == 1))
         return text;
     if (array.get_number_of_elements() == 0 || classID == orbis::host_extensions::functionClass)
-        return sizeAndClass(array);
-    return sizeAndClass(array) + (classID == hvCHAR_CLASS ? charactersText(array) : tableText(array));
+        return sizeAndClass(&array);
+    return sizeAndClass(&array) + (classID == hvCHAR_CLASS ? charactersText(array) : tableText(array));
 }
 
 } // namespace velmara::console

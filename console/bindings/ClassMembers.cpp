@@ -1,5 +1,6 @@
 #include "bindings/ClassMembers.hpp"
 
+#include "bindings/MemberRecords.hpp"
 #include "handles/HostObject.hpp"
 #include "handles/PublishedAnswers.hpp"
 #include "lua/CachedValue.hpp"
@@ -92,16 +93,7 @@ void pushCallable(lua_State* L, std::string_view cls, std::string_view name, boo
 
 [[noreturn]] void failUnknown(ClassRecord const& cls, std::string_view name)
 {
-    std::vector<std::string> known;
-    for (MethodRecord const& method : cls.methods)
-        if (method.isVisible && method.kind != MethodRecord::Kind::Constructor)
-            known.push_back(method.name);
-    for (PropertyRecord const& property : cls.properties)
-        if (property.isVisible)
-            known.push_back(property.name);
-    for (EnumeratorRecord const& enumerator : cls.enumerators)
-        known.push_back(enumerator.name);
-    fail("unknownMember", cls.name + " has no member '" + std::string(name) + "'" + didYouMean(name, known));
+    fail("unknownMember", cls.name + " has no member '" + std::string(name) + "'" + didYouMean(name, memberNames(cls)));
 }
 
 /// Pushes what is cached of the member: the function of a callable one, the kind of another.

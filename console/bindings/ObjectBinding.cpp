@@ -1,6 +1,7 @@
 #include "bindings/ObjectBinding.hpp"
 
 #include "bindings/ClassMembers.hpp"
+#include "bindings/MemberIteration.hpp"
 #include "bindings/Operators.hpp"
 #include "handles/HostObject.hpp"
 #include "handles/PublishedAnswers.hpp"
@@ -90,6 +91,7 @@ int addMembers(lua_State* L)
     lua_pushcclosure(L, guarded<writeMember>, 1);
     lua_setfield(L, 1, "__newindex");
     lua_settop(L, 1);
+    setField(L, "__pairs", guarded<iterateProperties>);
     addOperators(L, fieldText(L, 1, "__name"));
     return 0;
 }

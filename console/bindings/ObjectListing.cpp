@@ -5,7 +5,7 @@
 #include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
-#include "text/DisplayWidth.hpp"
+#include "text/AlignedTable.hpp"
 #include "values/HostCall.hpp"
 
 #include <algorithm>
@@ -18,7 +18,6 @@ namespace velmara::console {
 namespace {
 
 constexpr std::size_t columnCount = 7;
-using Line = std::array<std::string, columnCount>;
 
 /// The fields of a record, which are also the headings of the list.
 constexpr std::array<char const*, columnCount> fields = {"class",    "owner", "valid", "external",
@@ -37,9 +36,9 @@ void pushRecord(lua_State* L, ObjectRecord const& object)
 }
 
 /// The fields of the record on top. A script may have changed it: what is no text shows as "yes" or "no".
-Line lineOf(lua_State* L)
+AlignedTable::Row lineOf(lua_State* L)
 {
-    Line line;
+    AlignedTable::Row line(columnCount);
     if (lua_istable(L, -1))
         std::ranges::transform(fields, line.begin(), [L](char const* field) {
             lua_pushstring(L, field);
@@ -52,32 +51,19 @@ Line lineOf(lua_State* L)
     return line;
 }
 
-std::string aligned(std::vector<Line> const& lines)
-{
-    std::array<std::size_t, columnCount> widths{};
-    for (Line const& line : lines)
-        for (std::size_t i = 0; i < columnCount; ++i)
-            widths[i] = std::max(widths[i], displayWidth(line[i]));
-    std::string text;
-    for (Line const& line : lines) {
-        std::string row = text.empty() ? "" : "\n";
-        for (std::size_t i = 0; i < columnCount; ++i)
-            row += line[i] + std::string(widths[i] - displayWidth(line[i]) + 2, ' ');
-        row.resize(row.find_last_not_of(' ') + 1);
-        text += row;
-    }
-    return text;
-}
-
 int listingText(lua_State* L)
 {
     luaL_checktype(L, 1, LUA_TTABLE);
     luaL_checkstack(L, 4, nullptr);
-    std::vector<Line> lines(1);
-    std::ranges::copy(fields, lines.front().begin());
-    for (lua_Integer i = 1; lua_rawgeti(L, 1, i) != LUA_TNIL; ++i, lua_pop(L, 1))
-        lines.push_back(lineOf(L));
-    pushText(L, lines.size() == 1 ? "no objects" : aligned(lines));
+    AlignedTable table(AlignedTable::Row(fields.begin(), fields.end()));
+    lua_Integer count = 0;
+    for (; lua_rawgeti(L, 1, count + 1) != LUA_TNIL; ++count, lua_pop(L, 1))
+        table.add(lineOf(L));
+    std::string text = count == 0 ? "no objects" : "";
+    if (count > 0)
+        for (std::string const& line : table.lines())
+            text += (text.empty() ? "" : "\n") + line;
+    pushText(L, text);
     return 1;
 }
 

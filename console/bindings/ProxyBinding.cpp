@@ -1,6 +1,7 @@
 #include "bindings/ProxyBinding.hpp"
 
 #include "bindings/ClassMembers.hpp"
+#include "bindings/MemberIteration.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
 #include "handles/PublishedAnswers.hpp"
@@ -180,10 +181,12 @@ int showProxy(lua_State* L)
     return 1;
 }
 
-/// `pairs(package)`: its contents by name; for an enumeration its enumerators.
+/// `pairs(package)`: its contents by name; of an enumeration its enumerators, of another class its members.
 int iterateProxy(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
+    if (checkKind(L) == NameKind::Class && !HostContext::of(L).hvm().describeClass(name).isEnumeration)
+        return iterateMembers(L);
     lua_getglobal(L, "next");
     lua_newtable(L);
     if (checkKind(L) == NameKind::Class)

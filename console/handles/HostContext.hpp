@@ -72,6 +72,10 @@ public:
     /// Set for the next call: its result stays an array of the host.
     bool& keepsNextArray() { return keepsNextArray_; }
 
+    /// True while native code runs that was asked for a value to be shown. What it calls shows objects without their
+    /// properties: a getter could show its own object over and over.
+    bool& isShowing() { return isShowing_; }
+
     /// Puts a fresh virtual machine with the same modules into use, for its own lifetime.
     class FreshMachine {
     public:
@@ -117,6 +121,7 @@ private:
     bool isClosing_ = false;
     bool reportsLeaks_;
     bool keepsNextArray_ = false;
+    bool isShowing_ = false;
 };
 
 } // namespace velmara::console

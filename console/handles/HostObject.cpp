@@ -20,6 +20,7 @@ namespace velmara::console {
 namespace {
 
 char const completionKey = 0; // its address is the key of what completes metatables in the registry
+char const descriptionKey = 0; // likewise, of what describes objects
 char const objectMark = 0;    // its address tells objects from other values
 
 /// The value of an object. No other userdata has this size and begins with the mark.
@@ -106,8 +107,13 @@ int objectText(lua_State* L)
         pushText(L, name);
         return 1;
     }
-    char const* state = isValidObject(L, 1) ? "" : "invalid ";
-    pushText(L, state + std::string(objectClass(L, 1)) + " object");
+    bool const isAlive = isValidObject(L, 1);
+    if (isAlive && lua_rawgetp(L, LUA_REGISTRYINDEX, &descriptionKey) == LUA_TFUNCTION) {
+        lua_pushvalue(L, 1);
+        lua_call(L, 1, 1);
+        return 1;
+    }
+    pushText(L, (isAlive ? "" : "invalid ") + std::string(objectClass(L, 1)) + " object");
     return 1;
 }
 
@@ -185,6 +191,12 @@ void completeMetatablesWith(lua_State* L, lua_CFunction complete)
 {
     lua_pushcfunction(L, complete);
     lua_rawsetp(L, LUA_REGISTRYINDEX, &completionKey);
+}
+
+void describeObjectsWith(lua_State* L, lua_CFunction describe)
+{
+    lua_pushcfunction(L, describe);
+    lua_rawsetp(L, LUA_REGISTRYINDEX, &descriptionKey);
 }
 
 bool isObject(lua_State* L, int index)

@@ -20,6 +20,10 @@ void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index);
 /// gives the class's objects their members. See ObjectBinding.hpp.
 void completeMetatablesWith(lua_State* L, lua_CFunction complete);
 
+/// Has `describe` called for the text of an object that is valid and no enumerator: it is given the object, and returns
+/// the text. Without it that is "CLASS object".
+void describeObjectsWith(lua_State* L, lua_CFunction describe);
+
 bool isObject(lua_State* L, int index);
 
 /// The array of the object at `index`; it stays the script's. Throws an `Error` when there is no object, or when it

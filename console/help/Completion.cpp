@@ -1,6 +1,8 @@
 #include "help/Completion.hpp"
 
+#include "arrays/ArrayMethods.hpp"
 #include "bindings/ProxyBinding.hpp"
+#include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"
@@ -89,6 +91,8 @@ Names membersOf(lua_State* L, char separator)
         addPublished(L, name, names);
     else if (lua_istable(L, -1))
         addKeys(L, lua_gettop(L), names);
+    else if (isHostArray(L, -1))
+        std::ranges::transform(arrayMethods(), std::back_inserter(names), &ArrayMethod::name);
     return names;
 }
 

@@ -16,7 +16,13 @@ char const* const generalHelp = R"(velmara runs Lua 5.4 scripts that use the cla
   copy(a)                     another object with the same value
   local a <close> = ...       give the object back at the end of the block
 
-  help(x) methods(x) properties(x)   on a package, a class, an object, a name
+  help(x) methods(x) properties(x)   on a package, a class, an object, a name;
+                                     help on any function and value, too
+  members(x)                         the same as data: a table for each member
+  pairs(x)                           names and values of an object's properties;
+                                     of a package and of a class its members
+  apropos("text")                    all that has the text in name or description
+  show(x)                            x with all that it holds, on one screen
   class(x) isvalid(x) delete(x)      the class of x; is it alive; end it now
   objects()                          all live objects: owners, references
   references(x)                      what the properties of x refer to

@@ -1,13 +1,18 @@
 #include "help/HelpFunctions.hpp"
 
-#include "bindings/ClassMembers.hpp"
+#include "bindings/MemberRecords.hpp"
 #include "handles/HostContext.hpp"
-#include "handles/HostObject.hpp"
-#include "handles/Proxy.hpp"
 #include "handles/ValueText.hpp"
+#include "help/Apropos.hpp"
+#include "help/ConsoleFunctions.hpp"
+#include "help/Enumerations.hpp"
 #include "help/GeneralHelp.hpp"
 #include "help/HelpText.hpp"
+#include "help/Overview.hpp"
+#include "help/Subject.hpp"
+#include "help/ValueHelp.hpp"
 #include "lua/ScriptError.hpp"
+#include "text/Paragraph.hpp"
 
 #include <cstdio>
 #include <string>
@@ -16,26 +21,19 @@ namespace velmara::console {
 
 namespace {
 
+/// The name of a package, a class, or an object's class, which the value at 1 has or means.
+std::string checkSubject(lua_State* L)
+{
+    std::string name = subjectOf(L, 1);
+    if (name.empty())
+        fail("noHelp", "there is no help on " + kindAt(L, 1) +
+                           ": ask for a package, a class, an object, or the name of one in quotes");
+    return name;
+}
+
 void print(std::string const& text)
 {
     std::fwrite(text.data(), 1, text.size(), stdout);
-}
-
-/// The dotted name of the value at 1: of a package, a class, an object's class or a function; a string is a name
-/// itself.
-std::string subject(lua_State* L)
-{
-    std::string name;
-    if (isObject(L, 1))
-        name = objectClass(L, 1);
-    else if (lua_type(L, 1) == LUA_TSTRING)
-        name = textAt(L, 1);
-    else if (name = proxyName(L, 1); name.empty())
-        name = calledName(L, 1);
-    if (name.empty())
-        fail("noHelp", "there is no help on " + kindAt(L, 1) +
-                           ": ask for a package, a class, an object, a method, or a name in quotes");
-    return name;
 }
 
 /// Help on "CLASS.MEMBER" or "PACKAGE.FUNCTION"; empty when there is no such thing.
@@ -44,33 +42,101 @@ std::string memberHelp(Hvm& hvm, std::string const& name)
     std::size_t const dot = name.rfind('.');
     std::string const owner = dot == name.npos ? std::string() : name.substr(0, dot);
     std::string const member = name.substr(dot + 1); // the whole name when there is no dot
-    if (hvm.lookUp(name) == NameKind::Function)
-        return helpText(hvm.describePackage(owner), member);
-    return hvm.lookUp(owner) == NameKind::Class ? helpText(hvm.describeClass(owner), member) : std::string();
+    if (hvm.lookUp(name) == NameKind::Function) {
+        PackageRecord const package = hvm.describePackage(owner);
+        return helpText(package, member) + enumerationsText(hvm, package, member);
+    }
+    if (hvm.lookUp(owner) != NameKind::Class)
+        return {};
+    ClassRecord const cls = hvm.describeClass(owner);
+    std::string const text = helpText(cls, member);
+    return text.empty() ? text : text + enumerationsText(hvm, cls, member);
+}
+
+std::string publishedHelp(Hvm& hvm, std::string const& name)
+{
+    switch (hvm.lookUp(name)) {
+    case NameKind::Package:
+        return helpText(hvm.describePackage(name));
+    case NameKind::Class: {
+        ClassRecord const cls = hvm.describeClass(name);
+        return helpText(cls) + enumerationsText(hvm, cls);
+    }
+    default:
+        return memberHelp(hvm, name);
+    }
+}
+
+std::string consoleHelp(ConsoleFunction const& function)
+{
+    return paragraph(function.signature, 0, 2) + paragraph(function.text, 2, 2);
+}
+
+/// Pushes what a script means by a name such as "string.format"; false when that is nothing.
+bool pushGlobal(lua_State* L, std::string_view name)
+{
+    lua_pushglobaltable(L);
+    while (lua_istable(L, -1)) {
+        std::string_view const part = name.substr(0, name.find('.'));
+        pushText(L, part);
+        lua_rawget(L, -2);
+        if (part.size() == name.size())
+            return !lua_isnil(L, -1);
+        name.remove_prefix(part.size() + 1);
+    }
+    return false;
+}
+
+/// Help on the value at 1.
+std::string helpOn(lua_State* L)
+{
+    std::string const name = subjectOf(L, 1);
+    if (name.empty()) {
+        if (ConsoleFunction const* function = consoleFunctionAt(L, 1))
+            return consoleHelp(*function);
+        if (lua_isnil(L, 1))
+            fail("noHelp", "there is no help on nil: help(\"name\") finds names that are like one");
+        return valueHelp(L, 1);
+    }
+    if (std::string text = publishedHelp(HostContext::of(L).hvm(), name); !text.empty())
+        return text;
+    if (ConsoleFunction const* function = findConsoleFunction(name))
+        return consoleHelp(*function);
+    if (pushGlobal(L, name))
+        return valueHelp(L, -1);
+    failUnknownSubject(L, name);
 }
 
 int help(lua_State* L)
 {
     Hvm& hvm = HostContext::of(L).hvm();
-    if (lua_gettop(L) == 0) {
-        print(generalHelp + helpText(hvm.describePackage("")));
-        return 0;
-    }
-    std::string const name = subject(L);
+    print(lua_gettop(L) == 0 ? generalHelp + overviewText(hvm) : helpOn(L));
+    return 0;
+}
+
+int members(lua_State* L)
+{
+    Hvm& hvm = HostContext::of(L).hvm();
+    luaL_checkany(L, 1);
+    std::string const name = checkSubject(L);
     switch (hvm.lookUp(name)) {
-    case NameKind::Package:
-        print(helpText(hvm.describePackage(name)));
-        return 0;
     case NameKind::Class:
-        print(helpText(hvm.describeClass(name)));
-        return 0;
+        pushMembers(L, hvm.describeClass(name));
+        return 1;
+    case NameKind::Package:
+        pushMembers(L, hvm.describePackage(name));
+        return 1;
     default:
-        break;
+        failUnknownSubject(L, name);
     }
-    std::string const text = memberHelp(hvm, name);
-    if (text.empty())
-        fail("unknownName", "nothing is published as '" + name + "'");
-    print(text);
+}
+
+int apropos(lua_State* L)
+{
+    std::size_t length = 0;
+    char const* const wanted = luaL_checklstring(L, 1, &length);
+    std::string const text = aproposText(HostContext::of(L).hvm(), {wanted, length});
+    print(text.empty() ? "nothing has '" + std::string(wanted, length) + "' in its name or description\n" : text);
     return 0;
 }
 
@@ -78,17 +144,20 @@ int help(lua_State* L)
 int printList(lua_State* L, std::string (*ofClass)(ClassRecord const&), std::string (*ofPackage)(PackageRecord const&))
 {
     Hvm& hvm = HostContext::of(L).hvm();
-    std::string const name = subject(L);
+    std::string const name = checkSubject(L);
     std::string text;
     switch (hvm.lookUp(name)) {
-    case NameKind::Class:
-        text = ofClass(hvm.describeClass(name));
+    case NameKind::Class: {
+        ClassRecord const cls = hvm.describeClass(name);
+        text = ofClass(cls);
+        text += text.empty() ? text : enumerationsText(hvm, cls);
         break;
+    }
     case NameKind::Package:
         text = ofPackage(hvm.describePackage(name));
         break;
     default:
-        fail("unknownName", "no class or package is published as '" + name + "'");
+        failUnknownSubject(L, name);
     }
     print(text.empty() ? name + " has none\n" : text);
     return 0;
@@ -111,6 +180,9 @@ void bindHelpFunctions(lua_State* L)
     lua_register(L, "help", guarded<help>);
     lua_register(L, "methods", guarded<methods>);
     lua_register(L, "properties", guarded<properties>);
+    lua_register(L, "members", guarded<members>);
+    lua_register(L, "apropos", guarded<apropos>);
+    recordConsoleFunctions(L);
 }
 
 } // namespace velmara::console

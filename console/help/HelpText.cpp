@@ -1,5 +1,6 @@
 #include "help/HelpText.hpp"
 
+#include "bindings/MemberRecords.hpp"
 #include "bindings/ProxyBinding.hpp"
 #include "text/Paragraph.hpp"
 
@@ -21,11 +22,10 @@ std::string unbroken(std::string text)
 /// "getSum(a: int32 scalar, b: int32 scalar) -> int32 scalar": without the object that a method is called on.
 std::string signatureText(MethodRecord const& method)
 {
-    bool const hasObject = method.kind == Kind::Method && !method.inputs.empty();
     std::string text = unqualifiedName(method.name) + '(';
-    for (std::size_t i = hasObject ? 1 : 0; i < method.inputs.size(); ++i) {
+    for (ParameterRecord const& parameter : parametersOf(method)) {
         text += text.ends_with('(') ? "" : ", ";
-        text += method.inputs[i].name + unbroken(": " + method.inputs[i].dataType);
+        text += parameter.name + unbroken(": " + parameter.dataType);
     }
     text += ')';
     if (method.kind != Kind::Constructor && !method.outputs.empty())
@@ -70,17 +70,6 @@ std::string entry(std::string const& name)
     return paragraph(name, 2, 2);
 }
 
-bool isShown(MethodRecord const& method)
-{
-    return method.isVisible && method.access == MemberAccess::Public;
-}
-
-bool isShown(PropertyRecord const& property)
-{
-    return property.isVisible &&
-           (property.getAccess == MemberAccess::Public || property.setAccess == MemberAccess::Public);
-}
-
 template <class Record, class Predicate>
 std::string entries(std::vector<Record> const& records, Predicate const& isListed)
 {
@@ -92,7 +81,7 @@ std::string entries(std::vector<Record> const& records, Predicate const& isListe
 }
 
 constexpr auto all = [](auto const&) { return true; };
-constexpr auto shown = [](auto const& record) { return isShown(record); };
+constexpr auto shown = [](auto const& record) { return isListed(record); };
 
 /// Entries under a title; empty when there are none.
 std::string section(std::string const& title, std::string const& entries)
@@ -103,7 +92,7 @@ std::string section(std::string const& title, std::string const& entries)
 /// The shown methods of one kind.
 std::string methodEntries(ClassRecord const& cls, Kind kind)
 {
-    return entries(cls.methods, [&](MethodRecord const& method) { return method.kind == kind && isShown(method); });
+    return entries(cls.methods, [&](MethodRecord const& method) { return method.kind == kind && isListed(method); });
 }
 
 std::string traits(ClassRecord const& cls)

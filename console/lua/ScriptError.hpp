@@ -25,6 +25,9 @@ bool isError(lua_State* L, int index);
 /// The identifier of an error value that has none.
 inline constexpr char const* scriptErrorIdentifier = "VELMARA:script:error";
 
+/// The identifier of the error that Ctrl-C raises.
+inline constexpr char const* interruptionIdentifier = "VELMARA:console:interrupted";
+
 /// The text of any error value at `index`; a fixed text when its `__tostring` fails.
 std::string errorText(lua_State* L, int index);
 

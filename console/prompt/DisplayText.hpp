@@ -6,8 +6,8 @@
 
 namespace velmara::console {
 
-/// The text that the prompt shows for a value: that of `tostring`, or the content of a table without a metatable.
-/// `depth` is how many tables it is nested in.
-std::string displayText(lua_State* L, int index, int depth = 0);
+/// The text with which the prompt shows a result: a plain table with its content, in one line where that fits; else the
+/// result of `tostring`.
+std::string displayText(lua_State* L, int index);
 
 } // namespace velmara::console

@@ -1,11 +1,10 @@
 #include "scripts/ErrorReport.hpp"
 
-#include "help/Completion.hpp"
+#include "help/Subject.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/ScriptFailure.hpp"
 #include "lua/ScriptFrames.hpp"
 #include "lua/Table.hpp"
-#include "text/CloseMatches.hpp"
 
 #include "velmara/Error.hpp"
 
@@ -68,7 +67,7 @@ std::string suggestion(lua_State* L, std::string const& text)
     if (start == text.npos || !text.ends_with("')"))
         return {};
     std::size_t const name = start + before.size();
-    return didYouMean(text.substr(name, text.size() - 2 - name), completions(L, ""));
+    return closeNames(L, text.substr(name, text.size() - 2 - name));
 }
 
 Report reportOf(lua_State* L, int index, std::string const& identifier)

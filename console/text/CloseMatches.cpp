@@ -40,7 +40,7 @@ std::string join(std::vector<std::string> const& names)
 
 } // namespace
 
-std::string didYouMean(std::string_view name, std::vector<std::string> const& known)
+std::vector<std::string> closeMatches(std::string_view name, std::vector<std::string> const& known)
 {
     constexpr std::size_t maxNameLength = 100; // nothing that long is a typing error
     if (name.size() > maxNameLength)
@@ -56,7 +56,17 @@ std::string didYouMean(std::string_view name, std::vector<std::string> const& kn
     std::vector<std::string> names;
     for (std::size_t i = 0; i < std::min<std::size_t>(close.size(), 3); ++i)
         names.push_back(close[i].second);
+    return names;
+}
+
+std::string didYouMean(std::vector<std::string> const& names)
+{
     return names.empty() ? std::string() : "; did you mean " + join(names) + '?';
+}
+
+std::string didYouMean(std::string_view name, std::vector<std::string> const& known)
+{
+    return didYouMean(closeMatches(name, known));
 }
 
 } // namespace velmara::console

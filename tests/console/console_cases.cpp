@@ -256,6 +256,34 @@ ArrayPtr drop()
     return text("dropped");
 }
 
+/// Has properties of all fortunes; `nosy` calls the function that is kept.
+struct GaugeInfo final : described::Class {
+    GaugeInfo() : Class("callbacks.Gauge")
+    {
+        create = []() -> void* { return new double; };
+        destroy = [](COSInterface*, void* data) { delete static_cast<double*>(data); };
+    }
+
+    void initializeClass(COSClass* cls) override
+    {
+        auto const add = [&](char const* propertyName, MemberAccess access, std::function<ArrayPtr()> const& get) {
+            auto* const property = new described::Property;
+            property->name = propertyName;
+            property->type = "any";
+            property->open = access;
+            property->get = [get](COSInterface*) { return COSValue(get().release()); };
+            cls->addProperty(property);
+        };
+        add("unit", MemberAccess::Public, [] { return text("m\n"); });
+        add("broken", MemberAccess::Public,
+            []() -> ArrayPtr { throw std::runtime_error("no reading. Is it on?\nTry again."); });
+        add("secret", MemberAccess::Private, [] { return text("never read"); });
+        add("nosy", MemberAccess::Public,
+            [] { return kept ? callWith(*kept, COSValue(1.0)) : matrix<double>(1, 1, {0}); });
+        add("none", MemberAccess::Public, [] { return ArrayPtr(); });
+    }
+};
+
 /// Calls functions of scripts, and keeps one.
 class Callbacks final : public COSPackageInfo {
 public:
@@ -284,6 +312,7 @@ public:
             call.invoke("void");
             return matrix<double>(1, 1, {scalarOf(in[0])});
         });
+        package->addClass(new GaugeInfo);
         add("drop", {}, [](auto) { return drop(); });
         add("dropOnThread", {}, [](auto) { return attemptOnThread(drop); });
         add("multiplier", {{"double scalar", "factor"}}, [number](auto in) {

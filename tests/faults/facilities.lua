@@ -136,3 +136,9 @@ cells[array {2}] = cells(1, {1})
 print(a * 0.5 + {1, 2, 3}, a:gt(2) & ~a:eq(4), a(nil, {2, 1}), a:sum(2), a:order(2), a:gt(1):find(), a:transpose(), range(1, 6):reshape(2, nil))
 print(pcall(function() return a * 100 end), texts:transpose(), cells)
 return {a:sort(1), texts(nil)}
+
+local handle = probe.Handle(1)
+handle.other = probe.Handle(2)
+print(handle)
+show(handle, {handle, handle.other}, members(probe.named))
+return handle
