@@ -11,9 +11,11 @@ prompt (a script from standard input where that is no terminal). The arguments
 are in `arg` and `...`.
 
   -e CODE [arguments]  run CODE
-  -i                   a prompt, also where standard input is no terminal
+  -i                   a prompt after the script or code; without these a prompt
+                       also where standard input is no terminal
   --module PATH        load the module at PATH first; may be repeated
   --no-builtin         do not load the built-in module orbis_factory
+  --no-pager           do not stop long output of the prompt at each full screen
   --restricted         for scripts of strangers: no files, processes, modules
   --check-leaks        check at the end that nothing of the host is left
   --report-leaks       name at the end each native object that is still bound
@@ -21,7 +23,12 @@ are in `arg` and `...`.
 
 Exit codes: 0 success; 1 a script or module failed ("identifier: text" and
 where in the script go to standard error); 2 wrong options or a script that
-cannot be read; 3 --check-leaks found something; 4 output was lost.
+cannot be read; 3 --check-leaks found something; 4 output was lost; 130 Ctrl-C ended the
+script.
+
+At a terminal, errors and the prompt are coloured unless NO_COLOR is set, and the
+prompt keeps its history in VELMARA_HISTORY, or in ~/.velmara_history; in none
+with --restricted, or where VELMARA_HISTORY is empty.
 )";
 
 namespace {
@@ -56,6 +63,8 @@ void parseOption(CommandLine& line, std::string const& option, Words& words)
         line.loadsBuiltIn = false;
     else if (option == "--restricted")
         line.isRestricted = true;
+    else if (option == "--no-pager")
+        line.pagesOutput = false;
     else if (option == "--check-leaks")
         line.checksLeaks = true;
     else if (option == "--report-leaks")
@@ -85,8 +94,8 @@ CommandLine parseCommandLine(std::vector<std::string> const& words)
         line.task = CommandLine::Task::Script;
         line.script = take(left);
     }
-    if (line.asksForPrompt && line.task == CommandLine::Task::Script)
-        throw UsageError("-i asks for a prompt: it goes with no script");
+    if (line.asksForPrompt && line.script == "-")
+        throw UsageError("-i reads a prompt from standard input: the script cannot come from there, too");
     line.arguments.assign(left.begin(), left.end());
     return line;
 }

@@ -19,6 +19,7 @@ struct CommandLine {
     bool checksLeaks = false;
     bool reportsLeaks = false;
     bool asksForPrompt = false;
+    bool pagesOutput = true; ///< of the prompt
 };
 
 class UsageError : public std::runtime_error {

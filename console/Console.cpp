@@ -11,8 +11,10 @@
 #include "lua/ScriptError.hpp"
 #include "prompt/Prompt.hpp"
 #include "scripts/ErrorReport.hpp"
+#include "scripts/Interruption.hpp"
 #include "scripts/ScriptLibraries.hpp"
 #include "scripts/ScriptRunner.hpp"
+#include "scripts/TimedCalls.hpp"
 #include "show/ObjectText.hpp"
 #include "show/ShowFunction.hpp"
 #include "values/ErrorFields.hpp"
@@ -47,6 +49,7 @@ void prepare(lua_State* L, Run const& run)
     bindObjectText(L);
     bindShowFunction(L);
     bindEnumerationFunction(L);
+    bindTimedCalls(L);
     bindHelpFunctions(L);
     bindPublishedNames(L);
     if (!run.builtIn.empty())
@@ -55,22 +58,34 @@ void prepare(lua_State* L, Run const& run)
         run.session.host().hvm().loadModule(std::u8string(file.begin(), file.end()));
 }
 
-bool runTask(lua_State* L, Run const& run)
+/// Runs the script or code of the command line.
+int runGiven(lua_State* L, Run const& run)
 {
     CommandLine const& line = run.line;
-    if (line.task == CommandLine::Task::Code)
-        return runScript(L, line.script, "=-e", "-e", line.arguments);
-    if (line.task == CommandLine::Task::Script)
-        return runScript(L, run.code, line.script == "-" ? "=stdin" : '@' + line.script, line.script, line.arguments);
-    runPrompt(L);
-    return true;
+    InterruptibleRun const interruptible(L);
+    bool const isDone =
+        line.task == CommandLine::Task::Code
+            ? runScript(L, line.script, "=-e", "-e", line.arguments)
+            : runScript(L, run.code, line.script == "-" ? "=stdin" : '@' + line.script, line.script, line.arguments);
+    if (isDone)
+        return exitSuccess;
+    return InterruptibleRun::isInterrupted() ? exitInterrupted : exitScriptError;
+}
+
+int runTask(lua_State* L, Run const& run)
+{
+    InterruptHandler const handler;
+    int const code = run.line.task == CommandLine::Task::Prompt ? exitSuccess : runGiven(L, run);
+    if (run.line.asksForPrompt)
+        runPrompt(L, {.pagesOutput = run.line.pagesOutput, .keepsHistory = !run.line.isRestricted});
+    return code;
 }
 
 int start(lua_State* L)
 {
     Run& run = *static_cast<Run*>(lua_touserdata(L, 1));
     prepare(L, run);
-    run.exitCode = runTask(L, run) ? exitSuccess : exitScriptError;
+    run.exitCode = runTask(L, run);
     return 0;
 }
 

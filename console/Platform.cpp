@@ -1,5 +1,7 @@
 #include "Platform.hpp"
 
+#include <cstdlib>
+
 #if defined(_WIN32)
 #include <windows.h>
 
@@ -24,6 +26,18 @@ std::filesystem::path programPath()
 }
 
 } // namespace
+
+void useUtf8Console()
+{
+    static UINT const output = GetConsoleOutputCP(); // what was before
+    static UINT const input = GetConsoleCP();
+    SetConsoleOutputCP(CP_UTF8);
+    SetConsoleCP(CP_UTF8);
+    std::atexit([] {
+        SetConsoleOutputCP(output);
+        SetConsoleCP(input);
+    });
+}
 
 std::vector<std::string> commandLineWords(int, char**)
 {
@@ -51,6 +65,8 @@ std::filesystem::path programPath()
 }
 
 } // namespace
+
+void useUtf8Console() {}
 
 std::vector<std::string> commandLineWords(int count, char** words)
 {

@@ -6,6 +6,9 @@
 
 namespace velmara::console {
 
+/// Makes a Windows console show and give UTF-8 until the process ends, as others do. Call once.
+void useUtf8Console();
+
 /// The words after the program's name on the command line, in UTF-8.
 std::vector<std::string> commandLineWords(int count, char** words);
 

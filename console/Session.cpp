@@ -3,6 +3,7 @@
 #include "ExitCode.hpp"
 #include "Output.hpp"
 #include "lua/ScriptError.hpp"
+#include "scripts/Interruption.hpp"
 
 #include "velmara/LiveCounts.hpp"
 
@@ -54,6 +55,7 @@ void Session::bindExit()
 
 void Session::end()
 {
+    InterruptHandler::disable();
     host_.running() = lua_.get();
     if (lua_)
         lua_resetthread(lua_.get()); // closes `<close>` variables while everything still works

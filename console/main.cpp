@@ -2,7 +2,7 @@
 #include "ExitCode.hpp"
 #include "Output.hpp"
 #include "Platform.hpp"
-#include "prompt/LineReader.hpp"
+#include "terminal/Terminal.hpp"
 
 #include <cstdio>
 
@@ -17,9 +17,12 @@ int run(CommandLine line)
         std::fputs(line.task == Task::Help ? usageText : "velmara " VELMARA_VERSION "\n", stdout);
         return finishOutput(exitSuccess);
     }
-    if (line.task == Task::Prompt && !line.asksForPrompt && !isInputTerminal()) {
-        line.task = Task::Script;
-        line.script = "-";
+    if (line.task == Task::Prompt && !line.asksForPrompt) {
+        line.asksForPrompt = isTerminal(stdin);
+        if (!line.asksForPrompt) {
+            line.task = Task::Script;
+            line.script = "-";
+        }
     }
     Session session(line);
     return session.finish(
@@ -31,6 +34,7 @@ int run(CommandLine line)
 int main(int count, char** words)
 {
     occupyStandardStreams();
+    useUtf8Console();
     try {
         return run(parseCommandLine(commandLineWords(count, words)));
     } catch (UsageError const& error) {

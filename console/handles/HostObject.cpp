@@ -19,9 +19,9 @@ namespace velmara::console {
 
 namespace {
 
-char const completionKey = 0; // its address is the key of what completes metatables in the registry
+char const completionKey = 0;  // its address is the key of what completes metatables in the registry
 char const descriptionKey = 0; // likewise, of what describes objects
-char const objectMark = 0;    // its address tells objects from other values
+char const objectMark = 0;     // its address tells objects from other values
 
 /// The value of an object. No other userdata has this size and begins with the mark.
 struct ObjectHolder {

@@ -62,7 +62,7 @@ std::string aproposText(Hvm& hvm, std::string_view text)
     for (ConsoleFunction const& function : consoleFunctions())
         findings.offer(function.signature, "console", function.text);
     for (ArrayMethod const& method : arrayMethods())
-        findings.offer(method.signature, "array", method.text);
+        findings.offer(method.signature, "method of arrays", method.text);
     visitPublished(hvm, [&](PublishedName const& published) {
         if (published.kind == NameKind::Class)
             offerClass(hvm.describeClass(published.name), findings);

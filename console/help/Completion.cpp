@@ -4,8 +4,11 @@
 #include "bindings/ProxyBinding.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
-#include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"
+#include "help/ConsoleFunctions.hpp"
+#include "help/Expression.hpp"
+#include "help/HelpText.hpp"
+#include "help/StaticValue.hpp"
 #include "lua/ScriptError.hpp"
 
 #include <algorithm>
@@ -53,86 +56,112 @@ void addPublished(lua_State* L, std::string_view name, Names& names)
         std::ranges::copy(packageContents(hvm.describePackage(name)), std::back_inserter(names));
 }
 
-/// Replaces the value on top by its member `key`; by nil where only running code could find that.
-void descend(lua_State* L, std::string const& key)
-{
-    if (std::string const name(proxyName(L, -1)); !name.empty())
-        pushProxy(L, name + '.' + key);
-    else if (lua_istable(L, -1)) {
-        pushText(L, key);
-        lua_rawget(L, -2);
-    } else
-        lua_pushnil(L);
-    lua_remove(L, -2);
-}
-
-/// Pushes the value of the path before the last separator.
-void pushOwner(lua_State* L, std::string_view path)
-{
-    lua_pushglobaltable(L);
-    for (bool isFirst = true; !path.empty(); isFirst = false) {
-        std::size_t const end = std::min(path.find_first_of(".:"), path.size());
-        std::string const part(path.substr(0, end));
-        path.remove_prefix(std::min(end + 1, path.size()));
-        descend(L, part);
-        if (isFirst && lua_isnil(L, -1)) {
-            lua_pop(L, 1);
-            pushProxy(L, part);
-        }
-    }
-}
-
-Names membersOf(lua_State* L, char separator)
+/// The members that a script writes with the separator after what the steps give.
+Names membersOf(lua_State* L, std::vector<ExpressionStep> const& steps, char separator)
 {
     Names names;
-    if (isObject(L, -1))
-        addMembers(L, objectClass(L, -1), true, separator, names);
-    else if (auto const name = proxyName(L, -1); !name.empty())
-        addPublished(L, name, names);
-    else if (lua_istable(L, -1))
-        addKeys(L, lua_gettop(L), names);
-    else if (isHostArray(L, -1))
+    if (steps.empty())
+        return names;
+    StaticValue const value(L, steps);
+    if (std::string const name = value.objectClass(); !name.empty())
+        addMembers(L, name, true, separator, names);
+    else if (std::string const proxied(proxyName(L, value.index())); !proxied.empty())
+        addPublished(L, proxied, names);
+    else if (lua_istable(L, value.index()))
+        addKeys(L, value.index(), names);
+    else if (isHostArray(L, value.index()))
         std::ranges::transform(arrayMethods(), std::back_inserter(names), &ArrayMethod::name);
     return names;
 }
 
+Names namesInScope(lua_State* L)
+{
+    Names names(std::begin(keywords), std::end(keywords));
+    lua_pushglobaltable(L);
+    addKeys(L, lua_gettop(L), names);
+    addPublished(L, {}, names);
+    return names;
+}
+
+/// A question, and the lines or names of its answer.
 struct Request {
-    std::string_view word;
+    std::string_view text;
     Names found;
 };
 
-/// Called by `lua_pcall` with a `Request`, so that errors do not reach the line editor.
 int findCompletions(lua_State* L)
 {
     Request& request = *static_cast<Request*>(lua_touserdata(L, 1));
-    std::size_t const last = request.word.find_last_of(".:");
-    std::string_view const before = last == request.word.npos ? std::string_view() : request.word.substr(0, last);
-    std::string_view const begun = last == request.word.npos ? request.word : request.word.substr(last + 1);
-    pushOwner(L, before);
-    Names names = membersOf(L, last == request.word.npos ? '.' : request.word[last]);
-    if (last == request.word.npos) {
-        names.insert(names.end(), std::begin(keywords), std::end(keywords));
-        addPublished(L, {}, names);
-    }
-    for (std::string const& name : names)
+    std::size_t const length = identifierLength(request.text);
+    std::string_view before = request.text.substr(0, request.text.size() - length);
+    std::string_view const begun = request.text.substr(before.size());
+    bool const isMember = (before.ends_with('.') && !before.ends_with("..")) || before.ends_with(':');
+    char const separator = isMember ? before.back() : ' ';
+    before.remove_suffix(isMember ? 1 : 0);
+    for (std::string& name : isMember ? membersOf(L, expressionAtEnd(before), separator) : namesInScope(L))
         if (name.starts_with(begun))
-            request.found.push_back(std::string(request.word.substr(0, request.word.size() - begun.size())) + name);
+            request.found.push_back(std::move(name));
     return 0;
+}
+
+/// "name(a, b)" of the Lua function at `index`.
+std::string functionSignature(lua_State* L, int index, std::string_view name)
+{
+    std::string text = std::string(name) + '(';
+    lua_pushvalue(L, index);
+    for (int i = 1; char const* parameter = lua_getlocal(L, nullptr, i); ++i)
+        text.append(i > 1 ? ", " : "").append(parameter);
+    lua_Debug function;
+    lua_pushvalue(L, index);
+    lua_getinfo(L, ">u", &function);
+    if (function.isvararg)
+        text.append(text.ends_with('(') ? "..." : ", ...");
+    return text + ')';
+}
+
+int findSignatures(lua_State* L)
+{
+    Request& request = *static_cast<Request*>(lua_touserdata(L, 1));
+    std::vector<ExpressionStep> const steps = expressionAtEnd(beforeOpenCall(request.text));
+    if (steps.empty())
+        return 0;
+    StaticValue const value(L, steps);
+    if (ConsoleFunction const* function = consoleFunctionAt(L, value.index()))
+        request.found.emplace_back(function->signature);
+    for (MethodRecord const& overload : value.overloads())
+        request.found.push_back(signatureText(overload));
+    if (request.found.empty() && lua_isfunction(L, value.index()) && !lua_iscfunction(L, value.index()))
+        request.found.push_back(functionSignature(L, value.index(), steps.back().text));
+    return 0;
+}
+
+/// What `find` finds for the text. It is called by `lua_pcall`, so that errors do not reach the line editor.
+Names ask(lua_State* L, lua_CFunction find, std::string_view text)
+{
+    Request request{text, {}};
+    lua_pushcfunction(L, find);
+    lua_pushlightuserdata(L, &request);
+    if (lua_pcall(L, 1, 0, 0) != LUA_OK)
+        lua_pop(L, 1);
+    return request.found;
 }
 
 } // namespace
 
-std::vector<std::string> completions(lua_State* L, std::string_view word)
+std::vector<std::string> completions(lua_State* L, std::string_view text)
 {
-    Request request{word, {}};
-    lua_pushcfunction(L, guarded<findCompletions>);
-    lua_pushlightuserdata(L, &request);
-    if (lua_pcall(L, 1, 0, 0) != LUA_OK)
-        lua_pop(L, 1);
-    std::ranges::sort(request.found);
-    auto const repeated = std::ranges::unique(request.found);
-    request.found.erase(repeated.begin(), repeated.end());
-    return request.found;
+    Names found = ask(L, guarded<findCompletions>, text);
+    std::ranges::sort(found);
+    auto const repeated = std::ranges::unique(found);
+    found.erase(repeated.begin(), repeated.end());
+    return found;
+}
+
+std::vector<std::string> signaturesAt(lua_State* L, std::string_view text)
+{
+    std::size_t const last = text.find_last_not_of(' ');
+    bool const isArgumentNext = last != text.npos && (text[last] == '(' || text[last] == ',');
+    return isArgumentNext ? ask(L, guarded<findSignatures>, text) : Names();
 }
 
 std::string commonStart(std::vector<std::string> const& names)

@@ -1,9 +1,11 @@
 #include "help/HelpFunctions.hpp"
 
 #include "bindings/MemberRecords.hpp"
+#include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/ValueText.hpp"
 #include "help/Apropos.hpp"
+#include "help/ArrayHelp.hpp"
 #include "help/ConsoleFunctions.hpp"
 #include "help/Enumerations.hpp"
 #include "help/GeneralHelp.hpp"
@@ -12,9 +14,9 @@
 #include "help/Subject.hpp"
 #include "help/ValueHelp.hpp"
 #include "lua/ScriptError.hpp"
+#include "terminal/Pager.hpp"
 #include "text/Paragraph.hpp"
 
-#include <cstdio>
 #include <string>
 
 namespace velmara::console {
@@ -29,11 +31,6 @@ std::string checkSubject(lua_State* L)
         fail("noHelp", "there is no help on " + kindAt(L, 1) +
                            ": ask for a package, a class, an object, or the name of one in quotes");
     return name;
-}
-
-void print(std::string const& text)
-{
-    std::fwrite(text.data(), 1, text.size(), stdout);
 }
 
 /// Help on "CLASS.MEMBER" or "PACKAGE.FUNCTION"; empty when there is no such thing.
@@ -110,7 +107,7 @@ std::string helpOn(lua_State* L)
 int help(lua_State* L)
 {
     Hvm& hvm = HostContext::of(L).hvm();
-    print(lua_gettop(L) == 0 ? generalHelp + overviewText(hvm) : helpOn(L));
+    printPaged(L, lua_gettop(L) == 0 ? generalHelp + overviewText(hvm) : helpOn(L));
     return 0;
 }
 
@@ -136,7 +133,8 @@ int apropos(lua_State* L)
     std::size_t length = 0;
     char const* const wanted = luaL_checklstring(L, 1, &length);
     std::string const text = aproposText(HostContext::of(L).hvm(), {wanted, length});
-    print(text.empty() ? "nothing has '" + std::string(wanted, length) + "' in its name or description\n" : text);
+    printPaged(L,
+               text.empty() ? "nothing has '" + std::string(wanted, length) + "' in its name or description\n" : text);
     return 0;
 }
 
@@ -159,12 +157,16 @@ int printList(lua_State* L, std::string (*ofClass)(ClassRecord const&), std::str
     default:
         failUnknownSubject(L, name);
     }
-    print(text.empty() ? name + " has none\n" : text);
+    printPaged(L, text.empty() ? name + " has none\n" : text);
     return 0;
 }
 
 int methods(lua_State* L)
 {
+    if (isHostArray(L, 1)) {
+        printPaged(L, arrayMethodsText());
+        return 0;
+    }
     return printList(L, methodsText, functionsText);
 }
 

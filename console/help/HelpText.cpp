@@ -19,20 +19,6 @@ std::string unbroken(std::string text)
     return text;
 }
 
-/// "getSum(a: int32 scalar, b: int32 scalar) -> int32 scalar": without the object that a method is called on.
-std::string signatureText(MethodRecord const& method)
-{
-    std::string text = unqualifiedName(method.name) + '(';
-    for (ParameterRecord const& parameter : parametersOf(method)) {
-        text += text.ends_with('(') ? "" : ", ";
-        text += parameter.name + unbroken(": " + parameter.dataType);
-    }
-    text += ')';
-    if (method.kind != Kind::Constructor && !method.outputs.empty())
-        text += " -> " + unbroken(method.outputs.front().dataType);
-    return text;
-}
-
 std::string propertyLine(PropertyRecord const& property)
 {
     std::string line = property.name + ": " + (property.dataType.empty() ? "type not known yet" : property.dataType);
@@ -106,6 +92,19 @@ std::string traits(ClassRecord const& cls)
 }
 
 } // namespace
+
+std::string signatureText(MethodRecord const& method)
+{
+    std::string text = unqualifiedName(method.name) + '(';
+    for (ParameterRecord const& parameter : parametersOf(method)) {
+        text += text.ends_with('(') ? "" : ", ";
+        text += parameter.name + unbroken(": " + parameter.dataType);
+    }
+    text += ')';
+    if (method.kind != Kind::Constructor && !method.outputs.empty())
+        text += " -> " + unbroken(method.outputs.front().dataType);
+    return text;
+}
 
 std::string methodsText(ClassRecord const& cls)
 {

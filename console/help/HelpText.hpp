@@ -17,6 +17,10 @@ std::string helpText(ClassRecord const& cls, std::string_view member);
 /// Help on a function of the package with all its overloads; empty when there is none of the name.
 std::string helpText(PackageRecord const& package, std::string_view function);
 
+/// "getSum(a: int32 scalar, b: int32 scalar) -> int32 scalar": without the object that a method is called on. To be
+/// wrapped by `paragraph`.
+std::string signatureText(MethodRecord const& method);
+
 /// The lists alone.
 std::string methodsText(ClassRecord const& cls);
 std::string functionsText(PackageRecord const& package);

@@ -1,9 +1,9 @@
 #include "help/ValueHelp.hpp"
 
-#include "arrays/ArrayMethods.hpp"
 #include "arrays/ArrayText.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/ValueText.hpp"
+#include "help/ArrayHelp.hpp"
 #include "lua/ScriptError.hpp"
 #include "text/Paragraph.hpp"
 #include "values/ValueToHost.hpp"
@@ -21,31 +21,6 @@ std::string parametersText(lua_State* L, int index, lua_Debug const& function)
         text.append(i > 1 ? ", " : "").append(lua_getlocal(L, nullptr, i)); // pops the function
     }
     return text + (function.isvararg ? (function.nparams > 0 ? ", ...)" : "...)") : ")");
-}
-
-std::string methodHelp(ArrayMethod const& method, std::size_t indent)
-{
-    return paragraph(method.signature, indent, indent + 2) + paragraph(method.text, indent + 2, indent + 2);
-}
-
-std::string arrayHelp(hvArray_tag const* array)
-{
-    std::string text = paragraph("an array, " + sizeAndClass(array) +
-                                     "; see help(\"array\"). Its methods are of all elements, or where they take a "
-                                     "dimension, 1: of each column, 2: of each row.",
-                                 0, 2);
-    for (ArrayMethod const& method : arrayMethods())
-        text += methodHelp(method, 2);
-    return text;
-}
-
-/// Help on a method of arrays; empty for other functions.
-std::string arrayMethodHelp(lua_CFunction function)
-{
-    for (ArrayMethod const& method : arrayMethods())
-        if (function == method.function)
-            return methodHelp(method, 0);
-    return {};
 }
 
 std::string functionHelp(lua_State* L, int index)
@@ -75,10 +50,10 @@ std::string valueHelp(lua_State* L, int index)
 {
     index = lua_absindex(L, index);
     luaL_checkstack(L, 4, nullptr);
-    if (hvArray_tag const* const array = testHostArray(L, index))
-        return arrayHelp(array);
-    if (std::string text = arrayMethodHelp(lua_tocfunction(L, index)); !text.empty())
-        return text;
+    if (ArrayMethod const* const method = arrayMethodAt(L, index))
+        return paragraph(method->signature, 0, 2) + paragraph(method->text, 2, 2);
+    if (hvArray_tag const* const array = isHostArray(L, index) ? testHostArray(L, index) : nullptr)
+        return "an array: " + sizeAndClass(array) + '\n' + arrayMethodsText();
     std::string text = kindAt(L, index);
     if (lua_isfunction(L, index))
         text = functionHelp(L, index);

@@ -42,6 +42,28 @@ lua_Integer numberOf(lua_State* L, int table)
     return number;
 }
 
+/// Pushes the table of the next failure.
+void pushRecord(lua_State* L, int value, std::vector<ScriptFrame> const& frames)
+{
+    lua_Integer number = 1;
+    if (pushLatest(L)) {
+        number = numberOf(L, -2) + 1;
+        lua_pop(L, 2);
+    }
+    pushSequence(L, frames.size() * 2,
+                 [&](std::size_t i) { pushText(L, i % 2 == 0 ? frames[i / 2].position : frames[i / 2].function); });
+    setField(L, "number", number);
+    lua_pushvalue(L, value);
+    lua_setfield(L, -2, "value");
+}
+
+/// The script has the value of the failure on top now: it is kept for comparison only.
+void weaken(lua_State* L)
+{
+    pushNamedMetatable(L, "velmara.failure", [L] { setField(L, "__mode", "v"); });
+    lua_setmetatable(L, -2);
+}
+
 bool isSame(ScriptFrame const& a, ScriptFrame const& b)
 {
     return a.position == b.position;
@@ -52,19 +74,16 @@ bool isSame(ScriptFrame const& a, ScriptFrame const& b)
 int recordFailure(lua_State* L)
 {
     lua_settop(L, 1);
-    lua_Integer number = 1;
-    if (pushLatest(L)) {
-        number = numberOf(L, -2) + 1;
-        lua_pop(L, 2);
-    }
-    std::vector<ScriptFrame> const frames = failureFrames(L, 1, scriptFrames(L, 1, maxFailureFrames));
-    pushSequence(L, frames.size() * 2,
-                 [&](std::size_t i) { pushText(L, i % 2 == 0 ? frames[i / 2].position : frames[i / 2].function); });
-    setField(L, "number", number);
-    lua_pushvalue(L, 1);
-    lua_setfield(L, -2, "value");
+    pushRecord(L, 1, failureFrames(L, 1, scriptFrames(L, 1, maxFailureFrames)));
     lua_rawsetp(L, LUA_REGISTRYINDEX, &failureKey);
     return 1;
+}
+
+void recordFailure(lua_State* L, int index, std::vector<ScriptFrame> const& frames)
+{
+    pushRecord(L, lua_absindex(L, index), frames);
+    weaken(L);
+    lua_rawsetp(L, LUA_REGISTRYINDEX, &failureKey);
 }
 
 ScriptFailure failureOf(lua_State* L, int index)
@@ -85,10 +104,9 @@ void pushFailure(lua_State* L, ScriptFailure const& failure)
 {
     if (pushLatest(L)) {
         if (failure.state_ == mainThread(L) && failure.number_ == numberOf(L, -2)) {
-            // The script has the value now: it is kept for comparison only.
-            pushNamedMetatable(L, "velmara.failure", [L] { setField(L, "__mode", "v"); });
-            lua_setmetatable(L, -3);
-            lua_remove(L, -2);
+            lua_insert(L, -2);
+            weaken(L);
+            lua_pop(L, 1);
             return;
         }
         lua_pop(L, 2);

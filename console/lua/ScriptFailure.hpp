@@ -33,6 +33,9 @@ inline constexpr std::size_t maxFailureFrames = 64;
 /// The message handler of such a function: records the error value and the script's running functions.
 int recordFailure(lua_State* L);
 
+/// Records the error value at `index`, which the script has, with the functions that were running.
+void recordFailure(lua_State* L, int index, std::vector<ScriptFrame> const& frames);
+
 /// The failure for the error value at `index`, which `recordFailure` has seen.
 ScriptFailure failureOf(lua_State* L, int index);
 

@@ -1,32 +1,27 @@
 #pragma once
 
-#include "lua/LuaApi.hpp"
+#include "prompt/LineEditor.hpp"
 
-#include <filesystem>
 #include <optional>
-#include <string>
 
 namespace velmara::console {
 
-/// True when standard input is a terminal.
-bool isInputTerminal();
+/// The file of VELMARA_HISTORY, or ~/.velmara_history; empty for none.
+std::filesystem::path historyFile();
 
-/// Reads the prompt's lines: at a terminal with editing, history (~/.velmara_history) and completion; plainly where
-/// there is none, and on Windows.
+/// Reads the prompt's lines: at a terminal with a `LineEditor`, else plainly.
 class LineReader {
 public:
-    /// Completes with the names known in `L`.
-    explicit LineReader(lua_State* L);
-    LineReader(LineReader const&) = delete;
-    LineReader& operator=(LineReader const&) = delete;
-    ~LineReader();
+    enum class Result { Line, End, Interrupted };
 
-    /// The next line; nothing at end of input.
-    std::optional<std::string> read(char const* prompt);
+    /// Completes with the names known in `L`; keeps the history in that file, or in none where it is empty.
+    LineReader(lua_State* L, std::filesystem::path const& history);
+
+    /// Reads the next line into `line`, without its end. `Interrupted` when Ctrl-C was pressed instead.
+    Result read(std::string const& prompt, std::string& line);
 
 private:
-    bool isEditing_;
-    std::filesystem::path history_;
+    std::optional<LineEditor> editor_;
 };
 
 } // namespace velmara::console

@@ -6,6 +6,7 @@
 #include "scripts/ErrorReport.hpp"
 #include "scripts/Interruption.hpp"
 #include "scripts/ScriptRunner.hpp"
+#include "terminal/Pager.hpp"
 
 #include <cstdio>
 #include <string>
@@ -31,21 +32,23 @@ bool isUnfinished(lua_State* L, int status)
     return status == LUA_ERRSYNTAX && textAt(L, -1).ends_with("<eof>");
 }
 
-/// Reads lines until they form a chunk, and pushes its function; reports an error instead. False at end of input.
+/// Reads lines until they form a chunk, and pushes its function; pushes nothing when there was an error, which is
+/// reported, or Ctrl-C. False at the end of input.
 bool readChunk(lua_State* L, LineReader& reader)
 {
-    std::optional<std::string> const first = reader.read("> ");
-    if (!first)
-        return false;
-    std::string input = *first;
+    using Result = LineReader::Result;
+    std::string input;
+    Result result = reader.read("> ", input);
+    if (result != Result::Line)
+        return result == Result::Interrupted;
     int status = load(L, input);
-    while (isUnfinished(L, status)) {
-        std::optional<std::string> const next = reader.read(">> ");
-        if (!next)
+    for (std::string next; isUnfinished(L, status); status = load(L, input.append(1, '\n').append(next))) {
+        result = reader.read(">> ", next);
+        if (result == Result::End)
             break;
         lua_pop(L, 1);
-        input += '\n' + *next;
-        status = load(L, input);
+        if (result == Result::Interrupted)
+            return true;
     }
     if (status == LUA_OK)
         return true;
@@ -60,14 +63,13 @@ int show(lua_State* L)
     std::string line;
     for (int i = 1; i <= count; ++i)
         line += (i > 1 ? "\t" : "") + displayText(L, i);
-    line += '\n';
-    std::fwrite(line.data(), 1, line.size(), stdout);
+    printPaged(L, line += '\n');
     return 0;
 }
 
 void runChunk(lua_State* L, int base)
 {
-    Interruption const interruption(L);
+    InterruptibleRun const run(L);
     if (!callScript(L, 0))
         return;
     int const results = lua_gettop(L) - base;
@@ -80,10 +82,12 @@ void runChunk(lua_State* L, int base)
 
 } // namespace
 
-void runPrompt(lua_State* L)
+void runPrompt(lua_State* L, PromptOptions const& options)
 {
-    bindCoroutineFunctions(L);
-    LineReader reader(L);
+    if (options.pagesOutput)
+        enablePaging(L);
+
+    LineReader reader(L, options.keepsHistory ? historyFile() : std::filesystem::path());
     std::puts("velmara: help() tells what there is; end with Ctrl-D.");
     int const base = lua_gettop(L);
     while (readChunk(L, reader)) {

@@ -5,6 +5,7 @@
 #include "lua/ScriptFailure.hpp"
 #include "lua/ScriptFrames.hpp"
 #include "lua/Table.hpp"
+#include "terminal/Terminal.hpp"
 
 #include "velmara/Error.hpp"
 
@@ -120,8 +121,10 @@ std::string describeError(lua_State* L, int index, int status)
 
 void printReport(std::string_view text)
 {
+    std::size_t const identifier = std::min(text.find(": "), text.size());
     std::fflush(stdout);
-    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
+    writeStyled(stderr, Style::Error, text.substr(0, identifier));
+    std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size() - identifier), text.data() + identifier);
     std::fflush(stderr);
 }
 

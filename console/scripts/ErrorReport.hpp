@@ -15,7 +15,7 @@ int reportError(lua_State* L);
 /// or `lua_pcall`.
 std::string describeError(lua_State* L, int index, int status);
 
-/// Prints the text to stderr, after what was printed to stdout before.
+/// Prints the text to stderr, after what was printed to stdout before. At a terminal its identifier is coloured.
 void printReport(std::string_view text);
 
 } // namespace velmara::console

@@ -1,6 +1,7 @@
 #include "scripts/Interruption.hpp"
 
-#include "lua/WrappedFunction.hpp"
+#include "lua/ScriptError.hpp"
+#include "lua/ScriptFailure.hpp"
 
 #include <csignal>
 
@@ -8,109 +9,174 @@ namespace velmara::console {
 
 namespace {
 
-// A signal handler is passed only the signal: what to stop is here.
-lua_State* volatile script = nullptr;
-lua_State* volatile running = nullptr; ///< the script, or the innermost of its coroutines
-volatile std::sig_atomic_t isStopping = 0;
+using Handler = void (*)(int);
 
-void stop(lua_State* L, lua_Debug*)
+/// How many instructions a script may still run to close its variables before it is interrupted again: some seconds.
+constexpr int closingInstructions = 100'000'000;
+
+// A signal handler is passed only the signal: what to interrupt is here.
+lua_State* volatile running = nullptr;      ///< the script, or the innermost of its coroutines
+volatile std::sig_atomic_t isRequested = 0; ///< Ctrl-C was pressed, and has had no effect yet
+Handler previousHandler = SIG_DFL;
+
+lua_State* script = nullptr;
+int raisedCount = 0; ///< of the running script
+
+char const errorKey = 0; // its address is the key of the latest interruption's error in the registry
+
+/// Pushes the error of the latest interruption; a new one where there was no memory or stack to create it before.
+void pushInterruption(lua_State* L)
 {
-    if (L == script)
-        isStopping = 0;
-    lua_sethook(L, nullptr, 0, 0);
-    luaL_error(L, "interrupted");
+    if (lua_rawgetp(L, LUA_REGISTRYINDEX, &errorKey) != LUA_TNIL)
+        return;
+    lua_pop(L, 1);
+    pushError(L, interruptionIdentifier, "Ctrl-C was pressed");
+    recordFailure(L, -1, scriptFrames(L, 0, maxFailureFrames));
+    lua_pushvalue(L, -1);
+    lua_rawsetp(L, LUA_REGISTRYINDEX, &errorKey);
 }
 
-void stopSoon(lua_State* L)
+int raiseError(lua_State* L)
 {
-    lua_sethook(L, stop, LUA_MASKCALL | LUA_MASKRET | LUA_MASKLINE | LUA_MASKCOUNT, 1);
+    pushInterruption(L);
+    return raised;
 }
+
+void interrupt(lua_State* L, lua_Debug*)
+{
+    bool const isLate = !script || (!isRequested && raisedCount == 0); // a coroutine that was left before it fired
+    isRequested = 0;
+    lua_sethook(L, isLate ? nullptr : interrupt, isLate ? 0 : LUA_MASKCOUNT, closingInstructions);
+    if (isLate)
+        return;
+    ++raisedCount;
+    lua_pushcfunction(L, guarded<raiseError>);
+    lua_call(L, 0, 0);
+}
+
+void interruptSoon(lua_State* L)
+{
+    lua_sethook(L, interrupt, LUA_MASKCALL | LUA_MASKRET | LUA_MASKLINE | LUA_MASKCOUNT, 1);
+}
+
+#if defined(_WIN32)
+
+Handler setHandler(Handler handler)
+{
+    return std::signal(SIGINT, handler);
+}
+
+#else
+
+/// What waits for input is to return: no system call is restarted.
+Handler setHandler(Handler handler)
+{
+    struct sigaction action = {};
+    struct sigaction previous = {};
+    action.sa_handler = handler;
+    sigemptyset(&action.sa_mask);
+    sigaction(SIGINT, &action, &previous);
+    return previous.sa_handler;
+}
+
+#endif
 
 void onSignal(int signal)
 {
-    std::signal(signal, SIG_DFL); // a second one ends the process
-    isStopping = 1;
-    stopSoon(running);
-}
-
-/// For its lifetime `resumer` waits for a coroutine, and Ctrl-C reaches that. The interruption is raised again in the
-/// resumer when the coroutine has failed.
-class Resumption {
-public:
-    Resumption(lua_State* resumer, lua_State* coroutine) : resumer_(resumer), previous_(running)
-    {
-        if (script)
-            running = coroutine;
+    bool const isStuck = running && isRequested;
+    setHandler(isStuck ? SIG_DFL : onSignal); // on Windows it was reset
+    if (isStuck) {
+        std::raise(signal);
+        return;
     }
-    Resumption(Resumption const&) = delete;
-    Resumption& operator=(Resumption const&) = delete;
-    ~Resumption()
-    {
-        running = previous_;
-        if (isStopping && script)
-            stopSoon(resumer_);
-    }
-
-private:
-    lua_State* resumer_;
-    lua_State* previous_;
-};
-
-/// Calls upvalue 1 with all arguments; meanwhile Ctrl-C reaches `coroutine`.
-int callWhileRunning(lua_State* L, lua_State* coroutine)
-{
-    luaL_checkstack(L, 4, nullptr);
-    Resumption const resumption(L, coroutine ? coroutine : L);
-    return callWrapped(L);
-}
-
-int resume(lua_State* L)
-{
-    return callWhileRunning(L, lua_tothread(L, 1));
-}
-
-/// Upvalue 1 is the result of Lua's own `wrap`, whose upvalue 1 is the coroutine.
-int callCoroutine(lua_State* L)
-{
-    lua_State* coroutine = nullptr;
-    if (lua_getupvalue(L, lua_upvalueindex(1), 1)) {
-        coroutine = lua_tothread(L, -1);
-        lua_pop(L, 1); // the function still holds it
-    }
-    return callWhileRunning(L, coroutine);
-}
-
-int wrap(lua_State* L)
-{
-    callWrapped(L);
-    lua_pushcclosure(L, callCoroutine, 1);
-    return 1;
+    isRequested = 1;
+    if (running)
+        interruptSoon(running);
 }
 
 } // namespace
 
-Interruption::Interruption(lua_State* L)
+InterruptHandler::InterruptHandler()
 {
+    previousHandler = setHandler(onSignal);
+    if (previousHandler == SIG_IGN)
+        setHandler(SIG_IGN);
+}
+
+InterruptHandler::~InterruptHandler()
+{
+    setHandler(previousHandler);
+}
+
+bool InterruptHandler::hasInterrupt()
+{
+    return isRequested != 0;
+}
+
+bool InterruptHandler::takeInterrupt()
+{
+    bool const isTaken = hasInterrupt();
+    isRequested = 0;
+    return isTaken;
+}
+
+void InterruptHandler::disable()
+{
+    running = nullptr;
+    if (script && previousHandler != SIG_IGN)
+        setHandler(SIG_DFL);
+    script = nullptr;
+}
+
+InterruptibleRun::InterruptibleRun(lua_State* L)
+{
+    raisedCount = 0;
     script = L;
     running = L;
-    isStopping = 0;
-    previous_ = std::signal(SIGINT, onSignal);
+    if (isRequested)
+        interruptSoon(L);
 }
 
-Interruption::~Interruption()
+InterruptibleRun::~InterruptibleRun()
 {
-    std::signal(SIGINT, previous_);
-    lua_sethook(script, nullptr, 0, 0); // the script may have ended before the hook ran
-    script = nullptr;
     running = nullptr;
+    isRequested = 0;
+    if (!script)
+        return;
+    lua_sethook(script, nullptr, 0, 0); // it may have ended before the hook ran
+    lua_pushnil(script);
+    lua_rawsetp(script, LUA_REGISTRYINDEX, &errorKey);
+    script = nullptr;
 }
 
-void bindCoroutineFunctions(lua_State* L)
+bool InterruptibleRun::isInterrupted()
 {
-    lua_getglobal(L, LUA_COLIBNAME);
-    wrapFunction(L, "resume", resume);
-    wrapFunction(L, "wrap", wrap);
-    lua_pop(L, 1);
+    return raisedCount > 0;
+}
+
+Resumption::Resumption(lua_State* coroutine) : previous_(running)
+{
+    if (running)
+        running = coroutine;
+}
+
+Resumption::~Resumption()
+{
+    running = previous_;
+    if (isRequested && previous_)
+        interruptSoon(previous_); // the coroutine was left before it could be interrupted
+}
+
+int interruptCount()
+{
+    return raisedCount;
+}
+
+void checkInterrupt(lua_State* L, int countBefore)
+{
+    if (raisedCount == countBefore)
+        return;
+    callGuarded(L, raiseError);
 }
 
 } // namespace velmara::console

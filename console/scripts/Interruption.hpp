@@ -4,19 +4,53 @@
 
 namespace velmara::console {
 
-/// For its lifetime Ctrl-C makes the running script fail instead of ending the process. One at a time.
-class Interruption {
+/// For its lifetime Ctrl-C interrupts what runs instead of ending the process. Ctrl-C ends the process all the same
+/// while the one before has had no effect: the script is in a function of native code, or in one of Lua's own such as
+/// `string.find`. One at a time; leaves Ctrl-C alone where the process ignores it.
+class InterruptHandler {
 public:
-    explicit Interruption(lua_State* L);
-    Interruption(Interruption const&) = delete;
-    Interruption& operator=(Interruption const&) = delete;
-    ~Interruption();
+    InterruptHandler();
+    InterruptHandler(InterruptHandler const&) = delete;
+    InterruptHandler& operator=(InterruptHandler const&) = delete;
+    ~InterruptHandler();
 
-private:
-    void (*previous_)(int);
+    /// Whether Ctrl-C was pressed while no script ran, since `takeInterrupt` was called last, which returns the same.
+    static bool hasInterrupt();
+    static bool takeInterrupt();
+
+    /// From now on Ctrl-C ends the process, also when a handler is alive. Call before its script's state is closed.
+    static void disable();
 };
 
-/// Replaces `coroutine.resume` and `coroutine.wrap` by functions that let Ctrl-C reach a coroutine.
-void bindCoroutineFunctions(lua_State* L);
+/// For its lifetime a script runs in `L`: Ctrl-C raises the error "VELMARA:console:interrupted" in it. No function of
+/// the script can keep that from ending the script; `<close>` variables are closed. One at a time.
+class InterruptibleRun {
+public:
+    explicit InterruptibleRun(lua_State* L);
+    InterruptibleRun(InterruptibleRun const&) = delete;
+    InterruptibleRun& operator=(InterruptibleRun const&) = delete;
+    ~InterruptibleRun();
+
+    /// Whether the error was raised.
+    static bool isInterrupted();
+};
+
+/// For its lifetime `resumer` waits for a coroutine, and Ctrl-C interrupts that.
+class Resumption {
+public:
+    explicit Resumption(lua_State* coroutine);
+    Resumption(Resumption const&) = delete;
+    Resumption& operator=(Resumption const&) = delete;
+    ~Resumption();
+
+private:
+    lua_State* previous_;
+};
+
+/// What has caught an error calls these, so that the script does not run on after an interruption: at its beginning
+/// `interruptCount`, and `checkInterrupt` with that number at its end, which raises the error again where there was an
+/// interruption meanwhile. In functions that were begun after the interruption it does nothing: they close variables.
+int interruptCount();
+void checkInterrupt(lua_State* L, int countBefore);
 
 } // namespace velmara::console

@@ -2,6 +2,9 @@
 
 #include "lua/Table.hpp"
 #include "lua/WrappedFunction.hpp"
+#include "scripts/Coroutines.hpp"
+#include "scripts/Interruption.hpp"
+#include "scripts/ProtectedCalls.hpp"
 
 #include <algorithm>
 #include <iterator>
@@ -20,7 +23,10 @@ int loadText(lua_State* L)
         lua_settop(L, Mode);
     lua_pushliteral(L, "t");
     lua_replace(L, Mode);
-    return callWrapped(L);
+    int const count = interruptCount();
+    int const results = callWrapped(L);
+    checkInterrupt(L, count); // in a function that gives the text in pieces
+    return results;
 }
 
 /// Bytecode that a script has crafted can crash the process.
@@ -176,6 +182,8 @@ void openScriptLibraries(lua_State* L)
     lua_register(L, "dofile", runFile);
     limitPackages(L);
     limitDebug(L);
+    bindProtectedCalls(L);
+    bindCoroutineFunctions(L);
 }
 
 void openRestrictedLibraries(lua_State* L)
@@ -191,6 +199,8 @@ void openRestrictedLibraries(lua_State* L)
         openLibrary(L, library.name, library.func);
         lua_setglobal(L, library.name);
     }
+    bindProtectedCalls(L);
+    bindCoroutineFunctions(L);
 }
 
 } // namespace velmara::console

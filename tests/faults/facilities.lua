@@ -129,6 +129,12 @@ local first, second = frame.Part(1), frame.Part(2)
 print(#frame.copies({first, second}), pcall(frame.owned, {first, second, first}), isvalid(first))
 return frame.owned({first, second})
 
+local handle = probe.Handle(1)
+handle.other = probe.Handle(2)
+print(handle)
+show(handle, {handle, handle.other}, members(probe.named))
+return handle
+
 local a = array("int8", {{1, 2, 3}, {4, 5, 6}})
 local texts, cells = array("string", {"long enough for memory of its own", "b"}), array("cell", {a, "x"})
 texts:set({1, 2}, texts({2, 1}))
@@ -136,9 +142,3 @@ cells[array {2}] = cells(1, {1})
 print(a * 0.5 + {1, 2, 3}, a:gt(2) & ~a:eq(4), a(nil, {2, 1}), a:sum(2), a:order(2), a:gt(1):find(), a:transpose(), range(1, 6):reshape(2, nil))
 print(pcall(function() return a * 100 end), texts:transpose(), cells)
 return {a:sort(1), texts(nil)}
-
-local handle = probe.Handle(1)
-handle.other = probe.Handle(2)
-print(handle)
-show(handle, {handle, handle.other}, members(probe.named))
-return handle

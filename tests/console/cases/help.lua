@@ -10,7 +10,7 @@ methods(p)
 methods(orbis_factory)
 properties("cases.Probe")
 properties(cases)
-for _, value in ipairs {5, {1, 2}, {[{}] = 1}, array("int8", {1, 2}), array("int8", 1).sum, print, function(a, b, ...) end, null} do help(value) end
+for _, value in ipairs {5, {1, 2}, {[{}] = 1}, array{1}.sum, print, function(a, b, ...) end, null} do help(value) end
 help(show)
 help("members")
 help("string.format")

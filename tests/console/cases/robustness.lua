@@ -26,6 +26,10 @@ local wrapped = coroutine.wrap(function(x)
 end)
 print(wrapped(1), wrapped(41))
 print(coroutine.resume(coroutine.create(function() return a.nothing end)))
+local timed = coroutine.wrap(function() each({"x", "y"}, coroutine.yield) return time(coroutine.yield, "inside") end)
+print(timed(), select(2, timed()), timed(), select("#", timed(1, 2)))
+print(pcall(each, array("int8", {5, 6}), function(x, i) if i == 2 then error(x, 0) end end))
+print(pcall(each, 5, print), pcall(time))
 local count = 0
 for _ = 1, 100 do
   setmetatable({}, {__gc = function() count = count + orbis_factory.Adder(1).total error("lost") end})
