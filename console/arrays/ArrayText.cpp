@@ -25,6 +25,7 @@ using orbis::host_extensions::findNumericClass;
 using orbis::host_extensions::visitNumericClass;
 
 constexpr std::size_t maxRows = 10;
+constexpr int tableDigits = 5;
 constexpr std::size_t lastRows = 3; ///< of them, when there are more rows
 constexpr std::size_t maxWidth = 80;
 constexpr std::size_t maxCharacters = 24; ///< of one element's text
@@ -65,8 +66,14 @@ std::string numberText(T number, int digits)
     else if constexpr (std::is_floating_point_v<T>) {
         if (!std::isfinite(number))
             return std::isnan(number) ? "nan" : number < 0 ? "-inf" : "inf";
+        auto const value = static_cast<double>(number);
+        // In a table, an exponent is harder to read than some digits more.
+        bool const isWhole = digits == tableDigits && std::abs(value) >= 99999.5 && std::abs(value) < 1e10;
         char text[40];
-        std::snprintf(text, sizeof text, "%.*g", digits, static_cast<double>(number));
+        if (isWhole)
+            std::snprintf(text, sizeof text, "%.0f", value);
+        else
+            std::snprintf(text, sizeof text, "%.*g", digits, value);
         return text;
     } else
         return std::to_string(number);
@@ -123,7 +130,7 @@ std::string elementText(hvArray_tag const& array, std::size_t index)
     case hvOBJECT_CLASS:
         return objectText(array, index);
     default:
-        return numberText(array, index, 5);
+        return numberText(array, index, tableDigits);
     }
 }
 
