@@ -53,7 +53,7 @@ void publishModule(orbis::factory::Module& crossings)
     crossings.function(
         "count", [](std::vector<std::string> const& texts) { return static_cast<int>(texts.size()); }, "texts", "");
     crossings.function(
-        "names", [] { return std::vector<std::string>(1000, "name of a thousand"); }, "", "");
+        "names", [] { return std::vector<std::string>(1000, "twelve bytes"); }, "", "");
     publishOverloads(crossings, std::make_integer_sequence<int, 20>());
     crossings.function(
         "fail", [] { throw std::runtime_error("failed"); }, "", "");

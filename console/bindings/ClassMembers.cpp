@@ -1,8 +1,8 @@
 #include "bindings/ClassMembers.hpp"
 
 #include "bindings/MemberRecords.hpp"
+#include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
-#include "handles/PublishedAnswers.hpp"
 #include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
 #include "text/CloseMatches.hpp"
@@ -19,75 +19,67 @@ namespace {
 
 constexpr char const* callablesName = "velmara.callables"; // in the registry: the latest functions by full name
 
-/// The upvalues of a callable member's function.
-enum Upvalue { classUpvalue = 1, memberUpvalue, instanceUpvalue, staticUpvalue, nameUpvalue };
-
-bool flag(lua_State* L, Upvalue which)
+/// Upvalue 1 of the functions below.
+Member& calledMember(lua_State* L)
 {
-    return lua_toboolean(L, lua_upvalueindex(which)) != 0;
+    return *static_cast<Member*>(lua_touserdata(L, lua_upvalueindex(1)));
 }
 
-bool startsWithObject(lua_State* L, Hvm& hvm)
+std::string fullNameOf(Member const& member)
 {
-    if (!isObject(L, 1))
-        return false;
-    if (!flag(L, staticUpvalue))
-        return true;
+    MemberName const& name = member.name;
+    return name.member().empty() ? name.owner() : name.owner() + '.' + name.member();
+}
+
+/// The object that the member is called on; null when it is called without one.
+hvArray_tag* firstObject(lua_State* L, Member const& member, Hvm& hvm)
+{
+    hvArray_tag* const object = member.isCalledOnObjects ? testObject(L, 1) : nullptr;
+    if (!object || !member.isCalledOnClass) [[likely]]
+        return object;
     // The name is also that of a static method: the object is the method's only if it is of the class.
     Hvm::Scope const scope(hvm);
-    return hvIsA(checkObject(L, 1), lua_tostring(L, lua_upvalueindex(classUpvalue)));
+    return hvIsA(object, member.name.owner().c_str()) ? object : nullptr;
 }
 
-ArrayPtr callStatic(lua_State* L, HostCall& call)
+int callStatic(lua_State* L, HostCall& call, Member& member)
 {
-    std::string const cls(textAt(L, lua_upvalueindex(classUpvalue)));
-    std::string const name(textAt(L, lua_upvalueindex(memberUpvalue)));
-    try {
-        return call.hvm().callStatic(cls, name, call.inputs(1));
-    } catch (Error const& error) {
-        bool const hasColon =
-            isObject(L, 1) && objectClass(L, 1) == cls && error.identifier() == "VELMARA:dispatch:noMatch";
-        if (!hasColon)
-            throw;
-        throw Error(error.identifier(),
-                    error.text() + "\n  \"" + name + "\" is static: write " + cls + '.' + name + "(...), with a dot");
-    }
+    Value result = call.hvm().callStatic(member.name, call.values(1), call.failure());
+    Hvm::Failure& failure = call.failure();
+    if (failure && isObject(L, 1) && objectClass(L, 1) == member.name.owner() &&
+        failure->identifier() == "VELMARA:dispatch:noMatch")
+        failure = Error(failure->identifier(), failure->text() + "\n  \"" + member.name.member() +
+                                                   "\" is static: write " + fullNameOf(member) + "(...), with a dot");
+    return call.finish(std::move(result));
 }
 
 int callMember(lua_State* L)
 {
-    std::string_view const name = textAt(L, lua_upvalueindex(memberUpvalue));
+    Member& member = calledMember(L);
     HostCall call(L);
-    if (flag(L, instanceUpvalue) && startsWithObject(L, call.hvm())) {
-        hvArray_tag* object = call.share(checkObject(L, 1));
-        return call.finish(call.hvm().call(object, name, call.inputs(2), call.failure()));
+    if (hvArray_tag* const object = firstObject(L, member, call.hvm())) [[likely]] {
+        call.share(object);
+        return call.finish(call.hvm().call(object, member.name, call.values(2), call.failure()));
     }
-    if (!flag(L, staticUpvalue))
-        fail("noObject", std::string(name) + " needs an object of " +
-                             std::string(textAt(L, lua_upvalueindex(classUpvalue))) +
-                             " first: write object:" + std::string(name) + "(...)");
-    return call.finish(callStatic(L, call));
+    if (member.isCalledOnClass)
+        return callStatic(L, call, member);
+    std::string const& name = member.name.member();
+    fail("noObject", name + " needs an object of " + member.name.owner() + " first: write object:" + name + "(...)");
 }
 
 int callPackageFunction(lua_State* L)
 {
     HostCall call(L);
-    return call.finish(
-        call.hvm().callFunction(textAt(L, lua_upvalueindex(nameUpvalue)), call.inputs(1), call.failure()));
+    return call.finish(call.hvm().callFunction(calledMember(L).name, call.values(1), call.failure()));
 }
 
-void pushCallable(lua_State* L, std::string_view cls, std::string_view name, bool instance, bool withoutObject)
+void pushCallable(lua_State* L, Member& member)
 {
-    pushText(L, cls);
-    pushText(L, name);
-    lua_pushboolean(L, instance);
-    lua_pushboolean(L, withoutObject);
-    std::string const fullName = std::string(cls) + '.' + std::string(name);
-    pushText(L, fullName);
-    lua_pushcclosure(L, guarded<callMember>, nameUpvalue);
+    lua_pushlightuserdata(L, &member);
+    lua_pushcclosure(L, guarded<callMember>, 1);
     luaL_getsubtable(L, LUA_REGISTRYINDEX, callablesName);
     lua_pushvalue(L, -2);
-    lua_setfield(L, -2, fullName.c_str());
+    lua_setfield(L, -2, fullNameOf(member).c_str());
     lua_pop(L, 1);
 }
 
@@ -96,32 +88,36 @@ void pushCallable(lua_State* L, std::string_view cls, std::string_view name, boo
     fail("unknownMember", cls.name + " has no member '" + std::string(name) + "'" + didYouMean(name, memberNames(cls)));
 }
 
-/// Pushes what is cached of the member: the function of a callable one, the kind of another.
+/// Pushes what is cached of the member: the function of a callable one, the record of another.
 void pushCacheEntry(lua_State* L, std::string_view cls, std::string_view name)
 {
-    ClassRecord const record = HostContext::of(L).hvm().describeClass(cls);
+    HostContext& context = HostContext::of(L);
+    ClassRecord const record = context.hvm().describeClass(cls);
+    Member& member = context.members().ofClass(cls, name);
     auto const isCalled = [&](MethodRecord::Kind kind) {
         return std::ranges::any_of(
             record.methods, [&](MethodRecord const& method) { return method.name == name && method.kind == kind; });
     };
-    bool const instance = isCalled(MethodRecord::Kind::Method);
-    bool const withoutObject = isCalled(MethodRecord::Kind::StaticMethod);
-    if (instance || withoutObject)
-        return pushCallable(L, cls, name, instance, withoutObject);
-    if (std::ranges::find(record.enumerators, name, &EnumeratorRecord::name) != record.enumerators.end())
-        return lua_pushinteger(L, static_cast<lua_Integer>(MemberKind::Enumerator));
+    member.isCalledOnObjects = isCalled(MethodRecord::Kind::Method);
+    member.isCalledOnClass = isCalled(MethodRecord::Kind::StaticMethod);
+    member.kind = MemberKind::Callable;
+    if (member.isCalledOnObjects || member.isCalledOnClass)
+        return pushCallable(L, member);
     auto const property = std::ranges::find(record.properties, name, &PropertyRecord::name);
-    if (property == record.properties.end())
+    if (std::ranges::find(record.enumerators, name, &EnumeratorRecord::name) != record.enumerators.end())
+        member.kind = MemberKind::Enumerator;
+    else if (property != record.properties.end())
+        member.kind = property->isStatic ? MemberKind::StaticProperty : MemberKind::Property;
+    else
         failUnknown(record, name);
-    auto const kind = property->isStatic ? MemberKind::StaticProperty : MemberKind::Property;
-    lua_pushinteger(L, static_cast<lua_Integer>(kind));
+    lua_pushlightuserdata(L, &member);
 }
 
 } // namespace
 
 void pushMemberCache(lua_State* L, std::string_view className)
 {
-    pushAnswers(L, Answers::Members);
+    HostContext::of(L).answers().members.push(L);
     pushCached(L, lua_gettop(L), className, [L] { lua_newtable(L); });
     lua_remove(L, -2);
 }
@@ -129,13 +125,12 @@ void pushMemberCache(lua_State* L, std::string_view className)
 MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name)
 {
     luaL_checkstack(L, 10, nullptr);
-    forgetOutdated(L);
     pushMemberCache(L, className);
     pushCached(L, lua_gettop(L), name, [&] { pushCacheEntry(L, className, name); });
     lua_remove(L, -2);
     if (lua_isfunction(L, -1))
         return MemberKind::Callable;
-    auto const kind = static_cast<MemberKind>(lua_tointeger(L, -1));
+    MemberKind const kind = static_cast<Member const*>(lua_touserdata(L, -1))->kind;
     lua_pop(L, 1);
     return kind;
 }
@@ -164,21 +159,19 @@ MemberKind checkProperty(lua_State* L, std::string_view className, std::string_v
 void pushPackageFunction(lua_State* L, std::string_view fullName)
 {
     luaL_checkstack(L, 8, nullptr);
-    for (int i = classUpvalue; i < nameUpvalue; ++i)
-        lua_pushnil(L);
-    pushText(L, fullName);
-    lua_pushcclosure(L, guarded<callPackageFunction>, nameUpvalue);
+    lua_pushlightuserdata(L, &HostContext::of(L).members().function(fullName));
+    lua_pushcclosure(L, guarded<callPackageFunction>, 1);
 }
 
-std::string_view calledName(lua_State* L, int index)
+std::string calledName(lua_State* L, int index)
 {
     lua_CFunction const function = lua_tocfunction(L, index);
     if (function != guarded<callMember> && function != guarded<callPackageFunction>)
         return {};
-    lua_getupvalue(L, index, nameUpvalue);
-    std::string_view const name = textAt(L, -1);
-    lua_pop(L, 1); // the function still holds it
-    return name;
+    lua_getupvalue(L, index, 1);
+    auto const* const member = static_cast<Member const*>(lua_touserdata(L, -1));
+    lua_pop(L, 1);
+    return fullNameOf(*member);
 }
 
 } // namespace velmara::console

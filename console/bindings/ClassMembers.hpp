@@ -1,12 +1,12 @@
 #pragma once
 
+#include "handles/Member.hpp"
 #include "lua/LuaApi.hpp"
 
+#include <string>
 #include <string_view>
 
 namespace velmara::console {
-
-enum class MemberKind { Callable, Property, StaticProperty, Enumerator };
 
 /// Finds the member `name` of a class. Pushes the function of a callable one, which takes the object first, or none for
 /// a static method; pushes nothing for a property or an enumerator. Results are kept: see PublishedAnswers.hpp.
@@ -22,7 +22,7 @@ bool pushFormerCallable(lua_State* L, std::string_view className, std::string_vi
 MemberKind checkProperty(lua_State* L, std::string_view className, std::string_view name);
 
 /// Pushes what is kept of the class: a table with a function under the name of each callable member that was found, and
-/// the `MemberKind` under those of others. Call `forgetOutdated` before it is read.
+/// the `Member`, a light userdata, under those of others.
 void pushMemberCache(lua_State* L, std::string_view className);
 
 /// Pushes the function that calls the package function of that full name.
@@ -30,6 +30,6 @@ void pushPackageFunction(lua_State* L, std::string_view fullName);
 
 /// The full name ("PACKAGE.CLASS.MEMBER") that the function at `index` calls, when it was pushed by one of the above;
 /// empty for any other value.
-std::string_view calledName(lua_State* L, int index);
+std::string calledName(lua_State* L, int index);
 
 } // namespace velmara::console

@@ -17,9 +17,9 @@ bool isPublic(MemberAccess access, orbis::ExtendedMemberAccess extended)
 }
 
 /// Appends tables to the sequence on top of the stack.
-class Members {
+class MemberList {
 public:
-    explicit Members(lua_State* L) : L_(L)
+    explicit MemberList(lua_State* L) : L_(L)
     {
         luaL_checkstack(L, 10, nullptr);
         lua_newtable(L);
@@ -148,7 +148,7 @@ std::vector<std::string> memberNames(ClassRecord const& cls)
 
 void pushMembers(lua_State* L, ClassRecord const& cls)
 {
-    Members members(L);
+    MemberList members(L);
     for (EnumeratorRecord const& enumerator : cls.enumerators)
         members.add(enumerator, cls.name);
     for (MethodRecord const& method : cls.methods)
@@ -161,7 +161,7 @@ void pushMembers(lua_State* L, ClassRecord const& cls)
 
 void pushMembers(lua_State* L, PackageRecord const& package)
 {
-    Members members(L);
+    MemberList members(L);
     for (std::string const& name : package.packages)
         members.add(name, "package");
     for (std::string const& name : package.classes)

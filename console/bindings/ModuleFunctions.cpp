@@ -51,6 +51,7 @@ int withMachine(lua_State* L)
 {
     luaL_checktype(L, 1, LUA_TFUNCTION);
     HostContext::FreshMachine const machine(HostContext::of(L));
+    ChangeWatch::check(L);
     lua_call(L, lua_gettop(L) - 1, LUA_MULTRET);
     return lua_gettop(L);
 }

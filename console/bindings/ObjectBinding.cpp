@@ -3,8 +3,8 @@
 #include "bindings/ClassMembers.hpp"
 #include "bindings/MemberIteration.hpp"
 #include "bindings/Operators.hpp"
+#include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
-#include "handles/PublishedAnswers.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
@@ -24,16 +24,15 @@ std::string_view memberName(lua_State* L, int index)
 /// Pushes what upvalue 1, the class's table of known members, has for the key at 2; returns its type.
 int pushKnownMember(lua_State* L)
 {
-    forgetOutdated(L);
     lua_pushvalue(L, 2);
     return lua_rawget(L, lua_upvalueindex(1));
 }
 
-int readProperty(lua_State* L)
+int readProperty(lua_State* L, Member& property)
 {
     HostCall call(L);
     hvArray_tag* const object = call.share(checkObject(L, 1));
-    return call.finish(call.hvm().get(object, textAt(L, 2), call.failure()));
+    return call.finish(call.hvm().get(object, property.name, call.failure()));
 }
 
 int readMember(lua_State* L)
@@ -41,8 +40,8 @@ int readMember(lua_State* L)
     int const known = pushKnownMember(L);
     if (known == LUA_TFUNCTION)
         return 1;
-    if (known != LUA_TNIL)
-        return readProperty(L);
+    if (known == LUA_TLIGHTUSERDATA)
+        return readProperty(L, *static_cast<Member*>(lua_touserdata(L, -1)));
     lua_settop(L, 2);
     std::string_view const cls = objectClass(L, 1);
     if (lua_type(L, 2) != LUA_TSTRING && readItem(L, cls))
@@ -50,15 +49,18 @@ int readMember(lua_State* L)
     std::string_view const name = memberName(L, 2);
     bool const isCallable = isValid(checkObject(L, 1)) ? pushMember(L, cls, name) == MemberKind::Callable
                                                        : pushFormerCallable(L, cls, name);
-    return isCallable ? 1 : readProperty(L); // of what cannot be used the host throws its own error
+    if (isCallable)
+        return 1;
+    return readProperty(L, HostContext::of(L).members().ofClass(cls, name)); // of what is invalid the host throws
 }
 
-bool isKnownProperty(lua_State* L)
+/// Null when it is not known yet, or cannot be written.
+Member* knownProperty(lua_State* L)
 {
-    bool const isKnown =
-        pushKnownMember(L) == LUA_TNUMBER && lua_tointeger(L, -1) != lua_Integer(MemberKind::Enumerator);
+    auto* const member =
+        pushKnownMember(L) == LUA_TLIGHTUSERDATA ? static_cast<Member*>(lua_touserdata(L, -1)) : nullptr;
     lua_pop(L, 1);
-    return isKnown;
+    return member && member->kind != MemberKind::Enumerator ? member : nullptr;
 }
 
 void checkWritable(lua_State* L, std::string_view cls, std::string_view name)
@@ -69,16 +71,19 @@ void checkWritable(lua_State* L, std::string_view cls, std::string_view name)
 
 int writeMember(lua_State* L)
 {
-    if (!isKnownProperty(L)) {
+    Member* property = knownProperty(L);
+    if (!property) {
         std::string_view const cls = objectClass(L, 1);
         if (lua_type(L, 2) != LUA_TSTRING && writeItem(L, cls))
             return 0;
-        checkWritable(L, cls, memberName(L, 2));
+        std::string_view const name = memberName(L, 2);
+        checkWritable(L, cls, name);
+        property = &HostContext::of(L).members().ofClass(cls, name);
     }
     HostCall call(L);
     hvArray_tag* const object = call.share(checkObject(L, 1));
-    call.hvm().set(object, textAt(L, 2), call.inputs(3).front(), call.failure());
-    return call.finish(nullptr);
+    call.hvm().set(object, property->name, call.values(3).front(), call.failure());
+    return call.finish(Value());
 }
 
 /// Completes the metatable, argument 1, of a class by its name, argument 2.

@@ -4,7 +4,6 @@
 #include "bindings/MemberIteration.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
-#include "handles/PublishedAnswers.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
@@ -14,6 +13,12 @@
 namespace velmara::console {
 
 namespace {
+
+/// Upvalue 1 of the functions of a proxy's metatable.
+NameRecord& nameRecord(lua_State* L)
+{
+    return *static_cast<NameRecord*>(lua_touserdata(L, lua_upvalueindex(1)));
+}
 
 /// Pushes the value of a published name; false when there is none of that name.
 bool pushName(lua_State* L, std::string const& fullName)
@@ -31,77 +36,28 @@ bool pushName(lua_State* L, std::string const& fullName)
     }
 }
 
-/// Where what is known of a name has its kind. The keys of its contents are texts.
-constexpr lua_Integer kindKey = 0;
-
-/// Pushes what is known of the table at 1, a proxy or the globals: its kind, and its contents by their names. Upvalue 1
-/// of all functions for Lua has it by these tables. False, and nil pushed, when nothing is known.
-bool pushKnown(lua_State* L)
+/// Keeps the value on top of the stack under the key at 2 in the table at 1, the known contents of a name, which Lua
+/// asks before the function that was called for the key.
+void keepContent(lua_State* L)
 {
-    forgetOutdated(L);
-    lua_pushvalue(L, 1);
-    return lua_rawget(L, lua_upvalueindex(1)) == LUA_TTABLE;
-}
-
-/// Pushes the same, created when it is not there.
-void pushContents(lua_State* L)
-{
-    if (pushKnown(L))
-        return;
-    lua_pop(L, 1);
-    lua_newtable(L);
-    lua_pushvalue(L, 1);
+    lua_pushvalue(L, 2);
     lua_pushvalue(L, -2);
-    lua_rawset(L, lua_upvalueindex(1));
+    lua_rawset(L, 1);
 }
 
-/// Pushes what is known under the key at 2. Pushes anything else, and returns false, when that is nothing.
-bool pushKnownContent(lua_State* L)
+/// What is published under the name. Throws an `Error` when that is nothing any more.
+NameKind checkKind(lua_State* L, NameRecord& name)
 {
-    if (!pushKnown(L))
-        return false;
-    lua_pushvalue(L, 2);
-    int const type = lua_rawget(L, -2);
-    return type == LUA_TFUNCTION || type == LUA_TTABLE;
-}
-
-/// Pushes the same from the host, by the full name of the key, and keeps it.
-bool pushContent(lua_State* L, std::string const& fullName)
-{
-    if (!pushName(L, fullName))
-        return false;
-    pushContents(L);
-    lua_pushvalue(L, 2);
-    lua_pushvalue(L, -3);
-    lua_rawset(L, -3);
-    lua_pop(L, 1);
-    return true;
-}
-
-/// The kind of the name of the proxy at 1. Throws an `Error` when it is not published any more.
-NameKind checkKind(lua_State* L)
-{
-    pushContents(L);
-    bool const isKnown = lua_rawgeti(L, -1, kindKey) == LUA_TNUMBER;
-    auto kind = static_cast<NameKind>(lua_tointeger(L, -1));
-    lua_pop(L, 2);
-    if (isKnown)
-        return kind;
-    std::string const name(proxyName(L, 1));
-    kind = HostContext::of(L).hvm().lookUp(name);
+    NameKind const kind = name.kind(HostContext::of(L).hvm());
     if (kind == NameKind::None)
-        fail("unknownName", name + " is not published any more");
-    pushContents(L);
-    lua_pushinteger(L, static_cast<lua_Integer>(kind));
-    lua_rawseti(L, -2, kindKey);
-    lua_pop(L, 1);
+        fail("unknownName", name.text() + " is not published any more");
     return kind;
 }
 
-std::string checkKey(lua_State* L)
+std::string checkKey(lua_State* L, NameRecord const& name)
 {
     if (lua_type(L, 2) != LUA_TSTRING)
-        fail("unknownName", std::string(proxyName(L, 1)) + " is indexed with a name, not with " + valueText(L, 2));
+        fail("unknownName", name.text() + " is indexed with a name, not with " + valueText(L, 2));
     return std::string(textAt(L, 2));
 }
 
@@ -113,8 +69,10 @@ std::string checkKey(lua_State* L)
 int readClassMember(lua_State* L, std::string const& className, std::string const& member)
 {
     MemberKind const kind = pushMember(L, className, member);
-    if (kind == MemberKind::Callable)
+    if (kind == MemberKind::Callable) {
+        keepContent(L);
         return 1;
+    }
     if (kind == MemberKind::Property)
         failWithoutObject(className, member);
     HostCall call(L);
@@ -132,36 +90,37 @@ int writeClassMember(lua_State* L, std::string const& className, std::string con
     return 0;
 }
 
+/// What is not known yet of a name: its known contents are at 1.
 int readProxy(lua_State* L)
 {
-    if (pushKnownContent(L))
+    NameRecord& name = nameRecord(L);
+    std::string const key = checkKey(L, name);
+    if (checkKind(L, name) == NameKind::Class)
+        return readClassMember(L, name.text(), key);
+    if (key.find('.') == key.npos && pushName(L, name.text() + '.' + key)) {
+        keepContent(L);
         return 1;
-    std::string const name(proxyName(L, 1));
-    std::string const key = checkKey(L);
-    if (checkKind(L) == NameKind::Class)
-        return readClassMember(L, name, key);
-    if (key.find('.') == key.npos && pushContent(L, name + '.' + key))
-        return 1;
-    PackageRecord const package = HostContext::of(L).hvm().describePackage(name);
-    fail("unknownName", "package " + name + " has no '" + key + "'" + didYouMean(key, packageContents(package)));
+    }
+    PackageRecord const package = HostContext::of(L).hvm().describePackage(name.text());
+    fail("unknownName", "package " + name.text() + " has no '" + key + "'" + didYouMean(key, packageContents(package)));
 }
 
 int writeProxy(lua_State* L)
 {
-    std::string const name(proxyName(L, 1));
-    std::string const key = checkKey(L);
-    if (checkKind(L) != NameKind::Class)
-        fail("readOnly", "package " + name + " cannot be changed by a script");
-    return writeClassMember(L, name, key);
+    NameRecord& name = nameRecord(L);
+    std::string const key = checkKey(L, name);
+    if (checkKind(L, name) != NameKind::Class)
+        fail("readOnly", "package " + name.text() + " cannot be changed by a script");
+    return writeClassMember(L, name.text(), key);
 }
 
 int callProxy(lua_State* L)
 {
-    std::string_view const name = proxyName(L, 1);
-    if (checkKind(L) != NameKind::Class)
-        fail("notCallable", "package " + std::string(name) + " cannot be called: a class of it can");
+    NameRecord& name = nameRecord(L);
+    if (checkKind(L, name) != NameKind::Class)
+        fail("notCallable", "package " + name.text() + " cannot be called: a class of it can");
     HostCall call(L);
-    return call.finish(call.hvm().construct(name, call.inputs(2)));
+    return call.finish(call.hvm().construct(name.asClass(), call.values(2), call.failure()));
 }
 
 int showProxy(lua_State* L)
@@ -185,13 +144,14 @@ int showProxy(lua_State* L)
 int iterateProxy(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
-    if (checkKind(L) == NameKind::Class && !HostContext::of(L).hvm().describeClass(name).isEnumeration)
+    if (checkKind(L, nameRecord(L)) == NameKind::Class && !HostContext::of(L).hvm().describeClass(name).isEnumeration)
         return iterateMembers(L);
     lua_getglobal(L, "next");
     lua_newtable(L);
-    if (checkKind(L) == NameKind::Class)
+    if (checkKind(L, nameRecord(L)) == NameKind::Class)
         for (EnumeratorRecord const& enumerator : HostContext::of(L).hvm().describeClass(name).enumerators) {
-            readClassMember(L, name, enumerator.name);
+            HostCall call(L);
+            call.finish(call.hvm().getEnumerator(name, enumerator.name));
             lua_setfield(L, -2, enumerator.name.c_str());
         }
     else
@@ -202,21 +162,57 @@ int iterateProxy(lua_State* L)
     return 3;
 }
 
+/// A global that the script has not set, and that is not known yet: the known ones are at 1.
 int readGlobal(lua_State* L)
 {
-    if (pushKnownContent(L))
-        return 1;
     std::string_view const name = textAt(L, 2);
-    if (name.empty() || name.find('.') != name.npos || !pushContent(L, std::string(name)))
+    if (name.empty() || name.find('.') != name.npos || !pushName(L, std::string(name)))
         lua_pushnil(L);
+    else
+        keepContent(L);
     return 1;
 }
 
-void setMetamethod(lua_State* L, char const* name, lua_CFunction function)
+/// Sets `__index` of the metatable on top of the stack: to a table of the contents that are known, which is emptied
+/// when what is published changes. It belongs to the table at the absolute `owner`, and has for others `read`, a
+/// function on top of the metatable, which is popped.
+void setContents(lua_State* L, int owner)
 {
-    pushAnswers(L, Answers::Contents);
-    lua_pushcclosure(L, function, 1);
-    lua_setfield(L, -2, name);
+    lua_createtable(L, 0, 1);
+    lua_insert(L, -2);
+    lua_setfield(L, -2, "__index");
+    lua_newtable(L);
+    lua_insert(L, -2);
+    lua_setmetatable(L, -2);
+    HostContext::of(L).answers().contents.push(L);
+    lua_pushvalue(L, owner);
+    lua_pushvalue(L, -3);
+    lua_rawset(L, -3);
+    lua_pop(L, 1);
+    lua_setfield(L, -2, "__index");
+}
+
+/// Completes the metatable, argument 1, of a proxy, argument 2, with functions for its name, argument 3.
+int completeProxy(lua_State* L)
+{
+    struct Metamethod {
+        char const* name;
+        lua_CFunction function;
+    };
+    constexpr Metamethod metamethods[] = {{"__newindex", guarded<writeProxy>},
+                                          {"__call", guarded<callProxy>},
+                                          {"__pairs", guarded<iterateProxy>},
+                                          {"__tostring", guarded<showProxy>}};
+    for (auto const& [name, function] : metamethods) {
+        lua_pushvalue(L, 3);
+        lua_pushcclosure(L, function, 1);
+        lua_setfield(L, 1, name);
+    }
+    lua_pushvalue(L, 1);
+    lua_pushvalue(L, 3);
+    lua_pushcclosure(L, guarded<readProxy>, 1);
+    setContents(L, 2);
+    return 0;
 }
 
 } // namespace
@@ -241,17 +237,14 @@ std::vector<std::string> packageContents(PackageRecord const& package)
 
 void bindPublishedNames(lua_State* L)
 {
-    pushProxyMetatable(L);
-    setMetamethod(L, "__index", guarded<readProxy>);
-    setMetamethod(L, "__newindex", guarded<writeProxy>);
-    setMetamethod(L, "__call", guarded<callProxy>);
-    setMetamethod(L, "__pairs", guarded<iterateProxy>);
-    setField(L, "__tostring", guarded<showProxy>);
+    completeProxiesWith(L, guarded<completeProxy>);
     lua_pushglobaltable(L);
+    int const globals = lua_gettop(L);
     lua_createtable(L, 0, 1);
-    setMetamethod(L, "__index", guarded<readGlobal>);
-    lua_setmetatable(L, -2);
-    lua_pop(L, 2);
+    lua_pushcfunction(L, guarded<readGlobal>);
+    setContents(L, globals);
+    lua_setmetatable(L, globals);
+    lua_pop(L, 1);
 }
 
 } // namespace velmara::console

@@ -3,23 +3,17 @@
 #include "lua/ScriptError.hpp"
 
 #include <cstdio>
-#include <cstring>
 
 namespace velmara::console {
 
-HostContext::HostContext(lua_State* L, bool reportsLeaks) : running_(L), reportsLeaks_(reportsLeaks)
+HostContext::HostContext(lua_State* L, bool reportsLeaks)
+    : ChangeWatch([](lua_State* changed) { of(changed).answers().forget(changed); }),
+      running_(L),
+      reportsLeaks_(reportsLeaks)
 {
     machines_.push_back(createMachine());
-    // Lua copies this space of the main thread into every coroutine.
-    HostContext* self = this;
-    std::memcpy(lua_getextraspace(L), &self, sizeof self);
-}
-
-HostContext& HostContext::of(lua_State* L)
-{
-    HostContext* context = nullptr;
-    std::memcpy(&context, lua_getextraspace(L), sizeof context);
-    return *context;
+    watchMachine();
+    attach(L);
 }
 
 std::unique_ptr<Hvm> HostContext::createMachine()
@@ -41,7 +35,7 @@ HostContext::FreshMachine::FreshMachine(HostContext& context) : context_(context
     for (ModuleRecord const& module : context.hvm().modules())
         machine->loadModule(std::u8string(module.file.begin(), module.file.end()));
     context.machines_.push_back(std::move(machine));
-    context.publicationNumber_ = 0;
+    context.watchMachine();
 }
 
 void HostContext::requireOpen() const

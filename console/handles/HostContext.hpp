@@ -2,7 +2,11 @@
 
 #include "handles/ArrayStack.hpp"
 #include "handles/HeldArrays.hpp"
+#include "handles/Member.hpp"
 #include "handles/OwnedFunctions.hpp"
+#include "handles/PublishedAnswers.hpp"
+#include "handles/NameRecord.hpp"
+#include "lua/ChangeWatch.hpp"
 #include "lua/LuaApi.hpp"
 
 #include "velmara/Hvm.hpp"
@@ -17,7 +21,7 @@ namespace velmara::console {
 
 /// What a Lua state uses of the host: virtual machines, and the host arrays that are in transit between the two or held
 /// by values of the script.
-class HostContext {
+class HostContext : private ChangeWatch {
 public:
     /// Makes `of` find this context from the state, which must be closed before `clear`. With `reportsLeaks`, what
     /// native code leaves in a virtual machine is reported on stderr when that is destroyed.
@@ -26,21 +30,20 @@ public:
     HostContext& operator=(HostContext const&) = delete;
 
     /// The context of a Lua state or of one of its coroutines.
-    static HostContext& of(lua_State* L);
+    static HostContext& of(lua_State* L) { return static_cast<HostContext&>(ChangeWatch::of(L)); }
 
     ArrayStack& arrays() { return arrays_; }
     HeldArrays& heldArrays() { return heldArrays_; }
     OwnedFunctions& ownedFunctions() { return ownedFunctions_; }
+    PublishedAnswers& answers() { return answers_; }
+    Members& members() { return members_; }
+    NameRecords& nameRecords() { return nameRecords_; }
+
+    /// The values of objects: see ObjectValues.hpp.
+    RegistryTable& objectValues() { return objectValues_; }
 
     /// The virtual machine in use: the innermost one.
     Hvm& hvm() { return *machines_.back(); }
-
-    /// Whether what the machine in use publishes has changed since this was asked last, or another one is in use.
-    bool hasPublicationChanged()
-    {
-        std::uint64_t const number = hvm().publicationNumber();
-        return std::exchange(publicationNumber_, number) != number;
-    }
 
     /// The script, or the coroutine of it, that has called the host most recently and is still running; null once the
     /// state was closed. Functions of the script that the host calls run there.
@@ -76,7 +79,8 @@ public:
     /// properties: a getter could show its own object over and over.
     bool& isShowing() { return isShowing_; }
 
-    /// Puts a fresh virtual machine with the same modules into use, for its own lifetime.
+    /// Puts a fresh virtual machine with the same modules into use, for its own lifetime. What the script has of names
+    /// is that of the other one until `ChangeWatch::check`.
     class FreshMachine {
     public:
         explicit FreshMachine(HostContext& context);
@@ -85,7 +89,7 @@ public:
         ~FreshMachine()
         {
             context_.machines_.pop_back();
-            context_.publicationNumber_ = 0;
+            context_.watchMachine();
         }
 
     private:
@@ -110,13 +114,18 @@ private:
     /// A virtual machine that reports modules that fail to terminate, and leaks where asked for.
     std::unique_ptr<Hvm> createMachine();
 
+    void watchMachine() { number = &hvm().publicationNumber(); }
+
     lua_State* running_;
     std::optional<std::size_t> waiting_; ///< how many arrays were in transit when the innermost callback began
     std::vector<std::unique_ptr<Hvm>> machines_;
     ArrayStack arrays_;
     HeldArrays heldArrays_;
     OwnedFunctions ownedFunctions_;
-    std::uint64_t publicationNumber_ = 0; ///< the latest one that was asked for; 0 for none
+    RegistryTable objectValues_{"v"};
+    PublishedAnswers answers_;
+    Members members_;
+    NameRecords nameRecords_;
     bool hasFailed_ = false;
     bool isClosing_ = false;
     bool reportsLeaks_;

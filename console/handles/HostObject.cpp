@@ -2,9 +2,7 @@
 
 #include "handles/HostContext.hpp"
 #include "handles/ObjectValues.hpp"
-#include "handles/PublishedAnswers.hpp"
 #include "handles/ValueText.hpp"
-#include "lua/CachedValue.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
 
@@ -27,6 +25,7 @@ char const objectMark = 0;     // its address tells objects from other values
 struct ObjectHolder {
     void const* mark = &objectMark;
     HeldArrays::Holder held;
+    orbis::COSInterface* host = nullptr; ///< valid while the array is held
 };
 
 /// Null for any other value.
@@ -125,11 +124,12 @@ int compareObjects(lua_State* L)
     return 1;
 }
 
+/// Pushes the metatable of a class by its shared name.
 void pushMetatable(lua_State* L, std::string_view className)
 {
-    forgetOutdated(L);
-    pushAnswers(L, Answers::Metatables);
-    pushCached(L, lua_gettop(L), className, [&] {
+    HostContext::of(L).answers().metatables.push(L);
+    if (lua_rawgetp(L, -1, className.data()) != LUA_TTABLE) [[unlikely]] {
+        lua_pop(L, 1);
         lua_newtable(L);
         setField(L, "__gc", guarded<collectObject>);
         setField(L, "__close", guarded<releaseObject>);
@@ -141,8 +141,10 @@ void pushMetatable(lua_State* L, std::string_view className)
         lua_pushvalue(L, -2);
         pushText(L, className);
         lua_call(L, 2, 0);
-    });
-    lua_remove(L, -2);
+        lua_pushvalue(L, -1);
+        lua_rawsetp(L, -3, className.data()); // last: a shortage of memory leaves none that is half done
+    }
+    lua_replace(L, -2);
 }
 
 /// Pushes the value that holds the object already; false, and nothing pushed, when there is none.
@@ -150,7 +152,7 @@ bool pushKnown(lua_State* L, orbis::COSInterface const* host)
 {
     pushRecordedValue(L, host);
     if (auto const* const holder = static_cast<ObjectHolder*>(lua_touserdata(L, -1));
-        holder && hostIn(holder->held.array) == host)
+        holder && holder->held.array && holder->host == host)
         return true;
     lua_pop(L, 1);
     return false;
@@ -162,11 +164,12 @@ void pushNew(lua_State* L, HostContext& context, orbis::COSInterface* host)
     hvArray_tag* const scalar = frame.push(ArrayPtr(orbis::omCreateORBISScalar(host)));
     auto* const holder =
         new (lua_newuserdatauv(L, sizeof(ObjectHolder), 1)) ObjectHolder; // its user value: see OwnedFunctions
-    pushMetatable(L, className(scalar));
+    pushMetatable(L, sharedClassName(scalar));
     lua_setmetatable(L, -2);
     scalar->add_reference();
     context.heldArrays().hold(holder->held, ArrayPtr(scalar));
-    recordValue(L, host, -1);
+    holder->host = host;
+    recordValue(L, host, -1, holder->held.slot);
 }
 
 } // namespace
@@ -175,7 +178,6 @@ void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
     HostContext& context = HostContext::of(L);
     context.requireOpen();
-    luaL_checkstack(L, 10, nullptr);
     orbis::COSInterface* const host = hostIn(array, index);
     if (!host)
         return lua_pushnil(L);
@@ -212,6 +214,14 @@ namespace {
 }
 
 } // namespace
+
+hvArray_tag* testObject(lua_State* L, int index)
+{
+    ObjectHolder const* const holder = testHolder(L, index);
+    if (holder && !holder->held.array) [[unlikely]]
+        throwClosed(L, index);
+    return holder ? holder->held.array : nullptr;
+}
 
 hvArray_tag* checkObject(lua_State* L, int index)
 {

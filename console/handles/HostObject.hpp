@@ -13,7 +13,8 @@ namespace velmara::console {
 /// object when it is collected, or closed as a `<close>` variable; the object then gets another value when it crosses
 /// again. Until then it has one: table keys and `rawequal` agree with ==.
 
-/// Pushes the object at a zero-based index of an object array; nil for a null element.
+/// Pushes the object at a zero-based index of an object array; nil for a null element. Needs room for 10 values on the
+/// stack.
 void pushObject(lua_State* L, hvArray_tag const* array, std::size_t index);
 
 /// Has `complete` called with the metatable and the name of each class whose first object is pushed from now on: it
@@ -29,6 +30,9 @@ bool isObject(lua_State* L, int index);
 /// The array of the object at `index`; it stays the script's. Throws an `Error` when there is no object, or when it
 /// was released.
 hvArray_tag* checkObject(lua_State* L, int index);
+
+/// The same; null when there is no object.
+hvArray_tag* testObject(lua_State* L, int index);
 
 /// The class of the object at `index`, also when it was released; valid while the object is on the stack.
 std::string_view objectClass(lua_State* L, int index);

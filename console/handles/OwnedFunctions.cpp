@@ -6,15 +6,9 @@
 
 namespace velmara::console {
 
-namespace {
-
-char const anchorsKey = 0; // its address is the key of all values in the registry: their garbage is found there until
-                           // it is finalized
-
-/// Pushes the userdata; false, and nothing pushed, when it is gone.
-bool pushAnchor(lua_State* L, void const* userdata)
+bool OwnedFunctions::pushAnchor(lua_State* L, void const* userdata)
 {
-    pushWeakTable(L, &anchorsKey, "k");
+    anchors_.push(L);
     lua_pushnil(L);
     while (lua_next(L, -2) != 0) {
         lua_pop(L, 1);
@@ -26,8 +20,6 @@ bool pushAnchor(lua_State* L, void const* userdata)
     lua_pop(L, 1);
     return false;
 }
-
-} // namespace
 
 void OwnedFunctions::add(Host host, Function& function)
 {
@@ -79,7 +71,7 @@ void OwnedFunctions::anchor(lua_State* L, Host host)
         lua_rawsetp(L, -2, function);
     }
     lua_setiuservalue(L, -2, 1);
-    pushWeakTable(L, &anchorsKey, "k");
+    anchors_.push(L);
     lua_pushvalue(L, -2);
     lua_pushboolean(L, true);
     lua_rawset(L, -3);

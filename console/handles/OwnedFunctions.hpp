@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lua/LuaApi.hpp"
+#include "lua/RegistryTable.hpp"
 
 #include "orbis/COSInterface.hpp"
 
@@ -70,7 +70,11 @@ private:
         bool isWanted = false;
     };
 
+    /// Pushes the userdata; false, and nothing pushed, when it is gone.
+    bool pushAnchor(lua_State* L, void const* userdata);
+
     std::unordered_map<Host, Entry> entries_;
+    RegistryTable anchors_{"k"}; ///< has all values for its keys: their garbage is found there until it is finalized
 };
 
 } // namespace velmara::console

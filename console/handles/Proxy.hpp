@@ -9,8 +9,9 @@ namespace velmara::console {
 /// What a script sees of packages and classes: an empty table that represents a dotted name. The name is looked up at
 /// each use, so that a proxy kept beyond its package's end gives a clean error.
 
-/// Pushes the metatable of all proxies. What a script does with them is added to it: see ProxyBinding.hpp.
-void pushProxyMetatable(lua_State* L);
+/// Has `complete` called with the metatable of each new proxy, the proxy, and its `NameRecord`, a light userdata: it
+/// adds what a script does with them. See ProxyBinding.hpp.
+void completeProxiesWith(lua_State* L, lua_CFunction complete);
 
 /// Pushes the proxy of a name; one name has one proxy.
 void pushProxy(lua_State* L, std::string_view fullName);

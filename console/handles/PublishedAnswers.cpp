@@ -4,11 +4,6 @@ namespace velmara::console {
 
 namespace {
 
-constexpr Answers allAnswers[] = {Answers::Members, Answers::Contents, Answers::Metatables};
-
-// Their addresses are the keys of the tables in the registry.
-char const answerKeys[std::size(allAnswers)] = {};
-
 /// Needs no memory.
 void clearTable(lua_State* L, int table)
 {
@@ -22,31 +17,19 @@ void clearTable(lua_State* L, int table)
 
 } // namespace
 
-void pushAnswers(lua_State* L, Answers answers)
-{
-    char const* const key = &answerKeys[static_cast<int>(answers)];
-    if (lua_rawgetp(L, LUA_REGISTRYINDEX, key) == LUA_TTABLE)
-        return;
-    lua_pop(L, 1);
-    lua_newtable(L);
-    lua_pushvalue(L, -1);
-    lua_rawsetp(L, LUA_REGISTRYINDEX, key);
-}
-
-void forgetAnswers(lua_State* L)
+void PublishedAnswers::forget(lua_State* L)
 {
     luaL_checkstack(L, 8, nullptr);
-    for (Answers const answers : allAnswers) {
-        pushAnswers(L, answers);
-        int const table = lua_gettop(L);
-        // Functions hold the tables of members: they are emptied, not only dropped.
-        for (lua_pushnil(L); answers == Answers::Members && lua_next(L, table) != 0; lua_pop(L, 1))
+    for (RegistryTable* const tables : {&members, &contents}) {
+        tables->push(L);
+        int const outer = lua_gettop(L);
+        for (lua_pushnil(L); lua_next(L, outer) != 0; lua_pop(L, 1))
             clearTable(L, lua_gettop(L));
-        lua_settop(L, table);
-        if (answers != Answers::Members)
-            clearTable(L, table);
-        lua_pop(L, 1);
+        lua_settop(L, outer - 1);
     }
+    metatables.push(L);
+    clearTable(L, lua_gettop(L));
+    lua_pop(L, 1);
 }
 
 } // namespace velmara::console

@@ -1,26 +1,18 @@
 #pragma once
 
-#include "handles/HostContext.hpp"
+#include "lua/RegistryTable.hpp"
 
 namespace velmara::console {
 
 /// What the console has asked about published names, and what it has made of the answers. All of it is forgotten once
 /// what is published has changed.
+struct PublishedAnswers {
+    RegistryTable members;    ///< of classes: tables by class
+    RegistryTable contents;   ///< of names: tables by proxy
+    RegistryTable metatables; ///< of objects, by the shared name of their class
 
-/// Tables of tables in the registry: the members of classes by class, the contents of names by proxy, the metatables
-/// of objects by class.
-enum class Answers { Members, Contents, Metatables };
-
-/// Pushes one of them. Call `forgetOutdated` before anything is read from it.
-void pushAnswers(lua_State* L, Answers answers);
-
-/// Empties them, and the tables in the first two.
-void forgetAnswers(lua_State* L);
-
-inline void forgetOutdated(lua_State* L)
-{
-    if (HostContext::of(L).hasPublicationChanged()) [[unlikely]]
-        forgetAnswers(L);
-}
+    /// Empties the tables, and those in the first two, which values of the script refer to.
+    void forget(lua_State* L);
+};
 
 } // namespace velmara::console

@@ -9,7 +9,7 @@ namespace {
 
 using Step = ExpressionStep::Kind;
 
-bool isIdentifier(unsigned char c)
+bool isIdentifierCharacter(unsigned char c)
 {
     return std::isalnum(c) != 0 || c == '_';
 }
@@ -69,7 +69,7 @@ ExpressionStep takeName(std::string_view& text)
 
 std::size_t identifierLength(std::string_view text)
 {
-    auto const end = std::find_if_not(text.rbegin(), text.rend(), isIdentifier);
+    auto const end = std::find_if_not(text.rbegin(), text.rend(), isIdentifierCharacter);
     return static_cast<std::size_t>(end - text.rbegin());
 }
 
@@ -80,7 +80,7 @@ std::vector<ExpressionStep> expressionAtEnd(std::string_view text)
         char const last = text.back();
         if (last == ')' || last == ']' || last == '}' || isQuote(last))
             steps.push_back(takeBrackets(text));
-        else if (isIdentifier(static_cast<unsigned char>(last)))
+        else if (isIdentifierCharacter(static_cast<unsigned char>(last)))
             steps.push_back(takeName(text));
         else
             break;

@@ -24,14 +24,18 @@ inline void pushText(lua_State* L, std::string_view text)
     lua_pushlstring(L, text.data(), text.size());
 }
 
-/// The text of the string at `index`; valid while the string is on the stack. Empty for anything but a string.
+/// The text of the value at `index`, which is a string; valid while that is on the stack.
+inline std::string_view stringValue(lua_State* L, int index)
+{
+    std::size_t length = 0;
+    char const* const text = lua_tolstring(L, index, &length);
+    return {text, length};
+}
+
+/// The same; empty for anything but a string.
 inline std::string_view textAt(lua_State* L, int index)
 {
-    if (lua_type(L, index) != LUA_TSTRING)
-        return {};
-    std::size_t length = 0;
-    char const* text = lua_tolstring(L, index, &length);
-    return {text, length};
+    return lua_type(L, index) == LUA_TSTRING ? stringValue(L, index) : std::string_view();
 }
 
 } // namespace velmara::console

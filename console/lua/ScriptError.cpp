@@ -1,6 +1,7 @@
 #include "lua/ScriptError.hpp"
 
 #include "lua/CachedValue.hpp"
+#include "lua/ChangeWatch.hpp"
 #include "lua/ScriptFailure.hpp"
 #include "lua/ScriptFrames.hpp"
 #include "lua/Table.hpp"
@@ -39,8 +40,8 @@ void pushError(lua_State* L, std::string_view identifier, std::string_view text)
     lua_createtable(L, 0, 3);
     setField(L, "identifier", identifier);
     setField(L, "text", text);
-    if (auto const frames = scriptFrames(L, 0, 1); !frames.empty())
-        setField(L, "where", frames.front().position);
+    if (std::string const position = scriptPosition(L); !position.empty())
+        setField(L, "where", position);
     pushNamedMetatable(L, "velmara.error", [L] { setField(L, "__tostring", guarded<errorToText>); });
     lua_setmetatable(L, -2);
 }
@@ -103,8 +104,9 @@ void fail(std::string_view key, std::string const& text)
 int callGuarded(lua_State* L, lua_CFunction body)
 {
     try {
-        if (int const results = body(L); results != raised) [[likely]]
-            return results;
+        int const results = body(L);
+        ChangeWatch::check(L);
+        return results;
     } catch (ScriptFailure const& failure) {
         pushFailure(L, failure);
     } catch (Error const& error) {
@@ -116,7 +118,8 @@ int callGuarded(lua_State* L, lua_CFunction body)
     } catch (std::exception const& error) {
         pushError(L, "VELMARA:console:internal", error.what());
     } // no `catch (...)`: Lua's own errors must reach Lua
-    return lua_error(L);
+    ChangeWatch::check(L);
+    return raised;
 }
 
 } // namespace velmara::console

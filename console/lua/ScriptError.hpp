@@ -34,10 +34,10 @@ std::string errorText(lua_State* L, int index);
 /// Throws the console's own `velmara::Error` "VELMARA:console:KEY".
 [[noreturn]] void fail(std::string_view key, std::string const& text);
 
-/// What a function returns that has pushed an error value for `callGuarded` to raise.
+/// What a function returns that has pushed an error value for its caller to raise.
 inline constexpr int raised = -1;
 
-/// Calls `body`; what it throws becomes a Lua error, and so does what it has `raised`. Lua's own errors pass through
+/// Calls `body`; for what it throws, pushes the error value, and returns `raised`. Lua's own errors pass through
 /// untouched.
 int callGuarded(lua_State* L, lua_CFunction body);
 
@@ -45,7 +45,9 @@ int callGuarded(lua_State* L, lua_CFunction body);
 template <lua_CFunction Body>
 int guarded(lua_State* L)
 {
-    return callGuarded(L, Body);
+    // The call at the end lets the compiler drop this frame first: each one that an error unwinds costs.
+    int const results = callGuarded(L, Body);
+    return results == raised ? lua_error(L) : results;
 }
 
 } // namespace velmara::console

@@ -14,6 +14,9 @@ struct ScriptFrame {
     std::string function; ///< its name where it has one
 };
 
+/// The position of the innermost running function of the script; empty when none runs.
+std::string scriptPosition(lua_State* L);
+
 /// The script's running functions from `level` on, innermost first and at most `maxFrames`. C functions are omitted.
 std::vector<ScriptFrame> scriptFrames(lua_State* L, int level, std::size_t maxFrames);
 

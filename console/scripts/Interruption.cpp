@@ -176,7 +176,7 @@ void checkInterrupt(lua_State* L, int countBefore)
 {
     if (raisedCount == countBefore)
         return;
-    callGuarded(L, raiseError);
+    guarded<raiseError>(L);
 }
 
 } // namespace velmara::console

@@ -39,10 +39,8 @@ NativeReading::NativeReading(lua_State* L, hvArray_tag* object, Read const& read
     if (object)
         call_.share(object);
     try {
-        if (ArrayPtr const array = read(call_.hvm(), call_.failure()))
+        if (ArrayPtr const array = read(call_.hvm()))
             value_ = call_.share(array.get());
-        if (auto const& failure = call_.failure())
-            throw Error(*failure);
     } catch (Error const& error) {
         if (error.identifier() == interruptionIdentifier)
             throw; // it is meant for all that the script does
@@ -52,12 +50,12 @@ NativeReading::NativeReading(lua_State* L, hvArray_tag* object, Read const& read
 
 NativeReading readForShow(lua_State* L, hvArray_tag* object, std::string const& property)
 {
-    return {L, object, [&](Hvm& hvm, Hvm::Failure& failure) { return hvm.get(object, property, failure); }};
+    return {L, object, [&](Hvm& hvm) { return hvm.get(object, property); }};
 }
 
 NativeReading readStaticForShow(lua_State* L, std::string const& className, std::string const& property)
 {
-    return {L, nullptr, [&](Hvm& hvm, Hvm::Failure&) { return hvm.getStatic(className, property); }};
+    return {L, nullptr, [&](Hvm& hvm) { return hvm.getStatic(className, property); }};
 }
 
 bool hasText(ClassRecord const& cls)
@@ -68,9 +66,8 @@ bool hasText(ClassRecord const& cls)
 NativeReading readText(lua_State* L, hvArray_tag* object, ClassRecord const& cls)
 {
     bool const isStatic = findText(cls)->kind == MethodRecord::Kind::StaticMethod;
-    return {L, object, [&](Hvm& hvm, Hvm::Failure& failure) {
-                return isStatic ? hvm.callStatic(cls.name, "text", Hvm::Inputs(&object, 1))
-                                : hvm.call(object, "text", {}, failure);
+    return {L, object, [&](Hvm& hvm) {
+                return isStatic ? hvm.callStatic(cls.name, "text", Hvm::Inputs(&object, 1)) : hvm.call(object, "text");
             }};
 }
 

@@ -14,7 +14,7 @@ namespace velmara::console {
 /// is made of what it gives.
 class NativeReading {
 public:
-    using Read = std::function<ArrayPtr(Hvm&, Hvm::Failure&)>;
+    using Read = std::function<ArrayPtr(Hvm&)>;
 
     /// `object` is what `read` uses, null for none.
     NativeReading(lua_State* L, hvArray_tag* object, Read const& read);

@@ -8,6 +8,7 @@
 #include "lua/ScriptError.hpp"
 #include "values/FunctionValue.hpp"
 #include "values/HostText.hpp"
+#include "values/ScalarValue.hpp"
 #include "values/ValueToHost.hpp"
 #include "values/ValueToLua.hpp"
 
@@ -31,23 +32,6 @@ using orbis::host_extensions::convertNumber;
 using orbis::host_extensions::findNumericClass;
 using orbis::host_extensions::functionClass;
 using orbis::host_extensions::visitNumericClass;
-
-template <class T>
-void pushNumber(lua_State* L, T number)
-{
-    if constexpr (std::same_as<T, bool>)
-        lua_pushboolean(L, number);
-    else if constexpr (std::is_floating_point_v<T>)
-        lua_pushnumber(L, number);
-    else if (std::in_range<lua_Integer>(number))
-        lua_pushinteger(L, static_cast<lua_Integer>(number));
-    else {
-        ArrayStack::Frame frame(HostContext::of(L).arrays());
-        hvArray_tag* const scalar =
-            frame.push(ArrayPtr(orbis::host_extensions::createMatrix(1, 1, hvUINT64_CLASS, &number)));
-        pushHostArray(L, *scalar);
-    }
-}
 
 void replaceNil(lua_State* L)
 {
@@ -146,9 +130,11 @@ void storeText(lua_State* L, int value, hvArray_tag* array, std::size_t index)
 
 void storeCell(lua_State* L, int value, hvArray_tag* cells, std::size_t index, Conversion& conversion)
 {
-    ArrayPtr content = isNull(L, value) ? nullptr : toHost(L, value, conversion);
+    int const type = lua_type(L, value);
+    bool const isUserdata = type == LUA_TUSERDATA;
+    ArrayPtr content = isUserdata && isNull(L, value) ? nullptr : toHost(L, value, type, conversion);
     // The array of an object stays the script's; the cell gets a copy.
-    if (content && isObject(L, value))
+    if (content && isUserdata && isObject(L, value))
         content.reset(hvCreateSharedDataCopy(content.get()));
     hvSetCell(cells, index, content.get());
     static_cast<void>(content.release());
@@ -170,16 +156,16 @@ void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
 {
     hvClassID const classID = array->_get_class_id_non_trivial();
     if (!findNumericClass(classID))
-        luaL_checkstack(L, 8, nullptr);
+        luaL_checkstack(L, 12, nullptr);
     if (classID == functionClass)
         return pushFunction(L, *array);
     void const* const data = orbis::host_extensions::getData(array);
     switch (classID) {
     case hvCHAR_CLASS:
-        return pushText(L, toUtf8({static_cast<char16_t const*>(data) + index, 1}));
+        return pushHostText(L, {static_cast<char16_t const*>(data) + index, 1});
     case hvSTRING_CLASS:
         if (auto const text = stringAt(*array, index))
-            return pushText(L, toUtf8(*text));
+            return pushHostText(L, *text);
         return pushMissing(L);
     case hvCELL_CLASS:
         pushValue(L, orbis::host_extensions::getCell(array, index));
@@ -188,7 +174,7 @@ void pushElement(lua_State* L, hvArray_tag const* array, std::size_t index)
         pushObject(L, array, index);
         return replaceNil(L);
     default:
-        visitNumericClass(classID, [&]<class T>(T) { pushNumber(L, static_cast<T const*>(data)[index]); });
+        pushNumericElement(L, classID, data, index);
     }
 }
 

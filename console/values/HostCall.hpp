@@ -4,6 +4,7 @@
 #include "handles/HostContext.hpp"
 
 #include <utility>
+#include <vector>
 
 namespace velmara::console {
 
@@ -28,7 +29,10 @@ public:
     /// Shares ownership of an array for the length of the call: the script may release it meanwhile.
     hvArray_tag* share(hvArray_tag* array);
 
-    /// The host arrays for the function's arguments from the `first` on. Call once.
+    /// The values for the function's arguments from the `first` on: scalars, and host arrays of the call. Call once.
+    Hvm::Values values(int first);
+
+    /// The host arrays for them. Call once.
     Hvm::Inputs inputs(int first);
 
     /// Where the call's last operation puts its failure.
@@ -36,15 +40,24 @@ public:
 
     /// Pushes the result, where there is one; returns the number of values pushed. After a failure pushes that, and
     /// returns `raised`.
-    int finish(ArrayPtr result);
+    int finish(Value result);
+    int finish(ArrayPtr result) { return finish(Value(std::move(result))); }
 
 private:
+    static constexpr int inlineCapacity = 8;
+
+    int finishArray(ArrayPtr result, ValueShape shape);
+
     lua_State* L_;
     HostContext& host_;
     ArrayStack::Frame frame_;
     lua_State* previous_;
     bool keepsArray_;
     Hvm::Failure failure_;
+    std::vector<orbis::COSValue> moreValues_; ///< where there are more than `inlineCapacity`
+    union {
+        orbis::COSValue inlineValues_[inlineCapacity]; ///< not initialized
+    };
 };
 
 } // namespace velmara::console

@@ -6,14 +6,38 @@
 
 namespace velmara::console {
 
+using orbis::host_extensions::utf8Size;
+using orbis::host_extensions::writeUtf8;
+
 std::string toUtf8(std::u16string_view text)
 {
-    return fl::i18n::to_string(std::u16string(text));
+    std::string utf8(utf8Size(text), '\0');
+    writeUtf8(text, utf8.data());
+    return utf8;
+}
+
+void pushHostText(lua_State* L, std::u16string_view text)
+{
+    std::size_t const size = utf8Size(text);
+    if (char utf8[256]; size <= sizeof utf8) [[likely]] {
+        writeUtf8(text, utf8);
+        lua_pushlstring(L, utf8, size);
+        return;
+    }
+    luaL_Buffer buffer;
+    writeUtf8(text, luaL_buffinitsize(L, &buffer, size));
+    luaL_pushresultsize(&buffer, size);
 }
 
 std::u16string hostTextAt(lua_State* L, int index)
 {
     return fl::i18n::to_ustring(std::string(textAt(L, index)));
+}
+
+std::u16string_view textOf(hvArray_tag const& characters)
+{
+    return {static_cast<char16_t const*>(orbis::host_extensions::getData(&characters)),
+            characters.get_number_of_elements()};
 }
 
 std::u16string rowOf(hvArray_tag const& characters, std::size_t row)

@@ -14,11 +14,15 @@ namespace velmara::console {
 /// Text of scripts, UTF-8, and of the host, UTF-16. What is ill-formed becomes U+FFFD in the other form.
 
 std::string toUtf8(std::u16string_view text);
+void pushHostText(lua_State* L, std::u16string_view text);
 
 /// The text of the string at `index`; empty for anything but a string.
 std::u16string hostTextAt(lua_State* L, int index);
 
-/// One row of a character array.
+/// The characters of an array that has at most one row, valid until it is written to.
+std::u16string_view textOf(hvArray_tag const& characters);
+
+/// One row of any character array.
 std::u16string rowOf(hvArray_tag const& characters, std::size_t row);
 
 /// An element of a string array, valid until that is written to; nothing when it is missing.

@@ -1,5 +1,6 @@
 #include "values/LuaFunction.hpp"
 
+#include "lua/ChangeWatch.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/ScriptFailure.hpp"
 #include "values/ValueToHost.hpp"
@@ -34,6 +35,7 @@ ArrayPtr firstResult(lua_State* L, int index)
 void Call::run(lua_State* L)
 {
     luaL_checkstack(L, static_cast<int>(inputs.size()) + 8, "too many inputs");
+    ChangeWatch::check(L);
     lua_pushcfunction(L, recordFailure);
     int const base = lua_gettop(L);
     function.push(L);

@@ -4,7 +4,7 @@
 #include "handles/Proxy.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
-#include "values/ValueToHost.hpp"
+#include "values/ScalarValue.hpp"
 
 #include <algorithm>
 #include <string>

@@ -6,7 +6,7 @@
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
 #include "values/FunctionValue.hpp"
-#include "values/HostText.hpp"
+#include "values/ScalarValue.hpp"
 #include "values/TableToHost.hpp"
 
 #include "velmara/Hvm.hpp"
@@ -18,33 +18,14 @@ namespace velmara::console {
 
 namespace {
 
-template <class T>
-ArrayPtr scalar(T value, hvClassID classID)
-{
-    ArrayPtr array(orbis::host_extensions::createMatrix(1, 1, classID));
-    *static_cast<T*>(orbis::host_extensions::getWritableData(array.get())) = value;
-    return array;
-}
-
 ArrayPtr emptyArray()
 {
     return ArrayPtr(orbis::host_extensions::createMatrix(0, 0, hvDOUBLE_CLASS));
 }
 
-ArrayPtr number(lua_State* L, int index)
-{
-    if (!lua_isinteger(L, index))
-        return scalar(lua_tonumber(L, index), hvDOUBLE_CLASS);
-    lua_Integer const value = lua_tointeger(L, index);
-    if (isInExactRange(value))
-        return scalar(static_cast<double>(value), hvDOUBLE_CLASS);
-    return scalar<std::int64_t>(value, hvINT64_CLASS);
-}
-
 ArrayPtr userdata(lua_State* L, int index)
 {
-    if (isObject(L, index)) {
-        hvArray_tag* const object = checkObject(L, index);
+    if (hvArray_tag* const object = testObject(L, index)) {
         object->add_reference();
         return ArrayPtr(object);
     }
@@ -60,17 +41,15 @@ ArrayPtr userdata(lua_State* L, int index)
 
 } // namespace
 
-ArrayPtr toHost(lua_State* L, int index, Conversion& conversion)
+ArrayPtr toHost(lua_State* L, int index, int type, Conversion& conversion)
 {
-    switch (lua_type(L, index)) {
+    if (orbis::COSValue scalar; readScalar(L, index, type, scalar))
+        return toArray(scalar);
+    switch (type) {
     case LUA_TNIL:
         return emptyArray();
-    case LUA_TBOOLEAN:
-        return scalar(lua_toboolean(L, index) != 0, hvLOGICAL_CLASS);
-    case LUA_TNUMBER:
-        return number(L, index);
     case LUA_TSTRING:
-        return ArrayPtr(orbis::host_extensions::createText(hostTextAt(L, index)));
+        return ArrayPtr(orbis::host_extensions::createText(stringValue(L, index)));
     case LUA_TTABLE:
         return tableToHost(L, lua_absindex(L, index), conversion);
     case LUA_TUSERDATA:

@@ -7,7 +7,7 @@
 
 namespace velmara::console {
 
-/// The host array for the Lua value at `index`.
+/// The host array for the Lua value at `index`, which is of that Lua type.
 ///
 /// - a number: a double where it is exactly one, else an int64; a boolean: logical
 /// - a string: 1-by-n characters, its bytes read as UTF-8; the empty string 0-by-0
@@ -17,19 +17,17 @@ namespace velmara::console {
 /// - a table: see TableToHost.hpp
 ///
 /// Throws an `Error` for anything else. Runs no code of the script.
-ArrayPtr toHost(lua_State* L, int index, Conversion& conversion);
+ArrayPtr toHost(lua_State* L, int index, int type, Conversion& conversion);
+
+inline ArrayPtr toHost(lua_State* L, int index, Conversion& conversion)
+{
+    return toHost(L, index, lua_type(L, index), conversion);
+}
 
 inline ArrayPtr toHost(lua_State* L, int index)
 {
     Conversion conversion;
     return toHost(L, index, conversion);
-}
-
-/// True for the integers that are passed as doubles: every integer up to their magnitude is exactly one.
-constexpr bool isInExactRange(lua_Integer value)
-{
-    constexpr lua_Integer limit = lua_Integer{1} << 53;
-    return -limit <= value && value <= limit;
 }
 
 } // namespace velmara::console

@@ -11,7 +11,6 @@
 #include "host_extensions/functionValues.hpp"
 #include "host_extensions/host_extensions.hpp"
 #include "host_extensions/numericClasses.hpp"
-#include "libkwi18n/libkwi18n.hpp"
 
 namespace velmara::console {
 
@@ -59,7 +58,10 @@ void pushElements(lua_State* L, hvArray_tag const& array, PushAt const& pushAt)
 /// The characters of one row, as a string.
 void pushRow(lua_State* L, hvArray_tag const& characters, std::size_t row)
 {
-    pushText(L, fl::i18n::to_string(rowOf(characters, row)));
+    if (rowsOf(characters) <= 1)
+        pushHostText(L, textOf(characters));
+    else
+        pushHostText(L, rowOf(characters, row));
 }
 
 void pushCells(lua_State* L, hvArray_tag const& cells, Conversion& conversion)
@@ -73,18 +75,38 @@ void pushCells(lua_State* L, hvArray_tag const& cells, Conversion& conversion)
     });
 }
 
+/// A list that would be taken for one value, or for none.
+bool isPushedAsList(hvArray_tag const& array)
+{
+    return array.get_number_of_elements() == 1 || array._get_class_id_non_trivial() == hvOBJECT_CLASS;
+}
+
+/// The same kind of value as for a list of several elements.
+void pushList(lua_State* L, hvArray_tag const& array)
+{
+    luaL_checkstack(L, 12, nullptr);
+    if (isOfTables(array._get_class_id_non_trivial()))
+        pushSequence(L, 1, [&](std::size_t i) { pushElement(L, &array, i); });
+    else
+        pushHostArray(L, array);
+}
+
 } // namespace
 
-void pushValue(lua_State* L, hvArray_tag const* array)
+void pushValue(lua_State* L, hvArray_tag const* array, ValueShape shape)
 {
     if (!array)
         return lua_pushnil(L);
+    if (shape == ValueShape::List && isPushedAsList(*array))
+        return pushList(L, *array);
     hvClassID const classID = array->_get_class_id_non_trivial();
     std::size_t const count = array->get_number_of_elements();
     if (count == 1 && findNumericClass(classID)) // needs a slot only, which is there
         return pushElement(L, array, 0);
-    luaL_checkstack(L, 8, nullptr);
+    luaL_checkstack(L, 12, nullptr);
     bool const isNone = rowsOf(*array) == 0 && columnsOf(*array) == 0;
+    if (shape == ValueShape::Optional && isNone)
+        return lua_pushnil(L);
     if (classID == hvOBJECT_CLASS && isNone)
         return lua_pushnil(L);
     if (classID == hvOBJECT_CLASS && count == 1)
@@ -100,7 +122,7 @@ void pushValue(lua_State* L, hvArray_tag const* array)
 
 void pushContent(lua_State* L, hvArray_tag const& array, Conversion& conversion)
 {
-    luaL_checkstack(L, 8, nullptr);
+    luaL_checkstack(L, 12, nullptr);
     hvClassID const classID = array._get_class_id_non_trivial();
     std::size_t const count = array.get_number_of_elements();
     conversion.add(count, sizeof(lua_Number) * 2);

@@ -3,6 +3,8 @@
 #include "lua/LuaApi.hpp"
 #include "values/Conversion.hpp"
 
+#include "velmara/Value.hpp"
+
 #include "libhv/hvArray.hpp"
 
 namespace velmara::console {
@@ -17,8 +19,11 @@ namespace velmara::console {
 /// - a function: a Lua function, the script's own where it is that
 /// - anything else: a host array
 ///
+/// By its shape: a list is what it is for several elements, a sequence or a host array, also when it has one element or
+/// none, and an absent optional value is nil.
+///
 /// An array that becomes a table or a string is the same array again when that is passed to the host.
-void pushValue(lua_State* L, hvArray_tag const* array);
+void pushValue(lua_State* L, hvArray_tag const* array, ValueShape shape = ValueShape::Plain);
 
 /// Pushes the array as tables, strings and scalars throughout: a sequence for a row, and for a column of strings, cells
 /// or objects; else a sequence of rows, which are strings for characters. A single element, unless a cell, is pushed

@@ -12,6 +12,8 @@ local function source(value)
   end
   if pcall(function() return value.x end) then return ("Point(%g, %g)"):format(value.x, value.y) end
   local isArray, elements = pcall(tolua, value)
+  local isList, count = pcall(function() return #value end)
+  if isArray and type(elements) == "userdata" and isList and count == 1 then elements = {elements} end
   if isArray and type(elements) ~= "userdata" and not rawequal(elements, value) then return source(elements) end
   return tostring(value)
 end

@@ -86,16 +86,17 @@ TEST_F(ExceptionTest, FailuresAreValuesWhereAskedForUnlessTheyAreOfAClassOfTheir
         cls->addMethod(new described::Method("f", "", {"F"}, [&](auto&&) { throwers[index](); }));
     }));
     velmara::ArrayPtr const object = hvm().construct("F");
+    velmara::MemberName method("F", "f");
     for (std::string const& identifier : identifiers) {
         velmara::Hvm::Failure failure;
-        EXPECT_FALSE(hvm().call(object.get(), "f", {}, failure));
+        EXPECT_TRUE(hvm().call(object.get(), method, {}, failure).slot().isEmpty());
         ASSERT_TRUE(failure) << identifier;
         EXPECT_EQ(failure->identifier(), identifier);
         EXPECT_EQ(errorOf([&] { hvm().call(object.get(), "f"); }), identifier);
         ++index;
     }
     velmara::Hvm::Failure failure;
-    EXPECT_THROW(hvm().call(object.get(), "f", {}, failure), Own);
+    EXPECT_THROW(hvm().call(object.get(), method, {}, failure), Own);
     EXPECT_FALSE(failure);
 }
 

@@ -3,7 +3,9 @@
 #include "velmara/ArrayPtr.hpp"
 #include "velmara/Error.hpp"
 #include "velmara/Listing.hpp"
+#include "velmara/MemberName.hpp"
 #include "velmara/Reference.hpp"
+#include "velmara/Value.hpp"
 #include "velmara/export.hpp"
 
 #include "orbis/COSInterfacePtr.hpp"
@@ -29,8 +31,11 @@ class VELMARA_API Hvm {
 public:
     using Inputs = std::span<hvArray_tag* const>;
 
+    /// Inputs that need no array where they are scalars. The arrays in them stay the caller's.
+    using Values = std::span<orbis::COSValue const>;
+
     /// Where the operations that take it put their failure instead of throwing it, which costs most of what a failure
-    /// does; they return a null array. Errors of classes derived from `Error` are thrown all the same.
+    /// does; they return nothing. Errors of classes derived from `Error` are thrown all the same.
     using Failure = std::optional<Error>;
 
     Hvm();
@@ -81,6 +86,7 @@ public:
 
     /// A new object of the class as a 1-by-1 array.
     ArrayPtr construct(std::string_view className, Inputs inputs = {});
+    ArrayPtr construct(MemberName& cls, Values inputs, Failure& failure);
 
     /// A new object, constructed from `object` (an object array of one element) with the constructor of its class that
     /// takes such an object; also of a class whose objects are not constructed from outside.
@@ -91,19 +97,20 @@ public:
 
     /// Calls a method of `object` (an object array; its first element is meant). A null result when there is none.
     ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs = {});
-    ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs, Failure& failure);
+    Value call(hvArray_tag* object, MemberName& method, Values inputs, Failure& failure);
     ArrayPtr callStatic(std::string_view className, std::string_view method, Inputs inputs = {});
+    Value callStatic(MemberName& method, Values inputs, Failure& failure);
     ArrayPtr callFunction(std::string_view fullName, Inputs inputs = {});
-    ArrayPtr callFunction(std::string_view fullName, Inputs inputs, Failure& failure);
+    Value callFunction(MemberName& function, Values inputs, Failure& failure);
 
     /// Calls a function value (host_extensions/functionValues.hpp), likewise.
     ArrayPtr callFunction(hvArray_tag* function, Inputs inputs = {});
 
     /// Reads and writes a property of `object`, likewise. `value` stays the caller's.
     ArrayPtr get(hvArray_tag* object, std::string_view property);
-    ArrayPtr get(hvArray_tag* object, std::string_view property, Failure& failure);
+    Value get(hvArray_tag* object, MemberName& property, Failure& failure);
     void set(hvArray_tag* object, std::string_view property, hvArray_tag* value);
-    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value, Failure& failure);
+    void set(hvArray_tag* object, MemberName& property, orbis::COSValue const& value, Failure& failure);
     ArrayPtr getStatic(std::string_view className, std::string_view property);
     void setStatic(std::string_view className, std::string_view property, hvArray_tag* value);
 
@@ -122,8 +129,9 @@ public:
     void deleteObjects(hvArray_tag* objects);
 
     /// Another number after each change of what is published: names and members, by modules and by need. What was asked
-    /// for while it was the same holds.
-    std::uint64_t publicationNumber() const noexcept;
+    /// for while it was the same holds. No two virtual machines of a process have the same. The reference is valid as
+    /// long as the virtual machine.
+    std::uint64_t const& publicationNumber() const noexcept;
 
     NameKind lookUp(std::string_view fullName);
     PackageRecord describePackage(std::string_view fullName); ///< "" for the top level
@@ -154,5 +162,11 @@ VELMARA_API ArrayPtr objectRow(std::span<orbis::COSInterfacePtr const> objects);
 
 /// The name of an array's class: "double", "char", "cell", a published class, ...
 VELMARA_API std::string className(hvArray_tag const* array);
+
+/// The same as a text that is valid as long as the process, and that all arrays of the class share. Empty for null.
+VELMARA_API std::string_view sharedClassName(hvArray_tag const* array);
+
+/// A number that the embedder may keep with an object, 0 at first. The virtual machine does not read it.
+VELMARA_API std::uint32_t& embedderNumber(orbis::COSInterface& object);
 
 } // namespace velmara

@@ -19,33 +19,77 @@ namespace {
     throwHostError("VELMARA:member", "unknown", {std::string(className), std::string(method)});
 }
 
-[[gnu::always_inline]] inline ArrayPtr callMethod(Machine& machine, hvArray_tag* array, std::string_view method,
-                                                  Inputs inputs)
+/// The methods of the name in the class, as the name remembers them where it is of that class.
+[[gnu::always_inline]] inline MethodGroup const* findMethods(Class& cls, MemberName& name)
 {
-    Class& cls = requireClassOf(machine, array, requireObject(machine, array));
-    MethodGroup const* const group = cls.findMethods(method);
-    if (!group)
-        throwUnknownMethod(cls.name()->view(), method);
-    return dispatchOnObject(*group, array, inputs);
+    return memberOf<MethodGroup>(cls, name, [&] { return cls.findMethods(name.member()); });
 }
 
-ArrayPtr callStaticMethod(Machine& machine, std::string_view className, std::string_view method, Inputs inputs)
+MethodGroup const* findMethods(Class& cls, std::string_view name)
 {
-    Class& cls = requireClass(machine, className);
-    MethodGroup const* const group = cls.findMethods(method);
+    return cls.findMethods(name);
+}
+
+std::string_view memberText(MemberName const& name)
+{
+    return name.member();
+}
+
+std::string_view memberText(std::string_view name)
+{
+    return name;
+}
+
+template <class Named, class Input>
+[[gnu::always_inline]] inline Value callMethod(Machine& machine, hvArray_tag* array, Named& method,
+                                               std::span<Input const> inputs, Failure failure)
+{
+    Class& cls = requireClassOf(machine, array, requireObject(machine, array));
+    MethodGroup const* const group = findMethods(cls, method);
+    if (!group)
+        throwUnknownMethod(cls.name()->view(), memberText(method));
+    return dispatch(*group, array, inputs, failure);
+}
+
+void requireStatic(MethodGroup const* group, std::string_view className, std::string_view method)
+{
     if (!group)
         throwUnknownMethod(className, method);
     if (std::ranges::all_of(group->methods, &Method::takesObject))
         throwHostError("VELMARA:member", "notStatic", {std::string(className), std::string(method)});
-    return dispatch(*group, {nullptr, inputs});
 }
 
-ArrayPtr callPackageFunction(Machine& machine, std::string_view fullName, Inputs inputs)
+Value callStaticMethod(Machine& machine, std::string_view className, std::string_view method, Inputs inputs)
+{
+    MethodGroup const* const group = requireClass(machine, className).findMethods(method);
+    requireStatic(group, className, method);
+    return dispatch(*group, nullptr, inputs, nullptr);
+}
+
+Value callStaticMethod(Machine& machine, MemberName& method, Hvm::Values inputs, Failure failure)
+{
+    MethodGroup const* const group = findMethods(requireClass(machine, method), method);
+    requireStatic(group, method.owner(), method.member());
+    return dispatch(*group, nullptr, inputs, failure);
+}
+
+MethodGroup const& requireFunctions(Machine& machine, std::string_view fullName)
 {
     MethodGroup const* const group = machine.packages().findFunctions(fullName);
     if (!group)
         throwHostError("VELMARA:function", "unknown", {std::string(fullName)});
-    return dispatch(*group, {nullptr, inputs});
+    return *group;
+}
+
+[[gnu::always_inline]] inline MethodGroup const& requireFunctions(Machine& machine, MemberName& name)
+{
+    MemberName::Meaning& meaning = currentMeaning(machine, name);
+    if (!meaning.member) [[unlikely]] {
+        MethodGroup const& found = requireFunctions(machine, name.owner());
+        remember(machine, meaning, nullptr, &found); // now: loading it has published it
+        return found;
+    }
+    return *static_cast<MethodGroup const*>(meaning.member);
 }
 
 ArrayPtr callFunctionValue(hvArray_tag* array, Inputs inputs)
@@ -98,32 +142,45 @@ bool Hvm::areEqual(hvArray_tag* a, hvArray_tag* b)
 ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) { return callMethod(*state_, object, method, inputs); });
+        *state_, [&]() __attribute__((always_inline)) {
+            return ResultValue::toArray(callMethod(*state_, object, method, inputs, nullptr));
+        });
 }
 
-ArrayPtr Hvm::call(hvArray_tag* object, std::string_view method, Inputs inputs, Failure& failure)
+Value Hvm::call(hvArray_tag* object, MemberName& method, Values inputs, Failure& failure)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) { return callMethod(*state_, object, method, inputs); },
+        *state_, [&]() __attribute__((always_inline)) { return callMethod(*state_, object, method, inputs, &failure); },
         &failure);
 }
 
 ArrayPtr Hvm::callStatic(std::string_view className, std::string_view method, Inputs inputs)
 {
+    return callInto(*state_,
+                    [&] { return ResultValue::toArray(callStaticMethod(*state_, className, method, inputs)); });
+}
+
+Value Hvm::callStatic(MemberName& method, Values inputs, Failure& failure)
+{
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) { return callStaticMethod(*state_, className, method, inputs); });
+        *state_, [&] { return callStaticMethod(*state_, method, inputs, &failure); }, &failure);
 }
 
 ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) { return callPackageFunction(*state_, fullName, inputs); });
+        *state_, [&]() __attribute__((always_inline)) {
+            return ResultValue::toArray(dispatch(requireFunctions(*state_, fullName), nullptr, inputs, nullptr));
+        });
 }
 
-ArrayPtr Hvm::callFunction(std::string_view fullName, Inputs inputs, Failure& failure)
+Value Hvm::callFunction(MemberName& function, Values inputs, Failure& failure)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) { return callPackageFunction(*state_, fullName, inputs); },
+        *state_,
+        [&]() __attribute__((always_inline)) {
+            return dispatch(requireFunctions(*state_, function), nullptr, inputs, &failure);
+        },
         &failure);
 }
 

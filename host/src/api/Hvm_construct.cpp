@@ -49,9 +49,8 @@ namespace {
     return object;
 }
 
-[[gnu::always_inline]] inline ArrayPtr constructObject(Machine& machine, std::string_view className, Inputs inputs)
+[[gnu::always_inline]] inline ArrayPtr constructObject(Class& cls, Inputs inputs, Failure failure)
 {
-    Class& cls = requireClass(machine, className);
     cls.requireNotEnumeration();
     if (char const* const error = cls.constructionError()) [[unlikely]]
         throwClassError(error, cls);
@@ -63,8 +62,8 @@ namespace {
     }
     CallInputs const call{nullptr, inputs};
     ConvertedInputs converted(call.capacity());
-    Method const& constructor = choose(constructors, call, converted);
-    return invokeConstructor(cls, constructor, converted);
+    Method const* const constructor = choose(constructors, call, converted, failure);
+    return constructor ? invokeConstructor(cls, *constructor, converted) : nullptr;
 }
 
 Method const* findCopying(Class const& cls)
@@ -88,8 +87,10 @@ ArrayPtr copyObject(Machine& machine, hvArray_tag* array)
     hvArray_tag* const inputs[] = {array};
     CallInputs const call{nullptr, inputs};
     ConvertedInputs converted(call.capacity());
-    if (!convertFor(*constructor, call, converted, [](ConversionRank) {}))
-        throwNoMatch({&constructor, 1}, call);
+    if (!convertFor(*constructor, call, converted, [](ConversionRank) {})) {
+        refuseNoMatch({&constructor, 1}, call, nullptr);
+        return nullptr;
+    }
     return invokeConstructor(cls, *constructor, converted);
 }
 
@@ -103,7 +104,20 @@ ArrayPtr Hvm::copy(hvArray_tag* object)
 ArrayPtr Hvm::construct(std::string_view className, Inputs inputs)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) { return constructObject(*state_, className, inputs); });
+        *state_, [&]() __attribute__((always_inline)) {
+            return constructObject(requireClass(*state_, className), inputs, nullptr);
+        });
+}
+
+ArrayPtr Hvm::construct(MemberName& cls, Values inputs, Failure& failure)
+{
+    return callInto(
+        *state_,
+        [&]() __attribute__((always_inline)) {
+            InputArrays const arrays(inputs);
+            return constructObject(requireClass(*state_, cls), arrays.get(), &failure);
+        },
+        &failure);
 }
 
 } // namespace velmara

@@ -183,7 +183,7 @@ void addObjects(Package const& package, std::vector<ObjectRecord>& listed)
 
 } // namespace
 
-std::uint64_t Hvm::publicationNumber() const noexcept
+std::uint64_t const& Hvm::publicationNumber() const noexcept
 {
     return state_->packages().publicationNumber();
 }

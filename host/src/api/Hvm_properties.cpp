@@ -33,9 +33,11 @@ namespace {
     throwPropertyError(isReadOnly ? "readOnly" : "setAccess", property);
 }
 
-[[noreturn, gnu::noinline]] void throwMismatch(Machine& machine, Property const& property, hvArray_tag* value)
+[[noreturn, gnu::noinline]] void throwMismatch(Machine& machine, Property const& property, orbis::COSValue const& given)
 {
-    checkInputs(machine, {&value, 1});
+    InputArrays const arrays({&given, 1});
+    checkInputs(machine, arrays.get());
+    hvArray_tag* const value = arrays.get().front();
     throwHostError("VELMARA:property", "value", {property.name->string(), mismatchReason(property.type(), value)});
 }
 
@@ -49,6 +51,14 @@ namespace {
     Property const* const property = cls.findProperty(name);
     if (!property) [[unlikely]]
         throwUnknown(cls, name);
+    return *property;
+}
+
+[[gnu::always_inline]] inline Property const& requireProperty(Class& cls, MemberName& name)
+{
+    Property const* const property = memberOf<Property>(cls, name, [&] { return cls.findProperty(name.member()); });
+    if (!property) [[unlikely]]
+        throwUnknown(cls, name.member());
     return *property;
 }
 
@@ -90,7 +100,7 @@ private:
     orbis::COSValue value_;
 };
 
-ArrayPtr read(Property const& property, Object* object)
+Value read(Property const& property, Object* object)
 {
     if (!property.canBeRead) [[unlikely]]
         throwUnreadable(property);
@@ -102,26 +112,38 @@ ArrayPtr read(Property const& property, Object* object)
     return result.take(property.name);
 }
 
-[[gnu::always_inline]] inline void write(Machine& machine, Property const& property, Object* object, hvArray_tag* value)
+void writeArray(Machine& machine, Property const& property, Object* owner, orbis::COSValue const& value)
+{
+    InputArrays const arrays({&value, 1});
+    hvArray_tag* const array = arrays.get().front();
+    ConvertedInputs converted(1);
+    if (!array || converted.add(property.type(), array) == notConvertible) [[unlikely]]
+        throwMismatch(machine, property, value);
+    property.info->setValue(owner, *converted.values());
+}
+
+[[gnu::always_inline]] inline void write(Machine& machine, Property const& property, Object* object,
+                                         orbis::COSValue const& value)
 {
     if (!property.canBeWritten) [[unlikely]]
         throwUnwritable(property);
     Object* const owner = requireOwner(property, object);
     TypeReference const& type = property.type();
-    ConvertedInputs converted(1);
-    if (!value || converted.add(type, value) == notConvertible) [[unlikely]]
-        throwMismatch(machine, property, value);
-    property.info->setValue(owner, *converted.values());
+    if (orbis::COSValue scalar; type.kind == TypeKind::Scalar && type.scalar.read(value, scalar) != notConvertible)
+        return property.info->setValue(owner, scalar);
+    writeArray(machine, property, owner, value);
 }
 
-[[gnu::always_inline]] inline ArrayPtr readOf(Machine& machine, hvArray_tag* object, std::string_view property)
+template <class Named>
+[[gnu::always_inline]] inline Value readOf(Machine& machine, hvArray_tag* object, Named& property)
 {
     Object* const first = requireObject(machine, object);
     return read(requireProperty(requireClassOf(machine, object, first), property), first);
 }
 
-[[gnu::always_inline]] inline void writeOf(Machine& machine, hvArray_tag* object, std::string_view property,
-                                           hvArray_tag* value)
+template <class Named>
+[[gnu::always_inline]] inline void writeOf(Machine& machine, hvArray_tag* object, Named& property,
+                                           orbis::COSValue const& value)
 {
     Object* const first = requireObject(machine, object);
     write(machine, requireProperty(requireClassOf(machine, object, first), property), first, value);
@@ -132,10 +154,12 @@ ArrayPtr read(Property const& property, Object* object)
 ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property)
 {
     return callInto(
-        *state_, [&]() __attribute__((always_inline)) { return readOf(*state_, object, property); });
+        *state_, [&]() __attribute__((always_inline)) {
+            return ResultValue::toArray(readOf(*state_, object, property));
+        });
 }
 
-ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property, Failure& failure)
+Value Hvm::get(hvArray_tag* object, MemberName& property, Failure& failure)
 {
     return callInto(
         *state_, [&]() __attribute__((always_inline)) { return readOf(*state_, object, property); }, &failure);
@@ -144,10 +168,10 @@ ArrayPtr Hvm::get(hvArray_tag* object, std::string_view property, Failure& failu
 void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value)
 {
     callInto(
-        *state_, [&]() __attribute__((always_inline)) { writeOf(*state_, object, property, value); });
+        *state_, [&]() __attribute__((always_inline)) { writeOf(*state_, object, property, orbis::COSValue(value)); });
 }
 
-void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value, Failure& failure)
+void Hvm::set(hvArray_tag* object, MemberName& property, orbis::COSValue const& value, Failure& failure)
 {
     callInto(
         *state_, [&]() __attribute__((always_inline)) { writeOf(*state_, object, property, value); }, &failure);
@@ -155,14 +179,16 @@ void Hvm::set(hvArray_tag* object, std::string_view property, hvArray_tag* value
 
 ArrayPtr Hvm::getStatic(std::string_view className, std::string_view property)
 {
-    return callInto(*state_,
-                    [&] { return read(requireProperty(requireClass(*state_, className), property), nullptr); });
+    return callInto(*state_, [&] {
+        return ResultValue::toArray(read(requireProperty(requireClass(*state_, className), property), nullptr));
+    });
 }
 
 void Hvm::setStatic(std::string_view className, std::string_view property, hvArray_tag* value)
 {
-    callInto(*state_,
-             [&] { write(*state_, requireProperty(requireClass(*state_, className), property), nullptr, value); });
+    callInto(*state_, [&] {
+        write(*state_, requireProperty(requireClass(*state_, className), property), nullptr, orbis::COSValue(value));
+    });
 }
 
 } // namespace velmara

@@ -53,7 +53,17 @@ ArrayPtr objectRow(std::span<orbis::COSInterfacePtr const> objects)
 
 std::string className(hvArray_tag const* array)
 {
-    return array ? std::string(Array::of(array)->className()) : std::string();
+    return std::string(sharedClassName(array));
+}
+
+std::string_view sharedClassName(hvArray_tag const* array)
+{
+    return array ? Array::of(array)->className() : std::string_view();
+}
+
+std::uint32_t& embedderNumber(orbis::COSInterface& object)
+{
+    return static_cast<Object&>(object).embedderNumber();
 }
 
 } // namespace velmara

@@ -4,6 +4,8 @@
 #include "classes/PackageTree.hpp"
 #include "machine/Machine.hpp"
 
+#include "velmara/MemberName.hpp"
+
 #include <string_view>
 
 namespace velmara {
@@ -19,6 +21,44 @@ Class& requireGlobalClass(Machine& machine, std::string_view fullName);
         cls = &requireGlobalClass(machine, fullName);
     cls->ensureReady();
     return *cls;
+}
+
+/// What the name means now: empty when that is not known yet.
+inline MemberName::Meaning& currentMeaning(Machine& machine, MemberName& name)
+{
+    MemberName::Meaning& meaning = name.meaning();
+    if (meaning.publication != machine.packages().publicationNumber()) [[unlikely]]
+        meaning = {};
+    return meaning;
+}
+
+inline void remember(Machine& machine, MemberName::Meaning& meaning, Class* cls, void const* member)
+{
+    meaning = {machine.packages().publicationNumber(), cls, member};
+}
+
+/// The class that the name is of, or names, described. Throws "VELMARA:class:unknown" when there is none.
+inline Class& requireClass(Machine& machine, MemberName& name)
+{
+    MemberName::Meaning& meaning = currentMeaning(machine, name);
+    if (!meaning.cls) [[unlikely]] {
+        Class& cls = requireClass(machine, name.owner());
+        remember(machine, meaning, &cls, nullptr);
+    }
+    return *static_cast<Class*>(meaning.cls);
+}
+
+/// The member of the name in a class: what the name remembers if it is of that class, else what `find` finds.
+template <class Member, class Find>
+[[gnu::always_inline]] inline Member const* memberOf(Class& cls, MemberName& name, Find const& find)
+{
+    MemberName::Meaning& meaning = currentMeaning(cls.machine(), name);
+    if (meaning.cls == &cls && meaning.member) [[likely]]
+        return static_cast<Member const*>(meaning.member);
+    Member const* const found = find();
+    if (found)
+        remember(cls.machine(), meaning, &cls, found);
+    return found;
 }
 
 /// Throws "VELMARA:object:notObject" for what is no object array.

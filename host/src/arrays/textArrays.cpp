@@ -22,13 +22,12 @@ bool isCharacters(hvArray_tag const* array)
 
 hvArray* hvCreateString(char const* text)
 {
-    return velmara::convertTo(std::string_view(text ? text : ""), Array::createText,
-                              [](Array* array) { return array->writableText(); });
+    return orbis::host_extensions::createText(std::string_view(text ? text : ""));
 }
 
 hvArray* hvCreateString_UTF16(char16_t const* text)
 {
-    return orbis::host_extensions::createText(text ? text : u"");
+    return orbis::host_extensions::createText(std::u16string_view(text ? text : u""));
 }
 
 char* hvArrayToString(hvArray_tag const* array)
@@ -65,9 +64,32 @@ void hvFreeEx(void* text)
 
 } // namespace matrix::detail::noninlined::hv_array_api
 
-hvArray* orbis::host_extensions::createText(std::u16string_view text)
+namespace orbis::host_extensions {
+
+hvArray* createText(std::u16string_view text)
 {
     velmara::Array* const array = velmara::Array::createText(text.size());
     velmara::copyUnits(text, array->writableText());
     return array;
 }
+
+hvArray* createText(std::string_view text)
+{
+    return velmara::convertTo(text, velmara::Array::createText,
+                              [](velmara::Array* array) { return array->writableText(); });
+}
+
+std::size_t utf8Size(std::u16string_view text)
+{
+    return velmara::isAscii(text) ? text.size() : velmara::convertedSize(text);
+}
+
+void writeUtf8(std::u16string_view text, char* out)
+{
+    if (velmara::isAscii(text))
+        velmara::copyAscii(text, out);
+    else
+        velmara::convert(text, out);
+}
+
+} // namespace orbis::host_extensions

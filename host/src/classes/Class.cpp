@@ -83,6 +83,7 @@ void Class::dropContents() noexcept
     for (Class* const superclass : contents_->superclasses)
         std::erase(superclass->subclasses_, this);
     setLinearization(empty_->linearization);
+    machine().packages().countPublication();
     machine().retire(std::exchange(contents_, std::move(empty_)));
 }
 

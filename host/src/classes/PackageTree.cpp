@@ -8,6 +8,7 @@
 #include "libkwfl/IMsgIDException.hpp"
 
 #include <algorithm>
+#include <atomic>
 #include <utility>
 
 namespace velmara {
@@ -35,9 +36,21 @@ T* findByText(NameMap<T*> const& map, std::string_view fullName)
     return found ? *found : nullptr;
 }
 
+/// Far enough from those of other virtual machines.
+std::uint64_t firstPublicationNumber()
+{
+    static std::atomic<std::uint64_t> machines = 0;
+    return ++machines << 32;
+}
+
 } // namespace
 
-PackageTree::PackageTree(Machine& machine) : machine_(machine), root_(*this, nullptr, nullptr) {}
+PackageTree::PackageTree(Machine& machine)
+    : machine_(machine),
+      publicationNumber_(firstPublicationNumber()),
+      root_(*this, nullptr, nullptr)
+{
+}
 
 Package* PackageTree::findPublishedPackage(std::string_view fullName)
 {

@@ -22,7 +22,7 @@ public:
     Package& root() { return root_; }
 
     /// See `Hvm::publicationNumber`.
-    std::uint64_t publicationNumber() const { return publicationNumber_; }
+    std::uint64_t const& publicationNumber() const { return publicationNumber_; }
     void countPublication() noexcept { ++publicationNumber_; }
 
     /// Null when there is none. Parents are populated when they were not yet, and may load the package.
@@ -126,7 +126,7 @@ private:
     NameMap<Class*> classes_;
     NameMap<FunctionGroup const*> functions_;
     std::vector<Undo> undos_;
-    std::uint64_t publicationNumber_ = 1;
+    std::uint64_t publicationNumber_;
     int depth_ = 0; ///< of transactions
     bool isUndoing_ = false;
     Package root_;

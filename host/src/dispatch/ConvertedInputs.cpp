@@ -1,6 +1,7 @@
 #include "dispatch/ConvertedInputs.hpp"
 
 #include "classes/Class.hpp"
+#include "dispatch/directRank.hpp"
 #include "dispatch/enumeratorConversion.hpp"
 #include "dispatch/objectRank.hpp"
 #include "errors/errorTranslation.hpp"
@@ -64,30 +65,24 @@ ConversionRank ConvertedInputs::addArray(TypeReference const& type, hvArray_tag*
 {
     if (Array::of(input)->classID() == hvOBJECT_CLASS)
         Object::requireUsable(Machine::required(), Array::of(input)->objects());
+    ConversionRank rank = directRank(type, *Array::of(input));
     if (type.kind == TypeKind::Optional)
         return addOptional(type, input);
-    ConversionRank rank = notConvertible;
     values_[count_] = orbis::COSValue(input);
-    if (type.kind == TypeKind::Text)
-        rank = addText(input);
-    else if (type.kind == TypeKind::Elements)
+    if (rank == notConvertible && type.kind == TypeKind::Text)
+        rank = addString(input);
+    else if (rank == notConvertible && type.kind == TypeKind::Elements)
         rank = addElements(type, input);
-    else if (type.kind == TypeKind::Any)
-        rank = anyRank;
-    else if (type.kind == TypeKind::Named)
+    else if (rank == notConvertible && type.kind == TypeKind::Named)
         rank = addNamed(type, input);
-    else if (type.kind == TypeKind::Function)
-        rank = Array::of(input)->function() ? exactRank : notConvertible;
     if (rank != notConvertible)
         ++count_;
     return rank;
 }
 
-ConversionRank ConvertedInputs::addText(hvArray_tag* input)
+ConversionRank ConvertedInputs::addString(hvArray_tag* input)
 {
     Array const& array = *Array::of(input);
-    if (array.isText())
-        return exactRank;
     if (array.classID() != hvSTRING_CLASS || array.size() != 1 || array.strings().front().isMissing())
         return notConvertible;
     own(nullptr, orbis::host_extensions::createText(array.strings().front().view()));
@@ -97,8 +92,6 @@ ConversionRank ConvertedInputs::addText(hvArray_tag* input)
 ConversionRank ConvertedInputs::addElements(TypeReference const& type, hvArray_tag* input)
 {
     Array const& array = *Array::of(input);
-    if (array.classID() == type.scalarClass)
-        return array.isScalar() ? exactRank - 1 : exactRank;
     hvArray_tag* const converted = convertElements(type.scalarClass, array).release();
     if (!converted)
         return notConvertible;

@@ -65,7 +65,7 @@ private:
     static constexpr std::size_t inlineCapacity = 24;
 
     ConversionRank addArray(TypeReference const& type, hvArray_tag* input);
-    ConversionRank addText(hvArray_tag* input);
+    ConversionRank addString(hvArray_tag* input);
     ConversionRank addElements(TypeReference const& type, hvArray_tag* input);
     ConversionRank addOptional(TypeReference const& type, hvArray_tag* input);
     ConversionRank addNamed(TypeReference const& type, hvArray_tag* input);

@@ -1,6 +1,7 @@
 #include "dispatch/Dispatch.hpp"
 
 #include "arrays/Array.hpp"
+#include "dispatch/directRank.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
 
@@ -23,6 +24,49 @@ struct Candidate {
     }
 };
 
+/// The only method that takes so many inputs; null when there are several, or none.
+Method const* onlyTaking(MethodGroup const& group, CallInputs const& call)
+{
+    Method const* found = nullptr;
+    for (std::size_t i = 0; i < group.accessible; ++i)
+        if (takesInputs(*group.methods[i], call)) {
+            if (found)
+                return nullptr;
+            found = group.methods[i];
+        }
+    return found;
+}
+
+bool fitsExactly(Method const& method, CallInputs const& call)
+{
+    if (!takesInputs(method, call))
+        return false;
+    Parameter const* parameter = method.inputs.data();
+    if (method.takesObject && (parameter++)->type.name != Array::of(call.self)->objectClass())
+        return false;
+    auto const isExact = [&](hvArray_tag* input) {
+        TypeReference const& type = (parameter++)->type;
+        orbis::COSValue value;
+        return exactRank == (type.kind == TypeKind::Scalar ? type.scalar.read(*Array::of(input), value)
+                                                           : directRank(type, *Array::of(input)));
+    };
+    return std::ranges::all_of(call.inputs, isExact);
+}
+
+/// The only method that each input fits exactly, so that none fits better; null when there are several, or none. The
+/// inputs were checked.
+Method const* onlyExact(MethodGroup const& group, CallInputs const& call)
+{
+    Method const* found = nullptr;
+    for (std::size_t i = 0; i < group.accessible; ++i)
+        if (fitsExactly(*group.methods[i], call)) {
+            if (found)
+                return nullptr;
+            found = group.methods[i];
+        }
+    return found;
+}
+
 } // namespace
 
 void checkInputs(Machine const& machine, Inputs inputs)
@@ -35,10 +79,17 @@ void checkInputs(Machine const& machine, Inputs inputs)
     }
 }
 
-Method const& chooseAmong(MethodGroup const& group, CallInputs call)
+Method const* chooseAmong(MethodGroup const& group, CallInputs call, Failure failure)
 {
-    if (group.accessible == 0)
-        throwUncallable(group, call);
+    if (group.accessible == 0) {
+        refuseUncallable(group, call, failure);
+        return nullptr;
+    }
+    if (Method const* const method = onlyTaking(group, call))
+        return method;
+    checkInputs(Machine::required(), call.inputs);
+    if (Method const* const method = onlyExact(group, call))
+        return method;
     std::byte buffer[1024];
     std::pmr::monotonic_buffer_resource memory(buffer, sizeof buffer);
     // A copy: conversions run native code, which may add to the group.
@@ -52,22 +103,32 @@ Method const& chooseAmong(MethodGroup const& group, CallInputs call)
         if (convertFor(*methods[i], call, trial, [next = row](ConversionRank rank) mutable { *next++ = rank; }))
             matching.push_back({methods[i], {row, call.inputs.size()}});
     }
-    if (matching.empty())
-        throwNoMatch(methods, call);
+    if (matching.empty()) {
+        refuseNoMatch(methods, call, failure);
+        return nullptr;
+    }
     std::pmr::vector<Method const*> unbeaten(&memory);
     for (Candidate const& candidate : matching)
         if (std::ranges::none_of(matching, [&](Candidate const& other) { return other.isBetterThan(candidate); }))
             unbeaten.push_back(candidate.method);
-    if (unbeaten.size() > 1)
-        throwAmbiguous(unbeaten, call);
-    return *unbeaten.front();
+    if (unbeaten.size() == 1)
+        return unbeaten.front();
+    refuseAmbiguous(unbeaten, call, failure);
+    return nullptr;
 }
 
-ArrayPtr dispatch(MethodGroup const& group, CallInputs const& call)
+Value dispatchArrays(MethodGroup const& group, CallInputs const& call, Failure failure)
 {
     ConvertedInputs converted(call.capacity());
-    Method const& method = choose(group, call, converted);
-    return invoke(method, converted.count(), converted.values());
+    Method const* const method = choose(group, call, converted, failure);
+    return method ? invoke(*method, converted.count(), converted.values()) : Value();
+}
+
+Value dispatchArrays(MethodGroup const& group, hvArray_tag* self, std::span<orbis::COSValue const> inputs,
+                     Failure failure)
+{
+    InputArrays const arrays(inputs);
+    return dispatchArrays(group, {self, arrays.get()}, failure);
 }
 
 } // namespace velmara

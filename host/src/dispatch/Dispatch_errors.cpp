@@ -2,12 +2,14 @@
 
 #include "arrays/Array.hpp"
 #include "dispatch/mismatchReason.hpp"
+#include "errors/MessageCatalog.hpp"
 #include "errors/hostError.hpp"
 #include "machine/Machine.hpp"
 
 #include <algorithm>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace velmara {
@@ -83,9 +85,16 @@ std::string nameOf(Method const& method)
     return method.name->string();
 }
 
+void refuse(Failure failure, char const* catalog, char const* key, std::vector<std::string> arguments)
+{
+    if (!failure)
+        throwHostError(catalog, key, std::move(arguments));
+    failure->emplace(std::string(catalog) + ':' + key, messageText(catalog, key, arguments));
+}
+
 } // namespace
 
-void throwNoMatch(std::span<Method const* const> candidates, CallInputs const& call)
+void refuseNoMatch(std::span<Method const* const> candidates, CallInputs const& call, Failure failure)
 {
     checkInputs(Machine::required(), call.inputs);
     std::vector<Method const*> const shown = nearest(candidates, call);
@@ -94,30 +103,31 @@ void throwNoMatch(std::span<Method const* const> candidates, CallInputs const& c
         explained += "\n  " + method->describe() + ": " + explain(*method, call);
     if (shown.size() < candidates.size())
         explained += "\n  ... and " + std::to_string(candidates.size() - shown.size()) + " more";
-    throwHostError("VELMARA:dispatch", "noMatch", {nameOf(*candidates.front()), explained, describeGiven(call.inputs)});
+    refuse(failure, "VELMARA:dispatch", "noMatch",
+           {nameOf(*candidates.front()), explained, describeGiven(call.inputs)});
 }
 
-void throwAmbiguous(std::span<Method const* const> rivals, CallInputs const& call)
+void refuseAmbiguous(std::span<Method const* const> rivals, CallInputs const& call, Failure failure)
 {
     std::string candidates;
     for (Method const* const method : rivals)
         candidates += "\n  " + method->describe();
-    throwHostError("VELMARA:dispatch", "ambiguous", {nameOf(*rivals.front()), candidates, describeGiven(call.inputs)});
+    refuse(failure, "VELMARA:dispatch", "ambiguous", {nameOf(*rivals.front()), candidates, describeGiven(call.inputs)});
 }
 
-void throwUncallable(MethodGroup const& group, CallInputs call)
+void refuseUncallable(MethodGroup const& group, CallInputs call, Failure failure)
 {
     Method const& method = *group.methods.front();
     if (group.accessible == 0)
-        throwHostError("VELMARA:member", "access", {nameOf(method)});
+        return refuse(failure, "VELMARA:member", "access", {nameOf(method)});
     std::vector<Method const*> const candidates(group.methods.begin(), group.accessibleEnd());
     auto const isCallable = [&call](Method const* candidate) {
         ConvertedInputs trial(call.capacity());
         return convertFor(*candidate, call, trial, [](ConversionRank) {});
     };
     if (std::ranges::none_of(candidates, isCallable))
-        throwNoMatch(candidates, call);
-    throwHostError("VELMARA:member", "abstract", {nameOf(method)});
+        return refuseNoMatch(candidates, call, failure);
+    refuse(failure, "VELMARA:member", "abstract", {nameOf(method)});
 }
 
 } // namespace velmara

@@ -13,7 +13,8 @@ FunctionValue::FunctionValue(std::unique_ptr<orbis::COSMethodInfo> callable)
 
 ArrayPtr FunctionValue::call(Inputs inputs) const
 {
-    return hasSignature_ ? dispatch(group_, {nullptr, inputs}) : callWithoutSignature(inputs);
+    return hasSignature_ ? ResultValue::toArray(dispatch(group_, nullptr, inputs, nullptr))
+                         : callWithoutSignature(inputs);
 }
 
 ArrayPtr FunctionValue::callWithoutSignature(Inputs inputs) const
@@ -26,7 +27,7 @@ ArrayPtr FunctionValue::callWithoutSignature(Inputs inputs) const
     ResultValue result(&any);
     int outputCount = 0;
     method.info->invoke(nullptr, outputCount, &result.slot(), values.count(), values.values());
-    return outputCount == 0 ? nullptr : result.take(method.name);
+    return outputCount == 0 ? nullptr : result.takeAsArray(method.name);
 }
 
 } // namespace velmara

@@ -39,6 +39,11 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
     return (type.element ? objectVectorRank(type.element, given) : firstObjectRank(type.name, given)) != notConvertible;
 }
 
+bool isList(TypeReference const& type)
+{
+    return type.element || type.kind == TypeKind::Elements;
+}
+
 [[noreturn]] void throwMismatch(TypeReference const* type, std::string_view member)
 {
     throwHostError("VELMARA:result", "type", {std::string(member), type ? type->name->string() : std::string("void")});
@@ -52,36 +57,36 @@ orbis::COSDataType* registered(TypeReference const* type)
 
 } // namespace
 
-ArrayPtr ResultValue::takeOther(std::string_view member)
+Value ResultValue::takeOther(std::string_view member)
 {
     if (type_ && type_->kind == TypeKind::Optional) {
         if (value_.isArray() && Array::of(value_.array())->isEmptyDouble())
-            return ArrayPtr(std::exchange(value_, {}).array());
+            return Value(takeSlot(), ValueShape::Optional);
         type_ = type_->value.get();
         if (type_->kind == TypeKind::Scalar && value_.scalarClass() == type_->scalarClass)
-            return ArrayPtr(createScalar(value_));
+            return Value(value_);
     }
     if (value_.isArray())
         return takeArray(member);
     if (value_.isEmpty())
-        return nullptr;
+        return {};
     throwMismatch(type_, member);
 }
 
-ArrayPtr ResultValue::takeArray(std::string_view member)
+Value ResultValue::takeArray(std::string_view member)
 {
     if (registered(type_)) {
         auto* const conversion = Machine::required().types().findConversion(anyTypeName(), type_->name);
         if (conversion) {
             hvArray_tag* converted = nullptr;
             conversion->convertToHost(&converted, value_.array());
-            return ArrayPtr(converted);
+            return Value(ArrayPtr(converted));
         }
-        return ArrayPtr(std::exchange(value_, {}).array());
+        return Value(takeSlot());
     }
     if (!type_ || (value_.array() && !isOf(*type_, value_.array())))
         throwMismatch(type_, member);
-    return ArrayPtr(std::exchange(value_, {}).array());
+    return Value(takeSlot(), isList(*type_) ? ValueShape::List : ValueShape::Plain);
 }
 
 void ResultValue::release() noexcept

@@ -3,11 +3,12 @@
 #include "types/ScalarConversion.hpp"
 #include "types/TypeReference.hpp"
 
-#include "velmara/ArrayPtr.hpp"
+#include "velmara/Value.hpp"
 
 #include "orbis/COSValue.hpp"
 
 #include <string_view>
+#include <utility>
 
 namespace velmara {
 
@@ -28,18 +29,28 @@ public:
 
     orbis::COSValue& slot() { return value_; }
 
-    /// The value as an array; null for an empty one. Throws "VELMARA:result:type", which names `member`, when the
+    /// The value: a scalar, an array, or none. Throws "VELMARA:result:type", which names `member`, when the
     /// value is not of the type.
-    [[gnu::always_inline]] ArrayPtr take(Name member)
+    [[gnu::always_inline]] Value take(Name member)
     {
         if (type_ && type_->kind == TypeKind::Scalar && value_.isScalarOf(type_->scalarClass)) [[likely]]
-            return ArrayPtr(createScalar(value_));
+            return Value(value_);
         return takeOther(member->view());
     }
 
+    ArrayPtr takeAsArray(Name member) { return toArray(take(member)); }
+
+    /// A scalar becomes a new array; nothing is null.
+    static ArrayPtr toArray(Value value)
+    {
+        orbis::COSValue const& slot = value.slot();
+        return slot.isArray() || slot.isEmpty() ? value.releaseArray() : ArrayPtr(createScalar(slot));
+    }
+
 private:
-    ArrayPtr takeOther(std::string_view member);
-    ArrayPtr takeArray(std::string_view member);
+    ArrayPtr takeSlot() { return ArrayPtr(std::exchange(value_, {}).array()); }
+    Value takeOther(std::string_view member);
+    Value takeArray(std::string_view member);
     void release() noexcept;
 
     TypeReference const* type_;

@@ -99,7 +99,7 @@ void FunctionCall::addInput(char const* dataType, COSValue value)
 {
     TypeReference const type(COSNameID(dataType).interned());
     ResultValue owned(&type, value);
-    ArrayPtr array = owned.take(state_->value.method.name);
+    ArrayPtr array = owned.takeAsArray(state_->value.method.name);
     if (!array) // no object, no function: as scripts pass it
         array.reset(Array::create(hvDOUBLE_CLASS, 0, 0));
     state_->inputs.push_back(std::move(array));

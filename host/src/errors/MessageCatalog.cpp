@@ -26,6 +26,8 @@ void MessageCatalog::add(std::string_view catalog, std::string_view key, std::st
 
 char const* MessageCatalog::find(std::string_view catalog, std::string_view key) const
 {
+    if (texts_.empty())
+        return findHostMessage(catalog, key);
     auto const found = texts_.find(fullID(catalog, key));
     return found != texts_.end() ? found->second.c_str() : findHostMessage(catalog, key);
 }
@@ -40,6 +42,7 @@ std::string messageText(char const* catalog, char const* key, std::vector<std::s
 std::string fillPlaceholders(std::string_view text, std::vector<std::string> const& arguments)
 {
     std::string filled;
+    filled.reserve(text.size() + 64);
     for (std::size_t brace; (brace = text.find('{')) != text.npos;) {
         filled += text.substr(0, brace);
         text.remove_prefix(brace);

@@ -5,8 +5,8 @@ namespace velmara {
 namespace {
 
 struct HostMessage {
-    char const* catalog;
-    char const* key;
+    std::string_view catalog;
+    std::string_view key;
     char const* text;
 };
 

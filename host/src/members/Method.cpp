@@ -17,11 +17,6 @@ Name nameOf(orbis::COSMethodInfo const& info)
     return intern(name);
 }
 
-bool isScalar(Parameter const& parameter)
-{
-    return parameter.type.kind == TypeKind::Scalar;
-}
-
 } // namespace
 
 Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, ObjectClass const* definer)
@@ -46,8 +41,7 @@ Method::Method(std::unique_ptr<orbis::COSMethodInfo> descriptor, ObjectClass con
     takesObject = definer && !isStatic && !isConstructor;
     if (takesObject && inputs.empty())
         throwHostError("VELMARA:member", "noObjectInput", {definer->name()->string(), info->getName()});
-    takesOnlyScalars = takesObject && isAccessible() && !isAbstract && inputCount <= maxScalarInputs &&
-                       std::ranges::all_of(explicitInputs(), isScalar) && (!outputType || isScalar(outputs.front()));
+    takesFewInputs = isAccessible() && !isAbstract && inputCount <= fewInputs;
 }
 
 bool Method::hasSameInputs(Method const& other) const

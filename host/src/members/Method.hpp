@@ -45,9 +45,9 @@ struct Method : Retirable {
     bool overridesAllSignatures;
     bool takesObject; ///< its first input is the object it is called on
 
-    /// True for a method that anyone may call on an object, and that takes and returns only scalars, not too many.
-    bool takesOnlyScalars;
-    static constexpr std::size_t maxScalarInputs = 8;
+    /// True for what anyone may call, and that takes no more than `fewInputs`, the object included.
+    bool takesFewInputs;
+    static constexpr std::size_t fewInputs = 8;
 };
 
 /// The methods of one name among which the dispatch chooses.

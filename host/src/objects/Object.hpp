@@ -105,6 +105,8 @@ public:
                 object->requireUsable(machine);
     }
 
+    std::uint32_t& embedderNumber() { return own_.embedderNumber; }
+
     /// The native object for its own class, null when there is none.
     void const* ownNativeObject() const { return own_.native; }
 
@@ -131,6 +133,7 @@ private:
     struct Slot {
         bool created = false;  ///< by the class's `createInstanceData`, which may have given null
         bool recorded = false; ///< by that, or by `setNativeObject` since
+        std::uint32_t embedderNumber = 0; ///< of the object: it needs no room here
         Name className = nullptr;
         void* native = nullptr;
 

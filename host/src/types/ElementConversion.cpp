@@ -40,7 +40,8 @@ std::string cellMismatchReason(hvClassID target, Array const& input)
     for (std::size_t i = 0; i < input.size(); ++i) {
         Array const* const cell = input.cells()[i];
         orbis::COSValue converted;
-        if (!cell || scalarConverters(target)[cell->classID()](*cell, converted) == notConvertible)
+        if (!cell || !cell->isScalar() ||
+            scalarConverters(target)[cell->classID()](cell->elements(), converted) == notConvertible)
             return "; " + elementPlace(i) + (cell ? scalarMismatchReason(target, *cell) : "is an empty cell");
     }
     return {};
@@ -77,7 +78,7 @@ std::string elementsMismatchReason(hvClassID target, Array const& input)
     for (std::size_t i = 0; i < input.size(); ++i) {
         ArrayPtr const element = elementOf(input, i);
         orbis::COSValue converted;
-        if (convert(*Array::of(element.get()), converted) == notConvertible)
+        if (convert(Array::of(element.get())->elements(), converted) == notConvertible)
             return elementPlace(i) + scalarMismatchReason(target, *Array::of(element.get()));
     }
     return "fits";

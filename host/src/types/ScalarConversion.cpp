@@ -8,6 +8,7 @@
 #include <charconv>
 #include <cmath>
 #include <concepts>
+#include <cstring>
 #include <limits>
 
 namespace velmara {
@@ -16,17 +17,16 @@ using namespace orbis::host_extensions;
 
 namespace {
 
-ConversionRank convertNone(Array const&, orbis::COSValue&)
+ConversionRank convertNone(void const*, orbis::COSValue&)
 {
     return notConvertible;
 }
 
 template <class Source, class T>
-ConversionRank convert(Array const& input, orbis::COSValue& out)
+ConversionRank convert(void const* element, orbis::COSValue& out)
 {
-    if (!input.isScalar())
-        return notConvertible;
-    Source const number = *static_cast<Source const*>(input.elements());
+    Source number;
+    std::memcpy(&number, element, sizeof number);
     if constexpr (std::same_as<Source, T>) {
         out = orbis::COSValue(number);
         return exactRank;

@@ -10,9 +10,9 @@
 
 namespace velmara {
 
-/// Reads a 1-by-1 array of one class as a native scalar of another, by the rules of `convertNumber`. A logical is no
-/// number: only logicals take it. `out` is written only when the array fits.
-using ScalarConverter = ConversionRank (*)(Array const& input, orbis::COSValue& out);
+/// Reads an element of an array of one class as a native scalar of another, by the rules of `convertNumber`. A logical
+/// is no number: only logicals take it. `out` is written only when the element fits.
+using ScalarConverter = ConversionRank (*)(void const* element, orbis::COSValue& out);
 
 /// The converters to the class `target`, a numeric or logical one, by the class of the input.
 ScalarConverter const* scalarConverters(hvClassID target);

@@ -14,11 +14,8 @@ public:
 
     /// Reads a double that this type takes without loss, the usual input from a script. Where it returns false, `read`
     /// may still succeed.
-    [[gnu::always_inline]] bool readDouble(Array const& input, orbis::COSValue& out) const
+    [[gnu::always_inline]] bool readDouble(double number, orbis::COSValue& out) const
     {
-        if (input.classID() != hvDOUBLE_CLASS || !input.isScalar())
-            return false;
-        double const number = *static_cast<double const*>(input.elements());
         if (number >= lowest_ && number <= highest_) [[likely]] { // a NaN compares false
             auto const whole = static_cast<std::int64_t>(number);
             if (static_cast<double>(whole) != number) [[unlikely]]
@@ -30,12 +27,33 @@ public:
         return target_ == hvDOUBLE_CLASS;
     }
 
+    [[gnu::always_inline]] bool readDouble(Array const& input, orbis::COSValue& out) const
+    {
+        return input.classID() == hvDOUBLE_CLASS && input.isScalar() &&
+               readDouble(*static_cast<double const*>(input.elements()), out);
+    }
+    [[gnu::always_inline]] bool readDouble(orbis::COSValue const& input, orbis::COSValue& out) const
+    {
+        if (input.isScalarOf(hvDOUBLE_CLASS)) [[likely]]
+            return readDouble(input.scalar<double>(), out);
+        return input.isArray() && readDouble(*Array::of(input.array()), out);
+    }
+
     /// Writes `out` when the array fits. Not for a default-constructed reader.
     [[gnu::always_inline]] ConversionRank read(Array const& input, orbis::COSValue& out) const
     {
         if (readDouble(input, out)) [[likely]]
             return target_ == hvDOUBLE_CLASS ? exactRank : convertedRank;
-        return converters_[input.classID()](input, out);
+        return input.isScalar() ? converters_[input.classID()](input.elements(), out) : notConvertible;
+    }
+
+    /// The same for a scalar or an array; nothing fits no scalar type.
+    ConversionRank read(orbis::COSValue const& input, orbis::COSValue& out) const
+    {
+        if (input.isArray())
+            return read(*Array::of(input.array()), out);
+        auto const element = input.scalar<std::uint64_t>();
+        return input.isEmpty() ? notConvertible : converters_[input.scalarClass()](&element, out);
     }
 
 private:

@@ -32,6 +32,15 @@ ORBIS_HOST_API void* getWritableData(hvArray_tag* array);
 /// Returns a new 1-by-n character array of UTF-16 text, which may contain zeros; 0-by-0 for an empty text.
 ORBIS_HOST_API hvArray* createText(std::u16string_view text);
 
+/// The same of UTF-8 text. What is ill-formed becomes U+FFFD.
+ORBIS_HOST_API hvArray* createText(std::string_view text);
+
+/// Returns the number of bytes of a text in UTF-8, where each lone surrogate is U+FFFD.
+ORBIS_HOST_API std::size_t utf8Size(std::u16string_view text);
+
+/// Writes that many bytes.
+ORBIS_HOST_API void writeUtf8(std::u16string_view text, char* out);
+
 /// Returns a new m-by-n string array of missing elements. Read it with `Tarnwick::String`.
 ORBIS_HOST_API hvArray* createStringMatrix(std::size_t m, std::size_t n);
 
