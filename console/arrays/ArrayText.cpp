@@ -25,6 +25,7 @@ using orbis::host_extensions::findNumericClass;
 using orbis::host_extensions::visitNumericClass;
 
 constexpr std::size_t maxRows = 10;
+constexpr int tableDigits = 5;
 constexpr std::size_t lastRows = 3; ///< of them, when there are more rows
 constexpr std::size_t maxWidth = 80;
 constexpr std::size_t maxCharacters = 24; ///< of one element's text
@@ -65,8 +66,14 @@ std::string numberText(T number, int digits)
     else if constexpr (std::is_floating_point_v<T>) {
         if (!std::isfinite(number))
             return std::isnan(number) ? "nan" : number < 0 ? "-inf" : "inf";
+        auto const value = static_cast<double>(number);
+        // In a table, an exponent is harder to read than some digits more.
+        bool const isWhole = digits == tableDigits && std::abs(value) >= 99999.5 && std::abs(value) < 1e10;
         char text[40];
-        std::snprintf(text, sizeof text, "%.*g", digits, static_cast<double>(number));
+        if (isWhole)
+            std::snprintf(text, sizeof text, "%.0f", value);
+        else
+            std::snprintf(text, sizeof text, "%.*g", digits, value);
         return text;
     } else
         return std::to_string(number);
@@ -93,7 +100,7 @@ std::string cellText(hvArray_tag const* cell)
     if (classID == hvCHAR_CLASS && cell->get_dimensions()[0] == 1)
         return quoteText(rowOf(*cell, 0), maxCharacters);
     bool const isNumber = findNumericClass(classID) && cell->get_number_of_elements() == 1;
-    return isNumber ? elementText(*cell, 0) : sizeAndClass(*cell);
+    return isNumber ? elementText(*cell, 0) : sizeAndClass(cell);
 }
 
 std::string objectText(hvArray_tag const& array, std::size_t index)
@@ -117,7 +124,7 @@ std::string elementText(hvArray_tag const& array, std::size_t index)
     case hvOBJECT_CLASS:
         return objectText(array, index);
     default:
-        return numberText(array, index, 5);
+        return numberText(array, index, tableDigits);
     }
 }
 
@@ -219,9 +226,9 @@ std::string plainText(hvArray_tag const& array)
 
 } // namespace
 
-std::string sizeAndClass(hvArray_tag const& array)
+std::string sizeAndClass(hvArray_tag const* array)
 {
-    return shapeText(array) + ' ' + className(&array);
+    return shapeText(*array) + ' ' + className(array);
 }
 
 std::string arrayText(lua_State* L, hvArray_tag const& array)
@@ -232,8 +239,8 @@ std::string arrayText(lua_State* L, hvArray_tag const& array)
     if (std::string text = plainText(array); !text.empty() || (isText && array.get_number_of_elements() == 1))
         return text;
     if (array.get_number_of_elements() == 0 || classID == orbis::host_extensions::functionClass)
-        return sizeAndClass(array);
-    return sizeAndClass(array) + (classID == hvCHAR_CLASS ? charactersText(array) : tableText(array));
+        return sizeAndClass(&array);
+    return sizeAndClass(&array) + (classID == hvCHAR_CLASS ? charactersText(array) : tableText(array));
 }
 
 } // namespace velmara::console

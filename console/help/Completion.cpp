@@ -1,6 +1,8 @@
 #include "help/Completion.hpp"
 
+#include "arrays/ArrayMethods.hpp"
 #include "bindings/ProxyBinding.hpp"
+#include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
 #include "help/ConsoleFunctions.hpp"
@@ -67,6 +69,8 @@ Names membersOf(lua_State* L, std::vector<ExpressionStep> const& steps, char sep
         addPublished(L, proxied, names);
     else if (lua_istable(L, value.index()))
         addKeys(L, value.index(), names);
+    else if (isHostArray(L, value.index()))
+        std::ranges::transform(arrayMethods(), std::back_inserter(names), &ArrayMethod::name);
     return names;
 }
 

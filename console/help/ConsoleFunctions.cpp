@@ -11,7 +11,8 @@ char const valuesKey = 0; // its address is the key of the names by their values
 constexpr ConsoleFunction functions[] = {
     {"apropos", "apropos(text)", "Lists what has the text in its name or its description, in all packages."},
     {"array", "array(class, values, m, n)",
-     "An array of exactly that class. The values are a sequence, a sequence of sequences, an array, or one value; with "
+     "An array of exactly that class; without one, of the class that the host makes of a table. The values are a "
+     "sequence, a sequence of sequences, an array, or one value; with "
      "m and n they fill m rows and n columns by column."},
     {"asarray", "asarray(f, ...) asarray(object, \"property\")",
      "Calls a method or function of the host, or reads a property: the result is always an array."},

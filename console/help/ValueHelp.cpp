@@ -38,7 +38,7 @@ std::string functionHelp(lua_State* L, int index)
 std::string hostText(lua_State* L, int index)
 {
     try {
-        return "a module gets it as " + sizeAndClass(*toHost(L, index));
+        return "a module gets it as " + sizeAndClass(toHost(L, index).get());
     } catch (Error const& error) {
         return "no module can be given it: " + error.text().substr(0, error.text().find('\n'));
     }
@@ -53,7 +53,7 @@ std::string valueHelp(lua_State* L, int index)
     if (ArrayMethod const* const method = arrayMethodAt(L, index))
         return paragraph(method->signature, 0, 2) + paragraph(method->text, 2, 2);
     if (hvArray_tag const* const array = isHostArray(L, index) ? testHostArray(L, index) : nullptr)
-        return "an array: " + sizeAndClass(*array) + '\n' + arrayMethodsText();
+        return "an array: " + sizeAndClass(array) + '\n' + arrayMethodsText();
     std::string text = kindAt(L, index);
     if (lua_isfunction(L, index))
         text = functionHelp(L, index);

@@ -109,7 +109,7 @@ void HostInspector::showArray(Place const& place, hvArray_tag* array, ValueShape
     if (classID == hvCELL_CLASS && count > 0)
         return showCells(place, array);
     std::string const text = summary(L_, array, shape);
-    if (!array || text != sizeAndClass(*array))
+    if (!array || text != sizeAndClass(array))
         return page_.add(place.indent, place.label + text);
     std::string const rows = arrayText(L_, *array);
     showText(place, text + (rows.find('\n') == rows.npos ? "" : rows.substr(rows.find('\n'))), 0);
@@ -171,7 +171,7 @@ void HostInspector::showCells(Place const& place, hvArray_tag const* cells)
 {
     std::size_t const all = cells->get_number_of_elements();
     bool const isDeep = place.depth >= maxShownDepth;
-    page_.add(place.indent, place.label + sizeAndClass(*cells) + (isDeep ? " ..." : ""));
+    page_.add(place.indent, place.label + sizeAndClass(cells) + (isDeep ? " ..." : ""));
     if (isDeep)
         return;
     std::size_t const rows = cells->get_dimensions()[0];
@@ -194,7 +194,7 @@ void HostInspector::showCells(Place const& place, hvArray_tag const* cells)
 /// Names of objects without properties, such as enumerators, in one line.
 void HostInspector::showNames(Place const& place, hvArray_tag const* objects)
 {
-    std::string line = place.label + sizeAndClass(*objects);
+    std::string line = place.label + sizeAndClass(objects);
     std::size_t const columns = page_.columnsAfter(place.indent);
     std::size_t const count = objects->get_number_of_elements();
     for (std::size_t i = 0; i < count && displayWidth(line) <= columns; ++i) {
@@ -212,7 +212,7 @@ void HostInspector::showRows(Place const& place, hvArray_tag const* objects)
     auto const properties = hasProperties ? visibleProperties(*cls, isOfObject) : Properties();
     if (properties.empty())
         return showNames(place, objects);
-    page_.add(place.indent, place.label + sizeAndClass(*objects));
+    page_.add(place.indent, place.label + sizeAndClass(objects));
     AlignedTable::Row headings{"#"};
     for (PropertyRecord const* property : properties)
         headings.push_back(property->name);

@@ -127,11 +127,11 @@ std::string summary(lua_State* L, hvArray_tag* array, ValueShape shape)
     if (std::string row = areNumbers ? rowSummary(L, array) : ""; !row.empty())
         return row;
     if (count != 1 || shape == ValueShape::List || classID == hvCELL_CLASS)
-        return classID == hvOBJECT_CLASS && count == 0 ? "none" : sizeAndClass(*array);
+        return classID == hvOBJECT_CLASS && count == 0 ? "none" : sizeAndClass(array);
     if (classID == hvSTRING_CLASS)
         return stringSummary(array);
     if (classID != hvOBJECT_CLASS)
-        return sizeAndClass(*array);
+        return sizeAndClass(array);
     HostCall call(L);
     hvArray_tag* const object = objectAt(call, array, 0);
     return object ? objectSummary(L, object) : "null";
