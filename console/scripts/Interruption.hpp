@@ -5,8 +5,9 @@
 namespace velmara::console {
 
 /// For its lifetime Ctrl-C interrupts what runs instead of ending the process. Ctrl-C ends the process all the same
-/// while the one before has had no effect: the script is in a function of native code, or in one of Lua's own such as
-/// `string.find`. One at a time; leaves Ctrl-C alone where the process ignores it.
+/// while the one before has had no effect: the script is in a function of native code, in one of Lua's own such as
+/// `string.find`, or in a finalizer; and the third time, when native code has caught the error twice. One at a time;
+/// leaves Ctrl-C alone where the process ignores it.
 class InterruptHandler {
 public:
     InterruptHandler();

@@ -135,6 +135,10 @@ print(handle)
 show(handle, {handle, handle.other}, members(probe.named))
 return handle
 
+local raise = coroutine.wrap(function() error({through = "a coroutine"}) end)
+each({raise, print}, function(f) print(pcall(xpcall, f, type)) end)
+return (select(2, time(tostring, 7)))
+
 local a = array("int8", {{1, 2, 3}, {4, 5, 6}})
 local texts, cells = array("string", {"long enough for memory of its own", "b"}), array("cell", {a, "x"})
 texts:set({1, 2}, texts({2, 1}))
