@@ -22,11 +22,49 @@ template <int number>
 struct Kind {};
 
 template <int... numbers>
-void publishOverloads(orbis::factory::Module& crossings, std::integer_sequence<int, numbers...>)
+void publishKinds(orbis::factory::Module& crossings, std::integer_sequence<int, numbers...>)
 {
     (crossings.publish<Kind<numbers>>(("Kind" + std::to_string(numbers)).c_str()).template constructor<>(), ...);
+}
+
+template <int... numbers>
+void publishOverloads(orbis::factory::Module& crossings, char const* name, std::integer_sequence<int, numbers...>)
+{
     (crossings.function(
-         "choose", [](Kind<numbers> const*) { return numbers; }, "kind", ""),
+         name, [](Kind<numbers> const*) { return numbers; }, "kind", ""),
+     ...);
+}
+
+/// A class with a member for each of many names, and as many functions.
+struct Wide {
+    template <int number>
+    double get() const
+    {
+        return number;
+    }
+};
+
+/// Members keep the address of their name.
+template <int number>
+char const* numbered(char const* name)
+{
+    static std::string const texts[] = {"get" + std::to_string(number), "value" + std::to_string(number),
+                                        "add" + std::to_string(number)};
+    for (std::string const& text : texts)
+        if (text.starts_with(name))
+            return text.c_str();
+    return nullptr;
+}
+
+template <int... numbers>
+void publishNames(orbis::factory::Module& crossings, std::integer_sequence<int, numbers...>)
+{
+    auto& wide = crossings.publish<Wide>("Wide", "");
+    wide.constructor<>();
+    (wide.method(numbered<numbers>("get"), &Wide::get<numbers>), ...);
+    (wide.property(numbered<numbers>("value"), &Wide::get<numbers>), ...);
+    (crossings.function(
+         numbered<numbers>("add"), [](double a, double b) { return a + b + numbers; }, "a, b", ""),
      ...);
 }
 
@@ -54,7 +92,11 @@ void publishModule(orbis::factory::Module& crossings)
         "count", [](std::vector<std::string> const& texts) { return static_cast<int>(texts.size()); }, "texts", "");
     crossings.function(
         "names", [] { return std::vector<std::string>(1000, "twelve bytes"); }, "", "");
-    publishOverloads(crossings, std::make_integer_sequence<int, 20>());
+    publishKinds(crossings, std::make_integer_sequence<int, 20>());
+    publishOverloads(crossings, "choose2", std::make_integer_sequence<int, 2>());
+    publishOverloads(crossings, "choose8", std::make_integer_sequence<int, 8>());
+    publishOverloads(crossings, "choose", std::make_integer_sequence<int, 20>());
+    publishNames(crossings, std::make_integer_sequence<int, 64>());
     crossings.function(
         "fail", [] { throw std::runtime_error("failed"); }, "", "");
 }

@@ -17,6 +17,14 @@ local rows = {
   stringIn = function(count) for _ = 1, count do length("twelve bytes") end end,
   stringOut = function(count) for _ = 1, count do name() end end,
   object = function(count) for _ = 1, count do self(adder) end end,
+  mixed = function(count) -- other names each time: a method, a property and a function of 64 each
+    local wide, methods, properties, functions = crossings.Wide(), {}, {}, {}
+    for i = 0, 63 do methods[i], properties[i], functions[i] = "get" .. i, "value" .. i, "add" .. i end
+    for i = 1, count do
+      local name = i * 37 % 64
+      local _ = wide[methods[name]](wide), wide[properties[name]], crossings[functions[name]](1.0, 2.0)
+    end
+  end,
   overload = function(count) for _ = 1, count do choose(kind) end end,
   stringsIn = function(count) for _ = 1, count do crossings.count(texts) end end,
   stringsOut = function(count) for _ = 1, count do crossings.names() end end,

@@ -1,6 +1,7 @@
 #include "bindings/ClassMembers.hpp"
 
 #include "bindings/MemberRecords.hpp"
+#include "bindings/NamedArguments.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
 #include "lua/CachedValue.hpp"
@@ -59,18 +60,23 @@ int callMember(lua_State* L)
     HostCall call(L);
     if (hvArray_tag* const object = firstObject(L, member, call.hvm())) [[likely]] {
         call.share(object);
+        spreadNamedArguments(L, 2, member);
         return call.finish(call.hvm().call(object, member.name, call.values(2), call.failure()));
     }
-    if (member.isCalledOnClass)
+    if (member.isCalledOnClass) {
+        spreadNamedArguments(L, 1, member);
         return callStatic(L, call, member);
+    }
     std::string const& name = member.name.member();
     fail("noObject", name + " needs an object of " + member.name.owner() + " first: write object:" + name + "(...)");
 }
 
 int callPackageFunction(lua_State* L)
 {
+    Member& function = calledMember(L);
+    spreadNamedArguments(L, 1, function);
     HostCall call(L);
-    return call.finish(call.hvm().callFunction(calledMember(L).name, call.values(1), call.failure()));
+    return call.finish(call.hvm().callFunction(function.name, call.values(1), call.failure()));
 }
 
 void pushCallable(lua_State* L, Member& member)

@@ -2,6 +2,7 @@
 
 #include "bindings/ClassMembers.hpp"
 #include "bindings/MemberIteration.hpp"
+#include "bindings/NamedArguments.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
 #include "handles/ValueText.hpp"
@@ -119,8 +120,9 @@ int callProxy(lua_State* L)
     NameRecord& name = nameRecord(L);
     if (checkKind(L, name) != NameKind::Class)
         fail("notCallable", "package " + name.text() + " cannot be called: a class of it can");
+    spreadConstructorArguments(L, 2, name.constructors());
     HostCall call(L);
-    return call.finish(call.hvm().construct(name.asClass(), call.values(2), call.failure()));
+    return call.finish(call.hvm().construct(name.constructors().name, call.values(2), call.failure()));
 }
 
 int showProxy(lua_State* L)

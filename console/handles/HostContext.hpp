@@ -3,9 +3,9 @@
 #include "handles/ArrayStack.hpp"
 #include "handles/HeldArrays.hpp"
 #include "handles/Member.hpp"
+#include "handles/NameRecord.hpp"
 #include "handles/OwnedFunctions.hpp"
 #include "handles/PublishedAnswers.hpp"
-#include "handles/NameRecord.hpp"
 #include "lua/ChangeWatch.hpp"
 #include "lua/LuaApi.hpp"
 

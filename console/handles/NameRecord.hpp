@@ -1,5 +1,7 @@
 #pragma once
 
+#include "handles/Member.hpp"
+
 #include "velmara/Hvm.hpp"
 
 #include <map>
@@ -11,12 +13,12 @@ namespace velmara::console {
 /// A dotted name that the script has seen, and what was published under it when that was asked last.
 class NameRecord {
 public:
-    explicit NameRecord(std::string fullName) : name_(std::move(fullName)) {}
+    explicit NameRecord(std::string fullName) : constructors_(MemberName(std::move(fullName))) {}
 
-    std::string const& text() const { return name_.owner(); }
+    std::string const& text() const { return constructors_.name.owner(); }
 
-    /// For constructing objects of the class.
-    MemberName& asClass() { return name_; }
+    /// Of the class.
+    Member& constructors() { return constructors_; }
 
     /// What is published under it now.
     NameKind kind(Hvm& hvm)
@@ -29,7 +31,7 @@ public:
     }
 
 private:
-    MemberName name_;
+    Member constructors_;
     NameKind kind_ = NameKind::None;
     std::uint64_t publication_ = 0;
 };

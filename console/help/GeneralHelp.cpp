@@ -6,6 +6,8 @@ char const* const generalHelp = R"(velmara runs Lua 5.4 scripts that use the cla
 
   a = package.Class(1, 2)     make an object
   a:method(1, 2)              call a method of it
+  a:method{second = 2, first = 1}    inputs by the names of the parameters, when
+                              no form of it takes one table
   a.property = 3              read and set a property
   package.Class.method()      call a static method; likewise a package function
   package.Class.property      read and set a static property

@@ -1,15 +1,12 @@
 #include "lua/ScriptError.hpp"
 
 #include "lua/CachedValue.hpp"
-#include "lua/ChangeWatch.hpp"
 #include "lua/ScriptFailure.hpp"
 #include "lua/ScriptFrames.hpp"
 #include "lua/Table.hpp"
 
-#include "libkwfl/IMsgIDException.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 
-#include <exception>
 #include <new>
 
 namespace velmara::console {
@@ -101,25 +98,23 @@ void fail(std::string_view key, std::string const& text)
     throw Error("VELMARA:console:" + std::string(key), text);
 }
 
-int callGuarded(lua_State* L, lua_CFunction body)
+void pushCaught(lua_State* L, foundation::core::except::IMsgIDException const& error)
 {
-    try {
-        int const results = body(L);
-        ChangeWatch::check(L);
-        return results;
-    } catch (ScriptFailure const& failure) {
-        pushFailure(L, failure);
-    } catch (Error const& error) {
-        pushError(L, error);
-    } catch (foundation::core::except::IMsgIDException const& error) {
-        pushError(L, error.getErrorID(), fl::i18n::to_string(error.GetUnicodeMessageTxt()));
-    } catch (std::bad_alloc const&) {
-        pushError(L, Error::outOfMemory().identifier(), Error::outOfMemory().text());
-    } catch (std::exception const& error) {
+    pushError(L, error.getErrorID(), fl::i18n::to_string(error.GetUnicodeMessageTxt()));
+}
+
+void pushCaught(lua_State* L, std::exception const& error)
+{
+    if (auto const* const failure = dynamic_cast<ScriptFailure const*>(&error))
+        pushFailure(L, *failure);
+    else if (auto const* const known = dynamic_cast<Error const*>(&error))
+        pushError(L, *known);
+    else if (auto const* const native = dynamic_cast<foundation::core::except::IMsgIDException const*>(&error))
+        pushCaught(L, *native);
+    else if (dynamic_cast<std::bad_alloc const*>(&error))
+        pushError(L, Error::outOfMemory());
+    else
         pushError(L, "VELMARA:console:internal", error.what());
-    } // no `catch (...)`: Lua's own errors must reach Lua
-    ChangeWatch::check(L);
-    return raised;
 }
 
 } // namespace velmara::console

@@ -1,9 +1,12 @@
 #pragma once
 
-#include "lua/LuaApi.hpp"
+#include "lua/ChangeWatch.hpp"
 
 #include "velmara/Error.hpp"
 
+#include "libkwfl/IMsgIDException.hpp"
+
+#include <exception>
 #include <string>
 #include <string_view>
 
@@ -34,19 +37,26 @@ std::string errorText(lua_State* L, int index);
 /// Throws the console's own `velmara::Error` "VELMARA:console:KEY".
 [[noreturn]] void fail(std::string_view key, std::string const& text);
 
+/// Pushes the error value for what native code has thrown.
+void pushCaught(lua_State* L, std::exception const& error);
+void pushCaught(lua_State* L, foundation::core::except::IMsgIDException const& error);
+
 /// What a function returns that has pushed an error value for its caller to raise.
 inline constexpr int raised = -1;
 
-/// Calls `body`; for what it throws, pushes the error value, and returns `raised`. Lua's own errors pass through
-/// untouched.
-int callGuarded(lua_State* L, lua_CFunction body);
-
-/// `Body` as a function for Lua: no C++ exception leaves it.
+/// `Body` as a function for Lua: no C++ exception leaves it. Lua's own errors pass through untouched.
 template <lua_CFunction Body>
 int guarded(lua_State* L)
 {
-    // The call at the end lets the compiler drop this frame first: each one that an error unwinds costs.
-    int const results = callGuarded(L, Body);
+    int results = raised;
+    try {
+        results = Body(L);
+    } catch (std::exception const& error) {
+        pushCaught(L, error);
+    } catch (foundation::core::except::IMsgIDException const& error) {
+        pushCaught(L, error);
+    } // no `catch (...)`: Lua's own errors must reach Lua
+    ChangeWatch::check(L);
     return results == raised ? lua_error(L) : results;
 }
 

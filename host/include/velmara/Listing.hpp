@@ -17,6 +17,8 @@ enum class NameKind { None, Package, Class, Function };
 struct ParameterRecord {
     std::string name;
     std::string dataType;
+    bool isOptional = false;  ///< of an optional type
+    bool isConverted = false; ///< of a type that decides itself what it takes: "any", or a registered one
 };
 
 struct MethodRecord {

@@ -4,6 +4,7 @@
 #include "api/callTargets.hpp"
 #include "classes/PackageTree.hpp"
 #include "errors/hostError.hpp"
+#include "types/TypeRepository.hpp"
 
 #include "host_extensions/NativeEquality.hpp"
 #include "host_extensions/NativeOwner.hpp"
@@ -19,12 +20,24 @@ std::string text(char const* description)
     return description ? description : "";
 }
 
+ParameterRecord record(Parameter const& parameter)
+{
+    bool const isOptional = parameter.type.kind == TypeKind::Optional;
+    TypeReference const& type = isOptional ? *parameter.type.value : parameter.type;
+    bool const isRegistered =
+        type.kind == TypeKind::Named && Machine::required().types().findRegistered(type.name) != nullptr;
+    return {.name = parameter.name,
+            .dataType = parameter.type.name->string(),
+            .isOptional = isOptional,
+            .isConverted = type.kind == TypeKind::Any || isRegistered};
+}
+
 std::vector<ParameterRecord> records(std::vector<Parameter> const& parameters)
 {
     std::vector<ParameterRecord> listed;
     listed.reserve(parameters.size());
     for (Parameter const& parameter : parameters)
-        listed.push_back({parameter.name, parameter.type.name->string()});
+        listed.push_back(record(parameter));
     return listed;
 }
 
