@@ -146,3 +146,10 @@ cells[array {2}] = cells(1, {1})
 print(a * 0.5 + {1, 2, 3}, a:gt(2) & ~a:eq(4), a(nil, {2, 1}), a:sum(2), a:order(2), a:gt(1):find(), a:transpose(), range(1, 6):reshape(2, nil))
 print(pcall(function() return a * 100 end), texts:transpose(), cells)
 return {a:sort(1), texts(nil)}
+
+-- each: what memory is short for changes nothing
+local texts = array("string", {"a", "b"})
+local long = "long enough for memory of its own"
+if not pcall(texts.set, texts, {1, 2}, long) and texts[1] ~= "a" then wrong = "torn" end
+print(wrong)
+return texts
