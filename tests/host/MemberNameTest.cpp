@@ -80,7 +80,10 @@ TEST_F(MemberNameTest, NothingIsRememberedOfAClassThatLosesItsBase)
         setSuperclass(cls, "p.Base");
         cls->addMethod(answering("f", {}, 1, {.isStatic = true}));
     });
-    derived->destroy = [&](COSInterface*, void*) { during = std::max(during, call(hvm(), objects[1], f)); };
+    derived->destroy = [&](COSInterface*, void*) {
+        for (ArrayPtr const& object : objects)
+            during = std::max(during, call(hvm(), object, f));
+    };
     publish(derived);
     for (ArrayPtr& object : objects)
         object = hvm().construct("Derived");
