@@ -141,7 +141,7 @@ TEST_F(MemberNameTest, ScalarsCrossAsTheirArraysDo)
                                          hvm().callStatic(name, {&held, 1}, failures[1])};
             std::string const what = types[i] + " from class " + std::to_string(value.scalarClass());
             ASSERT_EQ(failures[0].has_value(), failures[1].has_value()) << what;
-            if (failures[0])
+            if (failures[0] && failures[1])
                 EXPECT_STREQ(failures[0]->what(), failures[1]->what()) << what;
             else
                 EXPECT_TRUE(velmara::isEqual(results[0].slot().array(), results[1].slot().array())) << what;
