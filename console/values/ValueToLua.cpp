@@ -75,30 +75,14 @@ void pushCells(lua_State* L, hvArray_tag const& cells, Conversion& conversion)
     });
 }
 
-/// A list that would be taken for one value, or for none.
-bool isPushedAsList(hvArray_tag const& array)
-{
-    return array.get_number_of_elements() == 1 || array._get_class_id_non_trivial() == hvOBJECT_CLASS;
-}
-
-/// The same kind of value as for a list of several elements.
-void pushList(lua_State* L, hvArray_tag const& array)
-{
-    luaL_checkstack(L, 12, nullptr);
-    if (isOfTables(array._get_class_id_non_trivial()))
-        pushSequence(L, 1, [&](std::size_t i) { pushElement(L, &array, i); });
-    else
-        pushHostArray(L, array);
-}
-
 } // namespace
 
 void pushValue(lua_State* L, hvArray_tag const* array, ValueShape shape)
 {
     if (!array)
         return lua_pushnil(L);
-    if (shape == ValueShape::List && isPushedAsList(*array))
-        return pushList(L, *array);
+    if (shape == ValueShape::List)
+        return pushHostArray(L, *array);
     hvClassID const classID = array->_get_class_id_non_trivial();
     std::size_t const count = array->get_number_of_elements();
     if (count == 1 && findNumericClass(classID)) // needs a slot only, which is there

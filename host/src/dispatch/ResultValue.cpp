@@ -39,11 +39,6 @@ bool isOf(TypeReference const& type, hvArray_tag* array)
     return (type.element ? objectVectorRank(type.element, given) : firstObjectRank(type.name, given)) != notConvertible;
 }
 
-bool isList(TypeReference const& type)
-{
-    return type.element || type.kind == TypeKind::Elements;
-}
-
 [[noreturn]] void throwMismatch(TypeReference const* type, std::string_view member)
 {
     throwHostError("VELMARA:result", "type", {std::string(member), type ? type->name->string() : std::string("void")});
@@ -86,7 +81,7 @@ Value ResultValue::takeArray(std::string_view member)
     }
     if (!type_ || (value_.array() && !isOf(*type_, value_.array())))
         throwMismatch(type_, member);
-    return Value(takeSlot(), isList(*type_) ? ValueShape::List : ValueShape::Plain);
+    return Value(takeSlot(), type_->element ? ValueShape::List : ValueShape::Plain);
 }
 
 void ResultValue::release() noexcept
