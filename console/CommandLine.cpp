@@ -19,6 +19,8 @@ are in `arg` and `...`.
   --restricted         for scripts of strangers: no files, processes, modules
   --check-leaks        check at the end that nothing of the host is left
   --report-leaks       name at the end each native object that is still bound
+  --stubs DIR PACKAGE...  write files into DIR that let an editor complete and
+                       check scripts for these packages
   --help, --version
 
 Exit codes: 0 success; 1 a script or module failed ("identifier: text" and
@@ -69,12 +71,21 @@ void parseOption(CommandLine& line, std::string const& option, Words& words)
         line.checksLeaks = true;
     else if (option == "--report-leaks")
         line.reportsLeaks = true;
-    else if (option == "--help" || option == "-h")
+    else if (option == "--stubs") {
+        line.task = Task::Stubs;
+        line.folder = takeValue(words, option);
+    } else if (option == "--help" || option == "-h")
         line.task = Task::Help;
     else if (option == "--version")
         line.task = Task::Version;
     else
         throw UsageError("unknown option " + option);
+}
+
+/// Whether what follows may be options still.
+bool takesOptions(CommandLine::Task task)
+{
+    return task == CommandLine::Task::Prompt || task == CommandLine::Task::Stubs;
 }
 
 } // namespace
@@ -83,12 +94,17 @@ CommandLine parseCommandLine(std::vector<std::string> const& words)
 {
     CommandLine line;
     Words left(words);
-    while (line.task == CommandLine::Task::Prompt && !left.empty() && left.front().starts_with('-') &&
-           left.front() != "-") {
+    while (takesOptions(line.task) && !left.empty() && left.front().starts_with('-') && left.front() != "-") {
         std::string const& option = take(left);
         if (option == "--")
             break;
         parseOption(line, option, left);
+    }
+    if (line.task == CommandLine::Task::Stubs) {
+        if (left.empty())
+            throw UsageError("--stubs needs the names of packages");
+        line.packages.assign(left.begin(), left.end());
+        return line;
     }
     if (line.task == CommandLine::Task::Prompt && !left.empty()) {
         line.task = CommandLine::Task::Script;

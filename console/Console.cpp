@@ -10,6 +10,7 @@
 #include "help/HelpFunctions.hpp"
 #include "lua/ScriptError.hpp"
 #include "prompt/Prompt.hpp"
+#include "reference/Stubs.hpp"
 #include "scripts/ErrorReport.hpp"
 #include "scripts/Interruption.hpp"
 #include "scripts/ScriptLibraries.hpp"
@@ -72,8 +73,17 @@ int runGiven(lua_State* L, Run const& run)
     return InterruptibleRun::isInterrupted() ? exitInterrupted : exitScriptError;
 }
 
+int writeReference(Run const& run)
+{
+    std::u8string const folder(run.line.folder.begin(), run.line.folder.end());
+    writeStubs(run.session.host().hvm(), folder, run.line.packages);
+    return exitSuccess;
+}
+
 int runTask(lua_State* L, Run const& run)
 {
+    if (run.line.task == CommandLine::Task::Stubs)
+        return writeReference(run);
     InterruptHandler const handler;
     int const code = run.line.task == CommandLine::Task::Prompt ? exitSuccess : runGiven(L, run);
     if (run.line.asksForPrompt)
