@@ -21,6 +21,9 @@ are in `arg` and `...`.
   --report-leaks       name at the end each native object that is still bound
   --stubs DIR PACKAGE...  write files into DIR that let an editor complete and
                        check scripts for these packages
+  --document PACKAGE... -o DIR
+                       write the reference of these packages into DIR, as pages
+                       for a browser; with -f markdown as Markdown
   --help, --version
 
 Exit codes: 0 success; 1 a script or module failed ("identifier: text" and
@@ -51,6 +54,28 @@ std::string const& takeValue(Words& words, std::string const& option)
     return take(words);
 }
 
+/// Options of what the console writes of packages; false for another option.
+bool parseWritingOption(CommandLine& line, std::string const& option, Words& words)
+{
+    using Task = CommandLine::Task;
+    bool const isOfDocument = line.task == Task::Document;
+    if (option == "--document")
+        line.task = Task::Document;
+    else if (option == "--stubs") {
+        line.task = Task::Stubs;
+        line.folder = takeValue(words, option);
+    } else if (option == "-o" && isOfDocument)
+        line.folder = takeValue(words, option);
+    else if (option == "-f" && isOfDocument) {
+        std::string const& format = takeValue(words, option);
+        if (format != "html" && format != "markdown")
+            throw UsageError("the format " + format + " is not known: it is html or markdown");
+        line.writesMarkdown = format == "markdown";
+    } else
+        return false;
+    return true;
+}
+
 void parseOption(CommandLine& line, std::string const& option, Words& words)
 {
     using Task = CommandLine::Task;
@@ -71,10 +96,9 @@ void parseOption(CommandLine& line, std::string const& option, Words& words)
         line.checksLeaks = true;
     else if (option == "--report-leaks")
         line.reportsLeaks = true;
-    else if (option == "--stubs") {
-        line.task = Task::Stubs;
-        line.folder = takeValue(words, option);
-    } else if (option == "--help" || option == "-h")
+    else if (parseWritingOption(line, option, words))
+        return;
+    else if (option == "--help" || option == "-h")
         line.task = Task::Help;
     else if (option == "--version")
         line.task = Task::Version;
@@ -82,10 +106,31 @@ void parseOption(CommandLine& line, std::string const& option, Words& words)
         throw UsageError("unknown option " + option);
 }
 
-/// Whether what follows may be options still.
-bool takesOptions(CommandLine::Task task)
+/// Whether the task is to write of packages.
+bool takesPackages(CommandLine::Task task)
 {
-    return task == CommandLine::Task::Prompt || task == CommandLine::Task::Stubs;
+    return task == CommandLine::Task::Stubs || task == CommandLine::Task::Document;
+}
+
+/// The packages, which options may stand between.
+void parsePackages(CommandLine& line, Words words)
+{
+    bool areOptionsOver = false;
+    while (!words.empty()) {
+        std::string const& word = take(words);
+        if (areOptionsOver || !word.starts_with('-'))
+            line.packages.push_back(word);
+        else if (word == "--")
+            areOptionsOver = true;
+        else
+            parseOption(line, word, words);
+    }
+    if (!takesPackages(line.task)) // but one of another option, such as --help
+        return line.packages.clear();
+    if (line.packages.empty())
+        throw UsageError("the names of packages are needed");
+    if (line.folder.empty())
+        throw UsageError("-o and a folder are needed");
 }
 
 } // namespace
@@ -94,16 +139,15 @@ CommandLine parseCommandLine(std::vector<std::string> const& words)
 {
     CommandLine line;
     Words left(words);
-    while (takesOptions(line.task) && !left.empty() && left.front().starts_with('-') && left.front() != "-") {
+    while (line.task == CommandLine::Task::Prompt && !left.empty() && left.front().starts_with('-') &&
+           left.front() != "-") {
         std::string const& option = take(left);
         if (option == "--")
             break;
         parseOption(line, option, left);
     }
-    if (line.task == CommandLine::Task::Stubs) {
-        if (left.empty())
-            throw UsageError("--stubs needs the names of packages");
-        line.packages.assign(left.begin(), left.end());
+    if (takesPackages(line.task)) {
+        parsePackages(line, left);
         return line;
     }
     if (line.task == CommandLine::Task::Prompt && !left.empty()) {

@@ -8,7 +8,7 @@ namespace velmara::console {
 
 /// What the console was started for.
 struct CommandLine {
-    enum class Task { Script, Code, Prompt, Stubs, Help, Version };
+    enum class Task { Script, Code, Prompt, Stubs, Document, Help, Version };
 
     Task task = Task::Prompt;
     std::string script;                 ///< a file, "-" for standard input; for `Task::Code` the code
@@ -16,6 +16,7 @@ struct CommandLine {
     std::string folder;                 ///< for what is written
     std::vector<std::string> packages;  ///< that it is written about
     std::vector<std::string> modules;   ///< files to load
+    bool writesMarkdown = false;
     bool loadsBuiltIn = true;
     bool isRestricted = false; ///< runs an untrusted script
     bool checksLeaks = false;

@@ -18,7 +18,7 @@ struct Annotated {
     std::string_view inputs;
 };
 
-constexpr std::string_view classes =
+constexpr std::string_view consoleClasses =
     R"(--- An array of the host: a matrix of one class. `a(i, j)` reads parts, `a[i]` elements.
 ---@class velmara.array
 ---@field [integer] any
@@ -161,7 +161,7 @@ std::string valueStub(char const* name)
 
 std::string consoleStub()
 {
-    std::string text(classes);
+    std::string text(consoleClasses);
     for (Annotated const& method : arrayFunctions)
         text += definition(method, textOfMethod(method.name), "array_methods:");
     for (Annotated const& function : functions) {
