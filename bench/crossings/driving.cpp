@@ -31,6 +31,7 @@ public:
     {
         hvArray_tag* const inputs[] = {one_.get(), one_.get()};
         std::vector<std::string> names;
+        names.reserve(64);
         for (int i = 0; i < 64; ++i)
             names.push_back("crossings.add" + std::to_string(i));
         for (std::size_t i = 0; i < count; ++i)

@@ -36,6 +36,8 @@ ArrayPtr transposed(lua_State* L, hvArray_tag const& array)
     Shape const shape = shapeOf(array);
     ArrayPtr result = newLike(L, array, {shape.columns, shape.rows});
     Hvm::Scope const scope(HostContext::of(L).hvm());
+    if (shape.count() == 0) // there may be any number of empty rows
+        return result;
     copyElements(&array, result.get(), [shape](auto const& copy) {
         for (std::size_t row = 0; row < shape.rows; ++row)
             for (std::size_t column = 0; column < shape.columns; ++column)

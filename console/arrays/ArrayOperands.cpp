@@ -78,6 +78,8 @@ void requireNumeric(hvArray_tag const& array)
 ArrayOperands checkOperands(lua_State* L, ArrayStack::Frame& frame)
 {
     ArrayOperands operands{readOperand(L, 1, frame), readOperand(L, 2, frame), {}};
+    if (!operands.first && !operands.second)
+        fail("noArray", "neither operand is an array of the host");
     if (operands.first)
         requireNumeric(*operands.first);
     if (operands.second)

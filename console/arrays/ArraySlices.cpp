@@ -35,6 +35,8 @@ public:
     template <class Visit>
     void visit(Visit const& visit) const
     {
+        if (shape_.count() == 0)
+            return; // there may be any number of empty columns
         std::size_t const columns = second_ ? second_->count() : 1;
         for (std::size_t column = 0; column < columns; ++column) {
             std::size_t const offset = second_ ? (*second_)[column] * rowStep_ : 0;
@@ -115,11 +117,18 @@ void storeSlice(lua_State* L, int value, int indices)
     bool const isRepeated = shapeOf(*values) == Shape{1, 1};
     if (!isRepeated && !isFilledBy(selection.shape(), shapeOf(*values)))
         fail("size", "values of " + shapeText(*values) + " do not fill " + shapeText(selection.shape()));
+    // Elements that allocate are stored in a copy, which takes the array's place: all of them, or none.
+    hvArray_tag* target = checkHostArray(L, 1);
+    bool const isCopied = !orbis::host_extensions::getData(target) && selection.shape().count() > 1;
+    if (isCopied)
+        target = frame.push(ArrayPtr(hvCreateSharedDataCopy(target)));
     Hvm::Scope const scope(HostContext::of(L).hvm());
-    copyElements(values, checkHostArray(L, 1), [&](auto const& copy) {
+    copyElements(values, target, [&](auto const& copy) {
         std::size_t from = 0;
         selection.visit([&](std::size_t to) { copy(isRepeated ? 0 : from++, to); });
     });
+    if (isCopied)
+        replaceHostArray(L, 1, ArrayPtr(hvCreateSharedDataCopy(target)));
 }
 
 } // namespace

@@ -11,8 +11,7 @@ namespace velmara::console {
 int callArray(lua_State* L);
 
 /// `a:set(rows, columns, value)`, `a:set(elements, value)`: stores one value in all of them, or as many. Every value
-/// must fit the class, otherwise the array stays as it was. When memory runs out amid strings or cells, those that
-/// were stored before stay.
+/// must fit the class, otherwise the array stays as it was.
 int setSlice(lua_State* L);
 
 /// `a[elements]`, with the arguments of `__index`, and `a[elements] = value`, with those of `__newindex`.

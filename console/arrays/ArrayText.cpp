@@ -25,15 +25,11 @@ using orbis::host_extensions::findNumericClass;
 using orbis::host_extensions::visitNumericClass;
 
 constexpr std::size_t maxRows = 10;
+constexpr int tableDigits = 5;
 constexpr std::size_t lastRows = 3; ///< of them, when there are more rows
 constexpr std::size_t maxWidth = 80;
 constexpr std::size_t maxCharacters = 24; ///< of one element's text
 constexpr char const* gap = "  ...";
-
-std::string sizeAndClass(hvArray_tag const& array)
-{
-    return shapeText(array) + ' ' + className(&array);
-}
 
 /// The rows that are shown: all, or the first and the last ones.
 class ShownRows {
@@ -70,8 +66,14 @@ std::string numberText(T number, int digits)
     else if constexpr (std::is_floating_point_v<T>) {
         if (!std::isfinite(number))
             return std::isnan(number) ? "nan" : number < 0 ? "-inf" : "inf";
+        auto const value = static_cast<double>(number);
+        // In a table, an exponent is harder to read than some digits more.
+        bool const isWhole = digits == tableDigits && std::abs(value) >= 99999.5 && std::abs(value) < 1e10;
         char text[40];
-        std::snprintf(text, sizeof text, "%.*g", digits, static_cast<double>(number));
+        if (isWhole)
+            std::snprintf(text, sizeof text, "%.0f", value);
+        else
+            std::snprintf(text, sizeof text, "%.*g", digits, value);
         return text;
     } else
         return std::to_string(number);
@@ -88,12 +90,6 @@ std::string numberText(hvArray_tag const& array, std::size_t index, int digits)
     });
 }
 
-std::string quotedText(std::u16string_view text)
-{
-    bool const isLong = text.size() > maxCharacters;
-    return '"' + toUtf8(text.substr(0, maxCharacters)) + (isLong ? "...\"" : "\"");
-}
-
 std::string elementText(hvArray_tag const& array, std::size_t index);
 
 std::string cellText(hvArray_tag const* cell)
@@ -102,9 +98,9 @@ std::string cellText(hvArray_tag const* cell)
         return "null";
     hvClassID const classID = cell->_get_class_id_non_trivial();
     if (classID == hvCHAR_CLASS && cell->get_dimensions()[0] == 1)
-        return quotedText(rowOf(*cell, 0));
+        return quoteText(rowOf(*cell, 0), maxCharacters);
     bool const isNumber = findNumericClass(classID) && cell->get_number_of_elements() == 1;
-    return isNumber ? elementText(*cell, 0) : sizeAndClass(*cell);
+    return isNumber ? elementText(*cell, 0) : sizeAndClass(cell);
 }
 
 std::string objectText(hvArray_tag const& array, std::size_t index)
@@ -121,14 +117,14 @@ std::string elementText(hvArray_tag const& array, std::size_t index)
     switch (array._get_class_id_non_trivial()) {
     case hvSTRING_CLASS:
         if (auto const text = stringAt(array, index))
-            return quotedText(*text);
+            return quoteText(*text, maxCharacters);
         return "missing";
     case hvCELL_CLASS:
         return cellText(orbis::host_extensions::getCell(&array, index));
     case hvOBJECT_CLASS:
         return objectText(array, index);
     default:
-        return numberText(array, index, 5);
+        return numberText(array, index, tableDigits);
     }
 }
 
@@ -211,7 +207,7 @@ std::string tableText(hvArray_tag const& array)
 std::string charactersText(hvArray_tag const& array)
 {
     ShownRows const rows(array.get_dimensions()[0]);
-    return rows.lines([&](std::size_t i) { return "  " + quotedText(rowOf(array, rows[i])); });
+    return rows.lines([&](std::size_t i) { return "  " + quoteText(rowOf(array, rows[i]), maxCharacters); });
 }
 
 /// The text of a single element or one row of characters; empty for other arrays.
@@ -230,6 +226,11 @@ std::string plainText(hvArray_tag const& array)
 
 } // namespace
 
+std::string sizeAndClass(hvArray_tag const* array)
+{
+    return shapeText(*array) + ' ' + className(array);
+}
+
 std::string arrayText(lua_State* L, hvArray_tag const& array)
 {
     Hvm::Scope const scope(HostContext::of(L).hvm());
@@ -238,8 +239,8 @@ std::string arrayText(lua_State* L, hvArray_tag const& array)
     if (std::string text = plainText(array); !text.empty() || (isText && array.get_number_of_elements() == 1))
         return text;
     if (array.get_number_of_elements() == 0 || classID == orbis::host_extensions::functionClass)
-        return sizeAndClass(array);
-    return sizeAndClass(array) + (classID == hvCHAR_CLASS ? charactersText(array) : tableText(array));
+        return sizeAndClass(&array);
+    return sizeAndClass(&array) + (classID == hvCHAR_CLASS ? charactersText(array) : tableText(array));
 }
 
 } // namespace velmara::console

@@ -37,9 +37,9 @@ bool isLessThan(A a, B b)
     else if constexpr (std::integral<A> && std::integral<B>)
         return std::cmp_less(a, b);
     else if constexpr (std::integral<A>)
-        return orderExactly(a, b) < 0;
+        return std::is_lt(orderExactly(a, b));
     else
-        return orderExactly(b, a) > 0;
+        return std::is_gt(orderExactly(b, a));
 }
 
 template <class A, class B>
@@ -50,9 +50,9 @@ bool isEqualTo(A a, B b)
     else if constexpr (std::integral<A> && std::integral<B>)
         return std::cmp_equal(a, b);
     else if constexpr (std::integral<A>)
-        return orderExactly(a, b) == 0;
+        return std::is_eq(orderExactly(a, b));
     else
-        return orderExactly(b, a) == 0;
+        return std::is_eq(orderExactly(b, a));
 }
 
 /// Calls `visit` with a zero of the type in which numbers of a class are compared with those of others: double, or one

@@ -3,6 +3,7 @@
 #include "bindings/ProxyBinding.hpp"
 #include "lua/Table.hpp"
 
+#include <algorithm>
 #include <initializer_list>
 
 namespace velmara::console {
@@ -14,6 +15,20 @@ using orbis::MemberAccess;
 bool isPublic(MemberAccess access, orbis::ExtendedMemberAccess extended)
 {
     return access == MemberAccess::Public && extended == orbis::ExtendedMemberAccess::None;
+}
+
+/// Whether another one of the overloads takes the same parameters up to that one, and no more.
+bool isOptional(MethodRecord const& method, std::size_t parameter, std::vector<MethodRecord> const& overloads)
+{
+    auto const isSame = [](ParameterRecord const& a, ParameterRecord const& b) {
+        return a.name == b.name && a.dataType == b.dataType;
+    };
+    auto const parameters = parametersOf(method);
+    return std::ranges::any_of(overloads, [&](MethodRecord const& other) {
+        auto const others = parametersOf(other);
+        return other.name == method.name && other.kind == method.kind && isListed(other) &&
+               others.size() <= parameter && std::ranges::equal(others, parameters.first(others.size()), isSame);
+    });
 }
 
 /// Appends tables to the sequence on top of the stack.
@@ -30,11 +45,16 @@ public:
         bool isSet;
     };
 
-    void add(MethodRecord const& method)
+    void add(MethodRecord const& method, std::vector<MethodRecord> const& overloads)
     {
         begin(unqualifiedName(method.name), kindName(method.kind), method.description, method.definingClass);
         auto const parameters = parametersOf(method);
-        pushSequence(L_, parameters.size(), [&](std::size_t i) { pushParameter(parameters[i]); });
+        pushSequence(L_, parameters.size(), [&](std::size_t i) {
+            lua_createtable(L_, 0, 3);
+            setField(L_, "name", parameters[i].name);
+            setField(L_, "type", parameters[i].dataType);
+            setField(L_, "optional", isOptional(method, i, overloads));
+        });
         lua_setfield(L_, -2, "parameters");
         bool const hasResults = method.kind != MethodRecord::Kind::Constructor;
         pushSequence(L_, hasResults ? method.outputs.size() : 0,
@@ -97,13 +117,6 @@ private:
         lua_rawseti(L_, -2, ++count_);
     }
 
-    void pushParameter(ParameterRecord const& parameter)
-    {
-        lua_createtable(L_, 0, 2);
-        setField(L_, "name", parameter.name);
-        setField(L_, "type", parameter.dataType);
-    }
-
     lua_State* L_;
     lua_Integer count_ = 0;
 };
@@ -153,7 +166,7 @@ void pushMembers(lua_State* L, ClassRecord const& cls)
         members.add(enumerator, cls.name);
     for (MethodRecord const& method : cls.methods)
         if (isListed(method))
-            members.add(method);
+            members.add(method, cls.methods);
     for (PropertyRecord const& property : cls.properties)
         if (isListed(property))
             members.add(property);
@@ -168,7 +181,7 @@ void pushMembers(lua_State* L, PackageRecord const& package)
         members.add(name, "class");
     for (MethodRecord const& function : package.functions)
         if (isListed(function))
-            members.add(function);
+            members.add(function, package.functions);
 }
 
 } // namespace velmara::console

@@ -25,8 +25,8 @@ std::span<ParameterRecord const> parametersOf(MethodRecord const& method);
 
 /// Pushes a sequence of tables, one for each listed member, with the fields `name`, `kind` ("constructor", "method",
 /// "static method", "property", "enumerator"), `class` (that defines it), `text`, `attributes` (a table with `true`
-/// under the name of each); of what is called `parameters` (a sequence of tables with `name` and `type`) and `results`
-/// (a sequence of types); of a property `type`, of an enumerator `value`.
+/// under the name of each); of what is called `parameters` (a sequence of tables with `name`, `type` and `optional`)
+/// and `results` (a sequence of types); of a property `type`, of an enumerator `value`.
 void pushMembers(lua_State* L, ClassRecord const& cls);
 
 /// The same of a package: `kind` is "package", "class" or "function".

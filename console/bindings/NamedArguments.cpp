@@ -124,8 +124,8 @@ std::string missingIn(Member const& callable, Names const& names)
             reason = " has no parameter '" + name + "'";
             suggestion = didYouMean(name, known);
         }
-    fail("argument", textOf(callable) + reason + (suggestion.empty() ? "." : suggestion) + " It is called with:" +
-                         describe(callable));
+    fail("argument", textOf(callable) + reason + (suggestion.empty() ? "." : suggestion) +
+                         " It is called with:" + describe(callable));
 }
 
 Form const& findForm(Member const& callable, Names const& names)

@@ -59,6 +59,14 @@ void pushHostArray(lua_State* L, hvArray_tag const& array)
     stepCollector(L, array);
 }
 
+void replaceHostArray(lua_State* L, int index, ArrayPtr array) noexcept
+{
+    auto& holder = *static_cast<Holder*>(lua_touserdata(L, index));
+    HeldArrays& held = HostContext::of(L).heldArrays();
+    ArrayPtr const old = held.release(holder); // destroyed last: destroying objects in it runs native code
+    held.hold(holder, std::move(array));       // takes the slot that is free now
+}
+
 bool isHostArray(lua_State* L, int index)
 {
     return luaL_testudata(L, index, arrayType) != nullptr;

@@ -2,6 +2,8 @@
 
 #include "lua/LuaApi.hpp"
 
+#include "velmara/ArrayPtr.hpp"
+
 #include "libhv/hvArray.hpp"
 
 #include <cstddef>
@@ -16,6 +18,9 @@ void pushArrayMetatable(lua_State* L);
 /// Pushes a copy of the array that shares its data until one side is written to. May run finalizers of the script: the
 /// array's memory, which Lua does not see, is reported to the garbage collector.
 void pushHostArray(lua_State* L, hvArray_tag const& array);
+
+/// Has the value at `index`, which holds an array, hold another one from now on.
+void replaceHostArray(lua_State* L, int index, ArrayPtr array) noexcept;
 
 bool isHostArray(lua_State* L, int index);
 

@@ -1,5 +1,6 @@
 #include "help/Apropos.hpp"
 
+#include "arrays/ArrayMethods.hpp"
 #include "bindings/MemberRecords.hpp"
 #include "help/ConsoleFunctions.hpp"
 #include "help/PublishedNames.hpp"
@@ -60,6 +61,8 @@ std::string aproposText(Hvm& hvm, std::string_view text)
     Findings findings(text);
     for (ConsoleFunction const& function : consoleFunctions())
         findings.offer(function.signature, "console", function.text);
+    for (ArrayMethod const& method : arrayMethods())
+        findings.offer(method.signature, "method of arrays", method.text);
     visitPublished(hvm, [&](PublishedName const& published) {
         if (published.kind == NameKind::Class)
             offerClass(hvm.describeClass(published.name), findings);

@@ -1,6 +1,8 @@
 #include "help/Completion.hpp"
 
+#include "arrays/ArrayMethods.hpp"
 #include "bindings/ProxyBinding.hpp"
+#include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/Proxy.hpp"
 #include "help/ConsoleFunctions.hpp"
@@ -67,6 +69,11 @@ Names membersOf(lua_State* L, std::vector<ExpressionStep> const& steps, char sep
         addPublished(L, proxied, names);
     else if (lua_istable(L, value.index()))
         addKeys(L, value.index(), names);
+    else if (separator == ':' && isHostArray(L, value.index()))
+        std::ranges::transform(arrayMethods(), std::back_inserter(names), &ArrayMethod::name);
+    else if (separator == ':' && lua_type(L, value.index()) == LUA_TSTRING &&
+             lua_getglobal(L, LUA_STRLIBNAME) == LUA_TTABLE)
+        addKeys(L, lua_gettop(L), names);
     return names;
 }
 
@@ -115,12 +122,24 @@ std::string functionSignature(lua_State* L, int index, std::string_view name)
     return text + ')';
 }
 
+/// The method of a host array that the steps name; null when they name something else.
+ArrayMethod const* namedArrayMethod(lua_State* L, std::span<ExpressionStep const> steps)
+{
+    std::span<ArrayMethod const> const methods = arrayMethods();
+    auto const method = std::ranges::find(methods, steps.back().text, &ArrayMethod::name);
+    if (method == methods.end() || !isHostArray(L, StaticValue(L, steps.first(steps.size() - 1)).index()))
+        return nullptr;
+    return &*method;
+}
+
 int findSignatures(lua_State* L)
 {
     Request& request = *static_cast<Request*>(lua_touserdata(L, 1));
     std::vector<ExpressionStep> const steps = expressionAtEnd(beforeOpenCall(request.text));
     if (steps.empty())
         return 0;
+    if (ArrayMethod const* method = namedArrayMethod(L, steps))
+        request.found.emplace_back(method->signature);
     StaticValue const value(L, steps);
     if (ConsoleFunction const* function = consoleFunctionAt(L, value.index()))
         request.found.emplace_back(function->signature);
@@ -156,7 +175,7 @@ std::vector<std::string> completions(lua_State* L, std::string_view text)
 std::vector<std::string> signaturesAt(lua_State* L, std::string_view text)
 {
     std::size_t const last = text.find_last_not_of(' ');
-    bool const isArgumentNext = last != text.npos && (text[last] == '(' || text[last] == ',');
+    bool const isArgumentNext = last != text.npos && (text[last] == '(' || text[last] == '{' || text[last] == ',');
     return isArgumentNext ? ask(L, guarded<findSignatures>, text) : Names();
 }
 

@@ -11,7 +11,8 @@ char const valuesKey = 0; // its address is the key of the names by their values
 constexpr ConsoleFunction functions[] = {
     {"apropos", "apropos(text)", "Lists what has the text in its name or its description, in all packages."},
     {"array", "array(class, values, m, n)",
-     "An array of exactly that class. The values are a sequence, a sequence of sequences, an array, or one value; with "
+     "An array of exactly that class; without one, of the class that the host makes of a table. The values are a "
+     "sequence, a sequence of sequences, an array, or one value; with "
      "m and n they fill m rows and n columns by column."},
     {"asarray", "asarray(f, ...) asarray(object, \"property\")",
      "Calls a method or function of the host, or reads a property: the result is always an array."},
@@ -27,6 +28,7 @@ constexpr ConsoleFunction functions[] = {
      "Explains a package, a class, an object, a method, a function, any value, or what a name in quotes means. "
      "Without x: all of the console."},
     {"isvalid", "isvalid(x)", "Whether an object is alive, all objects of an array are, or a name is published."},
+    {"linspace", "linspace(first, last, count)", "A row of that many numbers at equal distances."},
     {"loadmodule", "loadmodule(path)", "Loads a module with its packages; returns its name."},
     {"members", "members(x)",
      "What help tells of a package, a class or an object as a sequence of tables with name, kind, type, parameters, "
@@ -37,6 +39,7 @@ constexpr ConsoleFunction functions[] = {
     {"null", "null", "Stands in tables and arrays for no object, or an empty cell."},
     {"objects", "objects()", "All live objects: a sequence of tables with class, owner and references."},
     {"properties", "properties(x)", "Prints the properties of a class or object."},
+    {"range", "range(first, last, step)", "A row of numbers from the first on, up to the last."},
     {"references", "references(object)",
      "The objects to which its properties refer: a sequence of tables with property and object."},
     {"show", "show(x, ...)", "Prints values with all that they hold, on one screen."},

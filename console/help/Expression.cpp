@@ -95,7 +95,9 @@ std::vector<ExpressionStep> expressionAtEnd(std::string_view text)
 std::string_view beforeOpenCall(std::string_view text)
 {
     std::size_t const open = findOpen(text);
-    return open == text.npos || text[open] != '(' ? std::string_view() : text.substr(0, open);
+    std::string_view const before = text.substr(0, std::min(open, text.size()));
+    bool const isCall = open != text.npos && (text[open] == '(' || (text[open] == '{' && identifierLength(before) > 0));
+    return isCall ? before : std::string_view();
 }
 
 } // namespace velmara::console

@@ -20,7 +20,8 @@ std::size_t identifierLength(std::string_view text);
 /// another form.
 std::vector<ExpressionStep> expressionAtEnd(std::string_view text);
 
-/// The text before the innermost bracket "(" that is open at the end of the text; empty when there is none.
+/// The text before the innermost bracket that is open at the end of the text, when that begins arguments: "f(" or "f{".
+/// Else empty.
 std::string_view beforeOpenCall(std::string_view text);
 
 } // namespace velmara::console

@@ -1,9 +1,11 @@
 #include "help/HelpFunctions.hpp"
 
 #include "bindings/MemberRecords.hpp"
+#include "handles/HostArray.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/ValueText.hpp"
 #include "help/Apropos.hpp"
+#include "help/ArrayHelp.hpp"
 #include "help/ConsoleFunctions.hpp"
 #include "help/Enumerations.hpp"
 #include "help/GeneralHelp.hpp"
@@ -67,19 +69,23 @@ std::string consoleHelp(ConsoleFunction const& function)
     return paragraph(function.signature, 0, 2) + paragraph(function.text, 2, 2);
 }
 
-/// Pushes what a script means by a name such as "string.format"; false when that is nothing.
-bool pushGlobal(lua_State* L, std::string_view name)
+/// Help on what a script means by a name such as "string.format" or "object.property"; empty when that is nothing.
+std::string globalHelp(lua_State* L, std::string_view name)
 {
+    Hvm& hvm = HostContext::of(L).hvm();
     lua_pushglobaltable(L);
     while (lua_istable(L, -1)) {
         std::string_view const part = name.substr(0, name.find('.'));
         pushText(L, part);
         lua_rawget(L, -2);
+        std::string const subject = lua_isstring(L, -1) ? std::string() : subjectOf(L, -1);
+        if (!subject.empty())
+            return publishedHelp(hvm, std::string(subject).append(name.substr(part.size())));
         if (part.size() == name.size())
-            return !lua_isnil(L, -1);
+            return lua_isnil(L, -1) ? std::string() : valueHelp(L, -1);
         name.remove_prefix(part.size() + 1);
     }
-    return false;
+    return {};
 }
 
 /// Help on the value at 1.
@@ -97,8 +103,8 @@ std::string helpOn(lua_State* L)
         return text;
     if (ConsoleFunction const* function = findConsoleFunction(name))
         return consoleHelp(*function);
-    if (pushGlobal(L, name))
-        return valueHelp(L, -1);
+    if (std::string text = globalHelp(L, name); !text.empty())
+        return text;
     failUnknownSubject(L, name);
 }
 
@@ -161,6 +167,10 @@ int printList(lua_State* L, std::string (*ofClass)(ClassRecord const&), std::str
 
 int methods(lua_State* L)
 {
+    if (isHostArray(L, 1)) {
+        printPaged(L, arrayMethodsText());
+        return 0;
+    }
     return printList(L, methodsText, functionsText);
 }
 

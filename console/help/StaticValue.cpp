@@ -42,7 +42,7 @@ std::string commonResult(std::vector<MethodRecord> const& overloads)
 
 } // namespace
 
-StaticValue::StaticValue(lua_State* L, std::vector<ExpressionStep> const& steps) : L_(L)
+StaticValue::StaticValue(lua_State* L, std::span<ExpressionStep const> steps) : L_(L)
 {
     luaL_checkstack(L, 8, nullptr);
     lua_pushnil(L);

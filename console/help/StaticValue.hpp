@@ -5,6 +5,7 @@
 
 #include "velmara/Listing.hpp"
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -15,7 +16,7 @@ namespace velmara::console {
 /// before.
 class StaticValue {
 public:
-    StaticValue(lua_State* L, std::vector<ExpressionStep> const& steps);
+    StaticValue(lua_State* L, std::span<ExpressionStep const> steps);
 
     /// The class of the object that it gives; empty when it gives none, or that is not known.
     std::string objectClass() const;

@@ -1,9 +1,10 @@
 #include "help/ValueHelp.hpp"
 
+#include "arrays/ArrayText.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/ValueText.hpp"
+#include "help/ArrayHelp.hpp"
 #include "lua/ScriptError.hpp"
-#include "show/Summary.hpp"
 #include "text/Paragraph.hpp"
 #include "values/ValueToHost.hpp"
 
@@ -49,13 +50,15 @@ std::string valueHelp(lua_State* L, int index)
 {
     index = lua_absindex(L, index);
     luaL_checkstack(L, 4, nullptr);
+    if (ArrayMethod const* const method = arrayMethodAt(L, index))
+        return paragraph(method->signature, 0, 2) + paragraph(method->text, 2, 2);
+    if (hvArray_tag const* const array = isHostArray(L, index) ? testHostArray(L, index) : nullptr)
+        return "an array: " + sizeAndClass(array) + '\n' + arrayMethodsText();
     std::string text = kindAt(L, index);
     if (lua_isfunction(L, index))
         text = functionHelp(L, index);
     else if (isError(L, index))
         text = "an error: its fields are identifier, text and where";
-    else if (isHostArray(L, index) && testHostArray(L, index))
-        text += ", " + sizeAndClass(testHostArray(L, index)) + "; see help(\"array\")";
     else
         text += "; " + hostText(L, index) + (lua_istable(L, index) ? "; show(x) prints what it holds" : "");
     return paragraph(text, 0, 2);

@@ -17,6 +17,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <cwchar>
+#include <exception>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -94,7 +95,7 @@ char** editorList(std::vector<std::string> const& names)
 }
 
 char** complete(char const* word, int, int end)
-{
+try {
     rl_attempted_completion_over = 1; // no file names
     std::string_view const text = firstCharacters(rl_line_buffer, end);
     if (std::vector<std::string> const signatures = signaturesAt(completed, text); !signatures.empty()) {
@@ -104,6 +105,8 @@ char** complete(char const* word, int, int end)
     // What the editor takes for the word may begin with letters of other languages.
     bool const isName = identifierLength(text) == std::string_view(word).size();
     return isName ? editorList(completions(completed, text)) : nullptr;
+} catch (std::exception const&) {
+    return nullptr; // there is no memory, and the editor passes no exceptions
 }
 
 /// The prompt in its style, in the form of the editor: what takes no room on the screen is in brackets.
@@ -127,6 +130,8 @@ std::string styled(std::string const& prompt)
 LineEditor::LineEditor(lua_State* L, std::filesystem::path history) : L_(L), history_(std::move(history))
 {
     std::setlocale(LC_CTYPE, "");
+    if (MB_CUR_MAX == 1)
+        std::setlocale(LC_CTYPE, "C.UTF-8");
     completed = L_;
     rl_readline_name = "velmara";
     static char breaks[] = " \t\n\"'`@$><=;|&{}()[]+-*/%^#~,.:!?\\";

@@ -86,7 +86,6 @@ void runPrompt(lua_State* L, PromptOptions const& options)
 {
     if (options.pagesOutput)
         enablePaging(L);
-
     LineReader reader(L, options.keepsHistory ? historyFile() : std::filesystem::path());
     std::puts("velmara: help() tells what there is; end with Ctrl-D.");
     int const base = lua_gettop(L);

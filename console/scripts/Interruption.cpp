@@ -4,6 +4,7 @@
 #include "lua/ScriptFailure.hpp"
 
 #include <csignal>
+#include <cstdio>
 
 namespace velmara::console {
 
@@ -17,10 +18,10 @@ constexpr int closingInstructions = 100'000'000;
 // A signal handler is passed only the signal: what to interrupt is here.
 lua_State* volatile running = nullptr;      ///< the script, or the innermost of its coroutines
 volatile std::sig_atomic_t isRequested = 0; ///< Ctrl-C was pressed, and has had no effect yet
+volatile std::sig_atomic_t raisedCount = 0; ///< how many times it had an effect on the running script
 Handler previousHandler = SIG_DFL;
 
 lua_State* script = nullptr;
-int raisedCount = 0; ///< of the running script
 
 char const errorKey = 0; // its address is the key of the latest interruption's error in the registry
 
@@ -49,7 +50,7 @@ void interrupt(lua_State* L, lua_Debug*)
     lua_sethook(L, isLate ? nullptr : interrupt, isLate ? 0 : LUA_MASKCOUNT, closingInstructions);
     if (isLate)
         return;
-    ++raisedCount;
+    raisedCount = raisedCount + 1;
     lua_pushcfunction(L, guarded<raiseError>);
     lua_call(L, 0, 0);
 }
@@ -83,7 +84,7 @@ Handler setHandler(Handler handler)
 
 void onSignal(int signal)
 {
-    bool const isStuck = running && isRequested;
+    bool const isStuck = running && (isRequested || raisedCount > 1);
     setHandler(isStuck ? SIG_DFL : onSignal); // on Windows it was reset
     if (isStuck) {
         std::raise(signal);
@@ -144,6 +145,8 @@ InterruptibleRun::~InterruptibleRun()
     if (!script)
         return;
     lua_sethook(script, nullptr, 0, 0); // it may have ended before the hook ran
+    if (raisedCount > 0)
+        std::clearerr(stdout); // Ctrl-C also ends the writing of what nobody reads
     lua_pushnil(script);
     lua_rawsetp(script, LUA_REGISTRYINDEX, &errorKey);
     script = nullptr;
@@ -152,6 +155,12 @@ InterruptibleRun::~InterruptibleRun()
 bool InterruptibleRun::isInterrupted()
 {
     return raisedCount > 0;
+}
+
+void interruptScript(lua_State* L)
+{
+    isRequested = 1;
+    interruptSoon(L);
 }
 
 Resumption::Resumption(lua_State* coroutine) : previous_(running)

@@ -5,8 +5,9 @@
 namespace velmara::console {
 
 /// For its lifetime Ctrl-C interrupts what runs instead of ending the process. Ctrl-C ends the process all the same
-/// while the one before has had no effect: the script is in a function of native code, or in one of Lua's own such as
-/// `string.find`. One at a time; leaves Ctrl-C alone where the process ignores it.
+/// while the one before has had no effect: the script is in a function of native code, in one of Lua's own such as
+/// `string.find`, or in a finalizer; and the third time, when native code has caught the error twice. One at a time;
+/// leaves Ctrl-C alone where the process ignores it.
 class InterruptHandler {
 public:
     InterruptHandler();
@@ -35,7 +36,10 @@ public:
     static bool isInterrupted();
 };
 
-/// For its lifetime `resumer` waits for a coroutine, and Ctrl-C interrupts that.
+/// Interrupts the script that runs in `L`, as Ctrl-C does.
+void interruptScript(lua_State* L);
+
+/// For its lifetime the script waits for a coroutine of its own, and Ctrl-C interrupts that.
 class Resumption {
 public:
     explicit Resumption(lua_State* coroutine);

@@ -7,6 +7,7 @@
 #include "scripts/ProtectedCalls.hpp"
 
 #include <algorithm>
+#include <csignal>
 #include <iterator>
 #include <string>
 #include <string_view>
@@ -82,6 +83,15 @@ void setSearchPath(lua_State* L)
     pushText(L, path);
     lua_setfield(L, -3, "path");
     lua_pop(L, 1);
+}
+
+/// Lua's own function. Ctrl-C in a program that it runs is meant for the script, too.
+int execute(lua_State* L)
+{
+    int const results = callWrapped(L);
+    if (results == 3 && textAt(L, -2) == "signal" && lua_tointeger(L, -1) == SIGINT)
+        interruptScript(L);
+    return results;
 }
 
 void limitPackages(lua_State* L)
@@ -182,6 +192,9 @@ void openScriptLibraries(lua_State* L)
     lua_register(L, "dofile", runFile);
     limitPackages(L);
     limitDebug(L);
+    lua_getglobal(L, LUA_OSLIBNAME);
+    wrapFunction(L, "execute", execute);
+    lua_pop(L, 1);
     bindProtectedCalls(L);
     bindCoroutineFunctions(L);
 }

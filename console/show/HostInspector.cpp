@@ -61,10 +61,8 @@ AlignedTable::Row rowOfObject(lua_State* L, hvArray_tag const* objects, std::siz
         row.resize(properties.size() + 1);
         return row;
     }
-    for (PropertyRecord const* property : properties) {
-        NativeReading const reading = readForShow(L, object, property->name);
-        row.push_back(reading.failure().empty() ? summary(L, reading.value()) : "?");
-    }
+    for (PropertyRecord const* property : properties)
+        row.push_back(summary(L, readForShow(L, object, property->name)));
     return row;
 }
 
@@ -93,25 +91,24 @@ void HostInspector::showText(Place const& place, std::string const& text, std::s
     }
 }
 
-void HostInspector::showArray(Place const& place, hvArray_tag* array)
+void HostInspector::showArray(Place const& place, hvArray_tag* array, ValueShape shape)
 {
     hvClassID const classID = array ? array->_get_class_id_non_trivial() : hvUNKNOWN_CLASS;
     std::size_t const count = array ? array->get_number_of_elements() : 0;
-    if (classID == hvOBJECT_CLASS && count == 1) {
+    if (classID == hvOBJECT_CLASS && count == 1 && shape != ValueShape::List) {
         HostCall call(L_);
         if (hvArray_tag* const object = objectAt(call, array, 0))
             return showObject(place, object);
     }
-    if (classID == hvOBJECT_CLASS && count > 1)
+    if (classID == hvOBJECT_CLASS && count > (shape == ValueShape::List ? 0 : 1))
         return showRows(place, array);
     if (classID == hvCHAR_CLASS && count > 0 && array->get_dimensions()[0] == 1) {
         std::size_t const columns = page_.columnsAfter(place.indent + displayWidth(place.label) + 2);
-        std::string const text = toUtf8(rowOf(*array, 0).substr(0, columns + 1));
-        return page_.add(place.indent, place.label + quoteText(text, columns));
+        return page_.add(place.indent, place.label + quoteText(rowOf(*array, 0), columns));
     }
     if (classID == hvCELL_CLASS && count > 0)
         return showCells(place, array);
-    std::string const text = summary(L_, array);
+    std::string const text = summary(L_, array, shape);
     if (!array || text != sizeAndClass(array))
         return page_.add(place.indent, place.label + text);
     std::string const rows = arrayText(L_, *array);
@@ -165,7 +162,7 @@ void HostInspector::showProperty(Place const& place, PropertyRecord const& prope
     NativeReading const reading =
         property.isStatic ? readStaticForShow(L_, className, property.name) : readForShow(L_, object, property.name);
     if (reading.failure().empty())
-        showArray(place, reading.value());
+        showArray(place, reading.value(), reading.shape());
     else
         page_.add(place.indent, place.label + "(fails: " + escapedText(reading.failure()) + ')');
 }

@@ -4,6 +4,7 @@
 #include "text/Page.hpp"
 
 #include "velmara/Listing.hpp"
+#include "velmara/Value.hpp"
 
 #include "libhv/hvArray.hpp"
 
@@ -34,7 +35,7 @@ public:
     HostInspector(lua_State* L, Page& page) : L_(L), page_(page) {}
 
     /// An array; one object with its properties, more of them as a table.
-    void showArray(Place const& place, hvArray_tag* array);
+    void showArray(Place const& place, hvArray_tag* array, ValueShape shape = ValueShape::Plain);
 
     /// A class: its enumerators and static properties.
     void showClass(Place const& place, ClassRecord const& cls);

@@ -2,6 +2,7 @@
 
 #include "lua/ScriptError.hpp"
 #include "text/CutText.hpp"
+#include "values/ScalarValue.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -39,8 +40,14 @@ NativeReading::NativeReading(lua_State* L, hvArray_tag* object, Read const& read
     if (object)
         call_.share(object);
     try {
-        if (ArrayPtr const array = read(call_.hvm()))
-            value_ = call_.share(array.get());
+        Value const value = read(call_.hvm(), call_.failure());
+        if (auto const& failure = call_.failure())
+            throw Error(*failure);
+        if (value.slot().isArray())
+            value_ = call_.share(value.slot().array());
+        else if (!value.slot().isEmpty())
+            value_ = call_.share(toArray(value.slot()).get());
+        shape_ = value.shape();
     } catch (Error const& error) {
         if (error.identifier() == interruptionIdentifier)
             throw; // it is meant for all that the script does
@@ -50,12 +57,15 @@ NativeReading::NativeReading(lua_State* L, hvArray_tag* object, Read const& read
 
 NativeReading readForShow(lua_State* L, hvArray_tag* object, std::string const& property)
 {
-    return {L, object, [&](Hvm& hvm) { return hvm.get(object, property); }};
+    return {L, object, [&](Hvm& hvm, Hvm::Failure& failure) {
+                MemberName name(className(object), property);
+                return hvm.get(object, name, failure);
+            }};
 }
 
 NativeReading readStaticForShow(lua_State* L, std::string const& className, std::string const& property)
 {
-    return {L, nullptr, [&](Hvm& hvm) { return hvm.getStatic(className, property); }};
+    return {L, nullptr, [&](Hvm& hvm, Hvm::Failure&) { return Value(hvm.getStatic(className, property)); }};
 }
 
 bool hasText(ClassRecord const& cls)
@@ -66,8 +76,9 @@ bool hasText(ClassRecord const& cls)
 NativeReading readText(lua_State* L, hvArray_tag* object, ClassRecord const& cls)
 {
     bool const isStatic = findText(cls)->kind == MethodRecord::Kind::StaticMethod;
-    return {L, object, [&](Hvm& hvm) {
-                return isStatic ? hvm.callStatic(cls.name, "text", Hvm::Inputs(&object, 1)) : hvm.call(object, "text");
+    return {L, object, [&](Hvm& hvm, Hvm::Failure&) {
+                return Value(isStatic ? hvm.callStatic(cls.name, "text", Hvm::Inputs(&object, 1))
+                                      : hvm.call(object, "text"));
             }};
 }
 

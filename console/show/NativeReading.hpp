@@ -4,6 +4,7 @@
 #include "values/HostCall.hpp"
 
 #include "velmara/Listing.hpp"
+#include "velmara/Value.hpp"
 
 #include <functional>
 #include <string>
@@ -14,7 +15,7 @@ namespace velmara::console {
 /// is made of what it gives.
 class NativeReading {
 public:
-    using Read = std::function<ArrayPtr(Hvm&)>;
+    using Read = std::function<Value(Hvm&, Hvm::Failure&)>;
 
     /// `object` is what `read` uses, null for none.
     NativeReading(lua_State* L, hvArray_tag* object, Read const& read);
@@ -22,12 +23,16 @@ public:
     /// What was read, valid as long as this; null when there is nothing.
     hvArray_tag* value() const { return value_; }
 
+    /// What its signature says of that.
+    ValueShape shape() const { return shape_; }
+
     /// The first sentence of the error when it could not be read; else empty.
     std::string const& failure() const { return failure_; }
 
 private:
     HostCall call_;
     hvArray_tag* value_ = nullptr;
+    ValueShape shape_ = ValueShape::Plain;
     std::string failure_;
 };
 

@@ -41,8 +41,7 @@ void pushShownNames(lua_State* L)
 /// "total = 3.0"
 std::string shownProperty(lua_State* L, hvArray_tag* object, std::string const& name)
 {
-    NativeReading const reading = readForShow(L, object, name);
-    return name + " = " + (reading.failure().empty() ? summary(L, reading.value()) : "?");
+    return name + " = " + summary(L, readForShow(L, object, name));
 }
 
 /// "(total = 3.0, last = 1.0)" in the width that `used` leaves of a line; empty when the class has no properties.

@@ -56,6 +56,25 @@ AlignedTable::Row recordRow(lua_State* L, std::size_t index, std::vector<std::st
     return row;
 }
 
+/// Whether the field has one value in all of the first `count` records.
+bool isUniform(lua_State* L, int table, std::size_t count, std::string const& name)
+{
+    bool isSame = true;
+    luaL_checkstack(L, 8, nullptr);
+    lua_pushnil(L); // the first value
+    int const first = lua_gettop(L);
+    visitSequence(L, table, count, [&](std::size_t i) {
+        pushText(L, name);
+        lua_rawget(L, -2);
+        if (i == 0)
+            lua_copy(L, -1, first);
+        isSame = isSame && lua_rawequal(L, -1, first) != 0;
+        lua_pop(L, 1);
+    });
+    lua_pop(L, 1);
+    return isSame;
+}
+
 } // namespace
 
 bool isOfRecords(lua_State* L, int table)
@@ -78,7 +97,10 @@ bool isOfRecords(lua_State* L, int table)
 
 AlignedTable recordTable(lua_State* L, int table, std::size_t count)
 {
-    std::vector<std::string> const names = fieldsOf(L, table, count);
+    std::vector<std::string> names = fieldsOf(L, table, count);
+    std::ranges::stable_partition(names, [&](std::string const& name) { // those that differ tell more
+        return name == "name" || !isUniform(L, table, count, name);
+    });
     AlignedTable::Row headings{"#"};
     headings.insert(headings.end(), names.begin(), names.end());
     AlignedTable records(headings);

@@ -11,7 +11,8 @@ namespace velmara::console {
 /// the first ones tell.
 bool isOfRecords(lua_State* L, int table);
 
-/// The first `count` of them: a row each, with a column for each field that is not empty in all of them.
+/// The first `count` of them: a row each, with a column for each field that is not empty in all of them; those
+/// that are the same in all come last.
 AlignedTable recordTable(lua_State* L, int table, std::size_t count);
 
 } // namespace velmara::console

@@ -7,7 +7,6 @@
 #include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"
 #include "handles/ValueText.hpp"
-#include "show/NativeReading.hpp"
 #include "text/CutText.hpp"
 #include "values/ArrayElement.hpp"
 #include "values/HostText.hpp"
@@ -50,7 +49,7 @@ std::string rowSummary(lua_State* L, hvArray_tag const* array)
 std::string stringSummary(hvArray_tag const* array)
 {
     auto const text = stringAt(*array, 0);
-    return text ? quoteText(toUtf8(text->substr(0, maxTextWidth + 1)), maxTextWidth) : "missing";
+    return text ? quoteText(*text, maxTextWidth) : "missing";
 }
 
 std::string objectSummary(lua_State* L, hvArray_tag* object)
@@ -80,12 +79,6 @@ std::string functionSummary(lua_State* L, int index)
 
 } // namespace
 
-std::string sizeAndClass(hvArray_tag const* array)
-{
-    std::size_t const* const sizes = array->get_dimensions();
-    return std::to_string(sizes[0]) + 'x' + std::to_string(sizes[1]) + ' ' + className(array);
-}
-
 std::string authorsText(lua_State* L, hvArray_tag* object, ClassRecord const& cls)
 {
     if (!hasText(cls))
@@ -111,23 +104,29 @@ std::optional<ClassRecord> publishedClass(lua_State* L, hvArray_tag const* objec
     return hvm.describeClass(name);
 }
 
-std::string summary(lua_State* L, hvArray_tag* array)
+std::string summary(lua_State* L, NativeReading const& reading)
+{
+    return reading.failure().empty() ? summary(L, reading.value(), reading.shape()) : "?";
+}
+
+std::string summary(lua_State* L, hvArray_tag* array, ValueShape shape)
 {
     if (!array)
         return "nil";
     hvClassID const classID = array->_get_class_id_non_trivial();
     std::size_t const count = array->get_number_of_elements();
+    if (count == 0 && (shape == ValueShape::Optional || (shape == ValueShape::Plain && classID == hvOBJECT_CLASS)))
+        return "nil";
     if (classID == hvCHAR_CLASS && (array->get_dimensions()[0] == 1 || count == 0))
-        return quoteText(count == 0 ? std::string() : toUtf8(rowOf(*array, 0).substr(0, maxTextWidth + 1)),
-                         maxTextWidth);
+        return quoteText(count == 0 ? std::u16string_view() : rowOf(*array, 0), maxTextWidth);
     if (classID == orbis::host_extensions::functionClass)
         return "function";
     bool const areNumbers = orbis::host_extensions::findNumericClass(classID) != nullptr;
-    if (areNumbers && count == 1)
+    if (areNumbers && count == 1 && shape != ValueShape::List)
         return numberSummary(L, array, 0);
     if (std::string row = areNumbers ? rowSummary(L, array) : ""; !row.empty())
         return row;
-    if (count != 1 || classID == hvCELL_CLASS)
+    if (count != 1 || shape == ValueShape::List || classID == hvCELL_CLASS)
         return classID == hvOBJECT_CLASS && count == 0 ? "none" : sizeAndClass(array);
     if (classID == hvSTRING_CLASS)
         return stringSummary(array);

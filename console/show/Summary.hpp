@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lua/LuaApi.hpp"
+#include "show/NativeReading.hpp"
 #include "values/HostCall.hpp"
 
 #include "velmara/Listing.hpp"
@@ -14,7 +15,10 @@ namespace velmara::console {
 
 /// One value in a part of a line: numbers and short texts themselves, an enumerator's name, the text that a class's
 /// author gave; of others what they are. Reads no properties.
-std::string summary(lua_State* L, hvArray_tag* array);
+std::string summary(lua_State* L, hvArray_tag* array, ValueShape shape = ValueShape::Plain);
+
+/// That of what was read; "?" of what could not be read.
+std::string summary(lua_State* L, NativeReading const& reading);
 
 /// The same for the value of the script at `index`. Calls no metamethods.
 std::string summary(lua_State* L, int index);
@@ -27,8 +31,5 @@ std::optional<ClassRecord> publishedClass(lua_State* L, hvArray_tag const* objec
 
 /// The text that the author of the class gives the object, in one line; empty for none.
 std::string authorsText(lua_State* L, hvArray_tag* object, ClassRecord const& cls);
-
-/// "3x4 double".
-std::string sizeAndClass(hvArray_tag const* array);
 
 } // namespace velmara::console

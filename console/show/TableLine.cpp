@@ -72,7 +72,7 @@ private:
     std::string text_;
 };
 
-bool isIdentifier(std::string const& key)
+bool isPlainKey(std::string const& key)
 {
     auto const isWordPart = [](unsigned char c) { return std::isalnum(c) != 0 || c == '_'; };
     return !key.empty() && std::ranges::all_of(key, isWordPart) && !std::isdigit(static_cast<unsigned char>(key[0]));
@@ -104,7 +104,7 @@ TableKeys keysOf(lua_State* L, int table)
 std::string keyText(std::string const& key)
 {
     constexpr std::size_t maxKeyWidth = 24;
-    return isIdentifier(key) ? cutText(key, maxKeyWidth) : '[' + quoteText(key, maxKeyWidth) + ']';
+    return isPlainKey(key) ? cutText(key, maxKeyWidth) : '[' + quoteText(key, maxKeyWidth) + ']';
 }
 
 std::string tableLine(lua_State* L, int index, std::size_t width)

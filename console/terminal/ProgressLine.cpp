@@ -2,8 +2,10 @@
 
 #include "terminal/Terminal.hpp"
 
+#include <array>
 #include <cmath>
 #include <cstdio>
+#include <cstring>
 
 namespace velmara::console {
 
@@ -16,29 +18,32 @@ constexpr auto interval = 100ms;
 
 std::size_t drawnLength = 0; // of the line at the terminal of the process; 0 for none
 
-/// "28 s", "3 min 20 s", "2 h 5 min".
-std::string durationText(double seconds)
+/// "28 s left", "3 min 20 s left", "2 h 5 min left".
+std::array<char, 64> timeLeft(double seconds)
 {
     auto const whole = static_cast<long long>(std::ceil(seconds));
-    auto const minutes = whole / 60;
+    long long const minutes = whole / 60;
+    std::array<char, 64> text;
     if (minutes == 0)
-        return std::to_string(whole) + " s";
-    if (minutes < 60)
-        return std::to_string(minutes) + " min " + std::to_string(whole % 60) + " s";
-    return std::to_string(minutes / 60) + " h " + std::to_string(minutes % 60) + " min";
+        std::snprintf(text.data(), text.size(), "%lld s left", whole);
+    else if (minutes < 60)
+        std::snprintf(text.data(), text.size(), "%lld min %lld s left", minutes, whole % 60);
+    else
+        std::snprintf(text.data(), text.size(), "%lld h %lld min left", minutes / 60, minutes % 60);
+    return text;
+}
+
+std::array<char, 160> progressText(std::size_t done, std::size_t total, double seconds)
+{
+    double const share = static_cast<double>(done) / static_cast<double>(total);
+    auto const left = done > 0 ? timeLeft(seconds * (1 / share - 1)) : std::array<char, 64>();
+    std::array<char, 160> text;
+    std::snprintf(text.data(), text.size(), "%zu of %zu (%d %%)%s%s", done, total, static_cast<int>(share * 100),
+                  done > 0 ? ", " : "", left.data());
+    return text;
 }
 
 } // namespace
-
-std::string progressText(std::size_t done, std::size_t total, std::chrono::duration<double> elapsed)
-{
-    double const share = static_cast<double>(done) / static_cast<double>(total);
-    std::string text = std::to_string(done) + " of " + std::to_string(total) + " (" +
-                       std::to_string(static_cast<int>(share * 100)) + " %)";
-    if (done > 0)
-        text += ", " + durationText(elapsed.count() * (1 / share - 1)) + " left";
-    return text;
-}
 
 ProgressLine::ProgressLine(std::size_t total)
     : total_(total),
@@ -62,12 +67,12 @@ void ProgressLine::draw(std::size_t done)
     Clock::time_point const now = Clock::now();
     // The cursor stays at the beginning: what native code prints meanwhile takes the line's place.
     std::fflush(stdout);
-    std::string const text = progressText(done, total_, now - start_);
+    auto const text = progressText(done, total_, std::chrono::duration<double>(now - start_).count());
     eraseLine(stderr, drawnLength);
-    std::fprintf(stderr, "%s\r", text.c_str());
+    std::fprintf(stderr, "%s\r", text.data());
     std::fflush(stderr);
     next_ = now + interval;
-    drawnLength = text.size();
+    drawnLength = std::strlen(text.data());
 }
 
 } // namespace velmara::console

@@ -2,14 +2,11 @@
 
 #include <chrono>
 #include <cstddef>
-#include <string>
 
 namespace velmara::console {
 
-/// "12 of 40 (30 %), 28 s left", of a loop that has run for `elapsed`.
-std::string progressText(std::size_t done, std::size_t total, std::chrono::duration<double> elapsed);
-
-/// A line at the terminal of standard error that tells how far a loop is, when that takes longer than a second.
+/// A line at the terminal of standard error that tells how far a loop is, when that takes longer than a second: "12 of
+/// 40 (30 %), 28 s left". Allocates nothing.
 class ProgressLine {
 public:
     explicit ProgressLine(std::size_t total);

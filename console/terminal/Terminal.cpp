@@ -98,7 +98,7 @@ std::string_view startOf(Style style)
 
 void eraseLine(std::FILE* stream, std::size_t length)
 {
-    write(stream, '\r' + std::string(length, ' ') + '\r');
+    std::fprintf(stream, "\r%*s\r", static_cast<int>(length), "");
 }
 
 } // namespace velmara::console

@@ -1,5 +1,7 @@
 #include "values/HostText.hpp"
 
+#include "text/CutText.hpp"
+
 #include "host_extensions/host_extensions.hpp"
 #include "libkwi18n/libkwi18n.hpp"
 #include "string_matrix/string_matrix.hpp"
@@ -27,6 +29,12 @@ void pushHostText(lua_State* L, std::u16string_view text)
     luaL_Buffer buffer;
     writeUtf8(text, luaL_buffinitsize(L, &buffer, size));
     luaL_pushresultsize(&buffer, size);
+}
+
+std::string quoteText(std::u16string_view text, std::size_t width)
+{
+    constexpr std::size_t maxUnits = 2; // of one character
+    return quoteText(toUtf8(text.substr(0, (width + 1) * maxUnits)), width);
 }
 
 std::u16string hostTextAt(lua_State* L, int index)

@@ -16,6 +16,9 @@ namespace velmara::console {
 std::string toUtf8(std::u16string_view text);
 void pushHostText(lua_State* L, std::u16string_view text);
 
+/// The text in double quotes, in at most `width` columns without these: see CutText.hpp.
+std::string quoteText(std::u16string_view text, std::size_t width);
+
 /// The text of the string at `index`; empty for anything but a string.
 std::u16string hostTextAt(lua_State* L, int index);
 

@@ -49,8 +49,8 @@ void pushScalar(lua_State* L, orbis::COSValue const& scalar)
 
 void pushNumericElement(lua_State* L, hvClassID classID, void const* data, std::size_t index)
 {
-    orbis::host_extensions::visitNumericClass(
-        classID, [&]<class T>(T) { pushNumber(L, static_cast<T const*>(data)[index]); });
+    orbis::host_extensions::visitNumericClass(classID,
+                                              [&]<class T>(T) { pushNumber(L, static_cast<T const*>(data)[index]); });
 }
 
 } // namespace velmara::console

@@ -17,8 +17,8 @@ constexpr bool isInExactRange(lua_Integer value)
     return -limit <= value && value <= limit;
 }
 
-/// The scalar for the Lua value at `index`, which is of that Lua type: for a number a double where it is exactly one, else an int64; for a boolean a
-/// logical. False for any other value.
+/// The scalar for the Lua value at `index`, which is of that Lua type: for a number a double where it is exactly one,
+/// else an int64; for a boolean a logical. False for any other value.
 inline bool readScalar(lua_State* L, int index, int type, orbis::COSValue& scalar)
 {
     if (type == LUA_TBOOLEAN) {

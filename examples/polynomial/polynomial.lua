@@ -4,6 +4,7 @@ print(p + q, p * 2, 2 * p)
 print(p(10), #q, q[3])
 q[1] = 5
 print(q, p == q, p == polynomial.Polynomial({1, 2}), p ~= nil)
+show(q, {p, q})
 local twin = copy(p)
 twin[1] = 7
 print(twin, p, polynomial.Polynomial(p) == p)

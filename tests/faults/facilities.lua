@@ -135,6 +135,10 @@ print(handle)
 show(handle, {handle, handle.other}, members(probe.named))
 return handle
 
+local raise = coroutine.wrap(function() error({through = "a coroutine"}) end)
+each({raise, print}, function(f) print(pcall(xpcall, f, type)) end)
+return (select(2, time(tostring, 7)))
+
 local a = array("int8", {{1, 2, 3}, {4, 5, 6}})
 local texts, cells = array("string", {"long enough for memory of its own", "b"}), array("cell", {a, "x"})
 texts:set({1, 2}, texts({2, 1}))
@@ -142,3 +146,10 @@ cells[array {2}] = cells(1, {1})
 print(a * 0.5 + {1, 2, 3}, a:gt(2) & ~a:eq(4), a(nil, {2, 1}), a:sum(2), a:order(2), a:gt(1):find(), a:transpose(), range(1, 6):reshape(2, nil))
 print(pcall(function() return a * 100 end), texts:transpose(), cells)
 return {a:sort(1), texts(nil)}
+
+-- each: what memory is short for changes nothing
+local texts = array("string", {"a", "b"})
+local long = "long enough for memory of its own"
+if not pcall(texts.set, texts, {1, 2}, long) and texts[1] ~= "a" then wrong = "torn" end
+print(wrong)
+return texts

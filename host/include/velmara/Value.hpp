@@ -9,7 +9,8 @@
 
 namespace velmara {
 
-/// What a signature says of an array: a list may have one element or none, and "[]" is the absence of an optional value.
+/// What a signature says of an array: a list may have one element or none, and "[]" is the absence of an optional
+/// value.
 enum class ValueShape : std::uint8_t { Plain, List, Optional };
 
 /// A value with its owner: nothing, a scalar, which needs no memory, or an array.

@@ -56,7 +56,7 @@ namespace {
 
 [[gnu::always_inline]] inline Property const& requireProperty(Class& cls, MemberName& name)
 {
-    Property const* const property = memberOf<Property>(cls, name, [&] { return cls.findProperty(name.member()); });
+    auto const* const property = memberOf<Property>(cls, name, [&] { return cls.findProperty(name.member()); });
     if (!property) [[unlikely]]
         throwUnknown(cls, name.member());
     return *property;

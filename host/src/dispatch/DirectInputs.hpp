@@ -59,8 +59,7 @@ private:
     }
 
     static bool readOthers(Parameter const* parameter, orbis::COSValue* value, std::span<hvArray_tag* const> inputs);
-    static bool readOthers(Parameter const* parameter, orbis::COSValue* value,
-                           std::span<orbis::COSValue const> inputs);
+    static bool readOthers(Parameter const* parameter, orbis::COSValue* value, std::span<orbis::COSValue const> inputs);
 
     union {
         orbis::COSValue values_[Method::fewInputs]; ///< not initialized: only what is read is ever used

@@ -24,12 +24,13 @@ struct Candidate {
     }
 };
 
-/// The only method that takes so many inputs; null when there are several, or none.
-Method const* onlyTaking(MethodGroup const& group, CallInputs const& call)
+/// The only method that may be called and is wanted; null when there are several, or none.
+template <class Predicate>
+Method const* findOnly(MethodGroup const& group, Predicate const& isWanted)
 {
     Method const* found = nullptr;
     for (std::size_t i = 0; i < group.accessible; ++i)
-        if (takesInputs(*group.methods[i], call)) {
+        if (isWanted(*group.methods[i])) {
             if (found)
                 return nullptr;
             found = group.methods[i];
@@ -37,6 +38,7 @@ Method const* onlyTaking(MethodGroup const& group, CallInputs const& call)
     return found;
 }
 
+/// Whether each input fits exactly. The inputs were checked.
 bool fitsExactly(Method const& method, CallInputs const& call)
 {
     if (!takesInputs(method, call))
@@ -51,20 +53,6 @@ bool fitsExactly(Method const& method, CallInputs const& call)
                                                            : directRank(type, *Array::of(input)));
     };
     return std::ranges::all_of(call.inputs, isExact);
-}
-
-/// The only method that each input fits exactly, so that none fits better; null when there are several, or none. The
-/// inputs were checked.
-Method const* onlyExact(MethodGroup const& group, CallInputs const& call)
-{
-    Method const* found = nullptr;
-    for (std::size_t i = 0; i < group.accessible; ++i)
-        if (fitsExactly(*group.methods[i], call)) {
-            if (found)
-                return nullptr;
-            found = group.methods[i];
-        }
-    return found;
 }
 
 } // namespace
@@ -85,11 +73,11 @@ Method const* chooseAmong(MethodGroup const& group, CallInputs call, Failure fai
         refuseUncallable(group, call, failure);
         return nullptr;
     }
-    if (Method const* const method = onlyTaking(group, call))
-        return method;
+    if (auto const* only = findOnly(group, [&](Method const& method) { return takesInputs(method, call); }))
+        return only;
     checkInputs(Machine::required(), call.inputs);
-    if (Method const* const method = onlyExact(group, call))
-        return method;
+    if (auto const* only = findOnly(group, [&](Method const& method) { return fitsExactly(method, call); }))
+        return only; // none fits better
     std::byte buffer[1024];
     std::pmr::monotonic_buffer_resource memory(buffer, sizeof buffer);
     // A copy: conversions run native code, which may add to the group.

@@ -90,8 +90,8 @@ inline Value dispatchArrays(MethodGroup const& group, hvArray_tag* self, Inputs 
 Value dispatchArrays(MethodGroup const& group, hvArray_tag* self, std::span<orbis::COSValue const> inputs,
                      Failure failure);
 
-/// The same, shorter for the only method of the group when nothing is to be converted, as most often. An `Input` is an array or an
-/// `orbis::COSValue`.
+/// The same, shorter for the only method of the group when nothing is to be converted, as most often. An `Input` is an
+/// array or an `orbis::COSValue`.
 template <class Input>
 [[gnu::always_inline]] inline Value dispatch(MethodGroup const& group, hvArray_tag* self, std::span<Input const> inputs,
                                              Failure failure)

@@ -131,8 +131,8 @@ private:
     /// The native object for one class name. A superclass that created none and for which none was recorded has that of
     /// the object's own class.
     struct Slot {
-        bool created = false;  ///< by the class's `createInstanceData`, which may have given null
-        bool recorded = false; ///< by that, or by `setNativeObject` since
+        bool created = false;             ///< by the class's `createInstanceData`, which may have given null
+        bool recorded = false;            ///< by that, or by `setNativeObject` since
         std::uint32_t embedderNumber = 0; ///< of the object: it needs no room here
         Name className = nullptr;
         void* native = nullptr;

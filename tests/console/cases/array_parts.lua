@@ -63,6 +63,9 @@ show(m:order(), m:order(1), m:order(2), n:order(), n:order("descending"), none:s
 show(m:find(), m:gt(2):find(), m(1, nil):gt(1):find(), none:find(), n:find(), array("double", {0, 1}):find())
 show(m:transpose(), none:transpose(), cells:transpose(), m:reshape(3, 2), m:reshape(nil, 2), m:reshape(6), none:reshape(0, 7), none:reshape(nil, 0))
 show(range(1, 5), range(5, 1, -2), range(1, 0), range(0, 1.05, 0.5), range(3, 3), linspace(0, 1, 5), linspace(1, 2, 0), linspace(1, 2, 1))
+local wide = array("double", {}, 0, math.maxinteger) -- has no elements to go through
+wide:set(nil, nil, 1)
+print(wide:transpose(), wide:transpose():transpose()(nil, nil), wide + 1, wide:find(), wide:sort(2), (wide:min(1)), wide:sum(2), wide)
 local tenths = range(0, 0.3, 0.1)
 print(#tenths, tenths[4] == 0.3, #range(0, 1, 0.1), linspace(0.1, 0.7, 7)[7] == 0.7, linspace(-1.7e308, 1.7e308, 3)[2])
 for _, f in ipairs {function() return m:reshape(4, 2) end, function() return m:reshape(4) end, function() return m:reshape(nil, 0) end,

@@ -10,12 +10,13 @@ methods(p)
 methods(orbis_factory)
 properties("cases.Probe")
 properties(cases)
-for _, value in ipairs {5, {1, 2}, {[{}] = 1}, array("int8", {1, 2}), print, function(a, b, ...) end, null} do help(value) end
+for _, value in ipairs {5, {1, 2}, {[{}] = 1}, array{1}.sum, print, function(a, b, ...) end, null} do help(value) end
 help(show)
 help("members")
-help("string.format")
+probes = {first = p}
+for _, name in ipairs {"string.format", "probes.first.pair"} do help(name) end
 help(select(2, pcall(help, "cases.Prob")))
-for _, name in ipairs {"cases.Prob", "cases.Probe.vaule", "Probee", "hepl", "echo", "x.y"} do print(pcall(help, name)) end
+for _, name in ipairs {"cases.Prob", "cases.Probe.vaule", "Probee", "hepl", "echo", "x.y", "probes.first.pear"} do print(pcall(help, name)) end
 print(pcall(help, nil))
 print(pcall(methods, "cases.nosuch"))
 print(pcall(members, 5))
@@ -24,6 +25,7 @@ print(pcall(members, 5))
 enumeration("palette.Color", {"Red", "Green"})
 help(cases.hue)
 show(members(p), members(callbacks)[1], members(palette.Color))
+show(members(orbis_factory.Week)[2].parameters, members(p)[2].parameters)
 p.value = "held"
 for name, value in pairs(p) do print(name, value) end
 for name, member in pairs(cases.Probe) do io.write(name, " ", member.kind, "; ") end

@@ -45,3 +45,4 @@ show(cyclic, {}, {1, {2}, x = "y"}, {{1, 2}, {3, 4}}, setmetatable({}, {__tostri
 local many = {}
 for i = 1, 30 do many[i] = gauge end
 show({many = many, texts = {("a "):rep(30), "x", "x", "x", "x", "x", "x", "x", "x", "x", "x", "x"}})
+show(orbis_factory.TreeNodeBase("leaf")) -- no parent, and a list of no children
