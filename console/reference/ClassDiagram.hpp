@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/Page.hpp"
+#include "reference/ReferencePage.hpp"
 
 #include <span>
 #include <string>

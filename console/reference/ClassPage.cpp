@@ -11,7 +11,7 @@ namespace {
 
 using Kind = MethodRecord::Kind;
 
-void append(Line& line, Line const& more)
+void append(PageLine& line, PageLine const& more)
 {
     line.insert(line.end(), more.begin(), more.end());
 }
@@ -27,10 +27,10 @@ std::string listOf(std::initializer_list<std::pair<char const*, bool>> words)
 }
 
 /// The attributes, and the class that defines an inherited member.
-Line noteOn(std::string const& attributes, std::string const& member, std::string const& definingClass,
-            std::string const& cls, PageLinks const& links)
+PageLine noteOn(std::string const& attributes, std::string const& member, std::string const& definingClass,
+                std::string const& cls, PageLinks const& links)
 {
-    Line note{{attributes, {}, {}}};
+    PageLine note{{attributes, {}, {}}};
     if (!definingClass.empty() && definingClass != cls) {
         note.push_back({attributes.empty() ? "defined by " : ", defined by ", {}, {}});
         note.push_back(links.to(definingClass));
@@ -39,9 +39,9 @@ Line noteOn(std::string const& attributes, std::string const& member, std::strin
     return note;
 }
 
-Line signature(std::string const& name, MethodRecord const& method, PageLinks const& links)
+PageLine signature(std::string const& name, MethodRecord const& method, PageLinks const& links)
 {
-    Line line{{name + '(', {}, {}}};
+    PageLine line{{name + '(', {}, {}}};
     bool isFirst = true;
     for (ParameterRecord const& parameter : parametersOf(method)) {
         line.push_back({(isFirst ? "" : ", ") + parameter.name + ": ", {}, {}});
@@ -56,7 +56,7 @@ Line signature(std::string const& name, MethodRecord const& method, PageLinks co
     return line;
 }
 
-Entry methodEntry(MethodRecord const& method, std::string const& owner, PageLinks const& links)
+PageEntry methodEntry(MethodRecord const& method, std::string const& owner, PageLinks const& links)
 {
     std::string const name = unqualifiedName(method.name);
     constexpr char const* kinds[] = {"constructor", "method", "static method", "function"};
@@ -73,11 +73,12 @@ Entry methodEntry(MethodRecord const& method, std::string const& owner, PageLink
                            method.definingClass, owner, links)};
 }
 
-Entry propertyEntry(PropertyRecord const& property, std::string const& owner, PageLinks const& links)
+PageEntry propertyEntry(PropertyRecord const& property, std::string const& owner, PageLinks const& links)
 {
     using orbis::MemberAccess;
-    Line line{{(property.isStatic ? owner + '.' : "object.") + property.name + ": ", {}, {}}};
-    append(line, property.dataType.empty() ? Line{{"type not known yet", {}, {}}} : links.toType(property.dataType));
+    PageLine line{{(property.isStatic ? owner + '.' : "object.") + property.name + ": ", {}, {}}};
+    append(line,
+           property.dataType.empty() ? PageLine{{"type not known yet", {}, {}}} : links.toType(property.dataType));
     std::string const attributes = listOf({{"static", property.isStatic},
                                            {"read only", property.setAccess != MemberAccess::Public},
                                            {"write only", property.getAccess != MemberAccess::Public},
@@ -95,18 +96,18 @@ Entry propertyEntry(PropertyRecord const& property, std::string const& owner, Pa
             .note = noteOn(attributes, property.name, property.definingClass, owner, links)};
 }
 
-Section methodSection(char const* title, Kind kind, ClassRecord const& cls, PageLinks const& links)
+PageSection methodSection(char const* title, Kind kind, ClassRecord const& cls, PageLinks const& links)
 {
-    Section section{title, {}};
+    PageSection section{title, {}};
     for (MethodRecord const& method : cls.methods)
         if (method.kind == kind && isListed(method))
             section.entries.push_back(methodEntry(method, cls.name, links));
     return section;
 }
 
-Section enumeratorSection(ClassRecord const& cls)
+PageSection enumeratorSection(ClassRecord const& cls)
 {
-    Section section{"Enumerators", {}};
+    PageSection section{"Enumerators", {}};
     for (EnumeratorRecord const& enumerator : cls.enumerators)
         section.entries.push_back(
             {.name = enumerator.name,
@@ -118,9 +119,9 @@ Section enumeratorSection(ClassRecord const& cls)
     return section;
 }
 
-Section propertySection(ClassRecord const& cls, PageLinks const& links)
+PageSection propertySection(ClassRecord const& cls, PageLinks const& links)
 {
-    Section section{"Properties", {}};
+    PageSection section{"Properties", {}};
     for (PropertyRecord const& property : cls.properties)
         if (isListed(property))
             section.entries.push_back(propertyEntry(property, cls.name, links));
@@ -128,11 +129,11 @@ Section propertySection(ClassRecord const& cls, PageLinks const& links)
 }
 
 /// "Superclasses: A, B"; nothing without names.
-void addNames(Page& page, char const* title, std::span<std::string const> names, PageLinks const& links)
+void addNames(ReferencePage& page, char const* title, std::span<std::string const> names, PageLinks const& links)
 {
     if (names.empty())
         return;
-    Line line{{title, {}, {}}};
+    PageLine line{{title, {}, {}}};
     for (std::string const& name : names) {
         line.push_back({&name == names.data() ? " " : ", ", {}, {}});
         line.push_back(links.to(name));
@@ -165,18 +166,18 @@ std::string ownership(ClassRecord const& cls)
 
 } // namespace
 
-Page classPage(ClassRecord const& cls, PageLinks const& links)
+ReferencePage classPage(ClassRecord const& cls, PageLinks const& links)
 {
-    Page page{.page = links.pageOf(cls.name),
-              .kind = cls.isEnumeration ? "Enumeration"
-                      : cls.isHandle    ? "Handle class"
-                                        : "Value class",
-              .name = cls.name,
-              .text = cls.description,
-              .trail = links.trailTo(cls.name),
-              .facts = {},
-              .diagram = {},
-              .sections = {}};
+    ReferencePage page{.page = links.pageOf(cls.name),
+                       .kind = cls.isEnumeration ? "Enumeration"
+                               : cls.isHandle    ? "Handle class"
+                                                 : "Value class",
+                       .name = cls.name,
+                       .text = cls.description,
+                       .trail = links.trailTo(cls.name),
+                       .facts = {},
+                       .diagram = {},
+                       .sections = {}};
     if (cls.isAbstract)
         page.kind += ", abstract";
     page.facts = {{{construction(cls), {}, {}}}, {{ownership(cls), {}, {}}}};
@@ -188,9 +189,9 @@ Page classPage(ClassRecord const& cls, PageLinks const& links)
     return page;
 }
 
-Section functionSection(PackageRecord const& package, PageLinks const& links)
+PageSection functionSection(PackageRecord const& package, PageLinks const& links)
 {
-    Section section{"Functions", {}};
+    PageSection section{"Functions", {}};
     for (MethodRecord const& function : package.functions)
         if (isListed(function))
             section.entries.push_back(methodEntry(function, package.name, links));

@@ -7,7 +7,7 @@ namespace velmara::console {
 
 namespace {
 
-std::string pieceHtml(Piece const& piece)
+std::string pieceHtml(PagePiece const& piece)
 {
     if (piece.page.empty())
         return htmlText(piece.text);
@@ -15,10 +15,10 @@ std::string pieceHtml(Piece const& piece)
     return "<a href=\"" + piece.page + ".html" + place + "\">" + htmlText(piece.text) + "</a>";
 }
 
-std::string lineHtml(Line const& line)
+std::string lineHtml(PageLine const& line)
 {
     std::string text;
-    for (Piece const& piece : line)
+    for (PagePiece const& piece : line)
         text += pieceHtml(piece);
     return text;
 }
@@ -28,17 +28,17 @@ std::string paragraphHtml(std::string const& text)
     return text.empty() ? text : "<p>" + htmlText(text) + "</p>\n";
 }
 
-std::string trailHtml(Line const& trail)
+std::string trailHtml(PageLine const& trail)
 {
     if (trail.empty())
         return {};
     std::string text = "<nav aria-label=\"Packages around\"><ol>\n";
-    for (Piece const& piece : trail)
+    for (PagePiece const& piece : trail)
         text += "<li>" + pieceHtml(piece) + "</li>\n";
     return text + "</ol></nav>\n";
 }
 
-std::string entryHtml(Entry const& entry)
+std::string entryHtml(PageEntry const& entry)
 {
     std::string text = "<article";
     text += entry.place.empty() ? "" : " id=\"" + entry.place + '"';
@@ -47,17 +47,17 @@ std::string entryHtml(Entry const& entry)
     return text + (note.empty() ? "" : "<p class=\"note\">" + note + "</p>\n") + "</article>\n";
 }
 
-std::string sectionHtml(Section const& section)
+std::string sectionHtml(PageSection const& section)
 {
     if (section.entries.empty())
         return {};
     std::string text = "<section>\n<h2>" + htmlText(section.title) + "</h2>\n";
-    for (Entry const& entry : section.entries)
+    for (PageEntry const& entry : section.entries)
         text += entryHtml(entry);
     return text + "</section>\n";
 }
 
-std::string headHtml(Page const& page)
+std::string headHtml(ReferencePage const& page)
 {
     std::string const title = page.name.empty() ? page.kind : page.name;
     return R"(<!DOCTYPE html>
@@ -87,19 +87,19 @@ std::string headHtml(Page const& page)
 
 } // namespace
 
-std::string htmlPage(Page const& page)
+std::string htmlPage(ReferencePage const& page)
 {
     std::string text = headHtml(page);
     text += "<p class=\"kind\">" + htmlText(page.kind) + "</p>\n<h1>" + htmlText(page.name) + "</h1>\n" +
             paragraphHtml(page.text);
     if (!page.facts.empty()) {
         text += "<ul class=\"facts\">\n";
-        for (Line const& fact : page.facts)
+        for (PageLine const& fact : page.facts)
             text += "<li>" + lineHtml(fact) + "</li>\n";
         text += "</ul>\n";
     }
     text += classDiagram(page.diagram);
-    for (Section const& section : page.sections)
+    for (PageSection const& section : page.sections)
         text += sectionHtml(section);
     return text + "</main>\n<footer><p>Written by velmara from what the modules tell of themselves.</p></footer>\n"
                   "</body>\n</html>\n";

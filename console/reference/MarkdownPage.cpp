@@ -16,10 +16,10 @@ std::string plain(std::string_view text)
     return result;
 }
 
-std::string lineText(Line const& line)
+std::string lineText(PageLine const& line)
 {
     std::string text;
-    for (Piece const& piece : line)
+    for (PagePiece const& piece : line)
         text += piece.page.empty() ? plain(piece.text) : '[' + plain(piece.text) + "](" + piece.page + ".md)";
     return text;
 }
@@ -29,7 +29,7 @@ std::string paragraph(std::string const& text)
     return text.empty() ? text : plain(text) + "\n\n";
 }
 
-std::string entryText(Entry const& entry)
+std::string entryText(PageEntry const& entry)
 {
     std::string const note = lineText(entry.note);
     return "### " + lineText(entry.line) + "\n\n" + paragraph(entry.text) + note + (note.empty() ? "" : "\n\n");
@@ -37,19 +37,19 @@ std::string entryText(Entry const& entry)
 
 } // namespace
 
-std::string markdownPage(Page const& page)
+std::string markdownPage(ReferencePage const& page)
 {
     std::string text = "# " + plain(page.kind) + ' ' + plain(page.name) + "\n\n";
     text += page.trail.empty() ? "" : "In ";
-    for (Piece const& piece : page.trail)
+    for (PagePiece const& piece : page.trail)
         text += (&piece == page.trail.data() ? "" : " / ") + lineText({piece});
     text += (page.trail.empty() ? "" : "\n\n") + paragraph(page.text);
-    for (Line const& fact : page.facts)
+    for (PageLine const& fact : page.facts)
         text += "- " + lineText(fact) + '\n';
     text += page.facts.empty() ? "" : "\n";
-    for (Section const& section : page.sections) {
+    for (PageSection const& section : page.sections) {
         text += section.entries.empty() ? "" : "## " + plain(section.title) + "\n\n";
-        for (Entry const& entry : section.entries)
+        for (PageEntry const& entry : section.entries)
             text += entryText(entry);
     }
     return text;

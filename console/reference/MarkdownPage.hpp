@@ -1,12 +1,12 @@
 #pragma once
 
-#include "reference/Page.hpp"
+#include "reference/ReferencePage.hpp"
 
 #include <string>
 
 namespace velmara::console {
 
 /// The page as Markdown.
-std::string markdownPage(Page const& page);
+std::string markdownPage(ReferencePage const& page);
 
 } // namespace velmara::console

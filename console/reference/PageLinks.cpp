@@ -56,12 +56,12 @@ std::string PageLinks::shortName(std::string const& name)
     return name.substr(name.rfind('.') + 1);
 }
 
-Piece PageLinks::to(std::string const& name) const
+PagePiece PageLinks::to(std::string const& name) const
 {
     return {name, pageOf(name), {}};
 }
 
-Line PageLinks::toType(std::string const& dataType) const
+PageLine PageLinks::toType(std::string const& dataType) const
 {
     std::string cls = dataType;
     for (std::string_view const suffix : {" or empty", " vector"})
@@ -70,9 +70,9 @@ Line PageLinks::toType(std::string const& dataType) const
     return {to(cls), {dataType.substr(cls.size()), {}, {}}};
 }
 
-Line PageLinks::trailTo(std::string const& name) const
+PageLine PageLinks::trailTo(std::string const& name) const
 {
-    Line trail{{"Reference", "index", {}}};
+    PageLine trail{{"Reference", "index", {}}};
     for (std::size_t dot = name.find('.'); dot != name.npos; dot = name.find('.', dot + 1))
         if (std::string const outer = name.substr(0, dot); knows(outer))
             trail.push_back({shortName(outer), pageOf(outer), {}});

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/Page.hpp"
 #include "reference/PublishedRecords.hpp"
+#include "reference/ReferencePage.hpp"
 
 #include <functional>
 #include <map>
@@ -25,13 +25,13 @@ public:
     static std::string shortName(std::string const& name);
 
     /// The name, which leads to its page where it has one.
-    Piece to(std::string const& name) const;
+    PagePiece to(std::string const& name) const;
 
     /// A data type, which leads to the page of its class.
-    Line toType(std::string const& dataType) const;
+    PageLine toType(std::string const& dataType) const;
 
     /// The pages around a package or class.
-    Line trailTo(std::string const& name) const;
+    PageLine trailTo(std::string const& name) const;
 
 private:
     std::map<std::string, std::string, std::less<>> pages_;

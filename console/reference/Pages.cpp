@@ -21,21 +21,21 @@ std::vector<DiagramClass> diagramOf(PackageRecord const& package, PageLinks cons
     return diagram;
 }
 
-Page packagePage(PackageRecord const& package, PageLinks const& links)
+ReferencePage packagePage(PackageRecord const& package, PageLinks const& links)
 {
-    Page page{.page = links.pageOf(package.name),
-              .kind = "Package",
-              .name = package.name,
-              .text = package.description,
-              .trail = links.trailTo(package.name),
-              .facts = {},
-              .diagram = diagramOf(package, links),
-              .sections = {}};
-    Section packages{"Packages", {}};
+    ReferencePage page{.page = links.pageOf(package.name),
+                       .kind = "Package",
+                       .name = package.name,
+                       .text = package.description,
+                       .trail = links.trailTo(package.name),
+                       .facts = {},
+                       .diagram = diagramOf(package, links),
+                       .sections = {}};
+    PageSection packages{"Packages", {}};
     for (std::string const& name : package.packages)
         packages.entries.push_back(
             {.name = name, .kind = "package", .place = {}, .line = {links.to(name)}, .text = {}, .note = {}});
-    Section classSection{"Classes", {}};
+    PageSection classSection{"Classes", {}};
     for (std::string const& name : package.classes)
         classSection.entries.push_back({.name = name,
                                         .kind = "class",
@@ -48,16 +48,16 @@ Page packagePage(PackageRecord const& package, PageLinks const& links)
 }
 
 /// The packages of all roots.
-Page indexPage(std::span<PublishedRecords const> roots, PageLinks const& links)
+ReferencePage indexPage(std::span<PublishedRecords const> roots, PageLinks const& links)
 {
-    Page index{.page = "index",
-               .kind = "Reference",
-               .name = {},
-               .text = {},
-               .trail = {},
-               .facts = {},
-               .diagram = {},
-               .sections = {{"Packages", {}}}};
+    ReferencePage index{.page = "index",
+                        .kind = "Reference",
+                        .name = {},
+                        .text = {},
+                        .trail = {},
+                        .facts = {},
+                        .diagram = {},
+                        .sections = {{"Packages", {}}}};
     for (PublishedRecords const& root : roots) {
         index.name += (index.name.empty() ? "" : ", ") + root.packages.front().name;
         for (PackageRecord const& package : root.packages)
@@ -72,11 +72,11 @@ Page indexPage(std::span<PublishedRecords const> roots, PageLinks const& links)
 }
 
 /// Makes the places of a page differ: overloads have one name.
-void numberPlaces(Page& page)
+void numberPlaces(ReferencePage& page)
 {
     std::set<std::string> used;
-    for (Section& section : page.sections)
-        for (Entry& entry : section.entries) {
+    for (PageSection& section : page.sections)
+        for (PageEntry& entry : section.entries) {
             std::string const first = entry.place;
             for (int i = 2; !first.empty() && !used.insert(entry.place).second; ++i)
                 entry.place = first + "--" + std::to_string(i);
@@ -85,17 +85,17 @@ void numberPlaces(Page& page)
 
 } // namespace
 
-std::vector<Page> pagesOf(std::span<PublishedRecords const> roots)
+std::vector<ReferencePage> pagesOf(std::span<PublishedRecords const> roots)
 {
     PageLinks const links(roots);
-    std::vector<Page> pages{indexPage(roots, links)};
+    std::vector<ReferencePage> pages{indexPage(roots, links)};
     for (PublishedRecords const& root : roots) {
         for (PackageRecord const& package : root.packages)
             pages.push_back(packagePage(package, links));
         for (ClassRecord const& cls : root.classes)
             pages.push_back(classPage(cls, links));
     }
-    for (Page& page : pages)
+    for (ReferencePage& page : pages)
         numberPlaces(page);
     return pages;
 }

@@ -32,13 +32,13 @@ std::string searchEntry(std::string const& name, std::string const& kind, std::s
 }
 
 /// What the search looks through: name, kind, address and text of each page and member.
-std::string searchEntries(std::span<Page const> pages)
+std::string searchEntries(std::span<ReferencePage const> pages)
 {
     std::string text = "const entries = [\n";
-    for (Page const& page : pages.subspan(1)) {
+    for (ReferencePage const& page : pages.subspan(1)) {
         text += searchEntry(page.name, page.kind, page.page + ".html", page.text);
-        for (Section const& section : page.sections)
-            for (Entry const& entry : section.entries)
+        for (PageSection const& section : page.sections)
+            for (PageEntry const& entry : section.entries)
                 if (!entry.place.empty())
                     text += searchEntry(page.name + '.' + entry.name, entry.kind, page.page + ".html#" + entry.place,
                                         entry.text);
@@ -53,9 +53,9 @@ void writeSite(Hvm& hvm, std::filesystem::path const& folder, std::span<std::str
     std::vector<PublishedRecords> roots;
     for (std::string const& package : packages)
         roots.push_back(recordsOf(hvm, package));
-    std::vector<Page> const pages = pagesOf(roots);
+    std::vector<ReferencePage> const pages = pagesOf(roots);
     bool const isHtml = format == SiteFormat::Html;
-    for (Page const& page : pages)
+    for (ReferencePage const& page : pages)
         writeFile(folder / (page.page + (isHtml ? ".html" : ".md")), isHtml ? htmlPage(page) : markdownPage(page));
     if (!isHtml)
         return;

@@ -6,27 +6,27 @@
 namespace velmara::console {
 
 /// A part of a line; with the page and the place on it that it leads to, where it does.
-struct Piece {
+struct PagePiece {
     std::string text;
     std::string page;
     std::string place;
 };
 
-using Line = std::vector<Piece>;
+using PageLine = std::vector<PagePiece>;
 
 /// A member, or what else is listed.
-struct Entry {
+struct PageEntry {
     std::string name;
     std::string kind;
     std::string place; ///< unique on its page; empty for what has a page
-    Line line;
+    PageLine line;
     std::string text;
-    Line note;
+    PageLine note;
 };
 
-struct Section {
+struct PageSection {
     std::string title;
-    std::vector<Entry> entries;
+    std::vector<PageEntry> entries;
 };
 
 /// A class of a diagram, and its superclasses by their pages.
@@ -37,15 +37,15 @@ struct DiagramClass {
 };
 
 /// A page of the reference, whatever it is written as. All texts are as they were published.
-struct Page {
+struct ReferencePage {
     std::string page; ///< its file without the ending
     std::string kind;
     std::string name;
     std::string text;
-    Line trail; ///< of pages to this one
-    std::vector<Line> facts;
+    PageLine trail; ///< of pages to this one
+    std::vector<PageLine> facts;
     std::vector<DiagramClass> diagram;
-    std::vector<Section> sections;
+    std::vector<PageSection> sections;
 };
 
 } // namespace velmara::console
