@@ -2,7 +2,7 @@ export CMAKE_BUILD_PARALLEL_LEVEL ?= $(shell nproc)
 export CTEST_PARALLEL_LEVEL ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run test check sanitize windows bench faults fuzz coverage mutants threads memory nightly package clean
+.PHONY: help run test check sanitize windows bench faults fuzz coverage mutants threads memory nightly package docs clean
 
 help: ## list the targets
 	@awk -F ':.*## ' '/^[a-z]+:.*## / { printf "  make %-9s %s\n", $$1, $$2 }' Makefile
@@ -34,5 +34,7 @@ nightly: ## every harness, each to its end: some hours
 	@scripts/nightly
 package: ## make .deb packages and a .zip for Windows
 	@scripts/package
+docs: ## write the reference of the sample classes, for a browser
+	@scripts/docs
 clean: ## remove everything that was built
 	@rm -rf build

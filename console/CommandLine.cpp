@@ -19,6 +19,11 @@ are in `arg` and `...`.
   --restricted         for scripts of strangers: no files, processes, modules
   --check-leaks        check at the end that nothing of the host is left
   --report-leaks       name at the end each native object that is still bound
+  --stubs DIR PACKAGE...  write files into DIR that let an editor complete and
+                       check scripts for these packages
+  --document PACKAGE... -o DIR
+                       write the reference of these packages into DIR, as pages
+                       for a browser; with -f markdown as Markdown
   --help, --version
 
 Exit codes: 0 success; 1 a script or module failed ("identifier: text" and
@@ -49,6 +54,28 @@ std::string const& takeValue(Words& words, std::string const& option)
     return take(words);
 }
 
+/// Options of what the console writes of packages; false for another option.
+bool parseWritingOption(CommandLine& line, std::string const& option, Words& words)
+{
+    using Task = CommandLine::Task;
+    bool const isOfDocument = line.task == Task::Document;
+    if (option == "--document")
+        line.task = Task::Document;
+    else if (option == "--stubs") {
+        line.task = Task::Stubs;
+        line.folder = takeValue(words, option);
+    } else if (option == "-o" && isOfDocument)
+        line.folder = takeValue(words, option);
+    else if (option == "-f" && isOfDocument) {
+        std::string const& format = takeValue(words, option);
+        if (format != "html" && format != "markdown")
+            throw UsageError("the format " + format + " is not known: it is html or markdown");
+        line.writesMarkdown = format == "markdown";
+    } else
+        return false;
+    return true;
+}
+
 void parseOption(CommandLine& line, std::string const& option, Words& words)
 {
     using Task = CommandLine::Task;
@@ -69,12 +96,41 @@ void parseOption(CommandLine& line, std::string const& option, Words& words)
         line.checksLeaks = true;
     else if (option == "--report-leaks")
         line.reportsLeaks = true;
+    else if (parseWritingOption(line, option, words))
+        return;
     else if (option == "--help" || option == "-h")
         line.task = Task::Help;
     else if (option == "--version")
         line.task = Task::Version;
     else
         throw UsageError("unknown option " + option);
+}
+
+/// Whether the task is to write of packages.
+bool takesPackages(CommandLine::Task task)
+{
+    return task == CommandLine::Task::Stubs || task == CommandLine::Task::Document;
+}
+
+/// The packages, which options may stand between.
+void parsePackages(CommandLine& line, Words words)
+{
+    bool areOptionsOver = false;
+    while (!words.empty()) {
+        std::string const& word = take(words);
+        if (areOptionsOver || !word.starts_with('-'))
+            line.packages.push_back(word);
+        else if (word == "--")
+            areOptionsOver = true;
+        else
+            parseOption(line, word, words);
+    }
+    if (!takesPackages(line.task)) // but one of another option, such as --help
+        return line.packages.clear();
+    if (line.packages.empty())
+        throw UsageError("the names of packages are needed");
+    if (line.folder.empty())
+        throw UsageError("-o and a folder are needed");
 }
 
 } // namespace
@@ -89,6 +145,10 @@ CommandLine parseCommandLine(std::vector<std::string> const& words)
         if (option == "--")
             break;
         parseOption(line, option, left);
+    }
+    if (takesPackages(line.task)) {
+        parsePackages(line, left);
+        return line;
     }
     if (line.task == CommandLine::Task::Prompt && !left.empty()) {
         line.task = CommandLine::Task::Script;

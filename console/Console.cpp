@@ -10,6 +10,8 @@
 #include "help/HelpFunctions.hpp"
 #include "lua/ScriptError.hpp"
 #include "prompt/Prompt.hpp"
+#include "reference/Site.hpp"
+#include "reference/Stubs.hpp"
 #include "scripts/ErrorReport.hpp"
 #include "scripts/Interruption.hpp"
 #include "scripts/ScriptLibraries.hpp"
@@ -72,8 +74,23 @@ int runGiven(lua_State* L, Run const& run)
     return InterruptibleRun::isInterrupted() ? exitInterrupted : exitScriptError;
 }
 
+void writeReference(Run const& run)
+{
+    CommandLine const& line = run.line;
+    Hvm& hvm = run.session.host().hvm();
+    std::u8string const folder(line.folder.begin(), line.folder.end());
+    if (line.task == CommandLine::Task::Stubs)
+        writeStubs(hvm, folder, line.packages);
+    else
+        writeSite(hvm, folder, line.packages, line.writesMarkdown ? SiteFormat::Markdown : SiteFormat::Html);
+}
+
 int runTask(lua_State* L, Run const& run)
 {
+    if (!run.line.packages.empty()) {
+        writeReference(run);
+        return exitSuccess;
+    }
     InterruptHandler const handler;
     int const code = run.line.task == CommandLine::Task::Prompt ? exitSuccess : runGiven(L, run);
     if (run.line.asksForPrompt)

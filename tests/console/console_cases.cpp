@@ -289,6 +289,9 @@ class Callbacks final : public COSPackageInfo {
 public:
     char const* getName() const override { return "callbacks"; }
 
+    /// As a stranger may write it who knows what the text is put into.
+    char const* getDescription() const override { return "Calls back\n]]@class evil\r  @class evil\n|evil <b>\x1b"; }
+
     void initializePackage(COSPackage* package) override
     {
         Parameter const function{"function(double scalar) -> double scalar", "function"};
@@ -305,7 +308,8 @@ public:
             return callWith(*kept, COSValue(0.0));
         });
         add("kept", {number}, [](auto in) { return callWith(kept.value(), in[0]); });
-        add("keptOnThread", {}, [](auto) { return attemptOnThread([] { return callWith(*kept, COSValue(1.0)); }); });
+        add("keptOnThread", {},
+            [](auto) { return attemptOnThread([] { return callWith(kept.value(), COSValue(1.0)); }); });
         add("with", {{probeClass, "probe"}, {"function", "function"}}, [](auto in) {
             host_extensions::FunctionCall call(FunctionHandle(in[1].array()));
             call.addInput(probeClass, COSValue(copyOf(in[0].array()).release()));

@@ -59,6 +59,7 @@ struct ClassRecord {
     bool isAbstract = false;
     bool isHidden = false;
     bool isEnumeration = false;
+    std::string owner;                         ///< as in the records of its objects
     bool hasEquality = false;                  ///< its class info compares objects: `Hvm::areEqual`
     std::vector<EnumeratorRecord> enumerators; ///< of an enumeration, in the order of description
     std::vector<std::string> superclasses;     ///< direct ones

@@ -134,6 +134,16 @@ PackageRecord recordPackage(Machine& machine, std::string_view fullName)
     return listed;
 }
 
+std::string ownerOf(orbis::COSClassInfo const& info)
+{
+    if (!info.isHandle())
+        return "value";
+    if (info.isEnumeration())
+        return "enumerator";
+    auto const* const owner = dynamic_cast<orbis::host_extensions::NativeOwner const*>(&info);
+    return owner ? owner->nativeOwner() : "handle";
+}
+
 ClassRecord recordClass(Machine& machine, std::string_view fullName)
 {
     Class& cls = requireClass(machine, fullName);
@@ -145,6 +155,7 @@ ClassRecord recordClass(Machine& machine, std::string_view fullName)
     listed.isAbstract = info.classIsAbstract();
     listed.isHidden = info.isHidden();
     listed.isEnumeration = cls.isEnumeration();
+    listed.owner = ownerOf(info);
     auto const* const equality = dynamic_cast<orbis::host_extensions::NativeEquality const*>(&info);
     listed.hasEquality = equality && equality->comparesNatives();
     for (auto const& [name, value] : cls.contents().enumerators.entries())
@@ -161,16 +172,6 @@ MethodRecord recordFunction(Machine& machine, std::string_view fullName)
     if (!group)
         throwHostError("VELMARA:function", "unknown", {std::string(fullName)});
     return record(*group->methods.front());
-}
-
-std::string ownerOf(orbis::COSClassInfo const& info)
-{
-    if (!info.isHandle())
-        return "value";
-    if (info.isEnumeration())
-        return "enumerator";
-    auto const* const owner = dynamic_cast<orbis::host_extensions::NativeOwner const*>(&info);
-    return owner ? owner->nativeOwner() : "handle";
 }
 
 ObjectRecord record(Object const& object, std::string const& owner)

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "reference/ReferencePage.hpp"
+
+#include <string>
+
+namespace velmara::console {
+
+/// The page as Markdown.
+std::string markdownPage(ReferencePage const& page);
+
+} // namespace velmara::console

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "reference/PublishedRecords.hpp"
+#include "reference/ReferencePage.hpp"
+
+#include <functional>
+#include <map>
+#include <span>
+#include <string_view>
+
+namespace velmara::console {
+
+/// The part of a file's name, or of an address in a page, for a text: the same for no other text.
+std::string addressOf(std::string_view text);
+
+/// Which published names have a page. The records are to outlive it.
+class PageLinks {
+public:
+    explicit PageLinks(std::span<PublishedRecords const> roots);
+
+    bool knows(std::string_view name) const { return pages_.contains(name); }
+    std::string pageOf(std::string_view name) const;
+    ClassRecord const& record(std::string const& className) const { return *classes_.at(className); }
+    std::span<std::string const> subclasses(std::string const& className) const;
+    static std::string shortName(std::string const& name);
+
+    /// The name, which leads to its page where it has one.
+    PagePiece to(std::string const& name) const;
+
+    /// A data type, which leads to the page of its class.
+    PageLine toType(std::string const& dataType) const;
+
+    /// The pages around a package or class.
+    PageLine trailTo(std::string const& name) const;
+
+private:
+    std::map<std::string, std::string, std::less<>> pages_;
+    std::map<std::string, ClassRecord const*, std::less<>> classes_;
+    std::map<std::string, std::vector<std::string>, std::less<>> subclasses_;
+};
+
+} // namespace velmara::console
