@@ -162,7 +162,8 @@ std::string StubTypes::list(std::string_view elements, Direction direction) cons
     if (!numeric)
         return "velmara.list<" + stubTypeName(elements) + '>';
     bool const isTable = numeric->classID == hvDOUBLE_CLASS || numeric->classID == hvLOGICAL_CLASS;
-    return isTable ? type + "[]|" + type + "[][]|velmara.array" : "velmara.list<" + type + '>';
+    // One number is that number.
+    return type + '|' + (isTable ? type + "[]|" + type + "[][]|velmara.array" : "velmara.list<" + type + '>');
 }
 
 std::string StubTypes::function(std::string_view dataType, Direction direction) const
