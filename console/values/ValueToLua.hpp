@@ -19,8 +19,8 @@ namespace velmara::console {
 /// - a function: a Lua function, the script's own where it is that
 /// - anything else: a host array
 ///
-/// By its shape: a list of objects is a host array also when it has one element or none, and an absent optional value is
-/// nil.
+/// By its shape: a list of objects is a host array also when it has one element or none, and an absent optional value
+/// is nil.
 ///
 /// An array that becomes a table or a string is the same array again when that is passed to the host.
 void pushValue(lua_State* L, hvArray_tag const* array, ValueShape shape = ValueShape::Plain);
