@@ -39,6 +39,11 @@ protected:
     }
 };
 
+std::string textOf(Hvm::Failure const& failure)
+{
+    return failure ? failure->what() : "";
+}
+
 } // namespace
 
 TEST_F(MemberNameTest, MeansWhatIsPublishedNow)
@@ -140,10 +145,9 @@ TEST_F(MemberNameTest, ScalarsCrossAsTheirArraysDo)
             velmara::Value results[2] = {hvm().callStatic(name, {&value, 1}, failures[0]),
                                          hvm().callStatic(name, {&held, 1}, failures[1])};
             std::string const what = types[i] + " from class " + std::to_string(value.scalarClass());
-            ASSERT_EQ(failures[0].has_value(), failures[1].has_value()) << what;
-            if (failures[0] && failures[1])
-                EXPECT_STREQ(failures[0]->what(), failures[1]->what()) << what;
-            else
+            EXPECT_EQ(textOf(failures[0]), textOf(failures[1])) << what;
+            if (textOf(failures[0]).empty()) {
                 EXPECT_TRUE(velmara::isEqual(results[0].slot().array(), results[1].slot().array())) << what;
+            }
         }
 }
