@@ -18,18 +18,10 @@ namespace velmara::console {
 
 namespace {
 
-constexpr char const* callablesName = "velmara.callables"; // in the registry: the latest functions by full name
-
 /// Upvalue 1 of the functions below.
 Member& calledMember(lua_State* L)
 {
     return *static_cast<Member*>(lua_touserdata(L, lua_upvalueindex(1)));
-}
-
-std::string fullNameOf(Member const& member)
-{
-    MemberName const& name = member.name;
-    return name.member().empty() ? name.owner() : name.owner() + '.' + name.member();
 }
 
 /// The object that the member is called on; null when it is called without one.
@@ -50,7 +42,7 @@ int callStatic(lua_State* L, HostCall& call, Member& member)
     if (failure && isObject(L, 1) && objectClass(L, 1) == member.name.owner() &&
         failure->identifier() == "VELMARA:dispatch:noMatch")
         failure = Error(failure->identifier(), failure->text() + "\n  \"" + member.name.member() +
-                                                   "\" is static: write " + fullNameOf(member) + "(...), with a dot");
+                                                   "\" is static: write " + member.fullName() + "(...), with a dot");
     return call.finish(std::move(result));
 }
 
@@ -83,10 +75,6 @@ void pushCallable(lua_State* L, Member& member)
 {
     lua_pushlightuserdata(L, &member);
     lua_pushcclosure(L, guarded<callMember>, 1);
-    luaL_getsubtable(L, LUA_REGISTRYINDEX, callablesName);
-    lua_pushvalue(L, -2);
-    lua_setfield(L, -2, fullNameOf(member).c_str());
-    lua_pop(L, 1);
 }
 
 [[noreturn]] void failUnknown(ClassRecord const& cls, std::string_view name)
@@ -144,12 +132,11 @@ MemberKind pushMember(lua_State* L, std::string_view className, std::string_view
 bool pushFormerCallable(lua_State* L, std::string_view className, std::string_view name)
 {
     luaL_checkstack(L, 4, nullptr);
-    luaL_getsubtable(L, LUA_REGISTRYINDEX, callablesName);
-    pushText(L, std::string(className).append(1, '.').append(name));
-    bool const wasFound = lua_rawget(L, -2) == LUA_TFUNCTION;
-    lua_remove(L, -2);
-    lua_pop(L, wasFound ? 0 : 1);
-    return wasFound;
+    Member& member = HostContext::of(L).members().ofClass(className, name);
+    bool const wasCallable = member.isCalledOnObjects || member.isCalledOnClass;
+    if (wasCallable)
+        pushCallable(L, member);
+    return wasCallable;
 }
 
 MemberKind checkProperty(lua_State* L, std::string_view className, std::string_view name)
@@ -177,7 +164,7 @@ std::string calledName(lua_State* L, int index)
     lua_getupvalue(L, index, 1);
     auto const* const member = static_cast<Member const*>(lua_touserdata(L, -1));
     lua_pop(L, 1);
-    return fullNameOf(*member);
+    return member->fullName();
 }
 
 } // namespace velmara::console

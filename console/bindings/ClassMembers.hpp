@@ -14,8 +14,9 @@ namespace velmara::console {
 /// Throws an `Error` that names what is missing, and what comes close to it.
 MemberKind pushMember(lua_State* L, std::string_view className, std::string_view name);
 
-/// Pushes the function that was pushed last for the member, also when it is not published any more: what reads it of an
-/// object that is not valid any more gets its error from the call. False, and nothing pushed, when there is none.
+/// Pushes the function of a member that was callable when it was found last, also when it is not published any more:
+/// what reads it of an object that is not valid any more gets its error from the call. False, and nothing pushed, for
+/// others.
 bool pushFormerCallable(lua_State* L, std::string_view className, std::string_view name);
 
 /// The kind of the member `name`, `Property` or `StaticProperty`. Throws an `Error` when it is no property.

@@ -17,12 +17,6 @@ namespace {
 using Form = std::vector<ParameterRecord>;
 using Names = std::vector<std::string>;
 
-std::string textOf(Member const& callable)
-{
-    std::string const& owner = callable.name.owner();
-    return callable.name.member().empty() ? owner : owner + '.' + callable.name.member();
-}
-
 void addForm(Member& callable, MethodRecord const& method)
 {
     if (!isListed(method))
@@ -85,7 +79,7 @@ std::string describe(Member const& callable)
 {
     std::string text;
     for (Form const& form : callable.forms) {
-        text += "\n  " + textOf(callable) + '{';
+        text += "\n  " + callable.fullName() + '{';
         for (std::size_t i = 0; i < form.size(); ++i)
             text += (i == 0 ? "" : ", ") + form[i].name;
         text += '}';
@@ -124,7 +118,7 @@ std::string missingIn(Member const& callable, Names const& names)
             reason = " has no parameter '" + name + "'";
             suggestion = didYouMean(name, known);
         }
-    fail("argument", textOf(callable) + reason + (suggestion.empty() ? "." : suggestion) +
+    fail("argument", callable.fullName() + reason + (suggestion.empty() ? "." : suggestion) +
                          " It is called with:" + describe(callable));
 }
 
@@ -135,7 +129,7 @@ Form const& findForm(Member const& callable, Names const& names)
         if (!isCalledWith(form, names))
             continue;
         if (found && found->size() == form.size() && !isInOrderOf(*found, form))
-            fail("argument", textOf(callable) +
+            fail("argument", callable.fullName() +
                                  " has several forms with these names, whose order tells them apart: "
                                  "call it without names" +
                                  describe(callable));

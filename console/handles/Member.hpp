@@ -18,6 +18,9 @@ enum class MemberKind { Callable, Property, StaticProperty, Enumerator };
 struct Member {
     explicit Member(MemberName memberName) : name(std::move(memberName)) {}
 
+    /// "PACKAGE.CLASS.MEMBER", or that of the function.
+    std::string fullName() const { return name.member().empty() ? name.owner() : name.owner() + '.' + name.member(); }
+
     MemberName name;
     MemberKind kind = MemberKind::Callable;
     bool isCalledOnObjects = false; ///< of a callable one, which may be both

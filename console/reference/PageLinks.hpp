@@ -10,7 +10,7 @@
 
 namespace velmara::console {
 
-/// The part of a file's name, or of an address in a page, for a text: the same for no other text.
+/// A text as it stands in a file's name, or in an address in a page: no two texts become the same.
 std::string addressOf(std::string_view text);
 
 /// Which published names have a page. The records are to outlive it.
