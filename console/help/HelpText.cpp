@@ -51,6 +51,14 @@ std::string entry(EnumeratorRecord const& enumerator)
     return entry(enumerator.name + " = " + std::to_string(enumerator.value), "");
 }
 
+std::string entry(ErrorRecord const& error)
+{
+    std::string line = error.identifier;
+    for (std::string const& field : error.fields)
+        line += (&field == error.fields.data() ? ", with " : ", ") + field;
+    return entry(line, "");
+}
+
 std::string entry(std::string const& name)
 {
     return paragraph(name, 2, 2);
@@ -133,7 +141,8 @@ std::string helpText(PackageRecord const& package)
 {
     return (package.name.empty() ? std::string() : "package " + package.name + '\n') +
            paragraph(package.description, 2, 2) + section("Packages:", entries(package.packages, all)) +
-           section("Classes:", entries(package.classes, all)) + functionsText(package);
+           section("Classes:", entries(package.classes, all)) + functionsText(package) +
+           section("Errors:", entries(package.errors, all));
 }
 
 std::string helpText(ClassRecord const& cls, std::string_view member)
