@@ -277,6 +277,15 @@ struct GaugeInfo final : described::Class {
             property->get = [get](COSInterface*) { return COSValue(get().release()); };
             cls->addProperty(property);
         };
+        Parameter const self{"callbacks.Gauge", "this"};
+        Parameter const number{"double scalar", "number"};
+        auto const last = [](auto in) { return matrix<double>(1, 1, {in.back().template scalar<double>()}); };
+        auto const none = [](auto) { return matrix<double>(1, 1, {0}); };
+        cls->addMethod(new Method("plus", false, "double scalar", {self, number}, last));
+        cls->addMethod(new Method("plus", true, "any", {number, self}, none));
+        cls->addMethod(new Method("minus", true, "double scalar", {self, number}, last));
+        cls->addMethod(new Method("length", false, "double scalar", {self}, none));
+        cls->addMethod(new Method("item", false, "double scalar", {self, number}, last));
         add("unit", MemberAccess::Public, [] { return text("m\n"); });
         add("broken", MemberAccess::Public,
             []() -> ArrayPtr { throw std::runtime_error("no reading. Is it on?\nTry again."); });
