@@ -47,7 +47,11 @@ std::vector<orbis::COSInterfacePtr> liveObjects(Hvm& hvm)
 std::vector<orbis::COSInterfacePtr> destroyedObjects(HostContext& host)
 {
     std::vector<orbis::COSInterfacePtr> objects;
-    std::unordered_set<void const*> seen;
+    std::unordered_set<orbis::COSInterface const*> seen;
+    visitLiveObjects(host.hvm(), [&](orbis::COSInterface& object, ObjectRecord const& record) {
+        if (!record.isValid)
+            seen.insert(&object);
+    });
     host.heldArrays().forEach([&](hvArray_tag const* array) {
         if (!isValid(array)) // also what holds no objects
             visitObjects(array, [&](orbis::COSInterface* object) {

@@ -26,13 +26,13 @@ struct ObjectCounts {
     HandleCounts handles;
 };
 
-/// The live objects by their classes, without enumerators.
+/// The live objects by their classes, without enumerators. Some may be invalid.
 std::vector<ObjectCounts> countLiveObjects(Hvm& hvm);
 
 /// These objects, held, in the same order. One that is being constructed or destroyed is omitted.
 std::vector<orbis::COSInterfacePtr> liveObjects(Hvm& hvm);
 
-/// Destroyed objects that the script still has values of.
+/// Other ones, which were destroyed, but the script still has values of them.
 std::vector<orbis::COSInterfacePtr> destroyedObjects(HostContext& host);
 
 /// By the objects that have any.

@@ -19,7 +19,7 @@ std::string ownerOf(std::string const& className, ClassRecords& classes)
 Picture::Box boxOf(FoundObject const& object, ClassRecords& classes)
 {
     Picture::Box box{.title = (object.isValid ? "" : "invalid ") + object.className,
-                     .owner = ownerOf(object.className, classes),
+                     .owner = object.isValid ? ownerOf(object.className, classes) : "",
                      .lines = object.properties,
                      .isValid = object.isValid};
     if (!object.text.empty())
