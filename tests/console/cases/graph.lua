@@ -44,7 +44,9 @@ outline(lost)
 local shed, person = orbis_factory.Container("shed"), orbis_factory.Person("Ann")
 local item = shed:add("axe", 2)
 person:borrow(item)
-delete(shed:add("rake", 2)) -- invalid, and listed
+local burnt = orbis_factory.Container("burnt")
+local rake = burnt:add("rake", 1)
+delete(burnt) -- native code destroys the rake
 outline({item, leaf}, {superclasses = true, handles = true, depth = 1})
 outline {properties = 0}
 outline {limit = 3, superclasses = true, handles = true}
