@@ -9,6 +9,7 @@
 #include "bindings/ProxyBinding.hpp"
 #include "help/HelpFunctions.hpp"
 #include "lua/ScriptError.hpp"
+#include "pictures/GraphFunction.hpp"
 #include "prompt/Prompt.hpp"
 #include "reference/Site.hpp"
 #include "reference/Stubs.hpp"
@@ -50,6 +51,7 @@ void prepare(lua_State* L, Run const& run)
     bindObjectFunctions(L);
     bindObjectText(L);
     bindShowFunction(L);
+    bindGraphFunction(L, run.line.isRestricted);
     bindEnumerationFunction(L);
     bindTimedCalls(L);
     bindHelpFunctions(L);

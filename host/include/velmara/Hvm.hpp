@@ -141,6 +141,10 @@ public:
     /// The objects that have not ended: by the packages' and classes' order of publication, each class's oldest first.
     std::vector<ObjectRecord> objects() const;
 
+    /// Calls `visit` with each of them, in the same order, without a copy of its record. In `visit` nothing of the
+    /// virtual machine may be used; whoever uses an object later holds it.
+    void forEachObject(std::function<void(orbis::COSInterface& object, ObjectRecord const& record)> const& visit) const;
+
 private:
     friend class Scope;
     std::unique_ptr<HvmState> state_;
