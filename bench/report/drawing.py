@@ -59,9 +59,9 @@ def draw(chart, before):
 
 def adapt(svg, chart):
     """Fits the drawing into a page: it scales, has the page's colour, says what it is, and shares no name with others."""
-    svg = re.sub(r"<defs>.*?</defs>", lambda defs: re.sub(r"\s*<filter.*?</filter>", "", defs[0], flags=re.S), svg, flags=re.S)
+    svg = re.sub(r"\s*<filter.*?</filter>", "", svg, flags=re.S)
     svg = re.sub(r'\s+width="\d+" height="\d+"\s+viewBox', f' role="img" aria-label="{chart.title}" viewBox', svg, count=1)
-    svg = re.sub(r"<title>Gnuplot</title>\s*<desc>.*?</desc>|<rect [^>]*fill=\"#ffffff\"/>|<title>[^<]*</title>", "", svg, flags=re.S)
+    svg = re.sub(r'<desc>.*?</desc>|<rect [^>]*fill="#ffffff"/>|<title>[^<]*</title>', "", svg, flags=re.S)
     svg = re.sub(r"(?<=\bid=['\"])|(?<=href='#)", f"{chart.name}-", svg)
     svg = svg.replace('color="black"', 'color="inherit"')
     return re.sub(r"(fill|stroke)=(['\"])black\2", r"\1=\2currentColor\2", svg)

@@ -9,14 +9,14 @@ OPERATIONS = ["bind", "find", "return", "release", "bytes"]
 
 def calls(figures):
     """The programs print their own tables, and hand the same figures over in a file."""
-    table = figures.table("Times", ["", "ns", "CPU ns", "repetitions"])
+    table = figures.table("Times of many calls or strings, and of one", ["", "ns", "CPU ns", "CPU ns of one"])
     for program in ["calls", "strings", "numbers"]:
         with tempfile.NamedTemporaryFile(suffix=".json") as file:
             subprocess.run([f"./{program}", "--benchmark_min_time=0.2", f"--benchmark_out={file.name}"], cwd=BIN, check=True)
             for run in json.load(file)["benchmarks"]:
                 nanoseconds = {"ns": 1, "us": 1e3, "ms": 1e6}[run["time_unit"]]
-                table.row(run["name"], f"{run['real_time'] * nanoseconds:.1f}", f"{run['cpu_time'] * nanoseconds:.1f}",
-                          run["iterations"])
+                one = f"{1e9 / run['items_per_second']:.1f}" if "items_per_second" in run else ""
+                table.row(run["name"], *(f"{run[time] * nanoseconds:.1f}" for time in ["real_time", "cpu_time"]), one)
 
 
 def weight(figures):

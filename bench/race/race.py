@@ -1,9 +1,10 @@
 #!/usr/bin/env -S python3 -B
 """Races the library against what one would choose instead: prints instructions and times with ratios, and writes
 build/bench/race.html, which says where ours loses."""
-import os, resource, statistics, subprocess
+import os, pathlib, resource, statistics, subprocess, sys
 from html import escape
 
+sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "report"))
 import page
 from callgrind import collected, difference
 from figures import BIN, KEPT, Figures
