@@ -67,12 +67,19 @@ struct ClassRecord {
     std::vector<PropertyRecord> properties;
 };
 
+/// A kind of native exceptions that scripts tell apart.
+struct ErrorRecord {
+    std::string identifier;
+    std::vector<std::string> fields; ///< names of the values that come with it, where these can be read
+};
+
 struct PackageRecord {
     std::string name;
     std::string description;
     std::vector<std::string> packages; ///< full names, in alphabetical order; as are the others
     std::vector<std::string> classes;
     std::vector<MethodRecord> functions;
+    std::vector<ErrorRecord> errors; ///< that native code of its module gives identifiers to
 };
 
 /// A host object that has not ended. The counts tell who keeps it alive.
