@@ -6,8 +6,22 @@ local add, length, name, self, describe = race.add, race.length, race.name, race
 local choose, kind = race.choose, race.Kind7()
 for i = 1, 1000 do texts[i] = "name of " .. i end
 local function wrong() return adder:getSum("text", 2.0) end
+local function isRefused(f, ...) return not pcall(f, ...) end
+
+-- Fails unless the binding does what every contestant does.
+local function check()
+  assert(adder:getSum(1.0, 2.0) == 3 and adder.total == 3 and add(1.0, 2.0) == 3)
+  assert(length("twelve bytes") == 12 and name() == "twelve bytes" and self(adder) == adder)
+  assert(describe(1.0) == 1 and describe("text") == 2 and describe(adder) == 3 and choose(kind) == 7)
+  assert(race.count(texts) == 1000 and #race.names() == 1000 and race.countNumbers({1.5, 2.5}) == 2)
+  assert(isRefused(add, 1.0) and isRefused(add, 1.0, 2.0, 3.0) and isRefused(add, "1", 2.0) and isRefused(length, 1.0))
+  assert(isRefused(self, kind) and isRefused(choose, adder) and isRefused(describe, kind))
+  assert(isRefused(race.count, {1.5}) and isRefused(race.countNumbers, {"text"}) and isRefused(race.fail))
+  assert(isRefused(function() adder.total = "text" end) and isRefused(function() return adder.colour end))
+end
 
 local rows = {
+  check = check,
   start = function(count) for _ = 1, count do adder:getSum(1.0, 2.0) end end,
   call = function(count) for _ = 1, count do adder:getSum(1.0, 2.0) end end,
   read = function(count) for _ = 1, count do local _ = adder.total end end,

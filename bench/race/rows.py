@@ -9,6 +9,23 @@ add, length, name, self, describe = race.add, race.length, race.name, race.self,
 choose, kind = race.choose, race.Kind7()
 
 
+def isRefused(function, *arguments):
+    try: function(*arguments)
+    except (TypeError, RuntimeError, AttributeError): return True
+    return False
+
+def check(_):
+    """Fails unless the binding does what every contestant does."""
+    assert adder.getSum(1.0, 2.0) == 3 and adder.total == 3 and add(1.0, 2.0) == 3
+    assert length("twelve bytes") == 12 and name() == "twelve bytes" and self(adder) is adder
+    assert describe(1.0) == 1 and describe("text") == 2 and describe(adder) == 3 and choose(kind) == 7
+    assert race.count(texts) == 1000 and len(race.names()) == 1000 and race.countNumbers([1.5, 2.5]) == 2
+    assert isRefused(add, 1.0) and isRefused(add, 1.0, 2.0, 3.0) and isRefused(add, "1", 2.0) and isRefused(length, 1.0)
+    assert isRefused(self, kind) and isRefused(choose, adder) and isRefused(describe, kind)
+    assert isRefused(race.count, [1.5]) and isRefused(race.countNumbers, ["text"]) and isRefused(race.fail)
+    assert isRefused(setattr, adder, "total", "text") and isRefused(getattr, adder, "colour")
+
+
 def call(count):
     for _ in range(count): adder.getSum(1.0, 2.0)
 

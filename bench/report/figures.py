@@ -67,15 +67,14 @@ class Figures:
         self.charts.append(Chart(*arguments))
         return self.charts[-1]
 
-    def curves(self):
-        return {chart.name: chart.curves for chart in self.charts}
-
     def keep(self, file):
-        """Writes the curves to a file in build/bench, and returns those that it held before."""
+        """Writes the figures to a file in build/bench, and returns the curves that it held before."""
         path = KEPT / file
         before = json.loads(path.read_text())["charts"] if path.exists() else {}
         KEPT.mkdir(parents=True, exist_ok=True)
-        path.write_text(json.dumps({"about": self.about, "charts": self.curves()}, indent=1) + "\n")
+        tables = {table.title: [table.columns, *table.rows] for table in self.tables}
+        charts = {chart.name: chart.curves for chart in self.charts}
+        path.write_text(json.dumps({"about": self.about, "tables": tables, "charts": charts}, indent=1) + "\n")
         return before
 
 

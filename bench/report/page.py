@@ -92,7 +92,7 @@ def page(title, figures, before, introduction):
     yield "</div></main></body></html>"
 
 
-def write(file, title, figures, before={}, introduction=""):
+def write(file, title, figures, before, introduction=""):
     """`before` holds the curves of the run before, `introduction` HTML that comes before the figures."""
     file.parent.mkdir(parents=True, exist_ok=True)
     file.write_text("\n".join(page(title, figures, before, introduction)) + "\n")
