@@ -17,9 +17,9 @@ public:
     BaseMsgID& operator=(BaseMsgID const&);
     virtual ~BaseMsgID();
 
-    char const* getCatalog() const;
-    char const* getKey() const;
-    std::vector<std::string> const& getArguments() const;
+    char const* getCatalog() const;                       ///< "component:catalog"
+    char const* getKey() const;                           ///< the key in the catalog
+    std::vector<std::string> const& getArguments() const; ///< in the order of the places, in UTF-8
 
 private:
     char const* catalog_;

@@ -29,7 +29,7 @@ public:
 
     /// The host takes ownership in every case, also when it refuses the member by throwing.
     virtual void addMethod(COSMethodInfo* method) = 0;
-    virtual void addProperty(COSPropInfo* property) = 0;
+    virtual void addProperty(COSPropInfo* property) = 0; ///< likewise
 
     /// A new, uninitialised instance.
     virtual COSInterfacePtr newInstance() = 0;

@@ -20,9 +20,12 @@ public:
     COSNameID& operator=(COSNameID const&);
     ~COSNameID();
 
-    operator COSString() const;
+    operator COSString() const; ///< a copy of the text
 
-    bool operator==(COSNameID const& other) const { return name_ == other.name_; }
+    bool operator==(COSNameID const& other) const
+    {
+        return name_ == other.name_;
+    } ///< compares identities, in constant time
 
     /// The host's own record of the name.
     InternedName const* interned() const { return name_; }
