@@ -61,7 +61,7 @@ public:
     /// ended meanwhile.
     class VELMARA_API Scope {
     public:
-        /// `hvm` need not outlive the scope.
+        /// Makes `hvm` current, until the scope ends.
         explicit Scope(Hvm& hvm);
         Scope(Scope const&) = delete;
         Scope& operator=(Scope const&) = delete;
@@ -84,7 +84,7 @@ public:
 
     /// Runs `VXTerminate_NAME`. The module's code stays mapped until the virtual machine has ended.
     void unloadModule(std::string_view name);
-    std::vector<ModuleRecord> modules() const; ///< those loaded, in the order of loading
+    std::vector<ModuleRecord> modules() const; ///< the loaded ones
 
     /// A new object of the class as a 1-by-1 array.
     ArrayPtr construct(std::string_view className, Inputs inputs = {});
@@ -113,13 +113,13 @@ public:
     /// Reads and writes a property of `object`, likewise. `value` stays the caller's.
     ArrayPtr get(hvArray_tag* object, std::string_view property);
     Value get(hvArray_tag* object, MemberName& property, Failure& failure);       ///< see `Failure`
-    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value); ///< writes a copy
+    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value); ///< likewise
     void set(hvArray_tag* object, MemberName& property, orbis::COSValue const& value,
              Failure& failure); ///< see `Failure`
 
     /// Reads and writes a static property, likewise.
     ArrayPtr getStatic(std::string_view className, std::string_view property);
-    void setStatic(std::string_view className, std::string_view property, hvArray_tag* value); ///< writes a copy
+    void setStatic(std::string_view className, std::string_view property, hvArray_tag* value); ///< likewise
 
     /// The objects that the first object of an array refers to through properties that may be read, by their names.
     std::vector<Reference> references(hvArray_tag* object);
@@ -145,7 +145,7 @@ public:
     NameKind lookUp(std::string_view fullName);
     PackageRecord describePackage(std::string_view fullName); ///< "" for the top level
     ClassRecord describeClass(std::string_view fullName);     ///< with inherited members
-    MethodRecord describeFunction(std::string_view fullName); ///< of a package
+    MethodRecord describeFunction(std::string_view fullName); ///< the first overload
 
     /// The objects that have not ended: by the packages' and classes' order of publication, each class's oldest first.
     std::vector<ObjectRecord> objects() const;

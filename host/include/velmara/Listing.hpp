@@ -34,7 +34,7 @@ struct MethodRecord {
     bool isAbstract = false;                                  ///< without an implementation
     std::string description;                                  ///< a text for users
     std::vector<ParameterRecord> inputs;                      ///< the object first where the signature has it
-    std::vector<ParameterRecord> outputs;                     ///< one at most
+    std::vector<ParameterRecord> outputs;                     ///< none or one, mostly
     std::string definingClass; ///< full name of the class that defines it; empty for a package function
 
     /// One line: "result = getSum(this: orbis_factory.Adder, a: int32 scalar, b: int32 scalar) -> int32 scalar".
@@ -77,7 +77,7 @@ struct PackageRecord {
     std::string name;                    ///< full name
     std::string description;             ///< a text for users
     std::vector<std::string> packages;   ///< full names, in alphabetical order; as are the others
-    std::vector<std::string> classes;    ///< without hidden ones
+    std::vector<std::string> classes;    ///< hidden ones too
     std::vector<MethodRecord> functions; ///< one record for each overload
 };
 
@@ -99,7 +99,7 @@ struct ModuleRecord {
     std::string file;         ///< its path
     std::string version;      ///< as its version record says, as are the others
     std::string buildDate;    ///< when it was built
-    std::string relativePath; ///< where its sources lay in their tree
+    std::string relativePath; ///< of its sources in their tree
 };
 
 } // namespace velmara

@@ -8,9 +8,9 @@ namespace velmara {
 struct PropertyTraits {
     bool hasDefault = false;                                                           ///< a default value is described
     orbis::MemberAccess getAccess = orbis::MemberAccess::Public;                       ///< who may read it
-    orbis::ExtendedMemberAccess extendedGetAccess = orbis::ExtendedMemberAccess::None; ///< a narrower bound of that
+    orbis::ExtendedMemberAccess extendedGetAccess = orbis::ExtendedMemberAccess::None; ///< a refinement of that
     orbis::MemberAccess setAccess = orbis::MemberAccess::Public;                       ///< who may write it
-    orbis::ExtendedMemberAccess extendedSetAccess = orbis::ExtendedMemberAccess::None; ///< a narrower bound of that
+    orbis::ExtendedMemberAccess extendedSetAccess = orbis::ExtendedMemberAccess::None; ///< a refinement of that
     bool isSealed = false;             ///< subclasses may not redefine it
     bool hasInternalDefault = false;   ///< its default value is the class's own matter
     bool isInitAllowed = false;        ///< may be set at construction

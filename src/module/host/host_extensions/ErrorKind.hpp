@@ -20,7 +20,7 @@ struct ErrorField {
 
 /// What scripts learn of native exceptions of one type.
 struct ErrorKind {
-    std::string identifier;               ///< "component:key" or with more parts
+    std::string identifier;               ///< such as "spatial:parse"
     std::type_info const* type = nullptr; ///< of the exceptions
 
     /// Inside a handler: stores the text of the current exception and returns true if that is of this type or derived

@@ -55,7 +55,7 @@ protected:
     hvArray_tag() = default;
     ~hvArray_tag() = default;
 
-    std::uint32_t flags_ = temporaryFlag; ///< `temporaryFlag` or 0
+    std::uint32_t flags_ = temporaryFlag; ///< `temporaryFlag`, and others of the host
     std::uint32_t references_ = 1;        ///< those who own the array
 };
 

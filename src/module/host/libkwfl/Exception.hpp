@@ -20,10 +20,8 @@ class Exception : public IMsgIDException, public Standard {
 public:
     explicit Exception(IdClass const& id) : IMsgIDException(id) {} ///< its text is looked up at once
 
-    char const* what() const noexcept override
-    {
-        return IMsgIDException::what();
-    } ///< the text in UTF-8, as long as the exception lives
+    /// The text in UTF-8, as long as the exception lives.
+    char const* what() const noexcept override { return IMsgIDException::what(); }
 };
 
 /// The composite of a kind of exception that has a text but no message identity.

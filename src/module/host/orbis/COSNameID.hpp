@@ -22,10 +22,8 @@ public:
 
     operator COSString() const; ///< a copy of the text
 
-    bool operator==(COSNameID const& other) const
-    {
-        return name_ == other.name_;
-    } ///< compares identities, in constant time
+    /// Compares in constant time, whatever the names' lengths.
+    bool operator==(COSNameID const& other) const { return name_ == other.name_; }
 
     /// The host's own record of the name.
     InternedName const* interned() const { return name_; }

@@ -15,7 +15,7 @@ class COSTypeConversion;
 class ORBIS_HOST_API COSTypeRepository {
 public:
     static void addGlobalType(COSDataType* type);        ///< takes `type` over
-    static void removeGlobalType(COSNameID const& name); ///< values of the type keep it until they are released
+    static void removeGlobalType(COSNameID const& name); ///< by its name
     static void addConversion(COSNameID const& from, COSNameID const& to,
                               COSTypeConversion* conversion);                 ///< takes `conversion` over
     static void removeConversion(COSNameID const& from, COSNameID const& to); ///< the one between these two types
