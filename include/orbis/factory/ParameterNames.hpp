@@ -13,6 +13,7 @@ class ParameterNames {
 public:
     ParameterNames() = default;
 
+    /// A list of names, separated by commas; does not compile unless it has one for each parameter.
     consteval ParameterNames(char const* names) : text_(names)
     {
         std::size_t count = *names ? 1 : 0;

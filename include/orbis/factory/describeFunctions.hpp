@@ -41,6 +41,7 @@ public:
         return *this;
     }
 
+    /// The same, with default values of the last parameters: `withDefaults(...)`.
     template <class F, class... D>
     FunctionDescriber& function(char const* name, F callable, ParameterNames<Traits<F>::arity> names,
                                 Defaults<D...> const& defaults, char const* text = "")

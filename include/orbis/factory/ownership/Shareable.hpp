@@ -22,6 +22,8 @@ public:
     Shareable(Shareable const&);
     Shareable& operator=(Shareable const&);
     ~Shareable() override;
+
+    /// Who owns the reference that keeps the object alive for the host.
     virtual SharingType getSharingType() const;
 };
 

@@ -19,6 +19,8 @@ public:
     StdShareable(StdShareable const&);
     StdShareable& operator=(StdShareable const&);
     ~StdShareable() override;
+
+    /// Who owns the reference that keeps the object alive for the host.
     virtual SharingType getSharingType() const;
 };
 
