@@ -47,8 +47,9 @@ protected:
 
     /// The functors of the last property.
     void keep(detail::KeptObject const& getter, detail::KeptObject const& setter);
-    void
-    setCopying(detail::Copying const& copying); ///< with a function that lives as long as the library that describes
+
+    /// `copying` lives as long as the process, or the library that describes.
+    void setCopying(detail::Copying const& copying);
 
 private:
     NativeClassRecord native_;

@@ -13,7 +13,7 @@ class ParameterNames {
 public:
     ParameterNames() = default;
 
-    /// A list of names, separated by commas; does not compile unless it has one for each parameter.
+    /// Does not compile when `names` has more than the parameters, or parentheses that do not match.
     consteval ParameterNames(char const* names) : text_(names)
     {
         std::size_t count = *names ? 1 : 0;

@@ -182,8 +182,6 @@ public:
     }
 
     /// The same, with default values of the last parameters: `withDefaults(...)`.
-
-    /// The same, with attributes too.
     template <class F, class... D>
     ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
                            MethodText text = {})
@@ -200,6 +198,7 @@ public:
         return *this;
     }
 
+    /// The same, with attributes too.
     template <class F, class... D>
     ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
                            MethodText text, MethodAttributes attributes)
@@ -244,8 +243,6 @@ public:
     }
 
     /// The same, with default values of the last parameters: `withDefaults(...)`.
-
-    /// The same, with attributes too.
     template <class F, class... D>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
                                  MethodText text = {})
@@ -261,6 +258,7 @@ public:
         return *this;
     }
 
+    /// The same, with attributes too.
     template <class F, class... D>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
                                  MethodText text, MethodAttributes attributes)

@@ -15,7 +15,7 @@ class ORBIS_FACTORY_API OrbisMethod : public COSMethodInfo {
 public:
     /// Copies all three. The signature starts empty.
     OrbisMethod(String const& name, MethodAttributes attributes, String const& description);
-    OrbisMethod(char const* name, MethodAttributes attributes, char const* description); ///< null is empty
+    OrbisMethod(char const* name, MethodAttributes attributes, char const* description); ///< of texts that are not null
     ~OrbisMethod() override;
 
     /// As the constructor was given, as are the others.

@@ -49,25 +49,24 @@ public:
     static PropertyAttributes CopyAllowed();          ///< copied with the object
     static PropertyAttributes DefaultAllowed();       ///< may have its default value
     static PropertyAttributes Dependent();            ///< computed from other properties
-    static PropertyAttributes
-    Destructible(); ///< the value may be destroyed with the object; descriptors do not report it
-    static PropertyAttributes ForceMembership();    ///< its accessors are free functions that take the object
-    static PropertyAttributes Grandfathered();      ///< kept for old scripts
-    static PropertyAttributes Hidden();             ///< left out of lists
-    static PropertyAttributes InitAllowed();        ///< may be set at construction
-    static PropertyAttributes InspectAllowed();     ///< tools may read it
-    static PropertyAttributes ListenerGetAllowed(); ///< reads may be watched
-    static PropertyAttributes ListenerSetAllowed(); ///< writes may be watched
-    static PropertyAttributes NoAccessGetter();     ///< nobody may read it
-    static PropertyAttributes NoAccessSetter();     ///< nobody may write it
-    static PropertyAttributes PrivateGetter();      ///< only the class may read it
-    static PropertyAttributes PrivateSetter();      ///< only the class may write it
-    static PropertyAttributes ProtectedGetter();    ///< only the class and its subclasses may read it
-    static PropertyAttributes ProtectedSetter();    ///< only the class and its subclasses may write it
-    static PropertyAttributes ResetAllowed();       ///< may be set to its default value again
-    static PropertyAttributes Sealed();             ///< subclasses may not redefine it
-    static PropertyAttributes Static();             ///< of the class, not of an object
-    static PropertyAttributes Transient();          ///< not saved with the object
+    static PropertyAttributes Destructible();         ///< destroyed with the object; not reported by descriptors
+    static PropertyAttributes ForceMembership();      ///< its accessors are free functions that take the object
+    static PropertyAttributes Grandfathered();        ///< kept for old scripts
+    static PropertyAttributes Hidden();               ///< left out of lists
+    static PropertyAttributes InitAllowed();          ///< may be set at construction
+    static PropertyAttributes InspectAllowed();       ///< tools may read it
+    static PropertyAttributes ListenerGetAllowed();   ///< reads may be watched
+    static PropertyAttributes ListenerSetAllowed();   ///< writes may be watched
+    static PropertyAttributes NoAccessGetter();       ///< nobody may read it
+    static PropertyAttributes NoAccessSetter();       ///< nobody may write it
+    static PropertyAttributes PrivateGetter();        ///< only the class may read it
+    static PropertyAttributes PrivateSetter();        ///< only the class may write it
+    static PropertyAttributes ProtectedGetter();      ///< only the class and its subclasses may read it
+    static PropertyAttributes ProtectedSetter();      ///< only the class and its subclasses may write it
+    static PropertyAttributes ResetAllowed();         ///< may be set to its default value again
+    static PropertyAttributes Sealed();               ///< subclasses may not redefine it
+    static PropertyAttributes Static();               ///< of the class, not of an object
+    static PropertyAttributes Transient();            ///< not saved with the object
 
     /// Returns the attributes of both.
     PropertyAttributes operator+(PropertyAttributes const& other) const;

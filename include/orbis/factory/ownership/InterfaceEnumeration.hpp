@@ -17,7 +17,7 @@ public:
     static void* operator new(std::size_t size);
     static void operator delete(void* storage); ///< null is allowed
 
-    /// Adds a reference to `element` (null: no element) for as long as this lives.
+    /// Refers to `element` (null: no element) without keeping it alive.
     explicit InterfaceEnumeration(COSInterface* element);
     ~InterfaceEnumeration() override;
 
