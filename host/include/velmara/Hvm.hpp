@@ -18,6 +18,7 @@
 #include <span>
 #include <string_view>
 
+/// Drives the host: virtual machines, calls, and what is known of all that is published.
 namespace velmara {
 
 class HvmState;

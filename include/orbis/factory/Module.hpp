@@ -23,6 +23,7 @@
 #include <type_traits>
 #include <typeinfo>
 
+/// Publishes native C++ classes as classes of the host. `Module` and `ClassDescriber` do for most modules.
 namespace orbis::factory {
 
 namespace detail {

@@ -67,6 +67,7 @@ public:
     }
 };
 
+/// Begins the description of package functions.
 inline FunctionDescriber describeFunctions()
 {
     return {};

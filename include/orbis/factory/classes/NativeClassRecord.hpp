@@ -17,6 +17,7 @@ struct NativeClassRecord {
     bool (*isInstance)(void const* bound) = nullptr;
 };
 
+/// Returns the description of `T`.
 template <PublishedClass T>
 NativeClassRecord nativeClassRecord()
 {

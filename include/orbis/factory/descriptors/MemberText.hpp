@@ -25,7 +25,7 @@ private:
     unsigned long long attributes_ = 0; ///< a whole word, so that no padding must be cleared to pass it
 };
 
-using MethodText = MemberText<MethodAttributes>;
-using PropertyText = MemberText<PropertyAttributes>;
+using MethodText = MemberText<MethodAttributes>;     ///< of methods and constructors
+using PropertyText = MemberText<PropertyAttributes>; ///< of properties
 
 } // namespace orbis::factory

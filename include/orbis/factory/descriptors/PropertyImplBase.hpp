@@ -6,6 +6,7 @@
 
 #include "orbis/COSPropInfo.hpp"
 
+/// Descriptors: the objects through which the host calls members. Descriptions make them; they can be written by hand.
 namespace orbis::factory::impl {
 
 /// Base of the descriptors of properties: serves the host's queries from a name, a description and attributes.

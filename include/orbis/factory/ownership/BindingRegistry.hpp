@@ -7,6 +7,7 @@
 #include "orbis/COSInterfacePtr.hpp"
 #include "orbis/COSNameID.hpp"
 
+/// Native objects and the host objects that represent them, by any native address.
 namespace orbis::factory::basic {
 
 /// Maps native addresses to the host objects that represent them, one table per virtual machine. An address always

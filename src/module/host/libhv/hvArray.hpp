@@ -59,4 +59,5 @@ protected:
     std::uint32_t references_ = 1;        ///< those who own the array
 };
 
+/// Most functions name arrays so.
 using hvArray = hvArray_tag;

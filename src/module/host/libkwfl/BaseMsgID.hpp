@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+/// Messages of the host, by their identities.
 namespace resource_core {
 
 /// The identity of a message: a catalog ("component:catalog"), a key in it, and the arguments that fill the

@@ -6,6 +6,7 @@
 #include <memory>
 #include <typeinfo>
 
+/// Storage of each virtual machine, for any module.
 namespace foundation::usm {
 
 namespace scope {

@@ -5,6 +5,7 @@
 #include "orbis/COSInterfacePtr.hpp"
 #include "orbis/COSNameID.hpp"
 
+/// The class-object system of the host: objects, their classes and members, data types, values.
 namespace orbis {
 
 class COSClassInfo;

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 
+/// String arrays of the host.
 namespace Tarnwick {
 
 /// The view of a host string array: one pointer an element, null where the element is missing.
