@@ -1,6 +1,7 @@
 #include "bindings/Operators.hpp"
 
 #include "bindings/ClassMembers.hpp"
+#include "bindings/OperatorMembers.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
 #include "lua/ScriptError.hpp"
@@ -12,18 +13,6 @@
 namespace velmara::console {
 
 namespace {
-
-struct Operator {
-    char const* metamethod;
-    char const* member;
-    int operands; ///< those that are passed on; 0 for all
-};
-
-constexpr Operator operators[] = {
-    {"__add", "plus", 2},   {"__sub", "minus", 2},   {"__mul", "times", 2},   {"__div", "over", 2},
-    {"__mod", "modulo", 2}, {"__pow", "power", 2},   {"__unm", "negated", 1}, {"__concat", "concat", 2},
-    {"__lt", "isLess", 2},  {"__le", "isAtMost", 2}, {"__len", "length", 1},  {"__call", "call", 0},
-};
 
 /// Calls the member named by the upvalue, of the first operand that has it.
 int applyOperator(lua_State* L)
@@ -142,7 +131,7 @@ void addOperators(lua_State* L, std::string_view className)
             return method.name == member && method.kind != MethodRecord::Kind::Constructor;
         });
     };
-    for (auto const& [metamethod, member, operands] : operators) {
+    for (auto const& [metamethod, member, operands] : operatorMembers()) {
         if (!has(member))
             continue;
         setField(L, member, true); // read by the functions above

@@ -51,6 +51,14 @@ std::string entry(EnumeratorRecord const& enumerator)
     return entry(enumerator.name + " = " + std::to_string(enumerator.value), "");
 }
 
+std::string entry(ErrorRecord const& error)
+{
+    std::string line = error.identifier;
+    for (std::string const& field : error.fields)
+        line += (&field == error.fields.data() ? ", with " : ", ") + field;
+    return entry(line, "");
+}
+
 std::string entry(std::string const& name)
 {
     return paragraph(name, 2, 2);
@@ -66,7 +74,7 @@ std::string entries(std::vector<Record> const& records, Predicate const& isListe
     return text;
 }
 
-constexpr auto all = [](auto const&) { return true; };
+constexpr auto anything = [](auto const&) { return true; };
 constexpr auto shown = [](auto const& record) { return isListed(record); };
 
 /// Entries under a title; empty when there are none.
@@ -126,14 +134,15 @@ std::string functionsText(PackageRecord const& package)
 std::string helpText(ClassRecord const& cls)
 {
     return paragraph(cls.name + ": " + traits(cls), 0, 2) + paragraph(cls.description, 2, 2) +
-           section("Enumerators:", entries(cls.enumerators, all)) + methodsText(cls) + propertiesText(cls);
+           section("Enumerators:", entries(cls.enumerators, anything)) + methodsText(cls) + propertiesText(cls);
 }
 
 std::string helpText(PackageRecord const& package)
 {
     return (package.name.empty() ? std::string() : "package " + package.name + '\n') +
-           paragraph(package.description, 2, 2) + section("Packages:", entries(package.packages, all)) +
-           section("Classes:", entries(package.classes, all)) + functionsText(package);
+           paragraph(package.description, 2, 2) + section("Packages:", entries(package.packages, anything)) +
+           section("Classes:", entries(package.classes, anything)) + functionsText(package) +
+           section("Errors:", entries(package.errors, anything));
 }
 
 std::string helpText(ClassRecord const& cls, std::string_view member)

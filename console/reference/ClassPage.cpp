@@ -183,6 +183,11 @@ ReferencePage classPage(ClassRecord const& cls, PageLinks const& links)
     page.facts = {{{construction(cls), {}, {}}}, {{ownership(cls), {}, {}}}};
     addNames(page, "Superclasses:", cls.superclasses, links);
     addNames(page, "Subclasses:", links.subclasses(cls.name), links);
+    if (PageLine const errors = links.toErrors(cls.name); !errors.empty()) {
+        page.facts.push_back({{"What native code throws: ", {}, {}}});
+        append(page.facts.back(), errors);
+        page.facts.back().push_back({", all else VELMARA:native:exception", {}, {}});
+    }
     page.sections = {enumeratorSection(cls), methodSection("Constructors", Kind::Constructor, cls, links),
                      methodSection("Methods", Kind::Method, cls, links),
                      methodSection("Static methods", Kind::StaticMethod, cls, links), propertySection(cls, links)};

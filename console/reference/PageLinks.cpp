@@ -1,5 +1,7 @@
 #include "reference/PageLinks.hpp"
 
+#include "reference/FileNames.hpp"
+
 namespace velmara::console {
 
 namespace {
@@ -25,16 +27,24 @@ std::string addressOf(std::string_view text)
     return address;
 }
 
+std::string errorPlace(ErrorRecord const& error)
+{
+    return "error-" + addressOf(error.identifier);
+}
+
 PageLinks::PageLinks(std::span<PublishedRecords const> roots)
 {
+    FileNames files;
     for (PublishedRecords const& root : roots) {
-        for (PackageRecord const& package : root.packages)
-            pages_.emplace(package.name, "package-" + addressOf(package.name));
+        for (PackageRecord const& package : root.packages) {
+            pages_.emplace(package.name, files.add("package-" + addressOf(package.name)));
+            packages_.emplace(package.name, &package);
+        }
         for (ClassRecord const& cls : root.classes) {
-            pages_.emplace(cls.name, "class-" + addressOf(cls.name));
-            if (classes_.emplace(cls.name, &cls).second)
-                for (std::string const& superclass : cls.superclasses)
-                    subclasses_[superclass].push_back(cls.name);
+            pages_.emplace(cls.name, files.add("class-" + addressOf(cls.name)));
+            classes_.emplace(cls.name, &cls);
+            for (std::string const& superclass : cls.superclasses)
+                subclasses_[superclass].push_back(cls.name);
         }
     }
 }
@@ -68,6 +78,21 @@ PageLine PageLinks::toType(std::string const& dataType) const
         if (cls.ends_with(suffix))
             cls.resize(cls.size() - suffix.size());
     return {to(cls), {dataType.substr(cls.size()), {}, {}}};
+}
+
+PageLine PageLinks::toErrors(std::string const& className) const
+{
+    PageLine line;
+    for (std::size_t dot = className.find('.'); dot != className.npos; dot = className.find('.', dot + 1)) {
+        auto const package = packages_.find(className.substr(0, dot));
+        if (package == packages_.end())
+            continue;
+        for (ErrorRecord const& error : package->second->errors) {
+            line.push_back({line.empty() ? "" : ", ", {}, {}});
+            line.push_back({error.identifier, pageOf(package->first), errorPlace(error)});
+        }
+    }
+    return line;
 }
 
 PageLine PageLinks::trailTo(std::string const& name) const

@@ -13,6 +13,9 @@ namespace velmara::console {
 /// A text as it stands in a file's name, or in an address in a page: no two texts become the same.
 std::string addressOf(std::string_view text);
 
+/// The place of a kind of errors on the page of its package.
+std::string errorPlace(ErrorRecord const& error);
+
 /// Which published names have a page. The records are to outlive it.
 class PageLinks {
 public:
@@ -30,11 +33,15 @@ public:
     /// A data type, which leads to the page of its class.
     PageLine toType(std::string const& dataType) const;
 
+    /// The kinds of errors of the packages around a class.
+    PageLine toErrors(std::string const& className) const;
+
     /// The pages around a package or class.
     PageLine trailTo(std::string const& name) const;
 
 private:
     std::map<std::string, std::string, std::less<>> pages_;
+    std::map<std::string, PackageRecord const*, std::less<>> packages_;
     std::map<std::string, ClassRecord const*, std::less<>> classes_;
     std::map<std::string, std::vector<std::string>, std::less<>> subclasses_;
 };

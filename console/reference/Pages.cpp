@@ -21,6 +21,23 @@ std::vector<DiagramClass> diagramOf(PackageRecord const& package, PageLinks cons
     return diagram;
 }
 
+PageSection errorSection(PackageRecord const& package)
+{
+    PageSection section{"Errors", {}};
+    for (ErrorRecord const& error : package.errors) {
+        std::string fields;
+        for (std::string const& field : error.fields)
+            fields += (fields.empty() ? "with " : ", ") + field;
+        section.entries.push_back({.name = error.identifier,
+                                   .kind = "error",
+                                   .place = errorPlace(error),
+                                   .line = {{error.identifier, {}, {}}},
+                                   .text = {},
+                                   .note = {{fields, {}, {}}}});
+    }
+    return section;
+}
+
 ReferencePage packagePage(PackageRecord const& package, PageLinks const& links)
 {
     ReferencePage page{.page = links.pageOf(package.name),
@@ -43,7 +60,7 @@ ReferencePage packagePage(PackageRecord const& package, PageLinks const& links)
                                         .line = {links.to(name)},
                                         .text = links.record(name).description,
                                         .note = {}});
-    page.sections = {packages, classSection, functionSection(package, links)};
+    page.sections = {packages, classSection, functionSection(package, links), errorSection(package)};
     return page;
 }
 

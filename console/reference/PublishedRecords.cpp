@@ -2,6 +2,8 @@
 
 #include "lua/ScriptError.hpp"
 
+#include <algorithm>
+
 namespace velmara::console {
 
 namespace {
@@ -19,7 +21,10 @@ std::vector<PackageRecord> packagesIn(Hvm& hvm, std::string const& root)
     return packages;
 }
 
-} // namespace
+bool isInside(std::string_view package, std::string_view outer)
+{
+    return package.size() > outer.size() && package.starts_with(outer) && package[outer.size()] == '.';
+}
 
 PublishedRecords recordsOf(Hvm& hvm, std::string const& package)
 {
@@ -32,6 +37,20 @@ PublishedRecords recordsOf(Hvm& hvm, std::string const& package)
         for (std::string const& cls : record.classes)
             records.classes.push_back(hvm.describeClass(cls));
     return records;
+}
+
+} // namespace
+
+std::vector<PublishedRecords> recordsOf(Hvm& hvm, std::span<std::string const> packages)
+{
+    std::vector<PublishedRecords> all;
+    for (auto package = packages.begin(); package != packages.end(); ++package) {
+        PublishedRecords records = recordsOf(hvm, *package);
+        bool const isTwice = std::find(packages.begin(), package, *package) != package;
+        if (!isTwice && std::ranges::none_of(packages, [&](auto const& other) { return isInside(*package, other); }))
+            all.push_back(std::move(records));
+    }
+    return all;
 }
 
 } // namespace velmara::console

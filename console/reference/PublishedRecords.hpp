@@ -2,6 +2,7 @@
 
 #include "velmara/Hvm.hpp"
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,7 +15,8 @@ struct PublishedRecords {
     std::vector<ClassRecord> classes;    ///< by packages
 };
 
-/// Throws an `Error` when no package has that name.
-PublishedRecords recordsOf(Hvm& hvm, std::string const& package);
+/// Returns those of each package, but for one that is in another or named twice. Throws an `Error` when no package has
+/// a name.
+std::vector<PublishedRecords> recordsOf(Hvm& hvm, std::span<std::string const> packages);
 
 } // namespace velmara::console

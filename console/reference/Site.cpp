@@ -50,10 +50,7 @@ std::string searchEntries(std::span<ReferencePage const> pages)
 
 void writeSite(Hvm& hvm, std::filesystem::path const& folder, std::span<std::string const> packages, SiteFormat format)
 {
-    std::vector<PublishedRecords> roots;
-    for (std::string const& package : packages)
-        roots.push_back(recordsOf(hvm, package));
-    std::vector<ReferencePage> const pages = pagesOf(roots);
+    std::vector<ReferencePage> const pages = pagesOf(recordsOf(hvm, packages));
     bool const isHtml = format == SiteFormat::Html;
     for (ReferencePage const& page : pages)
         writeFile(folder / (page.page + (isHtml ? ".html" : ".md")), isHtml ? htmlPage(page) : markdownPage(page));

@@ -3,6 +3,7 @@
 #include "bindings/MemberRecords.hpp"
 #include "reference/CallableStub.hpp"
 #include "reference/LuaSource.hpp"
+#include "reference/OperatorStub.hpp"
 
 #include <algorithm>
 
@@ -100,7 +101,7 @@ std::string classStub(ClassRecord const& cls, StubTypes const& types)
     std::string text = luaComment(cls.description);
     for (CallableForms const& forms : constructors)
         text += callables.descriptions(forms);
-    text += classLine(cls) + fieldLines(cls, types);
+    text += classLine(cls) + fieldLines(cls, types) + operatorLines(cls, types);
     for (CallableForms const& forms : constructors)
         text += callables.overloads(forms, 0);
     text += luaPath(cls.name) + " = {}\n\n";

@@ -1,6 +1,7 @@
 #include "reference/Stubs.hpp"
 
 #include "reference/ConsoleStub.hpp"
+#include "reference/FileNames.hpp"
 #include "reference/LuaSource.hpp"
 #include "reference/OutputFile.hpp"
 #include "reference/PublishedRecords.hpp"
@@ -55,17 +56,17 @@ std::string stubOf(Hvm& hvm, PublishedRecords const& records, StubTypes const& t
 
 void writeStubs(Hvm& hvm, std::filesystem::path const& folder, std::span<std::string const> packages)
 {
-    std::vector<PublishedRecords> all;
+    std::vector<PublishedRecords> const all = recordsOf(hvm, packages);
     StubTypes types;
-    for (std::string const& package : packages) {
-        all.push_back(recordsOf(hvm, package));
-        for (ClassRecord const& cls : all.back().classes)
+    for (PublishedRecords const& records : all)
+        for (ClassRecord const& cls : records.classes)
             types.add(cls.name, cls.isEnumeration ? StubTypes::Kind::Enumeration : StubTypes::Kind::Objects);
-    }
     // No package is called so: a hyphen is in no file name of one.
     writeFile(folder / "velmara-console.lua", header + consoleStub());
+    FileNames names;
     for (PublishedRecords const& records : all)
-        writeFile(folder / (stubTypeName(records.packages.front().name) + ".lua"), stubOf(hvm, records, types));
+        writeFile(folder / (names.add(stubTypeName(records.packages.front().name)) + ".lua"),
+                  stubOf(hvm, records, types));
 }
 
 } // namespace velmara::console

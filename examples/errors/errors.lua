@@ -7,3 +7,4 @@ end
 err = select(2, pcall(errors.load, "weights"))
 print(err)
 print(err.cause, err.cause.column)
+help(errors)

@@ -91,7 +91,7 @@ ClassDescription& Module::addClass(detail::NamedClass& named, detail::NewObject<
 void Module::addErrorKind(char const* identifier, std::type_info const& type,
                           bool (*describe)(void (*text)(), std::string& result), void (*text)(), void (*throwPointer)())
 {
-    host_extensions::ErrorKind const kind{identifier, &type,
+    host_extensions::ErrorKind const kind{identifier, fullName_, &type,
                                           [describe, text](std::string& result) { return describe(text, result); }};
     detail::NewObject<ErrorInProgress> error(new ErrorInProgress{kind, throwPointer});
     host_extensions::addErrorKind(kind);

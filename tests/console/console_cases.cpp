@@ -4,6 +4,7 @@
 
 #include "velmara/ArrayPtr.hpp"
 
+#include "host_extensions/ErrorKind.hpp"
 #include "host_extensions/functionValues.hpp"
 
 #include <initializer_list>
@@ -171,6 +172,8 @@ public:
         add("small", {}, [](auto) { return matrix<std::uint64_t>(1, 1, {7}); });
         add("alive", {}, [this](auto) { return matrix<std::int32_t>(1, 1, {alive_}); });
         package->addClass(new ChangingInfo(isOdd_));
+        host_extensions::addErrorKind(
+            {"cases:length", "cases", &typeid(std::length_error), [](auto&) { return false; }});
         if (isOdd_)
             add("changing", {}, [](auto) { return matrix<double>(1, 1, {1}); });
         add("large", {{"double scalar", "less"}}, [](auto in) {
@@ -274,6 +277,15 @@ struct GaugeInfo final : described::Class {
             property->get = [get](COSInterface*) { return COSValue(get().release()); };
             cls->addProperty(property);
         };
+        Parameter const self{"callbacks.Gauge", "this"};
+        Parameter const number{"double scalar", "number"};
+        auto const last = [](auto in) { return matrix<double>(1, 1, {in.back().template scalar<double>()}); };
+        auto const none = [](auto) { return matrix<double>(1, 1, {0}); };
+        cls->addMethod(new Method("plus", false, "double scalar", {self, number}, last));
+        cls->addMethod(new Method("plus", true, "any", {number, self}, none));
+        cls->addMethod(new Method("minus", true, "double scalar", {self, number}, last));
+        cls->addMethod(new Method("length", false, "double scalar", {self}, none));
+        cls->addMethod(new Method("item", false, "double scalar", {self, number}, last));
         add("unit", MemberAccess::Public, [] { return text("m\n"); });
         add("broken", MemberAccess::Public,
             []() -> ArrayPtr { throw std::runtime_error("no reading. Is it on?\nTry again."); });
@@ -317,6 +329,7 @@ public:
             return matrix<double>(1, 1, {scalarOf(in[0])});
         });
         package->addClass(new GaugeInfo);
+        package->addClass(new described::Class("callbacks.gauge")); // but for its case another one
         add("drop", {}, [](auto) { return drop(); });
         add("dropOnThread", {}, [](auto) { return attemptOnThread(drop); });
         add("multiplier", {{"double scalar", "factor"}}, [number](auto in) {

@@ -1,7 +1,7 @@
 -- Reads the annotation files in the folder that is the argument, generates calls from them, and runs these: what they
 -- name must be there, what they say is taken must be taken, and what they say is given must come.
 local folder, files = arg[1], table.pack(table.unpack(arg, 2))
-local fields, parents, aliases, callables, failures, calls = {}, {}, {}, {}, 0, 0
+local fields, parents, aliases, callables, operators, failures, calls = {}, {}, {}, {}, {}, 0, 0
 
 local function report(...)
     failures = failures + 1
@@ -68,6 +68,12 @@ local function read(file)
         if tag == "class" then
             local name, bases = rest:match("^([%w_.]+):? ?(.*)")
             class, parents[name], fields[name] = name, bases, {}
+        elseif tag == "operator" then
+            local name, kind, result = rest:match("^(%w+)%(?(.-)%)?: (.*)")
+            table.insert(operators, {class = class, name = name, kind = kind ~= "" and parseType(kind), result = parseType(result)})
+        elseif tag == "field" and rest:find("^%[") then
+            local kind, result = rest:match("^%[(.-)%] (.*)")
+            table.insert(operators, {class = class, name = "index", kind = parseType(kind), result = parseType(result)})
         elseif tag == "field" then
             local name, kind = rest:match("^(%w+) (.-) #")
             if not name then error("no field: " .. line) end
@@ -265,7 +271,17 @@ for name, known in pairs(fields) do
         end
     end
 end
+local applied = {
+    add = function(a, b) return a + b end, sub = function(a, b) return a - b end, len = function(a) return #a end, index = function(a, b) return a[b] end
+}
+local uses = 0
+for _, op in ipairs(operators) do
+    keep(select(2, pcall(published(op.class))))
+    local inputs = {{kind = {op.class}}, op.kind and {kind = op.kind} or nil}
+    uses = uses + (call(op.class .. "'s " .. op.name, applied[op.name], {inputs = inputs, result = op.result}, 1) and 1 or 0)
+end
 local objects = 0
 for _ in pairs(pool) do objects = objects + 1 end
-print("calls: " .. (calls > 2000 and "many" or calls), "objects: " .. (objects > 20 and "of many classes" or objects))
+print("calls: " .. (calls > 2000 and "many" or calls), "objects: " .. (objects > 20 and "of many classes" or objects),
+    "operators: " .. uses)
 os.exit(failures == 0)

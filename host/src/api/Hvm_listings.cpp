@@ -113,6 +113,18 @@ NameKind lookUpName(Machine& machine, std::string_view fullName)
     return packages.findGlobalClass(fullName) ? NameKind::Class : NameKind::None;
 }
 
+std::vector<ErrorRecord> recordErrors(ErrorKinds const& kinds, std::string_view package)
+{
+    std::vector<ErrorRecord> listed;
+    for (orbis::host_extensions::ErrorKind const& kind : kinds.all())
+        if (!package.empty() && kind.package == package) {
+            ErrorRecord& error = listed.emplace_back(kind.identifier);
+            for (orbis::host_extensions::ErrorField const& field : kind.fields)
+                error.fields.push_back(field.name);
+        }
+    return listed;
+}
+
 PackageRecord recordPackage(Machine& machine, std::string_view fullName)
 {
     Package* const package = machine.packages().findPackage(fullName);
@@ -128,9 +140,11 @@ PackageRecord recordPackage(Machine& machine, std::string_view fullName)
         listed.classes.push_back(cls->name()->string());
     for (auto const& function : package->functions())
         listed.functions.push_back(record(*function));
+    listed.errors = recordErrors(machine.errorKinds(), fullName);
     std::ranges::sort(listed.packages);
     std::ranges::sort(listed.classes);
     std::ranges::stable_sort(listed.functions, {}, &MethodRecord::name);
+    std::ranges::stable_sort(listed.errors, {}, &ErrorRecord::identifier);
     return listed;
 }
 

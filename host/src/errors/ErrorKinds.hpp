@@ -21,6 +21,8 @@ public:
     /// Inside a handler: the current exception as an error of its kind; nothing when it has none.
     std::optional<Error> describeCurrent() const;
 
+    std::vector<orbis::host_extensions::ErrorKind> const& all() const { return kinds_; }
+
 private:
     std::vector<orbis::host_extensions::ErrorKind> kinds_;
 };

@@ -16,17 +16,17 @@
 
 namespace orbis::factory {
 
-/// Defined in withDefaults.hpp.
+// Defined in withDefaults.hpp.
 template <class... D>
 class Defaults;
 
-/// Defined in Implemented.hpp.
+// Defined in Implemented.hpp.
 template <class T>
 class Implemented;
 
 namespace detail {
 
-/// Defined in Implemented.hpp, like the record.
+// Defined in Implemented.hpp, like the record.
 template <class T, class S, class... A>
 consteval Refusal implementationRefusal();
 

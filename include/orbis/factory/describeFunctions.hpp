@@ -11,7 +11,7 @@
 
 namespace orbis::factory {
 
-/// Defined in withDefaults.hpp.
+// Defined in withDefaults.hpp.
 template <class... D>
 class Defaults;
 

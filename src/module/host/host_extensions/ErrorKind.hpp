@@ -21,6 +21,7 @@ struct ErrorField {
 /// What scripts learn of native exceptions of one type.
 struct ErrorKind {
     std::string identifier;               ///< such as "spatial:parse"
+    std::string package;                  ///< full name of the one that lists it; empty for none
     std::type_info const* type = nullptr; ///< of the exceptions
 
     /// Inside a handler: stores the text of the current exception and returns true if that is of this type or derived
