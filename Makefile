@@ -10,7 +10,7 @@ run: ## build the optimised console and run the tour of the samples
 	@scripts/run
 test: ## build for development and run every test
 	@scripts/test
-check: ## formatting, floors, static analysis, files that stand alone
+check: ## formatting, floors, comments, static analysis, files that stand alone
 	@scripts/check
 sanitize: ## every test under the address, undefined behaviour and leak sanitizers
 	@scripts/sanitize
@@ -36,7 +36,7 @@ nightly: ## every harness, each to its end: some hours
 	@scripts/nightly
 package: ## make .deb packages and a .zip for Windows
 	@scripts/package
-docs: ## write the reference of the sample classes, for a browser
+docs: ## write the guides and the references, of C++ and of the samples, for a browser
 	@scripts/docs
 clean: ## remove everything that was built
 	@rm -rf build
