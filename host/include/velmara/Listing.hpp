@@ -72,38 +72,20 @@ struct ClassRecord {
     std::vector<PropertyRecord> properties; ///< as the methods
 };
 
-<<<<<<< HEAD
-/// What a package holds itself.
-||||||| 1ffe5dd
-=======
 /// A kind of native exceptions that scripts tell apart.
 struct ErrorRecord {
-    std::string identifier;
+    std::string identifier;          ///< such as "spatial:parse"
     std::vector<std::string> fields; ///< names of the values that come with it, where these can be read
 };
 
->>>>>>> main
+/// What a package holds itself.
 struct PackageRecord {
-<<<<<<< HEAD
     std::string name;                    ///< full name
     std::string description;             ///< a text for users
     std::vector<std::string> packages;   ///< full names, in alphabetical order; as are the others
     std::vector<std::string> classes;    ///< hidden ones too
     std::vector<MethodRecord> functions; ///< one record for each overload
-||||||| 1ffe5dd
-    std::string name;
-    std::string description;
-    std::vector<std::string> packages; ///< full names, in alphabetical order; as are the others
-    std::vector<std::string> classes;
-    std::vector<MethodRecord> functions;
-=======
-    std::string name;
-    std::string description;
-    std::vector<std::string> packages; ///< full names, in alphabetical order; as are the others
-    std::vector<std::string> classes;
-    std::vector<MethodRecord> functions;
-    std::vector<ErrorRecord> errors; ///< that native code of its module gives identifiers to
->>>>>>> main
+    std::vector<ErrorRecord> errors;     ///< that native code of its module gives identifiers to
 };
 
 /// A host object that has not ended. The counts tell who keeps it alive.
