@@ -26,7 +26,8 @@ std::vector<orbis::COSInterfacePtr> givenObjects(lua_State* L)
     std::vector<orbis::COSInterfacePtr> objects;
     visitObjects(array, [&](orbis::COSInterface* object) { objects.emplace_back(object); });
     if (objects.empty() && (!array || array->get_number_of_elements() > 0))
-        fail("noObject", "graph needs an object, or a table or an array of objects, not " + kindAt(L, 1));
+        fail("noObject", std::string("graph needs an object, or a table or an array of objects") +
+                             (array ? ", and finds none in " : ", not ") + kindAt(L, 1));
     return objects;
 }
 

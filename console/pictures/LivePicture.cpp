@@ -49,7 +49,7 @@ Picture walk(lua_State* L, Objects objects, PictureOptions const& options, Handl
     if (found.isComplete())
         return objectPicture(found.objects(), classes, options, handles);
     Picture picture = classPicture(count(found.objects(), handles, classes), classes, options);
-    picture.caption = "the objects that were found first, by their classes (limit: " + std::to_string(options.limit) + ')';
+    picture.caption = "the objects that were found first, by their classes";
     return picture;
 }
 

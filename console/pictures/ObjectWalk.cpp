@@ -38,9 +38,10 @@ void ObjectWalk::add(orbis::COSInterface* object, lua_Integer distance)
 {
     if (!object || isEnumerator(object) || indices_.contains(object))
         return;
-    if (objects_.size() == static_cast<std::size_t>(options_.limit)) {
+    if (objects_.size() >= static_cast<std::size_t>(options_.limit)) {
         isComplete_ = false;
-        return;
+        if (distance > 0)
+            return;
     }
     hvArray_tag* const array = call_.share(ArrayPtr(orbis::omCreateORBISScalar(object)).get());
     indices_.emplace(object, objects_.size());

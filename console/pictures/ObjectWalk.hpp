@@ -45,7 +45,7 @@ public:
 
     std::vector<FoundObject> const& objects() const { return objects_; }
 
-    /// False when there are more objects than may have a box: then the walk has stopped.
+    /// False when there are more objects than may have a box: then the walk has stopped, but has all to start from.
     bool isComplete() const { return isComplete_; }
 
 private:

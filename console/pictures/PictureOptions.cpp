@@ -3,6 +3,7 @@
 #include "handles/Proxy.hpp"
 #include "handles/ValueText.hpp"
 #include "lua/ScriptError.hpp"
+#include "show/Summary.hpp"
 
 namespace velmara::console {
 
@@ -10,7 +11,7 @@ namespace {
 
 [[noreturn]] void refuse(lua_State* L, std::string const& name, char const* wanted)
 {
-    fail("option", "graph: " + name + " is " + wanted + ", not " + valueText(L, -1));
+    fail("option", "graph: " + name + " is " + wanted + ", not " + summary(L, -1));
 }
 
 lua_Integer countOnTop(lua_State* L, std::string const& name)
@@ -92,7 +93,7 @@ PictureOptions optionsAt(lua_State* L, int index)
         fail("option", "graph: the options are a table, not " + kindAt(L, index));
     bool hasFormat = false;
     for (lua_pushnil(L); lua_next(L, index); lua_pop(L, 1)) {
-        std::string const name(textAt(L, -2));
+        std::string const name = lua_type(L, -2) == LUA_TSTRING ? std::string(textAt(L, -2)) : summary(L, -2);
         setOption(L, name, options);
         hasFormat = hasFormat || name == "format";
     }

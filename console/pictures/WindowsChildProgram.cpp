@@ -39,8 +39,8 @@ public:
         InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
         memory_.resize(size);
         require(InitializeProcThreadAttributeList(get(), 1, 0, &size) != 0);
-        UpdateProcThreadAttribute(get(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, handles.data(), sizeof handles, nullptr,
-                                  nullptr);
+        require(UpdateProcThreadAttribute(get(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, handles.data(), sizeof handles,
+                                          nullptr, nullptr) != 0);
     }
     InheritedHandles(InheritedHandles const&) = delete;
     InheritedHandles& operator=(InheritedHandles const&) = delete;

@@ -52,8 +52,9 @@ outline {properties = 0}
 outline {limit = 3, superclasses = true, handles = true}
 outline(person, {limit = 1, superclasses = true})
 local many = {}
-for i = 1, 1000 do many[i] = cases.Probe() end
+for i = 1, 1001 do many[i] = cases.Probe() end
 outline()
+outline(many)
 withvm(function() print((graph():gsub("\n.*", ""))) end)
 
 for _, wrong in ipairs {{5}, {{1, 2}}, {cases}, {"x"}, {probe, {depth = -1}}, {probe, {depth = 1.5}}, {probe, {depth = "1"}},
