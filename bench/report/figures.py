@@ -80,12 +80,13 @@ class Figures:
 
 def about():
     processor = re.search(r"model name\s*: (.*)", pathlib.Path("/proc/cpuinfo").read_text())
+    commit = subprocess.run(["git", "-C", ROOT, "describe", "--always", "--dirty"], capture_output=True, text=True)
     memory = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / 2**30
     name = re.sub(r"\s+", " ", processor[1]) if processor else os.uname().machine
     return {
         "machine": f"{name}, {os.cpu_count()} cores, {memory:.0f} GB",
         "date": time.strftime("%Y-%m-%d %H:%M"),
-        "commit": output("git", "-C", ROOT, "describe", "--always", "--dirty"),
+        "commit": commit.stdout.strip() or "unknown",  # as in sources without their history
         "compiler": output(os.environ.get("CXX", "g++"), "--version").splitlines()[0],
     }
 
