@@ -6,10 +6,10 @@ from drawing import draw
 STYLE = """
 :root {
   color-scheme: light dark;
-  --paper: #ffffff; --ink: #1b1d21; --quiet: #50555e; --line: #c3c8d0; --box: #f2f4f7; --bad: #a81f1f;
+  --paper: #ffffff; --ink: #1b1d21; --quiet: #50555e; --line: #c3c8d0; --bad: #a81f1f;
 }
 @media (prefers-color-scheme: dark) {
-  :root { --paper: #15171b; --ink: #e8eaed; --quiet: #b4bac4; --line: #454b55; --box: #20242a; --bad: #ff9d94; }
+  :root { --paper: #15171b; --ink: #e8eaed; --quiet: #b4bac4; --line: #454b55; --bad: #ff9d94; }
 }
 * { box-sizing: border-box; }
 body {
