@@ -54,7 +54,7 @@ class Chart:
 
 
 class Figures:
-    """What a run has measured, and where: the machine, date, commit and compiler."""
+    """What a run has measured, and where: the machine, its load, date, commit and compiler."""
 
     def __init__(self):
         self.about, self.tables, self.charts = about(), [], []
@@ -91,6 +91,7 @@ def about():
         "date": time.strftime("%Y-%m-%d %H:%M"),
         "commit": commit.stdout.strip() or "unknown",  # as in sources without their history
         "compiler": output(compiler[1], "--version").splitlines()[0],
+        "load": f"{os.getloadavg()[0]:.1f} before the run: times on a busy machine tell little",
     }
 
 
