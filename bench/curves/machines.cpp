@@ -1,10 +1,8 @@
 // Prints what a virtual machine costs beside others that live: `bench_machines MODULE`. Each has the module and an
 // object; the calls go to one machine after the other.
-#include "bench/curves/timing.hpp"
+#include "bench/curves/measuring.hpp"
 
 #include "velmara/Hvm.hpp"
-
-#include <malloc.h>
 
 #include <cstdio>
 #include <memory>
@@ -35,21 +33,15 @@ struct Machine {
     Hvm::Failure failure;
 };
 
-double bytesInUse()
-{
-    auto const memory = mallinfo2();
-    return static_cast<double>(memory.uordblks + memory.hblkhd);
-}
-
 void measure(char const* module, std::size_t count)
 {
-    double const before = bytesInUse();
+    double const before = bench::bytesInUse();
     std::vector<std::unique_ptr<Machine>> machines(count);
     double const create = bench::timeOfOne(count, [&](std::size_t) {
         for (auto& machine : machines)
             machine = std::make_unique<Machine>(module);
     });
-    double const bytes = (bytesInUse() - before) / static_cast<double>(count);
+    double const bytes = (bench::bytesInUse() - before) / static_cast<double>(count);
     double const call = bench::medianOfOne(100'000, [&](std::size_t calls) {
         for (std::size_t i = 0; i < calls; ++i)
             machines[i % count]->call();

@@ -1,9 +1,7 @@
 // Prints what one object costs beside many that live: `bench_objects MODULE`. Times are of one object, in nanoseconds.
-#include "bench/curves/timing.hpp"
+#include "bench/curves/measuring.hpp"
 
 #include "velmara/Hvm.hpp"
-
-#include <malloc.h>
 
 #include <cstdio>
 #include <numeric>
@@ -14,12 +12,6 @@ namespace {
 using velmara::ArrayPtr;
 using velmara::Hvm;
 using velmara::MemberName;
-
-double bytesInUse()
-{
-    auto const memory = mallinfo2();
-    return static_cast<double>(memory.uordblks + memory.hblkhd);
-}
 
 std::vector<std::size_t> shuffled(std::size_t count)
 {
@@ -41,12 +33,12 @@ void measure(Hvm& hvm, std::size_t count)
     std::vector<double> create, call, destroy;
     double bytes = 0;
     for (std::size_t rounds = std::clamp<std::size_t>(1'000'000 / count, 1, 100); rounds > 0; --rounds) {
-        double const before = bytesInUse();
+        double const before = bench::bytesInUse();
         create.push_back(bench::timeOfOne(count, [&](std::size_t) {
             for (ArrayPtr& object : objects)
                 object = hvm.construct(cls, {}, failure);
         }));
-        bytes = std::max(bytes, (bytesInUse() - before) / static_cast<double>(count));
+        bytes = std::max(bytes, (bench::bytesInUse() - before) / static_cast<double>(count));
         call.push_back(bench::timeOfOne(count, [&](std::size_t) {
             for (std::size_t const i : order)
                 hvm.call(objects[i].get(), getSum, inputs, failure);

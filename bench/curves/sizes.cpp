@@ -1,6 +1,6 @@
 // Prints the time of a call that passes a string or an array, by its size: `bench_sizes MODULE strings|arrays`. Times
 // are of one call, in nanoseconds.
-#include "bench/curves/timing.hpp"
+#include "bench/curves/measuring.hpp"
 
 #include "velmara/Hvm.hpp"
 

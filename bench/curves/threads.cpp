@@ -1,7 +1,7 @@
 // Prints how many calls and objects a second, in millions, threads make together, each with a virtual machine of its
 // own, in the best of some rounds, as other programs only slow them: `bench_threads MODULE`, from one thread to as many
 // as the machine has cores.
-#include "bench/curves/timing.hpp"
+#include "bench/curves/measuring.hpp"
 
 #include "velmara/Hvm.hpp"
 

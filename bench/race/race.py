@@ -33,12 +33,12 @@ ROWS = [  # what is said, the row, the repetitions for instructions and for time
     ("1,000 strings out", "stringsOut", 10, 500),
     ("wrong type, caught", "wrongType", 100, 10_000),
     ("native exception, caught", "exception", 100, 10_000),
-    ("array of 10^6 doubles in", "arrayIn", 2, 20),
-    ("array of 10^6 doubles out", "arrayOut", 2, 20),
+    ("array of 1,000,000 doubles in", "arrayIn", 2, 20),
+    ("array of 1,000,000 doubles out", "arrayOut", 2, 20),
 ]
 LISTS = [
-    ("list of 10^6 numbers in", "listIn", 2, 5),
-    ("list of 10^6 numbers out", "listOut", 2, 5),
+    ("list of 1,000,000 numbers in", "listIn", 2, 5),
+    ("list of 1,000,000 numbers out", "listOut", 2, 5),
 ]
 MISSING = {(LUA, "arrayIn"), (LUA, "arrayOut")}  # it has tables only
 ROUNDS = 9
@@ -82,29 +82,36 @@ def median(contestants, row, count):
     return {name: statistics.median(times[name] for times in rounds) for name in contestants}
 
 
+def said(ratio):
+    return f"{ratio:.2f}" if ratio < 10 else f"{ratio:,.0f}"
+
+
 def show(cells):
     return f"{cells[0]:<36} {cells[1]:>14}" + "".join(f" {cell:>{18 - i % 2 * 9}}" for i, cell in enumerate(cells[2:]))
 
 
+def ratio(values, peer):
+    """Of ours to a peer's, 0 where that has no such row."""
+    return values["ours"] / values[peer] if peer in values else 0
+
+
+def compared(values, peer):
+    return [f"{values[peer]:,.0f}", said(ratio(values, peer))] if peer in values else ["-", "-"]
+
+
 def compete(figures, title, contestants, rows, measure):
-    """Fills a table of one figure a contestant, with the ratios of ours to the others. Returns the lost rows of each."""
+    """Fills a table of one figure a contestant, with the ratios of ours to the others. Returns the figures by row."""
     peers = [name for name in contestants if name != "ours"]
-    columns = ["", "ours", *(cell for peer in peers for cell in (peer, "ratio"))]
+    columns = ["", "ours", *(column for peer in peers for column in (peer, "ratio"))]
     table = figures.table(title, columns, show, "loses")
     print("\n" + show([title, *columns[1:]]))
-    lost = {peer: [] for peer in peers}
+    results = {}
     for name, row, *counts in rows:
         entered = {peer: command for peer, command in contestants.items() if (peer, row) not in MISSING}
-        values = measure(entered, row, *counts)
-        cells = [name, f"{values['ours']:,.0f}"]
-        for peer in peers:
-            ratio = values["ours"] / values[peer] if peer in values else 0
-            cells += [f"{values[peer]:,.0f}", f"{ratio:.2f}"] if ratio else ["-", "-"]
-            if ratio > EVEN:
-                table.marked.add((len(table.rows), len(cells) - 1))
-                lost[peer].append(f"{name} ({ratio:.2f})")
-        table.row(*cells)
-    return lost
+        values = results[name] = measure(entered, row, *counts)
+        table.marked |= {(len(table.rows), 3 + 2 * i) for i, peer in enumerate(peers) if ratio(values, peer) > EVEN}
+        table.row(name, f"{values['ours']:,.0f}", *(cell for peer in peers for cell in compared(values, peer)))
+    return results
 
 
 def countAll(contestants, row, few, _):
@@ -115,10 +122,13 @@ def timeAll(contestants, row, _, count):
     return median(contestants, row, count)
 
 
-def losses(unit, lost):
-    for peer, names in lost.items():
-        print(f"ours loses to {peer}, in {unit}: {', '.join(names) or 'nowhere'}")
-        yield f"<li><strong>To {escape(peer)}, in {unit}:</strong> {escape(', '.join(names) or 'nowhere')}.</li>"
+def losses(peer, unit, results):
+    """Says which rows are lost to a peer, the worst first."""
+    ratios = sorted(((ratio(values, peer), name) for name, values in results.items() if peer in values), reverse=True)
+    lost = [f"{name} ({said(value)})" for value, name in ratios if value > EVEN]
+    head = f"To {peer}, in {unit}, {len(lost)} of {len(ratios)} rows"
+    print(f"{head}: {', '.join(lost)}")
+    return f"<li><strong>{escape(head)}:</strong> {escape(', '.join(lost))}</li>"
 
 
 def main():
@@ -127,7 +137,8 @@ def main():
     figures, lost = Figures(), []
     for kind, contestants, rows in [("from a script", SCRIPTS, [*ROWS, *LISTS, START]), ("from C++", PROGRAMS, [*ROWS, START])]:
         for unit, what, measure in [("instructions", "Instructions", countAll), ("time", "Nanoseconds", timeAll)]:
-            lost += losses(unit, compete(figures, f"{what} {kind}", contestants, rows, measure))
+            results = compete(figures, f"{what} {kind}", contestants, rows, measure)
+            lost += [losses(peer, unit, results) for peer in contestants if peer != "ours"]
     text = f"<h2>Where ours loses</h2><ul>{''.join(lost)}</ul><h2>How it was measured</h2>{INTRODUCTION}"
     figures.keep("race.json")
     page.write(KEPT / "race.html", "orbis_factory: race", figures, {}, text)

@@ -54,7 +54,7 @@ class Chart:
 
 
 class Figures:
-    """What a run has measured, and where: the machine, date, commit and compiler."""
+    """What a run has measured, and where: the machine, its load, date, commit and compiler."""
 
     def __init__(self):
         self.about, self.tables, self.charts = about(), [], []
@@ -74,19 +74,24 @@ class Figures:
         KEPT.mkdir(parents=True, exist_ok=True)
         tables = {table.title: [table.columns, *table.rows] for table in self.tables}
         charts = {chart.name: chart.curves for chart in self.charts}
-        path.write_text(json.dumps({"about": self.about, "tables": tables, "charts": charts}, indent=1) + "\n")
+        whole = path.with_suffix(".new")  # an interrupted run leaves the figures of the one before
+        whole.write_text(json.dumps({"about": self.about, "tables": tables, "charts": charts}, indent=1) + "\n")
+        whole.replace(path)
         return before
 
 
 def about():
     processor = re.search(r"model name\s*: (.*)", pathlib.Path("/proc/cpuinfo").read_text())
+    commit = subprocess.run(["git", "-C", ROOT, "describe", "--always", "--dirty"], capture_output=True, text=True)
+    compiler = re.search(r"CMAKE_CXX_COMPILER:\w+=(.*)", (BIN.parent / "CMakeCache.txt").read_text())
     memory = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / 2**30
     name = re.sub(r"\s+", " ", processor[1]) if processor else os.uname().machine
     return {
         "machine": f"{name}, {os.cpu_count()} cores, {memory:.0f} GB",
         "date": time.strftime("%Y-%m-%d %H:%M"),
-        "commit": output("git", "-C", ROOT, "describe", "--always", "--dirty"),
-        "compiler": output(os.environ.get("CXX", "g++"), "--version").splitlines()[0],
+        "commit": commit.stdout.strip() or "unknown",  # as in sources without their history
+        "compiler": output(compiler[1], "--version").splitlines()[0],
+        "load": f"{os.getloadavg()[0]:.1f} before the run: times on a busy machine tell little",
     }
 
 

@@ -6,10 +6,10 @@ from drawing import draw
 STYLE = """
 :root {
   color-scheme: light dark;
-  --paper: #ffffff; --ink: #1b1d21; --quiet: #50555e; --line: #c3c8d0; --box: #f2f4f7; --bad: #a81f1f;
+  --paper: #ffffff; --ink: #1b1d21; --quiet: #50555e; --line: #c3c8d0; --bad: #a81f1f;
 }
 @media (prefers-color-scheme: dark) {
-  :root { --paper: #15171b; --ink: #e8eaed; --quiet: #b4bac4; --line: #454b55; --box: #20242a; --bad: #ff9d94; }
+  :root { --paper: #15171b; --ink: #e8eaed; --quiet: #b4bac4; --line: #454b55; --bad: #ff9d94; }
 }
 * { box-sizing: border-box; }
 body {
@@ -21,16 +21,19 @@ h2 { margin: 2rem 0 0.5rem; font-size: 1.2rem; }
 p, li { max-width: 48rem; }
 dl { display: grid; grid-template-columns: auto 1fr; gap: 0 1rem; margin: 0; color: var(--quiet); }
 dd { margin: 0; overflow-wrap: anywhere; }
-.charts, .tables { display: grid; grid-template-columns: repeat(auto-fit, minmax(min(100%, 28rem), 1fr)); gap: 1rem 2rem; }
-.tables { grid-template-columns: repeat(auto-fit, minmax(min(100%, 36rem), 1fr)); }
-.tables > section { min-width: 0; }
+.charts { display: grid; grid-template-columns: repeat(auto-fit, minmax(min(100%, 28rem), 1fr)); gap: 1rem 2rem; }
+.tables { display: flex; flex-wrap: wrap; gap: 0 3rem; }
+.tables > section { max-width: 100%; }
 figure { margin: 0; min-width: 0; }
 figcaption { font-weight: bold; }
 svg { display: block; width: 100%; height: auto; }
 .table { overflow-x: auto; }
 table { border-collapse: collapse; font-variant-numeric: tabular-nums; }
 th, td { padding: 0.15rem 0.75rem; text-align: right; white-space: nowrap; border-bottom: 1px solid var(--line); }
-th:first-child { padding-left: 0; text-align: left; white-space: pre-wrap; min-width: 11rem; font-weight: normal; }
+th:first-child {
+  position: sticky; left: 0; min-width: 11rem; padding-left: 0; background: var(--paper);
+  text-align: left; white-space: pre-wrap; font-weight: normal;
+}
 thead th { color: var(--quiet); vertical-align: bottom; font-weight: normal; }
 @media (max-width: 32rem) { th, td { padding: 0.15rem 0.35rem; } th:first-child { min-width: 8rem; } }
 .marked { color: var(--bad); font-weight: bold; }

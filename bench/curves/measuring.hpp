@@ -1,5 +1,7 @@
 #pragma once
 
+#include <malloc.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <ctime>
@@ -13,6 +15,13 @@ inline double processorTime()
     std::timespec now{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
     return static_cast<double>(now.tv_sec) * 1e9 + static_cast<double>(now.tv_nsec);
+}
+
+/// Of the heap.
+inline double bytesInUse()
+{
+    auto const memory = mallinfo2();
+    return static_cast<double>(memory.uordblks + memory.hblkhd);
 }
 
 /// The nanoseconds of one of `count` repetitions, which `run(count)` makes.
