@@ -5,6 +5,7 @@
 #include "velmara/Listing.hpp"
 #include "velmara/MemberName.hpp"
 #include "velmara/Reference.hpp"
+#include "velmara/Snapshot.hpp"
 #include "velmara/Value.hpp"
 #include "velmara/export.hpp"
 
@@ -57,6 +58,16 @@ public:
     /// module's name, and with what the exception says of itself. It throws nothing; where none is set such failures
     /// are lost.
     void reportTerminations(std::function<void(std::string const& module, char const* reason)> report);
+
+    /// Has `source` asked for the origin of each object and array that is created from now on; an empty one ends that.
+    /// What is created meanwhile takes longer, and an array 32 bytes more; where memory or one of 65,535 different
+    /// origins is lacking, none is recorded. Arrays are recorded of which this virtual machine is the current one.
+    void recordOrigins(OriginSource source);
+
+    /// Counts what is alive by class and origin. The bytes are those that the host has allocated itself: for each object
+    /// and array, for arrays' elements, shared ones once, and for longer texts in them. The memory of native objects is
+    /// not known, and that of descriptions, and of the record of origins, is not counted.
+    Snapshot snapshot() const;
 
     /// Makes a virtual machine current on this thread, and the one before current again at its end, unless that has
     /// ended meanwhile.
