@@ -61,12 +61,12 @@ void HostContext::reportLeft() noexcept
 {
     try {
         for (SnapshotRow const& row : hvm().snapshot().rows)
-            std::fprintf(stderr, "velmara: leak: %s%s%s: objects %lld, bindings %lld, arrays %lld, bytes %lld\n",
-                         row.className.c_str(), row.origin.empty() ? "" : " from ", row.origin.c_str(),
-                         static_cast<long long>(row.objects), static_cast<long long>(row.bindings),
-                         static_cast<long long>(row.arrays), static_cast<long long>(row.bytes));
-    } catch (std::exception const& error) {
-        std::fprintf(stderr, "velmara: leak: what is left cannot be listed: %s\n", error.what());
+            if (row.objects != 0) // modules keep arrays of their own until they are unloaded
+                std::fprintf(stderr, "velmara: leak: objects of %s%s%s that native code still holds: %lld\n",
+                             row.className.c_str(), row.origin.empty() ? "" : " from ", row.origin.c_str(),
+                             static_cast<long long>(row.objects));
+    } catch (Error const& error) {
+        std::fprintf(stderr, "velmara: leak: what native code still holds cannot be told: %s\n", error.what());
     }
 }
 
