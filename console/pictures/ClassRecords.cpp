@@ -8,12 +8,12 @@ ClassRecord const* ClassRecords::find(std::string const& name)
 {
     auto known = records_.find(name);
     if (known == records_.end()) {
-        std::optional<ClassRecord> record;
+        std::unique_ptr<ClassRecord const> record;
         if (hvm_.lookUp(name) == NameKind::Class)
-            record = hvm_.describeClass(name);
+            record = std::make_unique<ClassRecord const>(hvm_.describeClass(name));
         known = records_.emplace(name, std::move(record)).first;
     }
-    return known->second ? &*known->second : nullptr;
+    return known->second.get();
 }
 
 std::vector<std::string> ClassRecords::lineage(std::string const& name)

@@ -3,7 +3,7 @@
 #include "velmara/Hvm.hpp"
 
 #include <map>
-#include <optional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,7 +22,7 @@ public:
 
 private:
     Hvm& hvm_;
-    std::map<std::string, std::optional<ClassRecord>> records_;
+    std::map<std::string, std::unique_ptr<ClassRecord const>> records_;
 };
 
 } // namespace velmara::console

@@ -3,6 +3,8 @@
 #include "pictures/ObjectPicture.hpp"
 #include "pictures/ObjectWalk.hpp"
 
+#include "orbis/objectArrays.hpp"
+
 #include <algorithm>
 
 namespace velmara::console {

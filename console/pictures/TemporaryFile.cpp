@@ -57,7 +57,7 @@ TemporaryFile::TemporaryFile() : stream_(openTemporaryFile())
     require(stream_ != nullptr);
 }
 
-void TemporaryFile::write(std::string_view text)
+void TemporaryFile::write(std::string_view text) // NOLINT(readability-make-member-function-const)
 {
     bool const isWritten = std::fwrite(text.data(), 1, text.size(), stream()) == text.size();
     require(isWritten && std::fflush(stream()) == 0);

@@ -17,7 +17,7 @@ namespace velmara::console {
 
 namespace {
 
-void require(bool isDone)
+void requireDone(bool isDone)
 {
     if (!isDone)
         throw std::system_error(static_cast<int>(GetLastError()), std::system_category(),
@@ -38,9 +38,9 @@ public:
         SIZE_T size = 0;
         InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
         memory_.resize(size);
-        require(InitializeProcThreadAttributeList(get(), 1, 0, &size) != 0);
-        require(UpdateProcThreadAttribute(get(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, handles.data(), sizeof handles,
-                                          nullptr, nullptr) != 0);
+        requireDone(InitializeProcThreadAttributeList(get(), 1, 0, &size) != 0);
+        requireDone(UpdateProcThreadAttribute(get(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, handles.data(),
+                                              sizeof handles, nullptr, nullptr) != 0);
     }
     InheritedHandles(InheritedHandles const&) = delete;
     InheritedHandles& operator=(InheritedHandles const&) = delete;
@@ -83,8 +83,8 @@ ChildProgram::ChildProgram(std::filesystem::path const& file, std::string const&
     start.lpAttributeList = inherited.get();
     std::wstring line = L'"' + file.native() + L"\" " + std::filesystem::path(argument).native();
     PROCESS_INFORMATION created{};
-    require(CreateProcessW(file.c_str(), line.data(), nullptr, nullptr, TRUE, EXTENDED_STARTUPINFO_PRESENT, nullptr,
-                           nullptr, &start.StartupInfo, &created) != 0);
+    requireDone(CreateProcessW(file.c_str(), line.data(), nullptr, nullptr, TRUE, EXTENDED_STARTUPINFO_PRESENT, nullptr,
+                               nullptr, &start.StartupInfo, &created) != 0);
     CloseHandle(created.hThread);
     process_ = reinterpret_cast<std::intptr_t>(created.hProcess);
 }
