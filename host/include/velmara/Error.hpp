@@ -20,7 +20,7 @@ struct ErrorField {
 /// A script error: what every failure inside the host or a module becomes. `what()` is "identifier: text" (UTF-8).
 class VELMARA_API Error : public std::exception {
 public:
-    /// An error of that identifier ("component:catalog:key") and text (UTF-8), with values where it has some.
+    /// An error of that identifier ("component:catalog:key") and text (UTF-8).
     Error(std::string identifier, std::string text);
     Error(std::string identifier, std::string text, std::vector<ErrorField> fields); ///< The same, with values.
 

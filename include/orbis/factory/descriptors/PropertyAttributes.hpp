@@ -50,7 +50,7 @@ public:
     static PropertyAttributes DefaultAllowed();       ///< may have its default value
     static PropertyAttributes Dependent();            ///< computed from other properties
     static PropertyAttributes Destructible();         ///< destroyed with the object; not reported by descriptors
-    static PropertyAttributes ForceMembership();      ///< its accessors are free functions that take the object
+    static PropertyAttributes ForceMembership();      ///< of objects, whatever its accessors are
     static PropertyAttributes Grandfathered();        ///< kept for old scripts
     static PropertyAttributes Hidden();               ///< left out of lists
     static PropertyAttributes InitAllowed();          ///< may be set at construction

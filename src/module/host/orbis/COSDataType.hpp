@@ -32,7 +32,7 @@ public:
     virtual Enumeration<COSValue> getPossibleValues() const;  ///< none
     virtual COSValue getDefaultValue() const;                 ///< empty
 
-    /// The type's family, as a number and as a word; and a flag without a name. Hosts list them.
+    /// The type's family, as a number and as a word; and a flag without a name.
     virtual int typeKind() const = 0;
     virtual char const* typeCategory() const = 0;               ///< such as "Fundamental"
     virtual bool slot11Flag() const = 0;                        ///< false where nothing else is known
