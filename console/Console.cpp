@@ -7,6 +7,7 @@
 #include "bindings/ObjectBinding.hpp"
 #include "bindings/ObjectFunctions.hpp"
 #include "bindings/ProxyBinding.hpp"
+#include "bindings/SnapshotFunctions.hpp"
 #include "help/HelpFunctions.hpp"
 #include "lua/ScriptError.hpp"
 #include "pictures/GraphFunction.hpp"
@@ -49,6 +50,7 @@ void prepare(lua_State* L, Run const& run)
     bindObjectMembers(L);
     bindErrorFields(L);
     bindObjectFunctions(L);
+    bindSnapshotFunctions(L);
     bindObjectText(L);
     bindShowFunction(L);
     bindGraphFunction(L, run.line.isRestricted);

@@ -1,6 +1,7 @@
 #include "handles/HostContext.hpp"
 
 #include "lua/ScriptError.hpp"
+#include "lua/ScriptFrames.hpp"
 
 #include <cstdio>
 
@@ -9,10 +10,10 @@ namespace velmara::console {
 HostContext::HostContext(lua_State* L, bool reportsLeaks)
     : ChangeWatch([](lua_State* changed) { of(changed).answers().forget(changed); }),
       running_(L),
-      reportsLeaks_(reportsLeaks)
+      reportsLeaks_(reportsLeaks),
+      recordsLines_(reportsLeaks)
 {
-    machines_.push_back(createMachine());
-    watchMachine();
+    addMachine(createMachine());
     attach(L);
 }
 
@@ -29,13 +30,52 @@ std::unique_ptr<Hvm> HostContext::createMachine()
     return machine;
 }
 
+void HostContext::addMachine(std::unique_ptr<Hvm> hvm)
+{
+    machines_.emplace_back().hvm = std::move(hvm);
+    applyRecording(machines_.back());
+    watchMachine();
+}
+
+void HostContext::applyRecording(Machine& machine)
+{
+    machine.scope.reset();
+    if (!recordsLines_)
+        return machine.hvm->recordOrigins(nullptr);
+    machine.hvm->recordOrigins([this, function = lua_Debug()]() mutable -> Origin {
+        if (running_ && findScriptFunction(running_, function))
+            return {function.short_src, function.currentline};
+        return {};
+    });
+    machine.scope.emplace(*machine.hvm);
+}
+
+void HostContext::recordLines(bool isWanted)
+{
+    recordsLines_ = isWanted;
+    for (Machine& machine : machines_)
+        applyRecording(machine);
+}
+
+void HostContext::reportLeft() noexcept
+{
+    try {
+        for (SnapshotRow const& row : hvm().snapshot().rows)
+            if (row.objects != 0) // modules keep arrays of their own until they are unloaded
+                std::fprintf(stderr, "velmara: leak: objects of %s%s%s that native code still holds: %lld\n",
+                             row.className.c_str(), row.origin.empty() ? "" : " from ", row.origin.c_str(),
+                             static_cast<long long>(row.objects));
+    } catch (Error const& error) {
+        std::fprintf(stderr, "velmara: leak: what native code still holds cannot be told: %s\n", error.what());
+    }
+}
+
 HostContext::FreshMachine::FreshMachine(HostContext& context) : context_(context)
 {
     auto machine = context.createMachine();
     for (ModuleRecord const& module : context.hvm().modules())
         machine->loadModule(std::u8string(module.file.begin(), module.file.end()));
-    context.machines_.push_back(std::move(machine));
-    context.watchMachine();
+    context.addMachine(std::move(machine));
 }
 
 void HostContext::requireOpen() const
@@ -48,8 +88,11 @@ void HostContext::clear()
 {
     arrays_.shrink(0);
     heldArrays_.clear();
-    while (!machines_.empty())
+    while (!machines_.empty()) {
+        if (reportsLeaks_ && !isInCallback()) // else native code still holds what it was called with
+            reportLeft();
         machines_.pop_back();
+    }
 }
 
 } // namespace velmara::console

@@ -12,10 +12,10 @@
 #include "velmara/Hvm.hpp"
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <optional>
 #include <utility>
-#include <vector>
 
 namespace velmara::console {
 
@@ -24,7 +24,7 @@ namespace velmara::console {
 class HostContext : private ChangeWatch {
 public:
     /// Makes `of` find this context from the state, which must be closed before `clear`. With `reportsLeaks`, what
-    /// native code leaves in a virtual machine is reported on stderr when that is destroyed.
+    /// native code leaves in a virtual machine is reported on stderr when that is destroyed, with the script's lines.
     HostContext(lua_State* L, bool reportsLeaks);
     HostContext(HostContext const&) = delete;
     HostContext& operator=(HostContext const&) = delete;
@@ -43,7 +43,7 @@ public:
     RegistryTable& objectValues() { return objectValues_; }
 
     /// The virtual machine in use: the innermost one.
-    Hvm& hvm() { return *machines_.back(); }
+    Hvm& hvm() { return *machines_.back().hvm; }
 
     /// The script, or the coroutine of it, that has called the host most recently and is still running; null once the
     /// state was closed. Functions of the script that the host calls run there.
@@ -96,6 +96,9 @@ public:
         HostContext& context_;
     };
 
+    /// Has the virtual machines record which line of the script creates what, from now on or no longer.
+    void recordLines(bool isWanted);
+
     /// From now on only finalizers of the script run.
     void beginClosing() { isClosing_ = true; }
     bool isClosing() const { return isClosing_; }
@@ -111,14 +114,25 @@ public:
     bool hasFailed() const { return hasFailed_; }
 
 private:
+    struct Machine {
+        std::unique_ptr<Hvm> hvm;
+        std::optional<Hvm::Scope> scope; ///< while lines are recorded: arrays are those of the current virtual machine
+    };
+
     /// A virtual machine that reports modules that fail to terminate, and leaks where asked for.
     std::unique_ptr<Hvm> createMachine();
+
+    void addMachine(std::unique_ptr<Hvm> hvm);
+    void applyRecording(Machine& machine);
+
+    /// Reports what is alive in the virtual machine although the script has released everything.
+    void reportLeft() noexcept;
 
     void watchMachine() { number = &hvm().publicationNumber(); }
 
     lua_State* running_;
     std::optional<std::size_t> waiting_; ///< how many arrays were in transit when the innermost callback began
-    std::vector<std::unique_ptr<Hvm>> machines_;
+    std::deque<Machine> machines_;
     ArrayStack arrays_;
     HeldArrays heldArrays_;
     OwnedFunctions ownedFunctions_;
@@ -129,6 +143,7 @@ private:
     bool hasFailed_ = false;
     bool isClosing_ = false;
     bool reportsLeaks_;
+    bool recordsLines_;
     bool keepsNextArray_ = false;
     bool isShowing_ = false;
 };

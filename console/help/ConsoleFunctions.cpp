@@ -44,10 +44,16 @@ constexpr ConsoleFunction functions[] = {
     {"objects", "objects()", "All live objects: a sequence of tables with class, owner and references."},
     {"properties", "properties(x)", "Prints the properties of a class or object."},
     {"range", "range(first, last, step)", "A row of numbers from the first on, up to the last."},
+    {"recordlines", "recordlines(on)",
+     "Has snapshots tell from now on which line of the script creates what, and what arrays there are; false ends "
+     "that."},
     {"references", "references(object)",
      "The objects to which its properties refer: a sequence of tables with property and object."},
     {"show", "show(x, ...)", "Prints values with all that they hold, on one screen."},
     {"size", "size(x)", "The rows and columns of any value, as the host sees it."},
+    {"snapshot", "snapshot()",
+     "Counts what is alive after a collection of garbage: a sequence of tables with class, line, objects, bindings, "
+     "arrays and bytes. snapshot() - before is the growth since then."},
     {"time", "time(f, ...)", "Calls f(...); returns the seconds that it took, then its results."},
     {"tolua", "tolua(array)", "All of an array as tables, strings and numbers."},
     {"unloadmodule", "unloadmodule(name)", "Unloads a module with its packages."},

@@ -11,13 +11,18 @@ std::string positionOf(lua_Debug const& function)
 
 } // namespace
 
+bool findScriptFunction(lua_State* L, lua_Debug& function)
+{
+    for (int level = 0; lua_getstack(L, level, &function); ++level)
+        if (lua_getinfo(L, "Sl", &function) != 0 && function.currentline > 0)
+            return true;
+    return false;
+}
+
 std::string scriptPosition(lua_State* L)
 {
     lua_Debug function;
-    for (int level = 0; lua_getstack(L, level, &function); ++level)
-        if (lua_getinfo(L, "Sl", &function) != 0 && function.currentline > 0)
-            return positionOf(function);
-    return {};
+    return findScriptFunction(L, function) ? positionOf(function) : std::string();
 }
 
 std::vector<ScriptFrame> scriptFrames(lua_State* L, int level, std::size_t maxFrames)

@@ -14,6 +14,10 @@ struct ScriptFrame {
     std::string function; ///< its name where it has one
 };
 
+/// Finds source and line of the innermost running function of the script; false when none runs. Uses no memory, and
+/// throws nothing.
+bool findScriptFunction(lua_State* L, lua_Debug& function);
+
 /// The position of the innermost running function of the script; empty when none runs.
 std::string scriptPosition(lua_State* L);
 

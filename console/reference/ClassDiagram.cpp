@@ -38,15 +38,15 @@ int levelOf(std::string const& page, Boxes& boxes, std::size_t depth = 0)
 /// The classes with a superclass or a subclass among the given ones.
 Boxes relatedOf(std::span<DiagramClass const> classes)
 {
-    Boxes all;
+    Boxes boxes;
     for (DiagramClass const& cls : classes)
-        all[cls.page].cls = &cls;
+        boxes[cls.page].cls = &cls;
     Boxes related;
     for (DiagramClass const& cls : classes)
         for (std::string const& superclass : cls.superclasses)
-            if (all.contains(superclass)) {
+            if (boxes.contains(superclass)) {
                 related[cls.page].cls = &cls;
-                related[superclass].cls = all[superclass].cls;
+                related[superclass].cls = boxes[superclass].cls;
             }
     return related;
 }

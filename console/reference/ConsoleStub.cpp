@@ -74,6 +74,19 @@ local array_methods = {}
 ---@field format? "dot"|"svg"
 ---@field file? string
 
+--- What is alive, as `snapshot` tells.
+---@class velmara.snapshot: { [integer]: velmara.growth }
+---@operator sub(velmara.snapshot): velmara.snapshot
+
+--- What is alive of one class, created at one line.
+---@class velmara.growth
+---@field class string
+---@field line string # "FILE:LINE"; empty where it is not recorded
+---@field objects integer
+---@field bindings integer
+---@field arrays integer
+---@field bytes integer
+
 )";
 
 constexpr Annotated functions[] = {
@@ -108,9 +121,11 @@ constexpr Annotated functions[] = {
     {"properties", "---@param x any\n", "x"},
     {"range", "---@param first number\n---@param last number\n---@param step? number\n---@return velmara.array\n",
      "first, last, step"},
+    {"recordlines", "---@param on? boolean\n", "on"},
     {"references", "---@param object any\n---@return { property: string, object: any }[]\n", "object"},
     {"show", "---@param x any\n", "x, ..."},
     {"size", "---@param x any\n---@return integer rows\n---@return integer columns\n", "x"},
+    {"snapshot", "---@return velmara.snapshot\n", ""},
     {"time", "---@param f function\n---@return number seconds\n---@return any ...\n", "f, ..."},
     {"tolua", "---@param array any\n---@return any\n", "array"},
     {"unloadmodule", "---@param name string\n", "name"},

@@ -29,6 +29,7 @@ Hvm::Scope::Scope(Hvm& hvm)
     : previous_(static_cast<HvmState*>(Machine::makeCurrent(hvm.state_.get()))),
       outer_(std::exchange(innermost, this))
 {
+    hvm.state_->watchThread();
 }
 
 Hvm::Scope::~Scope()

@@ -3,6 +3,8 @@
 #include "arrays/CellNest.hpp"
 #include "arrays/DeepCopy.hpp"
 #include "errors/hostError.hpp"
+#include "machine/Machine.hpp"
+#include "memory/allocate.hpp"
 
 #include "libkwfl/bad_alloc.hpp"
 
@@ -15,9 +17,43 @@ namespace velmara {
 
 Array* Array::createUncachedHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
 {
+    ThreadCache* const cache = threadCache;
+    if (!cache) [[unlikely]]
+        return createWithoutCache(classID, rows, columns, objectClass);
+    auto* const array = new (allocate(BlockPool::blockSize)) Array(classID, rows, columns, objectClass);
+    ++cache->counts.arrays;
+    return array;
+}
+
+Array* Array::createWithoutCache(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
+{
+    if (Machine* const machine = Machine::recording())
+        return createRecorded(*machine, classID, rows, columns, objectClass);
     auto* const array = new (allocate(BlockPool::blockSize)) Array(classID, rows, columns, objectClass);
     ++currentThreadCache().counts.arrays;
     return array;
+}
+
+Array* Array::createRecorded(Machine& machine, hvClassID classID, std::size_t rows, std::size_t columns,
+                             Name objectClass)
+{
+    static_assert(sizeof(Array) % alignof(OriginLink) == 0);
+    auto* const block = static_cast<std::byte*>(allocate(sizeof(Array) + sizeof(OriginLink)));
+    auto* const array = new (block) Array(classID, rows, columns, objectClass);
+    array->references_ |= recordedFlag;
+    machine.recordedArrays().add(*new (block + sizeof(Array)) OriginLink(machine.origins().current()));
+    ++currentThreadCache().counts.arrays;
+    return array;
+}
+
+bool Array::removeLastRecorded() noexcept
+{
+    if (referenceCount() != 0)
+        return false;
+    references_ = 0;
+    auto* const link = reinterpret_cast<OriginLink*>(reinterpret_cast<std::byte*>(this) + sizeof(Array));
+    std::destroy_at(std::launder(link));
+    return true;
 }
 
 Array* Array::createAround(Payload& payload, hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass)
@@ -122,6 +158,17 @@ void Array::setCellWithCare(std::size_t index, Array* value)
         throwHostError("VELMARA:array", "cycle");
     makeUnshared();
     putCell(index, value);
+}
+
+std::size_t Array::payloadMemory() const
+{
+    if (!hasPayload())
+        return 0;
+    std::size_t bytes = sizeof(Payload) + size() * elementSize();
+    if (classID_ == hvSTRING_CLASS)
+        for (StringElement const& element : strings())
+            bytes += element.memory();
+    return bytes;
 }
 
 Array* Array::shareData() const
@@ -256,8 +303,9 @@ void Array::destroyPlainPayload() noexcept
 
 void Array::freeUncachedHeader() noexcept
 {
-    acquireThreadCache();
-    freeHeader();
+    ThreadCache& cache = acquireThreadCache();
+    --cache.counts.arrays;
+    BlockPool::release(this, cache);
 }
 
 } // namespace velmara

@@ -7,6 +7,7 @@
 #include "memory/BlockPool.hpp"
 #include "names/InternedName.hpp"
 #include "objects/Object.hpp"
+#include "origins/OriginRing.hpp"
 
 #include "libhv/hvArray.hpp"
 
@@ -149,13 +150,25 @@ public:
 
     void setTemporary(bool isTemporary) { flags_ = isTemporary ? flags_ | temporaryFlag : flags_ & ~temporaryFlag; }
 
+    /// The bytes that the host has allocated for it, without its payload.
+    static constexpr std::size_t memory() { return BlockPool::blockSize; }
+
+    /// The same for the payload, which other arrays may share: 0 where the elements are in the array.
+    std::size_t payloadMemory() const;
+
+    /// The recorded array of which the link is.
+    static Array const& of(OriginLink const& link)
+    {
+        return *reinterpret_cast<Array const*>(reinterpret_cast<std::byte const*>(&link) - sizeof(Array));
+    }
+
     /// The inline storage of arrays of cells or strings, whose elements are never there.
     void* scratch() const { return inlineStorage_; }
 
     /// Releases one reference; the last one destroys the array.
     void release() noexcept
     {
-        if (--references_ == 0)
+        if (removeReference())
             destroy();
     }
 
@@ -177,6 +190,12 @@ private:
 
     /// The same when the thread's cache has no block.
     static Array* createUncachedHeader(hvClassID classID, std::size_t rows, std::size_t columns, Name objectClass);
+
+    /// The same when the thread has no cache: its origin is recorded where that is wanted.
+    [[gnu::noinline]] static Array* createWithoutCache(hvClassID classID, std::size_t rows, std::size_t columns,
+                                                       Name objectClass);
+    static Array* createRecorded(Machine& machine, hvClassID classID, std::size_t rows, std::size_t columns,
+                                 Name objectClass);
 
     /// Takes over `payload`, also when it throws.
     static Array* createAround(Payload& payload, hvClassID classID, std::size_t rows, std::size_t columns,
@@ -212,7 +231,23 @@ private:
     Object** objectSlots() const { return static_cast<Object**>(elements_); }
 
     /// True when no one but cells holds the array.
-    bool belongsToCells() const { return references_ == cellsAround_; }
+    bool belongsToCells() const { return referenceCount() == cellsAround_; }
+
+    /// Beside the number of references: an `OriginLink` is in the memory behind the array. So the last reference of such
+    /// an array leaves no zero, and others need no test of it.
+    static constexpr std::uint32_t recordedFlag = 0x80000000;
+
+    std::uint32_t referenceCount() const { return references_ & ~recordedFlag; }
+
+    /// True when it was the last one.
+    bool removeReference() noexcept
+    {
+        if (--references_ == 0)
+            return true;
+        return (references_ & recordedFlag) != 0 && removeLastRecorded();
+    }
+
+    [[gnu::noinline]] bool removeLastRecorded() noexcept;
 
     void makeUnshared()
     {

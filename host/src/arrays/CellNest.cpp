@@ -35,7 +35,7 @@ void CellNest::releaseCells(Array& cells, Array*& dying) noexcept
         --cell->cellsAround_;
         if (cell->classID_ != hvCELL_CLASS) {
             cell->release();
-        } else if (--cell->references_ == 0) {
+        } else if (cell->removeReference()) {
             nextDying(*cell) = dying;
             dying = cell;
         }

@@ -44,7 +44,7 @@ DeepCopy::Owner DeepCopy::copyPayload(Array const& source)
         open_.push_back({source.cells(), copy->cellSlots()});
     else
         copy->retainElements();
-    if (source.references_ > 1 || source.payload()->isShared())
+    if (source.referenceCount() > 1 || source.payload()->isShared())
         copies_.emplace(source.payload(), payload);
     return copy;
 }

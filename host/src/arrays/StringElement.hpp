@@ -59,6 +59,9 @@ public:
 
     std::u16string_view view() const { return {text(), length()}; }
 
+    /// The bytes allocated for the text besides the element.
+    std::size_t memory() const { return isLong() ? TextAllocator::memory<char16_t>(long_.length) : 0; }
+
     bool operator==(StringElement const& other) const
     {
         return isMissing() == other.isMissing() && view() == other.view();

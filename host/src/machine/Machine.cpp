@@ -23,6 +23,20 @@ void Machine::reportLeak(char const* sentence) const noexcept
     }
 }
 
+void Machine::recordOrigins(OriginSource source)
+{
+    origins_.recordBy(std::move(source));
+    isBoundarySlow_ = isBoundaryRequested_ || origins_.isRecording();
+    watchThread();
+}
+
+Machine* Machine::recording() noexcept
+{
+    if (!OriginTable::isAnyRecording())
+        restoreThreadCache();
+    return current() && current()->origins_.isRecording() ? current() : nullptr;
+}
+
 void Machine::retire(std::unique_ptr<Retirable> unpublished) noexcept
 {
     if (unpublished)
@@ -40,9 +54,11 @@ void Machine::clearStorage()
 
 void Machine::passCallBoundary() noexcept
 {
-    if (entries_ != 0 || !observer_)
+    watchThread();
+    if (!isBoundaryRequested_ || entries_ != 0 || !observer_)
         return;
     isBoundaryRequested_ = false;
+    isBoundarySlow_ = origins_.isRecording();
     Entry const entry(*this);
     observer_->callBoundary();
 }

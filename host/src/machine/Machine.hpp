@@ -4,6 +4,9 @@
 #include "machine/HeldFunction.hpp"
 #include "machine/HvmStorage.hpp"
 #include "memory/Retirable.hpp"
+#include "memory/ThreadCache.hpp"
+#include "origins/OriginRing.hpp"
+#include "origins/OriginTable.hpp"
 
 #include <functional>
 #include <memory>
@@ -44,6 +47,25 @@ public:
     PackageTree& packages() const { return *parts_.packages; }
     TypeRepository& types() const { return *parts_.types; }
     FunctionList& functions() { return *functions_; }
+
+    OriginTable& origins() { return origins_; }
+    OriginRing& recordedArrays() { return recordedArrays_; }
+
+    /// An empty source ends the recording.
+    void recordOrigins(OriginSource source);
+
+    /// Withholds the thread's cache if origins are recorded. All ways into the virtual machine lead through here or a
+    /// `CallBoundary`.
+    void watchThread() const noexcept
+    {
+        if (origins_.isRecording()) [[unlikely]]
+            withholdThreadCache();
+    }
+
+    /// The one that is current on this thread, if it records origins; else null. For those who create something and find
+    /// no thread's cache, which is restored when it is withheld for nothing.
+    static Machine* recording() noexcept;
+
     DeferredFinalizer& deferredFinalizer() const { return *parts_.deferredFinalizer; }
 
     /// False once the virtual machine has begun to clear its storage.
@@ -66,7 +88,7 @@ public:
     ObjectObserver* observer() const { return observer_; }
 
     /// Has the observer called between the outermost call into the virtual machine and the next one.
-    void requestCallBoundary() { isBoundaryRequested_ = true; }
+    void requestCallBoundary() { isBoundaryRequested_ = isBoundarySlow_ = true; }
 
     /// Destroys what was unpublished (null allowed) as soon as no native code that may still use it is running.
     void retire(std::unique_ptr<Retirable> unpublished) noexcept;
@@ -101,7 +123,7 @@ public:
     private:
         [[gnu::always_inline]] void pass() noexcept
         {
-            if (machine_.isBoundaryRequested_) [[unlikely]]
+            if (machine_.isBoundarySlow_) [[unlikely]]
                 machine_.passCallBoundary();
         }
 
@@ -140,9 +162,12 @@ private:
     HvmStorage storage_;
     std::shared_ptr<FunctionList> functions_ = std::make_shared<FunctionList>(*this);
     RetiredList retired_;
+    OriginTable origins_;
+    OriginRing recordedArrays_;
     ObjectObserver* observer_ = nullptr;
     int entries_ = 0;
     bool isBoundaryRequested_ = false;
+    bool isBoundarySlow_ = false; ///< that, or origins are recorded
     bool isStorageActive_ = true;
     bool isEnding_ = false;
 };

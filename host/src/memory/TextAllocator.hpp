@@ -18,6 +18,14 @@ public:
         return text;
     }
 
+    /// The bytes of a text's memory.
+    template <class Char>
+    static std::size_t memory(std::size_t size)
+    {
+        std::size_t const bytes = (size + 1) * sizeof(Char);
+        return fitsBlock(bytes) ? BlockPool::blockSize : bytes + sizeof(Origin);
+    }
+
     /// Null is allowed.
     static void free(void* text) noexcept
     {

@@ -13,6 +13,8 @@ constinit thread_local ThreadCache* threadCache = nullptr;
 
 namespace {
 
+constinit thread_local ThreadCache* withheldCache = nullptr;
+
 struct alignas(64) ListedCache : ThreadCache {
     bool isTaken = false;
     ListedCache* next = nullptr;
@@ -33,7 +35,7 @@ std::mutex& cachesMutex()
 
 void releaseCache(void* cache)
 {
-    threadCache = nullptr;
+    threadCache = withheldCache = nullptr;
     std::scoped_lock lock(cachesMutex());
     static_cast<ListedCache*>(cache)->isTaken = false;
 }
@@ -89,12 +91,26 @@ ListedCache* takeFree()
 
 ThreadCache& acquireThreadCache() noexcept
 {
+    if (withheldCache)
+        return *withheldCache;
     ListedCache* cache = takeFree();
     for (; !cache; cache = takeFree())
         std::this_thread::yield(); // until another thread ends, or frees memory
     threadCache = cache;
     releaseAtThreadEnd(cache);
     return *cache;
+}
+
+void withholdThreadCache() noexcept
+{
+    withheldCache = &currentThreadCache();
+    threadCache = nullptr;
+}
+
+void restoreThreadCache() noexcept
+{
+    threadCache = &currentThreadCache();
+    withheldCache = nullptr;
 }
 
 LiveCounts liveCounts()

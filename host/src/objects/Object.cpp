@@ -1,8 +1,8 @@
 #include "objects/Object.hpp"
 
 #include "errors/hostError.hpp"
-#include "memory/BlockPool.hpp"
 #include "memory/ThreadCache.hpp"
+#include "memory/allocate.hpp"
 #include "objects/DeferredFinalizer.hpp"
 #include "objects/ObjectClass.hpp"
 
@@ -12,17 +12,6 @@
 #include <utility>
 
 namespace velmara {
-
-inline void* Object::operator new(std::size_t)
-{
-    static_assert(sizeof(Object) <= BlockPool::blockSize);
-    ThreadCache& cache = currentThreadCache();
-    void* block = BlockPool::acquire(cache);
-    if (!block) [[unlikely]]
-        block = allocate(BlockPool::blockSize);
-    ++cache.counts.objects;
-    return block;
-}
 
 inline void Object::operator delete(void* block) noexcept
 {
@@ -40,14 +29,36 @@ inline Object::Object(ObjectClass& cls, std::size_t enumerator)
     cls.objects().add(*this);
 }
 
+inline Object& Object::create(ObjectClass& cls, std::size_t enumerator)
+{
+    static_assert(sizeof(Object) <= BlockPool::blockSize);
+    ThreadCache* const cache = threadCache;
+    if (!cache) [[unlikely]]
+        return createWithoutCache(cls, enumerator);
+    void* block = BlockPool::acquire(*cache);
+    if (!block) [[unlikely]]
+        block = allocate(BlockPool::blockSize);
+    ++cache->counts.objects;
+    return *new (block) Object(cls, enumerator);
+}
+
+Object& Object::createWithoutCache(ObjectClass& cls, std::size_t enumerator)
+{
+    auto& object = *new (allocate(BlockPool::blockSize)) Object(cls, enumerator);
+    ++currentThreadCache().counts.objects;
+    if (Machine* const machine = Machine::recording(); machine == &cls.machine())
+        object.own_.origin = machine->origins().current();
+    return object;
+}
+
 Object& Object::create(ObjectClass& cls)
 {
-    return *new Object(cls);
+    return create(cls, 0);
 }
 
 Object& Object::createEnumerator(ObjectClass& cls, std::size_t enumerator)
 {
-    return *new Object(cls, enumerator + 1);
+    return create(cls, enumerator + 1);
 }
 
 [[gnu::flatten]] void Object::initialize()

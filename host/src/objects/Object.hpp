@@ -1,6 +1,8 @@
 #pragma once
 
+#include "memory/BlockPool.hpp"
 #include "names/InternedName.hpp"
+#include "origins/OriginTable.hpp"
 
 #include "orbis/COSInterface.hpp"
 
@@ -110,6 +112,15 @@ public:
     /// The native object for its own class, null when there is none.
     void const* ownNativeObject() const { return own_.native; }
 
+    /// Where it was created, as its virtual machine's table knows it.
+    OriginTable::Number origin() const { return own_.origin; }
+
+    /// The bytes that the host has allocated for it.
+    std::size_t memory() const
+    {
+        return BlockPool::blockSize + (further_ ? sizeof *further_ + further_->capacity() * sizeof(Slot) : 0);
+    }
+
     /// Calls `visit(className, native)` for each native object that is recorded.
     template <class Visit>
     void forEachNativeObject(Visit const& visit) const
@@ -133,7 +144,8 @@ private:
     struct Slot {
         bool created = false;             ///< by the class's `createInstanceData`, which may have given null
         bool recorded = false;            ///< by that, or by `setNativeObject` since
-        std::uint32_t embedderNumber = 0; ///< of the object: it needs no room here
+        OriginTable::Number origin = 0;   ///< of the object: it needs no room here
+        std::uint32_t embedderNumber = 0; ///< likewise
         Name className = nullptr;
         void* native = nullptr;
 
@@ -144,10 +156,15 @@ private:
         }
     };
 
-    explicit Object(ObjectClass& cls, std::size_t enumerator = 0);
+    Object(ObjectClass& cls, std::size_t enumerator);
     ~Object() = default;
 
-    static void* operator new(std::size_t size);
+    /// `enumerator` is counted from 1 here.
+    static Object& create(ObjectClass& cls, std::size_t enumerator);
+
+    /// The same when the thread has no cache: its origin is recorded where that is wanted.
+    [[gnu::noinline]] static Object& createWithoutCache(ObjectClass& cls, std::size_t enumerator);
+
     static void operator delete(void* block) noexcept;
 
     void finalizeOnce() noexcept;

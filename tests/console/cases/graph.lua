@@ -63,3 +63,4 @@ for _, wrong in ipairs {{5}, {{1, 2}}, {cases}, {"x"}, {probe, {depth = -1}}, {p
   print(select(2, pcall(graph, table.unpack(wrong))))
 end
 print(graph {} == graph(array("cell", {})), select("#", graph()))
+probe.value = null -- it held itself
