@@ -14,7 +14,6 @@ struct LiveCounts {
     std::int64_t descriptors = 0; ///< method, property and package infos, signatures, data types, conversions
     std::int64_t heldNames = 0;   ///< `COSNameID`s; a name that is only interned does not count
 
-    /// True when all counts are the same.
     bool operator==(LiveCounts const&) const = default;
 };
 
