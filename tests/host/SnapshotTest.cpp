@@ -112,9 +112,9 @@ TEST_F(SnapshotTest, RecordsOnEachThreadAndForOneMachine)
         outliving = number(1);
         std::thread([&] {
             Hvm::Scope const inThread(*ending);
-            given = ending->construct("A");
             outliving = number(2); // frees what another thread created
         }).join();
+        std::thread([&] { given = ending->construct("A"); }).join();
         EXPECT_EQ(text(ending->snapshot()), "A s:1 1 1 1 176\ndouble s:1 0 0 1 88\n");
         Hvm::Scope const unrecorded(hvm());
         other = number(3);

@@ -64,9 +64,9 @@ public:
     /// origins is lacking, none is recorded. Arrays are recorded of which this virtual machine is the current one.
     void recordOrigins(OriginSource source);
 
-    /// Counts what is alive by class and origin. The bytes are those that the host has allocated itself: for each object
-    /// and array, for arrays' elements, shared ones once, and for longer texts in them. The memory of native objects is
-    /// not known, and that of descriptions, and of the record of origins, is not counted.
+    /// Counts what is alive by class and origin. The bytes are those that the host has allocated itself: for each
+    /// object and array, for arrays' elements, shared ones once, and for longer texts in them. The memory of native
+    /// objects is not known, and that of descriptions, and of the record of origins, is not counted.
     Snapshot snapshot() const;
 
     /// Makes a virtual machine current on this thread, and the one before current again at its end, unless that has

@@ -233,8 +233,8 @@ private:
     /// True when no one but cells holds the array.
     bool belongsToCells() const { return referenceCount() == cellsAround_; }
 
-    /// Beside the number of references: an `OriginLink` is in the memory behind the array. So the last reference of such
-    /// an array leaves no zero, and others need no test of it.
+    /// Beside the number of references: an `OriginLink` is in the memory behind the array. So the last reference of
+    /// such an array leaves no zero, and others need no test of it.
     static constexpr std::uint32_t recordedFlag = 0x80000000;
 
     std::uint32_t referenceCount() const { return references_ & ~recordedFlag; }

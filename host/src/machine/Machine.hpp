@@ -62,8 +62,8 @@ public:
             withholdThreadCache();
     }
 
-    /// The one that is current on this thread, if it records origins; else null. For those who create something and find
-    /// no thread's cache, which is restored when it is withheld for nothing.
+    /// The one that is current on this thread, if it records origins; else null. For those who create something and
+    /// find no thread's cache, which is restored when it is withheld for nothing.
     static Machine* recording() noexcept;
 
     DeferredFinalizer& deferredFinalizer() const { return *parts_.deferredFinalizer; }

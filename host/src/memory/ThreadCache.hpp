@@ -26,8 +26,8 @@ extern constinit thread_local ThreadCache* threadCache;
 /// Gives the calling thread its cache for the rest of its life. One that is withheld stays so.
 ThreadCache& acquireThreadCache() noexcept;
 
-/// Has `threadCache` be null from now on: whoever creates something on this thread then takes the way of those that have
-/// no cache, where there is time for more than that.
+/// Has `threadCache` be null from now on: whoever creates something on this thread then takes the way of those that
+/// have no cache, where there is time for more than that.
 void withholdThreadCache() noexcept;
 void restoreThreadCache() noexcept;
 
