@@ -10,6 +10,7 @@
 #include "bindings/SnapshotFunctions.hpp"
 #include "help/HelpFunctions.hpp"
 #include "lua/ScriptError.hpp"
+#include "pictures/GraphFunction.hpp"
 #include "prompt/Prompt.hpp"
 #include "reference/Site.hpp"
 #include "reference/Stubs.hpp"
@@ -52,6 +53,7 @@ void prepare(lua_State* L, Run const& run)
     bindSnapshotFunctions(L);
     bindObjectText(L);
     bindShowFunction(L);
+    bindGraphFunction(L, run.line.isRestricted);
     bindEnumerationFunction(L);
     bindTimedCalls(L);
     bindHelpFunctions(L);

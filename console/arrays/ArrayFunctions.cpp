@@ -78,11 +78,15 @@ int asArray(lua_State* L)
         fail("asarray", "asarray takes a method or function of the host and its inputs, or an object and the name of "
                         "a property, not " +
                             kindAt(L, 1));
-    KeptResult const kept(L);
-    if (isRead)
-        lua_gettable(L, 1);
-    else
-        lua_call(L, lua_gettop(L) - 1, 1);
+    {
+        KeptResult const kept(L);
+        if (isRead)
+            lua_gettable(L, 1);
+        else
+            lua_call(L, lua_gettop(L) - 1, 1);
+    }
+    if (hvArray_tag const* const array = testHostArray(L, -1))
+        stepCollector(L, *array); // which has stood still
     return 1;
 }
 

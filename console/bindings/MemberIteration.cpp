@@ -3,7 +3,6 @@
 #include "bindings/MemberRecords.hpp"
 #include "handles/HostContext.hpp"
 #include "handles/HostObject.hpp"
-#include "handles/Proxy.hpp"
 #include "lua/ScriptError.hpp"
 #include "lua/Table.hpp"
 
@@ -20,8 +19,8 @@ bool pushNext(lua_State* L)
     return lua_rawgeti(L, lua_upvalueindex(1), index) != LUA_TNIL;
 }
 
-/// The object is the state of the iteration.
-int nextProperty(lua_State* L)
+/// What has the names is the state of the iteration.
+int nextName(lua_State* L)
 {
     if (!pushNext(L))
         return 1;
@@ -58,13 +57,18 @@ int iterateProperties(lua_State* L)
     for (PropertyRecord const& property : cls.properties)
         if (property.isVisible && !property.isStatic && isReadable(property))
             names.push_back(property.name);
-    pushSequence(L, names.size(), [&](std::size_t i) { pushText(L, names[i]); });
-    return pushIteration(L, guarded<nextProperty>);
+    return iterateNames(L, names);
 }
 
-int iterateMembers(lua_State* L)
+int iterateNames(lua_State* L, std::vector<std::string> const& names)
 {
-    pushMembers(L, HostContext::of(L).hvm().describeClass(proxyName(L, 1)));
+    pushSequence(L, names.size(), [&](std::size_t i) { pushText(L, names[i]); });
+    return pushIteration(L, guarded<nextName>);
+}
+
+int iterateMembers(lua_State* L, ClassRecord const& cls)
+{
+    pushMembers(L, cls);
     return pushIteration(L, guarded<nextMember>);
 }
 

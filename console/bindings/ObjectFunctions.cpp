@@ -1,6 +1,7 @@
 #include "bindings/ObjectFunctions.hpp"
 
 #include "bindings/ObjectListing.hpp"
+#include "handles/ContainedObjects.hpp"
 #include "handles/HostArray.hpp"
 #include "handles/HostObject.hpp"
 #include "handles/Proxy.hpp"
@@ -9,12 +10,8 @@
 #include "values/HostCall.hpp"
 #include "values/ValueToHost.hpp"
 
-#include "host_extensions/host_extensions.hpp"
-#include "orbis/objectArrays.hpp"
-
 #include <string>
 #include <unordered_set>
-#include <vector>
 
 namespace velmara::console {
 
@@ -52,24 +49,6 @@ int classOf(lua_State* L)
     else
         pushText(L, lua_isnil(L, 1) ? "nil" : classOfValue(L));
     return 1;
-}
-
-/// Calls `visit` with each object in an array, in the cells of one, and in their cells.
-template <class Visit>
-void visitObjects(hvArray_tag const* array, Visit const& visit)
-{
-    std::vector<hvArray_tag const*> open{array};
-    std::unordered_set<void const*> seen; // cells may hold the same cells many times over
-    while (!open.empty()) {
-        hvArray_tag const* const next = open.back();
-        open.pop_back();
-        hvClassID const classID = next ? next->_get_class_id_non_trivial() : hvUNKNOWN_CLASS;
-        for (std::size_t i = 0; classID == hvOBJECT_CLASS && i < next->get_number_of_elements(); ++i)
-            visit(static_cast<orbis::COSInterface*>(orbis::omGetArrayElement(next, i)));
-        if (classID == hvCELL_CLASS && seen.insert(next).second)
-            for (std::size_t i = 0; i < next->get_number_of_elements(); ++i)
-                open.push_back(orbis::host_extensions::getCell(next, i));
-    }
 }
 
 /// Throws for objects that native code, which waits for a function of the script, was called with or has passed on.

@@ -11,6 +11,8 @@
 #include "text/CloseMatches.hpp"
 #include "values/HostCall.hpp"
 
+#include <algorithm>
+
 namespace velmara::console {
 
 namespace {
@@ -146,22 +148,16 @@ int showProxy(lua_State* L)
 int iterateProxy(lua_State* L)
 {
     std::string const name(proxyName(L, 1));
-    if (checkKind(L, nameRecord(L)) == NameKind::Class && !HostContext::of(L).hvm().describeClass(name).isEnumeration)
-        return iterateMembers(L);
-    lua_getglobal(L, "next");
-    lua_newtable(L);
-    if (checkKind(L, nameRecord(L)) == NameKind::Class)
-        for (EnumeratorRecord const& enumerator : HostContext::of(L).hvm().describeClass(name).enumerators) {
-            HostCall call(L);
-            call.finish(call.hvm().getEnumerator(name, enumerator.name));
-            lua_setfield(L, -2, enumerator.name.c_str());
-        }
-    else
-        for (std::string const& part : packageContents(HostContext::of(L).hvm().describePackage(name)))
-            if (pushName(L, std::string(name).append(1, '.').append(part)))
-                lua_setfield(L, -2, part.c_str());
-    lua_pushnil(L);
-    return 3;
+    Hvm& hvm = HostContext::of(L).hvm();
+    if (checkKind(L, nameRecord(L)) != NameKind::Class)
+        return iterateNames(L, packageContents(hvm.describePackage(name)));
+    ClassRecord const cls = hvm.describeClass(name);
+    if (!cls.isEnumeration)
+        return iterateMembers(L, cls);
+    std::vector<std::string> names;
+    for (EnumeratorRecord const& enumerator : cls.enumerators)
+        names.push_back(enumerator.name);
+    return iterateNames(L, names);
 }
 
 /// A global that the script has not set, and that is not known yet: the known ones are at 1.
@@ -234,6 +230,8 @@ std::vector<std::string> packageContents(PackageRecord const& package)
         names.push_back(unqualifiedName(name));
     for (MethodRecord const& function : package.functions)
         names.push_back(unqualifiedName(function.name));
+    std::ranges::sort(names);
+    names.erase(std::ranges::unique(names).begin(), names.end());
     return names;
 }
 

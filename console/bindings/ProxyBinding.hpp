@@ -12,7 +12,7 @@ namespace velmara::console {
 /// "Adder" for "package.Adder".
 std::string unqualifiedName(std::string const& fullName);
 
-/// The unqualified names of all packages, classes and functions in the package.
+/// The unqualified names of all packages, classes and functions in the package, each once, by the alphabet.
 std::vector<std::string> packageContents(PackageRecord const& package);
 
 /// Gives the proxies of packages and classes their members, and makes what is published at the top level readable as

@@ -44,6 +44,15 @@ public:
         return array;
     }
 
+    /// Calls `visit` with each array, which must hold and release none meanwhile.
+    template <class Visit>
+    void forEach(Visit const& visit) const
+    {
+        for (Slot const& slot : slots_)
+            if (slot.array)
+                visit(slot.array);
+    }
+
     /// Releases what is still held. No value of the script may be alive.
     void clear() noexcept
     {

@@ -27,15 +27,6 @@ int releaseArray(lua_State* L)
     return 0;
 }
 
-/// Lua counts a few bytes for an array, and would collect unused ones far too late.
-void stepCollector(lua_State* L, hvArray_tag const& array)
-{
-    std::size_t const bytes = array.get_number_of_elements() * memoryOfElement(array._get_class_id_non_trivial());
-    constexpr std::size_t maxStep = std::numeric_limits<int>::max() / 1024;
-    if (bytes >= 1024 && lua_gc(L, LUA_GCISRUNNING))
-        lua_gc(L, LUA_GCSTEP, static_cast<int>(std::min(bytes / 1024, maxStep)));
-}
-
 } // namespace
 
 void pushArrayMetatable(lua_State* L)
@@ -46,6 +37,14 @@ void pushArrayMetatable(lua_State* L)
         setField(L, "__metatable", "array");
         setField(L, "__name", "host array"); // in Lua's own errors
     });
+}
+
+void stepCollector(lua_State* L, hvArray_tag const& array)
+{
+    std::size_t const bytes = array.get_number_of_elements() * memoryOfElement(array._get_class_id_non_trivial());
+    constexpr std::size_t maxStep = std::numeric_limits<int>::max() / 1024;
+    if (bytes >= 1024 && lua_gc(L, LUA_GCISRUNNING))
+        lua_gc(L, LUA_GCSTEP, static_cast<int>(std::min(bytes / 1024, maxStep)));
 }
 
 void pushHostArray(lua_State* L, hvArray_tag const& array)

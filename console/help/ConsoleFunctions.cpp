@@ -24,6 +24,10 @@ constexpr ConsoleFunction functions[] = {
      "second."},
     {"enumeration", "enumeration(name, enumerators)",
      "Publishes an enumeration: its enumerators are names, or pairs of name and integer."},
+    {"graph", "graph(x, options)",
+     "Objects and what their properties refer to as a picture: as text for Graphviz, or as SVG. x is an object, or a "
+     "table or an array of objects; without it: all live objects. The options are a table with depth, limit, "
+     "properties, superclasses, handles, format (\"dot\" or \"svg\") and file."},
     {"help", "help(x)",
      "Explains a package, a class, an object, a method, a function, any value, or what a name in quotes means. "
      "Without x: all of the console."},

@@ -1,30 +1,12 @@
 #include "help/Enumerations.hpp"
 
 #include "bindings/MemberRecords.hpp"
+#include "help/TypeNames.hpp"
 #include "text/Paragraph.hpp"
-
-#include <algorithm>
-#include <cctype>
-#include <set>
 
 namespace velmara::console {
 
 namespace {
-
-using TypeNames = std::set<std::string>;
-
-/// The names in a data type: "palette.Color" in "palette.Color vector".
-void addTypeNames(std::string const& dataType, TypeNames& names)
-{
-    auto const isPart = [](unsigned char c) { return std::isalnum(c) != 0 || c == '_' || c == '.'; };
-    for (auto begin = dataType.begin(); begin != dataType.end();) {
-        begin = std::find_if(begin, dataType.end(), isPart);
-        auto const end = std::find_if_not(begin, dataType.end(), isPart);
-        if (begin != end)
-            names.emplace(begin, end);
-        begin = end;
-    }
-}
 
 void addTypeNames(std::vector<MethodRecord> const& methods, std::string_view name, TypeNames& names)
 {
@@ -32,9 +14,9 @@ void addTypeNames(std::vector<MethodRecord> const& methods, std::string_view nam
         if (!isListed(method) || (!name.empty() && method.name != name))
             continue;
         for (ParameterRecord const& parameter : parametersOf(method))
-            addTypeNames(parameter.dataType, names);
+            names.merge(namesIn(parameter.dataType));
         for (ParameterRecord const& result : method.outputs)
-            addTypeNames(result.dataType, names);
+            names.merge(namesIn(result.dataType));
     }
 }
 
@@ -62,7 +44,7 @@ std::string enumerationsText(Hvm& hvm, ClassRecord const& cls, std::string_view 
     addTypeNames(cls.methods, member, names);
     for (PropertyRecord const& property : cls.properties)
         if (isListed(property) && (member.empty() || property.name == member))
-            addTypeNames(property.dataType, names);
+            names.merge(namesIn(property.dataType));
     return text(hvm, names, cls.name);
 }
 

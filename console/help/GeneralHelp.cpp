@@ -28,6 +28,7 @@ char const* const generalHelp = R"(velmara runs Lua 5.4 scripts that use the cla
   class(x) isvalid(x) delete(x)      the class of x; is it alive; end it now
   objects()                          all live objects: owners, references
   references(x)                      what the properties of x refer to
+  graph(x) graph()                   x, or all objects, as a picture: help(graph)
   each(list, f)                      f(element, index) for each; how far it is
   time(f, ...)                       the seconds that f(...) took, its results
   modules() loadmodule(path) unloadmodule(name)     these and withvm are not

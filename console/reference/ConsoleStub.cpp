@@ -64,6 +64,16 @@ local array_methods = {}
 ---@field weak integer
 ---@field native boolean
 
+--- What the picture of `graph` shows, and how.
+---@class velmara.graph
+---@field depth? integer # how many properties away from the given objects there are boxes
+---@field limit? integer # more objects than that are summed up by class
+---@field properties? integer # how many of them are written into a box
+---@field superclasses? boolean
+---@field handles? boolean
+---@field format? "dot"|"svg"
+---@field file? string
+
 --- What is alive, as `snapshot` tells.
 ---@class velmara.snapshot: { [integer]: velmara.growth }
 ---@operator sub(velmara.snapshot): velmara.snapshot
@@ -95,6 +105,10 @@ constexpr Annotated functions[] = {
     {"enumeration",
      "---@param name string\n---@param enumerators (string|{ [1]: string, [2]: integer })[]\n---@return any\n",
      "name, enumerators"},
+    {"graph",
+     "---@param x? any # an object, or a table or an array of objects\n---@param options? velmara.graph\n"
+     "---@return string? # nothing when a file is written\n---@overload fun(options: velmara.graph): string?\n",
+     "x, options"},
     {"help", "---@param x? any\n", "x"},
     {"isvalid", "---@param x any\n---@return boolean\n", "x"},
     {"linspace", "---@param first number\n---@param last number\n---@param count integer\n---@return velmara.array\n",

@@ -231,6 +231,12 @@ TEST_F(ObjectTest, LiveObjectsAreListedWithWhoHoldsThem)
     std::ranges::transform(listed, lines.begin(), line);
     EXPECT_EQ(lines, (std::vector<std::string>{"A 020hyy", "A 111hyy", "B 010hnn"}));
     EXPECT_EQ(listed.front().nativeObject, objectIn(first)->getNativeObject("A"));
+    std::vector<orbis::COSInterface const*> visited;
+    hvm().forEachObject([&](orbis::COSInterface& object, velmara::ObjectRecord const& record) {
+        EXPECT_EQ(line(record), lines.at(visited.size()));
+        visited.push_back(&object);
+    });
+    EXPECT_EQ(visited, (decltype(visited){objectIn(first), objectIn(second), objectIn(b)}));
     hvm().deleteObjects(first.get());
     EXPECT_EQ(hvm().objects().size(), 2U);
 }

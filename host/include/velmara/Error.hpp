@@ -13,15 +13,16 @@ namespace velmara {
 
 /// A value that goes with an error.
 struct ErrorField {
-    std::string name;
+    std::string name;                         ///< by which scripts read it
     std::shared_ptr<hvArray_tag const> value; ///< of the virtual machine in which the error arose; null for none
 };
 
 /// A script error: what every failure inside the host or a module becomes. `what()` is "identifier: text" (UTF-8).
 class VELMARA_API Error : public std::exception {
 public:
+    /// An error of that identifier ("component:catalog:key") and text (UTF-8).
     Error(std::string identifier, std::string text);
-    Error(std::string identifier, std::string text, std::vector<ErrorField> fields);
+    Error(std::string identifier, std::string text, std::vector<ErrorField> fields); ///< The same, with values.
 
     /// The same error, with the one that led to it.
     Error(Error const& error, std::shared_ptr<Error const> cause);
@@ -32,10 +33,10 @@ public:
     /// made, asking for it takes none.
     static Error const& outOfMemory();
 
-    std::string const& identifier() const;
-    std::string const& text() const;
-    char const* what() const noexcept override;
-    std::vector<ErrorField> const& fields() const;
+    std::string const& identifier() const;         ///< such as "VELMARA:dispatch:noMatch"
+    std::string const& text() const;               ///< without the identifier
+    char const* what() const noexcept override;    ///< both, as long as the error lives
+    std::vector<ErrorField> const& fields() const; ///< the values that go with it
 
     /// The error that led to this one, where native code nested exceptions; else null.
     Error const* cause() const;

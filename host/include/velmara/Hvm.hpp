@@ -19,6 +19,7 @@
 #include <span>
 #include <string_view>
 
+/// Drives the host: virtual machines, calls, and what is known of all that is published.
 namespace velmara {
 
 class HvmState;
@@ -30,6 +31,7 @@ class HvmState;
 /// Inputs stay the caller's; results are the caller's.
 class VELMARA_API Hvm {
 public:
+    /// The arguments of a call, in order; null for `nil`.
     using Inputs = std::span<hvArray_tag* const>;
 
     /// Inputs that need no array where they are scalars. The arrays in them stay the caller's.
@@ -71,6 +73,7 @@ public:
     /// ended meanwhile.
     class VELMARA_API Scope {
     public:
+        /// Makes `hvm` current, until the scope ends.
         explicit Scope(Hvm& hvm);
         Scope(Scope const&) = delete;
         Scope& operator=(Scope const&) = delete;
@@ -93,11 +96,11 @@ public:
 
     /// Runs `VXTerminate_NAME`. The module's code stays mapped until the virtual machine has ended.
     void unloadModule(std::string_view name);
-    std::vector<ModuleRecord> modules() const;
+    std::vector<ModuleRecord> modules() const; ///< the loaded ones
 
     /// A new object of the class as a 1-by-1 array.
     ArrayPtr construct(std::string_view className, Inputs inputs = {});
-    ArrayPtr construct(MemberName& cls, Values inputs, Failure& failure);
+    ArrayPtr construct(MemberName& cls, Values inputs, Failure& failure); ///< see `Failure`
 
     /// A new object, constructed from `object` (an object array of one element) with the constructor of its class that
     /// takes such an object; also of a class whose objects are not constructed from outside.
@@ -108,22 +111,27 @@ public:
 
     /// Calls a method of `object` (an object array; its first element is meant). A null result when there is none.
     ArrayPtr call(hvArray_tag* object, std::string_view method, Inputs inputs = {});
-    Value call(hvArray_tag* object, MemberName& method, Values inputs, Failure& failure);
+    Value call(hvArray_tag* object, MemberName& method, Values inputs, Failure& failure); ///< see `Failure`
+
+    /// Calls a static method, and a function of a package, likewise.
     ArrayPtr callStatic(std::string_view className, std::string_view method, Inputs inputs = {});
-    Value callStatic(MemberName& method, Values inputs, Failure& failure);
-    ArrayPtr callFunction(std::string_view fullName, Inputs inputs = {});
-    Value callFunction(MemberName& function, Values inputs, Failure& failure);
+    Value callStatic(MemberName& method, Values inputs, Failure& failure);     ///< see `Failure`
+    ArrayPtr callFunction(std::string_view fullName, Inputs inputs = {});      ///< the function of that dotted name
+    Value callFunction(MemberName& function, Values inputs, Failure& failure); ///< see `Failure`
 
     /// Calls a function value (host_extensions/functionValues.hpp), likewise.
     ArrayPtr callFunction(hvArray_tag* function, Inputs inputs = {});
 
     /// Reads and writes a property of `object`, likewise. `value` stays the caller's.
     ArrayPtr get(hvArray_tag* object, std::string_view property);
-    Value get(hvArray_tag* object, MemberName& property, Failure& failure);
-    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value);
-    void set(hvArray_tag* object, MemberName& property, orbis::COSValue const& value, Failure& failure);
+    Value get(hvArray_tag* object, MemberName& property, Failure& failure);       ///< see `Failure`
+    void set(hvArray_tag* object, std::string_view property, hvArray_tag* value); ///< likewise
+    void set(hvArray_tag* object, MemberName& property, orbis::COSValue const& value,
+             Failure& failure); ///< see `Failure`
+
+    /// Reads and writes a static property, likewise.
     ArrayPtr getStatic(std::string_view className, std::string_view property);
-    void setStatic(std::string_view className, std::string_view property, hvArray_tag* value);
+    void setStatic(std::string_view className, std::string_view property, hvArray_tag* value); ///< likewise
 
     /// The objects that the first object of an array refers to through properties that may be read, by their names.
     std::vector<Reference> references(hvArray_tag* object);
@@ -144,13 +152,19 @@ public:
     /// long as the virtual machine.
     std::uint64_t const& publicationNumber() const noexcept;
 
+    /// What a dotted name stands for, and what is published by it. Packages on the way are populated. The descriptions
+    /// throw an `Error` when nothing of that kind has the name.
     NameKind lookUp(std::string_view fullName);
     PackageRecord describePackage(std::string_view fullName); ///< "" for the top level
-    ClassRecord describeClass(std::string_view fullName);
-    MethodRecord describeFunction(std::string_view fullName);
+    ClassRecord describeClass(std::string_view fullName);     ///< with inherited members
+    MethodRecord describeFunction(std::string_view fullName); ///< the first overload
 
     /// The objects that have not ended: by the packages' and classes' order of publication, each class's oldest first.
     std::vector<ObjectRecord> objects() const;
+
+    /// Calls `visit` with each of them, in the same order, without a copy of its record. In `visit` nothing of the
+    /// virtual machine may be used; whoever uses an object later holds it.
+    void forEachObject(std::function<void(orbis::COSInterface& object, ObjectRecord const& record)> const& visit) const;
 
 private:
     friend class Scope;

@@ -18,16 +18,16 @@ public:
     {
     }
 
-    std::string const& owner() const { return owner_; }
-    std::string const& member() const { return member_; }
+    std::string const& owner() const { return owner_; }   ///< a class, or a function
+    std::string const& member() const { return member_; } ///< empty for the owner itself
 
     /// For virtual machines: what it meant at a `publicationNumber`. Neither pointer is valid at another one.
     struct Meaning {
-        std::uint64_t publication = 0;
-        void* cls = nullptr;
-        void const* member = nullptr;
+        std::uint64_t publication = 0; ///< the number at which the pointers were found
+        void* cls = nullptr;           ///< the class
+        void const* member = nullptr;  ///< the overloads or the property
     };
-    Meaning& meaning() { return meaning_; }
+    Meaning& meaning() { return meaning_; } ///< to be read and written by virtual machines only
 
 private:
     std::string owner_;

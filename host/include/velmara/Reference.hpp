@@ -8,8 +8,8 @@ namespace velmara {
 
 /// An object that another object refers to through a property.
 struct Reference {
-    std::string property;
-    ArrayPtr object; ///< 1-by-1
+    std::string property; ///< its name
+    ArrayPtr object;      ///< 1-by-1
 };
 
 } // namespace velmara

@@ -20,6 +20,8 @@ public:
 
     /// Takes ownership of the array in `slot`, where it holds one.
     explicit Value(orbis::COSValue slot) noexcept : slot_(slot) {}
+
+    /// Takes ownership of the array; null gives nothing.
     explicit Value(ArrayPtr array, ValueShape shape = ValueShape::Plain) noexcept
         : slot_(array.release()),
           shape_(shape)
@@ -41,7 +43,7 @@ public:
 
     /// The array in it stays this value's.
     orbis::COSValue const& slot() const { return slot_; }
-    ValueShape shape() const { return shape_; }
+    ValueShape shape() const { return shape_; } ///< how a signature means the array
 
     /// The array, null where it holds none; this becomes empty.
     ArrayPtr releaseArray() noexcept { return ArrayPtr(std::exchange(slot_, orbis::COSValue()).array()); }

@@ -188,25 +188,27 @@ MethodRecord recordFunction(Machine& machine, std::string_view fullName)
     return record(*group->methods.front());
 }
 
-ObjectRecord record(Object const& object, std::string const& owner)
+using ObjectVisit = std::function<void(orbis::COSInterface&, ObjectRecord const&)>;
+
+void visitObjects(Class& cls, ObjectVisit const& visit)
 {
-    return {.className = object.className()->string(),
-            .owner = owner,
-            .isValid = object.isValid(),
-            .externalReferences = object.getExternalReferenceCount(),
-            .internalReferences = object.getInternalReferenceCount(),
-            .weakReferences = object.weakReferenceCount(),
-            .nativeObject = object.ownNativeObject()};
+    ObjectRecord record{.className = cls.name()->string(), .owner = ownerOf(cls.info())};
+    cls.objects().forEach([&](Object& object) {
+        record.isValid = object.isValid();
+        record.externalReferences = object.getExternalReferenceCount();
+        record.internalReferences = object.getInternalReferenceCount();
+        record.weakReferences = object.weakReferenceCount();
+        record.nativeObject = object.ownNativeObject();
+        visit(object, record);
+    });
 }
 
-void addObjects(Package const& package, std::vector<ObjectRecord>& listed)
+void visitObjects(Package const& package, ObjectVisit const& visit)
 {
-    for (auto const& cls : package.classes()) {
-        std::string const owner = ownerOf(cls->info());
-        cls->objects().forEach([&](Object const& object) { listed.push_back(record(object, owner)); });
-    }
+    for (auto const& cls : package.classes())
+        visitObjects(*cls, visit);
     for (auto const& inner : package.packages())
-        addObjects(*inner, listed);
+        visitObjects(*inner, visit);
 }
 
 } // namespace
@@ -238,11 +240,14 @@ MethodRecord Hvm::describeFunction(std::string_view fullName)
 
 std::vector<ObjectRecord> Hvm::objects() const
 {
-    return callInto(*state_, [&] {
-        std::vector<ObjectRecord> listed;
-        addObjects(state_->packages().root(), listed);
-        return listed;
-    });
+    std::vector<ObjectRecord> listed;
+    forEachObject([&](orbis::COSInterface&, ObjectRecord const& record) { listed.push_back(record); });
+    return listed;
+}
+
+void Hvm::forEachObject(ObjectVisit const& visit) const
+{
+    callInto(*state_, [&] { visitObjects(state_->packages().root(), visit); });
 }
 
 } // namespace velmara

@@ -66,7 +66,7 @@ void requireObjectArray(hvArray_tag const* array);
 
 /// The object that an object array means for calls: its first one, or null where that is null or missing. Throws
 /// for what is no object array, and for an object that cannot be used.
-inline Object* requireObject(Machine& machine, hvArray_tag* array)
+[[gnu::always_inline]] inline Object* requireObject(Machine& machine, hvArray_tag* array)
 {
     if (!array || Array::of(array)->classID() != hvOBJECT_CLASS) [[unlikely]]
         requireObjectArray(array);

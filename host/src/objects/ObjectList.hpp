@@ -38,7 +38,7 @@ public:
     template <class Visit>
     void forEach(Visit const& visit) const
     {
-        Object const* object = first_;
+        Object* object = first_;
         while (object && object->next_)
             object = object->next_;
         for (; object; object = object->previous_)

@@ -15,32 +15,40 @@ namespace orbis::factory {
 /// The description of a class: a plain value that can be inspected without a host.
 class ORBIS_FACTORY_API ClassDescription {
 public:
+    /// Without members.
     explicit ClassDescription(NativeClassRecord const& native);
     ClassDescription(ClassDescription const&);
     virtual ~ClassDescription();
 
-    char const* hostName() const;
-    NativeClassRecord const& native() const;
+    char const* hostName() const;            ///< full dotted name
+    NativeClassRecord const& native() const; ///< the class itself
 
     /// Direct superclasses, in the order of description.
     std::vector<NativeClassRecord> const& superclasses() const;
-    std::vector<MemberRecord> const& members() const;
-    std::vector<PropertyRecord> const& properties() const;
+    std::vector<MemberRecord> const& members() const;      ///< constructors and methods, in the order of description
+    std::vector<PropertyRecord> const& properties() const; ///< in the order of description
 
     /// How objects are copied; null when they are not.
     detail::Copying const* copying() const;
 
 protected:
+    /// For `ClassDescriber`: append superclasses, callable members and properties.
     void add(NativeClassRecord const& superclass);
-    void add(MemberRecord record);
+    void add(MemberRecord record); ///< a callable member
+
+    /// A callable member by its parts.
     void add(detail::CallableForm const& form, char const* name, impl::Callable target, char const* parameterNames,
              MethodText text);
-    void add(std::vector<MemberRecord> records);
+    void add(std::vector<MemberRecord> records); ///< a callable member with the overloads that its default values make
+
+    /// A property; a form is null where it is not read, or not written.
     void add(char const* name, detail::GetterForm const* getterForm, impl::Callable getter,
              detail::SetterForm const* setterForm, impl::Callable setter, PropertyText text);
 
     /// The functors of the last property.
     void keep(detail::KeptObject const& getter, detail::KeptObject const& setter);
+
+    /// `copying` lives as long as the process, or the library that describes.
     void setCopying(detail::Copying const& copying);
 
 private:

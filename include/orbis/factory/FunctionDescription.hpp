@@ -16,11 +16,12 @@ public:
     FunctionDescription(FunctionDescription const&);
     ~FunctionDescription();
 
-    std::vector<MemberRecord> const& functions() const;
+    std::vector<MemberRecord> const& functions() const; ///< in the order of description
 
 protected:
+    /// For `FunctionDescriber`: append a function, or one with the overloads that its default values make.
     void add(MemberRecord record);
-    void add(std::vector<MemberRecord> records);
+    void add(std::vector<MemberRecord> records); ///< likewise
 
 private:
     std::vector<MemberRecord> functions_;

@@ -23,6 +23,7 @@
 #include <type_traits>
 #include <typeinfo>
 
+/// Publishes native C++ classes as classes of the host. `Module` and `ClassDescriber` do for most modules.
 namespace orbis::factory {
 
 namespace detail {
@@ -93,8 +94,8 @@ public:
     Module& operator=(Module const&) = delete;
     ~Module();
 
-    COSPackage& package() { return package_; }
-    std::string const& fullName() const { return fullName_; }
+    COSPackage& package() { return package_; } ///< to which class infos can be added, see `COSPackage::addClass`
+    std::string const& fullName() const { return fullName_; } ///< of the package, dotted
 
     /// Publishes the class `T` under a name without dots, with a text for users. The result takes its members, one line
     /// each, until the package is complete; see `ClassDescriber`. Without a constructor, scripts cannot create objects.
@@ -124,6 +125,7 @@ public:
         return *this;
     }
 
+    /// The same, with default values of the last parameters: `withDefaults(...)`.
     template <class F, class... D>
     Module& function(char const* name, F callable, ParameterNames<detail::CallableTraits<F>::arity> names,
                      Defaults<D...> const& defaults, char const* text = "")

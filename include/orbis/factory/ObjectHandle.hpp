@@ -30,7 +30,7 @@ template <class T>
 class ObjectHandle : public H_ck {
 public:
     ObjectHandle() = default;
-    explicit ObjectHandle(T* object) { reset(object); }
+    explicit ObjectHandle(T* object) { reset(object); } ///< see `reset`
     ObjectHandle(ObjectHandle const& other) : ObjectHandle(other.get()) {}
 
     ObjectHandle& operator=(ObjectHandle const& other)
@@ -62,11 +62,11 @@ public:
 
     /// Returns the target; null when the handle reads as empty or when its virtual machine is not current.
     T* get() const { return object_ && detail::isHeldBy(this, object_) ? object_ : nullptr; }
-    explicit operator bool() const { return get() != nullptr; }
+    explicit operator bool() const { return get() != nullptr; } ///< false when it reads as empty
 
     /// Precondition: the handle does not read as empty.
     T* operator->() const { return object_; }
-    T& operator*() const { return *object_; }
+    T& operator*() const { return *object_; } ///< likewise
 
     /// Compares addresses only: true for the object that was last set, even while or after that object is destroyed.
     bool operator==(T const* object) const { return object_ == object; }

@@ -13,6 +13,7 @@ class ParameterNames {
 public:
     ParameterNames() = default;
 
+    /// Does not compile when `names` has more than the parameters, or parentheses that do not match.
     consteval ParameterNames(char const* names) : text_(names)
     {
         std::size_t count = *names ? 1 : 0;

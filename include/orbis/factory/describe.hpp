@@ -16,17 +16,17 @@
 
 namespace orbis::factory {
 
-/// Defined in withDefaults.hpp.
+// Defined in withDefaults.hpp.
 template <class... D>
 class Defaults;
 
-/// Defined in Implemented.hpp.
+// Defined in Implemented.hpp.
 template <class T>
 class Implemented;
 
 namespace detail {
 
-/// Defined in Implemented.hpp, like the record.
+// Defined in Implemented.hpp, like the record.
 template <class T, class S, class... A>
 consteval Refusal implementationRefusal();
 
@@ -99,18 +99,21 @@ public:
         return *this;
     }
 
+    /// The same, with a text and attributes.
     template <class... A>
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, MethodText text, MethodAttributes attributes)
     {
         return constructor<A...>(names, text + attributes);
     }
 
+    /// The same, with attributes alone.
     template <class... A>
     ClassDescriber& constructor(MethodAttributes attributes)
     {
         return constructor<A...>({}, MethodText(attributes));
     }
 
+    /// The same, with default values of the last parameters: `withDefaults(...)`.
     template <class... A, class... D>
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults,
                                 MethodText text = {})
@@ -127,6 +130,7 @@ public:
         return *this;
     }
 
+    /// The same, with attributes too.
     template <class... A, class... D>
     ClassDescriber& constructor(ParameterNames<sizeof...(A)> names, Defaults<D...> const& defaults, MethodText text,
                                 MethodAttributes attributes)
@@ -163,18 +167,21 @@ public:
         return *this;
     }
 
+    /// The same, with a text and attributes.
     template <class F>
     ClassDescriber& method(char const* name, F function, Names<F> names, MethodText text, MethodAttributes attributes)
     {
         return method(name, function, names, text + attributes);
     }
 
+    /// The same, with attributes alone.
     template <class F>
     ClassDescriber& method(char const* name, F function, MethodAttributes attributes)
     {
         return method(name, function, {}, MethodText(attributes));
     }
 
+    /// The same, with default values of the last parameters: `withDefaults(...)`.
     template <class F, class... D>
     ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
                            MethodText text = {})
@@ -191,6 +198,7 @@ public:
         return *this;
     }
 
+    /// The same, with attributes too.
     template <class F, class... D>
     ClassDescriber& method(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
                            MethodText text, MethodAttributes attributes)
@@ -219,6 +227,7 @@ public:
         return *this;
     }
 
+    /// The same, with a text and attributes.
     template <class F>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, MethodText text,
                                  MethodAttributes attributes)
@@ -226,12 +235,14 @@ public:
         return staticMethod(name, function, names, text + attributes);
     }
 
+    /// The same, with attributes alone.
     template <class F>
     ClassDescriber& staticMethod(char const* name, F function, MethodAttributes attributes)
     {
         return staticMethod(name, function, {}, MethodText(attributes));
     }
 
+    /// The same, with default values of the last parameters: `withDefaults(...)`.
     template <class F, class... D>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
                                  MethodText text = {})
@@ -247,6 +258,7 @@ public:
         return *this;
     }
 
+    /// The same, with attributes too.
     template <class F, class... D>
     ClassDescriber& staticMethod(char const* name, F function, Names<F> names, Defaults<D...> const& defaults,
                                  MethodText text, MethodAttributes attributes)
@@ -279,6 +291,7 @@ public:
         return *this;
     }
 
+    /// The same, with attributes.
     template <class G>
     ClassDescriber& property(char const* name, G getter, PropertyText text, PropertyAttributes attributes)
     {
@@ -299,6 +312,7 @@ public:
         return *this;
     }
 
+    /// The same, with attributes.
     template <class G, class S>
         requires(!std::convertible_to<S, PropertyText>)
     ClassDescriber& property(char const* name, G getter, S setter, PropertyText text, PropertyAttributes attributes)
@@ -327,6 +341,7 @@ public:
         return *this;
     }
 
+    /// The same, with attributes.
     template <class S>
     ClassDescriber& writeOnlyProperty(char const* name, S setter, PropertyText text, PropertyAttributes attributes)
     {
@@ -346,6 +361,7 @@ public:
         return *this;
     }
 
+    /// The same, with attributes.
     template <class G>
     ClassDescriber& staticProperty(char const* name, G getter, PropertyText text, PropertyAttributes attributes)
     {
@@ -367,6 +383,7 @@ public:
         return *this;
     }
 
+    /// The same, with attributes.
     template <class G, class S>
         requires(!std::convertible_to<S, PropertyText>)
     ClassDescriber& staticProperty(char const* name, G getter, S setter, PropertyText text,

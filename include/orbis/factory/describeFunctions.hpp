@@ -11,7 +11,7 @@
 
 namespace orbis::factory {
 
-/// Defined in withDefaults.hpp.
+// Defined in withDefaults.hpp.
 template <class... D>
 class Defaults;
 
@@ -41,6 +41,7 @@ public:
         return *this;
     }
 
+    /// The same, with default values of the last parameters: `withDefaults(...)`.
     template <class F, class... D>
     FunctionDescriber& function(char const* name, F callable, ParameterNames<Traits<F>::arity> names,
                                 Defaults<D...> const& defaults, char const* text = "")
@@ -66,6 +67,7 @@ public:
     }
 };
 
+/// Begins the description of package functions.
 inline FunctionDescriber describeFunctions()
 {
     return {};

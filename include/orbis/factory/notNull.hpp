@@ -15,9 +15,9 @@ namespace orbis::factory {
 /// `constructor<NotNull<std::shared_ptr<Connection>>>("connection")`. See `notNull`.
 template <class P>
 struct NotNull {
-    P pointer;
+    P pointer; ///< not null when native code gets it
 
-    operator P() { return std::move(pointer); }
+    operator P() { return std::move(pointer); } ///< moves it out
 };
 
 namespace detail {

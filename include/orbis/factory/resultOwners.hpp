@@ -51,18 +51,21 @@ constexpr auto owned(F function)
     return detail::ResultOwnerOf<std::decay_t<F>, ResultOwner::Host>{function};
 }
 
+/// See `owned`.
 template <class F>
 constexpr auto borrowed(F function)
 {
     return detail::ResultOwnerOf<std::decay_t<F>, ResultOwner::Native>{function};
 }
 
+/// See `owned`.
 template <class F>
 constexpr auto inside(F function)
 {
     return detail::ResultOwnerOf<std::decay_t<F>, ResultOwner::Whole>{function};
 }
 
+/// See `owned`.
 template <class F>
 constexpr auto copied(F function)
 {

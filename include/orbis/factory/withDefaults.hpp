@@ -37,7 +37,7 @@ consteval Refusal keptDefaultRefusal()
 template <class... D>
 class Defaults {
 public:
-    explicit Defaults(std::tuple<D...> values) : values_(std::move(values)) {}
+    explicit Defaults(std::tuple<D...> values) : values_(std::move(values)) {} ///< see `withDefaults`
 
     /// Returns the overloads to publish beside `full`, the record of `function`: one for each number of omitted
     /// arguments. The first `Objects` parameters are the object that a method is called on.

@@ -89,6 +89,11 @@ for _, key in ipairs {"x", {1}, 1.5, {1, 0.5}, cases} do refused(at, key) end
 refused(function() s[1] = 5 end)
 refused(function() return missing < null end)
 refused(function() return cases .. 1 end)
+local big, alive = array("double", 0, 100000, 1), setmetatable({}, {__mode = "k"})
+for _ = 1, 100 do alive[asarray(cases.echo, big)] = true end
+local kept = 0
+for _ in pairs(alive) do kept = kept + 1 end
+print("collected meanwhile:", kept < 50)
 eachRefused {{asarray, print}, {asarray, p, "nothing"}, {asarray, cases.echo}, {size}, {tolua}}
 print(a, s)
 

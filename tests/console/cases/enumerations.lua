@@ -17,7 +17,6 @@ help(Color)
 help("palette.Color.Green")
 local names = {}
 for name, hue in pairs(Color) do names[#names + 1] = name .. "=" .. tostring(hue) end
-table.sort(names)
 print(table.concat(names, " "))
 for _, value in ipairs {"Purple", "red", "", 7, 1.5, true, null, {}, {"Red", "Red"}, cases.Probe()} do
   refused(cases.hue, value)

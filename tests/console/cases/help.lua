@@ -29,6 +29,7 @@ show(members(orbis_factory.Week)[2].parameters, members(p)[2].parameters)
 p.value = "held"
 for name, value in pairs(p) do print(name, value) end
 for name, member in pairs(cases.Probe) do io.write(name, " ", member.kind, "; ") end
+for name in pairs(callbacks) do io.write(name, " ") end
 print()
 for name, value in pairs(palette) do print(name, value) end
 apropos("GIVE")

@@ -59,5 +59,10 @@ print(loadmodule, unloadmodule, modules, withvm)
 print(pcall(load, "loadmodule('x.so')"), pcall(load("loadmodule('x.so')")))
 setmetatable({}, {__gc = function() print("finalizer", io, require, package, debug, os.exit) end})
 
+-- pictures: text, but no program and no file
+for _, options in ipairs({{format = "svg"}, {file = "x.dot"}, {file = "x.svg", format = "dot"}}) do
+  print(select(2, pcall(graph, probe, options)))
+end
+
 -- what stays
-print(probe, cases.echo(3), #array("double", {1, 2}), ("x"):rep(3), os.time() > 0, select("#", os.clock()))
+print(probe, #graph(probe) > 0, cases.echo(3), #array("double", {1, 2}), ("x"):rep(3), os.time() > 0, select("#", os.clock()))

@@ -13,7 +13,7 @@ namespace orbis::factory {
 class ORBIS_FACTORY_API Exception
     : public foundation::core::except::Exception<foundation::core::except::IUserException, std::exception> {
 public:
-    explicit Exception(std::string const& text);
+    explicit Exception(std::string const& text); ///< `text` is UTF-8
     Exception(Exception const&);
     ~Exception() override;
 };

@@ -11,7 +11,7 @@ class ORBIS_FACTORY_API String {
 public:
     /// `text` is NUL-terminated and not null.
     String(char const* text);
-    String(std::string const& text);
+    String(std::string const& text); ///< may contain zeros
     String(String const&);
     String& operator=(String const&);
     ~String();

@@ -21,21 +21,21 @@ public:
 /// A cell in a cell array of strings is empty or holds no character array. Argument: the cell's zero-based index.
 class ORBIS_FACTORY_API must_be_string : public resource_core::BaseMsgID {
 public:
-    explicit must_be_string(std::size_t index);
+    explicit must_be_string(std::size_t index); ///< takes the argument
     ~must_be_string() override;
 };
 
 /// A described member could not be published. Arguments: the member's full name, and the reason.
 class ORBIS_FACTORY_API member_not_published : public resource_core::BaseMsgID {
 public:
-    member_not_published(std::string const& member, std::string const& reason);
+    member_not_published(std::string const& member, std::string const& reason); ///< takes the arguments
     ~member_not_published() override;
 };
 
 /// A value passed for a set of strings contains a duplicate. Argument: the text, in UTF-8.
 class ORBIS_FACTORY_API no_duplicates : public resource_core::BaseMsgID {
 public:
-    explicit no_duplicates(std::string const& text);
+    explicit no_duplicates(std::string const& text); ///< takes the argument
     ~no_duplicates() override;
 };
 
@@ -50,7 +50,7 @@ public:
 /// that begins the sentence; the class's name.
 class ORBIS_FACTORY_API null_input : public resource_core::BaseMsgID {
 public:
-    null_input(std::string const& what, char const* className);
+    null_input(std::string const& what, char const* className); ///< takes the arguments
     ~null_input() override;
 };
 
@@ -58,7 +58,7 @@ public:
 /// elements that have it.
 class ORBIS_FACTORY_API not_convertible : public resource_core::BaseMsgID {
 public:
-    explicit not_convertible(std::string const& reason);
+    explicit not_convertible(std::string const& reason); ///< takes the argument
     ~not_convertible() override;
 };
 
@@ -66,31 +66,35 @@ public:
 /// Arguments: the class's name; the reason.
 class ORBIS_FACTORY_API cannot_copy : public resource_core::BaseMsgID {
 public:
-    cannot_copy(std::string const& className, std::string const& reason);
+    cannot_copy(std::string const& className, std::string const& reason); ///< takes the arguments
     ~cannot_copy() override;
 };
 
+/// See `cannot_copy`.
 class ORBIS_FACTORY_API cannot_own : public resource_core::BaseMsgID {
 public:
-    cannot_own(std::string const& className, std::string const& reason);
+    cannot_own(std::string const& className, std::string const& reason); ///< takes the arguments
     ~cannot_own() override;
 };
 
+/// See `cannot_copy`.
 class ORBIS_FACTORY_API cannot_share : public resource_core::BaseMsgID {
 public:
-    cannot_share(std::string const& className, std::string const& reason);
+    cannot_share(std::string const& className, std::string const& reason); ///< takes the arguments
     ~cannot_share() override;
 };
 
+/// See `cannot_copy`.
 class ORBIS_FACTORY_API cannot_keep : public resource_core::BaseMsgID {
 public:
-    cannot_keep(std::string const& className, std::string const& reason);
+    cannot_keep(std::string const& className, std::string const& reason); ///< takes the arguments
     ~cannot_keep() override;
 };
 
+/// See `cannot_copy`.
 class ORBIS_FACTORY_API cannot_take : public resource_core::BaseMsgID {
 public:
-    cannot_take(std::string const& className, std::string const& reason);
+    cannot_take(std::string const& className, std::string const& reason); ///< takes the arguments
     ~cannot_take() override;
 };
 
@@ -98,7 +102,8 @@ public:
 /// member's; what the function takes and returns.
 class ORBIS_FACTORY_API not_implemented : public resource_core::BaseMsgID {
 public:
-    not_implemented(std::string const& className, std::string const& member, std::string const& type);
+    not_implemented(std::string const& className, std::string const& member,
+                    std::string const& type); ///< takes the arguments
     ~not_implemented() override;
 };
 
@@ -112,7 +117,7 @@ public:
 /// A native object was to be passed to the host, but its class is not published. Argument: the class's name.
 class ORBIS_FACTORY_API no_such_class : public resource_core::BaseMsgID {
 public:
-    explicit no_such_class(char const* className);
+    explicit no_such_class(char const* className); ///< takes the argument
     ~no_such_class() override;
 };
 
@@ -120,7 +125,8 @@ public:
 /// name; the enumerator's name, or the native value if it has none; the names that the native code has.
 class ORBIS_FACTORY_API no_such_enumerator : public resource_core::BaseMsgID {
 public:
-    no_such_enumerator(std::string const& className, std::string const& enumerator, std::string const& known);
+    no_such_enumerator(std::string const& className, std::string const& enumerator,
+                       std::string const& known); ///< takes the arguments
     ~no_such_enumerator() override;
 };
 

@@ -18,6 +18,7 @@ class EnumerationClassInfo : public OrbisFactoryClassInfo {
                                                     "(HostEnumeration<E>::isVelmaraImplemented): publish none.");
 
 public:
+    /// `description` is a text for users.
     explicit EnumerationClassInfo(std::string const& description)
         : OrbisFactoryClassInfo(HostEnumeration<E>::name, description)
     {

@@ -11,9 +11,10 @@ namespace orbis::factory {
 
 /// The description of a native enumeration, without its type. All texts are literals.
 struct EnumerationRecord {
+    /// An enumerator by one of its names.
     struct Entry {
-        char const* name;
-        std::int64_t value;
+        char const* name;   ///< in scripts
+        std::int64_t value; ///< of the native enumerator
     };
 
     char const* hostName;           ///< the class's full dotted name

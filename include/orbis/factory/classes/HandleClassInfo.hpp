@@ -25,6 +25,7 @@ class HandleClassInfo : public OrbisFactoryClassInfo {
     }
 
 public:
+    /// `name` is the full dotted one, `description` a text for users.
     HandleClassInfo(std::string const& name, std::string const& description) : OrbisFactoryClassInfo(name, description)
     {
         if constexpr (refusal() != detail::Refusal::None)
@@ -45,9 +46,13 @@ public:
         return forgotten.wasBound;
     }
 
+    /// Returns true.
     bool isHandle() const override { return true; }
+
+    /// Returns "host" where the native object is deleted with its host object, else "native".
     char const* nativeOwner() const override { return N == 1 ? "host" : "native"; }
 
+    /// Deletes a native object that was not bound, where host objects own theirs.
     void discardNative(void* native) noexcept override
     {
         if constexpr (N == 1)

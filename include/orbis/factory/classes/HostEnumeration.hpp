@@ -7,8 +7,8 @@ namespace orbis::factory {
 /// One enumerator: its name in scripts, and its native value.
 template <class E>
 struct Enumerator {
-    char const* name;
-    E value;
+    char const* name; ///< a literal
+    E value;          ///< unique, but for further names of the same
 };
 
 /// Gives the name under which a native enumeration is published, and the names of its enumerators. Specialise it for

@@ -9,14 +9,15 @@ namespace orbis::factory {
 
 /// The description of a published native class, without its type.
 struct NativeClassRecord {
-    char const* hostName; ///< full dotted name; a literal
-    std::type_info const* type;
+    char const* hostName;       ///< full dotted name; a literal
+    std::type_info const* type; ///< of the class itself
 
     /// Returns whether the object bound at an address is of the class. Null when the class is not bound as a
     /// polymorphic one.
     bool (*isInstance)(void const* bound) = nullptr;
 };
 
+/// Returns the description of `T`.
 template <PublishedClass T>
 NativeClassRecord nativeClassRecord()
 {

@@ -25,6 +25,7 @@ class NonHandleClassInfo : public OrbisFactoryClassInfo {
     }
 
 public:
+    /// `name` is the full dotted one, `description` a text for users.
     NonHandleClassInfo(std::string const& name, std::string const& description)
         : OrbisFactoryClassInfo(name, description)
     {

@@ -16,6 +16,7 @@ namespace orbis::factory {
 template <class T>
 class StdShareableHandleClassInfo : public HandleClassInfo<T, 0> {
 public:
+    /// `name` is the full dotted one, `description` a text for users.
     StdShareableHandleClassInfo(std::string const& name, std::string const& description)
         : HandleClassInfo<T, 0>(name, description)
     {

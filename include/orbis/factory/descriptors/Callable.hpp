@@ -10,6 +10,7 @@ class Callable {
 public:
     Callable() = default;
 
+    /// Refers to what `function` points to.
     template <class F>
         requires std::is_pointer_v<F> || std::is_member_pointer_v<F>
     Callable(F function)

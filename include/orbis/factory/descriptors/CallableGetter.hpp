@@ -10,8 +10,9 @@ namespace orbis::factory::impl {
 template <class Reader>
 class CallableGetter : public Getter {
 public:
-    static constexpr bool needsObject = Reader::needsObject;
+    static constexpr bool needsObject = Reader::needsObject; ///< false for getters of classes
 
+    /// `release`, unless null, is called for each value that was read.
     explicit CallableGetter(typename Reader::Pointer getter, ReleaseRoutine release = nullptr)
         : getter_(getter),
           release_(release)

@@ -9,8 +9,9 @@ namespace orbis::factory::impl {
 template <class Writer>
 class CallableSetter : public Setter {
 public:
-    static constexpr bool needsObject = Writer::needsObject;
+    static constexpr bool needsObject = Writer::needsObject; ///< false for setters of classes
 
+    /// `setter` is not null.
     explicit CallableSetter(typename Writer::Pointer setter) : setter_(setter) {}
 
     void setValue(COSInterface* object, COSValue value) const override { Writer::write(setter_, object, value); }

@@ -8,9 +8,11 @@ namespace orbis::factory {
 /// `invoke` from the method it holds; everything else is the host's default, whatever the attributes are.
 class ORBIS_FACTORY_API FunctionInfo : public COSMethodInfo {
 public:
+    /// Copies both.
     FunctionInfo(char const* name, MethodAttributes attributes);
     ~FunctionInfo() override;
 
+    /// As the held method says, as are the others.
     char const* getName() const override;
     COSMethodSignature const* getMethodSignature() const override;
     void invoke(COSClient const* client, int& outputCount, COSValue* outputs, int inputCount,

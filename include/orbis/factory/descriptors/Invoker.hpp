@@ -19,13 +19,13 @@ public:
     using InvokeFn = void (*)(Invoker const* invoker, COSClient const* client, int& outputCount, COSValue* outputs,
                               int inputCount, COSValue const* inputs);
 
-    void setForcedMember(bool forced);
-    void setTarget(Callable const& callable);
+    void setForcedMember(bool forced);        ///< sets `forcedMember`
+    void setTarget(Callable const& callable); ///< sets `target`
 
-    InvokeFn invokeFn = nullptr;
-    Callable target;
-    bool forcedMember = false;  ///< read by `validateSelfPointer`
-    std::int32_t reserved = -1; ///< unused; part of the fixed layout
+    InvokeFn invokeFn = nullptr; ///< the routine
+    Callable target;             ///< what the routine calls
+    bool forcedMember = false;   ///< read by `validateSelfPointer`
+    std::int32_t reserved = -1;  ///< unused; part of the fixed layout
 
 private:
     using T = char const*;
@@ -38,6 +38,7 @@ public:
     /// "void" for no result. `self`, unless null, adds a first input of that type named "this". Inputs 11 to 20 all get
     /// the eleventh name.
     static void createSignature(T names, T output, T self, Signature&);
+    /// \cond the reference lists one for all
     static void createSignature(T names, T output, T self, T, Signature&);
     static void createSignature(T names, T output, T self, T, T, Signature&);
     static void createSignature(T names, T output, T self, T, T, T, Signature&);
@@ -62,6 +63,7 @@ public:
                                 Signature&);
     static void createSignature(T names, T output, T self, T, T, T, T, T, T, T, T, T, T, T, T, T, T, T, T, T, T, T, T,
                                 Signature&);
+    /// \endcond
 };
 
 } // namespace orbis::factory::impl

@@ -11,19 +11,21 @@ template <class Attributes>
 class MemberText {
 public:
     MemberText() = default;
-    MemberText(char const* given) : text_(given) {}
-    ORBIS_FACTORY_API MemberText(Attributes const& given);
-    ORBIS_FACTORY_API MemberText operator+(Attributes const& more) const;
+    MemberText(char const* given) : text_(given) {} ///< not null
 
-    char const* text() const { return text_; }
-    ORBIS_FACTORY_API Attributes attributes() const;
+    /// Attributes without a text.
+    ORBIS_FACTORY_API MemberText(Attributes const& given);
+    ORBIS_FACTORY_API MemberText operator+(Attributes const& more) const; ///< with these attributes too
+
+    char const* text() const { return text_; }       ///< "" where there is none
+    ORBIS_FACTORY_API Attributes attributes() const; ///< those given
 
 private:
     char const* text_ = "";
     unsigned long long attributes_ = 0; ///< a whole word, so that no padding must be cleared to pass it
 };
 
-using MethodText = MemberText<MethodAttributes>;
-using PropertyText = MemberText<PropertyAttributes>;
+using MethodText = MemberText<MethodAttributes>;     ///< of methods and constructors
+using PropertyText = MemberText<PropertyAttributes>; ///< of properties
 
 } // namespace orbis::factory

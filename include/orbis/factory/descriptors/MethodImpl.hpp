@@ -8,7 +8,7 @@ namespace orbis::factory::impl {
 /// The descriptor of a method or package function; calls through its invoker.
 class ORBIS_FACTORY_API MethodImpl : public OrbisMethod {
 public:
-    MethodImpl(char const* name, MethodAttributes attributes, char const* description);
+    MethodImpl(char const* name, MethodAttributes attributes, char const* description); ///< copies all three
     ~MethodImpl() override;
 
     void invoke(COSClient const* client, int& outputCount, COSValue* outputs, int inputCount,

@@ -8,7 +8,7 @@ namespace orbis::factory::impl {
 /// The descriptor of a constructor; calls through its invoker.
 class ORBIS_FACTORY_API OrbisConstructor : public OrbisMethod {
 public:
-    OrbisConstructor(char const* name, MethodAttributes attributes, char const* description);
+    OrbisConstructor(char const* name, MethodAttributes attributes, char const* description); ///< copies all three
     ~OrbisConstructor() override;
 
     void invoke(COSClient const* client, int& outputCount, COSValue* outputs, int inputCount,

@@ -15,9 +15,10 @@ class ORBIS_FACTORY_API OrbisMethod : public COSMethodInfo {
 public:
     /// Copies all three. The signature starts empty.
     OrbisMethod(String const& name, MethodAttributes attributes, String const& description);
-    OrbisMethod(char const* name, MethodAttributes attributes, char const* description);
+    OrbisMethod(char const* name, MethodAttributes attributes, char const* description); ///< of texts that are not null
     ~OrbisMethod() override;
 
+    /// As the constructor was given, as are the others.
     char const* getName() const override;
     char const* getDescription() const override;
     MemberAccess getMemberAccess() override;

@@ -11,10 +11,13 @@ namespace orbis::factory::impl {
 /// "orbis_factory:orbis_factory:null_fcn_ptr".
 class ORBIS_FACTORY_API PropertyImpl : public PropertyImplBase {
 public:
+    /// Takes no ownership; null for a missing side.
     PropertyImpl(String const& name, Getter* getter, Setter* setter, PropertyAttributes attributes);
 
+    /// A property that is only read.
     PropertyImpl(String const& name, Getter* getter, PropertyAttributes attributes);
 
+    /// A property that is only written.
     PropertyImpl(String const& name, Setter* setter, PropertyAttributes attributes);
     PropertyImpl(PropertyImpl const&);
     PropertyImpl(PropertyImpl&&);

@@ -6,11 +6,13 @@
 
 #include "orbis/COSPropInfo.hpp"
 
+/// Descriptors: the objects through which the host calls members. Descriptions make them; they can be written by hand.
 namespace orbis::factory::impl {
 
 /// Base of the descriptors of properties: serves the host's queries from a name, a description and attributes.
 class ORBIS_FACTORY_API PropertyImplBase : public COSPropInfo {
 public:
+    /// Copies all three.
     PropertyImplBase(String const& name, String const& description, PropertyAttributes attributes);
     PropertyImplBase(PropertyImplBase const&);
     PropertyImplBase& operator=(PropertyImplBase const&);
@@ -22,6 +24,7 @@ public:
     /// Returns `getDescription()`, which a subclass may override.
     char const* getDetailedDescription() const override;
 
+    /// Replaces the description, before the descriptor is passed to the host.
     void setDescription(String const& description);
 
     /// Always empty.

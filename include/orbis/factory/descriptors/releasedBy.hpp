@@ -5,7 +5,7 @@ namespace orbis::factory {
 /// A getter and the routine that releases its values.
 template <auto Routine, class G>
 struct ReleasedGetter {
-    G getter;
+    G getter; ///< as it was given
 };
 
 /// Attaches a release routine to a getter in a description:

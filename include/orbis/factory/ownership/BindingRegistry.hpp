@@ -7,6 +7,7 @@
 #include "orbis/COSInterfacePtr.hpp"
 #include "orbis/COSNameID.hpp"
 
+/// Native objects and the host objects that represent them, by any native address.
 namespace orbis::factory::basic {
 
 /// Maps native addresses to the host objects that represent them, one table per virtual machine. An address always
@@ -22,9 +23,9 @@ public:
     /// is none, one is created and bound, and `created` set to true. For a null `object` the array is 0-by-0. Throws
     /// "orbis_factory:orbis_factory:no_such_class" when the class of a new object is not published.
     static hvArray* announce(void* object, COSNameID const& className);
-    static hvArray* announce(void* object, COSNameID const& className, bool& created);
-    static hvArray* announce(void const* object, COSNameID const& className);
-    static hvArray* announce(void const* object, COSNameID const& className, bool& created);
+    static hvArray* announce(void* object, COSNameID const& className, bool& created);       ///< likewise
+    static hvArray* announce(void const* object, COSNameID const& className);                ///< likewise
+    static hvArray* announce(void const* object, COSNameID const& className, bool& created); ///< likewise
 
     /// The same, but returns the host object itself; an empty handle for a null `object`.
     static COSInterfacePtr announceInternal(void* object, COSNameID const& className, bool& created);

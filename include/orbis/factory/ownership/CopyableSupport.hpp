@@ -7,8 +7,10 @@
 /// other address. Threading: on the thread of the virtual machine.
 namespace orbis::factory::CopyableSupport {
 
+/// Adds an address, unless the set has it. Throws `std::bad_alloc`, and the host's error when no virtual machine is
+/// current.
 ORBIS_FACTORY_API void addToUnconstructedSet(void const* object);
-ORBIS_FACTORY_API bool isInUnconstructedSet(void const* object);
+ORBIS_FACTORY_API bool isInUnconstructedSet(void const* object); ///< throws likewise
 
 /// Does nothing if the address is not in the set.
 ORBIS_FACTORY_API void removeFromUnconstructedSet(void const* object);

@@ -23,6 +23,7 @@ struct FooRegistry : boost::unordered_map<void const*, RegistryEntry*> {
     FooRegistry& operator=(FooRegistry const&) = delete;
     ~FooRegistry();
 
+    /// True when `object` has a binding to `host`.
     bool isBoundTo(void const* object, COSInterface const* host) const noexcept;
 
     /// Adds an entry for `object`, unless it has one. Returns false if that is to another host object. The caller must

@@ -15,12 +15,13 @@ class ORBIS_FACTORY_API InterfaceEnumeration final : public EnumerationImplement
 public:
     /// Returns zero-filled storage; throws the host's `bad_alloc`.
     static void* operator new(std::size_t size);
-    static void operator delete(void* storage);
+    static void operator delete(void* storage); ///< null is allowed
 
+    /// Refers to `element` (null: no element) without keeping it alive.
     explicit InterfaceEnumeration(COSInterface* element);
     ~InterfaceEnumeration() override;
 
-    bool hasMoreElements() const override;
+    bool hasMoreElements() const override; ///< true until it was taken
 
     /// Returns the object the first time, then throws the host's `ENoElements`.
     COSInterface* nextElement() override;

@@ -18,10 +18,13 @@ public:
     /// `bad_alloc`.
     static Enumeration<COSInterface*> ofBound(std::span<void const* const> objects);
 
+    /// Storage of the host; throws its `bad_alloc`.
     static void* operator new(std::size_t size);
-    static void operator delete(void* storage);
+    static void operator delete(void* storage); ///< null is allowed
 
     ~InterfaceListEnumeration() override;
+
+    /// False at the end.
     bool hasMoreElements() const override;
 
     /// Throws the host's `ENoElements` past the end.

@@ -22,6 +22,8 @@ public:
     Shareable(Shareable const&);
     Shareable& operator=(Shareable const&);
     ~Shareable() override;
+
+    /// Who owns the reference that keeps the object alive for the host.
     virtual SharingType getSharingType() const;
 };
 
@@ -29,12 +31,12 @@ public:
 /// have no further effect. Null is allowed. Given a raw pointer, throws the shared pointer's `bad_weak_ptr` when none
 /// owns the object.
 ORBIS_FACTORY_API void acquireReference(boost::shared_ptr<Shareable> const& object);
-ORBIS_FACTORY_API void acquireReference(Shareable* object);
+ORBIS_FACTORY_API void acquireReference(Shareable* object); ///< likewise
 
 /// Releases the reference that `acquireReference` keeps, which may destroy the object; does nothing if there is none.
 /// Null and errors as there.
 ORBIS_FACTORY_API void releaseReference(boost::shared_ptr<Shareable> const& object);
-ORBIS_FACTORY_API void releaseReference(Shareable* object);
+ORBIS_FACTORY_API void releaseReference(Shareable* object); ///< likewise
 
 /// Returns true.
 ORBIS_FACTORY_API bool canAcquireReference(Shareable* object);

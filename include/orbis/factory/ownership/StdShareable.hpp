@@ -19,6 +19,8 @@ public:
     StdShareable(StdShareable const&);
     StdShareable& operator=(StdShareable const&);
     ~StdShareable() override;
+
+    /// Who owns the reference that keeps the object alive for the host.
     virtual SharingType getSharingType() const;
 };
 
@@ -26,12 +28,12 @@ public:
 /// have no further effect. Null is allowed. Given a raw pointer, throws the shared pointer's `bad_weak_ptr` when none
 /// owns the object.
 ORBIS_FACTORY_API void acquireReference(std::shared_ptr<StdShareable> const& object);
-ORBIS_FACTORY_API void acquireReference(StdShareable* object);
+ORBIS_FACTORY_API void acquireReference(StdShareable* object); ///< likewise
 
 /// Releases the reference that `acquireReference` keeps, which may destroy the object; does nothing if there is none.
 /// Null and errors as there.
 ORBIS_FACTORY_API void releaseReference(std::shared_ptr<StdShareable> const& object);
-ORBIS_FACTORY_API void releaseReference(StdShareable* object);
+ORBIS_FACTORY_API void releaseReference(StdShareable* object); ///< likewise
 
 /// Returns true.
 ORBIS_FACTORY_API bool canAcquireReference(StdShareable* object);

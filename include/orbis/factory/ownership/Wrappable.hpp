@@ -2,6 +2,7 @@
 
 #include "orbis/factory/base/export.hpp"
 
+/// Base classes for native objects that tell the host of their end, or that both sides share.
 namespace orbis::factory::full {
 
 /// Base of native classes that retract themselves: when an object is destroyed, its binding is removed and its host

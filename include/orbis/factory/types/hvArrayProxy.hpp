@@ -15,14 +15,14 @@ namespace orbis::factory {
 /// To keep arrays, and to return kept ones by value, use `hvArrayReferenceCountedProxy`.
 class ORBIS_FACTORY_API hvArrayProxy {
 public:
-    hvArrayProxy(hvArray* array);
+    hvArrayProxy(hvArray* array); ///< takes no ownership
 
     /// Creates a 1-by-1 array that holds the object; the caller owns the array. Null for a null handle.
     hvArrayProxy(COSInterfacePtr const& object);
     hvArrayProxy(hvArrayProxy const&);
     hvArrayProxy& operator=(hvArrayProxy const&);
 
-    hvArray* operator()() const;
+    hvArray* operator()() const; ///< the array, or null
 
     /// The object in an object array of one element; a null handle for any other array.
     operator COSInterfacePtr() const;

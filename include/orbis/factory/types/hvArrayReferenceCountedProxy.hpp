@@ -21,7 +21,7 @@ public:
     /// Compares identity, not contents.
     bool operator==(hvArrayReferenceCountedProxy const& other) const;
 
-    hvArray* operator()() const;
+    hvArray* operator()() const; ///< the array, or null; stays this proxy's
 
 private:
     hvArray* array_ = nullptr;

@@ -19,12 +19,13 @@ namespace orbis::factory {
 /// A matrix of numbers or `bool` that someone else owns, its elements column by column.
 template <COSScalar T>
 struct MatrixView {
-    T const* data = nullptr;
-    std::size_t rows = 0;
-    std::size_t columns = 0;
+    T const* data = nullptr; ///< `rows` times `columns` elements
+    std::size_t rows = 0;    ///< the height
+    std::size_t columns = 0; ///< the width
 
+    /// An element by its place, counted from 0 and not checked.
     T const& operator()(std::size_t row, std::size_t column) const { return data[column * rows + row]; }
-    std::size_t size() const { return rows * columns; }
+    std::size_t size() const { return rows * columns; } ///< the number of elements
 };
 
 /// The same, owning its elements, which are zero at first. Moving leaves a matrix of 0-by-0.
@@ -41,6 +42,7 @@ public:
     {
     }
 
+    /// Copies the elements. Throws `std::bad_alloc`.
     explicit Matrix(MatrixView<T> view) : Matrix(view.rows, view.columns)
     {
         std::copy_n(view.data, view.size(), data_.get());
@@ -57,15 +59,16 @@ public:
 
     ~Matrix() = default;
 
+    /// An element by its place, counted from 0 and not checked.
     T& operator()(std::size_t row, std::size_t column) { return data_[column * rows_ + row]; }
-    T const& operator()(std::size_t row, std::size_t column) const { return data_[column * rows_ + row]; }
+    T const& operator()(std::size_t row, std::size_t column) const { return data_[column * rows_ + row]; } ///< likewise
 
     /// The elements, column by column.
     T* data() { return data_.get(); }
-    T const* data() const { return data_.get(); }
-    std::size_t rows() const { return rows_; }
-    std::size_t columns() const { return columns_; }
-    MatrixView<T> view() const { return {data_.get(), rows_, columns_}; }
+    T const* data() const { return data_.get(); }                         ///< likewise
+    std::size_t rows() const { return rows_; }                            ///< the height
+    std::size_t columns() const { return columns_; }                      ///< the width
+    MatrixView<T> view() const { return {data_.get(), rows_, columns_}; } ///< valid until this is changed or destroyed
 
 private:
     static std::size_t requireSize(std::size_t rows, std::size_t columns)

@@ -22,10 +22,12 @@ namespace orbis::factory {
 /// cell that is empty or of another class.
 template <>
 struct HostDataType<std::vector<std::string>> {
-    static constexpr char const* name = "OrbisFactoryString vector";
+    static constexpr char const* name = "OrbisFactoryString vector"; ///< of the data type
 
+    /// A new 1-by-n cell array, which the caller owns.
     static hvArray* toHost(std::vector<std::string> const& strings) { return detail::makeTextCells(strings, makeText); }
 
+    /// The texts of the cells; `value` stays the caller's.
     static std::vector<std::string> fromHost(hvArray* value)
     {
         std::vector<std::string> strings;

@@ -10,9 +10,9 @@ namespace orbis::factory {
 /// "orbis_factory:orbis_factory:no_duplicates" when the same text is passed twice.
 template <>
 struct ORBIS_FACTORY_API HostDataType<std::set<fl::ustring>> {
-    static constexpr char const* name = "OrbisFactoryString vector";
-    static hvArray* toHost(std::set<fl::ustring> const& strings);
-    static std::set<fl::ustring> fromHost(hvArray* value);
+    static constexpr char const* name = "OrbisFactoryString vector"; ///< of the data type
+    static hvArray* toHost(std::set<fl::ustring> const& strings);    ///< a new 1-by-n cell array, which the caller owns
+    static std::set<fl::ustring> fromHost(hvArray* value);           ///< `value` stays the caller's
 };
 
 } // namespace orbis::factory

@@ -17,9 +17,9 @@ namespace orbis::factory {
 /// cell that is empty or of another class.
 template <>
 struct ORBIS_FACTORY_API HostDataType<std::vector<fl::ustring>> {
-    static constexpr char const* name = "OrbisFactoryString vector";
-    static hvArray* toHost(std::vector<fl::ustring> const& strings);
-    static std::vector<fl::ustring> fromHost(hvArray* value);
+    static constexpr char const* name = "OrbisFactoryString vector"; ///< of the data type
+    static hvArray* toHost(std::vector<fl::ustring> const& strings); ///< a new 1-by-n cell array, which the caller owns
+    static std::vector<fl::ustring> fromHost(hvArray* value);        ///< `value` stays the caller's
 };
 
 } // namespace orbis::factory

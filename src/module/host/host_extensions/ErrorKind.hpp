@@ -12,7 +12,7 @@ namespace orbis::host_extensions {
 
 /// A value that goes with an error.
 struct ErrorField {
-    std::string name;
+    std::string name; ///< by which scripts read it
 
     /// Inside a handler of the exception: returns a new array, owned by the caller; null for no value.
     std::function<hvArray_tag*()> read;
@@ -20,9 +20,9 @@ struct ErrorField {
 
 /// What scripts learn of native exceptions of one type.
 struct ErrorKind {
-    std::string identifier;
-    std::string package; ///< full name of the one that lists it; empty for none
-    std::type_info const* type = nullptr;
+    std::string identifier;               ///< such as "spatial:parse"
+    std::string package;                  ///< full name of the one that lists it; empty for none
+    std::type_info const* type = nullptr; ///< of the exceptions
 
     /// Inside a handler: stores the text of the current exception and returns true if that is of this type or derived
     /// from it. Throws `std::bad_alloc` only.

@@ -41,6 +41,7 @@ constexpr std::optional<T> convertNumber(std::integral auto number)
     return fits ? std::optional(static_cast<T>(number)) : std::nullopt;
 }
 
+/// The same of a number with a fraction, which only types with one take.
 template <COSScalar T>
 std::optional<T> convertNumber(std::floating_point auto given)
 {

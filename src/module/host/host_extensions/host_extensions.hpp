@@ -47,6 +47,8 @@ ORBIS_HOST_API hvArray* createStringMatrix(std::size_t m, std::size_t n);
 /// Stores a copy of the text, which may contain zeros, at a zero-based linear index of a string array. Data shared with
 /// other arrays is copied first. The text may be that of an element of the same array.
 ORBIS_HOST_API void setString(hvArray_tag* strings, std::size_t index, std::u16string_view text);
+
+/// Makes an element of a string array missing, likewise.
 ORBIS_HOST_API void setMissing(hvArray_tag* strings, std::size_t index);
 
 /// Returns the cell at a zero-based linear index, owned by the cell array; null when it is empty.
@@ -66,8 +68,8 @@ ORBIS_HOST_API COSInterfacePtr getEnumerator(COSNameID const& className, char co
 
 /// The description of an enumerator.
 struct Enumerator {
-    char const* name; ///< the first of its names; valid as long as the process
-    std::int64_t value;
+    char const* name;     ///< the first of its names; valid as long as the process
+    std::int64_t value;   ///< as it was described
     std::size_t position; ///< the number of names added before its own
 };
 
@@ -77,9 +79,9 @@ ORBIS_HOST_API Enumerator const* describeEnumerator(COSInterface const* object);
 
 /// A native object that a host object records for a class.
 struct RecordedObject {
-    COSInterface const* host;
-    char const* className;
-    void const* native; ///< not null
+    COSInterface const* host; ///< without a reference
+    char const* className;    ///< full name; valid as long as the virtual machine
+    void const* native;       ///< not null
 };
 
 /// Returns what the host objects of the current virtual machine record, except for destroyed ones.
@@ -94,16 +96,16 @@ ORBIS_HOST_API void reportLeak(char const* sentence) noexcept;
 
 /// A message: its key, and its text, with the placeholders {0}, {1}, ... for the arguments.
 struct Message {
-    char const* key;
-    char const* text;
+    char const* key;  ///< unique in its catalog
+    char const* text; ///< UTF-8
 };
 
 /// A module with its own messages exports a `MessageList const*` named after it (`orbis_factory_messages`): a list of
 /// catalogs, terminated by a null catalog, each with a list of messages, terminated by a null key. The host adds them
 /// when it loads the module.
 struct MessageList {
-    char const* catalog;
-    Message const* messages;
+    char const* catalog;     ///< "component:catalog"
+    Message const* messages; ///< terminated by a null key
 };
 
 /// Adds copies of the texts to a message catalog ("component:catalog") of the current virtual machine, replacing texts

@@ -10,7 +10,7 @@ namespace orbis::host_extensions {
 
 /// A class of numbers, or the logical one.
 struct NumericClass {
-    hvClassID classID;
+    hvClassID classID;      ///< as in its arrays
     std::size_t size;       ///< of an element, in bytes
     char const* name;       ///< of the class
     char const* scalarType; ///< the data type of one element

@@ -35,12 +35,12 @@ public:
     hvArray_tag(hvArray_tag const&) = delete;
     hvArray_tag& operator=(hvArray_tag const&) = delete;
 
-    std::size_t get_number_of_elements() const;
+    std::size_t get_number_of_elements() const; ///< rows times columns
 
     /// Two sizes: rows, columns. They stay valid while the array lives.
     std::size_t const* get_dimensions() const;
 
-    hvClassID _get_class_id_non_trivial() const;
+    hvClassID _get_class_id_non_trivial() const; ///< the class of the elements
 
     /// Shares the array itself: one more `hvDestroyArray` is owed for it.
     void add_reference()
@@ -50,13 +50,14 @@ public:
     }
 
 protected:
-    static constexpr std::uint32_t temporaryFlag = 0x200;
+    static constexpr std::uint32_t temporaryFlag = 0x200; ///< set while the array is a call's temporary
 
     hvArray_tag() = default;
     ~hvArray_tag() = default;
 
-    std::uint32_t flags_ = temporaryFlag;
-    std::uint32_t references_ = 1;
+    std::uint32_t flags_ = temporaryFlag; ///< `temporaryFlag`, and others of the host
+    std::uint32_t references_ = 1;        ///< those who own the array
 };
 
+/// Most functions name arrays so.
 using hvArray = hvArray_tag;

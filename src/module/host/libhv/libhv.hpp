@@ -25,8 +25,9 @@ ORBIS_HOST_API char* hvArray2String(hvArray_tag const* array);
 /// The same in UTF-16, unit by unit, well-formed or not; free it with `hvFreeEx`.
 ORBIS_HOST_API char16_t* hvArrayToString_UTF16(hvArray_tag const* array);
 
+/// Free such texts; null is allowed.
 ORBIS_HOST_API void hvFree(void* text);
-ORBIS_HOST_API void hvFreeEx(void* text);
+ORBIS_HOST_API void hvFreeEx(void* text); ///< likewise
 
 /// An m-by-n cell array of null cells.
 ORBIS_HOST_API hvArray* hvCreateCellMatrix(std::size_t m, std::size_t n);
@@ -41,8 +42,9 @@ ORBIS_HOST_API hvArray* hvCreateDeepCopy(hvArray_tag const* array);
 /// A copy that shares its data until one side writes. The second form makes it free of the list of the current
 /// call's temporaries, as `hvSetArrayScope(copy, 0)` does.
 ORBIS_HOST_API hvArray* hvCreateSharedDataCopy(hvArray_tag const* array);
-ORBIS_HOST_API hvArray* hvCreateSharedCopyNotOnArrayList(hvArray_tag const* array);
+ORBIS_HOST_API hvArray* hvCreateSharedCopyNotOnArrayList(hvArray_tag const* array); ///< likewise
 
+/// With scope 1 makes the array a temporary of the current call, with 0 none.
 ORBIS_HOST_API void hvSetArrayScope(hvArray_tag* array, hvVariableScope scope);
 
 /// True when the array is of that class ("double", "cell", "string", a published class, ...) or, for objects,
@@ -52,8 +54,9 @@ ORBIS_HOST_API bool hvIsA(hvArray_tag const* array, char const* className);
 /// Gives one reference back; the last one frees the array. Null is allowed.
 ORBIS_HOST_API void hvDestroyArray(hvArray_tag* array);
 
+/// Destroys arrays for smart pointers.
 struct ORBIS_HOST_API hvDestroy_deleter {
-    void operator()(hvArray_tag const* array) const;
+    void operator()(hvArray_tag const* array) const; ///< null is allowed
 };
 
 /// Raises a copy of the exception into the host's error channel: it ends the running script call.

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+/// Messages of the host, by their identities.
 namespace resource_core {
 
 /// The identity of a message: a catalog ("component:catalog"), a key in it, and the arguments that fill the
@@ -17,9 +18,9 @@ public:
     BaseMsgID& operator=(BaseMsgID const&);
     virtual ~BaseMsgID();
 
-    char const* getCatalog() const;
-    char const* getKey() const;
-    std::vector<std::string> const& getArguments() const;
+    char const* getCatalog() const;                       ///< "component:catalog"
+    char const* getKey() const;                           ///< the key in the catalog
+    std::vector<std::string> const& getArguments() const; ///< in the order of the places, in UTF-8
 
 private:
     char const* catalog_;

@@ -18,8 +18,9 @@ class Exception : public IMsgIDException, public Standard {
                   "Exception<IdClass, ...> needs a message identity: derive IdClass from resource_core::BaseMsgID.");
 
 public:
-    explicit Exception(IdClass const& id) : IMsgIDException(id) {}
+    explicit Exception(IdClass const& id) : IMsgIDException(id) {} ///< its text is looked up at once
 
+    /// The text in UTF-8, as long as the exception lives.
     char const* what() const noexcept override { return IMsgIDException::what(); }
 };
 
@@ -27,9 +28,9 @@ public:
 template <std::derived_from<IException> Kind, class Standard>
 class Exception<Kind, Standard, void> : public Kind, public Standard {
 public:
-    explicit Exception(std::string text = {}) : text_(std::move(text)) {}
+    explicit Exception(std::string text = {}) : text_(std::move(text)) {} ///< `text` is UTF-8
 
-    char const* what() const noexcept override { return text_.c_str(); }
+    char const* what() const noexcept override { return text_.c_str(); } ///< the text, as long as the exception lives
 
 private:
     std::string text_;

@@ -2,6 +2,7 @@
 
 #include "orbis_host_export.hpp"
 
+/// Exceptions of the host.
 namespace foundation::core::except {
 
 /// The root of the host's exceptions.

@@ -12,7 +12,7 @@ namespace resource_core = ::resource_core;
 class ORBIS_HOST_API IMsgIDException : public IUserException {
 public:
     IMsgIDException();
-    explicit IMsgIDException(resource_core::BaseMsgID const& id);
+    explicit IMsgIDException(resource_core::BaseMsgID const& id); ///< copies what it needs of `id`
     IMsgIDException(IMsgIDException const&);
     IMsgIDException& operator=(IMsgIDException const&);
     ~IMsgIDException() override;
@@ -23,9 +23,9 @@ public:
     /// The full message id of this error; empty for a default-made one.
     std::string const& getErrorID() const;
 
-    std::vector<std::string> const& getArguments() const;
+    std::vector<std::string> const& getArguments() const; ///< those of the identity
 
-    std::u16string GetUnicodeMessageTxt() const;
+    std::u16string GetUnicodeMessageTxt() const; ///< the text in UTF-16
 
     char const* what() const noexcept override;
 

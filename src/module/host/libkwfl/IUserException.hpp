@@ -15,8 +15,8 @@ public:
 
     /// Between narrow (UTF-8) and UTF-16 text.
     static std::u16string convert_str(std::string const& text);
-    static std::string convert_str(std::u16string const& text);
-    static std::u16string ToUstringImpl(char const* text);
+    static std::string convert_str(std::u16string const& text); ///< the other way
+    static std::u16string ToUstringImpl(char const* text);      ///< of a NUL-terminated text; null is empty
 
 protected:
     IUserException();

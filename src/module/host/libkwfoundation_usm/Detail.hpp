@@ -6,6 +6,7 @@
 #include <memory>
 #include <typeinfo>
 
+/// Storage of each virtual machine, for any module.
 namespace foundation::usm {
 
 namespace scope {
@@ -24,6 +25,7 @@ class Detail;
 template <>
 class ORBIS_HOST_API Detail<scope::Hvm> {
 public:
+    /// Owns a stored object, with the function that destroys it.
     using Holder = std::unique_ptr<void, void (*)(void*)>;
 
     /// A fresh id, never given twice in a process. Ask once per kind of stored object and remember it.

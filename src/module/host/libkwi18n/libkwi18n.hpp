@@ -4,6 +4,7 @@
 
 #include <string>
 
+/// Texts of the host.
 namespace fl {
 
 /// UTF-16 text.

@@ -5,7 +5,7 @@
 #if defined(__MINGW32__)
 #define ORBIS_PRINTF_LIKE __attribute__((format(gnu_printf, 1, 2)))
 #else
-#define ORBIS_PRINTF_LIKE __attribute__((format(printf, 1, 2)))
+#define ORBIS_PRINTF_LIKE __attribute__((format(printf, 1, 2))) ///< has compilers check the arguments
 #endif
 
 extern "C" {

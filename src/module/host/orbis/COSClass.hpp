@@ -5,6 +5,7 @@
 #include "orbis/COSInterfacePtr.hpp"
 #include "orbis/COSNameID.hpp"
 
+/// The class-object system of the host: objects, their classes and members, data types, values.
 namespace orbis {
 
 class COSClassInfo;
@@ -29,7 +30,7 @@ public:
 
     /// The host takes ownership in every case, also when it refuses the member by throwing.
     virtual void addMethod(COSMethodInfo* method) = 0;
-    virtual void addProperty(COSPropInfo* property) = 0;
+    virtual void addProperty(COSPropInfo* property) = 0; ///< likewise
 
     /// A new, uninitialised instance.
     virtual COSInterfacePtr newInstance() = 0;

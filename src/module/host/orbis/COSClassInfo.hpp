@@ -21,8 +21,9 @@ class COSLoadInfo;
 /// Describes one class to the host. Made with `new`; the package or the host it is handed to owns it.
 class ORBIS_HOST_API COSClassInfo {
 public:
+    /// Storage of the host; throws its `bad_alloc`.
     static void* operator new(std::size_t size);
-    static void operator delete(void* storage);
+    static void operator delete(void* storage); ///< null is allowed
 
     COSClassInfo();
     COSClassInfo(COSClassInfo const&) = delete;

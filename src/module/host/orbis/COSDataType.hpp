@@ -19,6 +19,7 @@ public:
     COSDataType& operator=(COSDataType const&) = delete;
     virtual ~COSDataType();
 
+    /// The native type, as its source writes it.
     virtual char const* cppTypeName() const = 0;
 
     /// The name under which the type is registered.
@@ -30,10 +31,14 @@ public:
     virtual bool isPossibleValuesFinite() const;              ///< false
     virtual Enumeration<COSValue> getPossibleValues() const;  ///< none
     virtual COSValue getDefaultValue() const;                 ///< empty
+
+    /// The type's family, as a number and as a word; and a flag without a name.
     virtual int typeKind() const = 0;
-    virtual char const* typeCategory() const = 0;
-    virtual bool slot11Flag() const = 0;
+    virtual char const* typeCategory() const = 0;               ///< such as "Fundamental"
+    virtual bool slot11Flag() const = 0;                        ///< false where nothing else is known
     virtual bool checkValue(COSValue value, bool strict) const; ///< true
+
+    /// True when the two values are the same.
     virtual bool isEqualValue(COSValue a, COSValue b) const = 0;
 
     /// 0 when equal, 4294967295 when `a` orders before `b`, 1 when after, 2 when there is no order.
@@ -45,6 +50,8 @@ public:
     /// A copy that is to be given back with `releaseValue`.
     virtual COSValue copyValue(COSValue value) const = 0;
     virtual COSValue copyInternal(COSValue value) const; ///< what `copyValue` gives
+
+    /// Destroys what `copyValue` gave; its array, where it holds one, too.
     virtual void releaseValue(COSValue value) const = 0;
     virtual void destroyInternal(COSValue value) const;                     ///< as `releaseValue`
     virtual std::uint32_t getHashCode(COSValue const& value) const;         ///< 0

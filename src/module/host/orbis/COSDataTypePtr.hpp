@@ -16,8 +16,9 @@ public:
     COSDataTypePtr& operator=(COSDataTypePtr const&);
     ~COSDataTypePtr();
 
+    /// The type, null when there is none; valid as long as this.
     operator COSDataType*() const;
-    COSDataType* operator->() const;
+    COSDataType* operator->() const; ///< the same
 
 private:
     COSDataType* type_;

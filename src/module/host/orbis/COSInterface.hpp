@@ -27,11 +27,11 @@ public:
 
     /// Raise and lower the external reference count. The last reference to go ends the object.
     virtual void addReference() = 0;
-    virtual void removeReference() = 0;
+    virtual void removeReference() = 0; ///< may end this object
 
     /// References by handles held outside the host, and by the host's own arrays.
     virtual int getExternalReferenceCount() const = 0;
-    virtual int getInternalReferenceCount() const = 0;
+    virtual int getInternalReferenceCount() const = 0; ///< by arrays
 
 protected:
     COSInterface() = default;

@@ -11,6 +11,7 @@ class COSInterface;
 /// A counted handle to a host object; empty when built from null. Strong unless told otherwise.
 class ORBIS_HOST_API COSInterfacePtr {
 public:
+    /// Adds an external reference, unless `object` is null.
     COSInterfacePtr(COSInterface* object = nullptr);
     COSInterfacePtr(COSInterfacePtr const&);
     COSInterfacePtr& operator=(COSInterfacePtr const&);
@@ -19,14 +20,15 @@ public:
     /// The raw object: null for an empty handle, and for a weak one whose object has ended.
     operator COSInterface*() const { return type_ == COSReferenceType::Strong ? object_ : livingObject(); }
 
+    /// Precondition: the handle is not empty.
     COSInterface* operator->();
-    COSInterface const* operator->() const;
-    COSInterface& operator*();
-    COSInterface const& operator*() const;
+    COSInterface const* operator->() const; ///< likewise
+    COSInterface& operator*();              ///< likewise
+    COSInterface const& operator*() const;  ///< likewise
 
     /// Switches this handle's hold on the object.
     void setReferenceType(COSReferenceType type);
-    COSReferenceType getReferenceType() const { return type_; }
+    COSReferenceType getReferenceType() const { return type_; } ///< strong, unless it was switched
 
 private:
     /// What a weak handle still has.

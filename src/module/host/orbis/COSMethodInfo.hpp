@@ -16,17 +16,19 @@ class COSMethodSignature;
 /// `new`; whoever it is handed to owns it and deletes it.
 class ORBIS_HOST_API COSMethodInfo {
 public:
+    /// Storage of the host; throws its `bad_alloc`.
     static void* operator new(std::size_t size);
-    static void* operator new(std::size_t size, void* place);
-    static void operator delete(void* storage);
-    static void operator delete(void* storage, void* place);
-    static void operator delete[](void* storage);
+    static void* operator new(std::size_t size, void* place); ///< gives `place`
+    static void operator delete(void* storage);               ///< null is allowed
+    static void operator delete(void* storage, void* place);  ///< does nothing
+    static void operator delete[](void* storage);             ///< null is allowed
 
     COSMethodInfo();
     COSMethodInfo(COSMethodInfo const&) = delete;
     COSMethodInfo& operator=(COSMethodInfo const&) = delete;
     virtual ~COSMethodInfo();
 
+    /// The member's own name; valid as long as the descriptor.
     virtual char const* getName() const = 0;
     virtual char const* getDescription() const;         ///< ""
     virtual char const* getDetailedDescription() const; ///< what `getDescription` gives

@@ -16,8 +16,9 @@ public:
     /// A new, empty signature. Place it into a `COSMethodSignaturePtr`, which owns it.
     static COSMethodSignature* createMethodSignature();
 
+    /// Appends a result or parameter of a data type, by the type's name.
     virtual void addOutput(COSNameID const& dataType, COSString const& name) = 0;
-    virtual void addInput(COSNameID const& dataType, COSString const& name) = 0;
+    virtual void addInput(COSNameID const& dataType, COSString const& name) = 0; ///< likewise
 
 protected:
     friend class COSMethodSignaturePtr;

@@ -17,8 +17,9 @@ public:
     /// Takes `signature` over and destroys the one held before.
     COSMethodSignaturePtr& operator=(COSMethodSignature* signature);
 
+    /// The signature, or null; it stays this pointer's.
     operator COSMethodSignature*() const;
-    COSMethodSignature* operator->() const;
+    COSMethodSignature* operator->() const; ///< the same
 
 private:
     COSMethodSignature* signature_ = nullptr;

@@ -20,8 +20,9 @@ public:
     COSNameID& operator=(COSNameID const&);
     ~COSNameID();
 
-    operator COSString() const;
+    operator COSString() const; ///< a copy of the text
 
+    /// Compares in constant time, whatever the names' lengths.
     bool operator==(COSNameID const& other) const { return name_ == other.name_; }
 
     /// The host's own record of the name.

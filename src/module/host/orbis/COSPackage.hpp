@@ -34,6 +34,8 @@ public:
 
     /// The info's name must be this package's full name, a dot and the class's own name.
     virtual void addClass(COSClassInfo* info) = 0;
+
+    /// The host takes ownership in every case, also when it refuses the function by throwing.
     virtual void addFunction(COSMethodInfo* function) = 0;
 
 protected:

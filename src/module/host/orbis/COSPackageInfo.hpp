@@ -12,8 +12,9 @@ class COSMethodSelector;
 /// Describes one package to the host. Made with `new`; the host it is handed to owns it.
 class ORBIS_HOST_API COSPackageInfo {
 public:
+    /// Storage of the host; throws its `bad_alloc`.
     static void* operator new(std::size_t size);
-    static void operator delete(void* storage);
+    static void operator delete(void* storage); ///< null is allowed
 
     COSPackageInfo();
     COSPackageInfo(COSPackageInfo const&) = delete;

@@ -14,10 +14,11 @@ class COSTypeConversion;
 /// does nothing.
 class ORBIS_HOST_API COSTypeRepository {
 public:
-    static void addGlobalType(COSDataType* type);
-    static void removeGlobalType(COSNameID const& name);
-    static void addConversion(COSNameID const& from, COSNameID const& to, COSTypeConversion* conversion);
-    static void removeConversion(COSNameID const& from, COSNameID const& to);
+    static void addGlobalType(COSDataType* type);        ///< takes `type` over
+    static void removeGlobalType(COSNameID const& name); ///< by its name
+    static void addConversion(COSNameID const& from, COSNameID const& to,
+                              COSTypeConversion* conversion);                 ///< takes `conversion` over
+    static void removeConversion(COSNameID const& from, COSNameID const& to); ///< the one between these two types
 
     /// The registered conversion, which stays the host's; null when there is none.
     ///

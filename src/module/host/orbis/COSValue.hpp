@@ -24,6 +24,7 @@ public:
     /// Null gives an empty record.
     explicit COSValue(hvArray_tag* array) : kind_(array ? arrayKind : emptyKind) { payload_.array = array; }
 
+    /// A scalar of the class that suits `T`.
     template <COSScalar T>
     explicit COSValue(T scalar) : kind_(classOf<T>())
     {
@@ -33,8 +34,8 @@ public:
     /// A scalar of a class that is known when it is made, in the low bytes of `bits`.
     COSValue(hvClassID scalarClass, std::uint64_t bits) : payload_{.bits = bits}, kind_(scalarClass) {}
 
-    bool isEmpty() const { return kind_ == emptyKind; }
-    bool isArray() const { return kind_ == arrayKind; }
+    bool isEmpty() const { return kind_ == emptyKind; } ///< neither a scalar nor an array
+    bool isArray() const { return kind_ == arrayKind; } ///< false for null, which is empty
 
     /// True when it holds a scalar of just this class.
     bool isScalarOf(hvClassID scalarClass) const { return kind_ == scalarClass; }

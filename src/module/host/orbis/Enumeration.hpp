@@ -14,13 +14,15 @@ template <class T>
 class EnumerationImplementation {
 public:
     virtual ~EnumerationImplementation() = default;
-    virtual bool hasMoreElements() const = 0;
+    virtual bool hasMoreElements() const = 0; ///< false at the end
 
     /// The next element; throws `ENoElements` past the end.
     virtual T nextElement() = 0;
 
+    /// Counts a handle more, on any thread.
     void addHandle() { handles_.fetch_add(1, std::memory_order_relaxed); }
 
+    /// Counts one less; the last one deletes this.
     void removeHandle()
     {
         if (handles_.fetch_sub(1, std::memory_order_acq_rel) == 1)
@@ -59,8 +61,10 @@ public:
             implementation_->removeHandle();
     }
 
+    /// False at the end, and for an empty handle.
     bool hasMoreElements() const { return implementation_ && implementation_->hasMoreElements(); }
 
+    /// The next element; throws `ENoElements` past the end, and for an empty handle.
     T nextElement()
     {
         if (!implementation_)

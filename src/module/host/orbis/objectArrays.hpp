@@ -14,8 +14,10 @@ ORBIS_HOST_API hvArray* omCreateORBISMatrix(std::size_t m, std::size_t n, COSNam
 
 /// The object at a zero-based linear index. An index outside the array or an array without objects is refused.
 ORBIS_HOST_API COSInterfacePtr omGetArrayElement(hvArray_tag const* array, std::size_t index);
-ORBIS_HOST_API COSInterfacePtr cosiGetArrayElement(hvArray_tag const* array, std::size_t index);
+ORBIS_HOST_API COSInterfacePtr cosiGetArrayElement(hvArray_tag const* array, std::size_t index); ///< likewise
 
+/// Stores an object (null allowed) at a zero-based linear index. An object that the array's class does not admit is
+/// refused, as is an index outside.
 ORBIS_HOST_API void omSetArrayElement(hvArray_tag* array, std::size_t index, COSInterfacePtr const& object);
 
 /// True when the array holds host objects; false for null.

@@ -6,13 +6,14 @@
 
 #include <cstddef>
 
+/// String arrays of the host.
 namespace Tarnwick {
 
 /// The view of a host string array: one pointer an element, null where the element is missing.
 class ORBIS_HOST_API StringArray {
 public:
-    virtual std::size_t getNumberOfElements() const = 0;
-    virtual bool isMissing(std::size_t index) const = 0;
+    virtual std::size_t getNumberOfElements() const = 0; ///< rows times columns
+    virtual bool isMissing(std::size_t index) const = 0; ///< of the element at a zero-based linear index, as below
 
     /// The element's NUL-terminated UTF-16 text, or null when it is missing. The text belongs to the array.
     virtual char16_t const* getText(std::size_t index) const = 0;
@@ -27,6 +28,7 @@ protected:
     ~StringArray() = default;
 };
 
+/// Finds the string arrays among arrays.
 class ORBIS_HOST_API String {
 public:
     /// True when `array` is a host string array; false for null.
