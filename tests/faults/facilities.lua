@@ -89,6 +89,13 @@ for _, name in ipairs {"orbis_factory.Person", "probe.Shared", "orbis_factory.We
 print(withvm(function() return probe.Value(2).metres end))
 return objects()[1] and #objects() > 0
 
+recordlines()
+local before = snapshot()
+local kept = {probe.Value(2), array("int8", {1})}
+print(tostring(snapshot() - before):match("bytes") ~= nil)
+recordlines(false)
+return kept
+
 local book = orbis_factory.TreeNodeBase("Book")
 book:add(orbis_factory.TreeNodeDerived("Preface", 3))
 print(book:pages(), book.children.parent == book, #references(book))
