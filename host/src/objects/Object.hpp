@@ -118,7 +118,7 @@ public:
     /// The bytes that the host has allocated for it.
     std::size_t memory() const
     {
-        return BlockPool::blockSize + (further_ ? sizeof *further_ + further_->capacity() * sizeof(Slot) : 0);
+        return BlockPool::blockSize + (further_ ? sizeof(std::vector<Slot>) + further_->capacity() * sizeof(Slot) : 0);
     }
 
     /// Calls `visit(className, native)` for each native object that is recorded.
