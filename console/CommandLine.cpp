@@ -18,7 +18,8 @@ are in `arg` and `...`.
   --no-pager           do not stop long output of the prompt at each full screen
   --restricted         for scripts of strangers: no files, processes, modules
   --check-leaks        check at the end that nothing of the host is left
-  --report-leaks       name at the end each native object that is still bound
+  --report-leaks       name at the end each native object that is still bound, and
+                       objects that native code still holds, by class and line
   --stubs DIR PACKAGE...  write files into DIR that let an editor complete and
                        check scripts for these packages
   --document PACKAGE... -o DIR

@@ -12,6 +12,10 @@ local rows = {
   read = function(count) for _ = 1, count do local _ = adder.total end end,
   write = function(count) for _ = 1, count do adder.total = 3.0 end end,
   create = function(count) for _ = 1, count do crossings.Adder() end end,
+  createRecorded = function(count)
+    recordlines()
+    for _ = 1, count do crossings.Adder() end
+  end,
   functionLocal = function(count) for _ = 1, count do add(1.0, 2.0) end end,
   functionName = function(count) for _ = 1, count do crossings.add(1.0, 2.0) end end,
   stringIn = function(count) for _ = 1, count do length("twelve bytes") end end,

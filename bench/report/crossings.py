@@ -10,6 +10,7 @@ FROM_SCRIPT = [  # what is said, the scenario, its repetitions, the goal and the
     ("property read", "read", 1000, 450, 1197, 532),
     ("property written", "write", 1000, 450, 1195, 549),
     ("create and collect", "create", 1000, 1800, 3123, 937),
+    ("  while lines are recorded", "createRecorded", 1000, "-", "-", "-"),
     ("package function", "functionLocal", 1000, 450, 496, 572),
     ("  by its name, package.f()", "functionName", 1000, 520, 542, 607),
     ("method, property and function of 64 names each", "mixed", 1000, "-", "-", "-"),

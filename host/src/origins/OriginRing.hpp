@@ -30,18 +30,12 @@ private:
     OriginLink* next_ = this;
 };
 
-/// The links of one virtual machine. Arrays may outlive it: their links are alone then.
+/// The links of one virtual machine. Arrays may outlive it: their links are a ring without it then.
 class OriginRing {
 public:
     OriginRing() = default;
     OriginRing(OriginRing const&) = delete;
     OriginRing& operator=(OriginRing const&) = delete;
-
-    ~OriginRing()
-    {
-        while (head_.next_ != &head_)
-            head_.next_->leave();
-    }
 
     void add(OriginLink& link)
     {
