@@ -1,5 +1,5 @@
 // A module of what crosses between a script and native code in the rows of scripts/bench.
-#include "orbis/factory.hpp"
+#include "bench/CalledClasses.hpp"
 
 #include <stdexcept>
 #include <string>
@@ -8,24 +8,9 @@
 
 namespace {
 
-struct Adder {
-    double getSum(double a, double b)
-    {
-        total += a + b;
-        return a + b;
-    }
-    double total = 0;
-};
-
-/// A class for each of many overloads.
-template <int number>
-struct Kind {};
-
-template <int... numbers>
-void publishKinds(orbis::factory::Module& crossings, std::integer_sequence<int, numbers...>)
-{
-    (crossings.publish<Kind<numbers>>(("Kind" + std::to_string(numbers)).c_str()).template constructor<>(), ...);
-}
+using called::Adder;
+using called::Kind;
+using called::publishKinds;
 
 template <int... numbers>
 void publishOverloads(orbis::factory::Module& crossings, char const* name, std::integer_sequence<int, numbers...>)

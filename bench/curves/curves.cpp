@@ -1,6 +1,6 @@
 // A module whose functions come in many sizes: for curves over the number of arguments and overloads, over the length
 // of strings and the size of arrays.
-#include "orbis/factory.hpp"
+#include "bench/CalledClasses.hpp"
 
 #include <string>
 #include <utility>
@@ -8,18 +8,9 @@
 
 namespace {
 
-struct Adder {
-    double getSum(double a, double b)
-    {
-        total += a + b;
-        return a + b;
-    }
-    double total = 0;
-};
-
-/// A class for each of many overloads.
-template <int number>
-struct Kind {};
+using called::Adder;
+using called::Kind;
+using called::publishKinds;
 
 template <int>
 using Number = double;
@@ -35,12 +26,6 @@ template <int... numbers>
 void publishOverloads(orbis::factory::Module& curves, char const* name, std::integer_sequence<int, numbers...>)
 {
     (curves.function(name, [](Kind<numbers> const*) { return numbers; }), ...);
-}
-
-template <int... numbers>
-void publishKinds(orbis::factory::Module& curves, std::integer_sequence<int, numbers...>)
-{
-    (curves.publish<Kind<numbers>>(("Kind" + std::to_string(numbers)).c_str()).template constructor<>(), ...);
 }
 
 template <int count>
