@@ -38,6 +38,13 @@ std::string keyText(lua_State* L, int index)
     return lua_type(L, index) == LUA_TSTRING ? '\'' + std::string(textAt(L, index)) + '\'' : valueText(L, index);
 }
 
+void addNumber(lua_State* L, int table, std::vector<double>& numbers)
+{
+    if (numbers.empty())
+        numbers.reserve(lua_rawlen(L, table));
+    numbers.push_back(lua_tonumber(L, -1));
+}
+
 } // namespace
 
 std::vector<std::string> textKeysOf(lua_State* L, int table)
@@ -57,7 +64,7 @@ std::vector<std::string> textKeysOf(lua_State* L, int table)
     return keys;
 }
 
-Elements elementsOf(lua_State* L, int table)
+Elements elementsOf(lua_State* L, int table, std::vector<double>* numbers)
 {
     if (auto const name = proxyName(L, table); !name.empty())
         fail("value", "the name " + std::string(name) + " cannot be passed to the host");
@@ -71,6 +78,8 @@ Elements elementsOf(lua_State* L, int table)
                  "a table must be a sequence to be passed to the host; this one has the key " + keyText(L, -2));
         last = std::max(last, key);
         elements.kinds &= kindsOf(L, -1);
+        if (numbers && elements.are(Elements::ExactDoubles) && static_cast<std::size_t>(key) == elements.count + 1)
+            addNumber(L, table, *numbers);
         ++elements.count;
     }
     if (static_cast<std::size_t>(last) != elements.count)

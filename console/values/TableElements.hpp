@@ -24,6 +24,9 @@ std::vector<std::string> textKeysOf(lua_State* L, int table);
 
 /// Visits all pairs of the table at the absolute `table`, ignoring its metatable. Throws an `Error` when it is no
 /// sequence: when a key is not a positive integer, or one is missing.
-Elements elementsOf(lua_State* L, int table);
+///
+/// The elements are also added to `numbers` (null allowed): all of them if they are `ExactDoubles` and Lua has them in
+/// their order, which it mostly does; else fewer.
+Elements elementsOf(lua_State* L, int table, std::vector<double>* numbers = nullptr);
 
 } // namespace velmara::console

@@ -117,11 +117,14 @@ ArrayPtr tableToHost(lua_State* L, int index, Conversion& conversion)
     Conversion::Level const level(conversion, "tables");
     if (auto const keys = textKeysOf(L, index); !keys.empty())
         return cellMap(L, index, keys, conversion);
-    Elements const elements = elementsOf(L, index);
+    std::vector<double> numbers;
+    Elements const elements = elementsOf(L, index, &numbers);
     if (elements.count == 0)
         return ArrayPtr(orbis::host_extensions::createMatrix(0, 0, hvDOUBLE_CLASS));
     if (elements.areScalars()) {
         conversion.add(elements.count, sizeof(double));
+        if (elements.are(Elements::ExactDoubles) && numbers.size() == elements.count)
+            return ArrayPtr(orbis::host_extensions::createMatrix(1, elements.count, hvDOUBLE_CLASS, numbers.data()));
         ArrayPtr row(orbis::host_extensions::createMatrix(1, elements.count, scalarClass(elements)));
         storeRow(L, index, row.get(), 0, 1, elements.count);
         return row;

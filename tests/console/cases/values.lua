@@ -15,6 +15,7 @@ for _, value in ipairs {1, 1.5, -0.0, 1 << 53, (1 << 53) + 1, math.mininteger, 0
   local back = cases.echo(value)
   print(class(value), type(back), text(back))
 end
+print(text(cases.echo({[4] = 4.5, [2] = 2.5, [1] = 1.5, [3] = 3})), text(cases.echo({1, 2, [4] = 4, [3] = 1 << 60})))
 print(cases.echo(0 / 0) ~= cases.echo(0 / 0))
 print(cases.echo("\xff\xc3(\xe2\x82") == "\u{fffd}\u{fffd}(\u{fffd}")
 print(text(cases.echo(nil)), text(cases.echo(null)))
