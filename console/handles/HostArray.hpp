@@ -19,8 +19,8 @@ void pushArrayMetatable(lua_State* L);
 /// array's memory, which Lua does not see, is reported to the garbage collector.
 void pushHostArray(lua_State* L, hvArray_tag const& array);
 
-/// Lets the collector go on by the memory of an array, of which Lua counts a few bytes: unused ones would be collected far
-/// too late. May run finalizers of the script.
+/// Lets the collector go on by the memory of an array, of which Lua counts a few bytes: unused ones would be collected
+/// far too late. May run finalizers of the script.
 void stepCollector(lua_State* L, hvArray_tag const& array);
 
 /// Has the value at `index`, which holds an array, hold another one from now on.
