@@ -1,7 +1,7 @@
 -- A script that ends the process releases everything, wherever it is.
 local a <close> = orbis_factory.Adder()
 local last <close> = setmetatable({}, {__close = function() print("closes", orbis_factory.Adder(1).total) end})
-local kept = setmetatable({}, {__gc = function() print("finalizer", pcall(function() return a.total end)) end})
+kept = setmetatable({}, {__gc = function() print("finalizer", pcall(function() return a.total end)) end})
 cases.leave()
 withvm(function()
   cases.leave()
