@@ -155,6 +155,7 @@ int iterateProxy(lua_State* L)
     if (!cls.isEnumeration)
         return iterateMembers(L, cls);
     std::vector<std::string> names;
+    names.reserve(cls.enumerators.size());
     for (EnumeratorRecord const& enumerator : cls.enumerators)
         names.push_back(enumerator.name);
     return iterateNames(L, names);
