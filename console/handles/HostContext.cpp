@@ -32,29 +32,37 @@ std::unique_ptr<Hvm> HostContext::createMachine()
 
 void HostContext::addMachine(std::unique_ptr<Hvm> hvm)
 {
-    machines_.emplace_back().hvm = std::move(hvm);
-    applyRecording(machines_.back());
+    machines_.emplace_back(std::move(hvm), *this);
     watchMachine();
 }
 
-void HostContext::applyRecording(Machine& machine)
+HostContext::Machine::Machine(std::unique_ptr<Hvm> created, HostContext& context) : hvm(std::move(created))
 {
-    machine.scope.reset();
-    if (!recordsLines_)
-        return machine.hvm->recordOrigins(nullptr);
+    if (context.recordsLines_)
+        context.startRecording(*this);
+}
+
+void HostContext::startRecording(Machine& machine)
+{
     machine.hvm->recordOrigins([this, function = lua_Debug()]() mutable -> Origin {
         if (running_ && findScriptFunction(running_, function))
             return {function.short_src, function.currentline};
         return {};
     });
-    machine.scope.emplace(*machine.hvm);
+    if (!machine.scope)
+        machine.scope.emplace(*machine.hvm);
 }
 
 void HostContext::recordLines(bool isWanted)
 {
-    recordsLines_ = isWanted;
     for (Machine& machine : machines_)
-        applyRecording(machine);
+        if (isWanted) {
+            startRecording(machine);
+        } else {
+            machine.scope.reset();
+            machine.hvm->recordOrigins(nullptr);
+        }
+    recordsLines_ = isWanted;
 }
 
 void HostContext::reportLeft() noexcept

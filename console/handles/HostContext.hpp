@@ -115,6 +115,9 @@ public:
 
 private:
     struct Machine {
+        /// Records lines if the context does.
+        Machine(std::unique_ptr<Hvm> created, HostContext& context);
+
         std::unique_ptr<Hvm> hvm;
         std::optional<Hvm::Scope> scope; ///< while lines are recorded: arrays are those of the current virtual machine
     };
@@ -123,7 +126,7 @@ private:
     std::unique_ptr<Hvm> createMachine();
 
     void addMachine(std::unique_ptr<Hvm> hvm);
-    void applyRecording(Machine& machine);
+    void startRecording(Machine& machine);
 
     /// Reports what is alive in the virtual machine although the script has released everything.
     void reportLeft() noexcept;

@@ -18,6 +18,10 @@ namespace {
 
 #if defined(_WIN32)
 
+struct HandleCloser {
+    void operator()(HANDLE file) const { CloseHandle(file); }
+};
+
 /// Null when it cannot be opened. `std::tmpfile` would want to write to the root of the drive.
 std::FILE* openTemporaryFile()
 {
@@ -26,13 +30,20 @@ std::FILE* openTemporaryFile()
     if (GetTempPathW(folder.size(), folder.data()) == 0 || GetTempFileNameW(folder.data(), L"vel", 0, name.data()) == 0)
         return nullptr;
     SECURITY_ATTRIBUTES inheritable{sizeof inheritable, nullptr, TRUE};
-    HANDLE const file = CreateFileW(name.data(), GENERIC_READ | GENERIC_WRITE | DELETE,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, &inheritable, CREATE_ALWAYS,
-                                    FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
+    HANDLE const opened = CreateFileW(name.data(), GENERIC_READ | GENERIC_WRITE | DELETE,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, &inheritable,
+                                      CREATE_ALWAYS, FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    if (opened == INVALID_HANDLE_VALUE)
         return nullptr;
-    int const descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(file), _O_BINARY | _O_RDWR);
-    return descriptor < 0 ? nullptr : _fdopen(descriptor, "w+b");
+    std::unique_ptr<void, HandleCloser> file(opened);
+    int const descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(opened), _O_BINARY | _O_RDWR);
+    if (descriptor < 0)
+        return nullptr;
+    static_cast<void>(file.release()); // the descriptor owns it
+    std::FILE* const stream = _fdopen(descriptor, "w+b");
+    if (!stream)
+        _close(descriptor);
+    return stream;
 }
 
 #else
